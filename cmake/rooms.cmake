@@ -1,0 +1,17 @@
+# What all targets of the project have in common, and one way to make the library of a room.
+
+add_library(golf_options INTERFACE)
+target_compile_options(golf_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_include_directories(golf_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(GOLF_SANITIZE)
+  target_compile_options(golf_options INTERFACE -fsanitize=address,undefined
+                                                -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(golf_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# golf_room(NAME SOURCES... USES targets...): the static library golf_NAME.
+function(golf_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_library(golf_${name} STATIC ${ROOM_SOURCES})
+  target_link_libraries(golf_${name} PUBLIC golf_options ${ROOM_USES})
+endfunction()

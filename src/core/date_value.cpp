@@ -1,0 +1,137 @@
+#include "core/date_value.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+
+namespace golf {
+namespace {
+
+using std::chrono::day;
+using std::chrono::days;
+using std::chrono::month;
+using std::chrono::sys_days;
+using std::chrono::year;
+
+constexpr sys_days kDayZero = sys_days(year(1899) / 12 / 30);
+constexpr int kSecondsADay = 86400;
+
+constexpr std::array<std::string_view, 12> kMonths = {
+    "January", "February", "March",     "April",   "May",      "June",
+    "July",    "August",   "September", "October", "November", "December"};
+constexpr std::array<std::string_view, 7> kDays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                                   "Thursday", "Friday", "Saturday"};
+
+sys_days DayOf(const CivilTime& civil) {
+  return sys_days(year(civil.year) / month(static_cast<unsigned>(civil.month)) /
+                  day(static_cast<unsigned>(civil.day)));
+}
+
+std::string Digits(int value, std::size_t least) {
+  const std::string text = std::to_string(value);
+  return text.size() >= least ? text : std::string(least - text.size(), '0') + text;
+}
+
+// A number, or from three letters on a name: its first three letters or all of it.
+std::string NumberOrName(int value, std::string_view name, std::size_t letters) {
+  if (letters <= 2) return Digits(value, letters);
+  return std::string(letters == 3 ? name.substr(0, 3) : name);
+}
+
+std::string Element(const CivilTime& civil, char kind, std::size_t letters) {
+  const std::chrono::weekday weekday(DayOf(civil));
+  const int hour12 = civil.hour % 12 == 0 ? 12 : civil.hour % 12;
+  switch (kind) {
+    case 'd':
+      return NumberOrName(civil.day, kDays[weekday.c_encoding()], letters);
+    case 'M':
+      return NumberOrName(civil.month, kMonths[static_cast<std::size_t>(civil.month - 1)], letters);
+    case 'y':
+      return letters > 2 ? Digits(civil.year, 4) : Digits(civil.year % 100, letters);
+    case 'h':
+      return Digits(hour12, std::min<std::size_t>(letters, 2));
+    case 'H':
+      return Digits(civil.hour, std::min<std::size_t>(letters, 2));
+    case 'm':
+      return Digits(civil.minute, std::min<std::size_t>(letters, 2));
+    case 's':
+      return Digits(civil.second, std::min<std::size_t>(letters, 2));
+    default:
+      return std::string(civil.hour < 12 ? "AM" : "PM").substr(0, letters);
+  }
+}
+
+bool ReadNumber(std::string_view text, std::size_t start, std::size_t length, int low, int high,
+                int& value) {
+  const std::string_view part = text.substr(start, length);
+  const auto read = std::from_chars(part.data(), part.data() + part.size(), value);
+  return read.ec == std::errc() && read.ptr == part.data() + part.size() && value >= low &&
+         value <= high;
+}
+
+}  // namespace
+
+DateValue DateFromCivil(const CivilTime& civil) {
+  const auto whole = (DayOf(civil) - kDayZero).count();
+  const double part =
+      static_cast<double>((civil.hour * 60 + civil.minute) * 60 + civil.second) / kSecondsADay;
+  // The fraction of a moment before day 0 counts away from zero, as its whole days do.
+  return whole < 0 ? static_cast<double>(whole) - part : static_cast<double>(whole) + part;
+}
+
+CivilTime CivilFromDate(DateValue date) {
+  double whole = std::trunc(date);
+  auto seconds = static_cast<int>(std::lround(std::abs(date - whole) * kSecondsADay));
+  if (seconds == kSecondsADay) {
+    seconds = 0;
+    whole += 1;
+  }
+  const std::chrono::year_month_day ymd(kDayZero + days(static_cast<int>(whole)));
+  CivilTime civil;
+  civil.year = static_cast<int>(ymd.year());
+  civil.month = static_cast<int>(static_cast<unsigned>(ymd.month()));
+  civil.day = static_cast<int>(static_cast<unsigned>(ymd.day()));
+  civil.hour = seconds / 3600;
+  civil.minute = seconds / 60 % 60;
+  civil.second = seconds % 60;
+  return civil;
+}
+
+bool ParseMoment(std::string_view text, CivilTime& moment) {
+  constexpr std::string_view kForm = "####-##-## ##:##:##";
+  if (text.size() != kForm.size()) return false;
+  for (std::size_t i = 0; i < kForm.size(); ++i) {
+    if (kForm[i] != '#' && text[i] != kForm[i]) return false;
+  }
+  return ReadNumber(text, 0, 4, 100, 9999, moment.year) &&
+         ReadNumber(text, 5, 2, 1, 12, moment.month) && ReadNumber(text, 8, 2, 1, 31, moment.day) &&
+         ReadNumber(text, 11, 2, 0, 23, moment.hour) &&
+         ReadNumber(text, 14, 2, 0, 59, moment.minute) &&
+         ReadNumber(text, 17, 2, 0, 59, moment.second) &&
+         (year(moment.year) / moment.month / moment.day).ok();
+}
+
+std::string FormatPicture(const CivilTime& civil, std::string_view picture) {
+  constexpr std::string_view kElements = "dMyhHmst";
+  std::string text;
+  for (std::size_t i = 0; i < picture.size();) {
+    const char c = picture[i];
+    if (c == '\'') {
+      const std::size_t end = std::min(picture.find('\'', i + 1), picture.size());
+      text += picture.substr(i + 1, end - i - 1);
+      i = end + 1;
+    } else if (kElements.find(c) != std::string_view::npos) {
+      const std::size_t end = std::min(picture.find_first_not_of(c, i), picture.size());
+      text += Element(civil, c, end - i);
+      i = end;
+    } else {
+      text += c;
+      ++i;
+    }
+  }
+  return text;
+}
+
+}  // namespace golf

@@ -1,0 +1,137 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace golf {
+
+enum class FieldType : std::uint8_t {
+  kByte,      // unsigned 8-bit
+  kInt16,     // signed, little-endian, as all numbers are
+  kInt32,     // signed
+  kSingle,    // IEEE 754, 4 bytes
+  kDouble,    // IEEE 754, 8 bytes
+  kDate,      // a double: days since 30 December 1899
+  kCurrency,  // signed 64-bit: the amount times 10000
+  kText,      // code page 1252, filled with blanks
+};
+
+struct FieldTypeInfo {
+  std::string_view name;
+  std::size_t width;  // bytes of a value; 0 for text, which has a width of its own
+};
+
+constexpr FieldTypeInfo InfoOf(FieldType type) {
+  constexpr FieldTypeInfo kInfos[] = {{"byte", 1},   {"int16", 2}, {"int32", 4},    {"single", 4},
+                                      {"double", 8}, {"date", 8},  {"currency", 8}, {"text", 0}};
+  return kInfos[static_cast<std::size_t>(type)];
+}
+
+// One index of a table: `base` to `base` + `count` - 1.
+struct Dimension {
+  int base = 1;
+  int count = 1;
+};
+
+enum class StorageOrder : std::uint8_t { kFirstIndexFastest, kLastIndexFastest };
+
+// One field of a record: where its bytes lie and what they mean. A field without a name is bytes
+// that mean nothing to us and are kept as they are.
+struct Field {
+  static constexpr std::size_t kMaxRank = 3;
+
+  std::string_view name;
+  FieldType type = FieldType::kByte;
+  std::size_t offset = 0;
+  std::size_t width = 1;  // bytes of one value
+  std::size_t rank = 0;   // number of indexes
+  std::array<Dimension, kMaxRank> dimensions{};
+  StorageOrder order = StorageOrder::kFirstIndexFastest;
+
+  constexpr std::size_t Count() const {
+    std::size_t count = 1;
+    for (std::size_t i = 0; i < rank; ++i) count *= static_cast<std::size_t>(dimensions[i].count);
+    return count;
+  }
+  constexpr std::size_t Size() const { return Count() * width; }
+
+  // The same field as a table.
+  template <class... Dimensions>
+  constexpr Field By(Dimensions... given) const {
+    static_assert(sizeof...(given) <= kMaxRank);
+    Field table = *this;
+    table.rank = sizeof...(given);
+    table.dimensions = {given...};
+    return table;
+  }
+
+  // Where in the record the value with these indexes starts. Error 9 for an index outside its
+  // bounds, or for as many indexes as the field does not have.
+  std::size_t OffsetOf(std::span<const int> indexes) const;
+};
+
+constexpr Field MakeField(std::string_view name, FieldType type, std::size_t offset) {
+  return {name, type, offset, InfoOf(type).width};
+}
+constexpr Field ByteField(std::string_view name, std::size_t offset) {
+  return MakeField(name, FieldType::kByte, offset);
+}
+constexpr Field Int16Field(std::string_view name, std::size_t offset) {
+  return MakeField(name, FieldType::kInt16, offset);
+}
+constexpr Field Int32Field(std::string_view name, std::size_t offset) {
+  return MakeField(name, FieldType::kInt32, offset);
+}
+constexpr Field SingleField(std::string_view name, std::size_t offset) {
+  return MakeField(name, FieldType::kSingle, offset);
+}
+constexpr Field DoubleField(std::string_view name, std::size_t offset) {
+  return MakeField(name, FieldType::kDouble, offset);
+}
+constexpr Field DateField(std::string_view name, std::size_t offset) {
+  return MakeField(name, FieldType::kDate, offset);
+}
+constexpr Field CurrencyField(std::string_view name, std::size_t offset) {
+  return MakeField(name, FieldType::kCurrency, offset);
+}
+constexpr Field TextField(std::string_view name, std::size_t offset, std::size_t width) {
+  return {name, FieldType::kText, offset, width};
+}
+constexpr Field KeptBytes(std::size_t offset, std::size_t width) {
+  return {"", FieldType::kText, offset, width};
+}
+
+// True if the fields, in their order, cover `length` bytes with no gap and no overlap.
+constexpr bool FieldsTile(std::span<const Field> fields, std::size_t length) {
+  std::size_t next = 0;
+  for (const Field& field : fields) {
+    if (field.offset != next || field.width == 0) return false;
+    next += field.Size();
+  }
+  return next == length;
+}
+
+// A layout as data, for whoever walks records without knowing them.
+struct LayoutInfo {
+  std::string_view name;
+  std::size_t length;
+  std::span<const Field> fields;
+};
+
+template <class Layout>
+constexpr LayoutInfo InfoOfLayout() {
+  static_assert(FieldsTile(Layout::kFields, Layout::kLength));
+  return {Layout::kName, Layout::kLength, Layout::kFields};
+}
+
+using FieldValue = std::variant<std::int64_t, float, double, std::string>;
+
+// The value at `offset` of a record's bytes. Currency comes as the stored integer.
+FieldValue ReadFieldValue(const Field& field, std::string_view record, std::size_t offset);
+
+}  // namespace golf

@@ -1,0 +1,103 @@
+#include "core/file_table.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/number_text.h"
+#include "core/numbered_error.h"
+#include "core/text.h"
+
+namespace golf {
+namespace {
+
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+  if (pattern.empty()) return name.empty();
+  if (pattern[0] == '*') {
+    return MatchesPattern(name, pattern.substr(1)) ||
+           (!name.empty() && MatchesPattern(name.substr(1), pattern));
+  }
+  const bool first = !name.empty() && (pattern[0] == '?' || pattern[0] == name[0]);
+  return first && MatchesPattern(name.substr(1), pattern.substr(1));
+}
+
+}  // namespace
+
+void FileTable::Open(int number, const std::string& path, std::size_t record_length,
+                     FileAccess access) {
+  Close(number);
+  gate_.Settle();
+  files_[number] = std::make_unique<RecordFile>(gate_, path, record_length, access);
+}
+
+void FileTable::Close(int number) {
+  const auto file = files_.find(number);
+  if (file == files_.end()) return;
+  const auto closing = std::move(file->second);
+  files_.erase(file);
+  gate_.Settle();
+}
+
+void FileTable::CloseAll() {
+  const auto closing = std::exchange(files_, {});
+  gate_.Settle();
+}
+
+std::int64_t FileTable::Length(int number) { return At(number).Length(); }
+
+std::int64_t FileTable::CountTruncated(int number, std::size_t record_length) {
+  return Length(number) / static_cast<std::int64_t>(record_length);
+}
+
+std::int64_t FileTable::CountRounded(int number, std::size_t record_length) {
+  return RoundToInt32(static_cast<double>(Length(number)) / static_cast<double>(record_length));
+}
+
+void FileTable::ReadBytes(int number, std::int64_t record, std::span<char> into) {
+  At(number).Read(record, into);
+}
+
+void FileTable::WriteBytes(int number, std::int64_t record, std::string_view from) {
+  RecordFile& written = At(number);
+  written.Write(record, from);
+  for (const auto& [other_number, file] : files_) {
+    if (file->identity() == written.identity()) file->ForgetWindow();
+  }
+}
+
+bool FileTable::FileExists(const std::string& path) {
+  const std::size_t cut = path.rfind(platform_.Separator());
+  const std::size_t name_start = cut == std::string::npos ? 0 : cut + 1;
+  const std::string name = UpperCase(std::string_view(path).substr(name_start));
+  try {
+    const auto names = platform_.FileNames(path.substr(0, name_start));
+    return std::any_of(names.begin(), names.end(), [&](const std::string& found) {
+      return name.empty() || MatchesPattern(UpperCase(found), name);
+    });
+  } catch (const NumberedError&) {
+    return false;
+  }
+}
+
+void FileTable::DeleteFile(const std::string& path) {
+  try {
+    gate_.Delete(path);
+  } catch (const NumberedError&) {
+    // Whoever deletes looks afterwards whether the file is still there.
+  }
+}
+
+void FileTable::Synchronize() {
+  for (const auto& [number, file] : files_) file->ForgetWindow();
+  gate_.Settle();
+}
+
+RecordFile& FileTable::At(int number) {
+  const auto file = files_.find(number);
+  if (file == files_.end()) {
+    throw NumberedError(ErrorNumber::kBadFileNumber,
+                        "No file is open under number " + std::to_string(number) + ".");
+  }
+  return *file->second;
+}
+
+}  // namespace golf

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+namespace golf {
+
+// Numbers of the files at any address. The bytes are turned only on a big-endian machine.
+
+template <class T>
+T LoadLittleEndian(const char* at) {
+  char bytes[sizeof(T)];
+  std::memcpy(bytes, at, sizeof(T));
+  if constexpr (std::endian::native == std::endian::big) std::reverse(bytes, bytes + sizeof(T));
+  T value;
+  std::memcpy(&value, bytes, sizeof(T));
+  return value;
+}
+
+template <class T>
+void StoreLittleEndian(char* at, T value) {
+  std::memcpy(at, &value, sizeof(T));
+  if constexpr (std::endian::native == std::endian::big) std::reverse(at, at + sizeof(T));
+}
+
+}  // namespace golf

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/regional_forms.h"
+
+namespace golf {
+
+// The only seam to the operating system. Everything above it is portable and can be tried with a
+// platform that fails on purpose.
+//
+// A path is text in code page 1252. It starts with ProgramFolder(), whose own name may hold
+// characters that the code page lacks: the seam keeps it in the system's form. Below it names are
+// found whatever their case.
+//
+// Every call fails with a NumberedError: 70 where another program holds the file, 61 disk full, 75
+// access refused, 76 no such folder, 53 no such file, 67 too many open files, 57 other faults of a
+// device.
+
+// Lets its holder change files. Only the ChangeGate can make one, so that no change of a file goes
+// past it.
+class ChangePass {
+ private:
+  friend class ChangeGate;
+  ChangePass() = default;
+};
+
+enum class FileAccess {
+  kReadWriteShared,  // fails with 70 where another program holds the file exclusively
+  kDefault,          // as above, but a file that may only be read is opened for reading
+  kReadOnly,         // shared, nothing can be written
+};
+
+// Tells two open files apart, whatever names they were opened by.
+struct FileIdentity {
+  std::uint64_t volume = 0;
+  std::uint64_t file = 0;
+  bool operator==(const FileIdentity&) const = default;
+};
+
+class PlatformFile {
+ public:
+  virtual ~PlatformFile() = default;
+
+  // Bytes read: fewer than asked for at the end of the file only.
+  virtual std::size_t ReadAt(std::int64_t offset, std::span<char> into) = 0;
+  // Writes all of `bytes`, or fails; `written` tells how many of them have reached the file.
+  virtual void WriteAt(ChangePass pass, std::int64_t offset, std::string_view bytes,
+                       std::size_t& written) = 0;
+  virtual void Truncate(ChangePass pass, std::int64_t length) = 0;
+  virtual std::int64_t Length() = 0;
+  virtual FileIdentity Identity() const = 0;
+};
+
+// Held while it lives. The system lets it go when the process ends in whatever way.
+class RunLock {
+ public:
+  virtual ~RunLock() = default;
+};
+
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  virtual std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) = 0;
+  // Makes an empty file, or empties the one that is there.
+  virtual void Create(ChangePass pass, const std::string& path) = 0;
+  virtual void CreateFolder(ChangePass pass, const std::string& path) = 0;
+  virtual void Delete(ChangePass pass, const std::string& path) = 0;
+
+  virtual bool FolderExists(const std::string& path) = 0;
+  // The names of the normal files in a folder, in no order.
+  virtual std::vector<std::string> FileNames(const std::string& folder) = 0;
+
+  // Error 70 where another process holds the lock of this folder. Null where the folder cannot be
+  // locked at all.
+  virtual std::unique_ptr<RunLock> LockRun(const std::string& folder) = 0;
+
+  // Starts a program and does not wait for it. Fails where the system cannot start it.
+  virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;
+
+  // Ends in a separator.
+  virtual std::string ProgramFolder() const = 0;
+  virtual char Separator() const = 0;
+  virtual RegionalForms Regional() const = 0;
+};
+
+// The platform of this system over the install in `utf8_folder`, or, where that is empty, in the
+// folder of the running program. Error 76 if the folder is not there or is none.
+std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder);
+
+}  // namespace golf

@@ -1,0 +1,353 @@
+#include <dirent.h>
+#include <fcntl.h>
+#include <langinfo.h>
+#include <locale.h>
+#include <spawn.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cerrno>
+#include <cstring>
+#include <optional>
+#include <utility>
+
+#include "core/code_page.h"
+#include "core/numbered_error.h"
+#include "core/platform.h"
+#include "core/text.h"
+
+extern char** environ;
+
+namespace golf {
+namespace {
+
+struct ErrnoMeaning {
+  int code;
+  ErrorNumber number;
+  std::string_view text;  // %1 is the file
+};
+
+constexpr ErrnoMeaning kMeanings[] = {
+    {EWOULDBLOCK, ErrorNumber::kPermissionDenied,
+     "Another program holds %1. Close that program, then try again."},
+    {EBUSY, ErrorNumber::kPermissionDenied,
+     "Another program holds %1. Close that program, then try again."},
+    {ENOSPC, ErrorNumber::kDiskFull, "The disk is full: %1 could not be written."},
+    {EDQUOT, ErrorNumber::kDiskFull, "The disk quota is used up: %1 could not be written."},
+    {EFBIG, ErrorNumber::kDiskFull, "%1 would become larger than this disk allows."},
+    {EACCES, ErrorNumber::kPathAccess, "Access to %1 is refused."},
+    {EPERM, ErrorNumber::kPathAccess, "Access to %1 is refused."},
+    {EROFS, ErrorNumber::kPathAccess, "%1 lies on a disk that may only be read."},
+    {EISDIR, ErrorNumber::kPathAccess, "%1 is a folder."},
+    {EEXIST, ErrorNumber::kPathAccess, "%1 is there already."},
+    {ENOTDIR, ErrorNumber::kPathNotFound, "The folder of %1 is not there."},
+    {ENOENT, ErrorNumber::kFileNotFound, "%1 is not there."},
+    {ENAMETOOLONG, ErrorNumber::kFileNotFound, "%1 is not there: its name is too long."},
+    {EMFILE, ErrorNumber::kTooManyFiles, "Too many files are open: %1 could not be opened."},
+    {ENFILE, ErrorNumber::kTooManyFiles, "Too many files are open: %1 could not be opened."},
+};
+
+[[noreturn]] void FailWith(int code, std::string_view native) {
+  const std::string path = TextFromUtf8(native);
+  for (const ErrnoMeaning& meaning : kMeanings) {
+    if (meaning.code != code) continue;
+    std::string text(meaning.text);
+    throw NumberedError(meaning.number, text.replace(text.find("%1"), 2, path));
+  }
+  throw NumberedError(ErrorNumber::kDeviceFault,
+                      "A device fault with " + path + ": " + std::strerror(code) + ".");
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  ~Descriptor() {
+    if (number_ >= 0) close(number_);
+  }
+  int get() const { return number_; }
+
+ private:
+  int number_;
+};
+
+class PosixFile : public PlatformFile {
+ public:
+  PosixFile(Descriptor descriptor, std::string native)
+      : descriptor_(std::move(descriptor)), native_(std::move(native)) {
+    const struct stat status = Status();
+    identity_ = {status.st_dev, status.st_ino};
+  }
+
+  std::size_t ReadAt(std::int64_t offset, std::span<char> into) override {
+    std::size_t done = 0;
+    while (done < into.size()) {
+      const ssize_t count = pread(descriptor_.get(), into.data() + done, into.size() - done,
+                                  offset + static_cast<off_t>(done));
+      if (count == 0) break;
+      if (count > 0) done += static_cast<std::size_t>(count);
+      if (count < 0 && errno != EINTR) FailWith(errno, native_);
+    }
+    return done;
+  }
+
+  void WriteAt(ChangePass, std::int64_t offset, std::string_view bytes,
+               std::size_t& written) override {
+    for (written = 0; written < bytes.size();) {
+      const std::string_view rest = bytes.substr(written);
+      const ssize_t count =
+          pwrite(descriptor_.get(), rest.data(), rest.size(), offset + static_cast<off_t>(written));
+      if (count > 0) written += static_cast<std::size_t>(count);
+      // A descriptor that was opened for reading only refuses as a read-only file does.
+      if (count < 0 && errno != EINTR) FailWith(errno == EBADF ? EACCES : errno, native_);
+    }
+  }
+
+  void Truncate(ChangePass, std::int64_t length) override {
+    if (ftruncate(descriptor_.get(), length) != 0) FailWith(errno, native_);
+  }
+
+  std::int64_t Length() override { return Status().st_size; }
+
+  FileIdentity Identity() const override { return identity_; }
+
+ private:
+  struct stat Status() const {
+    struct stat status {};
+    if (fstat(descriptor_.get(), &status) != 0) FailWith(errno, native_);
+    return status;
+  }
+
+  Descriptor descriptor_;
+  std::string native_;
+  FileIdentity identity_;
+};
+
+class PosixRunLock : public RunLock {
+ public:
+  explicit PosixRunLock(Descriptor folder) : folder_(std::move(folder)) {}
+
+ private:
+  Descriptor folder_;  // the system's lock on it goes with it
+};
+
+struct CloseFolder {
+  void operator()(DIR* folder) const { closedir(folder); }
+};
+
+std::unique_ptr<DIR, CloseFolder> OpenFolder(const std::string& native) {
+  return std::unique_ptr<DIR, CloseFolder>(opendir(native.c_str()));
+}
+
+// The entry of a folder that has this name in whatever case; of several the first by its bytes, so
+// that all spellings reach the same one.
+std::optional<std::string> FindEntry(const std::string& folder, std::string_view name) {
+  const auto entries = OpenFolder(folder);
+  if (!entries) return std::nullopt;
+  std::optional<std::string> found;
+  while (const dirent* entry = readdir(entries.get())) {
+    const std::string candidate = entry->d_name;
+    if (EqualIgnoringCase(TextFromUtf8(candidate), name) && (!found || candidate < *found)) {
+      found = candidate;
+    }
+  }
+  return found;
+}
+
+bool IsFolder(const std::string& native) {
+  struct stat status {};
+  return stat(native.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+// Pictures of the strftime letters that stand in date and time forms.
+struct PictureOf {
+  char letter;
+  std::string_view picture;
+};
+
+constexpr PictureOf kPictures[] = {
+    {'d', "dd"},       {'e', "d"},          {'m', "MM"},         {'y', "yy"},  {'Y', "yyyy"},
+    {'b', "MMM"},      {'B', "MMMM"},       {'h', "MMM"},        {'a', "ddd"}, {'A', "dddd"},
+    {'D', "MM/dd/yy"}, {'F', "yyyy-MM-dd"}, {'H', "HH"},         {'k', "H"},   {'I', "hh"},
+    {'l', "h"},        {'M', "mm"},         {'S', "ss"},         {'p', "tt"},  {'P', "tt"},
+    {'T', "HH:mm:ss"}, {'R', "HH:mm"},      {'r', "hh:mm:ss tt"}};
+
+std::string PictureFromStrftime(std::string_view form) {
+  std::string picture;
+  for (std::size_t i = 0; i < form.size(); ++i) {
+    if (form[i] != '%') {
+      const bool letter = std::isalpha(static_cast<unsigned char>(form[i])) != 0;
+      picture += letter ? "'" + std::string(1, form[i]) + "'" : std::string(1, form[i]);
+      continue;
+    }
+    while (i + 1 < form.size() && std::strchr("-_0EO", form[i + 1]) != nullptr) ++i;
+    if (++i == form.size()) break;
+    const auto known = std::find_if(std::begin(kPictures), std::end(kPictures),
+                                    [&](const PictureOf& p) { return p.letter == form[i]; });
+    if (known != std::end(kPictures)) picture += known->picture;
+  }
+  return picture;
+}
+
+class PosixPlatform : public Platform {
+ public:
+  explicit PosixPlatform(std::string native_root)
+      : native_root_(std::move(native_root)), root_(TextFromUtf8(native_root_)) {}
+
+  std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override {
+    const std::string native = Resolve(path);
+    Descriptor descriptor(OpenShared(native, access));
+    if (IsFolder(native)) FailWith(EISDIR, native);
+    if (flock(descriptor.get(), LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+      FailWith(errno, native);
+    }
+    return std::make_unique<PosixFile>(std::move(descriptor), native);
+  }
+
+  void Create(ChangePass, const std::string& path) override {
+    const std::string native = Resolve(path);
+    const Descriptor made(open(native.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    if (made.get() < 0) FailWith(errno, native);
+  }
+
+  void CreateFolder(ChangePass, const std::string& path) override {
+    const std::string native = Resolve(path);
+    if (mkdir(native.c_str(), 0777) != 0) FailWith(errno, native);
+  }
+
+  void Delete(ChangePass, const std::string& path) override {
+    const std::string native = Resolve(path);
+    if (unlink(native.c_str()) != 0) FailWith(errno, native);
+  }
+
+  bool FolderExists(const std::string& path) override {
+    try {
+      return IsFolder(Resolve(path));
+    } catch (const NumberedError&) {
+      return false;
+    }
+  }
+
+  std::vector<std::string> FileNames(const std::string& folder) override {
+    const std::string native = Resolve(folder);
+    const auto entries = OpenFolder(native);
+    if (!entries) FailWith(errno == ENOENT ? ENOTDIR : errno, native);
+    std::vector<std::string> names;
+    while (const dirent* entry = readdir(entries.get())) {
+      struct stat status {};
+      const std::string name = entry->d_name;
+      const bool normal =
+          stat((native + "/" + name).c_str(), &status) == 0 && S_ISREG(status.st_mode);
+      if (normal) names.push_back(TextFromUtf8(name));
+    }
+    return names;
+  }
+
+  std::unique_ptr<RunLock> LockRun(const std::string& folder) override {
+    const std::string native = Resolve(folder);
+    Descriptor descriptor(open(native.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.get() < 0) return nullptr;
+    if (flock(descriptor.get(), LOCK_EX | LOCK_NB) == 0) {
+      return std::make_unique<PosixRunLock>(std::move(descriptor));
+    }
+    if (errno != EWOULDBLOCK) return nullptr;
+    throw NumberedError(
+        ErrorNumber::kPermissionDenied,
+        "Another transfer is running in " + folder + ". Wait until it has ended, then try again.");
+  }
+
+  void StartProgram(const std::string& path, const std::string& arguments) override {
+    std::string program = Resolve(path);
+    std::string words = Utf8FromText(arguments);
+    std::array<char*, 3> argv = {program.data(), words.empty() ? nullptr : words.data(), nullptr};
+    pid_t pid = 0;
+    const int code = posix_spawn(&pid, program.c_str(), nullptr, nullptr, argv.data(), environ);
+    if (code != 0) FailWith(code == ENOEXEC ? EACCES : code, program);
+  }
+
+  std::string ProgramFolder() const override { return root_; }
+  char Separator() const override { return '/'; }
+
+  RegionalForms Regional() const override {
+    RegionalForms forms;
+    const locale_t locale = newlocale(LC_TIME_MASK, "", nullptr);
+    if (locale == nullptr) return forms;
+    forms.short_date = PictureFromStrftime(nl_langinfo_l(D_FMT, locale));
+    forms.long_time = PictureFromStrftime(nl_langinfo_l(T_FMT, locale));
+    freelocale(locale);
+    return forms;
+  }
+
+ private:
+  static int OpenShared(const std::string& native, FileAccess access) {
+    int number = -1;
+    if (access != FileAccess::kReadOnly) number = open(native.c_str(), O_RDWR | O_CLOEXEC);
+    const bool refused = number < 0 && (errno == EACCES || errno == EROFS || errno == EPERM);
+    if (access == FileAccess::kReadOnly || (access == FileAccess::kDefault && refused)) {
+      number = open(native.c_str(), O_RDONLY | O_CLOEXEC);
+    }
+    if (number < 0) FailWith(errno, native);
+    return number;
+  }
+
+  // The system's path for a text path: each name below the root as it is spelt on the disk, a name
+  // that is not there as it was given. Error 76 where a folder on the way is missing.
+  std::string Resolve(const std::string& path) const {
+    if (path.compare(0, root_.size(), root_) != 0) return Utf8FromText(path);
+    std::string native = native_root_;
+    std::string_view rest = std::string_view(path).substr(root_.size());
+    while (!rest.empty()) {
+      const std::size_t end = std::min(rest.find('/'), rest.size());
+      const std::string_view name = rest.substr(0, end);
+      const auto found = FindEntry(native, name);
+      const bool last = end == rest.size();
+      if (!last && !(found && IsFolder(native + *found))) {
+        FailWith(ENOTDIR, Utf8FromText(path));
+      }
+      native += found.value_or(Utf8FromText(name));
+      if (last) break;
+      native += '/';
+      rest.remove_prefix(end + 1);
+    }
+    return native;
+  }
+
+  std::string native_root_;  // ends in a separator
+  std::string root_;
+};
+
+std::string OwnFolder() {
+  std::array<char, 4096> buffer{};
+  const ssize_t length = readlink("/proc/self/exe", buffer.data(), buffer.size());
+  if (length <= 0) FailWith(errno, "the program's own folder");
+  const std::string path(buffer.data(), static_cast<std::size_t>(length));
+  return path.substr(0, path.rfind('/') + 1);
+}
+
+std::string Absolute(const std::string& native) {
+  if (native.starts_with('/')) return native;
+  std::array<char, 4096> buffer{};
+  if (getcwd(buffer.data(), buffer.size()) == nullptr) FailWith(errno, native);
+  const std::string current = buffer.data();
+  return native == "." ? current : current + (current.ends_with('/') ? "" : "/") + native;
+}
+
+}  // namespace
+
+std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
+  std::string folder = utf8_folder.empty() ? OwnFolder() : Absolute(utf8_folder);
+  if (!folder.ends_with('/')) folder += '/';
+  if (!IsFolder(folder)) {
+    throw NumberedError(ErrorNumber::kPathNotFound,
+                        "There is no folder " + TextFromUtf8(utf8_folder) + ".");
+  }
+  return std::make_unique<PosixPlatform>(folder);
+}
+
+}  // namespace golf

@@ -1,0 +1,131 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "core/field.h"
+#include "core/little_endian.h"
+#include "core/text.h"
+
+namespace golf {
+
+// The name of a field as a template argument.
+template <std::size_t kSize>
+struct FieldName {
+  char characters[kSize]{};
+
+  consteval FieldName(const char (&text)[kSize]) {  // NOLINT: a literal is meant to convert
+    for (std::size_t i = 0; i < kSize; ++i) characters[i] = text[i];
+  }
+  constexpr std::string_view View() const { return {characters, kSize - 1}; }
+};
+
+// The field of a layout with this name; a name that the table does not have does not compile.
+template <class Layout, FieldName kName>
+consteval Field FieldOf() {
+  for (const Field& field : Layout::kFields) {
+    if (field.name == kName.View()) return field;
+  }
+  throw "the layout has no field of this name";
+}
+
+namespace detail {
+
+template <FieldType kType>
+struct ValueOf;
+template <>
+struct ValueOf<FieldType::kByte> {
+  using Type = std::uint8_t;
+};
+template <>
+struct ValueOf<FieldType::kInt16> {
+  using Type = std::int16_t;
+};
+template <>
+struct ValueOf<FieldType::kInt32> {
+  using Type = std::int32_t;
+};
+template <>
+struct ValueOf<FieldType::kSingle> {
+  using Type = float;
+};
+template <>
+struct ValueOf<FieldType::kDouble> {
+  using Type = double;
+};
+template <>
+struct ValueOf<FieldType::kDate> {
+  using Type = double;
+};
+template <>
+struct ValueOf<FieldType::kCurrency> {
+  using Type = std::int64_t;
+};
+template <>
+struct ValueOf<FieldType::kText> {
+  using Type = std::string;
+};
+
+}  // namespace detail
+
+// A record is its bytes: exactly Layout::kLength of them, all 0 at first. A field is read and
+// written in place; no byte changes but those of the field that is set. An index outside a table's
+// bounds is error 9.
+template <class Layout>
+class Record {
+  static_assert(FieldsTile(Layout::kFields, Layout::kLength),
+                "the fields must cover the record with no gap and no overlap");
+
+ public:
+  template <FieldName kName>
+  using Value = typename detail::ValueOf<FieldOf<Layout, kName>().type>::Type;
+
+  // The stored value; text with its blanks.
+  template <FieldName kName, class... Indexes>
+  Value<kName> Get(Indexes... indexes) const {
+    constexpr Field kField = FieldOf<Layout, kName>();
+    static_assert(sizeof...(Indexes) == kField.rank, "as many indexes as the field has");
+    const char* at = bytes_.data() + Offset<kField.rank>(kField, {static_cast<int>(indexes)...});
+    if constexpr (kField.type == FieldType::kText) {
+      return std::string(at, kField.width);
+    } else {
+      return LoadLittleEndian<Value<kName>>(at);
+    }
+  }
+
+  // Sets a field that is no table. Text is cut at the field's width or filled with blanks.
+  template <FieldName kName>
+  void Set(const Value<kName>& value) {
+    Set<kName>({}, value);
+  }
+
+  // Sets the element of a table with these indexes.
+  template <FieldName kName>
+  void Set(std::initializer_list<int> indexes, const Value<kName>& value) {
+    constexpr Field kField = FieldOf<Layout, kName>();
+    char* at = bytes_.data() + kField.OffsetOf({indexes.begin(), indexes.size()});
+    if constexpr (kField.type == FieldType::kText) {
+      FitText(value, kField.width).copy(at, kField.width);
+    } else {
+      StoreLittleEndian(at, value);
+    }
+  }
+
+  std::string_view Bytes() const { return {bytes_.data(), bytes_.size()}; }
+  std::span<char> MutableBytes() { return bytes_; }
+
+ private:
+  template <std::size_t kRank>
+  static std::size_t Offset(const Field& field, const std::array<int, kRank>& indexes) {
+    return field.OffsetOf(indexes);
+  }
+
+  std::array<char, Layout::kLength> bytes_{};
+};
+
+}  // namespace golf

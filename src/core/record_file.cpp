@@ -1,0 +1,83 @@
+#include "core/record_file.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/numbered_error.h"
+
+namespace golf {
+namespace {
+
+constexpr std::size_t kFirstWindow = std::size_t{16} << 10;
+constexpr std::size_t kLargestWindow = std::size_t{256} << 10;
+
+}  // namespace
+
+RecordFile::RecordFile(ChangeGate& gate, std::string path, std::size_t record_length,
+                       FileAccess access)
+    : gate_(gate),
+      path_(std::move(path)),
+      record_length_(record_length),
+      file_(gate.Open(path_, access)),
+      identity_(file_->Identity()) {}
+
+std::int64_t RecordFile::Length() {
+  gate_.Settle(identity_);
+  return file_->Length();
+}
+
+void RecordFile::Check(std::int64_t record, std::size_t size) const {
+  if (record < 1) {
+    throw NumberedError(ErrorNumber::kBadRecordNumber,
+                        path_ + " has no record number " + std::to_string(record) + ".");
+  }
+  if (size > record_length_) {
+    throw NumberedError(ErrorNumber::kBadRecordLength,
+                        "A record of " + path_ + " is shorter than what was asked of it.");
+  }
+}
+
+void RecordFile::Read(std::int64_t record, std::span<char> into) {
+  Check(record, into.size());
+  const std::int64_t offset = (record - 1) * static_cast<std::int64_t>(record_length_);
+  const bool inside =
+      offset >= window_offset_ && offset + static_cast<std::int64_t>(into.size()) <=
+                                      window_offset_ + static_cast<std::int64_t>(window_.size());
+  if (!inside) FillWindow(offset, into.size());
+  const auto start = static_cast<std::size_t>(offset - window_offset_);
+  const std::size_t held =
+      std::min(into.size(), window_held_ > start ? window_held_ - start : std::size_t{0});
+  std::copy_n(window_.begin() + static_cast<std::ptrdiff_t>(start), held, into.begin());
+  std::fill(into.begin() + static_cast<std::ptrdiff_t>(held), into.end(), '\0');
+  next_offset_ = offset + static_cast<std::int64_t>(record_length_);
+}
+
+// A read that follows the last one brings more with it each time; any other one just its own bytes.
+void RecordFile::FillWindow(std::int64_t offset, std::size_t size) {
+  gate_.Settle(identity_);
+  const bool follows = offset == next_offset_;
+  ahead_ = follows ? std::clamp(ahead_ * 2, kFirstWindow, kLargestWindow) : 0;
+  window_.resize(std::max(size, ahead_ / record_length_ * record_length_));
+  window_offset_ = offset;
+  window_held_ = 0;
+  try {
+    window_held_ = file_->ReadAt(offset, window_);
+  } catch (const NumberedError&) {
+    ForgetWindow();
+    throw;
+  }
+}
+
+void RecordFile::Write(std::int64_t record, std::string_view bytes) {
+  Check(record, bytes.size());
+  gate_.WriteRecord(*file_, path_, record, record_length_, bytes);
+}
+
+void RecordFile::ForgetWindow() {
+  window_.clear();
+  window_held_ = 0;
+  next_offset_ = -1;  // a loop that reads and writes record by record reads just those records
+  ++generation_;
+}
+
+}  // namespace golf

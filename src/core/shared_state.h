@@ -1,0 +1,65 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "core/file_table.h"
+#include "core/regional_forms.h"
+
+namespace golf {
+
+class CourseClass;
+class SharedState;
+
+// The store objects that all screens work on. This room knows their names only; the composition
+// root makes them.
+struct StoreObjects {
+  std::shared_ptr<CourseClass> SpareCourse;
+  std::shared_ptr<CourseClass> Course;
+};
+
+// Puts new objects into the place of the old ones, in the order of the members.
+using StoreFactory = std::function<void(SharedState&, StoreObjects&)>;
+
+// What every screen and store shares. Made once by the entry and handed down by reference.
+class SharedState {
+ public:
+  SharedState(Platform& platform, StoreFactory factory);
+
+  FileTable files;
+
+  // Folders; each ends in a separator. CourseDataPath is where CourseClass opens its library,
+  // StoreDataPath where the Quenby stores open their files; screens set both.
+  std::string ProgramPath;
+  std::string KVDataPath;
+  std::string QBDataPath;
+  std::string ZDDataPath;
+  std::string CourseDataPath;
+  std::string StoreDataPath;
+
+  // The Kelvane roster picked last, without folder or extension.
+  std::string KVRosterName;
+
+  std::string DateFormat;
+  std::string DateMask;
+  std::string TimeMask;
+  std::string TimeSeparator;
+
+  // The word that the calling sibling passed: "ZD", "QB" or "KV" name it, any other nobody.
+  std::string CommandLine;
+
+  // Nobody keeps these references across InitSharedObjects.
+  CourseClass& SpareCourse() { return *objects_.SpareCourse; }
+  CourseClass& Course() { return *objects_.Course; }
+
+  // Closes every file of the process and makes the shared objects anew. If joined writes could not
+  // reach the disk their error is raised after all of that is done.
+  void InitSharedObjects();
+
+ private:
+  StoreFactory factory_;
+  StoreObjects objects_;
+};
+
+}  // namespace golf

@@ -1,0 +1,122 @@
+#include "core/text.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/numbered_error.h"
+
+namespace golf {
+namespace {
+
+struct CasePair {
+  unsigned char lower;
+  unsigned char upper;
+};
+
+// Letters of code page 1252 whose capitals do not lie 32 codes below them.
+constexpr CasePair kIrregularPairs[] = {{0x9A, 0x8A}, {0x9C, 0x8C}, {0x9E, 0x8E}, {0xFF, 0x9F}};
+
+constexpr bool HasRegularCapital(unsigned char code) {
+  return (code >= 'a' && code <= 'z') || (code >= 0xE0 && code <= 0xFE && code != 0xF7);
+}
+
+using CaseTable = std::array<char, 256>;
+
+constexpr CaseTable MakeCaseTable(bool to_upper) {
+  CaseTable table{};
+  for (int code = 0; code < 256; ++code) {
+    table[static_cast<std::size_t>(code)] = static_cast<char>(code);
+  }
+  const auto map = [&](unsigned char lower, unsigned char upper) {
+    table[to_upper ? lower : upper] = static_cast<char>(to_upper ? upper : lower);
+  };
+  for (int code = 0; code < 256; ++code) {
+    const auto lower = static_cast<unsigned char>(code);
+    if (HasRegularCapital(lower)) map(lower, static_cast<unsigned char>(lower - 0x20));
+  }
+  for (const CasePair& pair : kIrregularPairs) map(pair.lower, pair.upper);
+  return table;
+}
+
+constexpr CaseTable kUpper = MakeCaseTable(true);
+constexpr CaseTable kLower = MakeCaseTable(false);
+
+std::string Mapped(std::string_view text, const CaseTable& table) {
+  std::string result(text);
+  for (char& c : result) c = table[static_cast<unsigned char>(c)];
+  return result;
+}
+
+int Compared(unsigned char a, unsigned char b) { return int{a} - int{b}; }
+
+unsigned char UpperCode(char c) {
+  return static_cast<unsigned char>(kUpper[static_cast<unsigned char>(c)]);
+}
+
+}  // namespace
+
+std::string UpperCase(std::string_view text) { return Mapped(text, kUpper); }
+std::string LowerCase(std::string_view text) { return Mapped(text, kLower); }
+
+std::string_view TrimRight(std::string_view text) {
+  const std::size_t last = text.find_last_not_of(' ');
+  return last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1);
+}
+
+std::string_view Trim(std::string_view text) {
+  const std::string_view cut = TrimRight(text);
+  return cut.empty() ? cut : cut.substr(cut.find_first_not_of(' '));
+}
+
+int CompareIgnoringCase(std::string_view a, std::string_view b) {
+  const std::size_t shared = std::min(a.size(), b.size());
+  for (std::size_t i = 0; i < shared; ++i) {
+    if (const int order = Compared(UpperCode(a[i]), UpperCode(b[i]))) return order;
+  }
+  return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);
+}
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && CompareIgnoringCase(a, b) == 0;
+}
+
+bool IsBlankText(std::string_view text) { return CompareIgnoringCase(text, "!") < 0; }
+
+std::string FitText(std::string_view text, std::size_t width) {
+  std::string result(text.substr(0, width));
+  result.resize(width, ' ');
+  return result;
+}
+
+std::string_view LastCharacters(std::string_view text, std::size_t count) {
+  return text.size() <= count ? text : text.substr(text.size() - count);
+}
+
+std::string ReplaceText(std::string_view text, std::string_view find, std::string_view replace,
+                        ReplaceMode mode) {
+  std::string result(text);
+  if (mode == ReplaceMode::kDigitsToMarks) {
+    std::replace_if(
+        result.begin(), result.end(), [](char c) { return c >= '0' && c <= '9'; }, '#');
+    return result;
+  }
+  if (find.empty()) return result;
+  const bool exact = mode == ReplaceMode::kExact;
+  const auto folded = [exact](std::string_view part) {
+    return exact ? std::string(part) : UpperCase(part);
+  };
+  const std::string wanted = folded(find);
+  const std::string put_in = folded(replace);
+  std::string searched = folded(text);
+  for (std::size_t hit = 0; (hit = searched.find(wanted, hit)) != std::string::npos; ++hit) {
+    if (put_in.find(wanted, 1) != std::string::npos) {
+      throw NumberedError(ErrorNumber::kBadCall,
+                          "A text cannot be replaced by one that holds it again.");
+    }
+    searched.replace(hit, wanted.size(), put_in);
+    result.replace(hit, find.size(), replace);
+  }
+  return result;
+}
+
+}  // namespace golf

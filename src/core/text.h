@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace golf {
+
+// Text is single bytes in code page 1252. These functions know its letters; nothing else in the
+// program changes the case of a text or compares texts without regard to case.
+
+std::string UpperCase(std::string_view text);
+std::string LowerCase(std::string_view text);
+
+// Blanks only: a NUL or a tab is content.
+std::string_view Trim(std::string_view text);
+std::string_view TrimRight(std::string_view text);
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b);
+
+// Below 0, 0 or above 0, by the 1252 codes of the texts in capitals.
+int CompareIgnoringCase(std::string_view a, std::string_view b);
+
+// True where a text field holds nothing: it compares below "!".
+bool IsBlankText(std::string_view text);
+
+// `text` cut at `width` characters, or filled with blanks up to it.
+std::string FitText(std::string_view text, std::size_t width);
+
+// The last `count` characters, all of a shorter text.
+std::string_view LastCharacters(std::string_view text, std::size_t count);
+
+enum class ReplaceMode : int { kDigitsToMarks = 1, kIgnoringCase = 2, kExact = 3 };
+
+// kDigitsToMarks turns every digit into "#" and looks at neither `find` nor `replace`. The others
+// replace `find` from left to right; the search goes on one character behind the start of the last
+// hit, so what was put in can be found again. A pair in which `replace` holds `find` behind its
+// first character would not end: that is the bad call of error 5.
+std::string ReplaceText(std::string_view text, std::string_view find, std::string_view replace,
+                        ReplaceMode mode);
+
+}  // namespace golf
