@@ -1,0 +1,52 @@
+#include "app/application.h"
+
+#include <utility>
+
+#include "core/entry.h"
+#include "shell/tip_box.h"
+#include "shell/transfer_menu.h"
+#include "stores/course/course_class.h"
+#include "transfers/kv_courses_to_qb.h"
+
+namespace golf {
+namespace {
+
+// Each assignment lets the old object go.
+void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
+  objects.SpareCourse = std::make_shared<CourseClass>(state);
+  objects.Course = std::make_shared<CourseClass>(state);
+}
+
+template <class AnyScreen>
+std::shared_ptr<Screen> Make(const ScreenContext& context) {
+  return std::make_shared<AnyScreen>(context);
+}
+
+}  // namespace
+
+Application::Application(std::unique_ptr<Platform> platform)
+    : platform_(std::move(platform)), state_(*platform_, MakeStoreObjects) {}
+
+ScreenCatalogue Application::Screens() {
+  return {{"TransferMenu", Make<TransferMenu>},
+          {"TipBox", Make<TipBox>},
+          {"KVCoursestoQB", Make<KVCoursestoQB>}};
+}
+
+void Application::Start(DateValue now, const RegionalOverrides& overrides) {
+  RegionalForms forms = platform_->Regional();
+  if (overrides.short_date) forms.short_date = *overrides.short_date;
+  if (overrides.long_time) forms.long_time = *overrides.long_time;
+  PrepareStart(state_, forms, now);
+}
+
+void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,
+                std::string_view word) {
+  if (!host.HasScreen(name)) {
+    throw NumberedError(ErrorNumber::kBadCall, "There is no screen " + std::string(name) + ".");
+  }
+  if (!word.empty()) host.Load(name).SetTag(std::string(word));
+  OpenTransfer(state, host, name);
+}
+
+}  // namespace golf

@@ -1,0 +1,258 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace golf {
+
+enum class ControlKind {
+  kLabel,
+  kTextBox,
+  kCheckBox,
+  kOptionButton,
+  kListBox,
+  kComboBox,
+  kButton,
+  kFrame,
+  kTab,
+  kGrid,
+  kTimer,
+};
+
+// What a screen shows and what its user works on: a value with change notification that knows
+// nothing of pixels. A screen owns its controls as members; several of them may share one name.
+class Control {
+ public:
+  Control(ControlKind kind, std::string name) : kind_(kind), name_(std::move(name)) {}
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+
+  ControlKind kind() const { return kind_; }
+  const std::string& name() const { return name_; }
+
+  // The frame or tab that holds this control; null if the screen itself does.
+  Control* parent() const { return parent_; }
+  void SetParent(Control& parent) { parent_ = &parent; }
+
+  bool visible() const { return visible_; }
+  bool enabled() const { return enabled_; }
+  void SetVisible(bool visible) { Assign(visible_, visible); }
+  void SetEnabled(bool enabled) { Assign(enabled_, enabled); }
+  // With everything that holds it.
+  bool IsShown() const { return visible_ && (parent_ == nullptr || parent_->ShowsInside(*this)); }
+  bool IsUsable() const { return enabled_ && (parent_ == nullptr || parent_->IsUsable()); }
+
+  const std::string& tag() const { return tag_; }
+  void SetTag(std::string tag) { tag_ = std::move(tag); }
+
+  // Called after every change of what the control shows. One view at a time.
+  void Observe(std::function<void()> changed) { changed_ = std::move(changed); }
+
+  // What happens when the operator comes to the control and when he leaves it.
+  std::function<void()> on_enter;
+  std::function<void()> on_leave;
+
+ protected:
+  template <class T, class U>
+  void Assign(T& member, U&& value) {
+    if (member == value) return;
+    member = std::forward<U>(value);
+    Changed();
+  }
+  void Changed() const {
+    if (changed_) changed_();
+  }
+  // Whether a control that this one holds can be seen.
+  virtual bool ShowsInside(const Control&) const { return IsShown(); }
+
+ private:
+  ControlKind kind_;
+  std::string name_;
+  Control* parent_ = nullptr;
+  bool visible_ = true;
+  bool enabled_ = true;
+  std::string tag_;
+  std::function<void()> changed_;
+};
+
+// A control with a caption. "&" stands before the letter that reaches it with Alt.
+class Captioned : public Control {
+ public:
+  Captioned(ControlKind kind, std::string name, std::string caption)
+      : Control(kind, std::move(name)), caption_(std::move(caption)) {}
+
+  const std::string& caption() const { return caption_; }
+  void SetCaption(std::string caption) { Assign(caption_, std::move(caption)); }
+
+ private:
+  std::string caption_;
+};
+
+class Label : public Captioned {
+ public:
+  explicit Label(std::string name, std::string caption = "")
+      : Captioned(ControlKind::kLabel, std::move(name), std::move(caption)) {}
+};
+
+class Frame : public Captioned {
+ public:
+  explicit Frame(std::string name, std::string caption = "")
+      : Captioned(ControlKind::kFrame, std::move(name), std::move(caption)) {}
+};
+
+class Button : public Captioned {
+ public:
+  Button(std::string name, std::string caption)
+      : Captioned(ControlKind::kButton, std::move(name), std::move(caption)) {}
+
+  // The button that Enter presses, and the one that Escape presses.
+  bool is_default() const { return default_; }
+  bool is_cancel() const { return cancel_; }
+  void SetDefault(bool is_default) { Assign(default_, is_default); }
+  void SetCancel(bool is_cancel) { Assign(cancel_, is_cancel); }
+
+  void Click() const {
+    if (on_click) on_click();
+  }
+  std::function<void()> on_click;
+
+ private:
+  bool default_ = false;
+  bool cancel_ = false;
+};
+
+// A check box or an option button: on or off.
+class Toggle : public Captioned {
+ public:
+  Toggle(ControlKind kind, std::string name, std::string caption)
+      : Captioned(kind, std::move(name), std::move(caption)) {}
+
+  bool value() const { return value_; }
+  void SetValue(bool value) { Assign(value_, value); }
+
+  // The operator's choice: sets the value and runs the event, even when nothing changes.
+  void Choose(bool value) {
+    SetValue(value);
+    if (on_click) on_click();
+  }
+  std::function<void()> on_click;
+
+ private:
+  bool value_ = false;
+};
+
+class CheckBox : public Toggle {
+ public:
+  explicit CheckBox(std::string name, std::string caption = "")
+      : Toggle(ControlKind::kCheckBox, std::move(name), std::move(caption)) {}
+};
+
+class OptionButton : public Toggle {
+ public:
+  explicit OptionButton(std::string name, std::string caption = "")
+      : Toggle(ControlKind::kOptionButton, std::move(name), std::move(caption)) {}
+};
+
+class TextBox : public Control {
+ public:
+  explicit TextBox(std::string name) : Control(ControlKind::kTextBox, std::move(name)) {}
+
+  const std::string& text() const { return text_; }
+  void SetText(std::string text) {
+    if (text_ == text) return;
+    Assign(text_, std::move(text));
+    if (on_change) on_change();
+  }
+
+  bool read_only() const { return read_only_; }
+  void SetReadOnly(bool read_only) { Assign(read_only_, read_only); }
+
+  // Runs after every change of the text, the program's own included.
+  std::function<void()> on_change;
+  // Gives the key that takes the place of a typed one; 0 refuses it.
+  std::function<char(char)> key_filter;
+
+ private:
+  std::string text_;
+  bool read_only_ = false;
+};
+
+// A list box, or a drop-down list.
+class List : public Control {
+ public:
+  List(ControlKind kind, std::string name) : Control(kind, std::move(name)) {}
+
+  const std::vector<std::string>& items() const { return items_; }
+  void AddItem(std::string item);
+  // Takes all items away; nothing is selected then.
+  void Clear();
+
+  // From 0; -1 with nothing selected.
+  int index() const { return index_; }
+  // Selects an item and runs the event. An index beyond the list changes nothing: false.
+  bool Select(int index);
+  // The selected item; empty with none.
+  std::string text() const;
+
+  std::function<void()> on_click;
+  std::function<void()> on_double_click;
+
+ private:
+  std::vector<std::string> items_;
+  int index_ = -1;
+};
+
+class ListBox : public List {
+ public:
+  explicit ListBox(std::string name) : List(ControlKind::kListBox, std::move(name)) {}
+};
+
+class ComboBox : public List {
+ public:
+  explicit ComboBox(std::string name) : List(ControlKind::kComboBox, std::move(name)) {}
+};
+
+// Pages one behind the other; the controls of a page name the tab and the page as their place.
+class Tab : public Control {
+ public:
+  Tab(std::string name, std::vector<std::string> pages)
+      : Control(ControlKind::kTab, std::move(name)), pages_(std::move(pages)) {}
+
+  const std::vector<std::string>& pages() const { return pages_; }
+  int page() const { return page_; }
+  // The operator's choice, from 0. A page that is not there changes nothing: false.
+  bool Choose(int page);
+
+  // Puts a control on a page.
+  void Hold(Control& control, int page);
+
+  std::function<void()> on_click;
+
+ protected:
+  bool ShowsInside(const Control& control) const override;
+
+ private:
+  std::vector<std::string> pages_;
+  std::vector<std::pair<const Control*, int>> held_;
+  int page_ = 0;
+};
+
+// Fires again and again while its interval is above 0; the host tells it when it is due.
+class Timer : public Control {
+ public:
+  explicit Timer(std::string name) : Control(ControlKind::kTimer, std::move(name)) {}
+
+  int interval() const { return interval_; }  // milliseconds
+  void SetInterval(int interval) { Assign(interval_, interval); }
+  bool IsRunning() const { return enabled() && interval_ > 0; }
+
+  std::function<void()> on_timer;
+
+ private:
+  int interval_ = 0;
+};
+
+}  // namespace golf

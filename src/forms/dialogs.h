@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace golf {
+
+// A message box, an input box and a font choice as data: every host can show them.
+
+enum class BoxIcon { kNone, kInformation, kQuestion, kStop, kWarning };
+enum class BoxButton { kOk, kCancel, kYes, kNo, kRetry };
+
+// "none", "information", ...
+std::string_view NameOf(BoxIcon icon);
+// "OK", "Cancel", "Yes", ...
+std::string_view NameOf(BoxButton button);
+
+struct Box {
+  std::string title;
+  std::string text;
+  BoxIcon icon = BoxIcon::kNone;
+  std::vector<BoxButton> buttons = {BoxButton::kOk};
+  std::size_t default_button = 0;  // the first one where none is named
+};
+
+// The button of a box with this name, in any case; nothing if the box does not have it.
+std::optional<BoxButton> ButtonNamed(const Box& box, std::string_view name);
+
+// Cancel gives an empty answer.
+struct InputBox {
+  std::string title;
+  std::string text;
+  std::string default_answer;
+};
+
+struct Font {
+  std::string name;
+  int size = 10;  // points
+  bool bold = false;
+  bool italic = false;
+  bool operator==(const Font&) const = default;
+};
+
+// "Arial, 12, bold italic"
+std::string DescribeFont(const Font& font);
+// Reads such a description; nothing where it is none.
+std::optional<Font> ParseFont(std::string_view description);
+
+}  // namespace golf

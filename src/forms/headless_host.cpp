@@ -1,0 +1,130 @@
+#include "forms/headless_host.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/text.h"
+
+namespace golf {
+
+void HeadlessHost::QueueAnswer(std::string title, std::string answer, bool always) {
+  // Of two that stand the newer one holds.
+  if (always) {
+    std::erase_if(answers_, [&](const QueuedAnswer& q) { return q.always && q.title == title; });
+  }
+  answers_.push_back({std::move(title), std::move(answer), always});
+}
+
+const std::string* HeadlessHost::NextAnswer(std::string_view title) {
+  const auto find = [&](bool always) {
+    return std::find_if(answers_.begin(), answers_.end(), [&](const QueuedAnswer& queued) {
+      return queued.title == title && queued.always == always;
+    });
+  };
+  if (const auto once = find(false); once != answers_.end()) {
+    taken_ = std::move(once->answer);
+    answers_.erase(once);
+    return &taken_;
+  }
+  const auto standing = find(true);
+  return standing == answers_.end() ? nullptr : &standing->answer;
+}
+
+void HeadlessHost::Leave(Screen& screen) {
+  const auto press = [&](Button* button) {
+    if (button != nullptr && IsShown(screen)) Operate(screen, [button] { button->Click(); });
+  };
+  press(screen.PanelLeaveButton());
+  press(screen.LeaveButton());
+}
+
+void HeadlessHost::TellFault(const NumberedError& fault) {
+  HostBase::TellFault(fault);
+  listener_.OnFault(fault);
+}
+
+void HeadlessHost::StartProgram(const std::string& path, const std::string& arguments) {
+  listener_.OnStart(path, arguments);
+  Platform& platform = state().files.platform();
+  if (starts_programs) return platform.StartProgram(path, arguments);
+  platform.Open(path, FileAccess::kReadOnly);
+}
+
+void HeadlessHost::EndProcess() {
+  HostBase::EndProcess();
+  listener_.OnEnd();
+  ForgetScreens();
+}
+
+void HeadlessHost::Show(Screen& screen) {
+  HostBase::Show(screen);
+  if (const TipView* tip = screen.Tip()) listener_.OnTip(*tip, "");
+}
+
+void HeadlessHost::Open(Screen& screen) {
+  if (screen.Tip() == nullptr) listener_.OnOpen(screen);
+}
+
+void HeadlessHost::RunModal(Screen& screen) {
+  if (const TipView* tip = screen.Tip()) return AnswerTip(screen, *tip);
+  if (drive) drive(screen);
+  if (IsShown(screen)) Leave(screen);
+  if (IsShown(screen)) Unload(screen);
+}
+
+void HeadlessHost::AnswerTip(Screen& screen, const TipView& tip) {
+  Button* pressed = tip.buttons.front();
+  if (const std::string* answer = NextAnswer(tip.title)) {
+    const auto named = std::find_if(tip.buttons.begin(), tip.buttons.end(), [&](Button* button) {
+      return EqualIgnoringCase(button->name(), *answer + "Button");
+    });
+    if (named == tip.buttons.end()) {
+      throw BadAnswer("The message \"" + tip.title + "\" has no button " + *answer + ".");
+    }
+    pressed = *named;
+  }
+  const std::string name = UpperCase(pressed->name());
+  listener_.OnTip(tip, name.substr(0, name.find("BUTTON")));
+  pressed->Click();
+  if (IsShown(screen)) Hide(screen);
+}
+
+void HeadlessHost::Close(Screen& screen) {
+  if (screen.Tip() == nullptr) listener_.OnClose(screen);
+}
+
+BoxButton HeadlessHost::ShowBox(const Box& box) {
+  BoxButton answer = box.buttons.at(box.default_button);
+  if (const std::string* queued = NextAnswer(box.title)) {
+    const auto button = ButtonNamed(box, *queued);
+    if (!button) throw BadAnswer("The box \"" + box.title + "\" has no button " + *queued + ".");
+    answer = *button;
+  }
+  listener_.OnMessage(box, answer);
+  return answer;
+}
+
+std::string HeadlessHost::ShowInputBox(const InputBox& box) {
+  const std::string* queued = NextAnswer(box.title);
+  const std::string answer = queued == nullptr ? box.default_answer : *queued;
+  listener_.OnInput(box, answer);
+  return answer;
+}
+
+Font HeadlessHost::ShowFontChoice(std::string_view title, const Font& current) {
+  Font answer = current;
+  if (const std::string* queued = NextAnswer(title)) {
+    const auto font = ParseFont(*queued);
+    if (!font) throw BadAnswer("\"" + *queued + "\" is no font.");
+    answer = *font;
+  }
+  listener_.OnFont(title, current, answer);
+  return answer;
+}
+
+void HeadlessHost::ErrorEndsClick(const NumberedError& error) {
+  listener_.OnError(error);
+  throw ClickEnded{error};
+}
+
+}  // namespace golf

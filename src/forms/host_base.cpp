@@ -1,0 +1,121 @@
+#include "forms/host_base.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace golf {
+
+void HostBase::Operate(Screen& screen, const std::function<void()>& event) {
+  if (in_run_) return;
+  const std::shared_ptr<Screen> alive = screen.shared_from_this();
+  try {
+    event();
+    state_.files.Synchronize();
+  } catch (const NumberedError& error) {
+    const NumberedError told = error;
+    try {
+      state_.files.Synchronize();
+    } catch (const NumberedError&) {
+      // The first error is the one to tell.
+    }
+    ErrorEndsClick(told);
+  }
+}
+
+bool HostBase::IsShown(const Screen& screen) const {
+  return std::find(shown_.begin(), shown_.end(), &screen) != shown_.end();
+}
+
+bool HostBase::HasScreen(std::string_view name) const {
+  return catalogue_.find(name) != catalogue_.end();
+}
+
+Screen& HostBase::Load(std::string_view name) {
+  for (const auto& screen : loaded_) {
+    if (screen->name() == name) return *screen;
+  }
+  const auto maker = catalogue_.find(name);
+  if (maker == catalogue_.end()) {
+    throw NumberedError(ErrorNumber::kBadCall, "There is no screen " + std::string(name) + ".");
+  }
+  const std::shared_ptr<Screen> screen = maker->second({state_, *this});
+  loaded_.push_back(screen);
+  try {
+    screen->OnLoad();
+  } catch (...) {
+    std::erase(loaded_, screen);
+    throw;
+  }
+  return *screen;
+}
+
+void HostBase::BringUp(Screen& screen) {
+  state_.files.Synchronize();
+  shown_.push_back(&screen);
+  Open(screen);
+  try {
+    screen.OnActivate();
+  } catch (const NumberedError&) {
+    Drop(screen);
+    throw;
+  }
+}
+
+void HostBase::ShowModal(Screen& screen) {
+  const std::shared_ptr<Screen> alive = screen.shared_from_this();
+  BringUp(screen);
+  if (IsShown(screen)) RunModal(screen);
+}
+
+void HostBase::Show(Screen& screen) {
+  const std::shared_ptr<Screen> alive = screen.shared_from_this();
+  if (!IsShown(screen)) BringUp(screen);
+}
+
+void HostBase::Hide(Screen& screen) {
+  if (std::erase(shown_, &screen) > 0) Close(screen);
+}
+
+void HostBase::Unload(Screen& screen) {
+  const std::shared_ptr<Screen> alive = screen.shared_from_this();
+  if (std::find(loaded_.begin(), loaded_.end(), alive) == loaded_.end()) return;
+  try {
+    screen.OnUnload();
+  } catch (const NumberedError&) {
+    Drop(screen);  // what the screen could not save does not keep it open
+    throw;
+  }
+  Drop(screen);
+}
+
+void HostBase::Drop(Screen& screen) {
+  const std::shared_ptr<Screen> alive = screen.shared_from_this();
+  Hide(screen);
+  std::erase(loaded_, alive);
+}
+
+BoxButton HostBase::Ask(const Box& box) {
+  state_.files.Synchronize();
+  return ShowBox(box);
+}
+
+std::string HostBase::Ask(const InputBox& box) {
+  state_.files.Synchronize();
+  return ShowInputBox(box);
+}
+
+Font HostBase::ChooseFont(std::string_view title, const Font& current) {
+  state_.files.Synchronize();
+  return ShowFontChoice(title, current);
+}
+
+void HostBase::TellCount(std::string_view name, std::int64_t count) {
+  counts_.emplace_back(name, count);
+}
+
+void HostBase::ForgetScreens() {
+  shown_.clear();
+  loaded_.clear();
+}
+
+}  // namespace golf

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/shared_state.h"
+#include "forms/screen_host.h"
+
+namespace golf {
+
+using ScreenMaker = std::function<std::shared_ptr<Screen>(const ScreenContext&)>;
+// Screens by their names.
+using ScreenCatalogue = std::map<std::string, ScreenMaker, std::less<>>;
+
+// What all hosts have in common: which screens are loaded, which are seen, where a click begins and
+// ends, and that files are in order whenever the operator may look.
+class HostBase : public ScreenHost {
+ public:
+  HostBase(SharedState& state, ScreenCatalogue catalogue)
+      : state_(state), catalogue_(std::move(catalogue)) {}
+
+  // Runs what one event of the operator does. A numbered error that nothing in it takes ends it and
+  // goes to ErrorEndsClick. In a run nothing is taken in.
+  void Operate(Screen& screen, const std::function<void()>& event);
+
+  // The screen in front; null with none.
+  Screen* Top() const { return shown_.empty() ? nullptr : shown_.back(); }
+  bool IsShown(const Screen& screen) const;
+
+  bool HasScreen(std::string_view name) const override;
+  Screen& Load(std::string_view name) override;
+  void ShowModal(Screen& screen) override;
+  void Show(Screen& screen) override;
+  void Hide(Screen& screen) override;
+  void Unload(Screen& screen) override;
+
+  BoxButton Ask(const Box& box) override;
+  std::string Ask(const InputBox& box) override;
+  Font ChooseFont(std::string_view title, const Font& current) override;
+
+  void BeginRun() override { in_run_ = true; }
+  void EndRun() override { in_run_ = false; }
+  void TellCount(std::string_view name, std::int64_t count) override;
+  void TellFault(const NumberedError& fault) override { faults_.push_back(fault); }
+  void EndProcess() override { ended_ = true; }
+
+  bool in_run() const { return in_run_; }
+  // What the runs so far have told.
+  const std::vector<std::pair<std::string, std::int64_t>>& counts() const { return counts_; }
+  const std::vector<NumberedError>& faults() const { return faults_; }
+  // True after EndProcess.
+  bool ended() const { return ended_; }
+
+ protected:
+  SharedState& state() const { return state_; }
+  // The process begins anew, for a host that outlives its end.
+  void ForgetScreens();
+
+  // Brings the screen up; it stands on top already.
+  virtual void Open(Screen& screen) = 0;
+  // Lets the operator work until the screen is not shown any more.
+  virtual void RunModal(Screen& screen) = 0;
+  // Takes the screen down; it is not on the stack any more.
+  virtual void Close(Screen& screen) = 0;
+  virtual BoxButton ShowBox(const Box& box) = 0;
+  virtual std::string ShowInputBox(const InputBox& box) = 0;
+  virtual Font ShowFontChoice(std::string_view title, const Font& current) = 0;
+  virtual void ErrorEndsClick(const NumberedError& error) = 0;
+
+ private:
+  void BringUp(Screen& screen);
+  void Drop(Screen& screen);
+
+  SharedState& state_;
+  ScreenCatalogue catalogue_;
+  std::vector<std::shared_ptr<Screen>> loaded_;
+  std::vector<Screen*> shown_;  // from the bottom to the top
+  std::vector<std::pair<std::string, std::int64_t>> counts_;
+  std::vector<NumberedError> faults_;
+  bool in_run_ = false;
+  bool ended_ = false;
+};
+
+}  // namespace golf

@@ -1,0 +1,65 @@
+#include "forms/screen.h"
+
+#include <utility>
+
+#include "core/number_text.h"
+#include "core/text.h"
+
+namespace golf {
+namespace {
+
+Button* AsUsableButton(Control* control) {
+  const bool usable =
+      control->kind() == ControlKind::kButton && control->IsShown() && control->IsUsable();
+  return usable ? static_cast<Button*>(control) : nullptr;
+}
+
+}  // namespace
+
+char MnemonicOf(std::string_view caption) {
+  for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
+    if (caption[i] != '&') continue;
+    if (caption[i + 1] != '&') return UpperCase(caption.substr(i + 1, 1))[0];
+    ++i;
+  }
+  return 0;
+}
+
+Control* Screen::FindControl(std::string_view name) const {
+  for (Control* control : controls_) {
+    if (EqualIgnoringCase(control->name(), name)) return control;
+  }
+  const std::size_t open = name.rfind('(');
+  if (open == std::string_view::npos || !name.ends_with(')')) return nullptr;
+  double before = LeadingNumber(name.substr(open + 1));
+  for (Control* control : controls_) {
+    if (EqualIgnoringCase(control->name(), name.substr(0, open)) && before-- == 0) return control;
+  }
+  return nullptr;
+}
+
+bool Screen::OnKey(std::string_view key) {
+  constexpr std::string_view kAlt = "ALT+";
+  const std::string pressed = UpperCase(key);
+  for (Control* control : controls_) {
+    Button* button = AsUsableButton(control);
+    if (button == nullptr) continue;
+    const bool mnemonic = pressed.size() == kAlt.size() + 1 && pressed.starts_with(kAlt) &&
+                          MnemonicOf(button->caption()) == pressed.back();
+    if (mnemonic || (button->is_default() && pressed == "ENTER") ||
+        (button->is_cancel() && pressed == "ESCAPE")) {
+      button->Click();
+      return true;
+    }
+  }
+  return false;
+}
+
+void Screen::MoveFocus(Control* control) {
+  if (control == focus_) return;
+  Control* left = std::exchange(focus_, control);
+  if (left != nullptr && left->on_leave) left->on_leave();
+  if (focus_ == control && control != nullptr && control->on_enter) control->on_enter();
+}
+
+}  // namespace golf

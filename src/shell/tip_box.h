@@ -1,0 +1,73 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "forms/screen_host.h"
+
+namespace golf {
+
+// The message box that remembers, by title and as long as the process lives, that a message is not
+// to be shown again. A caller sets MessageType, MessageTitle and MessageText, in this order: the
+// last one shows the message. There is one for the whole process, which hides and is never
+// unloaded: SharedTipBox.
+class TipBox : public Screen {
+ public:
+  // Types with a meaning of their own. Any other one sets the text and shows nothing.
+  static constexpr int kModelessNoButton = -1;  // the caller hides it
+  static constexpr int kModelessNotice = 0;
+  static constexpr int kNotice = 1;
+  static constexpr int kLastingNotice = 2;  // shown whatever is remembered
+  static constexpr int kQuestion = 10;
+  static constexpr int kLastingQuestion = 11;
+
+  static constexpr int kModelessWidth = 4335;  // of kModelessNoButton, in 1/1440 inch
+
+  explicit TipBox(const ScreenContext& context);
+
+  void SetMessageType(int type) { type_ = type; }
+  void SetMessageTitle(std::string title) { Title.SetCaption(std::move(title)); }
+  void SetMessageText(std::string text);
+  const std::string& MessageText() const { return Message.text(); }
+  // "OK", "YES" or "NO": the answer to the last message that got one.
+  const std::string& ResultReturned() const { return answer_; }
+
+  Button* LeaveButton() override;
+  const TipView* Tip() const override { return &view_; }
+  void OnActivate() override;
+
+  bool always_on_top() const { return always_on_top_; }
+  bool is_question() const { return Image1[1].visible(); }
+
+  Label Title{"Title"};
+  TextBox Message{"Message"};
+  CheckBox ShowMessage{"ShowMessage"};
+  Button OKButton{"OKButton", "&OK"};
+  Button YesButton{"YesButton", "&Yes"};
+  Button NoButton{"NoButton", "&No"};
+  // Two pictures of which the box shows one: 0 for a notice, 1 for a question.
+  Frame Picture1{"Picture1"};
+  std::array<Label, 2> Image1{Label("Image1"), Label("Image1")};
+
+ private:
+  struct Remembered {
+    std::string title;  // the first 30 characters
+    bool dont_show = false;
+  };
+
+  Remembered* Find();
+  void Prepare();
+  void Answer(std::string answer);
+
+  int type_ = 0;
+  std::vector<Remembered> titles_;
+  std::string answer_;
+  bool always_on_top_ = false;
+  TipView view_;
+};
+
+// The one of this process.
+TipBox& SharedTipBox(ScreenHost& host);
+
+}  // namespace golf

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "core/file_table.h"
+
+namespace golf {
+
+// What lists and indexes need to know of a course.
+struct CourseDigest {
+  std::int16_t activeflag = 0;
+  std::int16_t hole_num_flag = 0;
+  std::array<char, 30> name{};
+
+  std::string_view Name() const { return {name.data(), name.size()}; }
+};
+
+// The digests of an open course file. A record is read once, in file order with its neighbours, and
+// again only when the file's read-ahead window was forgotten: so a digest is just as fresh as a
+// read of its record would be.
+class CourseDigests {
+ public:
+  explicit CourseDigests(FileTable& files) : files_(files) {}
+
+  // Makes sure that the digests of these records are there. A number that is no record of the
+  // file, which holds `length` of them, is passed over.
+  void Read(int file_number, std::int32_t length, std::vector<std::int32_t> records);
+
+  // The digest of a record that was read; null for a number that is no record.
+  const CourseDigest* Find(std::int32_t record) const;
+
+ private:
+  FileTable& files_;
+  std::vector<std::optional<CourseDigest>> digests_;
+  int file_number_ = 0;
+  std::uint64_t generation_ = 0;
+};
+
+}  // namespace golf

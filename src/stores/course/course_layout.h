@@ -1,0 +1,95 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "core/record.h"
+
+namespace golf {
+
+// A course, in all three siblings' libraries. A course has six tee slots, of which tee 6 is never
+// shown; group 0 is the men's, 1 the ladies'.
+
+inline constexpr std::size_t kCourseRecordLength = 3226;
+inline constexpr int kTeeSlots = 6;
+inline constexpr int kShownTees = 5;
+inline constexpr int kCourseHoles = 18;
+
+namespace course_fields {
+
+inline constexpr Dimension kTees{1, kTeeSlots};
+inline constexpr Dimension kHoles{1, kCourseHoles};
+inline constexpr Dimension kGroups{0, 2};
+
+inline constexpr auto kShared = std::to_array<Field>({
+    Int16Field("activeflag", 0),   // 0: deleted, skipped everywhere
+    Int16Field("HoleNumFlag", 2),  // 18; 9 front nine; -9 back nine
+    TextField("Name", 4, 30),
+    TextField("Address1", 34, 30),
+    TextField("Address2", 64, 30),
+    TextField("City", 94, 17),
+    TextField("State", 111, 2),
+    TextField("Zipcode", 113, 10),
+    TextField("GolfPro", 123, 20),
+    TextField("Phone", 143, 15),
+    ByteField("ActiveTees", 158).By(kTees),  // 255 active, 0 not
+    Int16Field("ParsFlag", 164),             // bit t: tee t has a par on its first hole
+    Int16Field("HandicapFlag", 166),         // bit t: tee t has a HoleHandicap on its first hole
+    TextField("TeeName", 168, 7).By(kTees),
+    TextField("TeeNameAbv", 210, 1).By(kTees),
+    SingleField("Rating", 216).By(kTees, kGroups),
+    Int16Field("slope", 264).By(kTees, kGroups),
+    Int16Field("HoleYard", 288).By(kTees, kHoles),
+    Int16Field("YardOut", 504).By(kTees),
+    Int16Field("YardIn", 516).By(kTees),
+    Int16Field("YardTotal", 528).By(kTees),
+    Int16Field("HolePar", 540).By(kTees, kHoles),
+    Int16Field("ParOut", 756).By(kTees),
+    Int16Field("ParIn", 768).By(kTees),
+    Int16Field("ParTotal", 780).By(kTees),
+    Int16Field("HoleHandicap", 792).By(kTees, kHoles),  // 1 to 18, 0 none
+    Int16Field("StrkSqnc", 1008).By(kTees, kHoles),     // the hole that takes the n-th stroke
+    Int16Field("KVCourseNum", 1224),                    // the Kelvane record copied from, 0 none
+    Int16Field("HoleNumber", 1226).By(kTees, kHoles),   // printed number, 1 to 72
+});
+
+inline constexpr auto kQuenbyTail = std::to_array<Field>({
+    ByteField("YardsOrMeters", 1442),  // 1 meters, anything else yards
+    KeptBytes(1443, 1783),
+});
+
+inline constexpr auto kKelvaneTail = std::to_array<Field>({KeptBytes(1442, 1784)});
+
+template <std::size_t kTailSize>
+constexpr auto WithTail(const std::array<Field, kTailSize>& tail) {
+  std::array<Field, kShared.size() + kTailSize> fields{};
+  for (std::size_t i = 0; i < kShared.size(); ++i) fields[i] = kShared[i];
+  for (std::size_t i = 0; i < kTailSize; ++i) fields[kShared.size() + i] = tail[i];
+  return fields;
+}
+
+}  // namespace course_fields
+
+// The form in which everything but the course transfer reads a course.
+struct CourseLayout {
+  static constexpr std::string_view kName = "course";
+  static constexpr std::size_t kLength = kCourseRecordLength;
+  static constexpr auto kFields = course_fields::WithTail(course_fields::kQuenbyTail);
+};
+
+// Kelvane's own form: the same bytes, of which none is YardsOrMeters.
+struct KelvaneCourseLayout {
+  static constexpr std::string_view kName = "kelvane course";
+  static constexpr std::size_t kLength = kCourseRecordLength;
+  static constexpr auto kFields = course_fields::WithTail(course_fields::kKelvaneTail);
+};
+
+// A course index: record 1 holds the number of entries, the next ones course numbers in the order
+// of display. What lies behind them is left over and means nothing.
+struct CourseIndexLayout {
+  static constexpr std::string_view kName = "course index";
+  static constexpr std::size_t kLength = 2;
+  static constexpr auto kFields = std::to_array<Field>({Int16Field("Index", 0)});
+};
+
+}  // namespace golf

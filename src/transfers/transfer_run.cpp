@@ -1,0 +1,36 @@
+#include "transfers/transfer_run.h"
+
+#include "core/resume_next.h"
+
+namespace golf {
+namespace {
+
+class InputHeldOff {
+ public:
+  explicit InputHeldOff(ScreenHost& host) : host_(host) { host_.BeginRun(); }
+  InputHeldOff(const InputHeldOff&) = delete;
+  InputHeldOff& operator=(const InputHeldOff&) = delete;
+  ~InputHeldOff() { host_.EndRun(); }
+
+ private:
+  ScreenHost& host_;
+};
+
+}  // namespace
+
+void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
+                 const std::function<void()>& run) {
+  const auto lock = state.files.platform().LockRun(state.ProgramPath);
+  const InputHeldOff held_off(host);
+  try {
+    run();
+  } catch (const NumberedError&) {
+    // The error that ended the run is the one to tell, whatever closing brings.
+    const ResumeNext anyway(nullptr);
+    anyway([&] { state.InitSharedObjects(); });
+    anyway([&] { screen.OpenAgain(); });
+    throw;
+  }
+}
+
+}  // namespace golf
