@@ -2,6 +2,10 @@
 
 add_library(golf_options INTERFACE)
 target_compile_options(golf_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # This release warns falsely where strings are joined (GCC bug 105651).
+  target_compile_options(golf_options INTERFACE -Wno-restrict)
+endif()
 target_include_directories(golf_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(GOLF_SANITIZE)
   target_compile_options(golf_options INTERFACE -fsanitize=address,undefined

@@ -7,7 +7,7 @@
 namespace golf {
 namespace {
 
-constexpr std::size_t kMostKept = std::size_t{1} << 20;
+constexpr std::size_t kMostKept = std::size_t{128} << 10;
 
 // What a reading command sees in place of a file that is not there.
 class EmptyFile : public PlatformFile {
@@ -19,10 +19,20 @@ class EmptyFile : public PlatformFile {
   FileIdentity Identity() const override { return {}; }
 };
 
-std::string ReadWhole(PlatformFile& file, std::int64_t offset, std::size_t size) {
+std::string ReadPart(PlatformFile& file, std::int64_t offset, std::size_t size) {
   std::string bytes(size, '\0');
   bytes.resize(file.ReadAt(offset, bytes));
   return bytes;
+}
+
+// Empty where there is no file.
+std::string WholeFile(Platform& platform, const std::string& path) {
+  try {
+    const auto file = platform.Open(path, FileAccess::kReadOnly);
+    return ReadPart(*file, 0, static_cast<std::size_t>(file->Length()));
+  } catch (const NumberedError&) {
+    return {};
+  }
 }
 
 }  // namespace
@@ -31,7 +41,7 @@ std::unique_ptr<PlatformFile> ChangeGate::Open(const std::string& path, FileAcce
   try {
     return platform_.Open(path, refuses_ ? FileAccess::kReadOnly : access);
   } catch (const NumberedError& error) {
-    if (!error.Is(ErrorNumber::kFileNotFound)) throw;
+    if (!error.Is(ErrorNumber::kFileNotFound) || access == FileAccess::kReadOnly) throw;
   }
   if (refuses_) return std::make_unique<EmptyFile>();
   Tell(FileChange::Kind::kCreateFile, path);
@@ -46,7 +56,7 @@ void ChangeGate::WriteRecord(PlatformFile& file, const std::string& path, std::i
   if (observer_) {
     const auto old_bytes = [&] {
       Settle(file.Identity());
-      return ReadWhole(file, offset, bytes.size());
+      return ReadPart(file, offset, bytes.size());
     };
     observer_({FileChange::Kind::kWriteRecord, path, record, bytes, old_bytes});
   }
@@ -57,7 +67,11 @@ void ChangeGate::WriteRecord(PlatformFile& file, const std::string& path, std::i
   const FileIdentity identity = file.Identity();
   if (!Follows(identity, offset, bytes.size())) {
     Settle();
-    kept_ = {&file, identity, offset, record_length, {}};
+    kept_.bytes.clear();  // its room is used again
+    kept_.file = &file;
+    kept_.identity = identity;
+    kept_.offset = offset;
+    kept_.record_length = record_length;
   }
   kept_.bytes += bytes;
 }
@@ -73,39 +87,35 @@ void ChangeGate::CreateFolder(const std::string& path) {
 }
 
 void ChangeGate::ReplaceText(const std::string& path, std::string_view text) {
-  Settle();
-  if (refuses_) throw NumberedError(ErrorNumber::kPathAccess, path + " is only being read.");
-  if (observer_) {
-    const auto old_bytes = [&]() -> std::string {
-      try {
-        const auto file = platform_.Open(path, FileAccess::kReadOnly);
-        return ReadWhole(*file, 0, static_cast<std::size_t>(file->Length()));
-      } catch (const NumberedError&) {
-        return {};
-      }
-    };
-    observer_({FileChange::Kind::kReplaceText, path, 0, text, old_bytes});
+  Tell(FileChange::Kind::kReplaceText, path, text);
+  std::unique_ptr<PlatformFile> file;
+  try {
+    file = platform_.Open(path, FileAccess::kReadWriteShared);
+  } catch (const NumberedError& error) {
+    if (!error.Is(ErrorNumber::kFileNotFound)) throw;
+    platform_.Create(ChangePass(), path);
+    file = platform_.Open(path, FileAccess::kReadWriteShared);
   }
-  platform_.Create(ChangePass(), path);
-  const auto file = platform_.Open(path, FileAccess::kReadWriteShared);
+  // Cut last: a disk that is full leaves what is there of the old text.
   std::size_t written = 0;
   file->WriteAt(ChangePass(), 0, text, written);
+  file->Truncate(ChangePass(), static_cast<std::int64_t>(text.size()));
 }
 
 void ChangeGate::Settle() {
   if (kept_.file == nullptr) return;
-  const KeptWrites writes = std::exchange(kept_, {});
-  WriteThrough(*writes.file, writes.offset, writes.record_length, writes.bytes);
+  PlatformFile& file = *std::exchange(kept_.file, nullptr);
+  WriteThrough(file, kept_.offset, kept_.record_length, kept_.bytes);
 }
 
 void ChangeGate::Settle(const FileIdentity& identity) {
   if (kept_.file != nullptr && kept_.identity == identity) Settle();
 }
 
-void ChangeGate::Tell(FileChange::Kind kind, const std::string& path) {
+void ChangeGate::Tell(FileChange::Kind kind, const std::string& path, std::string_view new_bytes) {
   Settle();
   if (refuses_) throw NumberedError(ErrorNumber::kPathAccess, path + " is only being read.");
-  if (observer_) observer_({kind, path, 0, {}, [] { return std::string(); }});
+  if (observer_) observer_({kind, path, 0, new_bytes, [&] { return WholeFile(platform_, path); }});
 }
 
 bool ChangeGate::Follows(const FileIdentity& identity, std::int64_t offset,
@@ -124,8 +134,11 @@ void ChangeGate::WriteThrough(PlatformFile& file, std::int64_t offset, std::size
     // A disk that filled up inside a new record leaves its torn start at the end of the file: cut
     // it off, so that the file ends with the last record that was written whole.
     const std::int64_t reached = offset + static_cast<std::int64_t>(written);
-    if (written % record_length != 0 && file.Length() == reached) {
-      file.Truncate(ChangePass(), reached - static_cast<std::int64_t>(written % record_length));
+    const auto torn = static_cast<std::int64_t>(written % record_length);
+    try {
+      if (torn != 0 && file.Length() == reached) file.Truncate(ChangePass(), reached - torn);
+    } catch (const NumberedError&) {
+      // The first error is the one to tell.
     }
     throw;
   }

@@ -36,7 +36,7 @@ class ChangeGate {
   // empty one that comes into being nowhere.
   void RefuseChanges() { refuses_ = true; }
 
-  // Opens a file; one that is not there is created empty first.
+  // Opens a file; one that is not there is created empty first, unless it is only to be read.
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access);
 
   // Writes the bytes of a record; `record_length` is the file's. While writes are joined they may
@@ -46,7 +46,7 @@ class ChangeGate {
 
   void Delete(const std::string& path);
   void CreateFolder(const std::string& path);
-  // The file holds just `text` afterwards, whether it was there or not.
+  // The file holds just `text` afterwards, whether it was there or not. It is never emptied first.
   void ReplaceText(const std::string& path, std::string_view text);
 
   // Joining is for runs that stop at their first error. Ending it writes nothing by itself.
@@ -67,7 +67,7 @@ class ChangeGate {
     std::string bytes;
   };
 
-  void Tell(FileChange::Kind kind, const std::string& path);
+  void Tell(FileChange::Kind kind, const std::string& path, std::string_view new_bytes = {});
   bool Follows(const FileIdentity& identity, std::int64_t offset, std::size_t size) const;
   void WriteThrough(PlatformFile& file, std::int64_t offset, std::size_t record_length,
                     std::string_view bytes);

@@ -54,6 +54,8 @@ Decoded Decode(std::string_view text) {
     if ((next & 0xC0) != 0x80) return {0, 0};
     code = (code << 6) | (next & 0x3Fu);
   }
+  constexpr char32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
+  if (code < kLeast[length] || code > 0x10FFFF) return {0, 0};
   return {code, length};
 }
 

@@ -103,7 +103,8 @@ bool ParseMoment(std::string_view text, CivilTime& moment) {
   constexpr std::string_view kForm = "####-##-## ##:##:##";
   if (text.size() != kForm.size()) return false;
   for (std::size_t i = 0; i < kForm.size(); ++i) {
-    if (kForm[i] != '#' && text[i] != kForm[i]) return false;
+    const bool digit = text[i] >= '0' && text[i] <= '9';
+    if (kForm[i] == '#' ? !digit : text[i] != kForm[i]) return false;
   }
   return ReadNumber(text, 0, 4, 100, 9999, moment.year) &&
          ReadNumber(text, 5, 2, 1, 12, moment.month) && ReadNumber(text, 8, 2, 1, 31, moment.day) &&

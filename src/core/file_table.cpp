@@ -10,7 +10,9 @@
 namespace golf {
 namespace {
 
+// "*.*" finds every name, one without a dot too.
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
+  if (pattern == "*.*") return true;
   if (pattern.empty()) return name.empty();
   if (pattern[0] == '*') {
     return MatchesPattern(name, pattern.substr(1)) ||
@@ -58,10 +60,10 @@ void FileTable::ReadBytes(int number, std::int64_t record, std::span<char> into)
 
 void FileTable::WriteBytes(int number, std::int64_t record, std::string_view from) {
   RecordFile& written = At(number);
-  written.Write(record, from);
   for (const auto& [other_number, file] : files_) {
     if (file->identity() == written.identity()) file->ForgetWindow();
   }
+  written.Write(record, from);
 }
 
 bool FileTable::FileExists(const std::string& path) {
@@ -79,6 +81,7 @@ bool FileTable::FileExists(const std::string& path) {
 }
 
 void FileTable::DeleteFile(const std::string& path) {
+  gate_.Settle();  // a fault of other writes is not this deletion's
   try {
     gate_.Delete(path);
   } catch (const NumberedError&) {

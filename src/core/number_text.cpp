@@ -18,6 +18,11 @@ struct Decimal {
   int point = 0;
 };
 
+void DropTrailingZeros(Decimal& decimal) {
+  decimal.digits.erase(decimal.digits.find_last_not_of('0') + 1);
+  if (decimal.digits.empty()) decimal.point = 0;
+}
+
 Decimal DecimalFromScientific(std::string_view text) {
   const std::size_t e = text.find('e');
   Decimal decimal;
@@ -27,7 +32,7 @@ Decimal DecimalFromScientific(std::string_view text) {
   const std::string_view exponent = text.substr(text[e + 1] == '+' ? e + 2 : e + 1);
   std::from_chars(exponent.data(), exponent.data() + exponent.size(), decimal.point);
   ++decimal.point;
-  decimal.digits.erase(decimal.digits.find_last_not_of('0') + 1);
+  DropTrailingZeros(decimal);
   return decimal;
 }
 
@@ -58,13 +63,14 @@ void RoundTo(Decimal& decimal, int places) {
   const auto cut = static_cast<std::size_t>(kept);
   const bool up = decimal.digits[cut] >= '5';
   decimal.digits.resize(cut);
-  if (!up) return;
-  for (std::size_t i = cut; i-- > 0;) {
-    if (++decimal.digits[i] <= '9') return;
-    decimal.digits[i] = '0';
+  while (up && !decimal.digits.empty() && decimal.digits.back() == '9') decimal.digits.pop_back();
+  if (up && !decimal.digits.empty()) {
+    ++decimal.digits.back();
+  } else if (up) {
+    decimal.digits = "1";
+    ++decimal.point;
   }
-  decimal.digits.insert(0, 1, '1');
-  ++decimal.point;
+  DropTrailingZeros(decimal);
 }
 
 char DigitAt(const Decimal& decimal, int place) {  // place 0 is the first one before the point
@@ -82,6 +88,7 @@ struct Section {
   int least_places = 0;  // and at least
   bool point = false;
   bool grouped = false;
+  bool digits = false;  // shows the number at all
 };
 
 void TakeDigit(Section& section, char mark, bool fraction) {
@@ -95,22 +102,21 @@ void TakeDigit(Section& section, char mark, bool fraction) {
 
 Section ParseSection(std::string_view pattern) {
   Section section;
-  bool digits_seen = false;
   for (std::size_t i = 0; i < pattern.size(); ++i) {
     const char c = pattern[i];
     if (c == '0' || c == '#') {
-      digits_seen = true;
+      section.digits = true;
       TakeDigit(section, c, section.point);
     } else if (c == '.' && !section.point) {
-      digits_seen = section.point = true;
-    } else if (c == ',' && digits_seen) {
+      section.digits = section.point = true;
+    } else if (c == ',' && section.digits) {
       section.grouped = true;
     } else if (c == '"') {
       const std::size_t end = std::min(pattern.find('"', i + 1), pattern.size());
-      (digits_seen ? section.behind : section.before) += pattern.substr(i + 1, end - i - 1);
+      (section.digits ? section.behind : section.before) += pattern.substr(i + 1, end - i - 1);
       i = end;
     } else {
-      (digits_seen ? section.behind : section.before) += c;
+      (section.digits ? section.behind : section.before) += c;
     }
   }
   return section;
@@ -151,7 +157,8 @@ std::string Formatted(Decimal decimal, bool negative, std::string_view pattern) 
   const Section section = ParseSection(sections[chosen]);
   RoundTo(decimal, section.places);
   const std::string sign = negative && chosen == 0 ? "-" : "";
-  return sign + section.before + Digits(decimal, section) + section.behind;
+  const std::string digits = section.digits ? Digits(decimal, section) : "";
+  return sign + section.before + digits + section.behind;
 }
 
 template <class T>
@@ -186,7 +193,8 @@ double LeadingNumber(std::string_view text) {
 }
 
 std::string NumberText(std::int64_t value) {
-  return (value < 0 ? "" : " ") + std::to_string(value);
+  std::string text = value < 0 ? "" : " ";
+  return text += std::to_string(value);
 }
 
 std::string FormatNumber(double value, std::string_view pattern) {

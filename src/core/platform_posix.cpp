@@ -192,7 +192,7 @@ std::string PictureFromStrftime(std::string_view form) {
                                     [&](const PictureOf& p) { return p.letter == form[i]; });
     if (known != std::end(kPictures)) picture += known->picture;
   }
-  return picture;
+  return TextFromUtf8(picture);
 }
 
 class PosixPlatform : public Platform {

@@ -54,6 +54,8 @@ class Control {
   // What happens when the operator comes to the control and when he leaves it.
   std::function<void()> on_enter;
   std::function<void()> on_leave;
+  // A key pressed in the control, such as "Insert". True if the control takes it.
+  std::function<bool(std::string_view)> on_key;
 
  protected:
   template <class T, class U>

@@ -30,6 +30,17 @@ const std::string* HeadlessHost::NextAnswer(std::string_view title) {
   return standing == answers_.end() ? nullptr : &standing->answer;
 }
 
+void HeadlessHost::Press(Screen& screen, std::string_view name) {
+  Operate(screen, [&] {
+    auto* button = dynamic_cast<Button*>(screen.FindControl(name));
+    if (button == nullptr || !button->IsShown() || !button->IsUsable()) {
+      throw NumberedError(ErrorNumber::kBadCall, "The button " + std::string(name) + " of " +
+                                                     screen.name() + " cannot be pressed.");
+    }
+    button->Click();
+  });
+}
+
 void HeadlessHost::Leave(Screen& screen) {
   const auto press = [&](Button* button) {
     if (button != nullptr && IsShown(screen)) Operate(screen, [button] { button->Click(); });

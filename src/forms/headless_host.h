@@ -59,6 +59,10 @@ class HeadlessHost : public HostBase {
   // button's name, the text for an input box, a font's description.
   void QueueAnswer(std::string title, std::string answer, bool always = false);
 
+  // Presses a button of a screen as the operator would. Error 5 where the screen has no such button
+  // or the operator could not reach it.
+  void Press(Screen& screen, std::string_view button);
+
   // Leaves a screen as the operator would: an open panel first.
   void Leave(Screen& screen);
 

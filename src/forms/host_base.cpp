@@ -6,8 +6,12 @@
 namespace golf {
 
 void HostBase::Operate(Screen& screen, const std::function<void()>& event) {
-  if (in_run_) return;
   const std::shared_ptr<Screen> alive = screen.shared_from_this();
+  Operate(event);
+}
+
+void HostBase::Operate(const std::function<void()>& event) {
+  if (in_run_) return;
   try {
     event();
     state_.files.Synchronize();

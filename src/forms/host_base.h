@@ -22,8 +22,9 @@ class HostBase : public ScreenHost {
   HostBase(SharedState& state, ScreenCatalogue catalogue)
       : state_(state), catalogue_(std::move(catalogue)) {}
 
-  // Runs what one event of the operator does. A numbered error that nothing in it takes ends it and
-  // goes to ErrorEndsClick. In a run nothing is taken in.
+  // Runs what one event of the operator does, on a screen where there is one. A numbered error that
+  // nothing in it takes ends it and goes to ErrorEndsClick. In a run nothing is taken in.
+  void Operate(const std::function<void()>& event);
   void Operate(Screen& screen, const std::function<void()>& event);
 
   // The screen in front; null with none.

@@ -25,6 +25,10 @@ char MnemonicOf(std::string_view caption) {
   return 0;
 }
 
+void Screen::Add(std::initializer_list<Control*> controls) {
+  controls_.insert(controls_.end(), controls);
+}
+
 Control* Screen::FindControl(std::string_view name) const {
   for (Control* control : controls_) {
     if (EqualIgnoringCase(control->name(), name)) return control;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -77,9 +78,7 @@ class Screen : public std::enable_shared_from_this<Screen> {
   SharedState& state() const { return context_.state; }
   ScreenHost& host() const { return context_.host; }
 
-  void Add(std::initializer_list<Control*> controls) {
-    controls_.insert(controls_.end(), controls);
-  }
+  void Add(std::initializer_list<Control*> controls);
 
  private:
   std::string name_;

@@ -1,6 +1,7 @@
 #include "shell/tip_box.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <utility>
 

@@ -1,0 +1,134 @@
+// The course transfer as a whole process: a Kelvane library and a Quenby library half as long, all
+// of it linked. Beside it a bare loop with one system call for each record: the Quenby links read
+// once, each Kelvane record read and written once, the Quenby library read once more; and a plain
+// copy of the same files.
+//
+// course_transfer [ROUNDS]            prints medians for 10,000 and for 30,000 courses
+// course_transfer --bare-loop DIR     is the bare loop
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <numeric>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <unordered_map>
+
+#include "core/record.h"
+#include "stores/course/course_layout.h"
+#include "whole_process.h"
+
+namespace golf::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+using CourseRecord = Record<KelvaneCourseLayout>;
+
+// Courses whose names are in no order, a fifth of them with nine holes.
+CourseRecord MadeUpCourse(int number, int name_number) {
+  CourseRecord course;
+  course.Set<"activeflag">(1);
+  course.Set<"HoleNumFlag">(static_cast<std::int16_t>(number % 5 == 0 ? 9 : 18));
+  course.Set<"Name">("Course " + std::to_string(name_number));
+  return course;
+}
+
+void MakeInstall(const fs::path& folder, int courses) {
+  fs::create_directories(folder / "kvdata");
+  fs::create_directories(folder / "qbdata");
+  std::ofstream kelvane(folder / "kvdata" / "kvcrs.dat", std::ios::binary);
+  std::ofstream quenby(folder / "qbdata" / "qbcrs.dat", std::ios::binary);
+  std::vector<int> names(static_cast<std::size_t>(courses));
+  std::iota(names.begin(), names.end(), 1);
+  std::shuffle(names.begin(), names.end(), std::mt19937(1));
+  for (int number = 1; number <= courses; ++number) {
+    CourseRecord course = MadeUpCourse(number, names[static_cast<std::size_t>(number) - 1]);
+    kelvane << course.Bytes();
+    course.Set<"KVCourseNum">(static_cast<std::int16_t>(number));
+    if (number <= courses / 2) quenby << course.Bytes();
+  }
+}
+
+void Need(bool worked) {
+  if (!worked) throw std::runtime_error("the bare loop failed");
+}
+
+int OpenLibrary(const fs::path& path, int flags) {
+  const int file = open(path.c_str(), flags);
+  Need(file >= 0);
+  return file;
+}
+
+int CourseCount(int file) {
+  return static_cast<int>(lseek(file, 0, SEEK_END) / static_cast<off_t>(kCourseRecordLength));
+}
+
+void BareLoop(const fs::path& folder) {
+  constexpr auto kLength = static_cast<off_t>(kCourseRecordLength);
+  constexpr off_t kLink = FieldOf<KelvaneCourseLayout, "KVCourseNum">().offset;
+  const int quenby = OpenLibrary(folder / "qbdata" / "qbcrs.dat", O_RDWR);
+  const int kelvane = OpenLibrary(folder / "kvdata" / "kvcrs.dat", O_RDONLY);
+  std::unordered_map<int, int> records;
+  const int linked = CourseCount(quenby);
+  for (int record = 0; record < linked; ++record) {
+    std::int16_t link = 0;
+    Need(pread(quenby, &link, sizeof link, record * kLength + kLink) == sizeof link);
+    records.emplace(link, record);
+  }
+  CourseRecord course;
+  const auto bytes = course.MutableBytes();
+  int end = linked;
+  const int courses = CourseCount(kelvane);
+  for (int record = 0; record < courses; ++record) {
+    Need(pread(kelvane, bytes.data(), bytes.size(), record * kLength) == kLength);
+    course.Set<"KVCourseNum">(static_cast<std::int16_t>(record + 1));
+    const auto found = records.find(record + 1);
+    const int to = found == records.end() ? end++ : found->second;
+    Need(pwrite(quenby, bytes.data(), bytes.size(), to * kLength) == kLength);
+  }
+  for (int record = 0; record < end; ++record) {
+    Need(pread(quenby, bytes.data(), bytes.size(), record * kLength) == kLength);
+  }
+  close(quenby);
+  close(kelvane);
+}
+
+double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int courses,
+                int rounds) {
+  const fs::path pristine = scratch.path() / "pristine";
+  MakeInstall(pristine, courses);
+  const std::vector<Contender> contenders = {
+      {"courses-kv-to-qb", {GOLF_CLI, "--quiet", "--install", "{}", "courses-kv-to-qb"}},
+      {"bare loop", {own_path, "--bare-loop", "{}"}},
+      {"cp --reflink=never", {"cp", "--reflink=never", "-r", pristine.string(), "{}/copy"}}};
+  const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
+  Print(std::to_string(courses) + " Kelvane courses, " + std::to_string(courses / 2) +
+            " in Quenby, all linked",
+        contenders, medians, 1);
+  fs::remove_all(pristine);
+  return medians[0].seconds;
+}
+
+}  // namespace
+}  // namespace golf::bench
+
+int main(int argc, char** argv) {
+  using namespace golf::bench;
+  if (argc == 3 && std::string(argv[1]) == "--bare-loop") {
+    BareLoop(argv[2]);
+    return 0;
+  }
+  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
+  const ScratchFolder scratch("bench-course-transfer");
+  const double small = RaceOver(scratch, argv[0], 10000, rounds);
+  const double large = RaceOver(scratch, argv[0], 30000, rounds);
+  std::printf("Three times the courses take %.2f times as long.\n", large / small);
+  return 0;
+}

@@ -1,0 +1,36 @@
+# Sourced by run and test, in the folder of the checkout: what the project needs of the system, and
+# how it is built.
+
+build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev)
+test_packages=(libgtest-dev librapidcheck-dev xvfb xauth)
+
+say() { printf '== %s\n' "$*"; }
+
+as_root() {
+  if [[ $(id -u) == 0 ]]; then "$@"; else sudo "$@"; fi
+}
+
+# need_packages NAMES...: installs those that are missing, and asks the network only then.
+need_packages() {
+  local package missing=()
+  if ! command -v apt-get >/dev/null; then
+    say "No apt-get here. The project needs what these packages of Debian hold: $*"
+    return
+  fi
+  for package in "$@"; do
+    [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
+      missing+=("$package")
+  done
+  ((${#missing[@]})) || return 0
+  say "Installing ${missing[*]}"
+  as_root apt-get -q update
+  as_root env DEBIAN_FRONTEND=noninteractive \
+    apt-get -q install -y --no-install-recommends "${missing[@]}"
+}
+
+# build_preset NAME: brings build/NAME up to date.
+build_preset() {
+  say "Building the $1 preset in build/$1"
+  cmake --preset "$1" >/dev/null
+  cmake --build --preset "$1" --parallel "$(nproc)"
+}

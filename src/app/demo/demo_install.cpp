@@ -1,0 +1,14 @@
+#include "app/demo/demo_install.h"
+
+#include "app/demo/demo_courses.h"
+
+namespace golf {
+
+void MakeDemoInstall(SharedState& state) {
+  for (const std::string* folder : {&state.KVDataPath, &state.QBDataPath, &state.ZDDataPath}) {
+    state.files.gate().CreateFolder(folder->substr(0, folder->size() - 1));
+  }
+  MakeDemoCourses(state);
+}
+
+}  // namespace golf

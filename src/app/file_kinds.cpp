@@ -1,0 +1,37 @@
+#include "app/file_kinds.h"
+
+#include "core/text.h"
+#include "stores/course/course_layout.h"
+
+namespace golf {
+namespace {
+
+struct FileKind {
+  std::string_view name;  // in capitals; "*" at the start stands for anything
+  LayoutInfo layout;
+};
+
+constexpr FileKind kKinds[] = {
+    {"KVCRS.DAT", InfoOfLayout<CourseLayout>()},
+    {"QBCRS.DAT", InfoOfLayout<CourseLayout>()},
+    {"ZDCRS.DAT", InfoOfLayout<CourseLayout>()},
+    {"*CRSKV.INX", InfoOfLayout<CourseIndexLayout>()},
+    {"*CRSQB.INX", InfoOfLayout<CourseIndexLayout>()},
+    {"*CRSZD.INX", InfoOfLayout<CourseIndexLayout>()},
+};
+
+bool Matches(std::string_view name, std::string_view pattern) {
+  return pattern.starts_with('*') ? name.ends_with(pattern.substr(1)) : name == pattern;
+}
+
+}  // namespace
+
+std::optional<LayoutInfo> LayoutOfFile(std::string_view file_name) {
+  const std::string name = UpperCase(file_name);
+  for (const FileKind& kind : kKinds) {
+    if (Matches(name, kind.name)) return kind.layout;
+  }
+  return std::nullopt;
+}
+
+}  // namespace golf

@@ -1,0 +1,147 @@
+#include "cli/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <iostream>
+
+#include "cli/commands.h"
+#include "cli/console.h"
+#include "cli/exit_code.h"
+#include "cli/problems.h"
+#include "cli/script_line.h"
+#include "core/code_page.h"
+
+namespace golf {
+namespace {
+
+using Command = std::function<ExitCode()>;
+
+constexpr const char* kDescription =
+    "Golf Transfer moves courses, golfers and scores between Kelvane, Quenby and Zandel.";
+constexpr const char* kExitCodes =
+    "Exit codes: 0 done; 1 refused, nothing changed; 2 wrong usage; 3 an error ended the run, or\n"
+    "it carried on over faults; 4 another program holds the files.\n"
+    "Every command has a --help of its own.";
+
+void AddGlobalOptions(CLI::App& app, Options& options) {
+  app.add_option("--install", options.install,
+                 "The folder with kvdata, qbdata and zddata; the program's own if left out")
+      ->type_name("DIR");
+  app.add_option_function<std::string>(
+         "--now",
+         [&options](const std::string& text) {
+           CivilTime moment;
+           if (!ParseMoment(text, moment)) {
+             throw CLI::ValidationError("--now", "is written \"YYYY-MM-DD HH:MM:SS\"");
+           }
+           options.now = moment;
+         },
+         "The present moment, \"YYYY-MM-DD HH:MM:SS\"; the clock's if left out")
+      ->type_name("MOMENT");
+  const auto add_form = [&app](const char* name, std::optional<std::string>& form,
+                               const char* help) {
+    app.add_option_function<std::string>(
+           name, [&form](const std::string& text) { form = TextFromUtf8(text); }, help)
+        ->type_name("PATTERN");
+  };
+  add_form("--short-date", options.regional.short_date,
+           "How dates are written, such as dd.MM.yyyy; the system's way if left out");
+  add_form("--long-time", options.regional.long_time, "How times are written, such as HH:mm:ss");
+  app.add_flag("--json", options.json, "JSON Lines on standard output instead of text for people");
+  app.add_flag("--quiet", options.quiet, "No progress");
+}
+
+CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& help,
+                     const std::string& example, Command& chosen, Command command) {
+  CLI::App* added = app.add_subcommand(name, help);
+  added->footer("Example:\n  golf-transfer-cli " + example);
+  added->callback([&chosen, command = std::move(command)] { chosen = command; });
+  return added;
+}
+
+// The arguments of all commands.
+struct Arguments {
+  std::string demo_folder;
+  std::string list_what;
+  std::string library = "kv";
+  DumpRequest dump;
+  std::string script;
+  bool start_programs = false;
+};
+
+void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
+  AddCommand(app, "demo", "Make a demonstration install in an empty or new folder",
+             "demo golf-demo", chosen, [&] { return RunDemo(options, args.demo_folder); })
+      ->add_option("DIR", args.demo_folder, "The folder")
+      ->required();
+
+  CLI::App* list = AddCommand(app, "list", "List what there is to choose from",
+                              "--install golf-demo list courses --library qb", chosen,
+                              [&] { return RunListCourses(options, args.library); });
+  list->add_option("WHAT", args.list_what, "courses")
+      ->required()
+      ->check(CLI::IsMember({"courses"}));
+  list->add_option("--library", args.library, "Whose courses: kv, qb or zd; kv if left out")
+      ->check(CLI::IsMember({"kv", "qb", "zd"}));
+
+  CLI::App* dump = AddCommand(app, "dump", "Show the records of a file, field by field",
+                              "dump golf-demo/kvdata/kvcrs.dat --record 1", chosen,
+                              [&] { return RunDump(options, args.dump); });
+  dump->add_option("FILE", args.dump.file, "A course file or a course index")->required();
+  dump->add_option("--record", args.dump.record, "Only this record, from 1")->type_name("N");
+  dump->add_flag("--csv", args.dump.csv, "A line a record, with a heading");
+
+  AddCommand(app, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
+             "--install golf-demo courses-kv-to-qb", chosen,
+             [&] { return RunCoursesKvToQb(options); });
+
+  CLI::App* script = AddCommand(app, "script", "Drive the screens by the lines of a script",
+                                "--install golf-demo script clicks.txt", chosen, [&] {
+                                  return RunScript(options, args.script, args.start_programs);
+                                });
+  script->add_option("FILE", args.script, "The script; - reads standard input")->required();
+  script->add_flag("--start-programs", args.start_programs,
+                   "Really start programs instead of reporting them");
+}
+
+ExitCode RunChosen(const Command& command) {
+  try {
+    return command();
+  } catch (const Refusal& refusal) {
+    std::cerr << refusal.what() << std::endl;
+    return ExitCode::kRefused;
+  } catch (const ScriptError& error) {
+    TellProblem(error.what());
+    return ExitCode::kUsage;
+  } catch (const NumberedError& error) {
+    const bool missing =
+        error.Is(ErrorNumber::kPathNotFound) || error.Is(ErrorNumber::kFileNotFound);
+    TellProblem(missing ? error.description() : error.Report());
+    return missing ? ExitCode::kRefused : ExitCodeOf(error);
+  }
+}
+
+}  // namespace
+
+int RunCommandLine(int argc, const char* const* argv) {
+  PrepareConsole();
+  CLI::App app(kDescription, "golf-transfer-cli");
+  app.footer(kExitCodes);
+  app.set_version_flag("--version", "golf-transfer-cli " GOLF_VERSION);
+  app.require_subcommand(1);
+  app.fallthrough();  // global options may stand behind the command, too
+  Options options;
+  Arguments arguments;
+  Command chosen;
+  AddGlobalOptions(app, options);
+  AddCommands(app, options, arguments, chosen);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? static_cast<int>(ExitCode::kDone)
+                                : static_cast<int>(ExitCode::kUsage);
+  }
+  return static_cast<int>(RunChosen(chosen));
+}
+
+}  // namespace golf

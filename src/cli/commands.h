@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "cli/exit_code.h"
+#include "cli/options.h"
+
+namespace golf {
+
+// One function for each command. Errors that end a command travel out of it: NumberedError,
+// ScriptError, Refusal.
+
+// A name, a number or a file that is not there; nothing was changed.
+class Refusal : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;  // the text is UTF-8
+};
+
+ExitCode RunDemo(const Options& options, const std::string& folder);
+ExitCode RunListCourses(const Options& options, const std::string& library);
+
+struct DumpRequest {
+  std::string file;
+  std::optional<std::int64_t> record;  // from 1; all if left out
+  bool csv = false;
+};
+ExitCode RunDump(const Options& options, const DumpRequest& request);
+
+ExitCode RunCoursesKvToQb(const Options& options);
+ExitCode RunScript(const Options& options, const std::string& file, bool start_programs);
+
+}  // namespace golf

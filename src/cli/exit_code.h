@@ -1,0 +1,30 @@
+#pragma once
+
+#include <algorithm>
+#include <vector>
+
+#include "core/numbered_error.h"
+
+namespace golf {
+
+enum class ExitCode : int {
+  kDone = 0,
+  kRefused = 1,  // what the screen would say, or a name, number or file that is not there
+  kUsage = 2,    // wrong usage, or a script that cannot be followed
+  kError = 3,    // a numbered error ended the run, or it carried on over faults
+  kHeld = 4,     // another program holds the files
+};
+
+inline ExitCode ExitCodeOf(const NumberedError& error) {
+  return error.Is(ErrorNumber::kPermissionDenied) ? ExitCode::kHeld : ExitCode::kError;
+}
+
+// Of a run that carried on over these faults, of which there is one at least.
+inline ExitCode ExitCodeOfFaults(const std::vector<NumberedError>& faults) {
+  const bool held = std::any_of(faults.begin(), faults.end(), [](const NumberedError& fault) {
+    return fault.Is(ErrorNumber::kPermissionDenied);
+  });
+  return held ? ExitCode::kHeld : ExitCode::kError;
+}
+
+}  // namespace golf

@@ -1,0 +1,147 @@
+#include "cli/field_text.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "cli/plain_text.h"
+#include "core/text.h"
+
+namespace golf {
+namespace {
+
+std::string Hex(std::string_view bytes) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string hex;
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    hex += kDigits[byte >> 4];
+    hex += kDigits[byte & 15];
+  }
+  return hex;
+}
+
+// The shortest text that names a number; "" for one that is none.
+template <class T>
+std::string NumberName(T value) {
+  if constexpr (std::is_floating_point_v<T>) {
+    if (!std::isfinite(value)) return "";
+  }
+  std::array<char, 400> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  return {buffer.data(), end.ptr};
+}
+
+std::string TextOf(const Field& field, const FieldValue& value) {
+  if (const auto* text = std::get_if<std::string>(&value)) {
+    return field.name.empty() ? Hex(*text) : Utf8FromText(TrimRight(*text));
+  }
+  if (const auto* whole = std::get_if<std::int64_t>(&value)) return NumberName(*whole);
+  if (const auto* single = std::get_if<float>(&value)) return NumberName(*single);
+  return NumberName(std::get<double>(value));
+}
+
+Json JsonOf(const Field& field, const FieldValue& value) {
+  if (const auto* whole = std::get_if<std::int64_t>(&value)) return *whole;
+  const std::string text = TextOf(field, value);
+  if (std::holds_alternative<std::string>(value)) return text;
+  // A single goes out as the shortest number that names it among singles.
+  double number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return text.empty() ? Json(nullptr) : Json(number);
+}
+
+// Calls `visit(indexes)` for each element, the last index fastest.
+template <class Visit>
+void ForEachElement(const Field& field, Visit visit) {
+  std::vector<int> indexes;
+  for (std::size_t i = 0; i < field.rank; ++i) indexes.push_back(field.dimensions[i].base);
+  while (true) {
+    visit(indexes);
+    std::size_t i = field.rank;
+    while (i > 0) {
+      const Dimension& dimension = field.dimensions[i - 1];
+      if (++indexes[i - 1] < dimension.base + dimension.count) break;
+      indexes[i - 1] = dimension.base;
+      --i;
+    }
+    if (i == 0) return;
+  }
+}
+
+FieldValue ValueAt(const Field& field, std::string_view record, const std::vector<int>& indexes) {
+  return ReadFieldValue(field, record, field.OffsetOf(indexes));
+}
+
+Json NestedJson(const Field& field, std::string_view record, std::vector<int>& indexes) {
+  const std::size_t level = indexes.size();
+  if (level == field.rank) return JsonOf(field, ValueAt(field, record, indexes));
+  Json array = Json::array();
+  const Dimension& dimension = field.dimensions[level];
+  for (int i = 0; i < dimension.count; ++i) {
+    indexes.push_back(dimension.base + i);
+    array.push_back(NestedJson(field, record, indexes));
+    indexes.pop_back();
+  }
+  return array;
+}
+
+std::string IndexList(const std::vector<int>& indexes) {
+  std::string list;
+  for (const int index : indexes) list += (list.empty() ? "" : ",") + std::to_string(index);
+  return list;
+}
+
+}  // namespace
+
+std::string FieldLabel(const Field& field) {
+  return field.name.empty() ? "bytes@" + std::to_string(field.offset) : std::string(field.name);
+}
+
+Json FieldJson(const Field& field, std::string_view record) {
+  std::vector<int> indexes;
+  return NestedJson(field, record, indexes);
+}
+
+std::vector<std::string> ElementNames(const Field& field) {
+  std::vector<std::string> names;
+  ForEachElement(field, [&](const std::vector<int>& indexes) {
+    const std::string list = IndexList(indexes);
+    names.push_back(FieldLabel(field) + (list.empty() ? "" : "(" + list + ")"));
+  });
+  return names;
+}
+
+std::vector<std::string> ElementTexts(const Field& field, std::string_view record) {
+  std::vector<std::string> texts;
+  ForEachElement(field, [&](const std::vector<int>& indexes) {
+    texts.push_back(TextOf(field, ValueAt(field, record, indexes)));
+  });
+  return texts;
+}
+
+std::vector<std::pair<std::string, std::string>> PlainLines(const Field& field,
+                                                            std::string_view record) {
+  constexpr std::size_t kMostBytes = 24;  // of bytes without a name, that people see
+  std::vector<std::pair<std::string, std::string>> lines;
+  if (field.name.empty() && field.width > kMostBytes) {
+    const std::string start = Hex(record.substr(field.offset, kMostBytes));
+    return {{FieldLabel(field), start + "... (" + std::to_string(field.width) + " bytes)"}};
+  }
+  ForEachElement(field, [&](const std::vector<int>& indexes) {
+    const bool new_line =
+        lines.empty() ||
+        (field.rank > 1 && indexes.back() == field.dimensions[field.rank - 1].base);
+    const std::string text = TextOf(field, ValueAt(field, record, indexes));
+    if (!new_line) {
+      lines.back().second += (field.type == FieldType::kText ? ", " : " ") + text;
+      return;
+    }
+    const std::string first =
+        field.rank > 1 ? "(" + IndexList({indexes.begin(), indexes.end() - 1}) + ")" : "";
+    lines.emplace_back(FieldLabel(field) + first, text);
+  });
+  return lines;
+}
+
+}  // namespace golf

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "app/application.h"
+#include "core/date_value.h"
+
+namespace golf {
+
+// The global options.
+struct Options {
+  std::string install;  // UTF-8; empty: the program's own folder
+  std::optional<CivilTime> now;
+  RegionalOverrides regional;
+  bool json = false;
+  bool quiet = false;
+};
+
+// The present moment: the one given, or the clock's, in local time.
+DateValue Moment(const Options& options);
+
+// The program over the install of the options, ready for its first screen. Error 76 where there is
+// no such folder.
+std::unique_ptr<Application> StartApplication(const Options& options);
+
+}  // namespace golf

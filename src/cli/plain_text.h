@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace golf {
+
+// A text of the system for people: UTF-8, with line feeds for its line ends and none at the end.
+std::string PlainText(std::string_view text);
+
+// Writes rows below headings in columns as wide as they need to be, to standard output.
+void WriteTable(const std::vector<std::string>& headings,
+                const std::vector<std::vector<std::string>>& rows);
+
+// A value of a line of CSV, in quotes where it needs them.
+std::string CsvValue(std::string_view utf8);
+
+}  // namespace golf

@@ -1,0 +1,16 @@
+#include "cli/problems.h"
+
+#include <iostream>
+#include <string>
+
+#include "cli/plain_text.h"
+
+namespace golf {
+
+void TellProblem(std::string_view text) { std::cerr << PlainText(text) << std::endl; }
+
+void TellFaultCount(std::size_t count) {
+  TellProblem(std::to_string(count) + (count == 1 ? " fault." : " faults."));
+}
+
+}  // namespace golf

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <istream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/json_listener.h"
+#include "cli/script_line.h"
+#include "core/shared_state.h"
+#include "forms/headless_host.h"
+
+namespace golf {
+
+// Follows a script line by line: a line acts on the screen in front, and a click that opens a modal
+// screen returns when that screen is closed by the lines behind it.
+class ScriptRunner {
+ public:
+  ScriptRunner(SharedState& state, HeadlessHost& host, JsonListener& listener, std::istream& lines);
+
+  // To the end of the script; screens still open then are left by their buttons. ScriptError, with
+  // the line's number, where it cannot be followed; ClickEnded where a click ends with an error.
+  void Run();
+
+ private:
+  using Words = std::vector<std::string>;
+  struct Verb {
+    std::string_view word;
+    std::size_t least;  // words behind it
+    std::size_t most;
+    void (ScriptRunner::*run)(const Words&);
+  };
+  static const Verb kVerbs[];
+
+  void FollowUntilGone(Screen& screen);
+  bool FollowNextLine();
+  void FireTimers();
+
+  void Caller(const Words& words);
+  void OpenByName(const Words& words);
+  void Click(const Words& words);
+  void DoubleClick(const Words& words);
+  void SetText(const Words& words);
+  void Type(const Words& words);
+  void Key(const Words& words);
+  void Check(const Words& words);
+  void Select(const Words& words);
+  void Pick(const Words& words);
+  void ChooseTab(const Words& words);
+  void Row(const Words& words);
+  void Cell(const Words& words);
+  void Answer(const Words& words);
+  void Show(const Words& words);
+  void CloseTop(const Words& words);
+
+  Screen& Top() const;
+  Control& Named(const std::string& name) const;
+  // The control of this name, which must be of this kind and within the operator's reach.
+  template <class Kind>
+  Kind& Usable(const std::string& name) const;
+  void FocusNext(Screen& screen);
+
+  SharedState& state_;
+  HeadlessHost& host_;
+  JsonListener& listener_;
+  std::istream& lines_;
+  int line_ = 0;
+};
+
+}  // namespace golf

@@ -1,0 +1,95 @@
+#include "cli/transfer_command.h"
+
+#include <iostream>
+#include <vector>
+
+#include "cli/commands.h"
+#include "cli/json_listener.h"
+#include "cli/plain_text.h"
+#include "cli/problems.h"
+#include "cli/progress_bar.h"
+
+namespace golf {
+namespace {
+
+// Keeps what the boxes say until it is known whether the run was refused.
+class ReportListener : public HostListener {
+ public:
+  explicit ReportListener(ProgressBar& bar) : bar_(bar) {}
+
+  void OnMessage(const Box& box, BoxButton) override { Keep(box.title, box.text); }
+  void OnTip(const TipView& tip, const std::string&) override { Keep(tip.title, tip.text); }
+  void OnFault(const NumberedError& fault) override { TellProblem(fault.Report()); }
+  void OnError(const NumberedError& error) override { TellProblem(error.Report()); }
+  void OnProgress(const Progress& progress) override { bar_.Show(progress); }
+
+  void Write(std::ostream& out) const {
+    for (const std::string& text : texts_) out << text << '\n';
+  }
+
+ private:
+  void Keep(std::string_view title, std::string_view text) {
+    const bool names_nothing = title.empty() || title == "Notice";
+    if (!names_nothing) texts_.push_back(PlainText(title));
+    texts_.push_back(PlainText(text));
+  }
+
+  ProgressBar& bar_;
+  std::vector<std::string> texts_;
+};
+
+// Runs the command's screen; the exit code of an error that ended a click.
+std::optional<ExitCode> Work(Application& application, HeadlessHost& host,
+                             const TransferCommand& command) {
+  host.drive = [&](Screen& screen) {
+    if (screen.name() == command.screen) command.work(host, screen);
+  };
+  try {
+    host.Operate([&] { OpenScreen(application.state(), host, command.screen, ""); });
+  } catch (const ClickEnded& ended) {
+    return ExitCodeOf(ended.error);
+  }
+  return std::nullopt;
+}
+
+ExitCode ExitCodeAfterRun(const HeadlessHost& host) {
+  if (host.counts().empty()) return ExitCode::kRefused;
+  if (host.faults().empty()) return ExitCode::kDone;
+  TellFaultCount(host.faults().size());
+  return ExitCodeOfFaults(host.faults());
+}
+
+void WriteResult(const TransferCommand& command, const HeadlessHost& host) {
+  Json result = {{"event", "result"}, {"transfer", command.name}};
+  for (const auto& [name, count] : host.counts()) result[name] = count;
+  WriteJsonLine(result);
+}
+
+}  // namespace
+
+ExitCode RunTransferCommand(const Options& options, const TransferCommand& command) {
+  const auto application = StartApplication(options);
+  ProgressBar bar(!options.quiet && !options.json);
+  ReportListener report(bar);
+  JsonListener json;
+  HostListener& listener = options.json ? static_cast<HostListener&>(json) : report;
+  HeadlessHost host(application->state(), Application::Screens(), listener);
+  host.clock = [&options] { return Moment(options); };
+  const auto failed = Work(*application, host, command);
+  bar.Clear();
+  const ExitCode code = failed ? *failed : ExitCodeAfterRun(host);
+  if (options.json) {
+    if (!host.counts().empty() && !failed) WriteResult(command, host);
+  } else {
+    report.Write(code == ExitCode::kRefused ? std::cerr : std::cout);
+  }
+  return code;
+}
+
+ExitCode RunCoursesKvToQb(const Options& options) {
+  return RunTransferCommand(
+      options, {"courses-kv-to-qb", "KVCoursestoQB",
+                [](HeadlessHost& host, Screen& screen) { host.Press(screen, "TransferCourses"); }});
+}
+
+}  // namespace golf

@@ -1,0 +1,214 @@
+#include "core/file_table.h"
+
+#include <functional>
+#include <random>
+
+#include "support/files_test.h"
+
+namespace golf {
+namespace {
+
+using namespace std::string_literals;
+
+using FileTableTest = FilesTest;
+
+TEST_F(FileTableTest, ReadsZerosBehindTheEnd) {
+  folder.Write("a.dat", "abcdefgh");
+  files.Open(1, At("a.dat"), 3);
+  EXPECT_EQ(Read(1, 1, 3), "abc");
+  EXPECT_EQ(Read(1, 3, 3), "gh\0"s);
+  EXPECT_EQ(Read(1, 4, 3), "\0\0\0"s);
+  EXPECT_EQ(Read(1, 2147483647, 2), "\0\0"s);
+  EXPECT_EQ(folder.Read("a.dat"), "abcdefgh");
+}
+
+TEST_F(FileTableTest, GrowsAndCounts) {
+  files.Open(1, At("new.dat"), 4);
+  EXPECT_EQ(folder.Read("new.dat"), "");
+  files.WriteBytes(1, 3, "wxyz");
+  EXPECT_EQ(folder.Read("new.dat"), "\0\0\0\0\0\0\0\0wxyz"s);
+  files.WriteBytes(1, 3, "AB");  // the start of a record leaves its rest
+  EXPECT_EQ(Read(1, 3, 4), "AByz");
+
+  const struct {
+    std::size_t length;
+    int truncated, rounded;
+  } rows[] = {{0, 0, 0}, {3, 0, 1}, {9, 2, 2}, {10, 2, 2}, {11, 2, 3}, {14, 3, 4}, {16, 4, 4}};
+  for (const auto& row : rows) {
+    folder.Write("new.dat", std::string(row.length, 'x'));
+    EXPECT_EQ(files.Length(1), static_cast<std::int64_t>(row.length));
+    EXPECT_EQ(files.CountTruncated(1, 4), row.truncated) << row.length;
+    EXPECT_EQ(files.CountRounded(1, 4), row.rounded) << row.length;
+  }
+}
+
+TEST_F(FileTableTest, NumbersThatAreNotOpenAreError52) {
+  const int number = files.FreeNumber();
+  EXPECT_GT(number, 255);
+  EXPECT_NE(files.FreeNumber(), number);
+  files.Open(number, At("a.dat"), 3);
+  files.Close(number);
+  files.Close(number);
+  files.Open(files.FreeNumber(), At("a.dat"), 3);
+  EXPECT_EQ(ErrorOf([&] { Read(number, 1, 3); }), 52);
+  EXPECT_EQ(ErrorOf([&] { files.WriteBytes(number, 1, "abc"); }), 52);
+  EXPECT_EQ(ErrorOf([&] { files.CountTruncated(number, 3); }), 52);
+
+  // Opening a number closes what it held, even if the opening fails then.
+  files.Open(1, At("a.dat"), 3);
+  files.Open(1, At("b.dat"), 2);
+  files.WriteBytes(1, 1, "bb");
+  EXPECT_EQ(folder.Read("a.dat") + "|" + folder.Read("b.dat"), "|bb");
+  EXPECT_EQ(ErrorOf([&] { files.Open(1, At("none/a.dat"), 3); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files.Length(1); }), 52);
+  files.Open(1, At("a.dat"), 3);
+  files.CloseAll();
+  EXPECT_EQ(ErrorOf([&] { files.Length(1); }), 52);
+}
+
+TEST_F(FileTableTest, AllSpellingsReachOneFile) {
+  folder.Write("KVData/Caf\u00E9.KV5", "abcdef");
+  files.Open(1, At("kvdata/CAF\xC9.kv5"), 3);
+  files.Open(2, At("KVDATA/caf\xE9.Kv5"), 3);
+  EXPECT_EQ(Read(2, 2, 3), "def");
+  files.WriteBytes(1, 2, "xyz");
+  EXPECT_EQ(Read(2, 2, 3), "xyz");
+  EXPECT_EQ(folder.Read("KVData/Caf\u00E9.KV5"), "abcxyz");
+  files.CloseAll();
+  files.DeleteFile(At("KVDATA/CAF\xC9.KV5"));
+  EXPECT_FALSE(folder.Exists("KVData/Caf\u00E9.KV5"));
+}
+
+TEST_F(FileTableTest, FileExistsSearches) {
+  folder.Write("qbdata/X0001.Q9C", "");
+  folder.MakeFolder("qbdata/folder.Q9C");
+  folder.MakeFolder("empty");
+  const std::pair<std::string, bool> rows[] = {
+      {"qbdata/x0001.q9c", true}, {"qbdata/X*.Q9C", true}, {"qbdata/X???1.*", true},
+      {"qbdata/*", true},         {"qbdata/", true},       {"qbdata/X?.Q9C", false},
+      {"qbdata/X0001", false},    {"qbdata", false},       {"qbdata/folder.Q9C", false},
+      {"empty/", false},          {"none/*", false},       {"", false}};
+  for (const auto& [name, found] : rows) EXPECT_EQ(files.FileExists(At(name)), found) << name;
+}
+
+TEST_F(FileTableTest, ErrorsHaveTheirNumbers) {
+  folder.Write("file", "abc");
+  folder.MakeFolder("folder");
+  files.Open(1, At("file"), 3, FileAccess::kReadOnly);
+  files.Open(2, At("new"), 3);
+  const std::pair<int, std::function<void()>> rows[] = {
+      {53, [&] { platform.Open(At("none"), FileAccess::kReadOnly); }},
+      {53, [&] { files.Open(3, At("none"), 3, FileAccess::kReadOnly); }},
+      {53, [&] { files.gate().Delete(At("none")); }},
+      {59, [&] { Read(2, 1, 4); }},
+      {59, [&] { files.WriteBytes(2, 1, "abcd"); }},
+      {63, [&] { Read(2, 0, 3); }},
+      {63, [&] { files.WriteBytes(2, -1, "abc"); }},
+      {75, [&] { files.WriteBytes(1, 1, "xyz"); }},
+      {75, [&] { files.Open(3, At("folder"), 3); }},
+      {75, [&] { platform.Open(At("folder"), FileAccess::kReadOnly); }},
+      {76, [&] { files.Open(3, At("none/file"), 3); }},
+      {76, [&] { files.Open(3, At("file/file"), 3); }},
+      {76, [&] { platform.FileNames(At("none")); }},
+      {76, [&] { MakePlatform(folder.Path("none")); }},
+      {76, [&] { MakePlatform(folder.Path("file")); }},
+      {0, [&] { files.DeleteFile(At("none")); }},
+      {0, [&] { files.DeleteFile(At("folder")); }},
+  };
+  for (std::size_t row = 0; row < std::size(rows); ++row) {
+    EXPECT_EQ(ErrorOf(rows[row].second), rows[row].first) << "row " << row;
+  }
+  EXPECT_EQ(folder.Read("file"), "abc");
+  EXPECT_FALSE(folder.Exists("none"));
+
+  // What the system refuses comes up as it is.
+  const std::pair<Operation, std::function<void()>> calls[] = {
+      {Operation::kOpen, [&] { files.Open(3, At("other"), 3); }},
+      {Operation::kCreate, [&] { files.Open(3, At("other"), 3); }},
+      {Operation::kRead, [&] { Read(2, 9, 3); }},
+      {Operation::kWrite, [&] { files.WriteBytes(2, 1, "abc"); }},
+      {Operation::kLength, [&] { files.Length(2); }},
+      {Operation::kLock, [&] { platform.LockRun(At("")); }},
+      {Operation::kStart, [&] { platform.StartProgram(At("QB.EXE"), ""); }},
+  };
+  for (const auto& [operation, call] : calls) {
+    platform.Fail({ErrorNumber::kTooManyFiles, 1, operation});
+    EXPECT_EQ(ErrorOf(call), 67) << static_cast<int>(operation);
+    EXPECT_TRUE(platform.Failed());
+  }
+  EXPECT_EQ(folder.Read("new"), "");
+}
+
+TEST_F(FileTableTest, ReadAheadEndsAtSynchronizeAndAtWrites) {
+  std::string bytes(3000, 'x');
+  folder.Write("a.dat", bytes);
+  files.Open(1, At("a.dat"), 3);
+  files.Open(2, At("A.DAT"), 3);
+  for (int record = 1; record <= 1000; ++record) Read(1, record, 3);
+  EXPECT_LT(platform.Count(Operation::kRead), 5);
+
+  auto generation = files.Generation(1);
+  bytes.replace(27, 3, "new");
+  folder.Write("a.dat", bytes);
+  files.Synchronize();
+  EXPECT_EQ(Read(1, 10, 3), "new");
+  EXPECT_NE(files.Generation(1), generation);
+
+  for (int record = 1; record <= 1000; ++record) Read(1, record, 3);
+  generation = files.Generation(1);
+  files.WriteBytes(2, 500, "two");
+  EXPECT_EQ(Read(1, 500, 3), "two");
+  EXPECT_NE(files.Generation(1), generation);
+
+  // A read that failed leaves nothing behind that could be taken for the file.
+  platform.Fail({ErrorNumber::kDeviceFault, 1, Operation::kRead});
+  EXPECT_EQ(ErrorOf([&] { Read(2, 10, 3); }), 57);
+  EXPECT_EQ(Read(2, 10, 3), "new");
+}
+
+// Two numbers on one file behave as one string of bytes, whatever is joined and read ahead.
+TEST_F(FileTableTest, ActsAsPlainBytesWouldUnderAnyOrderOfCalls) {
+  std::mt19937 random(20240229);
+  const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
+  constexpr std::size_t kLength = 7;
+  std::string model;
+  std::optional<JoinedWrites> joined;
+  for (int number : {1, 2}) files.Open(number, At("a.dat"), kLength);
+  for (int step = 0; step < 5000; ++step) {
+    const int number = 1 + below(2);
+    const int record = below(4) == 0 ? 1 + below(60) : 1 + step % 40;
+    const auto offset = static_cast<std::size_t>(record - 1) * kLength;
+    switch (below(12)) {
+      case 0:
+        files.Open(number, At(below(2) == 0 ? "A.dat" : "a.dat"), kLength);
+        break;
+      case 1:
+        joined.reset();
+        if (below(2) == 0) joined.emplace(files);
+        break;
+      case 2:
+        files.Synchronize();
+        ASSERT_EQ(folder.Read("a.dat"), model) << step;
+        break;
+      case 3:
+        ASSERT_EQ(files.Length(number), static_cast<std::int64_t>(model.size())) << step;
+        break;
+      case 4:
+      case 5:
+      case 6: {
+        const std::string bytes(1 + random() % kLength, static_cast<char>('a' + below(26)));
+        files.WriteBytes(number, record, bytes);
+        model.resize(std::max(model.size(), offset + bytes.size()));
+        model.replace(offset, bytes.size(), bytes);
+        break;
+      }
+      default:
+        std::string expected = model.substr(std::min(offset, model.size()), kLength);
+        expected.resize(kLength);
+        ASSERT_EQ(Read(number, record, kLength), expected) << step;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace golf

@@ -1,0 +1,114 @@
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+
+#include "support/files_test.h"
+
+namespace golf {
+namespace {
+
+using PlatformPosixTest = FilesTest;
+
+TEST_F(PlatformPosixTest, AFileThatAnotherProgramHoldsIsError70) {
+  folder.Write("a.dat", "abc");
+  const int other = open(folder.Path("a.dat").c_str(), O_RDONLY);
+  ASSERT_EQ(flock(other, LOCK_EX | LOCK_NB), 0);
+  for (const auto access :
+       {FileAccess::kReadWriteShared, FileAccess::kDefault, FileAccess::kReadOnly}) {
+    EXPECT_EQ(ErrorOf([&] { files.Open(1, At("A.DAT"), 3, access); }), 70);
+  }
+  flock(other, LOCK_UN);
+  files.Open(1, At("a.dat"), 3);
+  EXPECT_NE(flock(other, LOCK_EX | LOCK_NB), 0);  // and the other way round
+  files.Close(1);
+  EXPECT_EQ(flock(other, LOCK_EX | LOCK_NB), 0);
+  close(other);
+}
+
+TEST_F(PlatformPosixTest, AFullDiskIsError61AndLeavesNoTornRecord) {
+  folder.Write("a.dat", "abcdefgh");
+  files.Open(1, At("a.dat"), 4);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit small{10, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &small);
+  const int error = ErrorOf([&] { files.WriteBytes(1, 3, "ijkl"); });
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, ignored);
+  EXPECT_EQ(error, 61);
+  EXPECT_EQ(folder.Read("a.dat"), "abcdefgh");
+}
+
+TEST(PlatformPosix, TheInstallMayLieWhereTheCodePageHasNoLetters) {
+  const TempFolder folder("\u0141\u00F3d\u017A \u26F3");
+  folder.Write("KVDATA/A.DAT", "abc");
+  const auto platform = MakePlatform(folder.Path() + "/");
+  EXPECT_EQ(platform->ProgramFolder(), MakePlatform(folder.Path())->ProgramFolder());
+  FileTable files(*platform);
+  files.Open(1, platform->ProgramFolder() + "kvdata/a.dat", 3);
+  files.WriteBytes(1, 2, "def");
+  EXPECT_EQ(folder.Read("KVDATA/A.DAT"), "abcdef");
+  EXPECT_TRUE(files.FileExists(platform->ProgramFolder() + "kvdata/*.dat"));
+  EXPECT_EQ(MakePlatform("/")->ProgramFolder(), "/");
+}
+
+TEST_F(PlatformPosixTest, OfNamesThatDifferInCaseOneIsMeant) {
+  for (const char* name : {"a.dat", "A.dat", "a.DAT", "A.DAT", "A.dAT", "A.Dat", "a.Dat"}) {
+    folder.Write(name, name);
+  }
+  for (const char* name : {"a.dat", "A.dat", "a.dAt"}) {
+    files.Open(1, At(name), 5);
+    EXPECT_EQ(Read(1, 1, 5), "A.DAT") << name;
+  }
+}
+
+TEST_F(PlatformPosixTest, OneRunAtATimeHoldsTheLock) {
+  auto lock = real->LockRun(At(""));
+  ASSERT_NE(lock, nullptr);
+  const auto other = MakePlatform(folder.Path());
+  EXPECT_EQ(ErrorOf([&] { other->LockRun(At("")); }), 70);
+  lock.reset();
+  EXPECT_NE(other->LockRun(At("")), nullptr);
+  EXPECT_EQ(real->LockRun(At("none")), nullptr);
+
+  const pid_t child = fork();  // a run that ends without letting go
+  if (child == 0) _exit(real->LockRun(At("")).release() == nullptr ? 1 : 0);
+  int status = -1;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  EXPECT_NE(other->LockRun(At("")), nullptr);
+}
+
+TEST_F(PlatformPosixTest, StartsPrograms) {
+  folder.Write("KVM.EXE", "#!/bin/sh\necho \"$1,$#\" > \"$0.out\"\n");
+  platform.StartProgram(At("KVM.EXE"), "QB");
+  EXPECT_EQ(platform.started(), std::vector<std::string>{At("KVM.EXE QB")});
+  EXPECT_EQ(wait(nullptr), -1);  // only written down
+  EXPECT_EQ(ErrorOf([&] { real->StartProgram(At("none.exe"), ""); }), 53);
+  EXPECT_EQ(ErrorOf([&] { real->StartProgram(At("kvm.exe"), ""); }), 75);
+  chmod(folder.Path("KVM.EXE").c_str(), 0755);
+  platform.StartForReal();
+  platform.StartProgram(At("kvm.exe"), "QB");
+  EXPECT_GT(wait(nullptr), 0);
+  EXPECT_EQ(folder.Read("KVM.EXE.out"), "QB,1\n");
+}
+
+TEST_F(PlatformPosixTest, FormsComeFromTheLocale) {
+  const char* before = std::getenv("LC_ALL");
+  const std::string kept = before == nullptr ? "" : before;
+  setenv("LC_ALL", "C", 1);
+  const RegionalForms forms = real->Regional();
+  before == nullptr ? unsetenv("LC_ALL") : setenv("LC_ALL", kept.c_str(), 1);
+  EXPECT_EQ(forms.short_date, "MM/dd/yy");
+  EXPECT_EQ(forms.long_time, "HH:mm:ss");
+}
+
+}  // namespace
+}  // namespace golf

@@ -1,0 +1,91 @@
+#include "core/text.h"
+
+#include <gtest/gtest.h>
+
+#include "core/code_page.h"
+#include "support/error_of.h"
+
+namespace golf {
+namespace {
+
+TEST(Text, CaseOfTheLettersOfTheCodePage) {
+  // The multiplication and division signs, sharp s and the bytes without meaning have no case.
+  const std::string lower = "az\xE0\xE9\xFE\xFF\x9A\x9C\x9E \xDF\xF7\xD7\x81@[`{1";
+  const std::string upper = "AZ\xC0\xC9\xDE\x9F\x8A\x8C\x8E \xDF\xF7\xD7\x81@[`{1";
+  EXPECT_EQ(UpperCase(lower), upper);
+  EXPECT_EQ(LowerCase(upper), lower);
+  EXPECT_TRUE(EqualIgnoringCase(lower, upper));
+  EXPECT_FALSE(EqualIgnoringCase("ab", "abc"));
+  EXPECT_LT(CompareIgnoringCase("Zoe", "\xE9va"), 0);  // by codes, not by the alphabet
+  EXPECT_GT(CompareIgnoringCase("ab", "A"), 0);
+  EXPECT_LT(CompareIgnoringCase("a", "_"), 0);  // as capitals
+}
+
+TEST(Text, BlanksAndWidths) {
+  EXPECT_EQ(Trim("  a b  "), "a b");
+  EXPECT_EQ(Trim(std::string("\0 \t ", 4)), std::string("\0 \t", 3));
+  EXPECT_EQ(Trim("   "), "");
+  EXPECT_EQ(TrimRight("  a "), "  a");
+  for (const std::string blank : {"", "   ", " x", "\t"}) EXPECT_TRUE(IsBlankText(blank)) << blank;
+  EXPECT_TRUE(IsBlankText(std::string(3, '\0')));
+  for (const std::string full : {"!", "!a", "x ", "\xE9"}) EXPECT_FALSE(IsBlankText(full)) << full;
+  EXPECT_EQ(FitText("abc", 5), "abc  ");
+  EXPECT_EQ(FitText("abc", 2), "ab");
+  EXPECT_EQ(LastCharacters("name  00012", 5), "00012");
+  EXPECT_EQ(LastCharacters("12", 5), "12");
+}
+
+TEST(Text, ReplaceText) {
+  constexpr auto kDigits = ReplaceMode::kDigitsToMarks;
+  constexpr auto kFolded = ReplaceMode::kIgnoringCase;
+  constexpr auto kExact = ReplaceMode::kExact;
+  const struct {
+    std::string text, find, replace;
+    ReplaceMode mode;
+    std::string result;
+  } rows[] = {
+      {"13.05.99 at 7", "1", "x", kDigits, "##.##.## at #"},
+      {"a\xE9-A\xC9", "A\xE9", "x", kFolded, "x-x"},
+      {"a\xE9-A\xC9", "A\xC9", "x", kExact, "a\xE9-x"},
+      {"abc", "", "x", kExact, "abc"},
+      {"none", "x", "axx", kExact, "none"},
+      // The search goes on one character behind the start of the last hit.
+      {"aaaa", "a", "", kExact, "aa"},
+      {"abab", "ab", "aba", kExact, "abaaba"},
+      {"xaab", "ab", "b", kExact, "xab"},
+      {"abb", "ab", "xa", kExact, "xxa"},  // what was put in makes a hit with what follows
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(ReplaceText(row.text, row.find, row.replace, row.mode), row.result) << row.text;
+  }
+  EXPECT_EQ(ErrorOf([] { ReplaceText("a", "a", "ba", kExact); }), 5);
+  EXPECT_EQ(ErrorOf([] { ReplaceText("A", "a", "bA", kFolded); }), 5);
+  EXPECT_EQ(ErrorOf([] { ReplaceText("a", "a", "bA", kExact); }), 0);
+}
+
+TEST(CodePage, ComesBackFromUtf8) {
+  for (int code = 0; code < 256; ++code) {
+    const std::string byte(1, static_cast<char>(code));
+    EXPECT_EQ(TextFromUtf8(Utf8FromText(byte)), byte) << code;
+  }
+
+  const struct {
+    std::string utf8, text;
+    bool fits;
+  } rows[] = {
+      {"\u20AC\u00E9\u0178", "\x80\xE9\x9F", true},
+      {"\u0081\u009D", "\x81\x9D", true},
+      {"a\u0142\u2192\U0001F3CC", "a???", false},
+      {"\u0080", "?", false},  // that byte is the Euro sign
+      // No UTF-8: a lone byte, a cut sequence, a sequence longer than it need be.
+      {"caf\xE9 x\xE2\x82", "caf\xE9 x\xE2\x82", false},
+      {"\xE0\x80\xAF\xC0\xAF", "\xE0\x80\xAF\xC0\xAF", false},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(TextFromUtf8(row.utf8), row.text) << row.utf8;
+    EXPECT_EQ(FitsCodePage(row.utf8), row.fits) << row.utf8;
+  }
+}
+
+}  // namespace
+}  // namespace golf

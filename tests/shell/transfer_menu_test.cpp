@@ -1,0 +1,91 @@
+#include "shell/transfer_menu.h"
+
+#include <gtest/gtest.h>
+
+#include "support/test_host.h"
+
+namespace golf {
+namespace {
+
+using Events = std::vector<std::string>;
+
+std::string Missing(const TestInstall& install, const std::string& name) {
+  return "message [Notice] Cannot transfer data because the " + name +
+         " program is not installed in the '" + install.folder.Path() + "/' folder -> OK";
+}
+
+// Opens the menu, presses a button and leaves by Close.
+Events PressOnMenu(TestInstall& install, const std::string& button) {
+  install.host->drive = [&](Screen& screen) {
+    if (screen.name() == "TransferMenu") install.host->Press(screen, button);
+  };
+  OpenScreen(install.state(), *install.host, "TransferMenu", "");
+  return install.events();
+}
+
+TEST(TransferMenuTest, ChecksBothFoldersBeforeATransferOpens) {
+  const struct {
+    const char* button;
+    std::vector<const char*> folders;
+    std::vector<const char*> missing;
+  } kCases[] = {
+      {"KVtoZDButton", {"kvdata"}, {"Zandel"}},
+      {"KVtoZDButton", {}, {"Kelvane", "Zandel"}},
+      {"ZDtoQBButton", {"kvdata"}, {"Zandel", "Quenby"}},
+      {"ZDtoKVButton", {"qbdata"}, {"Zandel", "Kelvane"}},
+      {"QBtoKVButton", {"kvdata"}, {"Quenby"}},
+      {"KVtoQBButton", {"qbdata"}, {"Kelvane"}},
+      {"KVCoursestoQBButton", {"KVDATA", "QbData"}, {}},
+  };
+  for (const auto& c : kCases) {
+    TestInstall install(false);
+    for (const char* folder : c.folders) install.folder.MakeFolder(folder);
+    Events expected = {"open TransferMenu"};
+    for (const char* name : c.missing) expected.push_back(Missing(install, name));
+    if (c.missing.empty()) {
+      expected.insert(expected.end(), {"open KVCoursestoQB", "close KVCoursestoQB"});
+    }
+    expected.push_back("end");
+    EXPECT_EQ(PressOnMenu(install, c.button), expected) << c.button;
+  }
+}
+
+TEST(TransferMenuTest, CloseStartsTheCaller) {
+  const struct {
+    const char* word;
+    Events expected;
+  } kCases[] = {{"ZD", {"start ZD.EXE|", "end"}},
+                {"QB", {"start QB.EXE|", "end"}},
+                {"KV", {"start KVM.EXE|", "end"}},
+                {"zd", {"end"}},
+                {"ZD ", {"end"}},
+                {"", {"end"}}};
+  for (const auto& c : kCases) {
+    TestInstall install;
+    install.state().CommandLine = c.word;
+    Events expected = c.expected;
+    expected.insert(expected.begin(), "open TransferMenu");
+    EXPECT_EQ(PressOnMenu(install, "ExitButton"), expected) << c.word;
+  }
+}
+
+TEST(TransferMenuTest, PriorTransferEndsTheProcessOnlyIfItStarts) {
+  TestInstall install;
+  install.state().CommandLine = "QB";
+  EXPECT_EQ(PressOnMenu(install, "PriorTransfer"),
+            Events({"open TransferMenu", "start PRIORXFR.EXE|QB",
+                    "message [] Transfer program not available. -> OK", "start QB.EXE|", "end"}));
+  install.Restart();
+  install.folder.Write("PriorXfr.exe", "");
+  EXPECT_EQ(PressOnMenu(install, "PriorTransfer"),
+            Events({"open TransferMenu", "start PRIORXFR.EXE|", "end"}));
+}
+
+TEST(TransferMenuTest, CloseIgnoresEveryError) {
+  TestInstall install;
+  install.platform->Fail({.nth = 1, .stays = true});
+  EXPECT_EQ(PressOnMenu(install, "ExitButton"), Events({"open TransferMenu", "end"}));
+}
+
+}  // namespace
+}  // namespace golf

@@ -1,0 +1,214 @@
+#include "stores/course/course_class.h"
+
+#include <gtest/gtest.h>
+
+#include "core/little_endian.h"
+#include "support/error_of.h"
+#include "support/test_host.h"
+
+namespace golf {
+namespace {
+
+std::string IndexBytes(std::initializer_list<int> values) {
+  std::string bytes;
+  for (const int value : values) {
+    char two[2];
+    StoreLittleEndian(two, static_cast<std::int16_t>(value));
+    bytes.append(two, 2);
+  }
+  return bytes;
+}
+
+class CourseTest : public testing::Test {
+ protected:
+  CourseClass& course() { return install.state().Course(); }
+
+  void OpenQuenby() {
+    install.state().CourseDataPath = install.state().QBDataPath;
+    course().OpenCourseFile();
+  }
+  void Append(const std::string& name, int holes, int active = 1) {
+    course().BuildBlankRecord();
+    course().SetName(name);
+    course().SetHoleNumFlag(holes);
+    course().Setactiveflag(active);
+    course().SaveRecord(course().CourseFileLength() + 1);
+  }
+
+  TestInstall install;
+};
+
+TEST_F(CourseTest, BlankRecordByteForByte) {
+  OpenQuenby();
+  Append("", 0, 0);
+  const std::string bytes = install.folder.Read("qbdata/QBcrs.dat");
+  std::string expected(3226, '\0');
+  expected.replace(4, 154, 154, ' ');
+  expected.replace(168, 48, "NoName NoName NoName NoName NoName NoName       ");
+  for (std::size_t i = 0; i < 12; ++i) expected[264 + 2 * i] = 113;
+  for (std::size_t hole = 1; hole <= 18; ++hole) {
+    for (std::size_t tee = 0; tee < 6; ++tee) {
+      expected[1226 + ((hole - 1) * 6 + tee) * 2] = static_cast<char>(hole);
+    }
+  }
+  expected.replace(1443, 1783, 1783, ' ');
+  EXPECT_EQ(bytes, expected);
+}
+
+TEST_F(CourseTest, CoursesWithoutARecord) {
+  OpenQuenby();
+  Append("Any", 18);
+  const struct {
+    int number;
+    const char* name;
+    int holes;
+  } kCases[] = {{0, "(Away course)", 18},
+                {-1, "(Away course)", 9},
+                {-2, "**Invalid Course**", 18},
+                {2, "**Invalid Course**", 18}};
+  for (const auto& c : kCases) {
+    course().GetRecord(c.number);
+    EXPECT_EQ(course().Name(), c.name) << c.number;
+    EXPECT_EQ(course().HoleNumFlag(), c.holes) << c.number;
+    EXPECT_EQ(course().CurrentRecord(), 0);
+    EXPECT_EQ(course().activeflag(), 0);
+    ASSERT_EQ(course().TeeNumberofTees(), 1);
+    EXPECT_EQ(course().TeeMensTees(1), "R\\S      00.0/113" + std::string(61, ' ') + "\\1");
+    EXPECT_EQ(course().TeeAllTees(1), "R\\S" + std::string(75, ' ') + "\\1");
+  }
+}
+
+TEST_F(CourseTest, TeeListsHoldTheActiveTeesUpToFive) {
+  OpenQuenby();
+  course().BuildBlankRecord();
+  for (const int tee : {1, 3, 6}) course().SetActiveTees(tee, true);
+  course().SetTeeName(3, "Championship");
+  course().SetTeeNameAbv(3, "\xE9x");
+  course().SetRating(3, 0, 71.25);
+  course().Setslope(3, 0, 1250);
+  course().SaveRecord(1);
+  course().GetRecord(1);
+  EXPECT_EQ(course().TeeNumberofTees(), 2);
+  EXPECT_EQ(course().TeeMensTees(2), "Champio  71.3/1250" + std::string(61, ' ') + "\xC9");
+  EXPECT_EQ(course().TeeLadiesTees(2), "Champio  00.0/113" + std::string(61, ' ') + "\xC9" + "3");
+  EXPECT_EQ(course().TeeAllTees(3), std::string(80, ' '));
+  EXPECT_EQ(ErrorOf([&] { course().TeeAllTees(6); }), 9);
+}
+
+TEST_F(CourseTest, GettersMendAndSettersCut) {
+  CourseClass& c = course();
+  c.BuildBlankRecord();
+  c.SetHoleNumber(1, 1, 70);
+  c.SetHoleNumber(1, 10, 0);
+  c.SetHoleNumber(1, 2, 70);
+  c.SetHoleNumber(1, 3, 73);
+  EXPECT_EQ(c.HoleNumber(1, 1), " 1");
+  EXPECT_EQ(c.HoleNumber(1, 10), "10");
+  EXPECT_EQ(c.HoleNumber(1, 2), "70");
+  EXPECT_EQ(c.HoleNumber(1, 3), " 3");
+  EXPECT_EQ(c.StrkSqnc(1, 1), 1);
+  c.SetYardsOrMeters("METERS");
+  EXPECT_EQ(c.YardsOrMeters(), "Meters");
+  c.SetName("  Two in front");
+  EXPECT_EQ(c.Name(), "Two in front");
+  c.SetCity("  A city that is too long for it");
+  EXPECT_EQ(c.City(), "A city that is to");
+  int tee = 7;
+  c.SetTeeName(1, "Gold");
+  EXPECT_EQ(c.TeeName(tee), "Gold");
+  EXPECT_EQ(tee, 1);
+  EXPECT_EQ(ErrorOf([&] { c.Rating(7, 0); }), 9);
+  EXPECT_EQ(ErrorOf([&] { c.HolePar(1, 19); }), 9);
+  EXPECT_EQ(ErrorOf([&] { c.Setslope(1, 2, 113); }), 9);
+  EXPECT_EQ(ErrorOf([&] { c.SetHoleYard(1, 1, 32767.5); }), 6);
+  c.SetHoleYard(1, 1, 412.5);
+  EXPECT_EQ(c.HoleYard(1, 1), "412");
+}
+
+TEST_F(CourseTest, SavesOnlyInOrJustBehindTheFile) {
+  OpenQuenby();
+  Append("One", 18);
+  course().BuildBlankRecord();
+  course().SetName("Nowhere");
+  for (const int number : {0, -1, 3}) course().SaveRecord(number);
+  EXPECT_EQ(course().Name(), "Nowhere");  // no list was read
+  EXPECT_EQ(course().CourseFileLength(), 1);
+  EXPECT_EQ(ErrorOf([&] {
+              course().CloseCourseFile();
+              course().GetRecord(1);
+            }),
+            52);
+}
+
+TEST_F(CourseTest, RebuildSortsAndLeavesWhatLiesBehind) {
+  install.folder.Write("qbdata/9crsqb.inx", IndexBytes({4, 1, 1, 1, 7}));
+  OpenQuenby();
+  Append("zeta", 18);
+  Append(
+      "\xE9"
+      "clair",
+      -9);  // sorts by the code of its capital, behind Z
+  Append("Alpha", 9);
+  Append("gone", 18, 0);
+  Append("ALPHA", 18);
+  Append("Odd", 12);
+  course().RebuildCourseIndexes(course().ActiveCoursesByName());
+  EXPECT_EQ(install.folder.Read("qbdata/ALLCRSQB.INX"), IndexBytes({5, 3, 5, 6, 1, 2}));
+  EXPECT_EQ(install.folder.Read("qbdata/18CRSQB.INX"), IndexBytes({2, 5, 1}));
+  EXPECT_EQ(install.folder.Read("qbdata/9crsqb.inx"), IndexBytes({2, 3, 2, 1, 7}));
+  EXPECT_EQ(course().Course9NumberofCourses(), 2);
+  EXPECT_EQ(course().CourseALLName(1), "Alpha" + std::string(70, ' ') + "00003");
+  EXPECT_EQ(course().Course18Name(0),
+            ".(Rating\\Slope)   18 Hole away course" + std::string(38, ' ') + "00000");
+  EXPECT_EQ(course().Course9Name(0),
+            ".(Rating\\Slope)   9 Hole away course" + std::string(38, ' ') + "00000 ");
+  EXPECT_EQ(ErrorOf([&] { course().Course9Name(3); }), 9);
+  // What the lists read last stays: the last entry of the nine-hole list.
+  EXPECT_EQ(course().Name(),
+            "\xE9"
+            "clair");
+  EXPECT_EQ(course().Index(), 2);
+}
+
+TEST_F(CourseTest, StrayIndexesShowWhatTheyCan) {
+  OpenQuenby();
+  Append("One", 18);
+  Append("Two", 18);
+  const struct {
+    std::string index;
+    std::vector<std::string> entries;
+  } kCases[] = {{"", {}},
+                {"\x05", {}},
+                {IndexBytes({-3, 1}), {}},
+                {IndexBytes({9, 2, 1}), {"Two 2", "One 1"}},
+                {IndexBytes({1, 2, 1}), {"Two 2"}},
+                {IndexBytes({3, 7, -1, 2}), {" 7", " 0", "Two 2"}}};
+  for (const auto& c : kCases) {
+    install.folder.Write("qbdata/18CRSQB.INX", c.index);
+    install.state().files.Synchronize();
+    course().UpdateAllCourseLists();
+    std::vector<std::string> entries;
+    for (int i = 1; i <= course().Course18NumberofCourses(); ++i) {
+      const std::string& entry = course().Course18Name(i);
+      EXPECT_EQ(entry.size(), 80u);
+      entries.push_back(std::string(TrimRight(entry.substr(0, 75))) + " " +
+                        std::to_string(std::stoi(entry.substr(75))));
+    }
+    EXPECT_EQ(entries, c.entries);
+  }
+}
+
+TEST_F(CourseTest, ListsSeeWhatAnotherHasWritten) {
+  OpenQuenby();
+  Append("One", 18);
+  course().RebuildCourseIndexes(course().ActiveCoursesByName());
+  std::string bytes = install.folder.Read("qbdata/QBcrs.dat");
+  bytes.replace(4, 3, "Two");
+  install.folder.Write("qbdata/QBcrs.dat", bytes);
+  install.state().files.Synchronize();
+  course().UpdateAllCourseLists();
+  EXPECT_EQ(course().CourseALLName(1).substr(0, 3), "Two");
+}
+
+}  // namespace
+}  // namespace golf

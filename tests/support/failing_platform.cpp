@@ -1,0 +1,115 @@
+#include "support/failing_platform.h"
+
+#include <numeric>
+#include <utility>
+
+#include "core/text.h"
+
+namespace golf {
+
+class FailingPlatform::File : public PlatformFile {
+ public:
+  File(FailingPlatform& platform, std::string path, std::unique_ptr<PlatformFile> real)
+      : platform_(platform), path_(std::move(path)), real_(std::move(real)) {}
+
+  std::size_t ReadAt(std::int64_t offset, std::span<char> into) override {
+    platform_.Pass(Operation::kRead, path_);
+    return real_->ReadAt(offset, into);
+  }
+
+  void WriteAt(ChangePass pass, std::int64_t offset, std::string_view bytes,
+               std::size_t& written) override {
+    const bool fails = platform_.Failing(Operation::kWrite, path_);
+    written = 0;
+    if (fails) bytes = bytes.substr(0, platform_.fault_->bytes_first);
+    if (!fails || !bytes.empty()) {
+      real_->WriteAt(pass, offset, bytes, written);
+      platform_.Note({Operation::kWrite, path_, offset, written});
+    }
+    if (fails) platform_.Throw(path_);
+  }
+
+  void Truncate(ChangePass pass, std::int64_t length) override {
+    platform_.Pass(Operation::kTruncate, path_);
+    real_->Truncate(pass, length);
+    platform_.Note({Operation::kTruncate, path_, length});
+  }
+
+  std::int64_t Length() override {
+    platform_.Pass(Operation::kLength, path_);
+    return real_->Length();
+  }
+
+  FileIdentity Identity() const override { return real_->Identity(); }
+
+ private:
+  FailingPlatform& platform_;
+  std::string path_;
+  std::unique_ptr<PlatformFile> real_;
+};
+
+void FailingPlatform::Fail(Fault fault) {
+  fault_ = std::move(fault);
+  failed_ = false;
+}
+
+int FailingPlatform::CountAll() const { return std::accumulate(counts_.begin(), counts_.end(), 0); }
+
+bool FailingPlatform::Failing(Operation operation, const std::string& path) {
+  ++counts_[static_cast<std::size_t>(operation)];
+  if (!fault_ || fault_->only.value_or(operation) != operation) return false;
+  if (!EqualIgnoringCase(LastCharacters(path, fault_->name.size()), fault_->name)) return false;
+  --fault_->nth;
+  const bool fails = fault_->nth == 0 || (fault_->nth < 0 && fault_->stays);
+  failed_ = failed_ || fails;
+  return fails;
+}
+
+void FailingPlatform::Throw(const std::string& path) const {
+  throw NumberedError(fault_->error, path + " failed on purpose.");
+}
+
+void FailingPlatform::Pass(Operation operation, const std::string& path) {
+  if (Failing(operation, path)) Throw(path);
+}
+
+std::unique_ptr<PlatformFile> FailingPlatform::Open(const std::string& path, FileAccess access) {
+  Pass(Operation::kOpen, path);
+  return std::make_unique<File>(*this, path, real_.Open(path, access));
+}
+
+void FailingPlatform::Create(ChangePass pass, const std::string& path) {
+  Pass(Operation::kCreate, path);
+  real_.Create(pass, path);
+  Note({Operation::kCreate, path});
+}
+
+void FailingPlatform::CreateFolder(ChangePass pass, const std::string& path) {
+  Pass(Operation::kCreateFolder, path);
+  real_.CreateFolder(pass, path);
+  Note({Operation::kCreateFolder, path});
+}
+
+void FailingPlatform::Delete(ChangePass pass, const std::string& path) {
+  Pass(Operation::kDelete, path);
+  real_.Delete(pass, path);
+  Note({Operation::kDelete, path});
+}
+
+std::vector<std::string> FailingPlatform::FileNames(const std::string& folder) {
+  Pass(Operation::kList, folder);
+  return real_.FileNames(folder);
+}
+
+std::unique_ptr<RunLock> FailingPlatform::LockRun(const std::string& folder) {
+  Pass(Operation::kLock, folder);
+  return real_.LockRun(folder);
+}
+
+void FailingPlatform::StartProgram(const std::string& path, const std::string& arguments) {
+  Pass(Operation::kStart, path);
+  started_.push_back(path + " " + arguments);
+  if (starts_) real_.StartProgram(path, arguments);
+}
+
+}  // namespace golf

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "core/file_table.h"
+#include "support/error_of.h"
+#include "support/failing_platform.h"
+#include "support/temp_folder.h"
+
+namespace golf {
+
+// A real install folder, empty, under a platform that can fail, under a file table.
+class FilesTest : public testing::Test {
+ protected:
+  // The path of a file, its name being text.
+  std::string At(const std::string& name) const { return platform.ProgramFolder() + name; }
+
+  std::string Read(int number, std::int64_t record, std::size_t size) {
+    std::string bytes(size, '?');
+    files.ReadBytes(number, record, bytes);
+    return bytes;
+  }
+
+  TempFolder folder;
+  std::unique_ptr<Platform> real = MakePlatform(folder.Path());
+  FailingPlatform platform{*real};
+  FileTable files{platform};
+};
+
+}  // namespace golf

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace golf {
+
+// A folder that is gone, with all that is in it, when the test ends. Names are UTF-8 and may lead
+// into folders below it.
+class TempFolder {
+ public:
+  // `name` is the folder's own name; its parent makes it unique.
+  explicit TempFolder(std::string_view name = "install");
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+  ~TempFolder();
+
+  std::string Path(std::string_view name = "") const;
+  bool Exists(std::string_view name) const;
+
+  // Folders on the way are made.
+  void Write(std::string_view name, std::string_view bytes) const;
+  void MakeFolder(std::string_view name) const;
+  void Remove(std::string_view name) const;
+  // The whole file; fails the test where it cannot be read.
+  std::string Read(std::string_view name) const;
+
+ private:
+  std::filesystem::path At(std::string_view name) const;
+
+  std::filesystem::path parent_;
+  std::filesystem::path folder_;
+};
+
+}  // namespace golf

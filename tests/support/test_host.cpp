@@ -1,0 +1,46 @@
+#include "support/test_host.h"
+
+namespace golf {
+
+void RecordingListener::OnMessage(const Box& box, BoxButton answer) {
+  events.push_back("message [" + box.title + "] " + box.text + " -> " +
+                   std::string(NameOf(answer)));
+}
+
+void RecordingListener::OnInput(const InputBox& box, const std::string& answer) {
+  events.push_back("input [" + box.title + "] " + box.text + " -> " + answer);
+}
+
+void RecordingListener::OnTip(const TipView& tip, const std::string& answer) {
+  events.push_back("tip " + std::to_string(tip.type) + " [" + tip.title + "] " + tip.text + " -> " +
+                   answer);
+  if (on_tip) on_tip();
+}
+
+void RecordingListener::OnStart(const std::string& program, const std::string& arguments) {
+  events.push_back("start " + program.substr(program.rfind('/') + 1) + "|" + arguments);
+}
+
+void RecordingListener::OnError(const NumberedError& error) {
+  events.push_back("error " + std::to_string(error.number()));
+}
+
+TestInstall::TestInstall(bool with_folders) : real_(MakePlatform(folder.Path())) {
+  if (with_folders) {
+    for (const char* name : {"kvdata", "qbdata", "zddata"}) folder.MakeFolder(name);
+  }
+  Restart();
+}
+
+void TestInstall::Restart() {
+  host.reset();
+  auto failing = std::make_unique<FailingPlatform>(*real_);
+  platform = failing.get();
+  application = std::make_unique<Application>(std::move(failing));
+  application->Start(DateFromCivil({2024, 5, 13}), {});
+  host = std::make_unique<HeadlessHost>(state(), Application::Screens(), listener);
+  host->clock = [] { return DateFromCivil({2024, 5, 13}); };
+  listener.events.clear();
+}
+
+}  // namespace golf

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/application.h"
+#include "forms/headless_host.h"
+#include "support/failing_platform.h"
+#include "support/temp_folder.h"
+
+namespace golf {
+
+// Writes down what a host tells, a line for each event.
+class RecordingListener : public HostListener {
+ public:
+  std::vector<std::string> events;
+
+  void OnOpen(const Screen& screen) override { events.push_back("open " + screen.name()); }
+  void OnClose(const Screen& screen) override { events.push_back("close " + screen.name()); }
+  void OnMessage(const Box& box, BoxButton answer) override;
+  void OnInput(const InputBox& box, const std::string& answer) override;
+  void OnTip(const TipView& tip, const std::string& answer) override;
+  void OnBeep() override { events.push_back("beep"); }
+  void OnStart(const std::string& program, const std::string& arguments) override;
+  void OnError(const NumberedError& error) override;
+  void OnProgress(const Progress& progress) override {
+    if (on_progress) on_progress(progress);
+  }
+  void OnEnd() override { events.push_back("end"); }
+
+  std::function<void(const Progress&)> on_progress;
+  std::function<void()> on_tip;  // while the message is up
+};
+
+// The whole program without a display, over an install in a temporary folder whose file operations
+// can be made to fail.
+class TestInstall {
+ public:
+  // Folders kvdata, qbdata and zddata are made unless they are not wanted.
+  explicit TestInstall(bool with_folders = true);
+
+  // Starts the program anew on the same folder.
+  void Restart();
+
+  SharedState& state() { return application->state(); }
+  std::vector<std::string>& events() { return listener.events; }
+
+  TempFolder folder;
+  RecordingListener listener;
+  FailingPlatform* platform = nullptr;  // owned by the application
+  std::unique_ptr<Application> application;
+  std::unique_ptr<HeadlessHost> host;
+
+ private:
+  std::unique_ptr<Platform> real_;
+};
+
+}  // namespace golf
