@@ -23,14 +23,14 @@ need_packages() {
   done
   ((${#missing[@]})) || return 0
   say "Installing ${missing[*]}"
-  as_root apt-get -q update
+  as_root apt-get -qq update
   as_root env DEBIAN_FRONTEND=noninteractive \
-    apt-get -q install -y --no-install-recommends "${missing[@]}"
+    apt-get -qq install -y --no-install-recommends "${missing[@]}" >/dev/null
 }
 
 # build_preset NAME: brings build/NAME up to date.
 build_preset() {
   say "Building the $1 preset in build/$1"
   cmake --preset "$1" >/dev/null
-  cmake --build --preset "$1" --parallel "$(nproc)"
+  cmake --build --preset "$1" --parallel "$(nproc)" -- --quiet
 }

@@ -6,11 +6,6 @@
 namespace golf {
 namespace {
 
-struct FileKind {
-  std::string_view name;  // in capitals; "*" at the start stands for anything
-  LayoutInfo layout;
-};
-
 constexpr FileKind kKinds[] = {
     {"KVCRS.DAT", InfoOfLayout<CourseLayout>()},
     {"QBCRS.DAT", InfoOfLayout<CourseLayout>()},
@@ -25,6 +20,8 @@ bool Matches(std::string_view name, std::string_view pattern) {
 }
 
 }  // namespace
+
+std::span<const FileKind> FileKinds() { return kKinds; }
 
 std::optional<LayoutInfo> LayoutOfFile(std::string_view file_name) {
   const std::string name = UpperCase(file_name);
