@@ -13,6 +13,12 @@ if(GOLF_SANITIZE)
   target_link_options(golf_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# The system whose seams are built: core/platform_*, cli/console_*, and the tests' own.
+set(GOLF_SYSTEM posix)
+if(WIN32)
+  set(GOLF_SYSTEM windows)
+endif()
+
 # golf_room(NAME SOURCES... USES targets...): the static library golf_NAME.
 function(golf_room name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})

@@ -6,15 +6,26 @@
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
 #include "stores/course/course_class.h"
+#include "stores/kelvane/kelvane_buffers.h"
+#include "stores/quenby/program_class.h"
+#include "stores/quenby/team_records.h"
+#include "stores/quenby/tournament_control.h"
+#include "stores/quenby/tournament_players.h"
 #include "transfers/kv_courses_to_qb.h"
 
 namespace golf {
 namespace {
 
-// Each assignment lets the old object go.
+// Each assignment lets the old object go. Buffers are made once and stay.
 void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   objects.SpareCourse = std::make_shared<CourseClass>(state);
   objects.Course = std::make_shared<CourseClass>(state);
+  objects.Program = std::make_shared<ProgramClass>(state);
+  objects.Tournament = std::make_shared<TournamentControl>(state);
+  objects.Player = std::make_shared<TournamentPlayers>(state);
+  objects.Team1 = std::make_shared<TeamRecords>(state);
+  objects.Team2 = std::make_shared<TeamRecords>(state);
+  if (!objects.Kelvane) objects.Kelvane = std::make_shared<KelvaneBuffers>();
 }
 
 template <class AnyScreen>
@@ -37,6 +48,7 @@ void Application::Start(DateValue now, const RegionalOverrides& overrides) {
   RegionalForms forms = platform_->Regional();
   if (overrides.short_date) forms.short_date = *overrides.short_date;
   if (overrides.long_time) forms.long_time = *overrides.long_time;
+  if (!state_.Now) state_.Now = [now] { return now; };
   PrepareStart(state_, forms, now);
 }
 

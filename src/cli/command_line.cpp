@@ -1,6 +1,7 @@
 #include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <functional>
 #include <iostream>
 
@@ -62,8 +63,7 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& 
 // The arguments of all commands.
 struct Arguments {
   std::string demo_folder;
-  std::string list_what;
-  std::string library = "kv";
+  ListRequest list;
   DumpRequest dump;
   std::string script;
   bool start_programs = false;
@@ -77,17 +77,17 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
 
   CLI::App* list = AddCommand(app, "list", "List what there is to choose from",
                               "--install golf-demo list courses --library qb", chosen,
-                              [&] { return RunListCourses(options, args.library); });
-  list->add_option("WHAT", args.list_what, "courses")
+                              [&] { return RunList(options, args.list); });
+  list->add_option("WHAT", args.list.what, "What to list")
       ->required()
-      ->check(CLI::IsMember({"courses"}));
-  list->add_option("--library", args.library, "Whose courses: kv, qb or zd; kv if left out")
+      ->check(CLI::IsMember(ListNames()));
+  list->add_option("--library", args.list.library, "Whose courses: kv, qb or zd; kv if left out")
       ->check(CLI::IsMember({"kv", "qb", "zd"}));
 
   CLI::App* dump = AddCommand(app, "dump", "Show the records of a file, field by field",
                               "dump golf-demo/kvdata/kvcrs.dat --record 1", chosen,
                               [&] { return RunDump(options, args.dump); });
-  dump->add_option("FILE", args.dump.file, "A course file or a course index")->required();
+  dump->add_option("FILE", args.dump.file, "A file of Kelvane, Quenby or Zandel")->required();
   dump->add_option("--record", args.dump.record, "Only this record, from 1")->type_name("N");
   dump->add_flag("--csv", args.dump.csv, "A line a record, with a heading");
 
@@ -128,6 +128,7 @@ int RunCommandLine(int argc, const char* const* argv) {
   CLI::App app(kDescription, "golf-transfer-cli");
   app.footer(kExitCodes);
   app.set_version_flag("--version", "golf-transfer-cli " GOLF_VERSION);
+  app.allow_windows_style_options(false);  // a word means the same on every system
   app.require_subcommand(1);
   app.fallthrough();  // global options may stand behind the command, too
   Options options;
@@ -136,7 +137,9 @@ int RunCommandLine(int argc, const char* const* argv) {
   AddGlobalOptions(app, options);
   AddCommands(app, options, arguments, chosen);
   try {
-    app.parse(argc, argv);
+    std::vector<std::string> words = Utf8Arguments(argc, argv);
+    std::reverse(words.begin(), words.end());  // as the parser takes them
+    app.parse(std::move(words));
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? static_cast<int>(ExitCode::kDone)
                                 : static_cast<int>(ExitCode::kUsage);

@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <optional>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "cli/exit_code.h"
 #include "cli/options.h"
@@ -19,7 +21,13 @@ class Refusal : public std::runtime_error {
 };
 
 ExitCode RunDemo(const Options& options, const std::string& folder);
-ExitCode RunListCourses(const Options& options, const std::string& library);
+
+struct ListRequest {
+  std::string what;            // one of ListNames
+  std::string library = "kv";  // whose courses: "kv", "qb" or "zd"
+};
+std::vector<std::string> ListNames();
+ExitCode RunList(const Options& options, const ListRequest& request);
 
 struct DumpRequest {
   std::string file;

@@ -8,4 +8,8 @@ void PrepareConsole() {}
 
 bool ErrorOutputIsTerminal() { return isatty(STDERR_FILENO) != 0; }
 
+std::vector<std::string> Utf8Arguments(int argc, const char* const* argv) {
+  return {argv + 1, argv + argc};
+}
+
 }  // namespace golf

@@ -1,90 +1,52 @@
-#include <map>
+#include "cli/list_command.h"
 
-#include "cli/commands.h"
-#include "cli/json_text.h"
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
 #include "cli/plain_text.h"
-#include "core/text.h"
-#include "stores/course/course_class.h"
 
 namespace golf {
 namespace {
 
-struct Library {
-  const char* program;
-  std::string SharedState::*folder;
+struct ListKind {
+  std::string_view what;
+  void (*list)(SharedState&, const ListRequest&, ListWriter&);
 };
 
-const std::map<std::string, Library> kLibraries = {{"kv", {"KV", &SharedState::KVDataPath}},
-                                                   {"qb", {"QB", &SharedState::QBDataPath}},
-                                                   {"zd", {"ZD", &SharedState::ZDDataPath}}};
-
-std::string HolesText(const CourseClass& course) {
-  const int holes = course.HoleNumFlag();
-  return std::to_string(holes < 0 ? -holes : holes) + (holes == 9 ? "F" : holes == -9 ? "B" : "");
-}
-
-struct ListedTee {
-  int number;
-  std::string name;
-  std::string abbreviation;
-};
-
-std::vector<ListedTee> TeesOf(const CourseClass& course) {
-  std::vector<ListedTee> tees;
-  for (int i = 1; i <= course.TeeNumberofTees(); ++i) {
-    const int tee = course.TeeAllTees(i).back() - '0';
-    const std::string letter = course.TeeNameAbv(int{tee});
-    tees.push_back({tee, course.TeeName(int{tee}), std::string(Trim(letter))});
-  }
-  return tees;
-}
-
-Json CourseObject(const CourseClass& course, std::int32_t number) {
-  Json tees = Json::array();
-  for (const ListedTee& tee : TeesOf(course)) {
-    tees.push_back({{"number", tee.number},
-                    {"name", JsonText(tee.name)},
-                    {"abbreviation", JsonText(tee.abbreviation)}});
-  }
-  return {{"number", number},
-          {"name", JsonText(course.Name())},
-          {"holes", HolesText(course)},
-          {"link", course.KVCourseNum()},
-          {"tees", tees}};
-}
-
-std::vector<std::string> CourseRow(const CourseClass& course, std::int32_t number) {
-  std::string tees;
-  for (const ListedTee& tee : TeesOf(course)) {
-    tees += (tees.empty() ? "" : ", ") + std::to_string(tee.number) + " " + tee.name;
-  }
-  const int link = course.KVCourseNum();
-  return {std::to_string(number), PlainText(course.Name()), HolesText(course),
-          link == 0 ? "-" : std::to_string(link), PlainText(tees)};
-}
+constexpr ListKind kKinds[] = {{"rosters", ListRosters},
+                               {"courses", ListCourses},
+                               {"tournaments", ListTournaments},
+                               {"qb-rosters", ListQuenbyRosters}};
 
 }  // namespace
 
-ExitCode RunListCourses(const Options& options, const std::string& library) {
-  const Library& chosen = kLibraries.at(library);
-  const auto application = StartApplication(options);
-  SharedState& state = application->state();
-  state.files.gate().RefuseChanges();
-  state.CourseDataPath = state.*chosen.folder;
-  CourseClass& course = state.Course();
-  course.SetActiveProgram(chosen.program);
-  course.OpenCourseFile();
-  std::vector<std::vector<std::string>> rows;
-  for (std::int32_t number = 1; number <= course.CourseFileLength(); ++number) {
-    course.GetRecord(number);
-    if (course.activeflag() == 0) continue;
-    if (options.json) {
-      WriteJsonLine(CourseObject(course, number));
-    } else {
-      rows.push_back(CourseRow(course, number));
-    }
+void ListWriter::Add(const Json& object, std::vector<std::string> cells) {
+  if (json_) {
+    WriteJsonLine(object);
+  } else {
+    rows_.push_back(std::move(cells));
   }
-  if (!options.json) WriteTable({"No.", "Course", "Holes", "Kelvane", "Tees"}, rows);
+}
+
+void ListWriter::Finish() const {
+  if (!json_) WriteTable(headings_, rows_);
+}
+
+std::vector<std::string> ListNames() {
+  std::vector<std::string> names;
+  for (const ListKind& kind : kKinds) names.emplace_back(kind.what);
+  return names;
+}
+
+ExitCode RunList(const Options& options, const ListRequest& request) {
+  const auto kind = std::find_if(std::begin(kKinds), std::end(kKinds),
+                                 [&](const ListKind& known) { return known.what == request.what; });
+  const auto application = StartApplication(options);
+  application->state().files.gate().RefuseChanges();
+  ListWriter out(options.json);
+  kind->list(application->state(), request, out);
+  out.Finish();
   return ExitCode::kDone;
 }
 

@@ -135,4 +135,17 @@ std::string FormatPicture(const CivilTime& civil, std::string_view picture) {
   return text;
 }
 
+bool IsDate(DateValue date) {
+  static const DateValue kFirst = DateFromCivil({100, 1, 1});
+  static const DateValue kBehindLast = DateFromCivil({9999, 12, 31}) + 1;
+  return date >= kFirst && date < kBehindLast;
+}
+
+std::string FormatDay(DateValue date, std::string_view date_format) {
+  if (!IsDate(date)) return {};
+  std::string picture(date_format);
+  std::replace(picture.begin(), picture.end(), 'm', 'M');
+  return FormatPicture(CivilFromDate(std::trunc(date)), picture);
+}
+
 }  // namespace golf

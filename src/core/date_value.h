@@ -30,4 +30,10 @@ bool ParseMoment(std::string_view text, CivilTime& moment);
 // in single quotes, any other character for itself. Names of days and months are English.
 std::string FormatPicture(const CivilTime& civil, std::string_view picture);
 
+// Finite, and in the years 100 to 9999.
+bool IsDate(DateValue date);
+
+// The day of `date` in a date format such as "dd.mm.yy"; empty for a value that is no date.
+std::string FormatDay(DateValue date, std::string_view date_format);
+
 }  // namespace golf

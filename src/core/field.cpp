@@ -1,5 +1,7 @@
 #include "core/field.h"
 
+#include <algorithm>
+
 #include "core/little_endian.h"
 #include "core/numbered_error.h"
 
@@ -15,16 +17,13 @@ namespace {
 
 std::size_t Field::OffsetOf(std::span<const int> indexes) const {
   if (indexes.size() != rank) FailSubscript(*this);
-  std::size_t element = 0;
-  for (std::size_t step = 0; step < rank; ++step) {
-    // The slowest index first.
-    const std::size_t i = order == StorageOrder::kFirstIndexFastest ? rank - 1 - step : step;
+  std::size_t at = offset;
+  for (std::size_t i = 0; i < rank; ++i) {
     const int position = indexes[i] - dimensions[i].base;
     if (position < 0 || position >= dimensions[i].count) FailSubscript(*this);
-    element = element * static_cast<std::size_t>(dimensions[i].count) +
-              static_cast<std::size_t>(position);
+    at += static_cast<std::size_t>(position) * strides[i];
   }
-  return offset + element * width;
+  return at;
 }
 
 FieldValue ReadFieldValue(const Field& field, std::string_view record, std::size_t offset) {
@@ -47,6 +46,36 @@ FieldValue ReadFieldValue(const Field& field, std::string_view record, std::size
       break;
   }
   return std::string(record.substr(offset, field.width));
+}
+
+void FillField(const Field& field, std::span<char> record, double number) {
+  for (std::size_t n = 0; n < field.Count(); ++n) {
+    char* at = record.data() + field.OffsetOfNth(n);
+    switch (field.type) {
+      case FieldType::kByte:
+        StoreLittleEndian(at, static_cast<std::uint8_t>(number));
+        break;
+      case FieldType::kInt16:
+        StoreLittleEndian(at, static_cast<std::int16_t>(number));
+        break;
+      case FieldType::kInt32:
+        StoreLittleEndian(at, static_cast<std::int32_t>(number));
+        break;
+      case FieldType::kSingle:
+        StoreLittleEndian(at, static_cast<float>(number));
+        break;
+      case FieldType::kDouble:
+      case FieldType::kDate:
+        StoreLittleEndian(at, number);
+        break;
+      case FieldType::kCurrency:
+        StoreLittleEndian(at, static_cast<std::int64_t>(number));
+        break;
+      case FieldType::kText:
+        std::fill_n(at, field.width, ' ');
+        break;
+    }
+  }
 }
 
 }  // namespace golf

@@ -38,8 +38,6 @@ struct Dimension {
   int count = 1;
 };
 
-enum class StorageOrder : std::uint8_t { kFirstIndexFastest, kLastIndexFastest };
-
 // One field of a record: where its bytes lie and what they mean. A field without a name is bytes
 // that mean nothing to us and are kept as they are.
 struct Field {
@@ -51,28 +49,59 @@ struct Field {
   std::size_t width = 1;  // bytes of one value
   std::size_t rank = 0;   // number of indexes
   std::array<Dimension, kMaxRank> dimensions{};
-  StorageOrder order = StorageOrder::kFirstIndexFastest;
+  std::array<std::size_t, kMaxRank> strides{};  // bytes from one value to the next, by index
 
   constexpr std::size_t Count() const {
     std::size_t count = 1;
     for (std::size_t i = 0; i < rank; ++i) count *= static_cast<std::size_t>(dimensions[i].count);
     return count;
   }
+  // Bytes of all values.
   constexpr std::size_t Size() const { return Count() * width; }
 
-  // The same field as a table.
+  // The same field as a table of which the first index is stored fastest.
   template <class... Dimensions>
   constexpr Field By(Dimensions... given) const {
     static_assert(sizeof...(given) <= kMaxRank);
     Field table = *this;
     table.rank = sizeof...(given);
     table.dimensions = {given...};
+    std::size_t stride = width;
+    for (std::size_t i = 0; i < table.rank; ++i) {
+      table.strides[i] = stride;
+      stride *= static_cast<std::size_t>(table.dimensions[i].count);
+    }
+    return table;
+  }
+
+  // The same field in each of several entries that follow each other, `stride` bytes apart: the
+  // entry is the first index.
+  constexpr Field InEach(Dimension entries, std::size_t stride) const {
+    Field table = *this;
+    for (std::size_t i = rank; i > 0; --i) {
+      table.dimensions[i] = dimensions[i - 1];
+      table.strides[i] = strides[i - 1];
+    }
+    table.dimensions[0] = entries;
+    table.strides[0] = stride;
+    table.rank = rank + 1;
     return table;
   }
 
   // Where in the record the value with these indexes starts. Error 9 for an index outside its
   // bounds, or for as many indexes as the field does not have.
   std::size_t OffsetOf(std::span<const int> indexes) const;
+
+  // Where the n-th value starts, n from 0, the last index counting fastest.
+  constexpr std::size_t OffsetOfNth(std::size_t n) const {
+    std::size_t at = offset;
+    for (std::size_t i = rank; i-- > 0;) {
+      const auto count = static_cast<std::size_t>(dimensions[i].count);
+      at += n % count * strides[i];
+      n /= count;
+    }
+    return at;
+  }
 };
 
 constexpr Field MakeField(std::string_view name, FieldType type, std::size_t offset) {
@@ -106,14 +135,22 @@ constexpr Field KeptBytes(std::size_t offset, std::size_t width) {
   return {"", FieldType::kText, offset, width};
 }
 
-// True if the fields, in their order, cover `length` bytes with no gap and no overlap.
-constexpr bool FieldsTile(std::span<const Field> fields, std::size_t length) {
-  std::size_t next = 0;
+// True if the fields cover the record with no gap and no overlap.
+template <std::size_t kLength>
+constexpr bool FieldsTile(std::span<const Field> fields) {
+  std::array<bool, kLength> covered{};
+  std::size_t size = 0;
   for (const Field& field : fields) {
-    if (field.offset != next || field.width == 0) return false;
-    next += field.Size();
+    size += field.Size();
+    for (std::size_t n = 0; n < field.Count(); ++n) {
+      const std::size_t start = field.OffsetOfNth(n);
+      for (std::size_t at = start; at < start + field.width; ++at) {
+        if (at >= kLength || covered[at]) return false;
+        covered[at] = true;
+      }
+    }
   }
-  return next == length;
+  return size == kLength;
 }
 
 // A layout as data, for whoever walks records without knowing them.
@@ -125,7 +162,7 @@ struct LayoutInfo {
 
 template <class Layout>
 constexpr LayoutInfo InfoOfLayout() {
-  static_assert(FieldsTile(Layout::kFields, Layout::kLength));
+  static_assert(FieldsTile<Layout::kLength>(Layout::kFields));
   return {Layout::kName, Layout::kLength, Layout::kFields};
 }
 
@@ -133,5 +170,8 @@ using FieldValue = std::variant<std::int64_t, float, double, std::string>;
 
 // The value at `offset` of a record's bytes. Currency comes as the stored integer.
 FieldValue ReadFieldValue(const Field& field, std::string_view record, std::size_t offset);
+
+// Sets every value of a field: numbers to `number`, which must fit, texts to blanks.
+void FillField(const Field& field, std::span<char> record, double number);
 
 }  // namespace golf

@@ -66,15 +66,24 @@ void FileTable::WriteBytes(int number, std::int64_t record, std::string_view fro
   written.Write(record, from);
 }
 
+std::vector<std::string> FileTable::FilesLike(const std::string& folder, std::string_view pattern) {
+  const std::string wanted = UpperCase(pattern);
+  std::vector<std::string> names = platform_.FileNames(folder);
+  std::erase_if(names, [&](const std::string& name) {
+    return !wanted.empty() && !MatchesPattern(UpperCase(name), wanted);
+  });
+  std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+    const int order = CompareIgnoringCase(a, b);
+    return order == 0 ? a < b : order < 0;
+  });
+  return names;
+}
+
 bool FileTable::FileExists(const std::string& path) {
   const std::size_t cut = path.rfind(platform_.Separator());
   const std::size_t name_start = cut == std::string::npos ? 0 : cut + 1;
-  const std::string name = UpperCase(std::string_view(path).substr(name_start));
   try {
-    const auto names = platform_.FileNames(path.substr(0, name_start));
-    return std::any_of(names.begin(), names.end(), [&](const std::string& found) {
-      return name.empty() || MatchesPattern(UpperCase(found), name);
-    });
+    return !FilesLike(path.substr(0, name_start), path.substr(name_start)).empty();
   } catch (const NumberedError&) {
     return false;
   }

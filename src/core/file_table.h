@@ -41,6 +41,11 @@ class FileTable {
   std::int64_t CountRounded(int number, std::size_t record_length);
 
   template <class Layout>
+  std::int32_t RecordCount(int number) {  // truncated
+    return static_cast<std::int32_t>(CountTruncated(number, Layout::kLength));
+  }
+
+  template <class Layout>
   void Read(int number, std::int64_t record, Record<Layout>& into) {
     ReadBytes(number, record, into.MutableBytes());
   }
@@ -57,7 +62,10 @@ class FileTable {
   // True if a search for the name finds a normal file; "*" and "?" in its last part stand for any
   // characters and any one, and a path that ends in a separator for any name.
   bool FileExists(const std::string& path);
-  // A failure is swallowed.
+  // The normal files of a folder that a pattern of such characters finds, sorted by their names in
+  // capitals.
+  std::vector<std::string> FilesLike(const std::string& folder, std::string_view pattern);
+  // A failure is swallowed, but not one of writes that were still to be made.
   void DeleteFile(const std::string& path);
 
   // The point at which anybody may look at the files: hands joined writes to the system and

@@ -12,6 +12,9 @@
 namespace golf {
 namespace {
 
+// Lifts a handicap that a single holds a little too low, such as 12.49999, to its next cent.
+constexpr double kHandicapNudge = 0.00001;
+
 // |value| = 0.digits x 10^point, without leading or trailing zeros; no digits for zero.
 struct Decimal {
   std::string digits;
@@ -209,6 +212,14 @@ std::string FormatNumber(std::int64_t value, std::string_view pattern) {
   const bool negative = value < 0;
   const auto magnitude = static_cast<std::uint64_t>(value);
   return Formatted(WholeDecimal(negative ? 0 - magnitude : magnitude), negative, pattern);
+}
+
+std::string FormatPlusHandicap(double value, bool decimals) {
+  return FormatNumber(value + kHandicapNudge, decimals ? "0.00;+0.00" : "0;+0");
+}
+
+std::string FormatSignedHandicap(double value, bool decimals) {
+  return FormatNumber(value + kHandicapNudge, decimals ? "0.00;-0.00" : "0;-0");
 }
 
 std::int16_t RoundToInt16(double value) { return RoundTo<std::int16_t>(value); }

@@ -25,6 +25,11 @@ inline std::string FormatNumber(int value, std::string_view pattern) {
   return FormatNumber(std::int64_t{value}, pattern);
 }
 
+// The two forms in which handicaps are shown, with two decimals or none. One below zero is better
+// than par: the plus form shows it with a plus sign, the signed form with its minus.
+std::string FormatPlusHandicap(double value, bool decimals);
+std::string FormatSignedHandicap(double value, bool decimals);
+
 // Whole numbers by rounding half to even. Error 6 where the result leaves the width, and for NaN.
 std::int16_t RoundToInt16(double value);
 std::int32_t RoundToInt32(double value);

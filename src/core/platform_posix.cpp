@@ -16,8 +16,8 @@
 #include <utility>
 
 #include "core/code_page.h"
-#include "core/numbered_error.h"
 #include "core/platform.h"
+#include "core/platform_errors.h"
 #include "core/text.h"
 
 extern char** environ;
@@ -27,39 +27,33 @@ namespace {
 
 struct ErrnoMeaning {
   int code;
-  ErrorNumber number;
-  std::string_view text;  // %1 is the file
+  PlatformFault fault;
 };
 
 constexpr ErrnoMeaning kMeanings[] = {
-    {EWOULDBLOCK, ErrorNumber::kPermissionDenied,
-     "Another program holds %1. Close that program, then try again."},
-    {EBUSY, ErrorNumber::kPermissionDenied,
-     "Another program holds %1. Close that program, then try again."},
-    {ENOSPC, ErrorNumber::kDiskFull, "The disk is full: %1 could not be written."},
-    {EDQUOT, ErrorNumber::kDiskFull, "The disk quota is used up: %1 could not be written."},
-    {EFBIG, ErrorNumber::kDiskFull, "%1 would become larger than this disk allows."},
-    {EACCES, ErrorNumber::kPathAccess, "Access to %1 is refused."},
-    {EPERM, ErrorNumber::kPathAccess, "Access to %1 is refused."},
-    {EROFS, ErrorNumber::kPathAccess, "%1 lies on a disk that may only be read."},
-    {EISDIR, ErrorNumber::kPathAccess, "%1 is a folder."},
-    {EEXIST, ErrorNumber::kPathAccess, "%1 is there already."},
-    {ENOTDIR, ErrorNumber::kPathNotFound, "The folder of %1 is not there."},
-    {ENOENT, ErrorNumber::kFileNotFound, "%1 is not there."},
-    {ENAMETOOLONG, ErrorNumber::kFileNotFound, "%1 is not there: its name is too long."},
-    {EMFILE, ErrorNumber::kTooManyFiles, "Too many files are open: %1 could not be opened."},
-    {ENFILE, ErrorNumber::kTooManyFiles, "Too many files are open: %1 could not be opened."},
+    {EWOULDBLOCK, PlatformFault::kHeld},
+    {EBUSY, PlatformFault::kHeld},
+    {ENOSPC, PlatformFault::kDiskFull},
+    {EDQUOT, PlatformFault::kQuotaUsedUp},
+    {EFBIG, PlatformFault::kTooLarge},
+    {EACCES, PlatformFault::kRefused},
+    {EPERM, PlatformFault::kRefused},
+    {EROFS, PlatformFault::kReadOnlyDisk},
+    {EISDIR, PlatformFault::kIsFolder},
+    {EEXIST, PlatformFault::kIsThere},
+    {ENOTDIR, PlatformFault::kNoFolder},
+    {ENOENT, PlatformFault::kNoFile},
+    {ENAMETOOLONG, PlatformFault::kNameTooLong},
+    {EMFILE, PlatformFault::kTooManyFiles},
+    {ENFILE, PlatformFault::kTooManyFiles},
 };
 
 [[noreturn]] void FailWith(int code, std::string_view native) {
   const std::string path = TextFromUtf8(native);
   for (const ErrnoMeaning& meaning : kMeanings) {
-    if (meaning.code != code) continue;
-    std::string text(meaning.text);
-    throw NumberedError(meaning.number, text.replace(text.find("%1"), 2, path));
+    if (meaning.code == code) throw PlatformError(meaning.fault, path);
   }
-  throw NumberedError(ErrorNumber::kDeviceFault,
-                      "A device fault with " + path + ": " + std::strerror(code) + ".");
+  throw DeviceFault(path, std::strerror(code));
 }
 
 class Descriptor {
@@ -257,9 +251,7 @@ class PosixPlatform : public Platform {
       return std::make_unique<PosixRunLock>(std::move(descriptor));
     }
     if (errno != EWOULDBLOCK) return nullptr;
-    throw NumberedError(
-        ErrorNumber::kPermissionDenied,
-        "Another transfer is running in " + folder + ". Wait until it has ended, then try again.");
+    throw AnotherRun(folder);
   }
 
   void StartProgram(const std::string& path, const std::string& arguments) override {
@@ -343,10 +335,7 @@ std::string Absolute(const std::string& native) {
 std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
   std::string folder = utf8_folder.empty() ? OwnFolder() : Absolute(utf8_folder);
   if (!folder.ends_with('/')) folder += '/';
-  if (!IsFolder(folder)) {
-    throw NumberedError(ErrorNumber::kPathNotFound,
-                        "There is no folder " + TextFromUtf8(utf8_folder) + ".");
-  }
+  if (!IsFolder(folder)) throw NoInstall(TextFromUtf8(utf8_folder));
   return std::make_unique<PosixPlatform>(folder);
 }
 

@@ -78,7 +78,7 @@ struct ValueOf<FieldType::kText> {
 // bounds is error 9.
 template <class Layout>
 class Record {
-  static_assert(FieldsTile(Layout::kFields, Layout::kLength),
+  static_assert(FieldsTile<Layout::kLength>(Layout::kFields),
                 "the fields must cover the record with no gap and no overlap");
 
  public:
@@ -114,6 +114,12 @@ class Record {
     } else {
       StoreLittleEndian(at, value);
     }
+  }
+
+  // Sets every value of a field, a table or not: numbers to `number`, texts to blanks.
+  template <FieldName kName>
+  void Fill(double number = 0) {
+    FillField(FieldOf<Layout, kName>(), bytes_, number);
   }
 
   std::string_view Bytes() const { return {bytes_.data(), bytes_.size()}; }

@@ -4,19 +4,33 @@
 #include <memory>
 #include <string>
 
+#include "core/date_value.h"
 #include "core/file_table.h"
+#include "core/id_number_list.h"
 #include "core/regional_forms.h"
 
 namespace golf {
 
 class CourseClass;
+class ProgramClass;
 class SharedState;
+class TeamRecords;
+class TournamentControl;
+class TournamentPlayers;
+struct KelvaneBuffers;
 
 // The store objects that all screens work on. This room knows their names only; the composition
 // root makes them.
 struct StoreObjects {
   std::shared_ptr<CourseClass> SpareCourse;
   std::shared_ptr<CourseClass> Course;
+  std::shared_ptr<ProgramClass> Program;
+  std::shared_ptr<TournamentControl> Tournament;
+  std::shared_ptr<TournamentPlayers> Player;
+  std::shared_ptr<TeamRecords> Team1;
+  std::shared_ptr<TeamRecords> Team2;
+  // Record buffers, which are made once and stay.
+  std::shared_ptr<KelvaneBuffers> Kelvane;
 };
 
 // Puts new objects into the place of the old ones, in the order of the members.
@@ -52,6 +66,17 @@ class SharedState {
   // Nobody keeps these references across InitSharedObjects.
   CourseClass& SpareCourse() { return *objects_.SpareCourse; }
   CourseClass& Course() { return *objects_.Course; }
+  ProgramClass& Program() { return *objects_.Program; }
+  TournamentControl& Tournament() { return *objects_.Tournament; }
+  TournamentPlayers& Player() { return *objects_.Player; }
+  TeamRecords& Team1() { return *objects_.Team1; }
+  TeamRecords& Team2() { return *objects_.Team2; }
+
+  KelvaneBuffers& Kelvane() { return *objects_.Kelvane; }
+  IdNumberList id_numbers;
+
+  // The present moment, as the front end gives it.
+  std::function<DateValue()> Now;
 
   // Closes every file of the process and makes the shared objects anew. If joined writes could not
   // reach the disk their error is raised after all of that is done.

@@ -4,6 +4,29 @@
 #include <utility>
 
 namespace golf {
+namespace {
+
+// A screen that a run puts before the operator takes his input, as a box does.
+class InputTaken {
+ public:
+  explicit InputTaken(bool& in_run) : in_run_(in_run), before_(std::exchange(in_run, false)) {}
+  InputTaken(const InputTaken&) = delete;
+  InputTaken& operator=(const InputTaken&) = delete;
+  ~InputTaken() { in_run_ = before_; }
+
+ private:
+  bool& in_run_;
+  bool before_;
+};
+
+}  // namespace
+
+HostBase::HostBase(SharedState& state, ScreenCatalogue catalogue)
+    : state_(state), catalogue_(std::move(catalogue)) {
+  state_.Now = [this] { return Now(); };
+}
+
+HostBase::~HostBase() { state_.Now = nullptr; }
 
 void HostBase::Operate(Screen& screen, const std::function<void()>& event) {
   const std::shared_ptr<Screen> alive = screen.shared_from_this();
@@ -56,8 +79,8 @@ Screen& HostBase::Load(std::string_view name) {
 void HostBase::BringUp(Screen& screen) {
   state_.files.Synchronize();
   shown_.push_back(&screen);
-  Open(screen);
   try {
+    Open(screen);
     screen.OnActivate();
   } catch (const NumberedError&) {
     Drop(screen);
@@ -68,7 +91,9 @@ void HostBase::BringUp(Screen& screen) {
 void HostBase::ShowModal(Screen& screen) {
   const std::shared_ptr<Screen> alive = screen.shared_from_this();
   BringUp(screen);
-  if (IsShown(screen)) RunModal(screen);
+  if (!IsShown(screen)) return;
+  const InputTaken taken(in_run_);
+  RunModal(screen);
 }
 
 void HostBase::Show(Screen& screen) {

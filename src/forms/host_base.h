@@ -19,8 +19,9 @@ using ScreenCatalogue = std::map<std::string, ScreenMaker, std::less<>>;
 // ends, and that files are in order whenever the operator may look.
 class HostBase : public ScreenHost {
  public:
-  HostBase(SharedState& state, ScreenCatalogue catalogue)
-      : state_(state), catalogue_(std::move(catalogue)) {}
+  // The present moment of the shared state is this host's as long as it lives.
+  HostBase(SharedState& state, ScreenCatalogue catalogue);
+  ~HostBase() override;
 
   // Runs what one event of the operator does, on a screen where there is one. A numbered error that
   // nothing in it takes ends it and goes to ErrorEndsClick. In a run nothing is taken in.

@@ -19,11 +19,8 @@ struct Sample {
       CurrencyField("Money", 27),
       TextField("Name", 35, 4),
       Int16Field("Columns", 39).By(Dimension{1, 2}, Dimension{0, 3}),
-      [] {
-        Field rows = ByteField("Rows", 51).By(Dimension{1, 2}, Dimension{0, 3});
-        rows.order = StorageOrder::kLastIndexFastest;
-        return rows;
-      }(),
+      // Entries of three bytes that follow each other.
+      ByteField("Rows", 51).By(Dimension{0, 3}).InEach(Dimension{1, 2}, 3),
       TextField("Lines", 57, 3).By(Dimension{-1, 2}),
       KeptBytes(63, 2),
   };
@@ -98,10 +95,10 @@ TEST(Record, AnIndexOutsideItsBoundsIsError9) {
   EXPECT_EQ(record.Bytes(), std::string(Sample::kLength, '\0'));
 }
 
-static_assert(FieldsTile(Sample::kFields, Sample::kLength));
-static_assert(!FieldsTile(Sample::kFields, Sample::kLength + 1));
-static_assert(!FieldsTile(std::array{ByteField("a", 0), ByteField("b", 2)}, 3));
-static_assert(!FieldsTile(std::array{Int16Field("a", 0), ByteField("b", 1)}, 2));
+static_assert(FieldsTile<Sample::kLength>(Sample::kFields));
+static_assert(!FieldsTile<Sample::kLength + 1>(Sample::kFields));
+static_assert(!FieldsTile<3>(std::array{ByteField("a", 0), ByteField("b", 2)}));
+static_assert(!FieldsTile<2>(std::array{Int16Field("a", 0), ByteField("b", 1)}));
 
 }  // namespace
 }  // namespace golf

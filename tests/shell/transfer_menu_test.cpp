@@ -9,9 +9,9 @@ namespace {
 
 using Events = std::vector<std::string>;
 
-std::string Missing(const TestInstall& install, const std::string& name) {
+std::string Missing(TestInstall& install, const std::string& name) {
   return "message [Notice] Cannot transfer data because the " + name +
-         " program is not installed in the '" + install.folder.Path() + "/' folder -> OK";
+         " program is not installed in the '" + install.state().ProgramPath + "' folder -> OK";
 }
 
 // Opens the menu, presses a button and leaves by Close.

@@ -18,7 +18,7 @@ void RecordingListener::OnTip(const TipView& tip, const std::string& answer) {
 }
 
 void RecordingListener::OnStart(const std::string& program, const std::string& arguments) {
-  events.push_back("start " + program.substr(program.rfind('/') + 1) + "|" + arguments);
+  events.push_back("start " + program.substr(program.find_last_of("/\\") + 1) + "|" + arguments);
 }
 
 void RecordingListener::OnError(const NumberedError& error) {

@@ -1,6 +1,8 @@
 #include "app/demo/demo_install.h"
 
 #include "app/demo/demo_courses.h"
+#include "app/demo/demo_kelvane.h"
+#include "app/demo/demo_quenby.h"
 
 namespace golf {
 
@@ -9,6 +11,8 @@ void MakeDemoInstall(SharedState& state) {
     state.files.gate().CreateFolder(folder->substr(0, folder->size() - 1));
   }
   MakeDemoCourses(state);
+  MakeDemoKelvaneRosters(state);
+  MakeDemoQuenby(state);
 }
 
 }  // namespace golf

@@ -67,8 +67,7 @@ void CourseClass::OpenCourseIndexFile(std::string_view list_name) {
 }
 
 std::int32_t CourseClass::CourseFileLength() {
-  return RoundToInt32(
-      static_cast<double>(state_.files.CountTruncated(course_file_, CourseLayout::kLength)));
+  return state_.files.RecordCount<CourseLayout>(course_file_);
 }
 
 void CourseClass::CopyCourseRecord(std::int32_t from_record, std::int32_t from_file,

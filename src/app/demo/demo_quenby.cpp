@@ -1,0 +1,122 @@
+#include "app/demo/demo_quenby.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "app/demo/demo_golfers.h"
+#include "stores/quenby/program_class.h"
+#include "stores/quenby/team_records.h"
+#include "stores/quenby/tournament_control.h"
+#include "stores/quenby/tournament_players.h"
+
+namespace golf {
+namespace {
+
+constexpr std::int32_t kTournament = 1;
+constexpr int kRoundsPlayed = 2;
+constexpr int kTeamSize = 4;
+constexpr std::int32_t kFirstGolfer = 10;     // the records below are never given to a golfer
+constexpr std::size_t kMembersInQuenby = 10;  // the others are still to be transferred
+constexpr CivilTime kFirstRound{2024, 9, 14};
+
+void MakeMaster(ProgramClass& program) {
+  program.OpenMasterFile();
+  program.SetActiveRoster(1);
+  program.SetActiveTournament(kTournament);
+  for (int i = 1; i <= 10; ++i) program.SetMiscTextFieldName(i, "Text " + std::to_string(i));
+  for (int i = 1; i <= 5; ++i) {
+    program.SetMiscDateFieldName(i, "Date " + std::to_string(i));
+    program.SetMiscCurrFieldName(i, "Amount " + std::to_string(i));
+  }
+  program.SaveMasterRecord();
+}
+
+void MakeRosterList(ProgramClass& program) {
+  program.OpenRosterListFile();
+  int number = 0;
+  for (const char* name : {"Larkfield Members", "Invitation Guests"}) {
+    program.SetIsRosterActive(true);
+    program.SetClubName(name);
+    program.SetClubAddress(1, "1 Club House Lane");
+    program.SetClubPhone("555-0100");
+    program.SaveRosterRecord(++number);
+  }
+}
+
+void MakeGolfers(TournamentPlayers& player) {
+  player.OpenRosterFile();
+  std::int32_t record = kFirstGolfer;
+  for (const DemoGolfer& golfer : DemoMembers().first(kMembersInQuenby)) {
+    player.BlankPlayerRecord();
+    player.SetIDNum(golfer.id);
+    player.SetNameFirst(golfer.first);
+    player.SetNameLast(golfer.last);
+    player.Setsex(golfer.lady ? "F" : "M");
+    player.SetFlight(std::string(1, golfer.flight));
+    double group = 1;
+    player.SetGroupTee(group);
+    player.SetIndex(golfer.index);
+    player.SetHandicap(golfer.handicap);
+    player.SetRosters(1, golfer.id % 5 == 0 ? 2 : 1);
+    player.SaveRecord(record++, false);
+  }
+}
+
+void MakeControl(TournamentControl& tournament) {
+  tournament.CreateBlankTournament(kTournament);
+  tournament.SetName("Autumn Medal");
+  tournament.SetNumRounds(kRoundsPlayed);
+  tournament.SetNumTeams(3);
+  tournament.SetTeamNamesMat("Team #");
+  tournament.SetHandicapMax(0, 36);
+  tournament.SetHandicapMax(1, 40);
+  tournament.SetShowTeamsonSheet(true);
+  for (int round = 1; round <= kRoundsPlayed; ++round) {
+    tournament.SetDateofRound(round, DateFromCivil(kFirstRound) + round - 1);
+    tournament.SetCourseNumberPlayed(round, 3 - round);
+    tournament.SetTeeNumberPlayed(0, 1, round, 2);
+    tournament.SetTeeNumberPlayed(1, 1, round, 3);
+  }
+  tournament.SaveRecord();
+}
+
+void FillEntry(TournamentPlayers& player, std::int32_t record, int place) {
+  const DemoGolfer& golfer = DemoMembers()[static_cast<std::size_t>(place)];
+  player.TourBlankPlayerRecord();
+  player.SetTourRosterRecordPointer(record);
+  for (int round = 1; round <= kRoundsPlayed; ++round) {
+    player.SetTourTeamOn(round, place / kTeamSize + 1);
+    player.SetTourTeamPositionIn(round, place % kTeamSize + 1);
+    player.SetTourIndex(round, golfer.index);
+    player.SetTourGrossHandicap(round, golfer.handicap);
+    player.SetTourFlight(round, std::string(1, golfer.flight));
+  }
+  const int over = static_cast<int>(std::lround(golfer.handicap / 18));
+  for (int hole = 1; hole <= kHoles; ++hole) {
+    const int wobble = (place * 5 + hole * 3) % 4 - 1;
+    player.SetTourScoreGross(hole, 1, std::max(2, 4 + over + wobble / 2));
+  }
+  player.SetTourPutts(1, 30 + place % 6);
+}
+
+void MakeEntries(TournamentPlayers& player) {
+  player.TourOpenTournamentFile(kTournament);
+  for (int place = 0; place < static_cast<int>(kMembersInQuenby); ++place) {
+    FillEntry(player, kFirstGolfer + place, place);
+    player.SaveRecord(place + 1, true);
+  }
+}
+
+}  // namespace
+
+void MakeDemoQuenby(SharedState& state) {
+  state.StoreDataPath = state.QBDataPath;
+  MakeMaster(state.Program());
+  MakeRosterList(state.Program());
+  MakeGolfers(state.Player());
+  MakeControl(state.Tournament());
+  MakeEntries(state.Player());
+  state.InitSharedObjects();
+}
+
+}  // namespace golf

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "core/shared_state.h"
+
+namespace golf {
+
+// Quenby's data of a demonstration install: two rosters, their golfers, and a tournament of two
+// rounds with teams of four and the scores of the first round. The course library must be there.
+// Errors as FileTable.
+void MakeDemoQuenby(SharedState& state);
+
+}  // namespace golf

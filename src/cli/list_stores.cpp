@@ -1,0 +1,109 @@
+// Lists of Kelvane's rosters and of Quenby's rosters and tournaments.
+
+#include <map>
+
+#include "cli/list_command.h"
+#include "cli/plain_text.h"
+#include "core/number_text.h"
+#include "core/text.h"
+#include "stores/kelvane/kelvane_files.h"
+#include "stores/quenby/program_class.h"
+#include "stores/quenby/tournament_control.h"
+#include "stores/quenby/tournament_players.h"
+
+namespace golf {
+namespace {
+
+std::string WithoutExtension(const std::string& name) { return name.substr(0, name.rfind('.')); }
+
+int CountKelvaneGolfers(SharedState& state) {
+  auto& golfer = state.Kelvane().golfer;
+  const std::int32_t places = KVGolferPlaces(state);
+  int count = 0;
+  for (std::int32_t place = 1; place <= places; ++place) {
+    state.files.Read(kKelvaneGolferFile, place, golfer);
+    if (golfer.Get<"Status">() >= 1) ++count;
+  }
+  return count;
+}
+
+// By roster number; a golfer counts on each of his rosters.
+std::map<int, int> CountQuenbyGolfers(TournamentPlayers& player) {
+  std::map<int, int> counts;
+  player.OpenRosterFile();
+  const std::int32_t length = player.RosterFileLength();
+  for (std::int32_t record = 1; record <= length; ++record) {
+    player.GetRecord(record, false);
+    if (!player.PlayerExists()) continue;
+    for (int slot = 1; slot <= 3; ++slot) ++counts[player.Rosters(slot)];
+  }
+  return counts;
+}
+
+// The number that a control file's name holds; 0 for a name that holds none.
+std::int32_t TournamentNumber(const std::string& file_name) {
+  const std::string digits = WithoutExtension(file_name).substr(1);
+  const bool number = !digits.empty() && digits.size() <= 9 &&
+                      digits.find_first_not_of("0123456789") == std::string::npos;
+  return number ? std::stoi(digits) : 0;
+}
+
+void AddTournament(SharedState& state, std::int32_t number, ListWriter& out) {
+  TournamentControl& tournament = state.Tournament();
+  tournament.OpenTournamentControlFile(number);
+  tournament.GetRecord();
+  state.Player().TourOpenTournamentFile(number);
+  const std::int32_t players = tournament.NumPlayersInTournament();
+  const std::string date = tournament.DateofRound(1);
+  const std::string rounds = tournament.NumRounds();
+  out.Add({{"number", number},
+           {"name", JsonText(tournament.Name())},
+           {"date", JsonText(date)},
+           {"rounds", std::stoi(rounds)},
+           {"players", players}},
+          {std::to_string(number), PlainText(tournament.Name()), PlainText(date), rounds,
+           std::to_string(players)});
+}
+
+}  // namespace
+
+void ListRosters(SharedState& state, const ListRequest&, ListWriter& out) {
+  out.SetHeadings({"Roster", "Holes", "Golfers"});
+  for (const std::string& file : state.files.FilesLike(state.KVDataPath, "*.KV5")) {
+    const std::string name = UpperCase(WithoutExtension(file));
+    if (!OpenKVRoster(state, name)) continue;
+    state.files.Read(kKelvaneHeaderFile, 1, state.Kelvane().header);
+    const int holes = state.Kelvane().header.Get<"Holes">();
+    const int golfers = CountKelvaneGolfers(state);
+    out.Add({{"name", JsonText(name)}, {"holes", holes}, {"golfers", golfers}},
+            {PlainText(name), std::to_string(holes), std::to_string(golfers)});
+  }
+}
+
+void ListQuenbyRosters(SharedState& state, const ListRequest&, ListWriter& out) {
+  state.StoreDataPath = state.QBDataPath;
+  out.SetHeadings({"No.", "Roster", "Golfers"});
+  const std::map<int, int> golfers = CountQuenbyGolfers(state.Player());
+  ProgramClass& program = state.Program();
+  program.OpenRosterListFile();
+  const std::int32_t length = program.RosterListFileLength();
+  for (std::int32_t number = 1; number <= length; ++number) {
+    program.GetRosterRecord(number);
+    if (!program.IsRosterActive()) continue;
+    const auto counted = golfers.find(number);
+    const int count = counted == golfers.end() ? 0 : counted->second;
+    out.Add({{"number", number}, {"name", JsonText(program.ClubName())}, {"golfers", count}},
+            {std::to_string(number), PlainText(program.ClubName()), std::to_string(count)});
+  }
+}
+
+void ListTournaments(SharedState& state, const ListRequest&, ListWriter& out) {
+  state.StoreDataPath = state.QBDataPath;
+  out.SetHeadings({"No.", "Tournament", "Date", "Rounds", "Players"});
+  state.Player().OpenRosterFile();
+  for (const std::string& file : state.files.FilesLike(state.QBDataPath, "X*.Q9C")) {
+    if (const std::int32_t number = TournamentNumber(file)) AddTournament(state, number, out);
+  }
+}
+
+}  // namespace golf

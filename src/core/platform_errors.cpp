@@ -1,0 +1,50 @@
+#include "core/platform_errors.h"
+
+#include <string_view>
+
+namespace golf {
+namespace {
+
+struct Meaning {
+  ErrorNumber number;
+  std::string_view text;  // %1 is the file
+};
+
+constexpr Meaning kMeanings[] = {
+    {ErrorNumber::kPermissionDenied,
+     "Another program holds %1. Close that program, then try again."},
+    {ErrorNumber::kDiskFull, "The disk is full: %1 could not be written."},
+    {ErrorNumber::kDiskFull, "The disk quota is used up: %1 could not be written."},
+    {ErrorNumber::kDiskFull, "%1 would become larger than this disk allows."},
+    {ErrorNumber::kPathAccess, "Access to %1 is refused."},
+    {ErrorNumber::kPathAccess, "%1 lies on a disk that may only be read."},
+    {ErrorNumber::kPathAccess, "%1 is a folder."},
+    {ErrorNumber::kPathAccess, "%1 is there already."},
+    {ErrorNumber::kPathNotFound, "The folder of %1 is not there."},
+    {ErrorNumber::kFileNotFound, "%1 is not there."},
+    {ErrorNumber::kFileNotFound, "%1 is not there: its name is too long."},
+    {ErrorNumber::kTooManyFiles, "Too many files are open: %1 could not be opened."},
+};
+
+}  // namespace
+
+NumberedError PlatformError(PlatformFault fault, const std::string& path) {
+  const Meaning& meaning = kMeanings[static_cast<std::size_t>(fault)];
+  std::string text(meaning.text);
+  return {meaning.number, text.replace(text.find("%1"), 2, path)};
+}
+
+NumberedError DeviceFault(const std::string& path, const std::string& reason) {
+  return {ErrorNumber::kDeviceFault, "A device fault with " + path + ": " + reason + "."};
+}
+
+NumberedError NoInstall(const std::string& folder) {
+  return {ErrorNumber::kPathNotFound, "There is no folder " + folder + "."};
+}
+
+NumberedError AnotherRun(const std::string& folder) {
+  return {ErrorNumber::kPermissionDenied, "Another transfer is running in " + folder +
+                                              ". Wait until it has ended, then try again."};
+}
+
+}  // namespace golf

@@ -1,0 +1,397 @@
+#define NOMINMAX
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "core/code_page.h"
+#include "core/platform.h"
+#include "core/platform_errors.h"
+
+namespace golf {
+namespace {
+
+constexpr wchar_t kSeparator = L'\\';
+// Marks a path that the system takes as it stands, of any length.
+constexpr std::wstring_view kVerbatim = L"\\\\?\\";
+constexpr std::wstring_view kVerbatimShare = L"\\\\?\\UNC\\";
+// A longer path must be verbatim; a folder's leaves room for a short name.
+constexpr std::size_t kLongestPlain = MAX_PATH - 14;
+
+constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE;
+
+// Codes that the compiler's headers lack.
+constexpr DWORD kElevationRequired = 740;
+constexpr DWORD kDiskQuotaExceeded = 1295;
+
+struct CodeMeaning {
+  DWORD code;
+  PlatformFault fault;
+};
+
+constexpr CodeMeaning kMeanings[] = {
+    {ERROR_SHARING_VIOLATION, PlatformFault::kHeld},
+    {ERROR_LOCK_VIOLATION, PlatformFault::kHeld},
+    {ERROR_USER_MAPPED_FILE, PlatformFault::kHeld},
+    {ERROR_DISK_FULL, PlatformFault::kDiskFull},
+    {ERROR_HANDLE_DISK_FULL, PlatformFault::kDiskFull},
+    {kDiskQuotaExceeded, PlatformFault::kQuotaUsedUp},
+    {ERROR_FILE_TOO_LARGE, PlatformFault::kTooLarge},
+    {ERROR_ACCESS_DENIED, PlatformFault::kRefused},
+    {ERROR_CANCELLED, PlatformFault::kRefused},
+    {ERROR_BAD_EXE_FORMAT, PlatformFault::kRefused},
+    {ERROR_EXE_MACHINE_TYPE_MISMATCH, PlatformFault::kRefused},
+    {ERROR_WRITE_PROTECT, PlatformFault::kReadOnlyDisk},
+    {ERROR_FILE_EXISTS, PlatformFault::kIsThere},
+    {ERROR_ALREADY_EXISTS, PlatformFault::kIsThere},
+    {ERROR_PATH_NOT_FOUND, PlatformFault::kNoFolder},
+    {ERROR_DIRECTORY, PlatformFault::kNoFolder},
+    {ERROR_INVALID_DRIVE, PlatformFault::kNoFolder},
+    {ERROR_BAD_PATHNAME, PlatformFault::kNoFolder},
+    {ERROR_BAD_NETPATH, PlatformFault::kNoFolder},
+    {ERROR_BAD_NET_NAME, PlatformFault::kNoFolder},
+    {ERROR_FILE_NOT_FOUND, PlatformFault::kNoFile},
+    {ERROR_INVALID_NAME, PlatformFault::kNoFile},
+    {ERROR_FILENAME_EXCED_RANGE, PlatformFault::kNameTooLong},
+    {ERROR_TOO_MANY_OPEN_FILES, PlatformFault::kTooManyFiles},
+};
+
+std::wstring WideFromUtf8(std::string_view utf8) {
+  const auto size = static_cast<int>(utf8.size());
+  const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0);
+  std::wstring wide(static_cast<std::size_t>(length), L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, wide.data(), length);
+  return wide;
+}
+
+std::string TextFromWide(std::wstring_view wide) {
+  const auto size = static_cast<int>(wide.size());
+  const int length =
+      WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, nullptr, 0, nullptr, nullptr);
+  std::string utf8(static_cast<std::size_t>(length), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, utf8.data(), length, nullptr, nullptr);
+  return TextFromUtf8(utf8);
+}
+
+std::wstring WideFromText(std::string_view text) { return WideFromUtf8(Utf8FromText(text)); }
+
+// The path as people know it.
+std::wstring Plain(const std::wstring& path) {
+  if (path.starts_with(kVerbatimShare)) return L"\\\\" + path.substr(kVerbatimShare.size());
+  return path.starts_with(kVerbatim) ? path.substr(kVerbatim.size()) : path;
+}
+
+// The path as the system takes it.
+std::wstring Native(std::wstring path) {
+  std::replace(path.begin(), path.end(), L'/', kSeparator);
+  if (path.size() <= kLongestPlain || path.starts_with(kVerbatim)) return path;
+  const bool on_share = path.starts_with(L"\\\\");
+  return std::wstring(on_share ? kVerbatimShare : kVerbatim) + path.substr(on_share ? 2 : 0);
+}
+
+bool IsFolder(const std::wstring& native) {
+  const DWORD attributes = GetFileAttributesW(native.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+// The system's own words for an error, without their full stop.
+std::string Words(DWORD code) {
+  std::array<wchar_t, 512> buffer{};
+  const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                      nullptr, code, 0, buffer.data(), buffer.size(), nullptr);
+  const std::wstring_view words(buffer.data(), length);
+  const std::string text = TextFromWide(words.substr(0, words.find_last_not_of(L" .\r\n") + 1));
+  return text.empty() ? "error " + std::to_string(code) : text;
+}
+
+[[noreturn]] void FailWith(DWORD code, const std::wstring& native) {
+  const std::string path = TextFromWide(Plain(native));
+  // The system says no more of a folder in the place of a file.
+  if (code == ERROR_ACCESS_DENIED && IsFolder(native)) {
+    throw PlatformError(PlatformFault::kIsFolder, path);
+  }
+  for (const CodeMeaning& meaning : kMeanings) {
+    if (meaning.code == code) throw PlatformError(meaning.fault, path);
+  }
+  throw DeviceFault(path, Words(code));
+}
+
+class Handle {
+ public:
+  explicit Handle(HANDLE handle) : handle_(handle) {}
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+  Handle(Handle&& other) noexcept : handle_(std::exchange(other.handle_, INVALID_HANDLE_VALUE)) {}
+  ~Handle() {
+    if (IsOpen()) CloseHandle(handle_);
+  }
+  bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  HANDLE get() const { return handle_; }
+
+ private:
+  HANDLE handle_;
+};
+
+Handle OpenHandle(const std::wstring& native, DWORD access, DWORD sharing, DWORD disposition,
+                  DWORD flags = FILE_ATTRIBUTE_NORMAL) {
+  return Handle(CreateFileW(native.c_str(), access, sharing, nullptr, disposition, flags, nullptr));
+}
+
+class WindowsFile : public PlatformFile {
+ public:
+  WindowsFile(Handle handle, std::wstring native)
+      : handle_(std::move(handle)), native_(std::move(native)) {
+    BY_HANDLE_FILE_INFORMATION information{};
+    if (!GetFileInformationByHandle(handle_.get(), &information)) {
+      FailWith(GetLastError(), native_);
+    }
+    identity_ = {information.dwVolumeSerialNumber,
+                 std::uint64_t{information.nFileIndexHigh} << 32 | information.nFileIndexLow};
+  }
+
+  std::size_t ReadAt(std::int64_t offset, std::span<char> into) override {
+    std::size_t done = 0;
+    while (done < into.size()) {
+      OVERLAPPED place = Place(offset, done);
+      DWORD count = 0;
+      if (!ReadFile(handle_.get(), into.data() + done, Part(into.size() - done), &count, &place)) {
+        if (GetLastError() == ERROR_HANDLE_EOF) break;
+        FailWith(GetLastError(), native_);
+      }
+      if (count == 0) break;
+      done += count;
+    }
+    return done;
+  }
+
+  void WriteAt(ChangePass, std::int64_t offset, std::string_view bytes,
+               std::size_t& written) override {
+    for (written = 0; written < bytes.size();) {
+      OVERLAPPED place = Place(offset, written);
+      DWORD count = 0;
+      const BOOL done = WriteFile(handle_.get(), bytes.data() + written,
+                                  Part(bytes.size() - written), &count, &place);
+      const DWORD code = done ? ERROR_DISK_FULL : GetLastError();
+      written += count;
+      if (!done || count == 0) FailWith(code, native_);
+    }
+  }
+
+  void Truncate(ChangePass, std::int64_t length) override {
+    FILE_END_OF_FILE_INFO end{};
+    end.EndOfFile.QuadPart = length;
+    if (!SetFileInformationByHandle(handle_.get(), FileEndOfFileInfo, &end, sizeof end)) {
+      FailWith(GetLastError(), native_);
+    }
+  }
+
+  std::int64_t Length() override {
+    LARGE_INTEGER length{};
+    if (!GetFileSizeEx(handle_.get(), &length)) FailWith(GetLastError(), native_);
+    return length.QuadPart;
+  }
+
+  FileIdentity Identity() const override { return identity_; }
+
+ private:
+  static OVERLAPPED Place(std::int64_t offset, std::size_t done) {
+    const std::uint64_t at = static_cast<std::uint64_t>(offset) + done;
+    OVERLAPPED place{};
+    place.Offset = static_cast<DWORD>(at);
+    place.OffsetHigh = static_cast<DWORD>(at >> 32);
+    return place;
+  }
+
+  // As much as one call may move.
+  static DWORD Part(std::size_t size) {
+    return static_cast<DWORD>(std::min<std::size_t>(size, 1u << 30));
+  }
+
+  Handle handle_;
+  std::wstring native_;
+  FileIdentity identity_;
+};
+
+class WindowsRunLock : public RunLock {
+ public:
+  explicit WindowsRunLock(Handle file) : file_(std::move(file)) {}
+
+ private:
+  Handle file_;  // the system deletes the file with the last handle to it
+};
+
+struct CloseSearch {
+  using pointer = HANDLE;
+  void operator()(HANDLE search) const { FindClose(search); }
+};
+
+bool IsNormal(const WIN32_FIND_DATAW& entry) {
+  return (entry.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE |
+                                    FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) == 0;
+}
+
+// Asks the operator for the rights that the program wants.
+bool StartElevated(const std::wstring& program, const std::wstring& arguments) {
+  SHELLEXECUTEINFOW start{};
+  start.cbSize = sizeof start;
+  start.fMask = SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
+  start.lpFile = program.c_str();
+  start.lpParameters = arguments.c_str();
+  start.nShow = SW_SHOWNORMAL;
+  return ShellExecuteExW(&start) != FALSE;
+}
+
+std::string Picture(LCTYPE type, std::string if_unknown) {
+  std::array<wchar_t, 128> buffer{};
+  const int size = GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, type, buffer.data(), buffer.size());
+  return size > 0 ? TextFromWide(buffer.data()) : if_unknown;
+}
+
+class WindowsPlatform : public Platform {
+ public:
+  // `root` ends in a separator.
+  explicit WindowsPlatform(std::wstring root) : native_root_(std::move(root)) {
+    root_ = TextFromWide(native_root_);
+  }
+
+  std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override {
+    std::wstring native = Resolve(path);
+    Handle handle = OpenShared(native, access);
+    return std::make_unique<WindowsFile>(std::move(handle), std::move(native));
+  }
+
+  void Create(ChangePass, const std::string& path) override {
+    const std::wstring native = Resolve(path);
+    const Handle made = OpenHandle(native, GENERIC_WRITE, kShared, CREATE_ALWAYS);
+    if (!made.IsOpen()) FailWith(GetLastError(), native);
+  }
+
+  void CreateFolder(ChangePass, const std::string& path) override {
+    const std::wstring native = Resolve(path);
+    if (!CreateDirectoryW(native.c_str(), nullptr)) FailWith(GetLastError(), native);
+  }
+
+  void Delete(ChangePass, const std::string& path) override {
+    const std::wstring native = Resolve(path);
+    if (!DeleteFileW(native.c_str())) FailWith(GetLastError(), native);
+  }
+
+  bool FolderExists(const std::string& path) override { return IsFolder(Resolve(path)); }
+
+  std::vector<std::string> FileNames(const std::string& folder) override {
+    const std::wstring native = InFolder(folder, L"*");
+    WIN32_FIND_DATAW entry{};
+    const std::unique_ptr<HANDLE, CloseSearch> search(FindFirstFileExW(
+        native.c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch, nullptr, 0));
+    std::vector<std::string> names;
+    DWORD code = GetLastError();
+    if (search.get() == INVALID_HANDLE_VALUE) {
+      // A drive may hold nothing at all.
+      if (code == ERROR_FILE_NOT_FOUND && FolderExists(folder)) return names;
+      FailWith(code == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : code, Resolve(folder));
+    }
+    do {
+      if (IsNormal(entry)) names.push_back(TextFromWide(entry.cFileName));
+    } while (FindNextFileW(search.get(), &entry));
+    code = GetLastError();
+    if (code != ERROR_NO_MORE_FILES) FailWith(code, Resolve(folder));
+    return names;
+  }
+
+  std::unique_ptr<RunLock> LockRun(const std::string& folder) override {
+    Handle file = OpenHandle(InFolder(folder, L"golf-transfer.lock"), GENERIC_WRITE | DELETE, 0,
+                             OPEN_ALWAYS, FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE);
+    if (file.IsOpen()) return std::make_unique<WindowsRunLock>(std::move(file));
+    if (GetLastError() == ERROR_SHARING_VIOLATION) throw AnotherRun(folder);
+    return nullptr;
+  }
+
+  void StartProgram(const std::string& path, const std::string& arguments) override {
+    const std::wstring program = Resolve(path);
+    const std::wstring words = WideFromText(arguments);
+    std::wstring line = L"\"" + Plain(program) + L"\"" + (words.empty() ? L"" : L" ") + words;
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESHOWWINDOW;
+    start.wShowWindow = SW_SHOWNORMAL;
+    PROCESS_INFORMATION started{};
+    if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                       &start, &started)) {
+      CloseHandle(started.hThread);
+      CloseHandle(started.hProcess);
+      return;
+    }
+    const bool wants_rights = GetLastError() == kElevationRequired;
+    if (!wants_rights || !StartElevated(program, words)) FailWith(GetLastError(), program);
+  }
+
+  std::string ProgramFolder() const override { return root_; }
+  char Separator() const override { return '\\'; }
+
+  RegionalForms Regional() const override {
+    const RegionalForms usual;
+    return {Picture(LOCALE_SSHORTDATE, usual.short_date),
+            Picture(LOCALE_STIMEFORMAT, usual.long_time)};
+  }
+
+ private:
+  // A file that may only be read, or that another program lets be read only, serves for kDefault.
+  static Handle OpenShared(const std::wstring& native, FileAccess access) {
+    const DWORD wanted =
+        access == FileAccess::kReadOnly ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
+    Handle handle = OpenHandle(native, wanted, kShared, OPEN_EXISTING);
+    if (handle.IsOpen()) return handle;
+    const DWORD code = GetLastError();
+    const bool refused = code == ERROR_ACCESS_DENIED || code == ERROR_WRITE_PROTECT ||
+                         code == ERROR_SHARING_VIOLATION;
+    if (access == FileAccess::kDefault && refused) {
+      Handle for_reading = OpenHandle(native, GENERIC_READ, kShared, OPEN_EXISTING);
+      if (for_reading.IsOpen()) return for_reading;
+    }
+    FailWith(code, native);
+  }
+
+  std::wstring Resolve(const std::string& path) const {
+    if (path.compare(0, root_.size(), root_) != 0) return Native(WideFromText(path));
+    return Native(native_root_ + WideFromText(std::string_view(path).substr(root_.size())));
+  }
+
+  std::wstring InFolder(const std::string& folder, std::wstring_view name) const {
+    std::wstring native = Plain(Resolve(folder));
+    if (!native.ends_with(kSeparator)) native += kSeparator;
+    return Native(native.append(name));
+  }
+
+  std::wstring native_root_;
+  std::string root_;
+};
+
+std::wstring OwnFolder() {
+  std::wstring path(MAX_PATH, L'\0');
+  DWORD length = 0;
+  while ((length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) ==
+         path.size()) {
+    path.resize(2 * path.size());
+  }
+  return path.substr(0, path.rfind(kSeparator, length) + 1);
+}
+
+std::wstring Absolute(const std::wstring& path) {
+  const DWORD room = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+  std::wstring absolute(room, L'\0');
+  absolute.resize(GetFullPathNameW(path.c_str(), room, absolute.data(), nullptr));
+  return absolute;
+}
+
+}  // namespace
+
+std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
+  std::wstring folder =
+      Plain(utf8_folder.empty() ? OwnFolder() : Absolute(WideFromUtf8(utf8_folder)));
+  if (!folder.ends_with(kSeparator)) folder += kSeparator;
+  if (!IsFolder(Native(folder))) throw NoInstall(TextFromUtf8(utf8_folder));
+  return std::make_unique<WindowsPlatform>(std::move(folder));
+}
+
+}  // namespace golf

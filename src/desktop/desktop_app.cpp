@@ -1,0 +1,57 @@
+#include "desktop/desktop_app.h"
+
+#include <wx/msgdlg.h>
+
+#include <cstdlib>
+#include <iostream>
+
+#include "core/code_page.h"
+#include "desktop/wx_text.h"
+
+namespace golf {
+
+bool DesktopApp::Initialize(int& count, wxChar** arguments) {
+  wxCmdLineParser parser(count, arguments);
+  invocation_ = ParseInvocation(parser);
+  if (invocation_.answer.empty() && invocation_.complaint.empty()) {
+    return wxApp::Initialize(count, arguments);
+  }
+  std::cout << invocation_.answer << std::flush;
+  std::cerr << invocation_.complaint << std::flush;
+  // The toolkit would report a program that does not want to start as a failure of its own.
+  std::exit(invocation_.complaint.empty() ? EXIT_SUCCESS : EXIT_FAILURE);
+}
+
+bool DesktopApp::OnInit() {
+  SetAppDisplayName("Golf Transfer");
+  try {
+    application_ = std::make_unique<Application>(MakePlatform(invocation_.install));
+  } catch (const NumberedError& error) {
+    std::cerr << Utf8FromText(error.description()) << std::endl;
+    wxMessageBox(WxText(error.description()), GetAppDisplayName(), wxICON_STOP);
+    return true;  // OnRun ends it with the exit code
+  }
+  SharedState& state = application_->state();
+  host_ = std::make_unique<DesktopHost>(state, Application::Screens(), Views());
+  application_->Start(host_->Now(), {});
+  state.CommandLine = invocation_.word;
+  Bind(wxEVT_QUERY_END_SESSION, &DesktopApp::OnQueryEndSession, this);
+  Bind(wxEVT_END_SESSION, [](wxCloseEvent&) {});  // the system ends the process
+  host_->Show(host_->Load("TransferMenu"));
+  return true;
+}
+
+// The end of the operator's session is no press of Close, which would start the calling sibling.
+void DesktopApp::OnQueryEndSession(wxCloseEvent& event) {
+  if (host_->in_run()) event.Veto();
+}
+
+int DesktopApp::OnRun() { return host_ == nullptr ? EXIT_FAILURE : wxApp::OnRun(); }
+
+int DesktopApp::OnExit() {
+  host_.reset();
+  application_.reset();
+  return wxApp::OnExit();
+}
+
+}  // namespace golf

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <wx/app.h>
+
+#include <memory>
+
+#include "app/application.h"
+#include "desktop/desktop_host.h"
+#include "desktop/invocation.h"
+
+namespace golf {
+
+// The desktop program from its command line to its end.
+class DesktopApp : public wxApp {
+ public:
+  // Also where there is no display, help and the version are told.
+  bool Initialize(int& count, wxChar** arguments) override;
+  bool OnInit() override;
+  int OnRun() override;
+  int OnExit() override;
+
+ private:
+  void OnQueryEndSession(wxCloseEvent& event);
+
+  Invocation invocation_;
+  std::unique_ptr<Application> application_;
+  std::unique_ptr<DesktopHost> host_;
+};
+
+}  // namespace golf

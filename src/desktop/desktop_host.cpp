@@ -1,0 +1,221 @@
+#include "desktop/desktop_host.h"
+
+#include <wx/app.h>
+#include <wx/datetime.h>
+#include <wx/dialog.h>
+#include <wx/evtloop.h>
+#include <wx/frame.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "desktop/native_boxes.h"
+
+namespace golf {
+namespace {
+
+constexpr std::chrono::milliseconds kPaintInterval{50};
+
+DateValue ClockTime() {
+  const wxDateTime now = wxDateTime::Now();
+  return DateFromCivil({.year = now.GetYear(),
+                        .month = now.GetMonth() + 1,
+                        .day = now.GetDay(),
+                        .hour = now.GetHour(),
+                        .minute = now.GetMinute(),
+                        .second = now.GetSecond()});
+}
+
+ScreenCatalogue WithView(const ScreenCatalogue& screens, const ViewCatalogue& views) {
+  ScreenCatalogue seen;
+  for (const auto& screen : screens) {
+    if (views.contains(screen.first)) seen.insert(screen);
+  }
+  return seen;
+}
+
+wxTopLevelWindow* NewWindow(WindowKind kind, wxWindow* parent) {
+  if (kind == WindowKind::kMain) {
+    auto* frame = new wxFrame(parent, wxID_ANY, "");
+#ifdef __WXMSW__
+    frame->SetIcons(wxIconBundle("golf_transfer", nullptr));  // of the program's resources
+#endif
+    return frame;
+  }
+  auto* dialog = new wxDialog(parent, wxID_ANY, "");
+  dialog->SetEscapeId(wxID_NONE);  // the screen says what Escape does
+  return dialog;
+}
+
+void Yield(long categories) {
+  if (wxEventLoopBase* loop = wxEventLoopBase::GetActive()) loop->YieldFor(categories);
+}
+
+// The pointer is not busy as long as this lives. Not every system has the toolkit's own class for it.
+class PlainPointer {
+ public:
+  PlainPointer() {
+    for (; wxIsBusy(); ++depth_) wxEndBusyCursor();
+  }
+  PlainPointer(const PlainPointer&) = delete;
+  PlainPointer& operator=(const PlainPointer&) = delete;
+  ~PlainPointer() {
+    for (; depth_ > 0; --depth_) wxBeginBusyCursor();
+  }
+
+ private:
+  int depth_ = 0;
+};
+
+}  // namespace
+
+DesktopHost::DesktopHost(SharedState& state, const ScreenCatalogue& screens, ViewCatalogue views)
+    : HostBase(state, WithView(screens, views)), clock(ClockTime), views_(std::move(views)) {}
+
+DesktopHost::~DesktopHost() {
+  for (; !windows_.empty(); windows_.pop_back()) {
+    windows_.back().panel->Detach();
+    delete &windows_.back().panel->window();
+  }
+}
+
+wxTopLevelWindow* DesktopHost::TopWindow() const {
+  return windows_.empty() ? nullptr : &windows_.back().panel->window();
+}
+
+std::vector<DesktopHost::Window>::iterator DesktopHost::Find(const Screen& screen) {
+  return std::find_if(windows_.begin(), windows_.end(),
+                      [&](const Window& window) { return window.screen == &screen; });
+}
+
+void DesktopHost::Open(Screen& screen) {
+  if (in_run()) ForgetTypedInput();
+  const View& view = views_.find(screen.name())->second;
+  wxTopLevelWindow* window = NewWindow(view.kind, TopWindow());
+  auto* panel = new ScreenPanel(*window, *this, screen);
+  view.fill(*panel, screen);
+  if (view.kind == WindowKind::kDialog) window->CentreOnParent();
+  windows_.push_back({&screen, panel});
+  panel->binding().BeginFocus();
+  window->Show();
+}
+
+void DesktopHost::RunModal(Screen& screen) {
+  ScreenPanel& panel = *Find(screen)->panel;
+  panel.binding().Refresh();
+  auto& dialog = dynamic_cast<wxDialog&>(panel.window());
+  dialog.ShowModal();
+  dialog.Destroy();
+}
+
+void DesktopHost::Close(Screen& screen) {
+  const auto window = Find(screen);
+  ScreenPanel& panel = *window->panel;
+  windows_.erase(window);
+  panel.Detach();
+  auto* dialog = dynamic_cast<wxDialog*>(&panel.window());
+  if (dialog != nullptr && dialog->IsModal()) {
+    dialog->EndModal(wxID_CLOSE);  // RunModal takes it from there
+  } else {
+    panel.window().Destroy();
+  }
+}
+
+// The window of a box's parent shows what is so when the box comes up, and nothing that was typed
+// before answers the box.
+wxWindow* DesktopHost::ReadyForBox() {
+  if (in_run()) ForgetTypedInput();
+  PaintNow();
+  return TopWindow();
+}
+
+BoxButton DesktopHost::ShowBox(const Box& box) {
+  wxWindow* parent = ReadyForBox();
+  const PlainPointer plain_pointer;
+  return ShowMessageDialog(parent, box);
+}
+
+std::string DesktopHost::ShowInputBox(const InputBox& box) {
+  wxWindow* parent = ReadyForBox();
+  const PlainPointer plain_pointer;
+  return ShowInputDialog(parent, box);
+}
+
+Font DesktopHost::ShowFontChoice(std::string_view title, const Font& current) {
+  wxWindow* parent = ReadyForBox();
+  const PlainPointer plain_pointer;
+  return ShowFontDialog(parent, title, current);
+}
+
+void DesktopHost::ErrorEndsClick(const NumberedError& error) {
+  ShowBox({.title = "Golf Transfer", .text = error.Report(), .icon = BoxIcon::kStop});
+}
+
+void DesktopHost::Beep() { wxBell(); }
+
+void DesktopHost::SetPointer(Pointer pointer) {
+  if (pointer == Pointer::kNormal) {
+    busy_.reset();
+  } else if (!busy_) {
+    busy_.emplace();
+  }
+}
+
+bool DesktopHost::PaintIsDue() const {
+  return std::chrono::steady_clock::now() - painted_ >= kPaintInterval;
+}
+
+void DesktopHost::PaintNow() {
+  if (!windows_.empty()) windows_.back().panel->ShowProgress(told_);
+  for (const Window& window : windows_) {
+    window.panel->binding().Refresh();
+    window.panel->Update();
+  }
+  Yield(wxEVT_CATEGORY_UI);
+  painted_ = std::chrono::steady_clock::now();
+}
+
+void DesktopHost::RepaintNow(const Control&) {
+  if (PaintIsDue()) PaintNow();
+}
+
+void DesktopHost::Tell(const Progress& progress) {
+  told_ = progress;
+  told_.doing = {};
+  if (PaintIsDue()) PaintNow();
+}
+
+void DesktopHost::SetInRun(bool in_run) {
+  for (const Window& window : windows_) window.panel->SetInRun(in_run);
+}
+
+void DesktopHost::BeginRun() {
+  HostBase::BeginRun();
+  told_ = {};
+  busy_in_run_.emplace();
+  SetInRun(true);
+  PaintNow();
+}
+
+void DesktopHost::EndRun() {
+  ForgetTypedInput();
+  HostBase::EndRun();
+  SetInRun(false);
+  busy_in_run_.reset();
+}
+
+// Painting leaves the keys and clicks of the operator waiting. While the run still holds input off
+// they are taken and lost.
+void DesktopHost::ForgetTypedInput() { Yield(wxEVT_CATEGORY_ALL); }
+
+void DesktopHost::StartProgram(const std::string& path, const std::string& arguments) {
+  state().files.platform().StartProgram(path, arguments);
+}
+
+void DesktopHost::EndProcess() {
+  HostBase::EndProcess();
+  // ExitMainLoop would do nothing where a dialog's own loop runs inside.
+  if (wxEventLoopBase* loop = wxTheApp->GetMainLoop()) loop->ScheduleExit();
+}
+
+}  // namespace golf

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <wx/button.h>
+#include <wx/sizer.h>
+
+#include <initializer_list>
+
+#include "desktop/screen_panel.h"
+
+namespace golf {
+
+// Distances and arrangements that all views share, so that they look alike. Distances are pixels of
+// the window's own screen.
+
+// Between controls that belong together, between groups, and from the window's edge.
+int CloseGap(const wxWindow& window);
+int GroupGap(const wxWindow& window);
+int EdgeGap(const wxWindow& window);
+
+// Controls below each other, all as wide as the column.
+wxSizer* Column(std::initializer_list<wxWindow*> controls);
+
+// The buttons that end a dialog, in the order of the platform. Any of them may be null.
+struct EndButtons {
+  wxButton* affirmative = nullptr;
+  wxButton* negative = nullptr;
+  wxButton* cancel = nullptr;
+};
+wxSizer* ButtonRow(const EndButtons& buttons);
+
+// Adds a widget that keeps its place while it is hidden.
+void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above);
+
+void MakeBold(wxWindow& widget);
+
+// Puts the content into the panel and gives the window the size that it needs, which is also its
+// smallest one.
+void FinishWindow(ScreenPanel& panel, wxSizer* content);
+// After widgets have come or gone: the window grows where it must.
+void LayOutAgain(ScreenPanel& panel);
+
+}  // namespace golf

@@ -1,0 +1,3 @@
+#include "desktop/desktop_app.h"
+
+wxIMPLEMENT_APP(golf::DesktopApp);

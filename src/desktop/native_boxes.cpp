@@ -1,0 +1,82 @@
+#include "desktop/native_boxes.h"
+
+#include <wx/fontdlg.h>
+#include <wx/msgdlg.h>
+#include <wx/textdlg.h>
+
+#include <algorithm>
+
+#include "desktop/wx_text.h"
+
+namespace golf {
+namespace {
+
+// How the toolkit's dialog speaks of a button. It has no Retry of its own: its OK button is given
+// that caption.
+struct NativeButton {
+  BoxButton button;
+  unsigned long style;
+  unsigned long default_style;  // some use the highest of 32 bits
+  int answer;
+};
+
+constexpr NativeButton kButtons[] = {
+    {BoxButton::kOk, wxOK, wxOK_DEFAULT, wxID_OK},
+    {BoxButton::kCancel, wxCANCEL, wxCANCEL_DEFAULT, wxID_CANCEL},
+    {BoxButton::kYes, wxYES_NO, wxYES_DEFAULT, wxID_YES},
+    {BoxButton::kNo, wxYES_NO, wxNO_DEFAULT, wxID_NO},
+    {BoxButton::kRetry, wxOK, wxOK_DEFAULT, wxID_OK},
+};
+
+const NativeButton& Native(BoxButton button) {
+  return *std::find_if(std::begin(kButtons), std::end(kButtons),
+                       [button](const NativeButton& native) { return native.button == button; });
+}
+
+long IconStyle(BoxIcon icon) {
+  constexpr long kStyles[] = {wxICON_NONE, wxICON_INFORMATION, wxICON_QUESTION, wxICON_STOP,
+                              wxICON_WARNING};
+  return kStyles[static_cast<std::size_t>(icon)];
+}
+
+bool Has(const Box& box, BoxButton button) {
+  return std::find(box.buttons.begin(), box.buttons.end(), button) != box.buttons.end();
+}
+
+}  // namespace
+
+BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
+  long style = IconStyle(box.icon) | wxCENTRE;
+  for (const BoxButton button : box.buttons) style |= Native(button).style;
+  style |= Native(box.buttons.at(box.default_button)).default_style;
+  wxMessageDialog dialog(parent, WxText(box.text), WxText(box.title), style);
+  if (Has(box, BoxButton::kRetry)) dialog.SetOKLabel("&Retry");
+  const int answer = dialog.ShowModal();
+  for (const BoxButton button : box.buttons) {
+    if (Native(button).answer == answer) return button;
+  }
+  return box.buttons.back();
+}
+
+std::string ShowInputDialog(wxWindow* parent, const InputBox& box) {
+  wxTextEntryDialog dialog(parent, WxText(box.text), WxText(box.title), WxText(box.default_answer));
+  return dialog.ShowModal() == wxID_OK ? TextFromWx(dialog.GetValue()) : std::string();
+}
+
+Font ShowFontDialog(wxWindow* parent, std::string_view title, const Font& current) {
+  wxFontData data;
+  data.SetInitialFont(wxFontInfo(current.size)
+                          .FaceName(WxText(current.name))
+                          .Bold(current.bold)
+                          .Italic(current.italic));
+  wxFontDialog dialog(parent, data);
+  dialog.SetTitle(WxText(title));
+  if (dialog.ShowModal() != wxID_OK) return current;
+  const wxFont chosen = dialog.GetFontData().GetChosenFont();
+  return {.name = TextFromWx(chosen.GetFaceName()),
+          .size = chosen.GetPointSize(),
+          .bold = chosen.GetNumericWeight() >= wxFONTWEIGHT_BOLD,
+          .italic = chosen.GetStyle() != wxFONTSTYLE_NORMAL};
+}
+
+}  // namespace golf

@@ -1,0 +1,67 @@
+#include "desktop/screen_panel.h"
+
+#include "desktop/layout_helpers.h"
+#include "desktop/wx_text.h"
+
+namespace golf {
+namespace {
+
+constexpr int kGaugeSteps = 1000;
+
+}  // namespace
+
+ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen)
+    : wxPanel(&window), window_(window), host_(host), screen_(&screen), binding_(host, screen) {
+  binding_.on_rearranged = [this] { LayOutAgain(*this); };
+  window_.SetTitle(WxText(screen.caption()));
+  window_.Bind(wxEVT_CLOSE_WINDOW, &ScreenPanel::OnClose, this);
+  window_.Bind(wxEVT_CHAR_HOOK, &ScreenPanel::OnCharHook, this);
+  Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+    event.Skip();
+    binding_.Refresh();
+  });
+}
+
+// Widgets still report while they go, to the binding.
+ScreenPanel::~ScreenPanel() { DestroyChildren(); }
+
+wxGauge* ScreenPanel::MakeGauge() {
+  gauge_ = new wxGauge(this, wxID_ANY, kGaugeSteps);
+  gauge_->SetName("Progress");
+  gauge_->Hide();
+  return gauge_;
+}
+
+void ScreenPanel::SetInRun(bool in_run) {
+  if (gauge_ != nullptr) {
+    gauge_->SetValue(0);
+    gauge_->Show(in_run);
+  }
+  binding_.HoldInput(in_run);
+}
+
+void ScreenPanel::ShowProgress(const Progress& progress) {
+  if (gauge_ == nullptr || progress.total <= 0) return;
+  gauge_->SetValue(static_cast<int>(progress.done * kGaugeSteps / progress.total));
+}
+
+void ScreenPanel::Detach() {
+  binding_.Release();
+  screen_ = nullptr;
+}
+
+// The screen's own button decides what becomes of the window.
+void ScreenPanel::OnClose(wxCloseEvent& event) {
+  if (event.CanVeto()) event.Veto();
+  const auto press = [this](Button* button) {
+    if (button != nullptr) binding_.Operate([button] { button->Click(); });
+  };
+  if (screen_ != nullptr) press(screen_->PanelLeaveButton());
+  if (screen_ != nullptr) press(screen_->LeaveButton());
+}
+
+void ScreenPanel::OnCharHook(wxKeyEvent& event) {
+  if (event.GetKeyCode() != WXK_ESCAPE || !binding_.OperateKey("Escape")) event.Skip();
+}
+
+}  // namespace golf

@@ -1,0 +1,77 @@
+#include <wx/artprov.h>
+#include <wx/statbmp.h>
+
+#include <algorithm>
+
+#include "desktop/layout_helpers.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "shell/tip_box.h"
+
+namespace golf {
+namespace {
+
+constexpr int kUsualWidth = 380;  // of the message, in pixels of a plain screen
+constexpr int kMostHeight = 280;
+constexpr int kUnitsPerPixel = 1440 / 96;
+
+wxStaticBitmap* NewPicture(wxWindow* parent, const TipBox& screen) {
+  const wxArtID art = screen.is_question() ? wxART_QUESTION : wxART_INFORMATION;
+  return new wxStaticBitmap(parent, wxID_ANY,
+                            wxArtProvider::GetBitmapBundle(art, wxART_MESSAGE_BOX));
+}
+
+// As high as its text in lines that leave room for a scroll bar, up to a limit; then it scrolls.
+wxSize MessageSize(wxWindow* parent, const wxString& message, int width) {
+  wxStaticText measure(parent, wxID_ANY, "");
+  const int line = measure.GetCharHeight();
+  measure.SetLabelText(message);
+  measure.Wrap(width - line);
+  const int height = measure.GetBestSize().y + line / 2;
+  return {width, std::min(height, parent->FromDIP(kMostHeight))};
+}
+
+wxTextCtrl* NewMessage(ScreenPanel& panel, TipBox& screen, int width) {
+  wxTextCtrl* message = MakeTextBox(panel.binding(), &panel, screen.Message,
+                                    wxTE_MULTILINE | wxTE_READONLY | wxTE_BESTWRAP | wxBORDER_NONE);
+  message->SetBackgroundColour(panel.window().GetBackgroundColour());
+  message->SetMinSize(MessageSize(&panel, message->GetValue(), width));
+  return message;
+}
+
+wxSizer* Buttons(ScreenPanel& panel, TipBox& screen) {
+  const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
+  wxButton* ok = button(screen.OKButton);
+  wxButton* yes = button(screen.YesButton);
+  wxButton* no = button(screen.NoButton);
+  return ButtonRow({.affirmative = screen.is_question() ? yes : ok, .negative = no});
+}
+
+}  // namespace
+
+void FillTipBox(ScreenPanel& panel, TipBox& screen) {
+  wxTopLevelWindow& window = panel.window();
+  if (screen.always_on_top()) {
+    window.SetWindowStyleFlag(window.GetWindowStyleFlag() | wxSTAY_ON_TOP);
+  }
+  wxStaticBitmap* picture = NewPicture(&panel, screen);
+  const int picture_room = picture->GetBestSize().x + GroupGap(panel) + 2 * EdgeGap(panel);
+  const bool narrow = screen.Tip()->buttons.empty();
+  const int width = narrow ? panel.FromDIP(TipBox::kModelessWidth / kUnitsPerPixel) - picture_room
+                           : panel.FromDIP(kUsualWidth);
+  wxStaticText* title = MakeWrappedLabel(panel.binding(), &panel, screen.Title, width);
+  MakeBold(*title);
+  wxSizer* texts = Column({title, NewMessage(panel, screen, width)});
+
+  auto* top = new wxBoxSizer(wxHORIZONTAL);
+  top->Add(picture, wxSizerFlags().Border(wxRIGHT, GroupGap(panel)));
+  top->Add(texts, wxSizerFlags(1).Expand());
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(top, wxSizerFlags(1).Expand());
+  content->Add(MakeCheckBox(panel.binding(), &panel, screen.ShowMessage),
+               wxSizerFlags().Border(wxTOP, GroupGap(panel)));
+  content->Add(Buttons(panel, screen), wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf

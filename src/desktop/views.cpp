@@ -1,0 +1,23 @@
+#include "desktop/views.h"
+
+#include "shell/tip_box.h"
+#include "shell/transfer_menu.h"
+#include "transfers/kv_courses_to_qb.h"
+
+namespace golf {
+namespace {
+
+template <class AnyScreen, void (*kFill)(ScreenPanel&, AnyScreen&)>
+void Fill(ScreenPanel& panel, Screen& screen) {
+  kFill(panel, dynamic_cast<AnyScreen&>(screen));
+}
+
+}  // namespace
+
+ViewCatalogue Views() {
+  return {{"TransferMenu", {WindowKind::kMain, Fill<TransferMenu, FillTransferMenu>}},
+          {"TipBox", {WindowKind::kDialog, Fill<TipBox, FillTipBox>}},
+          {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};
+}
+
+}  // namespace golf

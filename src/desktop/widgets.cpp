@@ -1,0 +1,84 @@
+#include "desktop/widgets.h"
+
+#include <wx/panel.h>
+
+#include "desktop/wx_text.h"
+
+namespace golf {
+namespace {
+
+wxStaticText* NewText(wxWindow* parent, long style) {
+  return new wxStaticText(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, style);
+}
+
+}  // namespace
+
+wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control) {
+  wxStaticText* text = NewText(parent, wxST_ELLIPSIZE_END);
+  binding.Tie(control, *text, [text, &control] { text->SetLabelText(WxText(control.caption())); });
+  return text;
+}
+
+wxStaticText* MakeWrappedLabel(Binding& binding, wxWindow* parent, Label& control, int width) {
+  wxStaticText* text = NewText(parent, 0);
+  binding.Tie(control, *text, [text, &control, width] {
+    text->SetLabelText(WxText(control.caption()));
+    text->Wrap(width);
+  });
+  return text;
+}
+
+wxButton* MakeButton(Binding& binding, wxWindow* parent, Button& control) {
+  auto* button = new wxButton(parent, wxID_ANY, WxText(control.caption()));
+  binding.Tie(control, *button, [button, &control] {
+    button->SetLabel(WxText(control.caption()));
+    if (control.is_default()) button->SetDefault();
+  });
+  button->Bind(wxEVT_BUTTON, [&binding, &control](wxCommandEvent&) {
+    binding.Operate([&control] { control.Click(); });
+  });
+  return button;
+}
+
+wxCheckBox* MakeCheckBox(Binding& binding, wxWindow* parent, CheckBox& control) {
+  auto* box = new wxCheckBox(parent, wxID_ANY, WxText(control.caption()));
+  binding.Tie(control, *box, [box, &control] {
+    box->SetLabel(WxText(control.caption()));
+    box->SetValue(control.value());
+  });
+  box->Bind(wxEVT_CHECKBOX, [&binding, &control](wxCommandEvent& event) {
+    binding.Operate([&control, &event] { control.Choose(event.IsChecked()); });
+  });
+  return box;
+}
+
+wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, long style) {
+  auto* box = new wxTextCtrl(parent, wxID_ANY, WxText(control.text()), wxDefaultPosition,
+                             wxDefaultSize, style);
+  binding.Tie(control, *box, [box, &control] {
+    // A text set again would move the operator's cursor.
+    const wxString text = WxText(control.text());
+    if (box->GetValue() != text) box->ChangeValue(text);
+    box->SetEditable(!control.read_only());
+  });
+  box->Bind(wxEVT_TEXT, [&binding, &control](wxCommandEvent& event) {
+    binding.Operate([&control, &event] { control.SetText(TextFromWx(event.GetString())); });
+  });
+  return box;
+}
+
+wxNotebook* MakeTab(Binding& binding, wxWindow* parent, Tab& control) {
+  auto* book = new wxNotebook(parent, wxID_ANY);
+  for (const std::string& page : control.pages()) {
+    book->AddPage(new wxPanel(book), WxText(page));
+  }
+  binding.Tie(control, *book, [book, &control] {
+    book->ChangeSelection(static_cast<std::size_t>(control.page()));
+  });
+  book->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, [&binding, &control](wxBookCtrlEvent& event) {
+    binding.Operate([&control, &event] { control.Choose(event.GetSelection()); });
+  });
+  return book;
+}
+
+}  // namespace golf

@@ -1,0 +1,18 @@
+#include "desktop/wx_text.h"
+
+#include "core/code_page.h"
+
+namespace golf {
+
+wxString WxText(std::string_view text) {
+  wxString shown = wxString::FromUTF8(Utf8FromText(text));
+  shown.Replace("\r\n", "\n");
+  shown.Replace("\r", "\n");
+  return shown;
+}
+
+std::string TextFromWx(const wxString& text) {
+  return TextFromUtf8(std::string(text.utf8_str().data()));
+}
+
+}  // namespace golf

@@ -1,0 +1,177 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "core/record.h"
+
+namespace golf {
+
+// The files of a Kelvane roster, and Kelvane's system file. What is called a setting belongs to
+// Kelvane itself: it is given its default in a new roster and otherwise left alone. Sex is the
+// index of two: 0 men, 1 ladies.
+
+inline constexpr int kKelvaneScores = 300;
+inline constexpr std::size_t kKelvaneScoreLength = 49;
+
+// The one record of a ".kv5" file.
+struct KelvaneHeaderLayout {
+  static constexpr std::string_view kName = "kelvane header";
+  static constexpr std::size_t kLength = 781;
+  static constexpr Dimension kSexes{0, 2};
+  static constexpr auto kFields = std::to_array<Field>({
+      Int16Field("Version", 0),
+      TextField("Title", 2, 40),
+      TextField("Address", 42, 30).By(Dimension{1, 3}),
+      TextField("Phone", 132, 20),
+      ByteField("Holes", 152),  // 18: handicaps of 18 holes; any other value of 9
+      ByteField("Setting153", 153),
+      Int32Field("Setting154", 154),
+      Int16Field("Setting158", 158),
+      Int16Field("Setting160", 160).By(kSexes),
+      Int16Field("Setting164", 164).By(Dimension{1, 5}),
+      Int16Field("Setting174", 174).By(kSexes, Dimension{1, 5}),
+      TextField("Code194", 194, 1).By(kSexes),
+      SingleField("Setting196", 196),
+      ByteField("Slope200", 200),
+      Int16Field("Setting201", 201),
+      Int16Field("Setting203", 203).By(kSexes),
+      TextField("Code207", 207, 1).By(kSexes),
+      SingleField("Setting209", 209),
+      ByteField("Slope213", 213),
+      Int16Field("Setting214", 214),
+      Int16Field("Setting216", 216).By(kSexes),
+      DateField("CounterDate", 220).By(Dimension{1, 4}),  // counters 3, 4 and 2 go by 1, 2 and 3
+      ByteField("HandicapMethod", 252),                   // 100 or more: not index-based
+      SingleField("Setting253", 253),
+      Int16Field("Setting257", 257),
+      Int16Field("Setting259", 259),
+      Int16Field("Table261", 261).By(Dimension{1, 30}),
+      Int16Field("Table321", 321).By(Dimension{1, 30}),
+      Int16Field("MaximumHandicap", 381).By(kSexes),
+      Int16Field("Setting385", 385),
+      Int16Field("Setting387", 387),
+      Int16Field("Setting389", 389),
+      Int16Field("Setting391", 391),
+      Int16Field("Setting393", 393),
+      Int16Field("Setting395", 395).By(Dimension{1, 3}),
+      SingleField("MaximumIndex", 401).By(kSexes),
+      Int16Field("Setting409", 409).By(Dimension{1, 3}),
+      Int16Field("Setting415", 415).By(Dimension{1, 3}),
+      TextField("MiscTextName", 421, 12).By(Dimension{1, 20}),
+      TextField("MiscDateName", 661, 12).By(Dimension{1, 5}),
+      TextField("MiscCurrName", 721, 12).By(Dimension{1, 5}),
+  });
+};
+
+// A place of a ".kvg" file.
+struct KelvaneGolferLayout {
+  static constexpr std::string_view kName = "kelvane golfer";
+  static constexpr std::size_t kLength = 2804;
+  static constexpr Dimension kLines{1, 4};
+  static constexpr auto kFields = std::to_array<Field>({
+      Int16Field("Status", 0),  // 1 or more: a golfer stands here
+      ByteField("MarkedToPrint", 2),
+      KeptBytes(3, 1),
+      Int32Field("IDNum", 4),
+      TextField("NameFirst", 8, 11),
+      TextField("NameLast", 19, 16),
+      ByteField("Sex", 35),  // 1 female, any other value male
+      TextField("AddressHomeLine", 36, 30).By(kLines),
+      TextField("AddressWorkLine", 156, 30).By(kLines),
+      TextField("PhoneHome", 276, 20),
+      TextField("PhoneWork", 296, 20),
+      TextField("PhoneFax", 316, 20),
+      TextField("Email", 336, 60),
+      TextField("GroupText", 396, 20),
+      TextField("Flight", 416, 1),
+      ByteField("GroupNumber", 417),
+      SingleField("Index", 418),
+      TextField("IndexText", 422, 5),
+      SingleField("Handicap", 427),
+      TextField("HandicapText", 431, 6),  // blank or "*": none
+      ByteField("Setting437", 437),
+      SingleField("Value438", 438),
+      SingleField("Value442", 442),
+      Int16Field("HalfCourse", 446),  // a half of nine holes that waits for another one
+      ByteField("HalfTee", 448),
+      SingleField("HalfRating", 449),
+      ByteField("HalfSlope", 453),
+      ByteField("HalfScore", 454),  // 0: no half is waiting
+      Int16Field("ScoreCounter", 455).By(Dimension{1, 4}),
+      TextField("MiscText1", 463, 30),
+      TextField("MiscText2", 493, 20),
+      TextField("MiscText3", 513, 20),
+      TextField("MiscText4", 533, 10),
+      TextField("MiscText5", 543, 10),
+      DateField("MiscDate", 553).By(Dimension{1, 2}),
+      CurrencyField("MiscCurrency", 569).By(Dimension{1, 5}),
+      KeptBytes(609, 8),
+      KeptBytes(617, 8),
+      TextField("Text625", 625, 30),
+      TextField("Comments", 655, 200),
+      KeptBytes(855, 1949),
+  });
+};
+
+namespace kelvane_fields {
+
+// An entry of a score history.
+inline constexpr auto kScore = std::to_array<Field>({
+    Int16Field("CourseNumber", 0),  // in Kelvane's library; 0 an away course
+    ByteField("TeeNumber", 2),      // 0 none
+    SingleField("Rating", 3),
+    ByteField("Slope", 7),
+    DateField("Date", 8),
+    ByteField("HoleScore", 16).By(Dimension{1, 18}),
+    ByteField("Gross", 34),
+    ByteField("Adjusted", 35),   // for handicap purposes
+    ByteField("ScoreType", 36),  // 0 plain, 2 tournament, 4 two nines joined
+    Int16Field("HandicapPlayed", 37),
+    ByteField("Putts", 39),
+    ByteField("Fairways", 40),
+    ByteField("Greens", 41),
+    TextField("Label", 42, 7),
+});
+
+constexpr auto InEachEntry() {
+  auto fields = kScore;
+  for (Field& field : fields) {
+    field = field.InEach(Dimension{1, kKelvaneScores}, kKelvaneScoreLength);
+  }
+  return fields;
+}
+
+}  // namespace kelvane_fields
+
+struct KelvaneScoreLayout {
+  static constexpr std::string_view kName = "kelvane score";
+  static constexpr std::size_t kLength = kKelvaneScoreLength;
+  static constexpr auto kFields = kelvane_fields::kScore;
+};
+
+// A record of a ".kvs" file: the history of the golfer with the same record number, newest first.
+struct KelvaneHistoryLayout {
+  static constexpr std::string_view kName = "kelvane history";
+  static constexpr std::size_t kLength = kKelvaneScores * kKelvaneScoreLength;
+  static constexpr auto kFields = kelvane_fields::InEachEntry();
+};
+
+// The one record of KVSYSTEM.FIL.
+struct KelvaneSystemLayout {
+  static constexpr std::string_view kName = "kelvane system";
+  static constexpr std::size_t kLength = 733;
+  static constexpr auto kFields = std::to_array<Field>({
+      Int16Field("Version", 0),
+      TextField("RosterName", 2, 128),
+      TextField("Setting130", 130, 60),
+      Int16Field("Setting190", 190),
+      ByteField("Setting192", 192),
+      TextField("FontName", 193, 60).By(Dimension{1, 9}),
+  });
+};
+
+// REPORTS.CFG, which is opened with a roster and never read or written.
+inline constexpr std::size_t kKelvaneReportsLength = 4744;
+
+}  // namespace golf

@@ -1,0 +1,102 @@
+#include "stores/kelvane/kelvane_scores.h"
+
+#include <algorithm>
+#include <array>
+
+#include "stores/kelvane/kelvane_buffers.h"
+
+namespace golf {
+namespace {
+
+// A counter of the golfer's scores, and the dates of the header that it goes by.
+struct CounterRule {
+  int counter;
+  int date;  // of the header; 0 counts every score
+  bool on_the_day;
+};
+
+constexpr CounterRule kCounterRules[] = {{2, 3, true}, {3, 1, false}, {4, 2, false}, {1, 0, false}};
+
+bool Counts(const KelvaneBuffers& buffers, const CounterRule& rule) {
+  if (rule.date == 0) return true;
+  const double played = buffers.score.Get<"Date">();
+  const double limit = buffers.header.Get<"CounterDate">(rule.date);
+  return rule.on_the_day ? !(played < limit) : played > limit;
+}
+
+void CountScore(KelvaneBuffers& buffers) {
+  for (const CounterRule& rule : kCounterRules) {
+    const std::int16_t count = buffers.golfer.Get<"ScoreCounter">(rule.counter);
+    if (count < kKelvaneScores && Counts(buffers, rule)) {
+      buffers.golfer.Set<"ScoreCounter">({rule.counter}, static_cast<std::int16_t>(count + 1));
+    }
+  }
+}
+
+// Moves the entries `first` to `last` by one place, back with 1, forward with -1.
+void Shift(KelvaneBuffers& buffers, int first, int last, int by) {
+  if (by > 0) {
+    for (int i = last; i >= first; --i) buffers.SetEntry(i + 1, buffers.Entry(i));
+  } else {
+    for (int i = first; i <= last; ++i) buffers.SetEntry(i - 1, buffers.Entry(i));
+  }
+}
+
+// How many entries stand in front of the one at `place` once it is moved.
+int EntriesInFront(const KelvaneBuffers& buffers, int place) {
+  const double date = buffers.history.Get<"Date">(place);
+  const int count = std::min<int>(buffers.golfer.Get<"ScoreCounter">(1), kKelvaneScores);
+  for (int i = 1; i <= count; ++i) {
+    if (i != place && !(date < buffers.history.Get<"Date">(i))) return i - 1;
+  }
+  return count;
+}
+
+}  // namespace
+
+Record<KelvaneScoreLayout> KelvaneBuffers::Entry(int i) const {
+  constexpr Field kFirst = FieldOf<KelvaneHistoryLayout, "CourseNumber">();
+  Record<KelvaneScoreLayout> entry;
+  const std::string_view bytes =
+      history.Bytes().substr(kFirst.OffsetOf(std::array{i}), kKelvaneScoreLength);
+  bytes.copy(entry.MutableBytes().data(), bytes.size());
+  return entry;
+}
+
+void KelvaneBuffers::SetEntry(int i, const Record<KelvaneScoreLayout>& entry) {
+  constexpr Field kFirst = FieldOf<KelvaneHistoryLayout, "CourseNumber">();
+  char* at = history.MutableBytes().data() + kFirst.OffsetOf(std::array{i});
+  entry.Bytes().copy(at, kKelvaneScoreLength);
+}
+
+void BlankKVScore(SharedState& state) {
+  auto& score = state.Kelvane().score;
+  score = {};
+  score.Set<"Date">(state.Now());
+  score.Set<"Label">("");
+}
+
+void AddKVScore(SharedState& state) {
+  KelvaneBuffers& buffers = state.Kelvane();
+  CountScore(buffers);
+  Shift(buffers, 1, kKelvaneScores - 1, 1);
+  buffers.SetEntry(1, buffers.score);
+  if (buffers.history.Get<"Date">(1) < buffers.history.Get<"Date">(2)) RepositionKVScore(state, 1);
+}
+
+void RepositionKVScore(SharedState& state, int place) {
+  KelvaneBuffers& buffers = state.Kelvane();
+  const int target = EntriesInFront(buffers, place);
+  if (target < 0) return;
+  buffers.score = buffers.Entry(place);
+  if (target == place) return;
+  if (place > target - 1) {
+    Shift(buffers, target + 1, place - 1, 1);
+    buffers.SetEntry(target + 1, buffers.score);
+  } else {
+    Shift(buffers, place + 1, target, -1);
+    buffers.SetEntry(target, buffers.score);
+  }
+}
+
+}  // namespace golf

@@ -1,0 +1,173 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/shared_state.h"
+#include "stores/quenby/quenby_layouts.h"
+
+namespace golf {
+
+// The golfers of all Quenby rosters, QBGOLFER.Q9D in StoreDataPath, one of them in a buffer: the
+// first storey of a player. Getters give texts trimmed; setters trim them and cut them to their
+// field. Where a getter is said to mend, it brings the stored value into its range in the buffer.
+// An index outside its bounds is error 9, a number too large for its field error 6; files raise the
+// errors of FileTable.
+class RosterPlayers {
+ public:
+  explicit RosterPlayers(SharedState& state) : state_(state) {}
+  RosterPlayers(const RosterPlayers&) = delete;
+  RosterPlayers& operator=(const RosterPlayers&) = delete;
+  virtual ~RosterPlayers() = default;
+
+  void OpenRosterFile();
+  void CloseRosterFile();
+  std::int32_t RosterFileLength();
+  void BlankPlayerRecord();
+  // The first free record from `start` on, which is raised to 10 if it is lower; behind the file if
+  // there is none. The buffer holds the last record read.
+  std::int32_t FindAvailableRecordInRosterFile(std::int16_t& start);
+  // The record in the buffer, in the format "000".
+  std::string RecordNumber() const;
+  bool PlayerExists() const { return player_.Get<"IDNum">() >= 1; }
+
+  // "Y" or anything else.
+  bool PrintPlayer() const { return IsFlagged<"PrintPlayer">(); }
+  void SetPrintPlayer(std::string_view value);
+  int Cart() const { return IsFlagged<"Cart">() ? 1 : 0; }
+  void SetCart(bool value) { SetFlag<"Cart">(value); }
+  std::string CartString() const { return IsFlagged<"Cart">() ? "Y" : " "; }
+
+  // Empty for a record that holds no golfer.
+  std::string IDNum() const;
+  void SetIDNum(double value);
+  std::int32_t StoredID() const { return player_.Get<"IDNum">(); }
+
+  // Roster numbers, packed to the front; setting one takes it off any other of the first three.
+  std::int16_t Rosters(int n) const { return player_.Get<"Rosters">(n); }
+  void SetRosters(int n, double value);
+  // 0: the names of all rosters; 1 to 4: the text of one box, with the roster number at its end.
+  std::string RosterNames(int which);
+
+  std::string NameFirst() const { return Text<"NameFirst">(); }
+  void SetNameFirst(std::string_view value) { SetText<"NameFirst">(value); }
+  std::string NameLast() const { return Text<"NameLast">(); }
+  void SetNameLast(std::string_view value) { SetText<"NameLast">(value); }
+  // "Last, First"; empty without a last name.
+  std::string NameLF() const;
+  std::string NameFL() const;
+
+  std::uint8_t SexIndice();  // mends to 0
+  std::string sex() const { return player_.Get<"Sex">() == 0 ? "M" : "F"; }
+  void Setsex(std::string_view value);
+
+  std::string AddressHomeLine(int n) const { return Text<"AddressHomeLine">(n); }
+  void SetAddressHomeLine(int n, std::string_view value) { SetText<"AddressHomeLine">(n, value); }
+  std::string AddressHomeFull() const;
+  std::string AddressWorkLine(int n) const { return Text<"AddressWorkLine">(n); }
+  void SetAddressWorkLine(int n, std::string_view value) { SetText<"AddressWorkLine">(n, value); }
+  std::string AddressWorkFull() const;
+  std::string PhoneHome() const { return Text<"PhoneHome">(); }
+  void SetPhoneHome(std::string_view value) { SetText<"PhoneHome">(value); }
+  std::string PhoneWork() const { return Text<"PhoneWork">(); }
+  void SetPhoneWork(std::string_view value) { SetText<"PhoneWork">(value); }
+  std::string PhoneFax() const { return Text<"PhoneFax">(); }
+  void SetPhoneFax(std::string_view value) { SetText<"PhoneFax">(value); }
+  std::string Email() const { return Text<"Email">(); }
+  void SetEmail(std::string_view value) { SetText<"Email">(value); }
+  std::string GroupText() const { return Text<"GroupText">(); }
+  void SetGroupText(std::string_view value) { SetText<"GroupText">(value); }
+  std::string ReportFlags() const { return Text<"ReportFlags">(); }
+  void SetReportFlags(std::string_view value) { SetText<"ReportFlags">(value); }
+  std::string MiscText(int n) const { return Text<"MiscText">(n); }
+  void SetMiscText(int n, std::string_view value) { SetText<"MiscText">(n, value); }
+  std::string DueComment() const { return Text<"DueComment">(); }
+  void SetDueComment(std::string_view value) { SetText<"DueComment">(value); }
+  std::string Comments() const { return Text<"Comments">(); }
+  void SetComments(std::string_view value) { SetText<"Comments">(value); }
+  std::string MiscInTourText(int n) const { return Text<"MiscInTourText">(n); }
+  void SetMiscInTourText(int n, std::string_view value) { SetText<"MiscInTourText">(n, value); }
+
+  std::string Flight();  // mends to "A"
+  void SetFlight(std::string_view value);
+  std::int16_t GroupTee();  // mends to 1
+  // A value outside 1 to 5 becomes 1, for the caller too.
+  void SetGroupTee(double& value);
+  std::string PreferredTime() const;  // "Early", "Middle", "Late" or "None"
+  void SetPreferredTime(std::string_view value);
+
+  // With a plus sign, and with a minus sign, for what lies below 0.
+  std::string Index() const;
+  std::string IndexValue() const;
+  void SetIndex(double value) { player_.Set<"Index">(static_cast<float>(value)); }
+  std::string Handicap(bool decimals) const;
+  std::string HandicapValue(bool decimals) const;
+  void SetHandicap(double value) { player_.Set<"Handicap">(static_cast<float>(value)); }
+
+  DateValue MiscDate(int n) const { return player_.Get<"MiscDate">(n); }
+  void SetMiscDate(int n, DateValue value) { player_.Set<"MiscDate">({n}, value); }
+  // In the date format of the shared state; empty for an n other than 1 or 2.
+  std::string MiscDateString(int n) const;
+  DateValue DueDate() const { return player_.Get<"DueDate">(); }
+  void SetDueDate(DateValue value) { player_.Set<"DueDate">(value); }
+  std::string DueDateString() const;
+  // Amounts times 10000; as text in the format "0.00".
+  std::string MiscCurrency(int n) const;
+  void SetMiscCurrency(int n, std::int64_t value) { player_.Set<"MiscCurrency">({n}, value); }
+  std::string DueAmount() const;
+  void SetDueAmount(std::int64_t value) { player_.Set<"DueAmount">(value); }
+
+ protected:
+  SharedState& state() const { return state_; }
+
+  // A golfer's record into the buffer; false with nothing read for a number below 1.
+  bool ReadPlayer(std::int32_t record);
+  void WritePlayer() { state_.files.Write(file_, held_, player_); }
+
+  std::int32_t held_ = 0;            // the record in the buffer
+  bool tournament_in_hand_ = false;  // what the last GetRecord or SaveRecord worked on
+
+ private:
+  template <FieldName kName>
+  std::string Text() const {
+    return std::string(Trim(player_.Get<kName>()));
+  }
+  template <FieldName kName>
+  std::string Text(int n) const {
+    return std::string(Trim(player_.Get<kName>(n)));
+  }
+  template <FieldName kName>
+  void SetText(std::string_view value) {
+    player_.Set<kName>(std::string(Trim(value)));
+  }
+  template <FieldName kName>
+  void SetText(int n, std::string_view value) {
+    player_.Set<kName>({n}, std::string(Trim(value)));
+  }
+  template <FieldName kName>
+  bool IsFlagged() const {
+    return (player_.Get<kName>() & 1) != 0;
+  }
+  // Clearing the flag clears the bits 9 to 15 as well.
+  template <FieldName kName>
+  void SetFlag(bool value) {
+    const int word = player_.Get<kName>();
+    player_.Set<kName>(static_cast<std::int16_t>(value ? word | 1 : word & 0x1FE));
+  }
+
+  std::string NameOfRoster(int roster);
+
+  SharedState& state_;
+  int file_ = 0;
+  Record<PlayerLayout> player_;
+};
+
+// "Early", "Middle" and "Late" for 1 to 3, "None" for any other number, and back (0).
+std::string PreferredTimeName(int number);
+std::int16_t PreferredTimeNumber(std::string_view name);
+
+// An amount times 10000 in the format "0.00".
+std::string FormatCurrency(std::int64_t value);
+
+}  // namespace golf

@@ -1,0 +1,227 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/general_routines.h"
+#include "core/number_text.h"
+#include "core/shared_state.h"
+#include "stores/quenby/quenby_layouts.h"
+
+namespace golf {
+
+// A round of 1 to 7; left out, the active round of the shared tournament object.
+using OptionalRound = std::optional<int>;
+
+// The name of a file of a tournament, without folder: "X0012" and the extension.
+std::string TournamentFileName(std::int32_t tournament, std::string_view extension);
+
+// The control record of a tournament, one file at a time in StoreDataPath: the first storey of the
+// tournament, under its statistics. Where a getter is said to mend, it brings the stored value into
+// its range in the buffer, and the next save writes it. An index outside its bounds is error 9, a
+// number too large for its field error 6.
+class TournamentControl {
+ public:
+  explicit TournamentControl(SharedState& state) : state_(state) {}
+  TournamentControl(const TournamentControl&) = delete;
+  TournamentControl& operator=(const TournamentControl&) = delete;
+  virtual ~TournamentControl() = default;
+
+  // -1 stands for the file of defaults. A missing file comes into being empty.
+  void OpenTournamentControlFile(std::int32_t tournament);
+  void CloseTournamentControlFile();
+  // Fills the buffer for a new tournament, makes its team file and opens its control file; writes
+  // no control record.
+  void CreateBlankTournament(std::int32_t tournament);
+  void DeleteTournamentControlFile(std::int32_t tournament);
+  // An empty file leaves the buffer as it is; a record of an older release is brought up to date in
+  // the buffer.
+  void GetRecord();
+  void SaveRecord();
+  std::int32_t IDNum() const { return id_; }
+
+  std::string Name() const;
+  void SetName(std::string_view value);
+
+  // As decimal text; these mend: rounds 1 to 5, teams 1 to 200, flights 1 to 26, tees 0 to 5.
+  std::string NumRounds() { return MendedText<"NumRounds">(1, 5); }
+  void SetNumRounds(double value) { SetInt16<"NumRounds">(value); }
+  std::string NumTeams() { return MendedText<"NumTeams">(1, kMostTeams); }
+  void SetNumTeams(double value);
+  std::string NumFlights() { return MendedText<"NumFlights">(1, kMostFlights); }
+  void SetNumFlights(double value) { SetInt16<"NumFlights">(value); }
+  std::string NumTeamFlights() { return MendedText<"NumTeamFlights">(1, kMostFlights); }
+  void SetNumTeamFlights(double value) { SetInt16<"NumTeamFlights">(value); }
+  std::string NumTeesMenPlay() { return MendedText<"NumTeesMenPlay">(0, kTeeGroups); }
+  void SetNumTeesMenPlay(double value) { SetInt16<"NumTeesMenPlay">(value); }
+  std::string NumTeesLadiesPlay() { return MendedText<"NumTeesLadiesPlay">(0, kTeeGroups); }
+  void SetNumTeesLadiesPlay(double value) { SetInt16<"NumTeesLadiesPlay">(value); }
+  // The larger of the two, at least 1.
+  int NumTeeGroups();
+
+  std::int16_t NumPlayersPerTeam() const { return record_.Get<"NumPlayersPerTeam">(); }
+  void SetNumPlayersPerTeam(double value) { SetInt16<"NumPlayersPerTeam">(value); }
+  // These mend to the value named first.
+  std::int16_t RoundType();  // 18 or 9
+  void SetRoundType(double value) { SetInt16<"RoundType">(value); }
+  std::int16_t TeamHandicapOption() { return MendedOption<"TeamHandicapOption">(1, 3); }
+  void SetTeamHandicapOption(double value) { SetInt16<"TeamHandicapOption">(value); }
+  std::int16_t PointQuotaOption() { return MendedOption<"PointQuotaOption">(1, 3); }
+  void SetPointQuotaOption(double value) { SetInt16<"PointQuotaOption">(value); }
+  std::int16_t PositionOption() { return MendedOption<"PositionOption">(1, 2); }
+  void SetPositionOption(double value) { SetInt16<"PositionOption">(value); }
+  std::int16_t PlayerFlightsDeterminedBy() {
+    return MendedOption<"PlayerFlightsDeterminedBy">(0, 4);
+  }
+  void SetPlayerFlightsDeterminedBy(double value) { SetInt16<"PlayerFlightsDeterminedBy">(value); }
+  std::int16_t TeamFlightsDeterminedBy() { return MendedOption<"TeamFlightsDeterminedBy">(0, 4); }
+  void SetTeamFlightsDeterminedBy(double value) { SetInt16<"TeamFlightsDeterminedBy">(value); }
+
+  // 1 if on, else 0; decimal places 2 if on, else 0.
+  int IndextoHandicap() const { return IsOn<"IndextoHandicap">() ? 1 : 0; }
+  void SetIndextoHandicap(bool on) { SetFlag<"IndextoHandicap">(on); }
+  int HandicapDecimalPlaces() const { return IsOn<"HandicapDecimalPlaces">() ? 2 : 0; }
+  void SetHandicapDecimalPlaces(bool on) { SetFlag<"HandicapDecimalPlaces">(on); }
+  int ScoreEntryTotal() const { return IsOn<"ScoreEntryTotal">() ? 1 : 0; }
+  void SetScoreEntryTotal(bool on) { SetFlag<"ScoreEntryTotal">(on); }
+  int RCGAESC() const { return IsOn<"RCGAESC">() ? 1 : 0; }
+  void SetRCGAESC(bool on) { SetFlag<"RCGAESC">(on); }
+  int ShowTeamsonSheet() const { return IsOn<"ShowTeamsonSheet">() ? 1 : 0; }
+  void SetShowTeamsonSheet(bool on) { SetFlag<"ShowTeamsonSheet">(on); }
+
+  // Text in the format "0". A value outside 0 to 100 is replaced by 25 and by 36.
+  std::string TeamHandicapPercent() const;
+  void SetTeamHandicapPercent(std::string_view value);
+  std::string PointQuotaFromHandicap() const;
+  void SetPointQuotaFromHandicap(std::string_view value);
+  std::string PointsGiven(int difference) const;  // by score less par, -5 to 5
+  void SetPointsGiven(int difference, double value);
+
+  // In the date format of the shared state; empty for a round outside 1 to 7.
+  std::string DateofRound(OptionalRound round = {});
+  void SetDateofRound(OptionalRound round, DateValue value);
+  std::int16_t CourseNumberPlayed(OptionalRound round = {});
+  void SetCourseNumberPlayed(OptionalRound round, double value);
+  // These make that course current in the shared course object.
+  std::string CourseNamePlayed(OptionalRound round = {});
+  std::string TeeNamePlayed(int group, int n, OptionalRound round = {});
+
+  std::int16_t TeeNumberPlayed(int group, int n, OptionalRound round = {});
+  void SetTeeNumberPlayed(int group, int n, OptionalRound round, double value);
+  float TeeHandicapPercent(int group, int n, OptionalRound round = {});
+  // A value above 200 or below 1 becomes 100.
+  void SetTeeHandicapPercent(int group, int n, OptionalRound round, double value);
+  float TeeHandicapAdjustment(int group, int n, OptionalRound round = {});
+  void SetTeeHandicapAdjustment(int group, int n, OptionalRound round, std::string_view value);
+
+  std::string ActiveRound() const;
+  // A value outside 1 to the stored number of rounds becomes 1.
+  void SetActiveRound(double value);
+  int RoundOr(OptionalRound round) const { return round.value_or(record_.Get<"ActiveRound">()); }
+
+  std::int16_t ActiveTrial() const { return record_.Get<"ActiveTrial">(); }
+  void SetActiveTrial(double value) { SetInt16<"ActiveTrial">(value); }
+  std::int16_t NumTrials() const { return record_.Get<"NumTrials">(); }
+  void SetNumTrials(double value) { SetInt16<"NumTrials">(value); }
+  std::int16_t TeeTimeStartOption() const { return record_.Get<"TeeTimeStartOption">(); }
+  void SetTeeTimeStartOption(double value) { SetInt16<"TeeTimeStartOption">(value); }
+  std::int16_t TeeTimeIncEveryXTeams() const { return record_.Get<"TeeTimeIncEveryXTeams">(); }
+  void SetTeeTimeIncEveryXTeams(double value) { SetInt16<"TeeTimeIncEveryXTeams">(value); }
+  float TeeTimeInc() const { return record_.Get<"TeeTimeInc">(); }
+  void SetTeeTimeInc(double value) { record_.Set<"TeeTimeInc">(static_cast<float>(value)); }
+
+  std::int16_t PeoriaHole(int hole) const { return record_.Get<"PeoriaHole">(hole); }
+  void SetPeoriaHole(int hole, double value) { SetInt16<"PeoriaHole">(value, hole); }
+  std::int16_t SheetColumnSorted(int i) const { return record_.Get<"SheetColumnSorted">(i); }
+  void SetSheetColumnSorted(int i, double value) { SetInt16<"SheetColumnSorted">(value, i); }
+  bool SheetColumnSortedHow(int i) const { return record_.Get<"SheetColumnSortedHow">(i) != 0; }
+  void SetSheetColumnSortedHow(int i, bool value) {
+    record_.Set<"SheetColumnSortedHow">({i}, value ? -1 : 0);
+  }
+  std::int16_t TeamSheetColumnSorted(int i) const {
+    return record_.Get<"TeamSheetColumnSorted">(i);
+  }
+  void SetTeamSheetColumnSorted(int i, double value) {
+    SetInt16<"TeamSheetColumnSorted">(value, i);
+  }
+  bool TeamSheetColumnSortedHow(int i) const {
+    return record_.Get<"TeamSheetColumnSortedHow">(i) != 0;
+  }
+  void SetTeamSheetColumnSortedHow(int i, bool value) {
+    record_.Set<"TeamSheetColumnSortedHow">({i}, value ? -1 : 0);
+  }
+
+  // Text in the format "0.00"; a negative value becomes 0.
+  std::string HandicapMax(int group) const;
+  void SetHandicapMax(int group, double value);
+  // The pattern of new team names; an empty one becomes "Team #".
+  std::string TeamNamesMat() const;
+  void SetTeamNamesMat(std::string_view value);
+  std::int32_t PlayerFlightRange(int i) const { return record_.Get<"PlayerFlightRange">(i); }
+  void SetPlayerFlightRange(int i, double value);
+  std::int32_t TeamFlightRange(int i) const { return record_.Get<"TeamFlightRange">(i); }
+  void SetTeamFlightRange(int i, double value);
+
+  // Live entries of the open player file; its buffers hold the last one read.
+  std::int32_t NumPlayersInTournament();
+
+ protected:
+  SharedState& state() const { return state_; }
+
+ private:
+  std::string ControlFile(std::int32_t tournament) const;
+  void FillNewTournament();
+  void MakeTeams(std::int32_t tournament);
+
+  template <FieldName kName>
+  std::string MendedText(int low, int high);
+  template <FieldName kName>
+  std::int16_t MendedOption(int low, int high);
+  template <FieldName kName>
+  void SetInt16(double value);
+  template <FieldName kName>
+  void SetInt16(double value, int index);
+  template <FieldName kName>
+  bool IsOn() const {
+    return record_.Get<kName>() != 0;
+  }
+  template <FieldName kName>
+  void SetFlag(bool on) {
+    record_.Set<kName>(on ? -1 : 0);
+  }
+
+  SharedState& state_;
+  int file_ = 0;
+  std::int32_t id_ = 0;
+  Record<TournamentLayout> record_;
+};
+
+template <FieldName kName>
+std::string TournamentControl::MendedText(int low, int high) {
+  double value = record_.Get<kName>();
+  const std::int32_t mended = LimitNumber(value, low, high);
+  record_.Set<kName>(static_cast<std::int16_t>(mended));
+  return std::to_string(mended);
+}
+
+// A value outside the range becomes `low`.
+template <FieldName kName>
+std::int16_t TournamentControl::MendedOption(int low, int high) {
+  const std::int16_t value = record_.Get<kName>();
+  if (value < low || value > high) record_.Set<kName>(static_cast<std::int16_t>(low));
+  return record_.Get<kName>();
+}
+
+template <FieldName kName>
+void TournamentControl::SetInt16(double value) {
+  record_.Set<kName>(RoundToInt16(value));
+}
+
+template <FieldName kName>
+void TournamentControl::SetInt16(double value, int index) {
+  record_.Set<kName>({index}, RoundToInt16(value));
+}
+
+}  // namespace golf

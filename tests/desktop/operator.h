@@ -1,0 +1,69 @@
+#pragma once
+
+#include <wx/modalhook.h>
+#include <wx/timer.h>
+#include <wx/uiaction.h>
+#include <wx/window.h>
+
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace golf {
+
+// The operator before a real display: a list of steps, each of which waits until it can be done.
+// Mouse and keyboard are those of the window system. Where a step cannot be done in time the whole
+// test program ends, for no window can be left in an orderly way then.
+class Operator : private wxTimer, private wxModalDialogHook {
+ public:
+  Operator();
+  ~Operator() override;
+
+  // Does something once the condition holds.
+  void When(std::string what, std::function<bool()> condition, std::function<void()> action);
+  // Clicks the widget of this name once it can be seen and used.
+  void Press(const std::string& name);
+  // Waits for a message box, expects its title and text, and answers it by a key.
+  void Answer(const std::string& title, const std::string& text, int key = WXK_RETURN);
+  // Types a key once a widget of this name can be seen and used.
+  void Type(const std::string& name, int key);
+  // Runs code that may show windows, as an event of its own.
+  void Do(std::function<void()> action);
+
+  // At once, wherever the widget is.
+  void ClickNow(const std::string& name);
+  void TypeNow(int key) { simulator_.Char(key); }
+
+  // Runs the program until it ends; all steps must be done then.
+  void RunProgram();
+  // Lets events come until the condition holds.
+  void RunUntil(const std::string& what, std::function<bool()> condition);
+
+  // The widget of this name; null if no window shows one.
+  static wxWindow* Find(const std::string& name);
+
+ private:
+  struct Step {
+    std::string what;
+    std::function<bool()> condition;
+    std::function<void()> action;
+  };
+
+  void Notify() override;
+  int Enter(wxDialog* dialog) override;
+  void Exit(wxDialog* dialog) override;
+  bool PointAt(const std::string& name);
+  void MoveOver(const wxWindow& widget);
+
+  std::deque<Step> steps_;
+  std::vector<wxDialog*> dialogs_;
+  const wxWindow* target_ = nullptr;  // where the pointer is to go
+  bool felt_ = false;
+  int nudge_ = 0;
+  wxUIActionSimulator simulator_;
+  std::chrono::steady_clock::time_point deadline_;
+};
+
+}  // namespace golf

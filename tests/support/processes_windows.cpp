@@ -1,0 +1,58 @@
+#define NOMINMAX
+#include <windows.h>
+
+#include <filesystem>
+
+#include "support/processes.h"
+
+namespace golf {
+namespace {
+
+std::wstring Wide(const std::string& utf8) {
+  return std::filesystem::path(std::u8string(utf8.begin(), utf8.end())).wstring();
+}
+
+HANDLE OpenStream(const TempFolder& folder, const char* name, DWORD access) {
+  SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+  return CreateFileW(Wide(folder.Path(name)).c_str(), access, FILE_SHARE_READ, &inherited,
+                     access == GENERIC_READ ? OPEN_EXISTING : CREATE_ALWAYS, 0, nullptr);
+}
+
+}  // namespace
+
+HeldFile::HeldFile(const std::string& utf8_path)
+    : system_(CreateFileW(Wide(utf8_path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                          OPEN_EXISTING, 0, nullptr)),
+      held_(system_ != INVALID_HANDLE_VALUE) {}
+
+HeldFile::~HeldFile() {
+  if (held_) CloseHandle(system_);
+}
+
+Ended RunProgram(const TempFolder& folder, const std::string& program, const std::string& words,
+                 const std::string& input) {
+  folder.Write("in", input);
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  start.dwFlags = STARTF_USESTDHANDLES;
+  start.hStdInput = OpenStream(folder, "in", GENERIC_READ);
+  start.hStdOutput = OpenStream(folder, "out", GENERIC_WRITE);
+  start.hStdError = OpenStream(folder, "problems", GENERIC_WRITE);
+  std::wstring line = Wide("\"" + program + "\" " + words);
+  PROCESS_INFORMATION process{};
+  const BOOL started = CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                      Wide(folder.Path()).c_str(), &start, &process);
+  for (const HANDLE stream : {start.hStdInput, start.hStdOutput, start.hStdError}) {
+    CloseHandle(stream);
+  }
+  DWORD code = static_cast<DWORD>(-1);
+  if (started) {
+    WaitForSingleObject(process.hProcess, INFINITE);
+    GetExitCodeProcess(process.hProcess, &code);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+  }
+  return {static_cast<int>(code), folder.Read("out"), folder.Read("problems")};
+}
+
+}  // namespace golf
