@@ -52,13 +52,16 @@ void Application::Start(DateValue now, const RegionalOverrides& overrides) {
   PrepareStart(state_, forms, now);
 }
 
+bool CanOpenScreen(const ScreenHost& host, std::string_view name) {
+  return name != "TipBox" && host.HasScreen(name);
+}
+
 void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,
                 std::string_view word) {
-  if (!host.HasScreen(name)) {
+  if (!CanOpenScreen(host, name)) {
     throw NumberedError(ErrorNumber::kBadCall, "There is no screen " + std::string(name) + ".");
   }
-  if (!word.empty()) host.Load(name).SetTag(std::string(word));
-  OpenTransfer(state, host, name);
+  OpenTransfer(state, host, name, word);
 }
 
 }  // namespace golf

@@ -34,6 +34,9 @@ class Application {
   SharedState state_;
 };
 
+// Whether a name stands for a screen that somebody opens; the message box opens by itself.
+bool CanOpenScreen(const ScreenHost& host, std::string_view name);
+
 // Opens a screen by its name as its opener does, and returns when it is gone. `word` is what the
 // opener tells the screen, often nothing. Error 5 for a name that stands for no screen.
 void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name, std::string_view word);

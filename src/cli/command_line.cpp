@@ -25,8 +25,9 @@ constexpr const char* kExitCodes =
     "Every command has a --help of its own.";
 
 void AddGlobalOptions(CLI::App& app, Options& options) {
-  app.add_option("--install", options.install,
-                 "The folder with kvdata, qbdata and zddata; the program's own if left out")
+  app.add_option_function<std::string>(
+         "--install", [&options](const std::string& folder) { options.install = folder; },
+         "The folder with kvdata, qbdata and zddata; the program's own if left out")
       ->type_name("DIR");
   app.add_option_function<std::string>(
          "--now",
@@ -104,9 +105,16 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
                    "Really start programs instead of reporting them");
 }
 
+// What was written to standard output must have got there.
+ExitCode CheckOutput(ExitCode code) {
+  if (std::cout.flush()) return code;
+  TellProblem("Standard output could not be written to: the result is not complete.");
+  return code == ExitCode::kDone ? ExitCode::kError : code;
+}
+
 ExitCode RunChosen(const Command& command) {
   try {
-    return command();
+    return CheckOutput(command());
   } catch (const Refusal& refusal) {
     std::cerr << refusal.what() << std::endl;
     return ExitCode::kRefused;
@@ -118,6 +126,9 @@ ExitCode RunChosen(const Command& command) {
         error.Is(ErrorNumber::kPathNotFound) || error.Is(ErrorNumber::kFileNotFound);
     TellProblem(missing ? error.description() : error.Report());
     return missing ? ExitCode::kRefused : ExitCodeOf(error);
+  } catch (const std::exception& error) {
+    std::cerr << "A fault of the program: " << error.what() << std::endl;
+    return ExitCode::kError;
   }
 }
 

@@ -1,10 +1,13 @@
 #include <unistd.h>
 
+#include <csignal>
+
 #include "cli/console.h"
 
 namespace golf {
 
-void PrepareConsole() {}
+// A reader that goes away must not kill a run halfway; the failed output is told at the end.
+void PrepareConsole() { std::signal(SIGPIPE, SIG_IGN); }
 
 bool ErrorOutputIsTerminal() { return isatty(STDERR_FILENO) != 0; }
 

@@ -25,16 +25,14 @@ struct FoundFile {
 // A file as it is named, or below the install. Either way its name may be in any case.
 FoundFile FindFile(const Options& options, const std::string& file) {
   namespace fs = std::filesystem;
-  const fs::path named = PathFromUtf8(file);
+  const fs::path named = PathFromUtf8(file).make_preferred();
   Options beside = options;
   beside.install = Utf8FromPath(named.has_parent_path() ? named.parent_path() : fs::path("."));
   const std::pair<const Options&, std::string> places[] = {{beside, Utf8FromPath(named.filename())},
-                                                           {options, file}};
+                                                           {options, Utf8FromPath(named)}};
   for (const auto& [place, name] : places) {
     std::error_code error;
-    const bool folder =
-        place.install.empty() || fs::is_directory(PathFromUtf8(place.install), error);
-    if (!folder) continue;
+    if (place.install && !fs::is_directory(PathFromUtf8(*place.install), error)) continue;
     FoundFile found{StartApplication(place), TextFromUtf8(name)};
     SharedState& state = found.application->state();
     found.path.insert(0, state.ProgramPath);

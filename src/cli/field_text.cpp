@@ -132,7 +132,10 @@ std::vector<std::pair<std::string, std::string>> PlainLines(const Field& field,
     const bool new_line =
         lines.empty() ||
         (field.rank > 1 && indexes.back() == field.dimensions[field.rank - 1].base);
-    const std::string text = TextOf(field, ValueAt(field, record, indexes));
+    const FieldValue value = ValueAt(field, record, indexes);
+    const auto* raw = std::get_if<std::string>(&value);
+    const bool named_text = raw != nullptr && !field.name.empty();
+    const std::string text = named_text ? PlainCell(TrimRight(*raw)) : TextOf(field, value);
     if (!new_line) {
       lines.back().second += (field.type == FieldType::kText ? ", " : " ") + text;
       return;

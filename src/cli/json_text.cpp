@@ -60,7 +60,7 @@ Json DescribeControl(const Screen& screen, const Control& control) {
   const auto* button = dynamic_cast<const Button*>(&control);
   Json event = {{"event", "control"},
                 {"screen", screen.name()},
-                {"name", control.name()},
+                {"name", screen.ScriptName(control)},
                 {"kind", NameOf(control.kind())},
                 {"visible", control.IsShown()},
                 {"enabled", control.IsUsable()},

@@ -58,8 +58,8 @@ std::vector<std::string> CourseRow(const CourseClass& course, std::int32_t numbe
     tees += (tees.empty() ? "" : ", ") + std::to_string(tee.number) + " " + tee.name;
   }
   const int link = course.KVCourseNum();
-  return {std::to_string(number), PlainText(course.Name()), HolesText(course),
-          link == 0 ? "-" : std::to_string(link), PlainText(tees)};
+  return {std::to_string(number), PlainCell(course.Name()), HolesText(course),
+          link == 0 ? "-" : std::to_string(link), PlainCell(tees)};
 }
 
 }  // namespace

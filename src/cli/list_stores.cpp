@@ -61,7 +61,7 @@ void AddTournament(SharedState& state, std::int32_t number, ListWriter& out) {
            {"date", JsonText(date)},
            {"rounds", std::stoi(rounds)},
            {"players", players}},
-          {std::to_string(number), PlainText(tournament.Name()), PlainText(date), rounds,
+          {std::to_string(number), PlainCell(tournament.Name()), PlainCell(date), rounds,
            std::to_string(players)});
 }
 
@@ -76,7 +76,7 @@ void ListRosters(SharedState& state, const ListRequest&, ListWriter& out) {
     const int holes = state.Kelvane().header.Get<"Holes">();
     const int golfers = CountKelvaneGolfers(state);
     out.Add({{"name", JsonText(name)}, {"holes", holes}, {"golfers", golfers}},
-            {PlainText(name), std::to_string(holes), std::to_string(golfers)});
+            {PlainCell(name), std::to_string(holes), std::to_string(golfers)});
   }
 }
 
@@ -93,7 +93,7 @@ void ListQuenbyRosters(SharedState& state, const ListRequest&, ListWriter& out) 
     const auto counted = golfers.find(number);
     const int count = counted == golfers.end() ? 0 : counted->second;
     out.Add({{"number", number}, {"name", JsonText(program.ClubName())}, {"golfers", count}},
-            {std::to_string(number), PlainText(program.ClubName()), std::to_string(count)});
+            {std::to_string(number), PlainCell(program.ClubName()), std::to_string(count)});
   }
 }
 

@@ -13,7 +13,10 @@ DateValue Moment(const Options& options) {
 }
 
 std::unique_ptr<Application> StartApplication(const Options& options) {
-  auto application = std::make_unique<Application>(MakePlatform(options.install));
+  if (options.install && options.install->empty()) {
+    throw NumberedError(ErrorNumber::kPathNotFound, "--install names no folder.");
+  }
+  auto application = std::make_unique<Application>(MakePlatform(options.install.value_or("")));
   application->Start(Moment(options), options.regional);
   return application;
 }

@@ -11,7 +11,7 @@ namespace golf {
 
 // The global options.
 struct Options {
-  std::string install;  // UTF-8; empty: the program's own folder
+  std::optional<std::string> install;  // UTF-8; the program's own folder if left out
   std::optional<CivilTime> now;
   RegionalOverrides regional;
   bool json = false;

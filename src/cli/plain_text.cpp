@@ -23,16 +23,32 @@ void WriteRow(const std::vector<std::string>& cells, const std::vector<std::size
   std::cout << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
 }
 
+// The undefined bytes of the code page are control characters in UTF-8.
+char Harmless(char c) {
+  constexpr std::string_view kUndefined = "\x81\x8D\x8F\x90\x9D";
+  const auto code = static_cast<unsigned char>(c);
+  const bool control = code < 0x20 || code == 0x7F || kUndefined.find(c) != std::string_view::npos;
+  return control ? '?' : c;
+}
+
 }  // namespace
 
 std::string PlainText(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool pair = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
-    if (!pair) plain += text[i] == '\r' ? '\n' : text[i];
+    if (pair) continue;
+    const bool line_end = text[i] == '\r' || text[i] == '\n';
+    plain += line_end ? '\n' : Harmless(text[i]);
   }
   plain.erase(plain.find_last_not_of('\n') + 1);
   return Utf8FromText(plain);
+}
+
+std::string PlainCell(std::string_view text) {
+  std::string cell(text);
+  std::transform(cell.begin(), cell.end(), cell.begin(), Harmless);
+  return Utf8FromText(cell);
 }
 
 void WriteTable(const std::vector<std::string>& headings,

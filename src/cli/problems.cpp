@@ -10,6 +10,7 @@ namespace golf {
 void TellProblem(std::string_view text) { std::cerr << PlainText(text) << std::endl; }
 
 void TellFaultCount(std::size_t count) {
+  if (count == 0) return;
   TellProblem(std::to_string(count) + (count == 1 ? " fault." : " faults."));
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "cli/console.h"
-#include "core/code_page.h"
+#include "cli/plain_text.h"
 #include "core/text.h"
 
 namespace golf {
@@ -28,7 +28,7 @@ void ProgressBar::Show(const Progress& progress) {
   const std::string bar(filled, '#');
   std::cerr << kStartOfEmptyLine << '[' << FitText(bar, kBarWidth) << "] " << progress.done
             << " of " << progress.total << "  "
-            << Utf8FromText(Trim(progress.doing).substr(0, kNameWidth)) << std::flush;
+            << PlainCell(Trim(progress.doing).substr(0, kNameWidth)) << std::flush;
   drawn_ = true;
 }
 

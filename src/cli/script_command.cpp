@@ -9,11 +9,29 @@
 
 namespace golf {
 
+namespace {
+
+// An empty script is one; a folder, or a file that cannot be read, is none.
+void CheckReadable(const std::string& file) {
+  std::error_code error;
+  if (std::filesystem::is_regular_file(PathFromUtf8(file), error)) {
+    if (std::ifstream(PathFromUtf8(file)).good()) return;
+  }
+  throw Refusal("The script " + file + " cannot be read.");
+}
+
+ExitCode CodeAfterScript(const HeadlessHost& host) {
+  TellFaultCount(host.faults().size());
+  return host.faults().empty() ? ExitCode::kDone : ExitCodeOfFaults(host.faults());
+}
+
+}  // namespace
+
 ExitCode RunScript(const Options& options, const std::string& file, bool start_programs) {
   std::ifstream script;
   if (file != "-") {
     script.open(PathFromUtf8(file));
-    if (!script) throw Refusal("The script " + file + " cannot be read.");
+    if (!script || script.peek() == std::ifstream::traits_type::eof()) CheckReadable(file);
   }
   const auto application = StartApplication(options);
   JsonListener listener;
@@ -25,11 +43,10 @@ ExitCode RunScript(const Options& options, const std::string& file, bool start_p
     runner.Run();
   } catch (const ClickEnded& ended) {
     application->state().InitSharedObjects();
+    CodeAfterScript(host);
     return ExitCodeOf(ended.error);
   }
-  if (host.faults().empty()) return ExitCode::kDone;
-  TellFaultCount(host.faults().size());
-  return ExitCodeOfFaults(host.faults());
+  return CodeAfterScript(host);
 }
 
 }  // namespace golf

@@ -9,6 +9,8 @@
 namespace golf {
 namespace {
 
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 int WholeNumber(const std::string& word) {
   int number = 0;
   const auto read = std::from_chars(word.data(), word.data() + word.size(), number);
@@ -66,8 +68,6 @@ void ScriptRunner::Run() {
     }
   } catch (const ScriptError& error) {
     throw ScriptError("Line " + std::to_string(line_) + ": " + error.what());
-  } catch (const BadAnswer& error) {
-    throw ScriptError("Line " + std::to_string(line_) + ": " + error.what());
   }
 }
 
@@ -79,6 +79,7 @@ void ScriptRunner::FollowUntilGone(Screen& screen) {
 bool ScriptRunner::FollowNextLine() {
   std::string line;
   if (!std::getline(lines_, line)) return false;
+  if (line_ == 0 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
   listener_.SetLine(++line_);
   const Words words = WordsOf(line);
   if (words.empty()) return true;
@@ -91,17 +92,18 @@ bool ScriptRunner::FollowNextLine() {
   }
   FireTimers();
   (this->*verb->run)(words);
+  if (!host_.bad_answer().empty()) throw ScriptError(host_.bad_answer());
   return true;
 }
 
 void ScriptRunner::FireTimers() {
   Screen* top = host_.Top();
   if (top == nullptr) return;
+  const auto alive = top->shared_from_this();
   for (Control* control : top->controls()) {
     const auto* timer = dynamic_cast<const Timer*>(control);
-    if (timer != nullptr && timer->IsRunning() && timer->on_timer) {
-      host_.Operate(*top, timer->on_timer);
-    }
+    const bool due = timer != nullptr && timer->IsRunning() && timer->on_timer;
+    if (due && host_.IsShown(*top)) host_.Operate(*top, timer->on_timer);
   }
 }
 
@@ -129,7 +131,10 @@ Kind& ScriptRunner::Usable(const std::string& name) const {
 void ScriptRunner::Caller(const Words& words) { state_.CommandLine = words[1]; }
 
 void ScriptRunner::OpenByName(const Words& words) {
-  if (!host_.HasScreen(words[1])) throw ScriptError("There is no screen " + words[1] + ".");
+  if (!CanOpenScreen(host_, words[1])) {
+    throw ScriptError("There is no screen " + words[1] + ".");
+  }
+  if (host_.IsShown(words[1])) throw ScriptError(words[1] + " is open already.");
   const std::string word = words.size() > 2 ? words[2] : "";
   host_.Operate([&] { OpenScreen(state_, host_, words[1], word); });
 }
@@ -137,6 +142,7 @@ void ScriptRunner::OpenByName(const Words& words) {
 void ScriptRunner::Click(const Words& words) {
   Screen& screen = Top();
   auto& control = Usable<Captioned>(words[1]);
+  if (!TakesFocus(control)) throw ScriptError("That cannot be done with " + words[1] + ".");
   host_.Operate(screen, [&] {
     screen.MoveFocus(&control);
     if (const auto* button = dynamic_cast<const Button*>(&control)) button->Click();
@@ -170,10 +176,12 @@ void ScriptRunner::SetText(const Words& words) {
 
 void ScriptRunner::Type(const Words& words) {
   Screen& screen = Top();
+  const auto alive = screen.shared_from_this();
   auto& box = Usable<TextBox>(words[1]);
   if (box.read_only()) throw ScriptError(words[1] + " can only be read.");
   host_.Operate(screen, [&] { screen.MoveFocus(&box); });
   for (const char typed : words[2]) {
+    if (!host_.IsShown(screen)) throw ScriptError(screen.name() + " is not open any more.");
     const char key = box.key_filter ? box.key_filter(typed) : typed;
     if (key != 0) host_.Operate(screen, [&] { box.SetText(box.text() + key); });
   }
@@ -181,6 +189,7 @@ void ScriptRunner::Type(const Words& words) {
 
 void ScriptRunner::Key(const Words& words) {
   Screen& screen = Top();
+  const auto alive = screen.shared_from_this();
   if (words.size() > 2) {
     auto& control = Usable<Control>(words[2]);
     host_.Operate(screen, [&] { screen.MoveFocus(&control); });
@@ -190,7 +199,9 @@ void ScriptRunner::Key(const Words& words) {
     if (EqualIgnoringCase(words[1], "Tab")) return FocusNext(screen);
     if (focus != nullptr && focus->on_key && focus->on_key(words[1])) return;
     const auto* button = dynamic_cast<const Button*>(focus);
-    if (button != nullptr && EqualIgnoringCase(words[1], "Enter")) return button->Click();
+    const bool pressed = button != nullptr && button->IsShown() && button->IsUsable() &&
+                         EqualIgnoringCase(words[1], "Enter");
+    if (pressed) return button->Click();
     screen.OnKey(words[1]);
   });
 }
@@ -270,6 +281,8 @@ void ScriptRunner::Show(const Words& words) {
   }
 }
 
-void ScriptRunner::CloseTop(const Words&) { host_.Leave(Top()); }
+void ScriptRunner::CloseTop(const Words&) {
+  if (!host_.Leave(Top())) throw ScriptError(Top().name() + " cannot be left now.");
+}
 
 }  // namespace golf

@@ -19,8 +19,8 @@ class ReportListener : public HostListener {
 
   void OnMessage(const Box& box, BoxButton) override { Keep(box.title, box.text); }
   void OnTip(const TipView& tip, const std::string&) override { Keep(tip.title, tip.text); }
-  void OnFault(const NumberedError& fault) override { TellProblem(fault.Report()); }
-  void OnError(const NumberedError& error) override { TellProblem(error.Report()); }
+  void OnFault(const NumberedError& fault) override { Tell(fault); }
+  void OnError(const NumberedError& error) override { Tell(error); }
   void OnProgress(const Progress& progress) override { bar_.Show(progress); }
 
   void Write(std::ostream& out) const {
@@ -28,6 +28,10 @@ class ReportListener : public HostListener {
   }
 
  private:
+  void Tell(const NumberedError& error) {
+    bar_.Clear();
+    TellProblem(error.Report());
+  }
   void Keep(std::string_view title, std::string_view text) {
     const bool names_nothing = title.empty() || title == "Notice";
     if (!names_nothing) texts_.push_back(PlainText(title));
@@ -53,10 +57,8 @@ std::optional<ExitCode> Work(Application& application, HeadlessHost& host,
 }
 
 ExitCode ExitCodeAfterRun(const HeadlessHost& host) {
-  if (host.counts().empty()) return ExitCode::kRefused;
-  if (host.faults().empty()) return ExitCode::kDone;
-  TellFaultCount(host.faults().size());
-  return ExitCodeOfFaults(host.faults());
+  if (!host.faults().empty()) return ExitCodeOfFaults(host.faults());
+  return host.counts().empty() ? ExitCode::kRefused : ExitCode::kDone;
 }
 
 void WriteResult(const TransferCommand& command, const HeadlessHost& host) {
@@ -78,6 +80,7 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   const auto failed = Work(*application, host, command);
   bar.Clear();
   const ExitCode code = failed ? *failed : ExitCodeAfterRun(host);
+  TellFaultCount(host.faults().size());
   if (options.json) {
     if (!host.counts().empty() && !failed) WriteResult(command, host);
   } else {

@@ -65,7 +65,7 @@ void ChangeGate::WriteRecord(PlatformFile& file, const std::string& path, std::i
     return WriteThrough(file, offset, record_length, bytes);
   }
   const FileIdentity identity = file.Identity();
-  if (!Follows(identity, offset, bytes.size())) {
+  if (!Follows(identity, offset, record_length, bytes.size())) {
     Settle();
     kept_.bytes.clear();  // its room is used again
     kept_.file = &file;
@@ -119,8 +119,9 @@ void ChangeGate::Tell(FileChange::Kind kind, const std::string& path, std::strin
 }
 
 bool ChangeGate::Follows(const FileIdentity& identity, std::int64_t offset,
-                         std::size_t size) const {
+                         std::size_t record_length, std::size_t size) const {
   return kept_.file != nullptr && kept_.identity == identity &&
+         kept_.record_length == record_length &&
          kept_.offset + static_cast<std::int64_t>(kept_.bytes.size()) == offset &&
          kept_.bytes.size() + size <= kMostKept;
 }

@@ -229,4 +229,12 @@ std::int16_t CheckedInt16(std::int64_t value) {
   return RoundTo<std::int16_t>(static_cast<double>(value));
 }
 
+float CheckedSingle(double value) {
+  const auto single = static_cast<float>(value);
+  if (std::isinf(single) && std::isfinite(value)) {
+    throw NumberedError(ErrorNumber::kOverflow, "A number is too large for its place.");
+  }
+  return single;
+}
+
 }  // namespace golf

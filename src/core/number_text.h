@@ -36,5 +36,6 @@ std::int32_t RoundToInt32(double value);
 
 // Error 6 where the value leaves the width.
 std::int16_t CheckedInt16(std::int64_t value);
+float CheckedSingle(double value);  // NaN and the infinities pass
 
 }  // namespace golf

@@ -68,7 +68,7 @@ class Platform {
   virtual ~Platform() = default;
 
   virtual std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) = 0;
-  // Makes an empty file, or empties the one that is there.
+  // Makes an empty file; one that is there by now is left as it is.
   virtual void Create(ChangePass pass, const std::string& path) = 0;
   virtual void CreateFolder(ChangePass pass, const std::string& path) = 0;
   virtual void Delete(ChangePass pass, const std::string& path) = 0;

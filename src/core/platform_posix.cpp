@@ -11,6 +11,7 @@
 #include <array>
 #include <cctype>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <optional>
 #include <utility>
@@ -98,6 +99,7 @@ class PosixFile : public PlatformFile {
       const ssize_t count =
           pwrite(descriptor_.get(), rest.data(), rest.size(), offset + static_cast<off_t>(written));
       if (count > 0) written += static_cast<std::size_t>(count);
+      if (count == 0) FailWith(EIO, native_);
       // A descriptor that was opened for reading only refuses as a read-only file does.
       if (count < 0 && errno != EINTR) FailWith(errno == EBADF ? EACCES : errno, native_);
     }
@@ -159,6 +161,27 @@ bool IsFolder(const std::string& native) {
   return stat(native.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+// A started program meets the signals that we ignore as any other program does.
+class DefaultSignals {
+ public:
+  DefaultSignals() {
+    sigset_t ignored_here;
+    sigemptyset(&ignored_here);
+    sigaddset(&ignored_here, SIGPIPE);
+    sigaddset(&ignored_here, SIGXFSZ);
+    posix_spawnattr_init(&attributes_);
+    posix_spawnattr_setsigdefault(&attributes_, &ignored_here);
+    posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGDEF);
+  }
+  DefaultSignals(const DefaultSignals&) = delete;
+  DefaultSignals& operator=(const DefaultSignals&) = delete;
+  ~DefaultSignals() { posix_spawnattr_destroy(&attributes_); }
+  const posix_spawnattr_t* get() const { return &attributes_; }
+
+ private:
+  posix_spawnattr_t attributes_{};
+};
+
 // Pictures of the strftime letters that stand in date and time forms.
 struct PictureOf {
   char letter;
@@ -206,7 +229,7 @@ class PosixPlatform : public Platform {
 
   void Create(ChangePass, const std::string& path) override {
     const std::string native = Resolve(path);
-    const Descriptor made(open(native.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    const Descriptor made(open(native.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666));
     if (made.get() < 0) FailWith(errno, native);
   }
 
@@ -259,7 +282,9 @@ class PosixPlatform : public Platform {
     std::string words = Utf8FromText(arguments);
     std::array<char*, 3> argv = {program.data(), words.empty() ? nullptr : words.data(), nullptr};
     pid_t pid = 0;
-    const int code = posix_spawn(&pid, program.c_str(), nullptr, nullptr, argv.data(), environ);
+    const DefaultSignals attributes;
+    const int code =
+        posix_spawn(&pid, program.c_str(), nullptr, attributes.get(), argv.data(), environ);
     if (code != 0) FailWith(code == ENOEXEC ? EACCES : code, program);
   }
 
@@ -333,6 +358,7 @@ std::string Absolute(const std::string& native) {
 }  // namespace
 
 std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
+  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is an error of the write, not the end
   std::string folder = utf8_folder.empty() ? OwnFolder() : Absolute(utf8_folder);
   if (!folder.ends_with('/')) folder += '/';
   if (!IsFolder(folder)) throw NoInstall(TextFromUtf8(utf8_folder));

@@ -51,6 +51,9 @@ Invocation ParseInvocation(wxCmdLineParser& parser) {
   }
   wxString folder;
   if (parser.Found("install", &folder)) invocation.install = folder.utf8_string();
+  if (parser.Found("install") && folder.empty()) {
+    invocation.complaint = "--install names no folder.\n" + usage;
+  }
   if (parser.GetParamCount() > 0) invocation.word = TextFromWx(parser.GetParam(0));
   return invocation;
 }

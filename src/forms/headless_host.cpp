@@ -41,12 +41,16 @@ void HeadlessHost::Press(Screen& screen, std::string_view name) {
   });
 }
 
-void HeadlessHost::Leave(Screen& screen) {
-  const auto press = [&](Button* button) {
-    if (button != nullptr && IsShown(screen)) Operate(screen, [button] { button->Click(); });
+bool HeadlessHost::Leave(Screen& screen) {
+  bool pressed = false;
+  const auto press = [&](const Button* button) {
+    if (button == nullptr || !IsShown(screen) || !button->IsShown() || !button->IsUsable()) return;
+    pressed = true;
+    Operate(screen, [button] { button->Click(); });
   };
   press(screen.PanelLeaveButton());
   press(screen.LeaveButton());
+  return pressed;
 }
 
 void HeadlessHost::TellFault(const NumberedError& fault) {
@@ -84,20 +88,26 @@ void HeadlessHost::RunModal(Screen& screen) {
 }
 
 void HeadlessHost::AnswerTip(Screen& screen, const TipView& tip) {
-  Button* pressed = tip.buttons.front();
+  const std::vector<Button*>& buttons = tip.buttons;
+  if (buttons.empty()) return Hide(screen);
+  Button* pressed = buttons.front();
   if (const std::string* answer = NextAnswer(tip.title)) {
-    const auto named = std::find_if(tip.buttons.begin(), tip.buttons.end(), [&](Button* button) {
+    const auto named = std::find_if(buttons.begin(), buttons.end(), [&](Button* button) {
       return EqualIgnoringCase(button->name(), *answer + "Button");
     });
-    if (named == tip.buttons.end()) {
-      throw BadAnswer("The message \"" + tip.title + "\" has no button " + *answer + ".");
-    }
-    pressed = *named;
+    if (named == buttons.end()) NoteBadAnswer(tip.title, *answer);
+    if (named != buttons.end()) pressed = *named;
   }
   const std::string name = UpperCase(pressed->name());
   listener_.OnTip(tip, name.substr(0, name.find("BUTTON")));
   pressed->Click();
   if (IsShown(screen)) Hide(screen);
+}
+
+void HeadlessHost::NoteBadAnswer(std::string_view title, std::string_view answer) {
+  if (!bad_answer_.empty()) return;
+  bad_answer_ =
+      "\"" + std::string(answer) + "\" does not answer the box \"" + std::string(title) + "\".";
 }
 
 void HeadlessHost::Close(Screen& screen) {
@@ -108,8 +118,8 @@ BoxButton HeadlessHost::ShowBox(const Box& box) {
   BoxButton answer = box.buttons.at(box.default_button);
   if (const std::string* queued = NextAnswer(box.title)) {
     const auto button = ButtonNamed(box, *queued);
-    if (!button) throw BadAnswer("The box \"" + box.title + "\" has no button " + *queued + ".");
-    answer = *button;
+    if (!button) NoteBadAnswer(box.title, *queued);
+    answer = button.value_or(answer);
   }
   listener_.OnMessage(box, answer);
   return answer;
@@ -126,8 +136,8 @@ Font HeadlessHost::ShowFontChoice(std::string_view title, const Font& current) {
   Font answer = current;
   if (const std::string* queued = NextAnswer(title)) {
     const auto font = ParseFont(*queued);
-    if (!font) throw BadAnswer("\"" + *queued + "\" is no font.");
-    answer = *font;
+    if (!font) NoteBadAnswer(title, *queued);
+    answer = font.value_or(answer);
   }
   listener_.OnFont(title, current, answer);
   return answer;

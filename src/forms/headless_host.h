@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <list>
-#include <stdexcept>
 #include <string>
 
 #include "forms/host_base.h"
@@ -34,12 +33,6 @@ struct ClickEnded {
   NumberedError error;
 };
 
-// A queued answer does not fit the box that it is for.
-class BadAnswer : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 // A host that draws nothing: boxes are answered from a queue, and whoever drives it works the
 // screens through their controls. Serves scripts, the commands of the command line, and tests.
 class HeadlessHost : public HostBase {
@@ -63,8 +56,13 @@ class HeadlessHost : public HostBase {
   // or the operator could not reach it.
   void Press(Screen& screen, std::string_view button);
 
-  // Leaves a screen as the operator would: an open panel first.
-  void Leave(Screen& screen);
+  // Leaves a screen as the operator would: an open panel first. False where no button could be
+  // pressed.
+  bool Leave(Screen& screen);
+
+  // What is wrong with an answer that was queued, if it did not fit its box; empty with none. Such
+  // a box took its default, so that a run does not stop halfway.
+  const std::string& bad_answer() const { return bad_answer_; }
 
   void Show(Screen& screen) override;
   void Beep() override { listener_.OnBeep(); }
@@ -94,10 +92,12 @@ class HeadlessHost : public HostBase {
 
   const std::string* NextAnswer(std::string_view title);
   void AnswerTip(Screen& screen, const TipView& tip);
+  void NoteBadAnswer(std::string_view title, std::string_view answer);
 
   HostListener& listener_;
   std::list<QueuedAnswer> answers_;
   std::string taken_;
+  std::string bad_answer_;
 };
 
 }  // namespace golf

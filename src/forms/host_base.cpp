@@ -46,11 +46,29 @@ void HostBase::Operate(const std::function<void()>& event) {
       // The first error is the one to tell.
     }
     ErrorEndsClick(told);
+  } catch (...) {
+    // Whatever else ends the event, what it has written is not lost.
+    try {
+      state_.files.Synchronize();
+    } catch (const NumberedError&) {
+    }
+    throw;
   }
+}
+
+Screen* HostBase::Top() const {
+  const auto top = std::find_if(shown_.rbegin(), shown_.rend(),
+                                [](const Screen* screen) { return screen->Tip() == nullptr; });
+  return top == shown_.rend() ? nullptr : *top;
 }
 
 bool HostBase::IsShown(const Screen& screen) const {
   return std::find(shown_.begin(), shown_.end(), &screen) != shown_.end();
+}
+
+bool HostBase::IsShown(std::string_view name) const {
+  return std::any_of(shown_.begin(), shown_.end(),
+                     [name](const Screen* screen) { return screen->name() == name; });
 }
 
 bool HostBase::HasScreen(std::string_view name) const {
@@ -90,6 +108,9 @@ void HostBase::BringUp(Screen& screen) {
 
 void HostBase::ShowModal(Screen& screen) {
   const std::shared_ptr<Screen> alive = screen.shared_from_this();
+  if (IsShown(screen)) {
+    throw NumberedError(ErrorNumber::kBadCall, "The screen " + screen.name() + " is open already.");
+  }
   BringUp(screen);
   if (!IsShown(screen)) return;
   const InputTaken taken(in_run_);
@@ -98,6 +119,7 @@ void HostBase::ShowModal(Screen& screen) {
 
 void HostBase::Show(Screen& screen) {
   const std::shared_ptr<Screen> alive = screen.shared_from_this();
+  state_.files.Synchronize();
   if (!IsShown(screen)) BringUp(screen);
 }
 

@@ -28,9 +28,10 @@ class HostBase : public ScreenHost {
   void Operate(const std::function<void()>& event);
   void Operate(Screen& screen, const std::function<void()>& event);
 
-  // The screen in front; null with none.
-  Screen* Top() const { return shown_.empty() ? nullptr : shown_.back(); }
+  // The screen in front, messages apart; null with none.
+  Screen* Top() const;
   bool IsShown(const Screen& screen) const;
+  bool IsShown(std::string_view name) const;
 
   bool HasScreen(std::string_view name) const override;
   Screen& Load(std::string_view name) override;

@@ -1,8 +1,8 @@
 #include "forms/screen.h"
 
+#include <charconv>
 #include <utility>
 
-#include "core/number_text.h"
 #include "core/text.h"
 
 namespace golf {
@@ -15,6 +15,16 @@ Button* AsUsableButton(Control* control) {
 }
 
 }  // namespace
+
+std::string Screen::ScriptName(const Control& control) const {
+  int before = 0;
+  int of_this_name = 0;
+  for (const Control* other : controls_) {
+    if (other == &control) before = of_this_name;
+    if (EqualIgnoringCase(other->name(), control.name())) ++of_this_name;
+  }
+  return of_this_name < 2 ? control.name() : control.name() + "(" + std::to_string(before) + ")";
+}
 
 char MnemonicOf(std::string_view caption) {
   for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
@@ -35,7 +45,10 @@ Control* Screen::FindControl(std::string_view name) const {
   }
   const std::size_t open = name.rfind('(');
   if (open == std::string_view::npos || !name.ends_with(')')) return nullptr;
-  double before = LeadingNumber(name.substr(open + 1));
+  const std::string_view digits = name.substr(open + 1, name.size() - open - 2);
+  int before = 0;
+  const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), before);
+  if (read.ec != std::errc() || read.ptr != digits.data() + digits.size()) return nullptr;
   for (Control* control : controls_) {
     if (EqualIgnoringCase(control->name(), name.substr(0, open)) && before-- == 0) return control;
   }

@@ -52,6 +52,8 @@ class Screen : public std::enable_shared_from_this<Screen> {
   // The control with this name, in any case; "Name(2)" is also the control of that name with two of
   // the same name before it. Null if there is none.
   Control* FindControl(std::string_view name) const;
+  // The name by which just this control is found.
+  std::string ScriptName(const Control& control) const;
 
   // Once, before the screen is seen or touched; each time it comes to the front; before it goes.
   virtual void OnLoad() {}

@@ -56,19 +56,19 @@ TipBox::TipBox(const ScreenContext& context) : Screen("TipBox", context) {
   NoButton.on_click = [this] { Answer("NO"); };
 }
 
-TipBox::Remembered* TipBox::Find() {
+std::size_t TipBox::Find() const {
   const std::string_view key = std::string_view(Title.caption()).substr(0, kKeyLength);
   const auto found = std::find_if(titles_.begin(), titles_.end(), [key](const Remembered& entry) {
     return EqualIgnoringCase(entry.title, key);
   });
-  return found == titles_.end() ? nullptr : &*found;
+  return found == titles_.end() ? 0 : static_cast<std::size_t>(found - titles_.begin()) + 1;
 }
 
 void TipBox::SetMessageText(std::string text) {
   Message.SetText(std::move(text));
   ShowMessage.SetValue(false);
-  const Remembered* entry = Find();
-  if (entry != nullptr && entry->dont_show && type_ != kLastingNotice &&
+  title_index_ = Find();
+  if (title_index_ > 0 && titles_[title_index_ - 1].dont_show && type_ != kLastingNotice &&
       type_ != kLastingQuestion) {
     if (type_ == kQuestion) answer_ = "YES";
     type_ = 0;
@@ -113,12 +113,11 @@ Button* TipBox::LeaveButton() { return view_.buttons.empty() ? nullptr : view_.b
 
 void TipBox::Answer(std::string answer) {
   answer_ = std::move(answer);
-  Remembered* entry = Find();
-  if (entry == nullptr) {
+  if (title_index_ == 0) {
     titles_.push_back({Title.caption().substr(0, kKeyLength)});
-    entry = &titles_.back();
+    title_index_ = titles_.size();
   }
-  entry->dont_show = ShowMessage.value();
+  titles_[title_index_ - 1].dont_show = ShowMessage.value();
   type_ = 0;
   host().Hide(*this);
 }

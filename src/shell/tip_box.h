@@ -56,12 +56,13 @@ class TipBox : public Screen {
     bool dont_show = false;
   };
 
-  Remembered* Find();
+  std::size_t Find() const;
   void Prepare();
   void Answer(std::string answer);
 
   int type_ = 0;
   std::vector<Remembered> titles_;
+  std::size_t title_index_ = 0;  // entry of the message in hand, from 1; 0 if it has none yet
   std::string answer_;
   bool always_on_top_ = false;
   TipView view_;

@@ -48,19 +48,22 @@ bool CheckProgram(SharedState& state, ScreenHost& host, const Sibling& sibling) 
   return false;
 }
 
-void ShowTransfer(ScreenHost& host, std::string_view screen_name) {
+void ShowTransfer(ScreenHost& host, std::string_view screen_name, std::string_view tag) {
   if (!host.HasScreen(screen_name)) {
     host.Ask(Box{.title = "Notice",
                  .text = "This transfer is not a part of this version yet.",
                  .icon = BoxIcon::kInformation});
     return;
   }
-  host.ShowModal(host.Load(screen_name));
+  Screen& screen = host.Load(screen_name);
+  if (!tag.empty()) screen.SetTag(std::string(tag));
+  host.ShowModal(screen);
 }
 
 }  // namespace
 
-void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_name) {
+void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_name,
+                  std::string_view tag) {
   bool installed = true;
   for (const TransferEntry& transfer : kTransfers) {
     if (transfer.screen != screen_name) continue;
@@ -69,7 +72,7 @@ void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_
       if (!CheckProgram(state, host, *sibling)) installed = false;
     }
   }
-  if (installed) ShowTransfer(host, screen_name);
+  if (installed) ShowTransfer(host, screen_name, tag);
 }
 
 TransferMenu::TransferMenu(const ScreenContext& context) : Screen("TransferMenu", context) {

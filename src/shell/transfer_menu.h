@@ -36,7 +36,8 @@ class TransferMenu : public Screen {
 
 // Opens a transfer, modally, by its screen's name, as its button on the menu does: only if the
 // folders of both siblings are there. Each one that is missing is told in a box of its own. Any
-// other name is just loaded and shown.
-void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_name);
+// other name is just loaded and shown. `tag` tells the screen how to behave, often nothing.
+void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_name,
+                  std::string_view tag = {});
 
 }  // namespace golf

@@ -45,6 +45,8 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
       {"list nothing", 2, "", "nothing"},
       {"--now yesterday list courses", 2, "", "YYYY-MM-DD"},
       {"--install nowhere list courses", 1, "", "There is no folder nowhere."},
+      {"--install \"\" courses-kv-to-qb", 1, "", "names no folder"},
+      {"--install i script i", 1, "", "cannot be read"},
       {"--install file courses-kv-to-qb", 1, "", "There is no folder file."},
       {"--install empty list courses", 1, "", "not there"},
       {"--install empty courses-kv-to-qb", 1, "", "Cannot transfer data because the Kelvane"},
@@ -94,7 +96,7 @@ TEST_F(CommandLineTest, DumpsTablesInTheOrderOfTheirIndexes) {
 }
 
 TEST_F(CommandLineTest, HeldFilesAreExitCodeFour) {
-  const HeldFile held(folder.Path("i/qbdata/QBcrs.dat"));
+  const HeldFile held(folder.Path("i/qbdata/qbcrs.dat"));
   ASSERT_TRUE(held.held());
   for (const char* words : {"courses-kv-to-qb", "list courses --library qb", "script -"}) {
     const Ended ended = Run(std::string("--install i ") + words,
@@ -125,7 +127,11 @@ TEST_F(CommandLineTest, ScriptsThatCannotBeFollowed) {
   const char* kScripts[] = {"click ExitButton",
                             "open Nowhere",
                             "open TransferMenu\nclick Nothing",
-                            "open TransferMenu\nclick Label1(3)",
+                            "open TransferMenu\nshow Label1(3)",
+                            "open TransferMenu\nshow Label1(1x)",
+                            "open TransferMenu\nclick Label1(1)",
+                            "open TransferMenu\nopen TransferMenu",
+                            "open TipBox",
                             "open TransferMenu\nfly away",
                             "open TransferMenu\nset ExitButton x",
                             "open TransferMenu\ntab SSTab1 1",
@@ -140,7 +146,7 @@ TEST_F(CommandLineTest, ScriptsThatCannotBeFollowed) {
 }
 
 TEST_F(CommandLineTest, AnErrorEndsTheScriptAtItsLine) {
-  std::filesystem::remove(folder.Path("i/kvdata/KVcrs.dat"));
+  std::filesystem::remove(folder.Path("i/kvdata/kvcrs.dat"));
   folder.MakeFolder("i/kvdata/kvcrs.dat");
   const Ended ended =
       Script("open TransferMenu\nclick KVCoursestoQBButton\nclick TransferCourses\nshow\n");

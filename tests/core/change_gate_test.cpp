@@ -203,6 +203,7 @@ TEST_F(ChangeGateTest, NoFileChangesUnseen) {
   files.gate().CreateFolder(At("folder"));
   files.gate().ReplaceText(At("text.dat"), "long text");
   files.gate().ReplaceText(At("text.dat"), "text");
+  files.Close(2);  // not every system deletes a file that is open
   files.DeleteFile(At("b.dat"));
   EXPECT_EQ(folder.Read("text.dat") + folder.Read("a.dat"), "textabc789");
   EXPECT_EQ(platform.changes(), told);

@@ -33,7 +33,8 @@ TEST(PlatformFolder, TheInstallMayLieWhereTheCodePageHasNoLetters) {
   files.Open(1, platform->ProgramFolder() + "kvdata/a.dat", 3);
   files.WriteBytes(1, 2, "def");
   EXPECT_EQ(folder.Read("KVDATA/A.DAT"), "abcdef");
-  EXPECT_TRUE(files.FileExists(platform->ProgramFolder() + "kvdata/*.dat"));
+  EXPECT_TRUE(
+      files.FileExists(platform->ProgramFolder() + "kvdata" + platform->Separator() + "*.dat"));
 }
 
 TEST_F(PlatformTest, OneRunAtATimeHoldsTheLock) {

@@ -16,11 +16,10 @@ TEST_F(SharedStateTest, StartSetsTheFoldersAndForms) {
   SharedState state(platform, [&](SharedState&, StoreObjects&) { ++made; });
   PrepareStart(state, {"dd.MM.yyyy", "HH.mm"}, 45000);
   EXPECT_EQ(made, 1);
-  const char separator = platform.Separator();
   EXPECT_EQ(state.ProgramPath, At(""));
-  EXPECT_EQ(state.KVDataPath, At("kvdata") + separator);
-  EXPECT_EQ(state.QBDataPath, At("qbdata") + separator);
-  EXPECT_EQ(state.ZDDataPath, At("zddata") + separator);
+  EXPECT_EQ(state.KVDataPath, At("kvdata/"));
+  EXPECT_EQ(state.QBDataPath, At("qbdata/"));
+  EXPECT_EQ(state.ZDDataPath, At("zddata/"));
   EXPECT_EQ(state.CourseDataPath, state.KVDataPath);
   EXPECT_EQ(state.StoreDataPath + state.KVRosterName, "");
   EXPECT_EQ(state.DateFormat + " " + state.DateMask, "dd.mm.yy ##.##.##");

@@ -123,7 +123,7 @@ TEST_F(DesktopTest, TransfersCoursesAndStartsTheCallerAgain) {
   user.Press("ExitButton");
   user.RunProgram();
   EXPECT_TRUE(seen_in_run);
-  EXPECT_EQ(Libraries(install) == LibrariesWithoutDisplay(install.folder.Read("kvdata/KVcrs.dat")),
+  EXPECT_EQ(Libraries(install) == LibrariesWithoutDisplay(install.folder.Read("kvdata/kvcrs.dat")),
             true);
   user.RunUntil("the caller", [&] { return install.folder.Exists("started"); });
 }

@@ -41,7 +41,7 @@ class CourseTest : public testing::Test {
 TEST_F(CourseTest, BlankRecordByteForByte) {
   OpenQuenby();
   Append("", 0, 0);
-  const std::string bytes = install.folder.Read("qbdata/QBcrs.dat");
+  const std::string bytes = install.folder.Read("qbdata/qbcrs.dat");
   std::string expected(3226, '\0');
   expected.replace(4, 154, 154, ' ');
   expected.replace(168, 48, "NoName NoName NoName NoName NoName NoName       ");
@@ -202,9 +202,9 @@ TEST_F(CourseTest, ListsSeeWhatAnotherHasWritten) {
   OpenQuenby();
   Append("One", 18);
   course().RebuildCourseIndexes(course().ActiveCoursesByName());
-  std::string bytes = install.folder.Read("qbdata/QBcrs.dat");
+  std::string bytes = install.folder.Read("qbdata/qbcrs.dat");
   bytes.replace(4, 3, "Two");
-  install.folder.Write("qbdata/QBcrs.dat", bytes);
+  install.folder.Write("qbdata/qbcrs.dat", bytes);
   install.state().files.Synchronize();
   course().UpdateAllCourseLists();
   EXPECT_EQ(course().CourseALLName(1).substr(0, 3), "Two");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -15,8 +16,11 @@ namespace golf {
 // A real install folder, empty, under a platform that can fail, under a file table.
 class FilesTest : public testing::Test {
  protected:
-  // The path of a file, its name being text.
-  std::string At(const std::string& name) const { return platform.ProgramFolder() + name; }
+  // The path of a file. Its name is text, with "/" behind folders on every system.
+  std::string At(std::string name) const {
+    std::replace(name.begin(), name.end(), '/', platform.Separator());
+    return platform.ProgramFolder() + name;
+  }
 
   std::string Read(int number, std::int64_t record, std::size_t size) {
     std::string bytes(size, '?');

@@ -8,8 +8,10 @@
 namespace golf {
 namespace {
 
+namespace fs = std::filesystem;
+
 std::wstring Wide(const std::string& utf8) {
-  return std::filesystem::path(std::u8string(utf8.begin(), utf8.end())).wstring();
+  return fs::path(std::u8string(utf8.begin(), utf8.end())).wstring();
 }
 
 HANDLE OpenStream(const TempFolder& folder, const char* name, DWORD access) {
@@ -38,7 +40,7 @@ Ended RunProgram(const TempFolder& folder, const std::string& program, const std
   start.hStdInput = OpenStream(folder, "in", GENERIC_READ);
   start.hStdOutput = OpenStream(folder, "out", GENERIC_WRITE);
   start.hStdError = OpenStream(folder, "problems", GENERIC_WRITE);
-  std::wstring line = Wide("\"" + program + "\" " + words);
+  std::wstring line = L"\"" + fs::absolute(program).wstring() + L"\" " + Wide(words);
   PROCESS_INFORMATION process{};
   const BOOL started = CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
                                       Wide(folder.Path()).c_str(), &start, &process);

@@ -48,7 +48,7 @@ constexpr SpecialCourse kInvalidCourse = {0, "**Invalid Course**", 18};
 void CourseClass::OpenCourseFile() {
   state_.files.Close(course_file_);
   course_file_ = state_.files.FreeNumber();
-  state_.files.Open(course_file_, state_.CourseDataPath + active_program_ + "crs.dat",
+  state_.files.Open(course_file_, state_.CourseDataPath + LowerCase(active_program_) + "crs.dat",
                     CourseLayout::kLength);
   UpdateAllCourseLists();
 }
@@ -95,7 +95,8 @@ void CourseClass::BuildBlankRecord() {
 }
 
 bool CourseClass::IsCourseRecord(std::int32_t record) {
-  return record >= 1 && record <= CourseFileLength();
+  const std::int32_t length = CourseFileLength();
+  return record >= 1 && record <= length;
 }
 
 void CourseClass::GetRecord(std::int32_t record) {

@@ -57,7 +57,7 @@ std::string CourseClass::Rating(int tee, int group) const {
 }
 
 void CourseClass::SetRating(int tee, int group, double value) {
-  record_.Set<"Rating">({tee, group}, static_cast<float>(value));
+  record_.Set<"Rating">({tee, group}, CheckedSingle(value));
 }
 
 std::string CourseClass::slope(int tee, int group) const {

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/number_text.h"
 #include "core/shared_state.h"
 #include "stores/quenby/quenby_layouts.h"
 
@@ -100,10 +101,10 @@ class RosterPlayers {
   // With a plus sign, and with a minus sign, for what lies below 0.
   std::string Index() const;
   std::string IndexValue() const;
-  void SetIndex(double value) { player_.Set<"Index">(static_cast<float>(value)); }
+  void SetIndex(double value) { player_.Set<"Index">(CheckedSingle(value)); }
   std::string Handicap(bool decimals) const;
   std::string HandicapValue(bool decimals) const;
-  void SetHandicap(double value) { player_.Set<"Handicap">(static_cast<float>(value)); }
+  void SetHandicap(double value) { player_.Set<"Handicap">(CheckedSingle(value)); }
 
   DateValue MiscDate(int n) const { return player_.Get<"MiscDate">(n); }
   void SetMiscDate(int n, DateValue value) { player_.Set<"MiscDate">({n}, value); }

@@ -107,7 +107,7 @@ float TeamRecords::TeeTimeValue(OptionalRound round) const {
   return record_.Get<"TeeTimeValue">(RoundOr(round));
 }
 void TeamRecords::SetTeeTimeValue(OptionalRound round, double value) {
-  record_.Set<"TeeTimeValue">({RoundOr(round)}, static_cast<float>(value - std::floor(value)));
+  record_.Set<"TeeTimeValue">({RoundOr(round)}, CheckedSingle(value - std::floor(value)));
 }
 std::string TeamRecords::TeeTimeHHMMAMPM(OptionalRound round) const {
   const double time = TeeTimeValue(round);

@@ -147,7 +147,7 @@ std::string TournamentControl::TeamHandicapPercent() const {
 }
 
 void TournamentControl::SetTeamHandicapPercent(std::string_view value) {
-  record_.Set<"TeamHandicapPercent">(static_cast<float>(Percentage(value, 25)));
+  record_.Set<"TeamHandicapPercent">(CheckedSingle(Percentage(value, 25)));
 }
 
 std::string TournamentControl::PointQuotaFromHandicap() const {
@@ -208,7 +208,7 @@ float TournamentControl::TeeHandicapPercent(int group, int n, OptionalRound roun
 
 void TournamentControl::SetTeeHandicapPercent(int group, int n, OptionalRound round, double value) {
   const double percent = value > 200 || value < 1 ? 100 : value;
-  record_.Set<"TeeHandicapPercent">({group, n, RoundOr(round)}, static_cast<float>(percent));
+  record_.Set<"TeeHandicapPercent">({group, n, RoundOr(round)}, CheckedSingle(percent));
 }
 
 float TournamentControl::TeeHandicapAdjustment(int group, int n, OptionalRound round) {
@@ -218,7 +218,7 @@ float TournamentControl::TeeHandicapAdjustment(int group, int n, OptionalRound r
 void TournamentControl::SetTeeHandicapAdjustment(int group, int n, OptionalRound round,
                                                  std::string_view value) {
   record_.Set<"TeeHandicapAdjustment">({group, n, RoundOr(round)},
-                                       static_cast<float>(LeadingNumber(value)));
+                                       CheckedSingle(LeadingNumber(value)));
 }
 
 std::string TournamentControl::ActiveRound() const {
@@ -235,7 +235,7 @@ std::string TournamentControl::HandicapMax(int group) const {
 }
 
 void TournamentControl::SetHandicapMax(int group, double value) {
-  record_.Set<"HandicapMax">({group}, static_cast<float>(value < 0 ? 0 : value));
+  record_.Set<"HandicapMax">({group}, CheckedSingle(value < 0 ? 0 : value));
 }
 
 std::string TournamentControl::TeamNamesMat() const {

@@ -130,7 +130,7 @@ class TournamentControl {
   std::int16_t TeeTimeIncEveryXTeams() const { return record_.Get<"TeeTimeIncEveryXTeams">(); }
   void SetTeeTimeIncEveryXTeams(double value) { SetInt16<"TeeTimeIncEveryXTeams">(value); }
   float TeeTimeInc() const { return record_.Get<"TeeTimeInc">(); }
-  void SetTeeTimeInc(double value) { record_.Set<"TeeTimeInc">(static_cast<float>(value)); }
+  void SetTeeTimeInc(double value) { record_.Set<"TeeTimeInc">(CheckedSingle(value)); }
 
   std::int16_t PeoriaHole(int hole) const { return record_.Get<"PeoriaHole">(hole); }
   void SetPeoriaHole(int hole, double value) { SetInt16<"PeoriaHole">(value, hole); }

@@ -102,13 +102,13 @@ std::string TournamentPlayers::TourIndexValue(OptionalRound round) const {
   return FormatNumber(entry_.Get<"TourIndex">(RoundOr(round)), "#0.0");
 }
 void TournamentPlayers::SetTourIndex(OptionalRound round, double value) {
-  entry_.Set<"TourIndex">({RoundOr(round)}, static_cast<float>(value));
+  entry_.Set<"TourIndex">({RoundOr(round)}, CheckedSingle(value));
 }
 void TournamentPlayers::SetTourGrossHandicap(OptionalRound round, double value) {
-  entry_.Set<"TourGrossHandicap">({RoundOr(round)}, static_cast<float>(value));
+  entry_.Set<"TourGrossHandicap">({RoundOr(round)}, CheckedSingle(value));
 }
 void TournamentPlayers::SetTourQuota(OptionalRound round, double value) {
-  entry_.Set<"TourQuota">({RoundOr(round)}, static_cast<float>(value));
+  entry_.Set<"TourQuota">({RoundOr(round)}, CheckedSingle(value));
 }
 
 std::string TournamentPlayers::TourReportFlags(OptionalRound round) const {
