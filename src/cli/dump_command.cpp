@@ -44,6 +44,9 @@ FoundFile FindFile(const Options& options, const std::string& file) {
 LayoutInfo LayoutOf(const std::string& file) {
   const std::string name = Utf8FromPath(PathFromUtf8(file).filename());
   const auto layout = LayoutOfFile(TextFromUtf8(name));
+  if (name.find_first_of("*?") != std::string::npos) {
+    throw Refusal("There is no file " + file + ".");
+  }
   if (!layout) throw Refusal(name + " is not the name of a file of the three programs.");
   return *layout;
 }

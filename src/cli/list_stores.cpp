@@ -40,29 +40,37 @@ std::map<int, int> CountQuenbyGolfers(TournamentPlayers& player) {
   return counts;
 }
 
-// The number that a control file's name holds; 0 for a name that holds none.
+// The number of a tournament by the name of its control file; 0 for any other file.
 std::int32_t TournamentNumber(const std::string& file_name) {
   const std::string digits = WithoutExtension(file_name).substr(1);
   const bool number = !digits.empty() && digits.size() <= 9 &&
                       digits.find_first_not_of("0123456789") == std::string::npos;
-  return number ? std::stoi(digits) : 0;
+  const std::int32_t tournament = number ? std::stoi(digits) : 0;
+  return EqualIgnoringCase(file_name, TournamentFileName(tournament, ".Q9C")) ? tournament : 0;
 }
 
+// A control file without a record is listed without a name.
 void AddTournament(SharedState& state, std::int32_t number, ListWriter& out) {
+  const auto control = state.files.gate().Open(
+      state.QBDataPath + TournamentFileName(number, ".Q9C"), FileAccess::kReadOnly);
+  const bool holds_record = control->Length() > 0;
+  state.InitSharedObjects();  // an empty control file does not show the one before it
   TournamentControl& tournament = state.Tournament();
+  state.Player().OpenRosterFile();
   tournament.OpenTournamentControlFile(number);
   tournament.GetRecord();
   state.Player().TourOpenTournamentFile(number);
   const std::int32_t players = tournament.NumPlayersInTournament();
-  const std::string date = tournament.DateofRound(1);
+  const std::string date = holds_record ? tournament.DateofRound(1) : "";
   const std::string rounds = tournament.NumRounds();
-  out.Add({{"number", number},
-           {"name", JsonText(tournament.Name())},
-           {"date", JsonText(date)},
-           {"rounds", std::stoi(rounds)},
-           {"players", players}},
-          {std::to_string(number), PlainCell(tournament.Name()), PlainCell(date), rounds,
-           std::to_string(players)});
+  const std::string name = holds_record ? tournament.Name() : "";
+  out.Add(
+      {{"number", number},
+       {"name", JsonText(name)},
+       {"date", JsonText(date)},
+       {"rounds", std::stoi(rounds)},
+       {"players", players}},
+      {std::to_string(number), PlainCell(name), PlainCell(date), rounds, std::to_string(players)});
 }
 
 }  // namespace
@@ -71,7 +79,9 @@ void ListRosters(SharedState& state, const ListRequest&, ListWriter& out) {
   out.SetHeadings({"Roster", "Holes", "Golfers"});
   for (const std::string& file : state.files.FilesLike(state.KVDataPath, "*.KV5")) {
     const std::string name = UpperCase(WithoutExtension(file));
-    if (!OpenKVRoster(state, name)) continue;
+    const std::string base = state.KVDataPath + name;
+    state.files.Open(kKelvaneHeaderFile, base + ".kv5", KelvaneHeaderLayout::kLength);
+    state.files.Open(kKelvaneGolferFile, base + ".kvg", KelvaneGolferLayout::kLength);
     state.files.Read(kKelvaneHeaderFile, 1, state.Kelvane().header);
     const int holes = state.Kelvane().header.Get<"Holes">();
     const int golfers = CountKelvaneGolfers(state);
@@ -100,7 +110,6 @@ void ListQuenbyRosters(SharedState& state, const ListRequest&, ListWriter& out) 
 void ListTournaments(SharedState& state, const ListRequest&, ListWriter& out) {
   state.StoreDataPath = state.QBDataPath;
   out.SetHeadings({"No.", "Tournament", "Date", "Rounds", "Players"});
-  state.Player().OpenRosterFile();
   for (const std::string& file : state.files.FilesLike(state.QBDataPath, "X*.Q9C")) {
     if (const std::int32_t number = TournamentNumber(file)) AddTournament(state, number, out);
   }

@@ -32,8 +32,9 @@ class ChangeGate {
   // Told of each change before it is made. One observer at most; an empty one ends it.
   void Observe(Observer observer) { observer_ = std::move(observer); }
 
-  // From now on every change is refused with error 75, and a file that is not there opens as an
-  // empty one that comes into being nowhere.
+  // From now on nothing changes: a record that is written stays as it is, any other change is
+  // refused with error 75, and a file that is not there opens as an empty one that comes into being
+  // nowhere.
   void RefuseChanges() { refuses_ = true; }
 
   // Opens a file; one that is not there is created empty first, unless it is only to be read.

@@ -138,7 +138,7 @@ std::string FormatPicture(const CivilTime& civil, std::string_view picture) {
 bool IsDate(DateValue date) {
   static const DateValue kFirst = DateFromCivil({100, 1, 1});
   static const DateValue kBehindLast = DateFromCivil({9999, 12, 31}) + 1;
-  return date >= kFirst && date < kBehindLast;
+  return std::trunc(date) >= kFirst && date < kBehindLast;
 }
 
 std::string FormatDay(DateValue date, std::string_view date_format) {

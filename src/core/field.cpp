@@ -19,7 +19,7 @@ std::size_t Field::OffsetOf(std::span<const int> indexes) const {
   if (indexes.size() != rank) FailSubscript(*this);
   std::size_t at = offset;
   for (std::size_t i = 0; i < rank; ++i) {
-    const int position = indexes[i] - dimensions[i].base;
+    const std::int64_t position = std::int64_t{indexes[i]} - dimensions[i].base;
     if (position < 0 || position >= dimensions[i].count) FailSubscript(*this);
     at += static_cast<std::size_t>(position) * strides[i];
   }

@@ -10,16 +10,29 @@
 namespace golf {
 namespace {
 
-// "*.*" finds every name, one without a dot too.
+// "*.*" finds every name, one without a dot too. A star that has taken too little takes one more;
+// only the last one needs to be tried again.
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
   if (pattern == "*.*") return true;
-  if (pattern.empty()) return name.empty();
-  if (pattern[0] == '*') {
-    return MatchesPattern(name, pattern.substr(1)) ||
-           (!name.empty() && MatchesPattern(name.substr(1), pattern));
+  constexpr std::size_t kNone = std::string_view::npos;
+  std::size_t star = kNone;
+  std::size_t taken = 0;
+  std::size_t p = 0;
+  for (std::size_t n = 0; n < name.size();) {
+    if (p < pattern.size() && pattern[p] == '*') {
+      star = p++;
+      taken = n;
+    } else if (p < pattern.size() && (pattern[p] == '?' || pattern[p] == name[n])) {
+      ++p;
+      ++n;
+    } else if (star != kNone) {
+      p = star + 1;
+      n = ++taken;
+    } else {
+      return false;
+    }
   }
-  const bool first = !name.empty() && (pattern[0] == '?' || pattern[0] == name[0]);
-  return first && MatchesPattern(name.substr(1), pattern.substr(1));
+  return pattern.find_first_not_of('*', p) == kNone;
 }
 
 }  // namespace

@@ -46,6 +46,12 @@ std::int32_t LimitNumber(double& value, double low, double high, std::optional<d
   return RoundToInt32(value);
 }
 
+std::int32_t LimitNumber(std::string_view text, double low, double high,
+                         std::optional<double> if_low, std::optional<double> if_high) {
+  double value = LeadingNumber(text);
+  return LimitNumber(value, low, high, if_low, if_high);
+}
+
 void AllocateHoleStrokes(std::span<int> result, std::span<const int> ranks, int holes,
                          int strokes) {
   const bool eighteen = holes > 9;

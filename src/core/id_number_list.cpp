@@ -11,8 +11,7 @@ std::int32_t IdNumberList::Run(int operation, std::int32_t value) {
       ids_.clear();
       held_.clear();
       sorted_ = 0;
-      ids_.reserve(static_cast<std::size_t>(std::max(value, 0)));
-      return 0;
+      return 0;  // the list grows as it is filled
     case kAppend:
       Append(value);
       return 0;

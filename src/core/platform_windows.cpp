@@ -172,7 +172,7 @@ class WindowsFile : public PlatformFile {
       DWORD count = 0;
       const BOOL done = WriteFile(handle_.get(), bytes.data() + written,
                                   Part(bytes.size() - written), &count, &place);
-      const DWORD code = done ? ERROR_DISK_FULL : GetLastError();
+      const DWORD code = done ? ERROR_WRITE_FAULT : GetLastError();
       written += count;
       if (!done || count == 0) FailWith(code, native_);
     }
@@ -263,7 +263,7 @@ class WindowsPlatform : public Platform {
 
   void Create(ChangePass, const std::string& path) override {
     const std::wstring native = Resolve(path);
-    const Handle made = OpenHandle(native, GENERIC_WRITE, kShared, CREATE_ALWAYS);
+    const Handle made = OpenHandle(native, GENERIC_WRITE, kShared, OPEN_ALWAYS);
     if (!made.IsOpen()) FailWith(GetLastError(), native);
   }
 

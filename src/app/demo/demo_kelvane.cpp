@@ -34,7 +34,8 @@ void FillScore(SharedState& state, const DemoGolfer& golfer, int holes, int roun
     gross += strokes;
   }
   score.Set<"CourseNumber">(static_cast<std::int16_t>(holes == 9 ? 3 : 1 + round % 2));
-  score.Set<"TeeNumber">(golfer.lady ? 3 : 2);
+  const int ladies_tee = holes == 9 ? 2 : 3;
+  score.Set<"TeeNumber">(static_cast<std::uint8_t>(golfer.lady ? ladies_tee : ladies_tee - 1));
   score.Set<"Rating">(holes == 9 ? 35.1f : 70.6f);
   score.Set<"Slope">(holes == 9 ? 118 : 126);
   score.Set<"Date">(date);

@@ -23,7 +23,12 @@ void MakeMaster(ProgramClass& program) {
   program.OpenMasterFile();
   program.SetActiveRoster(1);
   program.SetActiveTournament(kTournament);
-  for (int i = 1; i <= 10; ++i) program.SetMiscTextFieldName(i, "Text " + std::to_string(i));
+  program.SetLastRosterViewLoaded("");
+  program.SetLastTournamentViewLoaded("");
+  for (int i = 1; i <= 10; ++i) {
+    program.SetMiscTourTextFieldName(i, "Note " + std::to_string(i));
+    program.SetMiscTextFieldName(i, "Text " + std::to_string(i));
+  }
   for (int i = 1; i <= 5; ++i) {
     program.SetMiscDateFieldName(i, "Date " + std::to_string(i));
     program.SetMiscCurrFieldName(i, "Amount " + std::to_string(i));
@@ -67,7 +72,6 @@ void MakeControl(TournamentControl& tournament) {
   tournament.SetName("Autumn Medal");
   tournament.SetNumRounds(kRoundsPlayed);
   tournament.SetNumTeams(3);
-  tournament.SetTeamNamesMat("Team #");
   tournament.SetHandicapMax(0, 36);
   tournament.SetHandicapMax(1, 40);
   tournament.SetShowTeamsonSheet(true);

@@ -62,6 +62,8 @@ void LoadKVSystemFile(SharedState& state) {
 }
 
 bool OpenKVRoster(SharedState& state, std::string_view roster_name) {
+  // A search would take these for others.
+  if (roster_name.find_first_of("*?") != std::string_view::npos) return false;
   const std::string base = state.KVDataPath + std::string(roster_name);
   FileTable& files = state.files;
   if (!files.FileExists(base + ".kv5")) return false;
@@ -69,7 +71,7 @@ bool OpenKVRoster(SharedState& state, std::string_view roster_name) {
   files.Open(kKelvaneHeaderFile, base + ".kv5", KelvaneHeaderLayout::kLength);
   files.Open(kKelvaneGolferFile, base + ".kvg", KelvaneGolferLayout::kLength);
   files.Open(kKelvaneScoreFile, base + ".kvs", KelvaneHistoryLayout::kLength);
-  files.Open(kKelvaneReportsFile, state.KVDataPath + "REPORTS.CFG", kKelvaneReportsLength);
+  files.Open(kKelvaneReportsFile, state.KVDataPath + "REPORTS.CFG", KelvaneReportsLayout::kLength);
   return true;
 }
 

@@ -72,7 +72,7 @@ struct KelvaneGolferLayout {
   static constexpr auto kFields = std::to_array<Field>({
       Int16Field("Status", 0),  // 1 or more: a golfer stands here
       ByteField("MarkedToPrint", 2),
-      KeptBytes(3, 1),
+      ByteField("Reserved3", 3),
       Int32Field("IDNum", 4),
       TextField("NameFirst", 8, 11),
       TextField("NameLast", 19, 16),
@@ -106,11 +106,11 @@ struct KelvaneGolferLayout {
       TextField("MiscText5", 543, 10),
       DateField("MiscDate", 553).By(Dimension{1, 2}),
       CurrencyField("MiscCurrency", 569).By(Dimension{1, 5}),
-      KeptBytes(609, 8),
-      KeptBytes(617, 8),
+      CurrencyField("Value609", 609),  // eight bytes of Kelvane's own
+      CurrencyField("Value617", 617),
       TextField("Text625", 625, 30),
       TextField("Comments", 655, 200),
-      KeptBytes(855, 1949),
+      TextField("Reserved855", 855, 1949),
   });
 };
 
@@ -172,6 +172,10 @@ struct KelvaneSystemLayout {
 };
 
 // REPORTS.CFG, which is opened with a roster and never read or written.
-inline constexpr std::size_t kKelvaneReportsLength = 4744;
+struct KelvaneReportsLayout {
+  static constexpr std::string_view kName = "kelvane reports";
+  static constexpr std::size_t kLength = 4744;
+  static constexpr auto kFields = std::to_array<Field>({KeptBytes(0, 4744)});
+};
 
 }  // namespace golf

@@ -14,6 +14,7 @@ std::string Trimmed(const std::string& text) { return std::string(Trim(text)); }
 }  // namespace
 
 bool ProgramClass::OpenMasterFile() {
+  state_.files.gate().Settle();  // a fault of other writes is not this file's
   try {
     if (master_file_ > 0) SaveMasterRecord();
     CloseMasterFile();
@@ -33,6 +34,7 @@ void ProgramClass::GetMasterRecord() {
 }
 
 void ProgramClass::SaveMasterRecord() {
+  state_.files.gate().Settle();
   try {
     state_.files.Write(master_file_, 1, master_);
     state_.files.gate().Settle();  // the failure is to be met here

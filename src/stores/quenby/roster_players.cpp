@@ -62,7 +62,13 @@ bool RosterPlayers::ReadPlayer(std::int32_t record) {
   tournament_in_hand_ = false;
   state_.files.Read(file_, record, player_);
   held_ = record;
+  recalculate_.fill(true);
   return true;
+}
+
+void RosterPlayers::WritePlayer() {
+  state_.files.Write(file_, held_, player_);
+  recalculate_.fill(true);
 }
 
 std::string RosterPlayers::RecordNumber() const { return FormatNumber(held_, "000"); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -124,7 +125,10 @@ class RosterPlayers {
 
   // A golfer's record into the buffer; false with nothing read for a number below 1.
   bool ReadPlayer(std::int32_t record);
-  void WritePlayer() { state_.files.Write(file_, held_, player_); }
+  void WritePlayer();
+
+  // Set for all rounds at every read and save, when the buffers may hold something new.
+  std::array<bool, kRounds> recalculate_{};
 
   std::int32_t held_ = 0;            // the record in the buffer
   bool tournament_in_hand_ = false;  // what the last GetRecord or SaveRecord worked on

@@ -65,14 +65,17 @@ void TeamRecords::BlankTeamRecord() {
 }
 
 std::string TeamRecords::LastNamesOfPlayers() {
+  // Nobody plays for a team that the tournament does not count.
+  if (number_ < 1 || number_ > std::stoi(state_.Tournament().NumTeams())) return {};
+  if (RoundOr({}) < 1 || RoundOr({}) > kRounds) return {};
   TournamentPlayers& player = state_.Player();
   std::string names;
   const std::int32_t count = player.TourIndexNumberofPlayersInIndex();
-  std::int32_t place = player.TourIndex1stPlayerOnTeam(number_);
-  for (; place >= 1 && place <= count; ++place) {
+  const std::int32_t first = player.TourIndex1stPlayerOnTeam(number_);
+  for (std::int32_t place = first; place >= 1 && place <= count; ++place) {
     player.GetRecord(player.TourIndexPlayerbyTeam(place), true);
     if (player.TourTeamOn() != number_) break;
-    names += (names.empty() ? "" : ", ") + player.NameLast();
+    names += (place == first ? "" : ", ") + player.NameLast();
   }
   return names;
 }
@@ -107,7 +110,7 @@ float TeamRecords::TeeTimeValue(OptionalRound round) const {
   return record_.Get<"TeeTimeValue">(RoundOr(round));
 }
 void TeamRecords::SetTeeTimeValue(OptionalRound round, double value) {
-  record_.Set<"TeeTimeValue">({RoundOr(round)}, CheckedSingle(value - std::floor(value)));
+  record_.Set<"TeeTimeValue">({RoundOr(round)}, CheckedSingle(std::abs(value - std::trunc(value))));
 }
 std::string TeamRecords::TeeTimeHHMMAMPM(OptionalRound round) const {
   const double time = TeeTimeValue(round);
@@ -121,7 +124,7 @@ std::string TeamRecords::TeeStartHole(OptionalRound round) {
   if (LeadingNumber(hole) < 1) hole = "1";
   if (LeadingNumber(hole) <= 9 && !hole.starts_with('0')) hole.insert(0, "0");
   record_.Set<"TeeStartHole">({of}, hole);
-  return hole;
+  return std::string(Trim(record_.Get<"TeeStartHole">(of)));
 }
 void TeamRecords::SetTeeStartHole(OptionalRound round, std::string_view value) {
   record_.Set<"TeeStartHole">({RoundOr(round)}, std::string(value));

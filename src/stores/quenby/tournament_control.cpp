@@ -19,10 +19,9 @@ constexpr std::string_view kNewTeamNames = "Team #";
 // Points of a new tournament, by score less par from -5 on.
 constexpr int kNewPoints[] = {8, 8, 8, 8, 4, 2, 1, 0, 0, 0, 0};
 
-// A number outside 0 to 100 is replaced.
-double Percentage(std::string_view text, double replacement) {
-  const double value = LeadingNumber(text);
-  return value < 0 || value > 100 ? replacement : value;
+// A whole number; one outside 0 to 100 is replaced.
+std::int32_t Percentage(std::string_view text, double replacement) {
+  return LimitNumber(text, 0, 100, replacement, replacement);
 }
 
 }  // namespace
@@ -55,6 +54,12 @@ void TournamentControl::DeleteTournamentControlFile(std::int32_t tournament) {
 void TournamentControl::GetRecord() {
   if (state_.files.Length(file_) == 0) return;
   state_.files.Read(file_, 1, record_);
+  BringUpToDate();
+}
+
+// A record of an older release gets what that release did not have; so does a buffer that never
+// held a record.
+void TournamentControl::BringUpToDate() {
   if (record_.Get<"Version">() == kCurrentVersion) return;
   record_.Fill<"HandicapMax">(99);
   record_.Set<"Version">(std::string(kCurrentVersion));
@@ -99,6 +104,7 @@ void TournamentControl::FillNewTournament() {
 
 void TournamentControl::CreateBlankTournament(std::int32_t tournament) {
   FillNewTournament();
+  BringUpToDate();
   if (state_.files.FileExists(ControlFile(kDefaults))) {
     OpenTournamentControlFile(kDefaults);
     GetRecord();
@@ -147,7 +153,7 @@ std::string TournamentControl::TeamHandicapPercent() const {
 }
 
 void TournamentControl::SetTeamHandicapPercent(std::string_view value) {
-  record_.Set<"TeamHandicapPercent">(CheckedSingle(Percentage(value, 25)));
+  record_.Set<"TeamHandicapPercent">(static_cast<float>(Percentage(value, 25)));
 }
 
 std::string TournamentControl::PointQuotaFromHandicap() const {

@@ -172,6 +172,7 @@ class TournamentControl {
 
  private:
   std::string ControlFile(std::int32_t tournament) const;
+  void BringUpToDate();
   void FillNewTournament();
   void MakeTeams(std::int32_t tournament);
 

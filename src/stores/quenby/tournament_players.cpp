@@ -2,6 +2,7 @@
 
 #include "stores/quenby/tournament_players.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/general_routines.h"
@@ -20,6 +21,11 @@ template <class Vector>
 auto& ElementOf(Vector& table, std::int64_t i) {
   if (i < 0 || i >= static_cast<std::int64_t>(table.size())) FailIndex();
   return table[static_cast<std::size_t>(i)];
+}
+
+template <class Tables>
+auto& OfRound(Tables& tables, std::int64_t round) {
+  return ElementOf(tables, round - 1);
 }
 
 }  // namespace
@@ -62,7 +68,7 @@ std::int32_t TournamentPlayers::TourNumberofPlayersInTournament() {
 
 std::int32_t TournamentPlayers::TourFindAvailableRecordInFile(std::int32_t start) {
   const std::int32_t length = TourFileLength();
-  for (std::int32_t record = start; record <= length; ++record) {
+  for (std::int32_t record = std::max(start, 1); record <= length; ++record) {
     GetRecord(record, true);
     if (!TourPlayerExists()) return record;
   }
@@ -116,11 +122,11 @@ std::int32_t TournamentPlayers::TourIndexNumberofPlayersInIndex() {
 
 std::int32_t TournamentPlayers::TourIndex1stPlayerOnTeam(int team, OptionalRound round) {
   RefreshIndex();
-  return ElementOf(ElementOf(first_on_team_, RoundOr(round) - 1), team);
+  return ElementOf(OfRound(first_on_team_, RoundOr(round)), team);
 }
 
 std::int32_t TournamentPlayers::TourIndexPlayerbyTeam(std::int32_t i, OptionalRound round) const {
-  return ElementOf(ElementOf(players_by_team_, RoundOr(round) - 1), i);
+  return ElementOf(OfRound(players_by_team_, RoundOr(round)), i);
 }
 
 void TournamentPlayers::RefreshIndex() {
@@ -159,13 +165,14 @@ void TournamentPlayers::IndexRound(int round, int teams, std::int32_t length) {
   for (std::int32_t place = 1; place <= index_count_; ++place) {
     const std::int32_t record = ElementOf(records_, place - 1);
     GetRecord(record, true);
-    ElementOf(ElementOf(players_by_team_, round - 1), place) = record;
+    ElementOf(OfRound(players_by_team_, round), place) = record;
     if (TourTeamOn(round) > teams) {
       SetTourTeamOn(round, 0);
       SaveRecord(record, true);
     }
     const int team = TourTeamOn(round);
-    if (team != team_before) ElementOf(ElementOf(first_on_team_, round - 1), team) = place;
+    // Nobody asks for a team below 0.
+    if (team != team_before && team >= 0) ElementOf(OfRound(first_on_team_, round), team) = place;
     team_before = team;
   }
 }

@@ -39,6 +39,7 @@ class TournamentPlayers : public RosterPlayers {
   // Writes the buffer asked for. A number given for an entry is held for the golfer as well, until
   // the next read.
   void SaveRecord(std::int32_t record, bool tournament);
+  void SaveRecord(bool) = delete;  // a flag is no record number
   void TourBlankPlayerRecord();
 
   // The entries in the order of teams and places, for each round. The first two bring an index that
@@ -105,8 +106,6 @@ class TournamentPlayers : public RosterPlayers {
   int RoundOr(OptionalRound round) const;
 
   Record<TournamentPlayerLayout> entry_;
-  // Set for all rounds when the buffers may hold something new.
-  std::array<bool, kRounds> recalculate_{};
 
  private:
   struct TeamPlace {
