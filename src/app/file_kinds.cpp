@@ -2,6 +2,8 @@
 
 #include "core/text.h"
 #include "stores/course/course_layout.h"
+#include "stores/kelvane/kelvane_layouts.h"
+#include "stores/quenby/quenby_layouts.h"
 
 namespace golf {
 namespace {
@@ -13,6 +15,17 @@ constexpr FileKind kKinds[] = {
     {"*CRSKV.INX", InfoOfLayout<CourseIndexLayout>()},
     {"*CRSQB.INX", InfoOfLayout<CourseIndexLayout>()},
     {"*CRSZD.INX", InfoOfLayout<CourseIndexLayout>()},
+    {"*.KV5", InfoOfLayout<KelvaneHeaderLayout>()},
+    {"*.KVG", InfoOfLayout<KelvaneGolferLayout>()},
+    {"*.KVS", InfoOfLayout<KelvaneHistoryLayout>()},
+    {"REPORTS.CFG", InfoOfLayout<KelvaneReportsLayout>()},
+    {"KVSYSTEM.FIL", InfoOfLayout<KelvaneSystemLayout>()},
+    {"QBMASTER.Q9D", InfoOfLayout<MasterLayout>()},
+    {"QBROSTER.Q9D", InfoOfLayout<RosterLayout>()},
+    {"QBGOLFER.Q9D", InfoOfLayout<PlayerLayout>()},
+    {"*.Q9C", InfoOfLayout<TournamentLayout>()},
+    {"*.Q9G", InfoOfLayout<TournamentPlayerLayout>()},
+    {"*.Q9T", InfoOfLayout<TeamLayout>()},
 };
 
 bool Matches(std::string_view name, std::string_view pattern) {

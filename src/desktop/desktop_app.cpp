@@ -1,5 +1,6 @@
 #include "desktop/desktop_app.h"
 
+#include <wx/log.h>
 #include <wx/msgdlg.h>
 
 #include <cstdlib>
@@ -16,8 +17,12 @@ bool DesktopApp::Initialize(int& count, wxChar** arguments) {
   if (invocation_.answer.empty() && invocation_.complaint.empty()) {
     return wxApp::Initialize(count, arguments);
   }
+#ifdef __WXMSW__  // where a program with windows has no streams
+  wxSafeShowMessage("Golf Transfer", wxString::FromUTF8(invocation_.answer + invocation_.complaint));
+#else
   std::cout << invocation_.answer << std::flush;
   std::cerr << invocation_.complaint << std::flush;
+#endif
   // The toolkit would report a program that does not want to start as a failure of its own.
   std::exit(invocation_.complaint.empty() ? EXIT_SUCCESS : EXIT_FAILURE);
 }

@@ -51,7 +51,8 @@ void Yield(long categories) {
   if (wxEventLoopBase* loop = wxEventLoopBase::GetActive()) loop->YieldFor(categories);
 }
 
-// The pointer is not busy as long as this lives. Not every system has the toolkit's own class for it.
+// The pointer is not busy as long as this lives. Not every system has the toolkit's own class for
+// it.
 class PlainPointer {
  public:
   PlainPointer() {

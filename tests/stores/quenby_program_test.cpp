@@ -1,5 +1,4 @@
 #include "stores/quenby/program_class.h"
-
 #include "support/quenby_test.h"
 
 namespace golf {

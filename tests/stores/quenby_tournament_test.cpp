@@ -1,6 +1,7 @@
-#include "stores/quenby/tournament_control.h"
+#include <cmath>
 
 #include "stores/course/course_class.h"
+#include "stores/quenby/tournament_control.h"
 #include "support/quenby_test.h"
 
 namespace golf {
