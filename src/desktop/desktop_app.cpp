@@ -1,7 +1,9 @@
 #include "desktop/desktop_app.h"
 
-#include <wx/log.h>
 #include <wx/msgdlg.h>
+#ifdef __WXMSW__
+#include <wx/msw/wrapwin.h>
+#endif
 
 #include <cstdlib>
 #include <iostream>
@@ -18,7 +20,9 @@ bool DesktopApp::Initialize(int& count, wxChar** arguments) {
     return wxApp::Initialize(count, arguments);
   }
 #ifdef __WXMSW__  // where a program with windows has no streams
-  wxSafeShowMessage("Golf Transfer", wxString::FromUTF8(invocation_.answer + invocation_.complaint));
+  const wxString text = wxString::FromUTF8(invocation_.answer + invocation_.complaint);
+  MessageBoxW(nullptr, text.wc_str(), L"Golf Transfer",
+              invocation_.complaint.empty() ? MB_ICONINFORMATION : MB_ICONSTOP);
 #else
   std::cout << invocation_.answer << std::flush;
   std::cerr << invocation_.complaint << std::flush;

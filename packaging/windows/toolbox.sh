@@ -1,0 +1,78 @@
+# Sourced by the scripts of this folder, in the folder of the checkout, behind scripts/prepare.sh:
+# what the Windows programs are made of. What takes long to make is kept in a cache outside the
+# checkout, by a hash of all that it was made from.
+
+windows_packages=(g++-mingw-w64-x86-64-posix cmake ninja-build xz-utils zip googletest
+                  libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev)
+toolchain=$PWD/cmake/windows.cmake
+cache=${XDG_CACHE_HOME:-$HOME/.cache}/golf-transfer
+
+version_of() { dpkg-query -W -f='${source:Version}' "$1"; }
+
+# fetch_wxwidgets FOLDER: the source of the very release that the Linux program uses, from Debian's
+# archive and checked by its signature. The machine's own list of package sources stays as it is.
+fetch_wxwidgets() {
+  local apt=$1/apt file
+  mkdir -p "$apt/sources.list.d" "$apt/lists/partial"
+  : >"$apt/sources.list"
+  if [[ -e /etc/apt/sources.list ]]; then
+    sed -n 's/^deb /deb-src /p' /etc/apt/sources.list >"$apt/sources.list"
+  fi
+  for file in /etc/apt/sources.list.d/*; do
+    case $file in
+      *.sources) sed 's/^Types:.*/Types: deb-src/' "$file" ;;
+      *.list) sed -n 's/^deb /deb-src /p' "$file" ;;
+    esac >"$apt/sources.list.d/${file##*/}"
+  done
+  local options=(-qq -o "Dir::Etc::SourceList=$apt/sources.list" -o APT::Sandbox::User=root
+                 -o "Dir::Etc::SourceParts=$apt/sources.list.d" -o "Dir::State::Lists=$apt/lists"
+                 -o "Dir::Cache::srcpkgcache=" -o "Dir::Cache::pkgcache=")
+  apt-get "${options[@]}" update
+  (cd "$apt" && apt-get "${options[@]}" source --download-only \
+    "wxwidgets3.2=$(version_of libwxgtk3.2-dev)" >/dev/null)
+  mkdir "$1/wxwidgets"
+  tar -C "$1/wxwidgets" --strip-components=1 -xf "$apt"/wxwidgets3.2_*.orig.tar.*
+}
+
+# build_for_windows SOURCE FOLDER PREFIX OPTIONS...
+build_for_windows() {
+  cmake -G Ninja -S "$1" -B "$2" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+    -DCMAKE_INSTALL_PREFIX="$3" "${@:4}" >"$2.log"
+  nice -n 10 cmake --build "$2" -- --quiet >>"$2.log"
+  cmake --install "$2" >>"$2.log"
+}
+
+# make_libraries: sets `libraries` to the folder of all libraries for Windows, and makes it if need
+# be.
+make_libraries() {
+  local recipe
+  recipe=$(
+    cat "$toolchain" packaging/windows/wxwidgets.cmake
+    declare -f fetch_wxwidgets build_for_windows make_libraries
+    for package in g++-mingw-w64-x86-64-posix libwxgtk3.2-dev googletest libcli11-dev \
+      nlohmann-json3-dev; do version_of "$package"; done
+  )
+  libraries=$cache/windows-libraries-$(sha256sum <<<"$recipe" | head -c 16)
+  [[ -e $libraries ]] && return
+  say "Building wxWidgets and GoogleTest for Windows, once on this machine: some minutes"
+  mkdir -p "$cache"
+  local work=$libraries.making-$$
+  trap "rm -rf '$work'" EXIT
+  mkdir "$work"
+  fetch_wxwidgets "$work"
+  build_for_windows "$work/wxwidgets" "$work/build-wxwidgets" "$work/made" \
+    -C "$PWD/packaging/windows/wxwidgets.cmake"
+  build_for_windows /usr/src/googletest "$work/build-googletest" "$work/made" \
+    -DCMAKE_BUILD_TYPE=Release -DBUILD_GMOCK=OFF
+  # Headers alone, with their files for CMake: as they are.
+  mkdir -p "$work/made/share/cmake"
+  cp -r /usr/include/CLI /usr/include/nlohmann "$work/made/include"
+  cp -r /usr/share/cmake/CLI11 /usr/share/cmake/nlohmann_json "$work/made/share/cmake"
+  mv -T "$work/made" "$libraries"
+  rm -rf "$work"
+  trap - EXIT
+}
+
+configure_windows() {
+  cmake --preset windows -DCMAKE_PREFIX_PATH="$libraries" >/dev/null
+}
