@@ -83,7 +83,6 @@ void WalkKelvane(SharedState& state) {
     AddKVScore(state);
     BlankKVScore(state);
     AddKVScore(state);
-    Need(buffers.golfer.Get<"ScoreCounter">(1) != 0);
     const std::int32_t found = FindKVGolfer(state, id);
     Need(found == 0 || buffers.golfer.Get<"Status">() >= 1);
     state.id_numbers.Run(IdNumberList::kAppendNew, id);

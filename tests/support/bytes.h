@@ -10,26 +10,27 @@ namespace golf {
 
 // Puts numbers into a record's bytes, one behind the other.
 template <class T>
-void Put(std::string& bytes, std::size_t offset, std::initializer_list<T> values) {
+void Put(std::string& bytes, std::size_t at, std::initializer_list<T> values) {
   for (const T value : values) {
-    StoreLittleEndian(bytes.data() + offset, value);
-    offset += sizeof(T);
+    StoreLittleEndian(bytes.data() + at, value);
+    at += sizeof(T);
   }
 }
-inline void Put16(std::string& bytes, std::size_t offset,
-                  std::initializer_list<std::int16_t> values) {
-  Put(bytes, offset, values);
+inline void Put16(std::string& bytes, std::size_t at, std::initializer_list<int> values) {
+  for (const int value : values) {
+    Put(bytes, at, {static_cast<std::int16_t>(value)});
+    at += 2;
+  }
 }
 
 // Puts a text, with blanks up to its width.
-inline void PutText(std::string& bytes, std::size_t offset, std::size_t width,
+inline void PutText(std::string& bytes, std::size_t at, std::size_t width,
                     const std::string& text = "") {
-  bytes.replace(offset, width, width, ' ');
-  bytes.replace(offset, text.size(), text);
+  bytes.replace(at, width, width, ' ').replace(at, text.size(), text);
 }
 
-inline std::int16_t Int16At(const std::string& bytes, std::size_t offset) {
-  return LoadLittleEndian<std::int16_t>(bytes.data() + offset);
+inline int Int16At(const std::string& bytes, std::size_t at) {
+  return LoadLittleEndian<std::int16_t>(bytes.data() + at);
 }
 
 // Bytes of which neighbours differ, none of them 0 or a blank.

@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include <filesystem>
+#include <stdexcept>
 
 #include "support/processes.h"
 
@@ -44,16 +45,18 @@ Ended RunProgram(const TempFolder& folder, const std::string& program, const std
   PROCESS_INFORMATION process{};
   const BOOL started = CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
                                       Wide(folder.Path()).c_str(), &start, &process);
+  const DWORD failure = GetLastError();
   for (const HANDLE stream : {start.hStdInput, start.hStdOutput, start.hStdError}) {
     CloseHandle(stream);
   }
-  DWORD code = static_cast<DWORD>(-1);
-  if (started) {
-    WaitForSingleObject(process.hProcess, INFINITE);
-    GetExitCodeProcess(process.hProcess, &code);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
+  if (!started) {
+    throw std::runtime_error("cannot start " + program + ": error " + std::to_string(failure));
   }
+  DWORD code = 0;
+  WaitForSingleObject(process.hProcess, INFINITE);
+  GetExitCodeProcess(process.hProcess, &code);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
   return {static_cast<int>(code), folder.Read("out"), folder.Read("problems")};
 }
 

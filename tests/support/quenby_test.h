@@ -14,7 +14,7 @@
 
 namespace golf {
 
-// A Quenby data folder, empty, on the afternoon of 13 May 2024.
+// An empty Quenby data folder on the afternoon of 13 May 2024.
 class QuenbyTest : public testing::Test {
  protected:
   QuenbyTest() {

@@ -1,0 +1,250 @@
+// What must hold for every record, and not just for those of the tables.
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <random>
+#include <set>
+
+#include "app/application.h"
+#include "stores/kelvane/kelvane_buffers.h"
+#include "stores/kelvane/kelvane_scores.h"
+#include "stores/quenby/program_class.h"
+#include "stores/quenby/team_records.h"
+#include "stores/quenby/tournament_control.h"
+#include "stores/quenby/tournament_players.h"
+#include "support/memory_platform.h"
+
+namespace golf {
+namespace {
+
+std::string AnyBytes(std::size_t size) {
+  std::mt19937 random(*rc::gen::arbitrary<unsigned>());
+  std::string bytes(size, '\0');
+  std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
+  return bytes;
+}
+
+std::size_t FirstDifference(const std::string& a, const std::string& b) {
+  return static_cast<std::size_t>(std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first -
+                                  a.begin());
+}
+
+// A setter of any form, by the field that it sets: indexes in their order, then the value.
+template <class Object>
+struct Setter {
+  template <class... Arguments>
+  Setter(std::string_view name, void (Object::*setter)(Arguments...))
+      : field(name), call([setter](Object& object, const std::vector<int>& indexes, int value) {
+          std::size_t next = 0;
+          // In braces the arguments are made from left to right.
+          std::tuple<Arguments...> arguments{Argument<Arguments>(indexes, next, value)...};
+          std::apply([&](auto... each) { (object.*setter)(each...); }, arguments);
+        }) {}
+
+  template <class Type>
+  static Type Argument(const std::vector<int>& indexes, std::size_t& next, int value) {
+    if constexpr (std::is_same_v<Type, int> || std::is_same_v<Type, OptionalRound>) {
+      return indexes.at(next++);
+    } else if constexpr (std::is_same_v<Type, std::string_view>) {
+      return value % 2 == 0 ? "Y" : "a text that is longer than most of the fields are";
+    } else {
+      return static_cast<Type>(value);
+    }
+  }
+
+  std::string_view field;
+  std::function<void(Object&, const std::vector<int>&, int)> call;
+};
+
+class StoreProperties : public testing::Test {
+ protected:
+  StoreProperties() { player.OpenRosterFile(); }
+
+  // A random record comes back as it was, and each of the setters changes no byte but those of its
+  // own element, a random one.
+  template <class Layout, class Object>
+  void TouchesItsElementOnly(Object& object, const std::vector<Setter<Object>>& setters,
+                             std::string file, const std::function<void()>& load,
+                             const std::function<void()>& save) {
+    std::string& bytes = memory.Bytes("qbdata/" + file);
+    bytes = AnyBytes(Layout::kLength);
+    if (file == "X0001.Q9C") bytes.replace(966, 4, "2005");  // any other is brought up to date
+    const std::string before = bytes;
+    for (const auto& setter : setters) {
+      const auto field = std::find_if(Layout::kFields.begin(), Layout::kFields.end(),
+                                      [&](const Field& each) { return each.name == setter.field; });
+      RC_ASSERT(field != Layout::kFields.end());
+      std::vector<int> indexes;
+      for (std::size_t i = 0; i < field->rank; ++i) {
+        const Dimension& dimension = field->dimensions[i];
+        indexes.push_back(*rc::gen::inRange(dimension.base, dimension.base + dimension.count));
+      }
+      load();
+      save();
+      RC_ASSERT(FirstDifference(bytes, before) == before.size());
+      setter.call(object, indexes, *rc::gen::inRange(-32768, 32768));
+      save();
+      const std::size_t at = field->OffsetOf(indexes);
+      bytes.replace(at, field->width, before, at, field->width);
+      RC_LOG() << "Set" << setter.field;
+      RC_ASSERT(FirstDifference(bytes, before) == before.size());
+      state.files.Synchronize();
+    }
+  }
+
+  SharedState& Started() {
+    application.Start(DateFromCivil({2024, 5, 13}), {});
+    application.state().StoreDataPath = application.state().QBDataPath;
+    return application.state();
+  }
+
+  MemoryPlatform& memory = *new MemoryPlatform;  // the application's
+  Application application{std::unique_ptr<Platform>(&memory)};
+  SharedState& state = Started();
+  ProgramClass& program = state.Program();
+  TournamentControl& tournament = state.Tournament();
+  TournamentPlayers& player = state.Player();
+  TeamRecords& team = state.Team1();
+};
+
+template <class... Setters>
+auto All(const Setters&... setters) {
+  return std::vector{setters...};
+}
+
+#define SET(Field) Setter<Object>(#Field, &Object::Set##Field)
+
+RC_GTEST_FIXTURE_PROP(StoreProperties, SettersOfAGolfer, ()) {
+  using Object = RosterPlayers;
+  static const auto kSetters =
+      All(SET(PrintPlayer), SET(Cart), SET(IDNum), SET(NameFirst), SET(NameLast),
+          Setter<Object>("Sex", &Object::Setsex), SET(AddressHomeLine), SET(AddressWorkLine),
+          SET(PhoneHome), SET(PhoneWork), SET(PhoneFax), SET(Email), SET(GroupText),
+          SET(ReportFlags), SET(MiscText), SET(DueComment), SET(Comments), SET(MiscInTourText),
+          SET(Flight), SET(PreferredTime), SET(Index), SET(Handicap), SET(MiscDate), SET(DueDate),
+          SET(MiscCurrency), SET(DueAmount));
+  TouchesItsElementOnly<PlayerLayout, Object>(
+      player, kSetters, "QBGOLFER.Q9D", [&] { player.GetRecord(1, false); },
+      [&] { player.SaveRecord(); });
+}
+
+RC_GTEST_FIXTURE_PROP(StoreProperties, SettersOfAnEntry, ()) {
+  using Object = TournamentPlayers;
+  static const auto kSetters =
+      All(SET(TourRosterRecordPointer), SET(TourTeamOn), SET(TourTeamPositionIn),
+          SET(TourTeamOnInTrial), Setter<Object>("TourFlags", &Object::SetTourLockFlag),
+          Setter<Object>("TourFlags", &Object::SetTourScoreTransferredtoKV), SET(TourFlight),
+          SET(TourGroupTee), SET(TourIndex), SET(TourGrossHandicap), SET(TourQuota),
+          SET(TourReportFlags), SET(TourCart), SET(TourPreferredTime), SET(TourGroupText),
+          SET(TourMiscInTourText), SET(TourPutts), SET(TourFairways), SET(TourGreens),
+          SET(TourEarnings), SET(TourScoreGross));
+  TouchesItsElementOnly<TournamentPlayerLayout, Object>(
+      player, kSetters, "X0001.Q9G",
+      [&] {
+        player.TourOpenTournamentFile(1);
+        player.GetRecord(1, true);
+      },
+      [&] { player.SaveRecord(1, true); });
+}
+
+RC_GTEST_FIXTURE_PROP(StoreProperties, SettersOfATournament, ()) {
+  using Object = TournamentControl;
+  static const auto kSetters =
+      All(SET(Name), SET(NumRounds), SET(NumTeams), SET(NumFlights), SET(NumTeamFlights),
+          SET(NumTeesMenPlay), SET(NumTeesLadiesPlay), SET(NumPlayersPerTeam), SET(RoundType),
+          SET(TeamHandicapOption), SET(PointQuotaOption), SET(PositionOption),
+          SET(PlayerFlightsDeterminedBy), SET(TeamFlightsDeterminedBy), SET(IndextoHandicap),
+          SET(HandicapDecimalPlaces), SET(ScoreEntryTotal), SET(RCGAESC), SET(ShowTeamsonSheet),
+          SET(TeamHandicapPercent), SET(PointQuotaFromHandicap), SET(PointsGiven), SET(DateofRound),
+          SET(CourseNumberPlayed), SET(TeeNumberPlayed), SET(TeeHandicapPercent),
+          SET(TeeHandicapAdjustment), SET(ActiveRound), SET(ActiveTrial), SET(NumTrials),
+          SET(TeeTimeStartOption), SET(TeeTimeIncEveryXTeams), SET(TeeTimeInc), SET(PeoriaHole),
+          SET(SheetColumnSorted), SET(SheetColumnSortedHow), SET(TeamSheetColumnSorted),
+          SET(TeamSheetColumnSortedHow), SET(HandicapMax), SET(TeamNamesMat),
+          SET(PlayerFlightRange), SET(TeamFlightRange));
+  TouchesItsElementOnly<TournamentLayout, Object>(
+      tournament, kSetters, "X0001.Q9C",
+      [&] {
+        tournament.OpenTournamentControlFile(1);
+        tournament.GetRecord();
+      },
+      [&] { tournament.SaveRecord(); });
+}
+
+RC_GTEST_FIXTURE_PROP(StoreProperties, SettersOfATeam, ()) {
+  using Object = TeamRecords;
+  static const auto kSetters =
+      All(SET(TeamName), SET(Sponsor), SET(Flight), SET(TeeTimeValue), SET(TeeStartHole),
+          SET(Cart1), SET(Cart2), SET(CourseNumberPlayed));
+  TouchesItsElementOnly<TeamLayout, Object>(
+      team, kSetters, "X0001.Q9T",
+      [&] {
+        team.OpenTeamFile(1);
+        team.GetRecord(1);
+      },
+      [&] { team.SaveRecord(); });
+}
+
+RC_GTEST_FIXTURE_PROP(StoreProperties, SettersOfTheMaster, ()) {
+  using Object = ProgramClass;
+  static const auto kSetters =
+      All(SET(ActiveRoster), SET(LastRosterViewLoaded), SET(RosterColumnSorted),
+          SET(RosterColumnSortedHow), SET(ActiveTournament), SET(LastTournamentViewLoaded),
+          SET(MiscTourTextFieldName), SET(MiscTextFieldName), SET(MiscDateFieldName),
+          SET(MiscCurrFieldName));
+  TouchesItsElementOnly<MasterLayout, Object>(
+      program, kSetters, "QBMASTER.Q9D",
+      [&] {
+        program.CloseMasterFile();
+        program.OpenMasterFile();
+        program.GetMasterRecord();
+      },
+      [&] { program.SaveMasterRecord(); });
+}
+
+RC_GTEST_FIXTURE_PROP(StoreProperties, RosterSlotsStayPackedAndUnique, ()) {
+  player.BlankPlayerRecord();
+  const auto sets = *rc::gen::container<std::vector<std::pair<int, int>>>(
+      rc::gen::pair(rc::gen::inRange(1, 4), rc::gen::inRange(0, 6)));
+  for (const auto& [slot, roster] : sets) {
+    player.SetRosters(slot, roster);
+    std::set<int> rosters;
+    bool empty_before = false;
+    for (int n = 1; n <= 3; ++n) {
+      const int held = player.Rosters(n);
+      RC_ASSERT(held == 0 || (!empty_before && rosters.insert(held).second));
+      empty_before = held == 0;
+    }
+    RC_ASSERT(roster == 0 || rosters.contains(roster));
+    RC_ASSERT(player.Rosters(4) == 0);
+  }
+}
+
+RC_GTEST_FIXTURE_PROP(StoreProperties, AHistoryStaysSortedAndLosesOnlyItsOldestEntry, ()) {
+  KelvaneBuffers& buffers = state.Kelvane();
+  buffers.history = {};
+  buffers.golfer = {};
+  const int first = *rc::gen::element(0, 290);  // so many scores before, one a day
+  const auto days = *rc::gen::container<std::vector<int>>(rc::gen::inRange(1, 320));
+  std::vector<double> played;
+  const auto add = [&](int day) {
+    buffers.score.Set<"Date">(day);
+    if (played.size() == 300) played.pop_back();
+    played.insert(std::find_if(played.begin(), played.end(), [&](double d) { return d <= day; }),
+                  day);
+    AddKVScore(state);
+  };
+  for (int day = 1; day <= first; ++day) add(day);
+  for (const int day : days) add(day);
+  RC_ASSERT(buffers.golfer.Get<"ScoreCounter">(1) == static_cast<int>(played.size()));
+  for (std::size_t i = 0; i < 300; ++i) {
+    const double expected = i < played.size() ? played[i] : 0;
+    RC_ASSERT(buffers.history.Get<"Date">(static_cast<int>(i) + 1) == expected);
+  }
+}
+
+}  // namespace
+}  // namespace golf
