@@ -2,7 +2,7 @@
 # what the Windows programs are made of. What takes long to make is kept in a cache outside the
 # checkout, by a hash of all that it was made from.
 
-windows_packages=(g++-mingw-w64-x86-64-posix cmake ninja-build xz-utils zip googletest
+windows_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build xz-utils zip googletest
                   libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev)
 toolchain=$PWD/cmake/windows.cmake
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/golf-transfer
