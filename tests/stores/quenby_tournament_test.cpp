@@ -217,6 +217,15 @@ TEST_F(TournamentTest, CreateBlankTournamentByteForByte) {
   }
 }
 
+TEST_F(TournamentTest, AFreshObjectMakesACurrentRecord) {
+  std::string expected = BlankControl(std::string(1208, '\0'));
+  Put<float>(expected, 958, {99, 99});
+  PutText(expected, 966, 34, "2005Team #");
+  tournament.CreateBlankTournament(12);
+  EXPECT_EQ(Saved(), expected);
+  EXPECT_EQ(Read("X0012.Q9T").substr(1339 * 199, 40), "Team #200" + std::string(31, ' '));
+}
+
 TEST_F(TournamentTest, TheFileOfDefaultsOverridesABlankTournament) {
   std::string defaults = Pattern(1208);
   Put16(defaults, 50, {3});
