@@ -108,11 +108,6 @@ class TournamentPlayers : public RosterPlayers {
   Record<TournamentPlayerLayout> entry_;
 
  private:
-  struct TeamPlace {
-    float key;
-    std::int32_t record;
-  };
-
   void RefreshIndex();
   void IndexRound(int round, int teams, std::int32_t length);
   std::int32_t SortedEntries(int round, int teams, std::int32_t length);
