@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/entry.h"
+#include "scoring/screens/grid_sort_screen.h"
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
 #include "stores/course/course_class.h"
@@ -41,6 +42,7 @@ Application::Application(std::unique_ptr<Platform> platform)
 ScreenCatalogue Application::Screens() {
   return {{"TransferMenu", Make<TransferMenu>},
           {"TipBox", Make<TipBox>},
+          {"GridSort", Make<GridSort>},
           {"KVCoursestoQB", Make<KVCoursestoQB>}};
 }
 
@@ -53,7 +55,7 @@ void Application::Start(DateValue now, const RegionalOverrides& overrides) {
 }
 
 bool CanOpenScreen(const ScreenHost& host, std::string_view name) {
-  return name != "TipBox" && host.HasScreen(name);
+  return name != "TipBox" && name != "GridSort" && host.HasScreen(name);
 }
 
 void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,

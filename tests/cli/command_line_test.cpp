@@ -132,6 +132,7 @@ TEST_F(CommandLineTest, ScriptsThatCannotBeFollowed) {
                             "open TransferMenu\nclick Label1(1)",
                             "open TransferMenu\nopen TransferMenu",
                             "open TipBox",
+                            "open GridSort",
                             "open TransferMenu\nfly away",
                             "open TransferMenu\nset ExitButton x",
                             "open TransferMenu\ntab SSTab1 1",
