@@ -1,5 +1,6 @@
 #include "desktop/views.h"
 
+#include "scoring/screens/grid_sort_screen.h"
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
 #include "transfers/kv_courses_to_qb.h"
@@ -17,6 +18,7 @@ void Fill(ScreenPanel& panel, Screen& screen) {
 ViewCatalogue Views() {
   return {{"TransferMenu", {WindowKind::kMain, Fill<TransferMenu, FillTransferMenu>}},
           {"TipBox", {WindowKind::kDialog, Fill<TipBox, FillTipBox>}},
+          {"GridSort", {WindowKind::kDialog, Fill<GridSort, FillGridSort>}},
           {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};
 }
 

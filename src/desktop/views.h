@@ -7,6 +7,7 @@
 
 namespace golf {
 
+class GridSort;
 class KVCoursestoQB;
 class TipBox;
 class TransferMenu;
@@ -25,6 +26,7 @@ ViewCatalogue Views();
 
 void FillTransferMenu(ScreenPanel& panel, TransferMenu& screen);
 void FillTipBox(ScreenPanel& panel, TipBox& screen);
+void FillGridSort(ScreenPanel& panel, GridSort& screen);
 void FillKVCoursestoQB(ScreenPanel& panel, KVCoursestoQB& screen);
 
 }  // namespace golf
