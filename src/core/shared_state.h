@@ -52,6 +52,9 @@ class SharedState {
   std::string CourseDataPath;
   std::string StoreDataPath;
 
+  // Whether screens remember what was entered on them. Not where a command's arguments say it all.
+  bool remembers_settings = true;
+
   // The Kelvane roster picked last, without folder or extension.
   std::string KVRosterName;
 
