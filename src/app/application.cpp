@@ -8,11 +8,14 @@
 #include "shell/transfer_menu.h"
 #include "stores/course/course_class.h"
 #include "stores/kelvane/kelvane_buffers.h"
+#include "stores/kelvane/screens/load_roster.h"
 #include "stores/quenby/program_class.h"
+#include "stores/quenby/screens/load_rosters.h"
 #include "stores/quenby/team_records.h"
 #include "stores/quenby/tournament_control.h"
 #include "stores/quenby/tournament_players.h"
 #include "transfers/kv_courses_to_qb.h"
+#include "transfers/kv_to_qb.h"
 
 namespace golf {
 namespace {
@@ -29,6 +32,13 @@ void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   if (!objects.Kelvane) objects.Kelvane = std::make_shared<KelvaneBuffers>();
 }
 
+// What the transfers that open the manager of Quenby's rosters have open by then.
+void OpenForLoadRosters(SharedState& state) {
+  state.StoreDataPath = state.QBDataPath;
+  state.Program().OpenRosterListFile();
+  state.Player().OpenRosterFile();
+}
+
 template <class AnyScreen>
 std::shared_ptr<Screen> Make(const ScreenContext& context) {
   return std::make_shared<AnyScreen>(context);
@@ -43,7 +53,10 @@ ScreenCatalogue Application::Screens() {
   return {{"TransferMenu", Make<TransferMenu>},
           {"TipBox", Make<TipBox>},
           {"GridSort", Make<GridSort>},
-          {"KVCoursestoQB", Make<KVCoursestoQB>}};
+          {"LoadRoster", Make<LoadRoster>},
+          {"LoadRosters", Make<LoadRosters>},
+          {"KVCoursestoQB", Make<KVCoursestoQB>},
+          {"KVtoQB", Make<KVtoQB>}};
 }
 
 void Application::Start(DateValue now, const RegionalOverrides& overrides) {
@@ -63,6 +76,7 @@ void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,
   if (!CanOpenScreen(host, name)) {
     throw NumberedError(ErrorNumber::kBadCall, "There is no screen " + std::string(name) + ".");
   }
+  if (name == "LoadRosters") OpenForLoadRosters(state);
   OpenTransfer(state, host, name, word);
 }
 

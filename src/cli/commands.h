@@ -37,6 +37,18 @@ struct DumpRequest {
 ExitCode RunDump(const Options& options, const DumpRequest& request);
 
 ExitCode RunCoursesKvToQb(const Options& options);
+
+struct GolfersKvToQbRequest {
+  std::string roster;  // Kelvane's, by name
+  int to = 0;          // Quenby's, by number; 0 for all rosters
+  bool marked_only = false;
+  bool to_9_hole = false;
+  bool to_18_hole = false;
+  std::vector<std::string> items;  // optional ones, by name or by row
+  bool update_tournament = false;
+};
+ExitCode RunGolfersKvToQb(const Options& options, const GolfersKvToQbRequest& request);
+
 ExitCode RunScript(const Options& options, const std::string& file, bool start_programs);
 
 }  // namespace golf
