@@ -11,6 +11,7 @@
 #include "stores/quenby/team_records.h"
 #include "stores/quenby/tournament_control.h"
 #include "stores/quenby/tournament_players.h"
+#include "stores/zandel/zandel_buffers.h"
 #include "transfers/kv_courses_to_qb.h"
 
 namespace golf {
@@ -26,6 +27,7 @@ void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   objects.Team1 = std::make_shared<TeamRecords>(state);
   objects.Team2 = std::make_shared<TeamRecords>(state);
   if (!objects.Kelvane) objects.Kelvane = std::make_shared<KelvaneBuffers>();
+  if (!objects.Zandel) objects.Zandel = std::make_shared<ZandelBuffers>();
 }
 
 template <class AnyScreen>
