@@ -14,6 +14,7 @@
 #include "stores/quenby/team_records.h"
 #include "stores/quenby/tournament_control.h"
 #include "stores/quenby/tournament_players.h"
+#include "stores/zandel/zandel_buffers.h"
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
 
@@ -30,6 +31,7 @@ void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   objects.Team1 = std::make_shared<TeamRecords>(state);
   objects.Team2 = std::make_shared<TeamRecords>(state);
   if (!objects.Kelvane) objects.Kelvane = std::make_shared<KelvaneBuffers>();
+  if (!objects.Zandel) objects.Zandel = std::make_shared<ZandelBuffers>();
 }
 
 // What the transfers that open the manager of Quenby's rosters have open by then.

@@ -111,6 +111,13 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
       ->check(CLI::IsMember(ListNames()));
   list->add_option("--library", args.list.library, "Whose courses: kv, qb or zd; kv if left out")
       ->check(CLI::IsMember({"kv", "qb", "zd"}));
+  list->add_option("--league", args.list.league, "Whose events: a base that list leagues shows")
+      ->type_name("BASE");
+  list->parse_complete_callback([&args] {
+    if (args.list.what == "events" && args.list.league.empty()) {
+      throw CLI::RequiredError("--league");
+    }
+  });
 
   CLI::App* dump = AddCommand(app, "dump", "Show the records of a file, field by field",
                               "dump golf-demo/kvdata/kvcrs.dat --record 1", chosen,

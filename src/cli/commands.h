@@ -25,6 +25,7 @@ ExitCode RunDemo(const Options& options, const std::string& folder);
 struct ListRequest {
   std::string what;            // one of ListNames
   std::string library = "kv";  // whose courses: "kv", "qb" or "zd"
+  std::string league;          // whose events: its base, UTF-8
 };
 std::vector<std::string> ListNames();
 ExitCode RunList(const Options& options, const ListRequest& request);

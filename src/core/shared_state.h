@@ -18,6 +18,7 @@ class TeamRecords;
 class TournamentControl;
 class TournamentPlayers;
 struct KelvaneBuffers;
+struct ZandelBuffers;
 
 // The store objects that all screens work on. This room knows their names only; the composition
 // root makes them.
@@ -31,6 +32,7 @@ struct StoreObjects {
   std::shared_ptr<TeamRecords> Team2;
   // Record buffers, which are made once and stay.
   std::shared_ptr<KelvaneBuffers> Kelvane;
+  std::shared_ptr<ZandelBuffers> Zandel;
 };
 
 // Puts new objects into the place of the old ones, in the order of the members.
@@ -76,6 +78,7 @@ class SharedState {
   TeamRecords& Team2() { return *objects_.Team2; }
 
   KelvaneBuffers& Kelvane() { return *objects_.Kelvane; }
+  ZandelBuffers& Zandel() { return *objects_.Zandel; }
   IdNumberList id_numbers;
 
   // The present moment, as the front end gives it.
