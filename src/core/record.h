@@ -89,8 +89,8 @@ class Record {
   using Value = typename detail::ValueOf<FieldOf<Layout, kName>().type>::Type;
   // What a field is set from.
   template <FieldName kName>
-  using Source = std::conditional_t<std::is_same_v<Value<kName>, std::string>, std::string_view,
-                                    Value<kName>>;
+  using Source =
+      std::conditional_t<std::is_same_v<Value<kName>, std::string>, std::string_view, Value<kName>>;
 
   // The stored value; text with its blanks.
   template <FieldName kName, class... Indexes>
