@@ -12,13 +12,13 @@
 #include "app/demo/demo_install.h"
 #include "app/file_kinds.h"
 #include "cli/field_text.h"
+#include "scoring/player_class.h"
+#include "scoring/tournament_class.h"
 #include "stores/course/course_class.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "stores/quenby/program_class.h"
 #include "stores/quenby/team_records.h"
-#include "stores/quenby/tournament_control.h"
-#include "stores/quenby/tournament_players.h"
 #include "support/memory_platform.h"
 
 namespace golf {
