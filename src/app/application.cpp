@@ -4,15 +4,20 @@
 
 #include "core/entry.h"
 #include "scoring/player_class.h"
+#include "scoring/screens/grid_sort_screen.h"
 #include "scoring/stroke_control.h"
 #include "scoring/tournament_class.h"
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
 #include "stores/course/course_class.h"
 #include "stores/kelvane/kelvane_buffers.h"
+#include "stores/kelvane/screens/load_roster.h"
 #include "stores/quenby/program_class.h"
+#include "stores/quenby/screens/load_rosters.h"
 #include "stores/quenby/team_records.h"
+#include "stores/zandel/zandel_buffers.h"
 #include "transfers/kv_courses_to_qb.h"
+#include "transfers/kv_to_qb.h"
 
 namespace golf {
 namespace {
@@ -28,6 +33,14 @@ void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   objects.Team2 = std::make_shared<TeamRecords>(state);
   objects.ESC = std::make_shared<ESCClass>();
   if (!objects.Kelvane) objects.Kelvane = std::make_shared<KelvaneBuffers>();
+  if (!objects.Zandel) objects.Zandel = std::make_shared<ZandelBuffers>();
+}
+
+// What the transfers that open the manager of Quenby's rosters have open by then.
+void OpenForLoadRosters(SharedState& state) {
+  state.StoreDataPath = state.QBDataPath;
+  state.Program().OpenRosterListFile();
+  state.Player().OpenRosterFile();
 }
 
 template <class AnyScreen>
@@ -43,7 +56,11 @@ Application::Application(std::unique_ptr<Platform> platform)
 ScreenCatalogue Application::Screens() {
   return {{"TransferMenu", Make<TransferMenu>},
           {"TipBox", Make<TipBox>},
-          {"KVCoursestoQB", Make<KVCoursestoQB>}};
+          {"GridSort", Make<GridSort>},
+          {"LoadRoster", Make<LoadRoster>},
+          {"LoadRosters", Make<LoadRosters>},
+          {"KVCoursestoQB", Make<KVCoursestoQB>},
+          {"KVtoQB", Make<KVtoQB>}};
 }
 
 void Application::Start(DateValue now, const RegionalOverrides& overrides) {
@@ -55,7 +72,7 @@ void Application::Start(DateValue now, const RegionalOverrides& overrides) {
 }
 
 bool CanOpenScreen(const ScreenHost& host, std::string_view name) {
-  return name != "TipBox" && host.HasScreen(name);
+  return name != "TipBox" && name != "GridSort" && host.HasScreen(name);
 }
 
 void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,
@@ -63,6 +80,7 @@ void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,
   if (!CanOpenScreen(host, name)) {
     throw NumberedError(ErrorNumber::kBadCall, "There is no screen " + std::string(name) + ".");
   }
+  if (name == "LoadRosters") OpenForLoadRosters(state);
   OpenTransfer(state, host, name, word);
 }
 

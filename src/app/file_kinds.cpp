@@ -4,6 +4,7 @@
 #include "stores/course/course_layout.h"
 #include "stores/kelvane/kelvane_layouts.h"
 #include "stores/quenby/quenby_layouts.h"
+#include "stores/zandel/zandel_layouts.h"
 
 namespace golf {
 namespace {
@@ -26,6 +27,11 @@ constexpr FileKind kKinds[] = {
     {"*.Q9C", InfoOfLayout<TournamentLayout>()},
     {"*.Q9G", InfoOfLayout<TournamentPlayerLayout>()},
     {"*.Q9T", InfoOfLayout<TeamLayout>()},
+    {"*.ZL8", InfoOfLayout<LeagueControlLayout>()},
+    {"*.ZP8", InfoOfLayout<LeaguePlayerLayout>()},
+    {"*.ZS8", InfoOfLayout<LeaguePlayerLayout>()},
+    {"*.ZT8", InfoOfLayout<LeagueTeamLayout>()},
+    {"*.ZE8", InfoOfLayout<LeagueEventLayout>()},
 };
 
 bool Matches(std::string_view name, std::string_view pattern) {

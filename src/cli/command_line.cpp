@@ -66,10 +66,37 @@ struct Arguments {
   std::string demo_folder;
   ListRequest list;
   DumpRequest dump;
+  GolfersKvToQbRequest golfers_kv_to_qb;
   ResultsRequest results;
   std::string script;
   bool start_programs = false;
 };
+
+void AddGolfersKvToQb(CLI::App& app, const Options& options, GolfersKvToQbRequest& request,
+                      Command& chosen) {
+  CLI::App* command =
+      AddCommand(app, "golfers-kv-to-qb", "Transfer the golfers of a roster, Kelvane to Quenby",
+                 "--install golf-demo golfers-kv-to-qb --roster CLUB --to 1 --items Flight,7",
+                 chosen, [&] { return RunGolfersKvToQb(options, request); });
+  command->add_option("--roster", request.roster, "The Kelvane roster, as in list rosters")
+      ->required()
+      ->type_name("NAME");
+  command->add_option("--to", request.to, "The Quenby roster, as in list qb-rosters; 0 for all")
+      ->required()
+      ->check(CLI::Range(0, 32767))
+      ->type_name("N");
+  command->add_flag("--marked-only", request.marked_only, "Only golfers who are marked to print");
+  command->add_flag("--to-9-hole", request.to_9_hole, "Handicaps of 18 holes by 2");
+  command->add_flag("--to-18-hole", request.to_18_hole, "Handicaps of 9 holes times 2");
+  command
+      ->add_option("--items", request.items,
+                   "Optional items by name or row: 2 flight, 3 group number, 4 group text, 5 and 6 "
+                   "dates, 7 to 11 texts, 12 to 16 amounts")
+      ->delimiter(',')
+      ->type_name("LIST");
+  command->add_flag("--update-tournament", request.update_tournament,
+                    "Put handicaps and indexes into the active tournament as well");
+}
 
 void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
   AddCommand(app, "demo", "Make a demonstration install in an empty or new folder",
@@ -85,6 +112,13 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
       ->check(CLI::IsMember(ListNames()));
   list->add_option("--library", args.list.library, "Whose courses: kv, qb or zd; kv if left out")
       ->check(CLI::IsMember({"kv", "qb", "zd"}));
+  list->add_option("--league", args.list.league, "Whose events: a base that list leagues shows")
+      ->type_name("BASE");
+  list->parse_complete_callback([&args] {
+    if (args.list.what == "events" && args.list.league.empty()) {
+      throw CLI::RequiredError("--league");
+    }
+  });
 
   CLI::App* dump = AddCommand(app, "dump", "Show the records of a file, field by field",
                               "dump golf-demo/kvdata/kvcrs.dat --record 1", chosen,
@@ -109,6 +143,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   AddCommand(app, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
              "--install golf-demo courses-kv-to-qb", chosen,
              [&] { return RunCoursesKvToQb(options); });
+  AddGolfersKvToQb(app, options, args.golfers_kv_to_qb, chosen);
 
   CLI::App* script = AddCommand(app, "script", "Drive the screens by the lines of a script",
                                 "--install golf-demo script clicks.txt", chosen, [&] {

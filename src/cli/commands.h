@@ -25,6 +25,7 @@ ExitCode RunDemo(const Options& options, const std::string& folder);
 struct ListRequest {
   std::string what;            // one of ListNames
   std::string library = "kv";  // whose courses: "kv", "qb" or "zd"
+  std::string league;          // whose events: its base, UTF-8
 };
 std::vector<std::string> ListNames();
 ExitCode RunList(const Options& options, const ListRequest& request);
@@ -46,6 +47,18 @@ std::vector<std::string> ResultsNames();
 ExitCode RunResults(const Options& options, const ResultsRequest& request);
 
 ExitCode RunCoursesKvToQb(const Options& options);
+
+struct GolfersKvToQbRequest {
+  std::string roster;  // Kelvane's, by name
+  int to = 0;          // Quenby's, by number; 0 for all rosters
+  bool marked_only = false;
+  bool to_9_hole = false;
+  bool to_18_hole = false;
+  std::vector<std::string> items;  // optional ones, by name or by row
+  bool update_tournament = false;
+};
+ExitCode RunGolfersKvToQb(const Options& options, const GolfersKvToQbRequest& request);
+
 ExitCode RunScript(const Options& options, const std::string& file, bool start_programs);
 
 }  // namespace golf

@@ -14,10 +14,9 @@ struct ListKind {
   void (*list)(SharedState&, const ListRequest&, ListWriter&);
 };
 
-constexpr ListKind kKinds[] = {{"rosters", ListRosters},
-                               {"courses", ListCourses},
-                               {"tournaments", ListTournaments},
-                               {"qb-rosters", ListQuenbyRosters}};
+constexpr ListKind kKinds[] = {{"rosters", ListRosters},         {"courses", ListCourses},
+                               {"tournaments", ListTournaments}, {"qb-rosters", ListQuenbyRosters},
+                               {"leagues", ListZandelLeagues},   {"events", ListEvents}};
 
 }  // namespace
 

@@ -30,5 +30,7 @@ void ListCourses(SharedState& state, const ListRequest& request, ListWriter& out
 void ListRosters(SharedState& state, const ListRequest& request, ListWriter& out);
 void ListQuenbyRosters(SharedState& state, const ListRequest& request, ListWriter& out);
 void ListTournaments(SharedState& state, const ListRequest& request, ListWriter& out);
+void ListZandelLeagues(SharedState& state, const ListRequest& request, ListWriter& out);
+void ListEvents(SharedState& state, const ListRequest& request, ListWriter& out);
 
 }  // namespace golf

@@ -45,9 +45,8 @@ class ReportListener : public HostListener {
 // Runs the command's screen; the exit code of an error that ended a click.
 std::optional<ExitCode> Work(Application& application, HeadlessHost& host,
                              const TransferCommand& command) {
-  host.drive = [&](Screen& screen) {
-    if (screen.name() == command.screen) command.work(host, screen);
-  };
+  application.state().remembers_settings = false;
+  host.drive = [&](Screen& screen) { command.work(host, screen); };
   try {
     host.Operate([&] { OpenScreen(application.state(), host, command.screen, ""); });
   } catch (const ClickEnded& ended) {
@@ -58,12 +57,14 @@ std::optional<ExitCode> Work(Application& application, HeadlessHost& host,
 
 ExitCode ExitCodeAfterRun(const HeadlessHost& host) {
   if (!host.faults().empty()) return ExitCodeOfFaults(host.faults());
+  if (host.run_ended_by()) return ExitCodeOf(*host.run_ended_by());
   return host.counts().empty() ? ExitCode::kRefused : ExitCode::kDone;
 }
 
 void WriteResult(const TransferCommand& command, const HeadlessHost& host) {
   Json result = {{"event", "result"}, {"transfer", command.name}};
   for (const auto& [name, count] : host.counts()) result[name] = count;
+  if (command.carries_on) result["faults"] = host.faults().size();
   WriteJsonLine(result);
 }
 
@@ -84,7 +85,7 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   if (options.json) {
     if (!host.counts().empty() && !failed) WriteResult(command, host);
   } else {
-    report.Write(code == ExitCode::kRefused ? std::cerr : std::cout);
+    report.Write(host.counts().empty() ? std::cerr : std::cout);
   }
   return code;
 }

@@ -13,8 +13,10 @@ namespace golf {
 struct TransferCommand {
   std::string name;    // of the command
   std::string screen;  // that does the transfer
-  // Presses the buttons that the operator would press on it.
+  // Presses the buttons that the operator would press on a screen that has opened, on this one and
+  // on those that it opens.
   std::function<void(HeadlessHost&, Screen&)> work;
+  bool carries_on = false;  // over faults, which are then counted
 };
 
 // Opens the screen as the menu does, works it, and prints its report: refusals and errors on

@@ -6,6 +6,8 @@
 #include <chrono>
 #include <cmath>
 
+#include "core/text.h"
+
 namespace golf {
 namespace {
 
@@ -63,12 +65,29 @@ std::string Element(const CivilTime& civil, char kind, std::size_t letters) {
   }
 }
 
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
 bool ReadNumber(std::string_view text, std::size_t start, std::size_t length, int low, int high,
                 int& value) {
   const std::string_view part = text.substr(start, length);
   const auto read = std::from_chars(part.data(), part.data() + part.size(), value);
   return read.ec == std::errc() && read.ptr == part.data() + part.size() && value >= low &&
          value <= high;
+}
+
+// Reads the digits of a day, month or year. Gives their number, 0 where they are none of it.
+std::size_t ReadDatePart(std::string_view text, char kind, CivilTime& civil) {
+  const auto end = std::find_if_not(text.begin(), text.end(), IsDigit);
+  const auto count = static_cast<std::size_t>(end - text.begin());
+  bool read = count > 0;
+  if (kind == 'd') read = ReadNumber(text, 0, count, 1, 31, civil.day);
+  if (kind == 'm') read = ReadNumber(text, 0, count, 1, 12, civil.month);
+  if (kind == 'y' && count == 4) read = ReadNumber(text, 0, count, 100, 9999, civil.year);
+  if (kind == 'y' && count != 4) {
+    read = count == 2 && ReadNumber(text, 0, count, 0, 99, civil.year);
+    civil.year += civil.year < 30 ? 2000 : 1900;
+  }
+  return read ? count : 0;
 }
 
 }  // namespace
@@ -103,8 +122,7 @@ bool ParseMoment(std::string_view text, CivilTime& moment) {
   constexpr std::string_view kForm = "####-##-## ##:##:##";
   if (text.size() != kForm.size()) return false;
   for (std::size_t i = 0; i < kForm.size(); ++i) {
-    const bool digit = text[i] >= '0' && text[i] <= '9';
-    if (kForm[i] == '#' ? !digit : text[i] != kForm[i]) return false;
+    if (kForm[i] == '#' ? !IsDigit(text[i]) : text[i] != kForm[i]) return false;
   }
   return ReadNumber(text, 0, 4, 100, 9999, moment.year) &&
          ReadNumber(text, 5, 2, 1, 12, moment.month) && ReadNumber(text, 8, 2, 1, 31, moment.day) &&
@@ -146,6 +164,26 @@ std::string FormatDay(DateValue date, std::string_view date_format) {
   std::string picture(date_format);
   std::replace(picture.begin(), picture.end(), 'm', 'M');
   return FormatPicture(CivilFromDate(std::trunc(date)), picture);
+}
+
+bool ParseDay(std::string_view text, std::string_view date_format, DateValue& date) {
+  constexpr std::string_view kElements = "dmy";
+  if (date_format.empty()) return false;
+  CivilTime civil;
+  text = Trim(text);
+  while (!date_format.empty()) {
+    const char kind = date_format[0];
+    const bool element = kElements.find(kind) != std::string_view::npos;
+    const std::size_t taken =
+        element ? ReadDatePart(text, kind, civil) : std::size_t{text.starts_with(kind)};
+    if (taken == 0) return false;
+    text.remove_prefix(taken);
+    date_format.remove_prefix(
+        element ? std::min(date_format.find_first_not_of(kind), date_format.size()) : 1);
+  }
+  if (!text.empty() || !(year(civil.year) / civil.month / civil.day).ok()) return false;
+  date = DateFromCivil(civil);
+  return true;
 }
 
 }  // namespace golf

@@ -36,4 +36,9 @@ bool IsDate(DateValue date);
 // The day of `date` in a date format such as "dd.mm.yy"; empty for a value that is no date.
 std::string FormatDay(DateValue date, std::string_view date_format);
 
+// Reads a day that is written in a date format: blanks around it, a day or month of one digit and a
+// year of four are taken too, and a year of two lies in 1930 to 2029. False, and `date` as it was,
+// where the text has another form or names no day.
+bool ParseDay(std::string_view text, std::string_view date_format, DateValue& date);
+
 }  // namespace golf

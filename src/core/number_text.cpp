@@ -183,16 +183,23 @@ Int RoundTo(double value) {
 }  // namespace
 
 double LeadingNumber(std::string_view text) {
+  double value = 0;
+  ReadLeadingNumber(text, value);
+  return value;
+}
+
+bool ReadLeadingNumber(std::string_view text, double& value) {
   const std::size_t start = text.find_first_not_of(' ');
-  if (start == std::string_view::npos) return 0;
+  if (start == std::string_view::npos) return false;
   text.remove_prefix(start);
   const bool negative = text[0] == '-';
   if (negative || text[0] == '+') text.remove_prefix(1);
-  if (text.empty() || !(text[0] == '.' || (text[0] >= '0' && text[0] <= '9'))) return 0;
-  double value = 0;
-  const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (read.ec != std::errc()) return 0;
-  return negative ? -value : value;
+  if (text.empty() || !(text[0] == '.' || (text[0] >= '0' && text[0] <= '9'))) return false;
+  double magnitude = 0;
+  const auto read = std::from_chars(text.data(), text.data() + text.size(), magnitude);
+  if (read.ec != std::errc()) return false;
+  value = negative ? -magnitude : magnitude;
+  return true;
 }
 
 std::string NumberText(std::int64_t value) {

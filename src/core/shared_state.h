@@ -21,6 +21,7 @@ class TournamentClass;
 class TournamentControl;
 class TournamentPlayers;
 struct KelvaneBuffers;
+struct ZandelBuffers;
 
 // The store objects that all screens work on. This room knows their names only; the composition
 // root makes them.
@@ -39,6 +40,7 @@ struct StoreObjects {
   std::shared_ptr<TournamentPlayers> PlayerRecords;
   // Record buffers, which are made once and stay.
   std::shared_ptr<KelvaneBuffers> Kelvane;
+  std::shared_ptr<ZandelBuffers> Zandel;
 };
 
 // Puts new objects into the place of the old ones, in the order of the members.
@@ -59,6 +61,9 @@ class SharedState {
   std::string ZDDataPath;
   std::string CourseDataPath;
   std::string StoreDataPath;
+
+  // Whether screens remember what was entered on them. Not where a command's arguments say it all.
+  bool remembers_settings = true;
 
   // The Kelvane roster picked last, without folder or extension.
   std::string KVRosterName;
@@ -87,6 +92,7 @@ class SharedState {
   TournamentPlayers& PlayerRecords() { return *objects_.PlayerRecords; }
 
   KelvaneBuffers& Kelvane() { return *objects_.Kelvane; }
+  ZandelBuffers& Zandel() { return *objects_.Zandel; }
   IdNumberList id_numbers;
 
   // The present moment, as the front end gives it.

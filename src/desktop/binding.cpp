@@ -28,6 +28,10 @@ void Binding::Tie(Control& control, wxWindow& widget, std::function<void()> show
   Tied& tied = ties_.emplace_back(Tied{&control, &widget, std::move(show), true});
   changed_ = true;
   control.Observe([this, &tied] { Mark(tied); });
+  FollowFocus(control, widget);
+}
+
+void Binding::FollowFocus(Control& control, wxWindow& widget) {
   widget.Bind(wxEVT_SET_FOCUS, [this, &control](wxFocusEvent& event) {
     event.Skip();
     if (held_ || screen_ == nullptr) return;

@@ -24,6 +24,10 @@ class Binding {
   // whether it can be seen, used, and has the focus.
   void Tie(Control& control, wxWindow& widget, std::function<void()> show);
 
+  // When this part of a control's widget gets the focus, the control has it. Done for the widget
+  // itself.
+  void FollowFocus(Control& control, wxWindow& part);
+
   // Runs an event of the operator and shows what it has changed.
   void Operate(const std::function<void()>& event);
   // Lets the screen take a key. False if it does not.

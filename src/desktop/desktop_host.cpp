@@ -96,6 +96,9 @@ void DesktopHost::Open(Screen& screen) {
   auto* panel = new ScreenPanel(*window, *this, screen);
   view.fill(*panel, screen);
   if (view.kind == WindowKind::kDialog) window->CentreOnParent();
+  if (view.kind == WindowKind::kDialogOverOpener && TopWindow() != nullptr) {
+    window->Move(TopWindow()->GetPosition());
+  }
   windows_.push_back({&screen, panel});
   panel->binding().BeginFocus();
   window->Show();

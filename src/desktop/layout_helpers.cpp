@@ -1,5 +1,7 @@
 #include "desktop/layout_helpers.h"
 
+#include "desktop/widgets.h"
+
 namespace golf {
 
 int CloseGap(const wxWindow& window) { return window.FromDIP(6); }
@@ -9,8 +11,9 @@ int EdgeGap(const wxWindow& window) { return window.FromDIP(14); }
 wxSizer* Column(std::initializer_list<wxWindow*> controls) {
   auto* column = new wxBoxSizer(wxVERTICAL);
   for (wxWindow* control : controls) {
-    if (column->GetItemCount() > 0) column->AddSpacer(CloseGap(*control));
-    column->Add(control, wxSizerFlags().Expand());
+    // A border, not a spacer: a control that is hidden leaves no gap.
+    const int gap = column->GetItemCount() > 0 ? CloseGap(*control) : 0;
+    column->Add(control, wxSizerFlags().Expand().Border(wxTOP, gap));
   }
   return column;
 }
@@ -31,6 +34,13 @@ wxSizer* ButtonRow(const EndButtons& buttons) {
     }
   }
   return row;
+}
+
+wxSizer* RosterColumn(ScreenPanel& panel, Label& heading, TextBox& name, Button& finder) {
+  Binding& binding = panel.binding();
+  wxStaticText* title = MakeLabel(binding, &panel, heading);
+  MakeBold(*title);
+  return Column({title, MakeTextBox(binding, &panel, name), MakeButton(binding, &panel, finder)});
 }
 
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above) {

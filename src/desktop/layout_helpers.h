@@ -28,6 +28,9 @@ struct EndButtons {
 };
 wxSizer* ButtonRow(const EndButtons& buttons);
 
+// A roster or league with its heading above and the button that finds it below.
+wxSizer* RosterColumn(ScreenPanel& panel, Label& heading, TextBox& name, Button& finder);
+
 // Adds a widget that keeps its place while it is hidden.
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above);
 

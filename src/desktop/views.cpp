@@ -1,8 +1,12 @@
 #include "desktop/views.h"
 
+#include "scoring/screens/grid_sort_screen.h"
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
+#include "stores/kelvane/screens/load_roster.h"
+#include "stores/quenby/screens/load_rosters.h"
 #include "transfers/kv_courses_to_qb.h"
+#include "transfers/kv_to_qb.h"
 
 namespace golf {
 namespace {
@@ -17,6 +21,10 @@ void Fill(ScreenPanel& panel, Screen& screen) {
 ViewCatalogue Views() {
   return {{"TransferMenu", {WindowKind::kMain, Fill<TransferMenu, FillTransferMenu>}},
           {"TipBox", {WindowKind::kDialog, Fill<TipBox, FillTipBox>}},
+          {"GridSort", {WindowKind::kDialog, Fill<GridSort, FillGridSort>}},
+          {"LoadRoster", {WindowKind::kDialog, Fill<LoadRoster, FillLoadRoster>}},
+          {"LoadRosters", {WindowKind::kDialogOverOpener, Fill<LoadRosters, FillLoadRosters>}},
+          {"KVtoQB", {WindowKind::kDialog, Fill<KVtoQB, FillKVtoQB>}},
           {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};
 }
 

@@ -7,11 +7,16 @@
 
 namespace golf {
 
+class GridSort;
 class KVCoursestoQB;
+class KVtoQB;
+class LoadRoster;
+class LoadRosters;
 class TipBox;
 class TransferMenu;
 
-enum class WindowKind { kMain, kDialog };
+// A dialog comes up in the middle of its opener, or at the opener's top left corner.
+enum class WindowKind { kMain, kDialog, kDialogOverOpener };
 
 // How the window of a screen is made.
 struct View {
@@ -25,6 +30,10 @@ ViewCatalogue Views();
 
 void FillTransferMenu(ScreenPanel& panel, TransferMenu& screen);
 void FillTipBox(ScreenPanel& panel, TipBox& screen);
+void FillGridSort(ScreenPanel& panel, GridSort& screen);
+void FillLoadRoster(ScreenPanel& panel, LoadRoster& screen);
+void FillLoadRosters(ScreenPanel& panel, LoadRosters& screen);
+void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen);
 void FillKVCoursestoQB(ScreenPanel& panel, KVCoursestoQB& screen);
 
 }  // namespace golf

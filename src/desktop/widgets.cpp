@@ -52,6 +52,22 @@ wxCheckBox* MakeCheckBox(Binding& binding, wxWindow* parent, CheckBox& control) 
   return box;
 }
 
+namespace {
+
+// A key that the box's filter changes or refuses does not get through as it is. Pasting does.
+void FilterKeys(wxTextCtrl& box, const TextBox& control) {
+  box.Bind(wxEVT_CHAR, [&box, &control](wxKeyEvent& event) {
+    const wxChar typed = event.GetUnicodeKey();
+    if (typed < WXK_SPACE || typed == WXK_DELETE || event.HasModifiers()) return event.Skip();
+    const char key = TextFromWx(wxString(typed)).front();
+    const char filtered = control.key_filter(key);
+    if (filtered == key) return event.Skip();
+    if (filtered != 0) box.WriteText(WxText(std::string(1, filtered)));
+  });
+}
+
+}  // namespace
+
 wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, long style) {
   auto* box = new wxTextCtrl(parent, wxID_ANY, WxText(control.text()), wxDefaultPosition,
                              wxDefaultSize, style);
@@ -61,6 +77,7 @@ wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, lo
     if (box->GetValue() != text) box->ChangeValue(text);
     box->SetEditable(!control.read_only());
   });
+  if (control.key_filter) FilterKeys(*box, control);
   box->Bind(wxEVT_TEXT, [&binding, &control](wxCommandEvent& event) {
     binding.Operate([&control, &event] { control.SetText(TextFromWx(event.GetString())); });
   });

@@ -1,5 +1,7 @@
 #include "forms/grid.h"
 
+#include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "core/numbered_error.h"
@@ -66,6 +68,50 @@ void Grid::SetItems(int column, std::vector<DropDownItem> items) {
 void Grid::SetHidden(int column, bool hidden) {
   Column(column).hidden = hidden;
   Repaint();
+}
+
+std::vector<int> Grid::SortedRows(const std::vector<SortKey>& keys, int last_row,
+                                  std::string_view date_format) const {
+  // What each cell counts as is worked out once, not at every comparison.
+  std::vector<std::vector<CellRank>> ranks;
+  for (const SortKey& key : keys) {
+    std::vector<CellRank>& column = ranks.emplace_back();
+    for (int row = 1; row <= last_row; ++row) {
+      column.push_back(RankOf(text(key.column, row), sort_kind(key.column), date_format));
+    }
+  }
+  std::vector<int> rows(static_cast<std::size_t>(last_row));
+  std::iota(rows.begin(), rows.end(), 1);
+  std::stable_sort(rows.begin(), rows.end(), [&](int a, int b) {
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+      const int order = Compare(ranks[i][static_cast<std::size_t>(a) - 1],
+                                ranks[i][static_cast<std::size_t>(b) - 1], keys[i].order);
+      if (order != 0) return order < 0;
+    }
+    return false;
+  });
+  return rows;
+}
+
+void Grid::SortRows(const std::vector<SortKey>& keys, int last_row, std::string_view date_format) {
+  if (last_row < 0 || last_row > rows()) FailCell(name());
+  const std::vector<int> sorted = SortedRows(keys, last_row, date_format);
+  std::vector<std::vector<std::string>> cells;
+  std::vector<int> places(sorted.size());  // where each row goes
+  for (const int row : sorted) {
+    cells.push_back(std::move(cells_[static_cast<std::size_t>(row) - 1]));
+    places[static_cast<std::size_t>(row) - 1] = static_cast<int>(cells.size());
+  }
+  std::move(cells.begin(), cells.end(), cells_.begin());
+  const auto place_of = [&](int row) {
+    return row < 1 || row > last_row ? row : places[static_cast<std::size_t>(row) - 1];
+  };
+  std::map<int, bool> locks;
+  for (const auto& [row, locked] : locked_rows_) locks[place_of(row)] = locked;
+  locked_rows_ = std::move(locks);
+  const int was_active = std::exchange(active_row_, place_of(active_row_));
+  Repaint();
+  if (active_row_ != was_active && on_row_change) on_row_change();
 }
 
 bool Grid::IsLocked(int column, int row) const {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/cell_order.h"
 #include "forms/control.h"
 
 namespace golf {
@@ -43,6 +44,14 @@ class Grid : public Control {
   const std::vector<DropDownItem>& items(int column) const { return Column(column).items; }
   void SetItems(int column, std::vector<DropDownItem> items);
 
+  SortKind sort_kind(int column) const { return Column(column).sort_kind; }
+  void SetSortKind(int column, SortKind kind) { Column(column).sort_kind = kind; }
+  // Sorts rows 1 to `last_row` by the first key, where that ties by the next one, and so on; rows
+  // that tie in all keys stay in their order. A row keeps its lock, and stays the active one: where
+  // it has moved, the event of a row change runs. `date_format` is that of dates in the cells.
+  // Error 9 for a row or column that is not there.
+  void SortRows(const std::vector<SortKey>& keys, int last_row, std::string_view date_format);
+
   bool IsHidden(int column) const { return Column(column).hidden; }
   void SetHidden(int column, bool hidden);
   bool IsLocked(int column, int row) const;
@@ -65,6 +74,7 @@ class Grid : public Control {
     std::string heading;
     CellType type = CellType::kText;
     std::vector<DropDownItem> items;
+    SortKind sort_kind = SortKind::kText;
     bool hidden = false;
     bool locked = false;
   };
@@ -72,6 +82,9 @@ class Grid : public Control {
   const ColumnInfo& Column(int column) const;
   ColumnInfo& Column(int column);
   std::string& Cell(int column, int row);
+  // The rows 1 to `last_row` in the order of a sort.
+  std::vector<int> SortedRows(const std::vector<SortKey>& keys, int last_row,
+                              std::string_view date_format) const;
   void Repaint() const;
 
   int columns_;

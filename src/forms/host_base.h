@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -48,12 +49,15 @@ class HostBase : public ScreenHost {
   void EndRun() override { in_run_ = false; }
   void TellCount(std::string_view name, std::int64_t count) override;
   void TellFault(const NumberedError& fault) override { faults_.push_back(fault); }
+  void TellRunEnded(const NumberedError& error) override { run_ended_by_ = error; }
   void EndProcess() override { ended_ = true; }
 
   bool in_run() const { return in_run_; }
   // What the runs so far have told.
   const std::vector<std::pair<std::string, std::int64_t>>& counts() const { return counts_; }
   const std::vector<NumberedError>& faults() const { return faults_; }
+  // The error that ended the last run that a screen had to end.
+  const std::optional<NumberedError>& run_ended_by() const { return run_ended_by_; }
   // True after EndProcess.
   bool ended() const { return ended_; }
 
@@ -83,6 +87,7 @@ class HostBase : public ScreenHost {
   std::vector<Screen*> shown_;  // from the bottom to the top
   std::vector<std::pair<std::string, std::int64_t>> counts_;
   std::vector<NumberedError> faults_;
+  std::optional<NumberedError> run_ended_by_;
   bool in_run_ = false;
   bool ended_ = false;
 };

@@ -57,6 +57,9 @@ class ScreenHost {
   // A fault that a run carries on over.
   virtual void TellFault(const NumberedError& fault) = 0;
 
+  // The error that ended a run, where the screen itself tells the operator of it.
+  virtual void TellRunEnded(const NumberedError& error) = 0;
+
   // Starts a program with its arguments and does not wait. Fails where it cannot be started.
   virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;
   virtual DateValue Now() = 0;

@@ -43,6 +43,7 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
       {"dump --help", 0, "Example:", ""},
       {"", 2, "", "required"},
       {"list nothing", 2, "", "nothing"},
+      {"--install i list events", 2, "", "--league is required"},
       {"--now yesterday list courses", 2, "", "YYYY-MM-DD"},
       {"--install nowhere list courses", 1, "", "There is no folder nowhere."},
       {"--install \"\" courses-kv-to-qb", 1, "", "names no folder"},
@@ -62,6 +63,9 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
       {"--install i results players --tournament 1 --round 3", 1, "", "has 2."},
       {"--install i results players --tournament 1", 0, "Duarte, Ines     26  ", ""},
       {"--install i script none.txt", 1, "", "cannot be read"},
+      {"--install i list events --league 0001?", 1, "", "There is no league 0001?."},
+      {"--install i list leagues", 0, "Saturday Eighteen", ""},
+      {"--install i dump zddata/0001.ZS8 --record 6", 0, "Jarvis", ""},
       {"--install i courses-kv-to-qb", 0, "Number of courses ADDED: 5", ""},
       {"courses-kv-to-qb --install i", 0, "Number of courses UPDATED: 6", ""},
   };
@@ -85,6 +89,31 @@ TEST_F(CommandLineTest, ReadingChangesNothing) {
               "tees":[{"number":1,"name":"Yellow","abbreviation":"Y"},
                       {"number":2,"name":"Red","abbreviation":"R"}]})"));
   EXPECT_FALSE(folder.Exists("i/zddata/9CRSZD.INX"));
+}
+
+TEST_F(CommandLineTest, ListsLeaguesAndWhatTheyHaveToPost) {
+  folder.Write("i/zddata/00019.ZL8", "");
+  std::filesystem::remove(folder.Path("i/zddata/00012.ZE8"));
+  const std::string leagues = Run("--install i list leagues --json").out;
+  const auto line = [](const char* base, const char* name, int division, int holes, int event) {
+    return nlohmann::json{{"base", base},
+                          {"name", name},
+                          {"division", division},
+                          {"holes", holes},
+                          {"currentEvent", event}};
+  };
+  const char* nine = "Thursday Twilight Nine";
+  const char* eighteen = "Saturday Eighteen";
+  EXPECT_EQ(JsonLines(leagues),
+            (std::vector{line("00011", nine, 0, 9, 6), line("00011", nine, 1, 9, 6),
+                         line("00012", nine, 2, 9, 6), line("00019", "", 9, 0, 0),
+                         line("00021", eighteen, 0, 18, 4), line("00021", eighteen, 1, 18, 4)}));
+  const auto events = JsonLines(Run("--install i list events --league 00012 --json").out);
+  ASSERT_EQ(events.size(), 24u);
+  for (std::size_t i = 0; i < 24; ++i) EXPECT_EQ(events[i]["current"], i == 11) << i;
+  EXPECT_EQ(events[11]["code"], 6);
+  EXPECT_EQ(events[10]["text"], "Non-Event scores after event #5 but before #6");
+  EXPECT_FALSE(folder.Exists("i/zddata/00012.ZE8"));
 }
 
 TEST_F(CommandLineTest, ResultsOfPlayers) {
@@ -171,6 +200,7 @@ TEST_F(CommandLineTest, ScriptsThatCannotBeFollowed) {
                             "open TransferMenu\nclick Label1(1)",
                             "open TransferMenu\nopen TransferMenu",
                             "open TipBox",
+                            "open GridSort",
                             "open TransferMenu\nfly away",
                             "open TransferMenu\nset ExitButton x",
                             "open TransferMenu\ntab SSTab1 1",

@@ -44,6 +44,23 @@ TEST(DateValue, ParseMoment) {
   }
 }
 
+TEST(DateValue, DaysAreReadInADateFormat) {
+  const std::string rows[][3] = {
+      {" 2/29/24 ", "mm/dd/yy", "2024-02-29"},
+      {"31.12.29", "dd.mm.yy", "2029-12-31"},
+      {"30-01-02", "yy-mm-dd", "1930-01-02"},
+      {"29.02.2023", "dd.mm.yy", ""},
+      {"01.02.024", "dd.mm.yy", ""},
+      {"01.02.24x", "dd.mm.yy", ""},
+      {"13/01/24", "mm/dd/yy", ""},
+      {"", "", ""},
+  };
+  for (const auto& [text, format, expected] : rows) {
+    DateValue day = 0;
+    EXPECT_EQ(ParseDay(text, format, day) ? FormatDay(day, "yyyy-mm-dd") : "", expected) << text;
+  }
+}
+
 TEST(RegionalForms, DatesAreReadOffWhatThePlatformWrites) {
   const DateValue now = DateFromCivil({2026, 11, 7, 9, 30, 0});
   const struct {

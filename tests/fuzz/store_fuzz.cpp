@@ -19,6 +19,8 @@
 #include "stores/kelvane/kelvane_scores.h"
 #include "stores/quenby/program_class.h"
 #include "stores/quenby/team_records.h"
+#include "stores/zandel/zandel_batches.h"
+#include "stores/zandel/zandel_files.h"
 #include "support/memory_platform.h"
 
 namespace golf {
@@ -219,6 +221,12 @@ void WalkTeams(SharedState& state) {
   }
 }
 
+void WalkLeagues(SharedState& state) {
+  for (const ListedLeague& league : ListLeagues(state)) Need(LeagueBase(league.Item()).size() == 5);
+  const auto batches = LoadScoreBatches(state, "00011");
+  Need(batches && batches->selected < static_cast<int>(batches->list.size()));
+}
+
 void WalkCourses(SharedState& state) {
   CourseClass& course = state.Course();
   for (const int record : kRecords) {
@@ -268,7 +276,9 @@ constexpr FuzzedFile kFiles[] = {
     {"qbdata/qbgolfer.q9d", WalkQuenby},  {"qbdata/x0001.q9c", WalkQuenby},
     {"qbdata/x0001.q9g", WalkQuenby},     {"qbdata/x0001.q9t", WalkQuenby},
     {"qbdata/default.q9c", WalkDefaults}, {"qbdata/qbcrs.dat", WalkCourses},
-    {"qbdata/18crsqb.inx", WalkCourses},
+    {"qbdata/18crsqb.inx", WalkCourses},  {"zddata/00011.zl8", WalkLeagues},
+    {"zddata/00011.ze8", WalkLeagues},    {"zddata/00011.zp8", WalkLeagues},
+    {"zddata/00011.zt8", WalkLeagues},
 };
 
 MemoryPlatform MadeUpClub() {

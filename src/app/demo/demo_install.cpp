@@ -3,6 +3,7 @@
 #include "app/demo/demo_courses.h"
 #include "app/demo/demo_kelvane.h"
 #include "app/demo/demo_quenby.h"
+#include "app/demo/demo_zandel.h"
 
 namespace golf {
 
@@ -13,6 +14,7 @@ void MakeDemoInstall(SharedState& state) {
   MakeDemoCourses(state);
   MakeDemoKelvaneRosters(state);
   MakeDemoQuenby(state);
+  MakeDemoLeagues(state);
 }
 
 }  // namespace golf

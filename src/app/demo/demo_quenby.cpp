@@ -38,6 +38,7 @@ void MakeMaster(ProgramClass& program) {
 void MakeRosterList(ProgramClass& program) {
   program.OpenRosterListFile();
   int number = 0;
+  for (int line = 2; line <= 3; ++line) program.SetClubAddress(line, "");
   for (const char* name : {"Larkfield Members", "Invitation Guests"}) {
     program.SetIsRosterActive(true);
     program.SetClubName(name);

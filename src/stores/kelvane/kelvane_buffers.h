@@ -7,6 +7,8 @@ namespace golf {
 
 // The one buffer of the process for each Kelvane record. They outlive InitSharedObjects.
 struct KelvaneBuffers {
+  KelvaneBuffers();  // texts of the header blank, so that names of no roster show as nothing
+
   Record<KelvaneSystemLayout> system;
   Record<KelvaneHeaderLayout> header;
   Record<KelvaneGolferLayout> golfer;    // the golfer in hand

@@ -49,6 +49,8 @@ void FillSystemDefaults(Record<KelvaneSystemLayout>& system) {
 
 }  // namespace
 
+KelvaneBuffers::KelvaneBuffers() { FillBlanks(header); }
+
 void LoadKVSystemFile(SharedState& state) {
   FileTable& files = state.files;
   auto& system = state.Kelvane().system;

@@ -12,8 +12,6 @@
 namespace golf {
 namespace {
 
-constexpr std::int16_t kFirstGolferRecord = 10;
-constexpr std::int32_t kNeverAgain = -1;  // an ID that keeps its record from being used again
 constexpr int kMostRosterNumber = 255;
 
 constexpr std::array<std::string_view, 4> kPreferredTimes = {"None", "Early", "Middle", "Late"};

@@ -11,6 +11,11 @@
 
 namespace golf {
 
+// The records before it are never looked at.
+inline constexpr std::int16_t kFirstGolferRecord = 10;
+// An ID that keeps its record from being used again.
+inline constexpr std::int32_t kNeverAgain = -1;
+
 // The golfers of all Quenby rosters, QBGOLFER.Q9D in StoreDataPath, one of them in a buffer: the
 // first storey of a player. Getters give texts trimmed; setters trim them and cut them to their
 // field. Where a getter is said to mend, it brings the stored value into its range in the buffer.
@@ -25,6 +30,7 @@ class RosterPlayers {
 
   void OpenRosterFile();
   void CloseRosterFile();
+  bool IsRosterFileOpen() const { return file_ > 0; }
   std::int32_t RosterFileLength();
   void BlankPlayerRecord();
   // The first free record from `start` on, which is raised to 10 if it is lower; behind the file if

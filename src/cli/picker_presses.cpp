@@ -1,0 +1,47 @@
+#include "cli/picker_presses.h"
+
+#include "cli/commands.h"
+#include "core/code_page.h"
+#include "core/text.h"
+#include "stores/kelvane/screens/load_roster.h"
+#include "stores/quenby/screens/load_rosters.h"
+
+namespace golf {
+namespace {
+
+// Makes the row active that has this text in a column; false if there is none.
+bool ChooseRow(HeadlessHost& host, Screen& screen, Grid& grid, int column,
+               const std::string& text) {
+  for (int row = 1; row <= grid.rows(); ++row) {
+    if (!EqualIgnoringCase(grid.text(column, row), text)) continue;
+    host.Operate(screen, [&] { grid.SetActiveRow(row); });
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void PickKelvaneRoster(HeadlessHost& host, Screen& picker, const std::string& name) {
+  auto& rosters = dynamic_cast<LoadRoster&>(picker);
+  if (!ChooseRow(host, picker, rosters.grid1, 2, name)) {
+    throw Refusal("Kelvane has no roster " + Utf8FromText(name) + ".");
+  }
+  host.Press(picker, "LoadButton");
+}
+
+void PickQuenbyRoster(HeadlessHost& host, Screen& picker, int number) {
+  auto& rosters = dynamic_cast<LoadRosters&>(picker);
+  const std::string key = std::to_string(number == 0 ? -1 : number);
+  if (!ChooseRow(host, picker, rosters.grid1, 0, key)) {
+    throw Refusal("Quenby has no roster " + std::to_string(number) + ".");
+  }
+  host.Press(picker, "LoadButton");
+}
+
+void Tick(HeadlessHost& host, Screen& screen, CheckBox& box, const std::string& why) {
+  if (!box.IsShown()) throw Refusal(why);
+  host.Operate(screen, [&] { box.Choose(true); });
+}
+
+}  // namespace golf

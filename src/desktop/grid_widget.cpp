@@ -1,0 +1,225 @@
+#include "desktop/grid_widget.h"
+
+#include <wx/settings.h>
+
+#include <string>
+#include <vector>
+
+#include "core/number_text.h"
+#include "desktop/wx_text.h"
+
+namespace golf {
+namespace {
+
+constexpr int kMostRowsMeasured = 500;  // for the widths of columns
+constexpr int kMargin = 8;              // of a cell's text, both sides together
+
+// The cells of a control as the toolkit asks for them: nothing is kept twice.
+class ControlTable : public wxGridTableBase {
+ public:
+  ControlTable(Binding& binding, Grid& control) : binding_(binding), control_(control) {
+    ChooseColumns();
+  }
+
+  int GetNumberRows() override { return rows_; }
+  int GetNumberCols() override { return static_cast<int>(columns_.size()); }
+  wxString GetColLabelValue(int column) override {
+    return WxText(control_.heading(ControlColumn(column)));
+  }
+  wxString GetValue(int row, int column) override {
+    const bool there = row < control_.rows();  // until the view has caught up
+    return there ? WxText(control_.text(ControlColumn(column), row + 1)) : wxString();
+  }
+  void SetValue(int row, int column, const wxString& value) override {
+    Enter(row, column, TextFromWx(value));
+  }
+  wxString GetTypeName(int, int column) override {
+    return IsTick(column) ? wxGRID_VALUE_BOOL : wxGRID_VALUE_STRING;
+  }
+  bool CanGetValueAs(int row, int column, const wxString& type) override {
+    return type == GetTypeName(row, column);
+  }
+  bool GetValueAsBool(int row, int column) override {
+    return row < control_.rows() &&
+           LeadingNumber(control_.text(ControlColumn(column), row + 1)) != 0;
+  }
+  void SetValueAsBool(int row, int column, bool value) override {
+    Enter(row, column, value ? "1" : "0");
+  }
+  wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind) override {
+    auto* attributes = new wxGridCellAttr;
+    const int control_column = ControlColumn(column);
+    const bool locked = control_.IsLocked(control_column, row + 1);
+    attributes->SetReadOnly(locked);
+    if (IsTick(column)) {
+      attributes->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
+      if (locked) {
+        attributes->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
+      }
+    }
+    if (control_.cell_type(control_column) == CellType::kDropDown) {
+      attributes->SetEditor(new wxGridCellChoiceEditor(Choices(control_column)));
+    }
+    return attributes;
+  }
+
+  // Tells the view of rows and columns that have come or gone since.
+  bool CatchUp() {
+    const int rows_before = rows_;
+    const int columns_before = GetNumberCols();
+    ChooseColumns();
+    const bool rows = TellChange(rows_ - rows_before, rows_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED,
+                                 wxGRIDTABLE_NOTIFY_ROWS_DELETED);
+    const bool columns =
+        TellChange(GetNumberCols() - columns_before, GetNumberCols(),
+                   wxGRIDTABLE_NOTIFY_COLS_APPENDED, wxGRIDTABLE_NOTIFY_COLS_DELETED);
+    return rows || columns;
+  }
+
+ private:
+  int ControlColumn(int column) const { return columns_[static_cast<std::size_t>(column)]; }
+  bool IsTick(int column) const {
+    return control_.cell_type(ControlColumn(column)) == CellType::kCheckBox;
+  }
+  wxArrayString Choices(int control_column) const {
+    wxArrayString choices;
+    for (const DropDownItem& item : control_.items(control_column)) choices.Add(WxText(item.text));
+    return choices;
+  }
+  void Enter(int row, int column, std::string text) {
+    binding_.Operate([&] { control_.Enter(ControlColumn(column), row + 1, std::move(text)); });
+  }
+  void ChooseColumns() {
+    rows_ = control_.rows();
+    columns_.clear();
+    for (int column = 0; column <= control_.columns(); ++column) {
+      if (!control_.IsHidden(column)) columns_.push_back(column);
+    }
+  }
+  bool TellChange(int more, int now, int appended, int deleted) {
+    if (more == 0 || GetView() == nullptr) return false;
+    if (more > 0) {
+      wxGridTableMessage message(this, appended, more);
+      return GetView()->ProcessTableMessage(message);
+    }
+    wxGridTableMessage message(this, deleted, now, -more);
+    return GetView()->ProcessTableMessage(message);
+  }
+
+  Binding& binding_;
+  Grid& control_;
+  std::vector<int> columns_;  // those of the control that are seen
+  int rows_ = 0;
+};
+
+// The widget and how it follows its control.
+class GridView : public wxGrid {
+ public:
+  GridView(Binding& binding, wxWindow* parent, Grid& control, GridMarks marks)
+      : wxGrid(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxWANTS_CHARS | wxBORDER_THEME),
+        binding_(binding),
+        control_(control),
+        marks_(marks),
+        table_(new ControlTable(binding, control)) {
+    SetTable(table_, true, marks == GridMarks::kRows ? wxGridSelectRows : wxGridSelectCells);
+    HideRowLabels();
+    SetColLabelSize(wxGRID_AUTOSIZE);
+    DisableDragRowSize();
+    SetTabBehaviour(Tab_Leave);
+    if (marks == GridMarks::kRows) SetCellHighlightPenWidth(0);
+    if (marks == GridMarks::kRows) SetCellHighlightROPenWidth(0);
+    Bind(wxEVT_GRID_SELECT_CELL, &GridView::OnSelect, this);
+    Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &GridView::OnDoubleClick, this);
+    Bind(wxEVT_KEY_DOWN, &GridView::OnKey, this);
+    Bind(wxEVT_SIZE, &GridView::OnSize, this);
+  }
+
+  void Follow() {
+    showing_ = true;
+    const bool resized = table_->CatchUp();
+    if (resized || !measured_) Measure();
+    ShowActiveRow();
+    ForceRefresh();
+    showing_ = false;
+  }
+
+  // The size at which so many rows and all columns are seen.
+  wxSize SizeFor(int rows_seen) const {
+    int width = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X) + FromDIP(kMargin);
+    for (int column = 0; column < GetNumberCols(); ++column) width += GetColSize(column);
+    return {width, GetColLabelSize() + rows_seen * GetDefaultRowSize() + FromDIP(kMargin)};
+  }
+
+ private:
+  void Measure() {
+    if (GetNumberRows() > kMostRowsMeasured) return;
+    measured_ = true;
+    AutoSizeColumns(false);
+    for (int column = 0; column < GetNumberCols(); ++column) {
+      SetColSize(column, GetColSize(column) + FromDIP(kMargin));
+    }
+  }
+
+  void ShowActiveRow() {
+    const int row = control_.active_row() - 1;
+    if (row < 0) return ClearSelection();
+    if (GetGridCursorRow() != row) SetGridCursor(row, std::max(GetGridCursorCol(), 0));
+    if (marks_ == GridMarks::kRows && !IsInSelection(row, 0)) SelectRow(row);
+    MakeCellVisible(row, std::max(GetGridCursorCol(), 0));
+  }
+
+  // The last column takes the room that is left.
+  void OnSize(wxSizeEvent& event) {
+    event.Skip();
+    const int last = GetNumberCols() - 1;
+    if (last < 0) return;
+    const int spare = GetClientSize().x - GetColRight(last);
+    if (spare > 0) SetColSize(last, GetColSize(last) + spare);
+  }
+
+  void OnSelect(wxGridEvent& event) {
+    event.Skip();
+    const int row = event.GetRow() + 1;
+    if (showing_ || row == control_.active_row() || row > control_.rows()) return;
+    binding_.Operate([this, row] { control_.SetActiveRow(row); });
+  }
+
+  void OnDoubleClick(wxGridEvent& event) {
+    if (!control_.on_double_click) return event.Skip();
+    binding_.Operate([this] { control_.on_double_click(); });
+  }
+
+  // The keys that the screen knows; all others move about in the grid.
+  void OnKey(wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    const char* name = key == WXK_RETURN || key == WXK_NUMPAD_ENTER ? "Enter"
+                       : key == WXK_INSERT                          ? "Insert"
+                       : key == WXK_DELETE                          ? "Delete"
+                                                                    : nullptr;
+    if (name == nullptr || IsCellEditControlShown()) return event.Skip();
+    bool taken = false;
+    if (control_.on_key) binding_.Operate([&] { taken = control_.on_key(name); });
+    if (!taken && !binding_.OperateKey(name)) event.Skip();
+  }
+
+  Binding& binding_;
+  Grid& control_;
+  GridMarks marks_;
+  ControlTable* table_;
+  bool showing_ = false;
+  bool measured_ = false;
+};
+
+}  // namespace
+
+wxGrid* MakeGrid(Binding& binding, wxWindow* parent, Grid& control, GridMarks marks,
+                 int rows_seen) {
+  auto* grid = new GridView(binding, parent, control, marks);
+  binding.Tie(control, *grid, [grid] { grid->Follow(); });
+  binding.FollowFocus(control, *grid->GetGridWindow());
+  grid->Follow();
+  grid->SetMinSize(grid->SizeFor(rows_seen));
+  return grid;
+}
+
+}  // namespace golf

@@ -1,0 +1,37 @@
+#include "desktop/grid_widget.h"
+#include "desktop/layout_helpers.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "transfers/kv_to_qb.h"
+
+namespace golf {
+
+void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen) {
+  Binding& binding = panel.binding();
+  auto* rosters = new wxBoxSizer(wxHORIZONTAL);
+  rosters->Add(RosterColumn(panel, screen.Label1[0], screen.HandicapRoster, screen.SourceButton),
+               wxSizerFlags(1).Expand());
+  rosters->Add(MakeLabel(binding, &panel, screen.Label1[2]),
+               wxSizerFlags().CentreVertical().Border(wxLEFT | wxRIGHT, GroupGap(panel)));
+  rosters->Add(RosterColumn(panel, screen.Label1[1], screen.TournamentRoster, screen.DestButton),
+               wxSizerFlags(1).Expand());
+
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(rosters, wxSizerFlags().Expand());
+  content->AddSpacer(GroupGap(panel));
+  content->Add(Column({MakeCheckBox(binding, &panel, screen.MarkedtoPrint),
+                       MakeCheckBox(binding, &panel, screen.Convert18Hcpto9Hcp),
+                       MakeCheckBox(binding, &panel, screen.Convert9Hcpto18Hcp)}));
+  content->AddSpacer(GroupGap(panel));
+  content->Add(MakeGrid(binding, &panel, screen.grid1, GridMarks::kCells, screen.grid1.rows()),
+               wxSizerFlags(1).Expand());
+  content->AddSpacer(GroupGap(panel));
+  content->Add(MakeLabel(binding, &panel, screen.Working), wxSizerFlags().Expand());
+  AddKeepingPlace(*content, *panel.MakeGauge(), CloseGap(panel));
+  content->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.TransferButton),
+                          .cancel = MakeButton(binding, &panel, screen.ExitButton)}),
+               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf

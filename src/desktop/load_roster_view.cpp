@@ -1,0 +1,51 @@
+#include "desktop/grid_widget.h"
+#include "desktop/layout_helpers.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "stores/kelvane/screens/load_roster.h"
+
+namespace golf {
+namespace {
+
+constexpr int kRowsSeen = 10;
+
+wxSizer* Folder(ScreenPanel& panel, LoadRoster& screen) {
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(MakeLabel(panel.binding(), &panel, screen.Label1),
+           wxSizerFlags().Border(wxRIGHT, CloseGap(panel)));
+  row->Add(MakeLabel(panel.binding(), &panel, screen.DataPathLabel), wxSizerFlags(1));
+  return row;
+}
+
+wxSizer* NewRoster(ScreenPanel& panel, LoadRoster& screen) {
+  Binding& binding = panel.binding();
+  wxStaticText* title = MakeLabel(binding, &panel, screen.InputTitle);
+  MakeBold(*title);
+  wxSizer* column = Column({title, MakeLabel(binding, &panel, screen.NameLabel),
+                            MakeTextBox(binding, &panel, screen.NewRosterName)});
+  column->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.OK2Button),
+                         .cancel = MakeButton(binding, &panel, screen.Cancel2Button)}),
+              wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel)));
+  return column;
+}
+
+}  // namespace
+
+void FillLoadRoster(ScreenPanel& panel, LoadRoster& screen) {
+  Binding& binding = panel.binding();
+  auto* list = new wxBoxSizer(wxHORIZONTAL);
+  list->Add(MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, kRowsSeen),
+            wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
+  list->Add(Column({MakeButton(binding, &panel, screen.LoadButton),
+                    MakeButton(binding, &panel, screen.NewButton),
+                    MakeButton(binding, &panel, screen.DeleteButton),
+                    MakeButton(binding, &panel, screen.RepairButton),
+                    MakeButton(binding, &panel, screen.CancelButton)}));
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(Folder(panel, screen), wxSizerFlags().Expand());
+  content->Add(list, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
+  content->Add(NewRoster(panel, screen), wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel)));
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf

@@ -1,0 +1,56 @@
+#include "desktop/grid_widget.h"
+#include "desktop/layout_helpers.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "stores/quenby/screens/load_rosters.h"
+
+namespace golf {
+namespace {
+
+constexpr int kRowsSeen = 10;
+constexpr int kListWidth = 560;  // in pixels of a plain screen
+
+wxSizer* ListButtons(ScreenPanel& panel, LoadRosters& screen) {
+  const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
+  return Column({button(screen.LoadButton), button(screen.NewButton), button(screen.EditButton),
+                 button(screen.DeleteButton), button(screen.RepairButton), button(screen.Help),
+                 button(screen.CancelButton)});
+}
+
+// The fields of a roster, each with its name in front.
+wxSizer* Entry(ScreenPanel& panel, LoadRosters& screen) {
+  Binding& binding = panel.binding();
+  auto* fields = new wxFlexGridSizer(2, CloseGap(panel), GroupGap(panel));
+  fields->AddGrowableCol(1);
+  for (std::size_t i = 0; i < screen.Text1.size(); ++i) {
+    fields->Add(MakeLabel(binding, &panel, screen.FieldName[i]), wxSizerFlags().CentreVertical());
+    fields->Add(MakeTextBox(binding, &panel, screen.Text1[i]), wxSizerFlags().Expand());
+  }
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(fields, wxSizerFlags().Expand());
+  column->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.AddEditRosterOK),
+                         .negative = MakeButton(binding, &panel, screen.EditRosterCancel),
+                         .cancel = MakeButton(binding, &panel, screen.AddRosterCancel)}),
+              wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel)));
+  return column;
+}
+
+}  // namespace
+
+void FillLoadRosters(ScreenPanel& panel, LoadRosters& screen) {
+  Binding& binding = panel.binding();
+  wxGrid* grid = MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, kRowsSeen);
+  grid->SetMinSize({panel.FromDIP(kListWidth), grid->GetMinSize().y});
+  auto* list = new wxBoxSizer(wxHORIZONTAL);
+  list->Add(grid, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
+  list->Add(ListButtons(panel, screen));
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(Column({MakeLabel(binding, &panel, screen.FilterLabel),
+                       MakeLabel(binding, &panel, screen.DataPathLabel)}),
+               wxSizerFlags().Expand());
+  content->Add(list, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
+  content->Add(Entry(panel, screen), wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf

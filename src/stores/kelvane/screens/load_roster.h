@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+
+#include "core/shared_state.h"
+#include "forms/screen_host.h"
+
+namespace golf {
+
+// Where the operator picks a Kelvane roster, makes a new one, or deletes one. The pick is in
+// KVRosterName of the shared state, which keeps its old value if there is none. With the tag
+// "OPENONLY" rosters can only be picked.
+class LoadRoster : public Screen {
+ public:
+  explicit LoadRoster(const ScreenContext& context);
+
+  void OnLoad() override;
+  void OnActivate() override;
+  Button* LeaveButton() override { return &CancelButton; }
+  Button* PanelLeaveButton() override;
+
+  Label Label1{"Label1", "Rosters in:"};
+  Label DataPathLabel{"DataPathLabel"};
+  Grid grid1{"grid1", 2};
+  Button LoadButton{"LoadButton", "&Load Roster"};
+  Button NewButton{"NewButton", "&New Roster"};
+  Button DeleteButton{"DeleteButton", "&Delete Roster"};
+  Button RepairButton{"RepairButton", "&Repair Roster"};  // always hidden
+  Button CancelButton{"CancelButton", "Cancel"};
+  Frame NewRosterFrame{"NewRosterFrame"};
+  Label InputTitle{"InputTitle", "Start a New Roster"};
+  Label NameLabel{"Label", "Roster Name"};
+  TextBox NewRosterName{"NewRosterName"};
+  Button OK2Button{"OK2Button", "&OK"};
+  Button Cancel2Button{"Cancel2Button", "&Cancel"};
+
+ private:
+  void FillList();
+  // Empty without a row.
+  std::string SelectedName() const;
+  void Pick();
+  void AskForNew();
+  void ShowNewRosterFrame(bool shown);
+  void MakeNew();
+  void AskToDelete();
+  void Delete(const std::string& name);
+
+  bool opens_only_ = false;
+};
+
+}  // namespace golf

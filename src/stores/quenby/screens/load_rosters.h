@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "core/shared_state.h"
+#include "forms/screen_host.h"
+
+namespace golf {
+
+// Where the operator picks a Quenby roster and keeps the list of them. The roster list of the
+// shared program object is open. The pick is its ActiveRoster, -1 for all rosters, which keeps its
+// old value if there is none. The screen hides when it is left; whoever opened it may have disabled
+// DeleteButton.
+class LoadRosters : public Screen {
+ public:
+  explicit LoadRosters(const ScreenContext& context);
+
+  void OnActivate() override;
+  Button* LeaveButton() override { return &CancelButton; }
+  Button* PanelLeaveButton() override;
+
+  Label DataPathLabel{"DataPathLabel"};
+  Label FilterLabel{"FilterLabel", "Quenby rosters"};
+  Grid grid1{"grid1", 5};
+  Frame ButtonFrame{"ButtonFrame"};
+  Button LoadButton{"LoadButton", "&Load Roster"};
+  Button NewButton{"NewButton", "&New Roster"};
+  Button EditButton{"EditButton", "&Edit Roster"};
+  Button DeleteButton{"DeleteButton", "&Delete Roster"};
+  Button RepairButton{"RepairButton", "&Repair Roster"};  // always hidden
+  Button Help{"Help", "&Help"};
+  Button CancelButton{"CancelButton", "Cancel"};
+  Frame AddEditRosterFrame{"AddEditRosterFrame"};
+  std::array<Label, 5> FieldName{Label("FieldName", "Name"), Label("FieldName", "Address"),
+                                 Label("FieldName", "Address 2"), Label("FieldName", "Address 3"),
+                                 Label("FieldName", "Phone")};
+  std::array<TextBox, 5> Text1{TextBox("Text1"), TextBox("Text1"), TextBox("Text1"),
+                               TextBox("Text1"), TextBox("Text1")};
+  Button AddEditRosterOK{"AddEditRosterOK", "&OK"};
+  Button AddRosterCancel{"AddRosterCancel", "Cancel"};
+  Button EditRosterCancel{"EditRosterCancel", "Cancel"};
+
+ private:
+  void LoadList();
+  void ShowRowButtons();
+  std::int32_t RosterInHand() const;
+  std::int32_t FreeRosterNumber();
+  void Pick();
+  void BeginNew();
+  void BeginEdit();
+  void EnterPanel(Button& cancel);
+  void LeavePanel();
+  void Store();
+  void CancelNew();
+  void CancelEdit();
+  void AskToDelete();
+  void TakeGolfersOut(std::int32_t roster);
+};
+
+}  // namespace golf
