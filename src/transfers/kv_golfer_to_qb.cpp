@@ -37,7 +37,7 @@ constexpr CopyStep kAlways[] = {
       if (HasNoIndex(from)) to.SetIndex(from.golfer.Get<"Handicap">());
     },
     [](Player&, KelvaneBuffers& from) {
-      from.golfer.Set<"HandicapText">(std::string(Trim(from.golfer.Get<"HandicapText">())));
+      from.golfer.Set<"HandicapText">(Trim(from.golfer.Get<"HandicapText">()));
     },
     [](Player& to, KelvaneBuffers& from) {
       if (HasNoHandicap(from)) to.SetIndex(0);

@@ -39,7 +39,9 @@ void OpenMaster(SharedState& state) {
 // found. An ID of 0 finds the first record without a golfer.
 class QuenbyGolfers {
  public:
-  explicit QuenbyGolfers(std::int32_t length) : places(length) {}
+  explicit QuenbyGolfers(std::int32_t length) : places(length) {
+    first_.reserve(static_cast<std::size_t>(length));
+  }
 
   void Note(std::int32_t record, std::int32_t stored_id) {
     places.Tell(record, stored_id);
@@ -230,6 +232,12 @@ void KVtoQB::CopyGolfers() {
     });
   }
 
+  // A golfer without an ID leaves his record free, even one that was not before.
+  const auto save = [&](std::int32_t record) {
+    player.SaveRecord(record, false);
+    quenby.places.Tell(record, player.StoredID());
+  };
+
   Counts counts;
   std::int32_t places = 0;
   next([&] { places = KVGolferPlaces(state()); });
@@ -246,7 +254,7 @@ void KVtoQB::CopyGolfers() {
       next([&] { player.GetRecord(found, false); });
       CopyGolferToQb(state(), choice, next);
       next([&] { player.SetRosters(3, destination); });
-      next([&] { player.SaveRecord(found, false); });
+      next([&] { save(found); });
       ++counts.updated;
     } else {
       const std::int32_t free = quenby.places.First();
@@ -254,10 +262,7 @@ void KVtoQB::CopyGolfers() {
       CopyGolferToQb(state(), choice, next);
       next([&] { player.SetRosters(3, destination); });
       ++counts.added;
-      next([&] {
-        player.SaveRecord(free, false);
-        quenby.places.Tell(free, player.StoredID());
-      });
+      next([&] { save(free); });
     }
   }
   Working.SetCaption("");

@@ -109,7 +109,7 @@ class CourseClass {
 
   // Texts come trimmed. Name is stored as given, the others trimmed; all are cut to their field.
   std::string Name() const { return Trimmed(record_.Get<"Name">()); }
-  void SetName(std::string_view value) { record_.Set<"Name">(std::string(value)); }
+  void SetName(std::string_view value) { record_.Set<"Name">(value); }
   std::string Address1() const { return Trimmed(record_.Get<"Address1">()); }
   void SetAddress1(std::string_view value) { record_.Set<"Address1">(Trimmed(value)); }
   std::string Address2() const { return Trimmed(record_.Get<"Address2">()); }

@@ -177,7 +177,7 @@ std::string RosterPlayers::Flight() {
   return player_.Get<"Flight">();
 }
 
-void RosterPlayers::SetFlight(std::string_view value) { player_.Set<"Flight">(std::string(value)); }
+void RosterPlayers::SetFlight(std::string_view value) { player_.Set<"Flight">(value); }
 
 std::int16_t RosterPlayers::GroupTee() {
   const int group = player_.Get<"GroupTee">();

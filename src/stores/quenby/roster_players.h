@@ -150,11 +150,11 @@ class RosterPlayers {
   }
   template <FieldName kName>
   void SetText(std::string_view value) {
-    player_.Set<kName>(std::string(Trim(value)));
+    player_.Set<kName>(Trim(value));
   }
   template <FieldName kName>
   void SetText(int n, std::string_view value) {
-    player_.Set<kName>({n}, std::string(Trim(value)));
+    player_.Set<kName>({n}, Trim(value));
   }
   template <FieldName kName>
   bool IsFlagged() const {

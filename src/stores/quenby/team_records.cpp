@@ -91,11 +91,11 @@ std::string TeamRecords::TeamName() {
 }
 
 void TeamRecords::SetTeamName(std::string_view value) {
-  record_.Set<"TeamName">(std::string(Trim(value)));
+  record_.Set<"TeamName">(Trim(value));
 }
 std::string TeamRecords::Sponsor() const { return std::string(Trim(record_.Get<"Sponsor">())); }
 void TeamRecords::SetSponsor(std::string_view value) {
-  record_.Set<"Sponsor">(std::string(Trim(value)));
+  record_.Set<"Sponsor">(Trim(value));
 }
 
 std::string TeamRecords::Flight(OptionalRound round) {
@@ -129,20 +129,20 @@ std::string TeamRecords::TeeStartHole(OptionalRound round) {
   return std::string(Trim(record_.Get<"TeeStartHole">(of)));
 }
 void TeamRecords::SetTeeStartHole(OptionalRound round, std::string_view value) {
-  record_.Set<"TeeStartHole">({RoundOr(round)}, std::string(value));
+  record_.Set<"TeeStartHole">({RoundOr(round)}, value);
 }
 
 std::string TeamRecords::Cart1(OptionalRound round) const {
   return std::string(Trim(record_.Get<"Cart1">(RoundOr(round))));
 }
 void TeamRecords::SetCart1(OptionalRound round, std::string_view value) {
-  record_.Set<"Cart1">({RoundOr(round)}, std::string(value));
+  record_.Set<"Cart1">({RoundOr(round)}, value);
 }
 std::string TeamRecords::Cart2(OptionalRound round) const {
   return std::string(Trim(record_.Get<"Cart2">(RoundOr(round))));
 }
 void TeamRecords::SetCart2(OptionalRound round, std::string_view value) {
-  record_.Set<"Cart2">({RoundOr(round)}, std::string(value));
+  record_.Set<"Cart2">({RoundOr(round)}, value);
 }
 
 std::int16_t TeamRecords::CourseNumberPlayed(OptionalRound round) const {

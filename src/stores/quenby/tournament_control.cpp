@@ -131,7 +131,7 @@ void TournamentControl::MakeTeams(std::int32_t tournament) {
 std::string TournamentControl::Name() const { return std::string(Trim(record_.Get<"Name">())); }
 
 void TournamentControl::SetName(std::string_view value) {
-  record_.Set<"Name">(std::string(Trim(value)));
+  record_.Set<"Name">(Trim(value));
 }
 
 void TournamentControl::SetNumTeams(double value) {
