@@ -2,8 +2,8 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
+#include "scoring/player_class.h"
 #include "stores/kelvane/kelvane_buffers.h"
-#include "stores/quenby/tournament_players.h"
 
 namespace golf {
 namespace {

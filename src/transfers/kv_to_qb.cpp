@@ -5,6 +5,8 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
+#include "scoring/player_class.h"
+#include "scoring/tournament_class.h"
 #include "shell/remembered_settings.h"
 #include "shell/tip_box.h"
 #include "stores/course/course_class.h"
@@ -13,7 +15,6 @@
 #include "stores/quenby/free_golfer_places.h"
 #include "stores/quenby/program_class.h"
 #include "stores/quenby/screens/load_rosters.h"
-#include "stores/quenby/tournament_players.h"
 #include "transfers/transfer_run.h"
 
 namespace golf {

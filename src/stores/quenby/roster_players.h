@@ -178,7 +178,8 @@ class RosterPlayers {
 std::string PreferredTimeName(int number);
 std::int16_t PreferredTimeNumber(std::string_view name);
 
-// An amount times 10000 in the format "0.00".
+// An amount times 10000 in whole cents, half away from zero, and in the format "0.00".
+std::int64_t CurrencyInCents(std::int64_t value);
 std::string FormatCurrency(std::int64_t value);
 
 }  // namespace golf

@@ -17,7 +17,9 @@ constexpr float kNewTeeTime = std::bit_cast<float>(std::uint32_t{0x3F355555});  
 
 }  // namespace
 
-int TeamRecords::RoundOr(OptionalRound round) const { return state_.Tournament().RoundOr(round); }
+int TeamRecords::RoundOr(OptionalRound round) const {
+  return state_.TournamentRecord().RoundOr(round);
+}
 
 void TeamRecords::OpenTeamFile(std::int32_t tournament) {
   state_.files.Close(file_);
@@ -66,9 +68,9 @@ void TeamRecords::BlankTeamRecord() {
 
 std::string TeamRecords::LastNamesOfPlayers() {
   // Nobody plays for a team that the tournament does not count.
-  if (number_ < 1 || number_ > std::stoi(state_.Tournament().NumTeams())) return {};
+  if (number_ < 1 || number_ > std::stoi(state_.TournamentRecord().NumTeams())) return {};
   if (RoundOr({}) < 1 || RoundOr({}) > kRounds) return {};
-  TournamentPlayers& player = state_.Player();
+  TournamentPlayers& player = state_.PlayerRecords();
   std::string names;
   const std::int32_t count = player.TourIndexNumberofPlayersInIndex();
   const std::int32_t first = player.TourIndex1stPlayerOnTeam(number_);
@@ -82,7 +84,7 @@ std::string TeamRecords::LastNamesOfPlayers() {
 
 std::string TeamRecords::TeamName() {
   std::string names;
-  if (EqualIgnoringCase(state_.Tournament().TeamNamesMat(), kNamedByPlayers)) {
+  if (EqualIgnoringCase(state_.TournamentRecord().TeamNamesMat(), kNamedByPlayers)) {
     names = LastNamesOfPlayers();
   }
   return names.empty() ? std::string(Trim(record_.Get<"TeamName">())) : names;

@@ -262,7 +262,7 @@ void TournamentControl::SetTeamFlightRange(int i, double value) {
 }
 
 std::int32_t TournamentControl::NumPlayersInTournament() {
-  return state_.Player().TourNumberofPlayersInTournament();
+  return state_.PlayerRecords().TourNumberofPlayersInTournament();
 }
 
 }  // namespace golf

@@ -74,7 +74,7 @@ void TournamentPlayers::SetTourScoreTransferredtoKV(int round, bool value) {
 std::string TournamentPlayers::TourFlight(OptionalRound round) {
   const int of = RoundOr(round);
   const int flight = static_cast<unsigned char>(entry_.Get<"TourFlight">(of)[0]);
-  const int last = 64 + std::stoi(state().Tournament().NumFlights());
+  const int last = 64 + std::stoi(state().TournamentRecord().NumFlights());
   if (flight < 'A' || flight > last) entry_.Set<"TourFlight">({of}, "A");
   return entry_.Get<"TourFlight">(of);
 }
@@ -84,7 +84,7 @@ void TournamentPlayers::SetTourFlight(OptionalRound round, std::string_view valu
 
 std::int16_t TournamentPlayers::TourGroupTee(OptionalRound round) {
   const int of = RoundOr(round);
-  TournamentControl& tournament = state().Tournament();
+  TournamentControl& tournament = state().TournamentRecord();
   const int groups =
       std::stoi(sex() == "F" ? tournament.NumTeesLadiesPlay() : tournament.NumTeesMenPlay());
   const int group = entry_.Get<"TourGroupTee">(of);

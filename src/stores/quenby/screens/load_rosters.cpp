@@ -6,8 +6,8 @@
 #include "core/resume_next.h"
 #include "core/text.h"
 #include "scoring/grid_sort.h"
+#include "scoring/player_class.h"
 #include "stores/quenby/program_class.h"
-#include "stores/quenby/tournament_players.h"
 
 namespace golf {
 namespace {
