@@ -6,6 +6,7 @@
 #include "scoring/player_class.h"
 #include "scoring/screens/grid_sort_screen.h"
 #include "scoring/stroke_control.h"
+#include "scoring/team_class.h"
 #include "scoring/tournament_class.h"
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
@@ -14,7 +15,6 @@
 #include "stores/kelvane/screens/load_roster.h"
 #include "stores/quenby/program_class.h"
 #include "stores/quenby/screens/load_rosters.h"
-#include "stores/quenby/team_records.h"
 #include "stores/zandel/zandel_buffers.h"
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
@@ -29,8 +29,8 @@ void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   objects.Program = std::make_shared<ProgramClass>(state);
   objects.TournamentRecord = objects.Tournament = std::make_shared<TournamentClass>(state);
   objects.PlayerRecords = objects.Player = std::make_shared<PlayerClass>(state);
-  objects.Team1 = std::make_shared<TeamRecords>(state);
-  objects.Team2 = std::make_shared<TeamRecords>(state);
+  objects.Team1Records = objects.Team1 = std::make_shared<TeamClass>(state);
+  objects.Team2 = std::make_shared<TeamClass>(state);
   objects.ESC = std::make_shared<ESCClass>();
   if (!objects.Kelvane) objects.Kelvane = std::make_shared<KelvaneBuffers>();
   if (!objects.Zandel) objects.Zandel = std::make_shared<ZandelBuffers>();

@@ -16,6 +16,7 @@ class ESCClass;
 class PlayerClass;
 class ProgramClass;
 class SharedState;
+class TeamClass;
 class TeamRecords;
 class TournamentClass;
 class TournamentControl;
@@ -31,13 +32,14 @@ struct StoreObjects {
   std::shared_ptr<ProgramClass> Program;
   std::shared_ptr<TournamentClass> Tournament;
   std::shared_ptr<PlayerClass> Player;
-  std::shared_ptr<TeamRecords> Team1;
-  std::shared_ptr<TeamRecords> Team2;
+  std::shared_ptr<TeamClass> Team1;
+  std::shared_ptr<TeamClass> Team2;
   std::shared_ptr<ESCClass> ESC;
-  // The storeys of the tournament and the player that hold their records: the same objects, for
-  // the rooms below their calculation.
+  // The storeys of the tournament, the player and the first team that hold their records: the same
+  // objects, for the rooms below their calculation.
   std::shared_ptr<TournamentControl> TournamentRecord;
   std::shared_ptr<TournamentPlayers> PlayerRecords;
+  std::shared_ptr<TeamRecords> Team1Records;
   // Record buffers, which are made once and stay.
   std::shared_ptr<KelvaneBuffers> Kelvane;
   std::shared_ptr<ZandelBuffers> Zandel;
@@ -82,14 +84,15 @@ class SharedState {
   ProgramClass& Program() { return *objects_.Program; }
   TournamentClass& Tournament() { return *objects_.Tournament; }
   PlayerClass& Player() { return *objects_.Player; }
-  TeamRecords& Team1() { return *objects_.Team1; }
-  TeamRecords& Team2() { return *objects_.Team2; }
+  TeamClass& Team1() { return *objects_.Team1; }
+  TeamClass& Team2() { return *objects_.Team2; }
   ESCClass& ESC() { return *objects_.ESC; }
 
-  // The tournament and the player once more, as the rooms know them that are below their
-  // calculation.
+  // The tournament, the player and the first team once more, as the rooms know them that are below
+  // their calculation.
   TournamentControl& TournamentRecord() { return *objects_.TournamentRecord; }
   TournamentPlayers& PlayerRecords() { return *objects_.PlayerRecords; }
+  TeamRecords& Team1Records() { return *objects_.Team1Records; }
 
   KelvaneBuffers& Kelvane() { return *objects_.Kelvane; }
   ZandelBuffers& Zandel() { return *objects_.Zandel; }

@@ -1,9 +1,9 @@
 #include "scoring/open_tournament.h"
 
 #include "scoring/player_class.h"
+#include "scoring/team_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/course/course_class.h"
-#include "stores/quenby/team_records.h"
 
 namespace golf {
 

@@ -1,8 +1,8 @@
 // The course, the tee and the team that a golfer plays in a round.
 
 #include "scoring/player_class.h"
+#include "scoring/team_class.h"
 #include "stores/course/course_class.h"
-#include "stores/quenby/team_records.h"
 
 namespace golf {
 

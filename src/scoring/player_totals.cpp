@@ -1,29 +1,12 @@
 // Sums over the rounds of a tournament.
 
-#include <limits>
 #include <string>
 
 #include "core/number_text.h"
-#include "core/numbered_error.h"
+#include "scoring/checked_sums.h"
 #include "scoring/player_class.h"
 
 namespace golf {
-namespace {
-
-float AddSingle(float sum, double value) { return CheckedSingle(sum + value); }
-
-// Earnings count as they are shown, in whole cents.
-std::int64_t AddEarnings(std::int64_t sum, std::int64_t amount) {
-  constexpr std::int64_t kCent = 100;
-  constexpr std::int64_t kMostCents = std::numeric_limits<std::int64_t>::max() / kCent;
-  const std::int64_t cents = sum / kCent + CurrencyInCents(amount);
-  if (cents > kMostCents || cents < -kMostCents) {
-    throw NumberedError(ErrorNumber::kOverflow, "The earnings are too large for their place.");
-  }
-  return cents * kCent;
-}
-
-}  // namespace
 
 const PlayerClass::Totals& PlayerClass::AccumulateTotals(OptionalRound from, OptionalRound to) {
   totals_ = {};

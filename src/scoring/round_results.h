@@ -17,6 +17,20 @@ inline constexpr int kFirstNine = 19;
 inline constexpr int kSecondNine = 20;
 inline constexpr int kWholeRound = 21;
 
+// The holes that an entry of what stands by hole covers.
+struct HoleRange {
+  int first;
+  int last;
+};
+constexpr HoleRange HolesOf(int entry) {
+  return {.first = entry == kSecondNine                          ? 10
+                   : entry == kFirstNine || entry == kWholeRound ? 1
+                                                                 : entry,
+          .last = entry == kFirstNine                            ? 9
+                  : entry == kSecondNine || entry == kWholeRound ? 18
+                                                                 : entry};
+}
+
 constexpr int NineOf(int hole) { return hole > 9 ? kSecondNine : kFirstNine; }
 
 template <class T>

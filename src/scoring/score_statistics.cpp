@@ -3,17 +3,6 @@
 #include "core/number_text.h"
 
 namespace golf {
-namespace {
-
-struct SumRow {
-  int row;
-  int first;
-  int last;
-};
-
-constexpr SumRow kSumRows[] = {{kFirstNine, 1, 9}, {kSecondNine, 10, 18}, {kWholeRound, 1, 18}};
-
-}  // namespace
 
 ByHole<std::int32_t> ScoreStatistics::Filled(std::int32_t value) {
   ByHole<std::int32_t> rows;
@@ -33,7 +22,8 @@ void ScoreStatistics::Finish(const ByHole<std::int32_t>& played) {
     if (players > 0) averages_[row] = static_cast<double>(totals_[row]) / players;
   };
   for (int hole = 1; hole < kFirstNine; ++hole) average(hole, played[hole]);
-  for (const auto [row, first, last] : kSumRows) {
+  for (int row = kFirstNine; row <= kWholeRound; ++row) {
+    const auto [first, last] = HolesOf(row);
     AddRow(row, first, last);
     average(row, played[first]);
   }

@@ -10,11 +10,11 @@
 
 #include "app/application.h"
 #include "scoring/player_class.h"
+#include "scoring/team_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/kelvane/kelvane_buffers.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "stores/quenby/program_class.h"
-#include "stores/quenby/team_records.h"
 #include "support/memory_platform.h"
 
 namespace golf {

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "scoring/player_class.h"
+#include "scoring/team_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/quenby/program_class.h"
-#include "stores/quenby/team_records.h"
 #include "support/bytes.h"
 #include "support/error_of.h"
 #include "support/test_host.h"

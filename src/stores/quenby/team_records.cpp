@@ -40,13 +40,13 @@ bool TeamRecords::GetRecord(std::int32_t team) {
   if (team <= 0 || team >= kMostTeams) return false;
   state_.files.Read(file_, team, record_);
   number_ = static_cast<std::int16_t>(team);
-  recalculate_.fill(true);
+  SetToRecalculate();
   return true;
 }
 
 void TeamRecords::SaveRecord() {
   state_.files.Write(file_, number_, record_);
-  recalculate_.fill(true);
+  SetToRecalculate();
 }
 
 void TeamRecords::SaveRecord(std::int32_t team) {
@@ -66,19 +66,31 @@ void TeamRecords::BlankTeamRecord() {
   }
 }
 
-std::string TeamRecords::LastNamesOfPlayers() {
-  // Nobody plays for a team that the tournament does not count.
-  if (number_ < 1 || number_ > std::stoi(state_.TournamentRecord().NumTeams())) return {};
-  if (RoundOr({}) < 1 || RoundOr({}) > kRounds) return {};
+void TeamRecords::SetToRecalculate() {
+  recalculate_.fill(true);
+  recalculate_holes_.fill(true);
+}
+
+void TeamRecords::ForEachGolfer(int round, const std::function<bool(std::int32_t record)>& action) {
+  if (number_ < 1 || number_ > std::stoi(state_.TournamentRecord().NumTeams())) return;
+  if (round < 1 || round > kRounds) return;
   TournamentPlayers& player = state_.PlayerRecords();
-  std::string names;
   const std::int32_t count = player.TourIndexNumberofPlayersInIndex();
-  const std::int32_t first = player.TourIndex1stPlayerOnTeam(number_);
+  const std::int32_t first = player.TourIndex1stPlayerOnTeam(number_, round);
   for (std::int32_t place = first; place >= 1 && place <= count; ++place) {
-    player.GetRecord(player.TourIndexPlayerbyTeam(place), true);
-    if (player.TourTeamOn() != number_) break;
-    names += (place == first ? "" : ", ") + player.NameLast();
+    const std::int32_t record = player.TourIndexPlayerbyTeam(place, round);
+    player.GetRecord(record, true);
+    if (player.TourTeamOn(round) != number_ || !action(record)) return;
   }
+}
+
+std::string TeamRecords::LastNamesOfPlayers() {
+  std::string names;
+  bool first = true;
+  ForEachGolfer(RoundOr({}), [&](std::int32_t) {
+    names += (std::exchange(first, false) ? "" : ", ") + state_.PlayerRecords().NameLast();
+    return true;
+  });
   return names;
 }
 
@@ -90,13 +102,9 @@ std::string TeamRecords::TeamName() {
   return names.empty() ? std::string(Trim(record_.Get<"TeamName">())) : names;
 }
 
-void TeamRecords::SetTeamName(std::string_view value) {
-  record_.Set<"TeamName">(Trim(value));
-}
+void TeamRecords::SetTeamName(std::string_view value) { record_.Set<"TeamName">(Trim(value)); }
 std::string TeamRecords::Sponsor() const { return std::string(Trim(record_.Get<"Sponsor">())); }
-void TeamRecords::SetSponsor(std::string_view value) {
-  record_.Set<"Sponsor">(Trim(value));
-}
+void TeamRecords::SetSponsor(std::string_view value) { record_.Set<"Sponsor">(Trim(value)); }
 
 std::string TeamRecords::Flight(OptionalRound round) {
   const int of = RoundOr(round);

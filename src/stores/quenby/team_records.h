@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -58,10 +59,17 @@ class TeamRecords {
   SharedState& state() const { return state_; }
   int RoundOr(OptionalRound round) const;
 
+  // Reads the team's golfers in a round into the player buffers, in team order, and calls `action`
+  // with the record number of each entry until it answers false. A team that the tournament does
+  // not count has nobody.
+  void ForEachGolfer(int round, const std::function<bool(std::int32_t record)>& action);
+
   // Set for all rounds when the buffer may hold something new.
   std::array<bool, kRounds> recalculate_{};
+  std::array<bool, kRounds> recalculate_holes_{};
 
  private:
+  void SetToRecalculate();
   std::string LastNamesOfPlayers();
 
   SharedState& state_;

@@ -117,7 +117,7 @@ void TournamentControl::CreateBlankTournament(std::int32_t tournament) {
 }
 
 void TournamentControl::MakeTeams(std::int32_t tournament) {
-  TeamRecords& team = state_.Team1();
+  TeamRecords& team = state_.Team1Records();
   team.OpenTeamFile(tournament);
   const std::string pattern = TeamNamesMat();
   const char* number_form = pattern.ends_with('#') ? "0" : " 0";

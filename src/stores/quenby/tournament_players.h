@@ -102,6 +102,9 @@ class TournamentPlayers : public RosterPlayers {
   // Holes 1 to 18, and 21 for a total; any other hole stores nothing.
   void SetTourScoreGross(int hole, OptionalRound round, double value);
 
+  // The entry as it stands, for whoever calculates with its numbers; nothing is mended.
+  const Record<TournamentPlayerLayout>& StoredEntry() const { return entry_; }
+
  protected:
   int RoundOr(OptionalRound round) const;
 

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "scoring/round_results.h"
+
+namespace golf {
+
+// Golfers of a team whose balls can count.
+inline constexpr int kMostGolfersWithBalls = 10;
+
+// What is worked out of one round of one team. Singles are kept as singles, as for a golfer.
+struct TeamRound {
+  // The nines and the total of one of the first ten golfers, by entry 19 to 21; no net where
+  // nothing was played.
+  struct Totals {
+    Indexed<std::int32_t, kFirstNine, kWholeRound> gross;
+    Indexed<double, kFirstNine, kWholeRound> net;
+  };
+
+  float handicap = 0;
+  float quota = 0;
+  Indexed<float, 1, 3> quota_results;  // first nine, second nine, round
+  ByHole<std::int32_t> gross;
+  ByHole<std::int32_t> net;
+  Indexed<float, kFirstNine, kWholeRound> decimal_net;
+  ByDifference<std::int32_t> gross_statistics;
+  ByDifference<std::int32_t> net_statistics;
+  ByHole<std::int32_t> gross_points;
+  ByHole<std::int32_t> net_points;
+  std::int32_t golfers = 0;
+  std::int32_t first_scorer = 0;  // the record of the first golfer with a score; 0 for none
+  std::int32_t putts = 0;
+  std::int32_t greens = 0;
+  std::int32_t fairways = 0;
+  std::int64_t earnings = 0;         // the amount times 10000
+  std::array<std::string, 9> names;  // all last names, then the first eight golfers
+  std::vector<Totals> totals;
+  std::optional<ByHole<std::int32_t>> scramble_net;  // worked out when it is asked for
+};
+
+// The balls of a team's first ten golfers, by golfer and hole. What the golfer's own round says is
+// kept apart from the tables: these end with the first golfer who was on another team that round.
+struct HoleTables {
+  template <class T>
+  using ByGolfer = Indexed<Indexed<T, 1, 18>, 1, kMostGolfersWithBalls>;
+
+  int golfers = 0;
+  ByGolfer<std::int32_t> golfer_gross;
+  ByGolfer<std::int32_t> gross;
+  ByGolfer<std::int32_t> net;
+  ByGolfer<std::int32_t> gross_points;
+  ByGolfer<std::int32_t> net_points;
+};
+
+}  // namespace golf
