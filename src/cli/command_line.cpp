@@ -130,7 +130,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   CLI::App* results = AddCommand(app, "results", "Show what scoring works out",
                                  "--install golf-demo results players --tournament 1", chosen,
                                  [&] { return RunResults(options, args.results); });
-  results->add_option("WHAT", args.results.what, "Whose results: players")
+  results->add_option("WHAT", args.results.what, "Whose results: players or teams")
       ->required()
       ->check(CLI::IsMember(ResultsNames()));
   results->add_option("--tournament", args.results.tournament, "The tournament's number")

@@ -43,12 +43,10 @@ std::string TextOf(const Field& field, const FieldValue& value) {
 
 Json JsonOf(const Field& field, const FieldValue& value) {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return *whole;
-  const std::string text = TextOf(field, value);
-  if (std::holds_alternative<std::string>(value)) return text;
-  // A single goes out as the shortest number that names it among singles.
-  double number = 0;
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return text.empty() ? Json(nullptr) : Json(number);
+  if (const auto* single = std::get_if<float>(&value)) return JsonSingle(*single);
+  if (std::holds_alternative<std::string>(value)) return TextOf(field, value);
+  const double number = std::get<double>(value);
+  return std::isfinite(number) ? Json(number) : Json(nullptr);
 }
 
 // Calls `visit(indexes)` for each element, the last index fastest.

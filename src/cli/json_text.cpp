@@ -1,5 +1,8 @@
 #include "cli/json_text.h"
 
+#include <array>
+#include <charconv>
+#include <cmath>
 #include <iostream>
 
 namespace golf {
@@ -51,6 +54,15 @@ void AddKindKeys(Json& event, const Control& control) {
 }
 
 }  // namespace
+
+Json JsonSingle(float value) {
+  if (!std::isfinite(value)) return nullptr;
+  std::array<char, 64> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), value);
+  double number = 0;
+  std::from_chars(text.data(), end.ptr, number);
+  return number;
+}
 
 void WriteJsonLine(const Json& object) {
   std::cout << object.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;

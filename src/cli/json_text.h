@@ -16,6 +16,9 @@ using Json = nlohmann::ordered_json;
 // A text of the system as JSON.
 inline Json JsonText(std::string_view text) { return Utf8FromText(text); }
 
+// A single as the shortest number that names it among singles; null for one that is none.
+Json JsonSingle(float value);
+
 // Writes one object as a line of standard output, at once.
 void WriteJsonLine(const Json& object);
 

@@ -62,11 +62,4 @@ void WriteTable(const std::vector<std::string>& headings,
   for (const auto& row : rows) WriteRow(row, widths);
 }
 
-std::string CsvValue(std::string_view utf8) {
-  if (utf8.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(utf8);
-  std::string quoted = "\"";
-  for (const char c : utf8) quoted.append(c == '"' ? 2 : 1, c);
-  return quoted + '"';
-}
-
 }  // namespace golf

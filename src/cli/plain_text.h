@@ -16,7 +16,4 @@ std::string PlainCell(std::string_view text);
 void WriteTable(const std::vector<std::string>& headings,
                 const std::vector<std::vector<std::string>>& rows);
 
-// A value of a line of CSV, in quotes where it needs them.
-std::string CsvValue(std::string_view utf8);
-
 }  // namespace golf

@@ -1,11 +1,14 @@
 #include "cli/results_command.h"
 
 #include <algorithm>
+#include <iostream>
 #include <iterator>
 #include <string_view>
+#include <utility>
 
-#include "cli/commands.h"
+#include "cli/plain_text.h"
 #include "cli/problems.h"
+#include "core/text.h"
 #include "scoring/open_tournament.h"
 #include "scoring/tournament_class.h"
 
@@ -14,10 +17,10 @@ namespace {
 
 struct ResultsKind {
   std::string_view what;
-  void (*show)(SharedState&, ResultsForm, std::vector<NumberedError>&);
+  void (*show)(ResultsRun&);
 };
 
-constexpr ResultsKind kKinds[] = {{"players", ShowPlayers}};
+constexpr ResultsKind kKinds[] = {{"players", ShowPlayers}, {"teams", ShowTeams}};
 
 void OpenForReading(SharedState& state, std::int32_t tournament) {
   state.files.gate().RefuseChanges();
@@ -39,6 +42,42 @@ void MakeActive(TournamentClass& tournament, int round) {
 
 }  // namespace
 
+void Place(std::vector<ResultsRow>& rows) {
+  std::stable_sort(rows.begin(), rows.end(), [](const ResultsRow& a, const ResultsRow& b) {
+    return a.score && (!b.score || *a.score < *b.score);
+  });
+  std::size_t place = 0;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (i == 0 || rows[i].score != rows[i - 1].score) place = i + 1;
+    rows[i].cells.push_back(rows[i].score ? std::to_string(place) : "");
+  }
+}
+
+void WriteRows(ResultsForm form, const std::vector<std::string>& headings,
+               std::vector<ResultsRow> rows) {
+  std::vector<std::vector<std::string>> lines;
+  for (ResultsRow& row : rows) lines.push_back(std::move(row.cells));
+  if (form == ResultsForm::kTable) return WriteTable(headings, lines);
+  lines.insert(lines.begin(), headings);
+  for (const auto& line : lines) {
+    for (std::size_t i = 0; i < line.size(); ++i) {
+      std::cout << (i > 0 ? "," : "") << CsvValue(line[i]);
+    }
+    std::cout << '\n';
+  }
+}
+
+void ResultsRun::Try(const std::function<void()>& show, const std::function<std::string()>& what,
+                     const std::function<void(const NumberedError&)>& failed) {
+  try {
+    show();
+  } catch (const NumberedError& error) {
+    TellProblem(what() + ": " + error.Report());
+    faults.push_back(error);
+    failed(error);
+  }
+}
+
 std::vector<std::string> ResultsNames() {
   std::vector<std::string> names;
   for (const ResultsKind& kind : kKinds) names.emplace_back(kind.what);
@@ -53,13 +92,13 @@ ExitCode RunResults(const Options& options, const ResultsRequest& request) {
   SharedState& state = application->state();
   OpenForReading(state, request.tournament);
   if (request.round) MakeActive(state.Tournament(), *request.round);
-  std::vector<NumberedError> faults;
   const ResultsForm form = request.csv    ? ResultsForm::kCsv
                            : options.json ? ResultsForm::kJson
                                           : ResultsForm::kTable;
-  kind->show(state, form, faults);
-  TellFaultCount(faults.size());
-  return faults.empty() ? ExitCode::kDone : ExitCodeOfFaults(faults);
+  ResultsRun run{state, request, form, {}};
+  kind->show(run);
+  TellFaultCount(run.faults.size());
+  return run.faults.empty() ? ExitCode::kDone : ExitCodeOfFaults(run.faults);
 }
 
 }  // namespace golf

@@ -1,5 +1,4 @@
-#include <variant>
-
+#include "cli/results_json.h"
 #include "cli/results_players.h"
 
 namespace golf {
@@ -7,12 +6,6 @@ namespace {
 
 using TextMember = std::string (PlayerClass::*)(OptionalRound);
 using TotalMember = std::string (PlayerClass::*)(OptionalRound, OptionalRound);
-
-template <class Member>
-struct Named {
-  const char* name;
-  Member member;
-};
 
 constexpr Named<TextMember> kTexts[] = {
     {"TourHandicap", &PlayerClass::TourHandicap},
@@ -47,20 +40,6 @@ constexpr Named<TotalMember> kTotals[] = {
     {"TourTotalGreens", &PlayerClass::TourTotalGreens},
     {"TourTotalEarnings", &PlayerClass::TourTotalEarnings},
 };
-
-Json AsJson(const std::string& text) { return JsonText(text); }
-Json AsJson(std::int32_t number) { return number; }
-Json AsJson(const TextOrNumber& value) {
-  return std::visit([](const auto& held) { return AsJson(held); }, value);
-}
-
-// The values of the indexes 1 to `last`.
-template <class ValueOf>
-Json Array(int last, ValueOf value_of) {
-  Json array = Json::array();
-  for (int i = 1; i <= last; ++i) array.push_back(AsJson(value_of(i)));
-  return array;
-}
 
 template <class ValueOf>
 Json ByDifferences(ValueOf value_of) {

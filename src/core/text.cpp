@@ -119,4 +119,11 @@ std::string ReplaceText(std::string_view text, std::string_view find, std::strin
   return result;
 }
 
+std::string CsvValue(std::string_view text) {
+  if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
+  std::string quoted = "\"";
+  for (const char c : text) quoted.append(c == '"' ? 2 : 1, c);
+  return quoted + '"';
+}
+
 }  // namespace golf

@@ -30,6 +30,9 @@ std::string FitText(std::string_view text, std::size_t width);
 // The last `count` characters, all of a shorter text.
 std::string_view LastCharacters(std::string_view text, std::size_t count);
 
+// A value of a line of CSV, in quotes where it needs them. UTF-8 is taken as well.
+std::string CsvValue(std::string_view text);
+
 enum class ReplaceMode : int { kDigitsToMarks = 1, kIgnoringCase = 2, kExact = 3 };
 
 // kDigitsToMarks turns every digit into "#" and looks at neither `find` nor `replace`. The others
