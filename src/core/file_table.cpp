@@ -102,6 +102,16 @@ bool FileTable::FileExists(const std::string& path) {
   }
 }
 
+std::string FileTable::ReadText(const std::string& path) {
+  constexpr std::int64_t kMostBytes = 1 << 20;  // more is no text that this program knows
+  const int number = FreeNumber();
+  Open(number, path, kMostBytes, FileAccess::kReadOnly);
+  std::string text(static_cast<std::size_t>(std::min(Length(number), kMostBytes)), '\0');
+  ReadBytes(number, 1, text);
+  Close(number);
+  return text;
+}
+
 void FileTable::DeleteFile(const std::string& path) {
   gate_.Settle();  // a fault of other writes is not this deletion's
   try {

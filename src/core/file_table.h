@@ -65,6 +65,8 @@ class FileTable {
   // The normal files of a folder that a pattern of such characters finds, sorted by their names in
   // capitals.
   std::vector<std::string> FilesLike(const std::string& folder, std::string_view pattern);
+  // The whole of a text file; of a longer one the first megabyte.
+  std::string ReadText(const std::string& path);
   // A failure is swallowed, but not one of writes that were still to be made.
   void DeleteFile(const std::string& path);
 

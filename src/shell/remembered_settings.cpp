@@ -13,8 +13,7 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr int kGridColumn = 2;
-constexpr int kFirstGridRow = 2;              // row 1 is not the operator's choice
-constexpr std::int64_t kMostBytes = 1 << 20;  // more is no settings file
+constexpr int kFirstGridRow = 2;  // row 1 is not the operator's choice
 
 std::string PathOf(const SharedState& state, const Screen& screen) {
   return state.StoreDataPath + screen.name() + ".DAT";
@@ -112,15 +111,6 @@ void Read(Control& control, SettingsReader& from) {
   }
 }
 
-std::string ReadWhole(FileTable& files, const std::string& path) {
-  const int number = files.FreeNumber();
-  files.Open(number, path, kMostBytes, FileAccess::kReadOnly);
-  std::string text(static_cast<std::size_t>(std::min(files.Length(number), kMostBytes)), '\0');
-  files.ReadBytes(number, 1, text);
-  files.Close(number);
-  return text;
-}
-
 }  // namespace
 
 void WriteSettings(SharedState& state, const Screen& screen, std::span<Control* const> controls) {
@@ -134,7 +124,7 @@ void ReadSettings(SharedState& state, const Screen& screen, std::span<Control* c
   if (!state.remembers_settings) return;
   std::string text;
   const ResumeNext silently(nullptr);
-  silently([&] { text = ReadWhole(state.files, PathOf(state, screen)); });
+  silently([&] { text = state.files.ReadText(PathOf(state, screen)); });
   SettingsReader reader(std::move(text));
   for (Control* control : controls) {
     silently([&] { Read(*control, reader); });
