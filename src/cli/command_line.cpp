@@ -130,7 +130,9 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   CLI::App* results = AddCommand(app, "results", "Show what scoring works out",
                                  "--install golf-demo results players --tournament 1", chosen,
                                  [&] { return RunResults(options, args.results); });
-  results->add_option("WHAT", args.results.what, "Whose results: players or teams")
+  results
+      ->add_option("WHAT", args.results.what,
+                   "Whose results: players or teams, or custom for teams under a layout")
       ->required()
       ->check(CLI::IsMember(ResultsNames()));
   results->add_option("--tournament", args.results.tournament, "The tournament's number")
@@ -138,6 +140,13 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
       ->required();
   results->add_option("--round", args.results.round, "The round; the active one if left out")
       ->type_name("R");
+  results->parse_complete_callback([&args] {
+    if (args.results.what == "custom" && args.results.layout.empty()) {
+      throw CLI::RequiredError("--layout");
+    }
+  });
+  results->add_option("--layout", args.results.layout, "The layout of custom results")
+      ->type_name("NAME");
   results->add_flag("--csv", args.results.csv, "A line an entry, with a heading");
 
   AddCommand(app, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",

@@ -41,6 +41,7 @@ struct ResultsRequest {
   std::string what;  // one of ResultsNames
   std::int32_t tournament = 0;
   std::optional<int> round;  // the active round if left out
+  std::string layout;        // of a custom report: its name, UTF-8
   bool csv = false;
 };
 std::vector<std::string> ResultsNames();

@@ -20,7 +20,8 @@ struct ResultsKind {
   void (*show)(ResultsRun&);
 };
 
-constexpr ResultsKind kKinds[] = {{"players", ShowPlayers}, {"teams", ShowTeams}};
+constexpr ResultsKind kKinds[] = {
+    {"players", ShowPlayers}, {"teams", ShowTeams}, {"custom", ShowCustom}};
 
 void OpenForReading(SharedState& state, std::int32_t tournament) {
   state.files.gate().RefuseChanges();
@@ -42,10 +43,14 @@ void MakeActive(TournamentClass& tournament, int round) {
 
 }  // namespace
 
-void Place(std::vector<ResultsRow>& rows) {
+void SortByScore(std::vector<ResultsRow>& rows) {
   std::stable_sort(rows.begin(), rows.end(), [](const ResultsRow& a, const ResultsRow& b) {
     return a.score && (!b.score || *a.score < *b.score);
   });
+}
+
+void Place(std::vector<ResultsRow>& rows) {
+  SortByScore(rows);
   std::size_t place = 0;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     if (i == 0 || rows[i].score != rows[i - 1].score) place = i + 1;

@@ -19,8 +19,9 @@ struct ResultsRow {
   std::optional<double> score;
 };
 
-// The lowest score first, those without one last; equal scores share a place, which becomes the
-// last cell.
+// The lowest score first, those without one last.
+void SortByScore(std::vector<ResultsRow>& rows);
+// The same, and adds the place as the last cell; equal scores share one.
 void Place(std::vector<ResultsRow>& rows);
 // As a table or as CSV.
 void WriteRows(ResultsForm form, const std::vector<std::string>& headings,
@@ -42,5 +43,6 @@ struct ResultsRun {
 // Each writes one kind of results of the tournament that is open, for its active round.
 void ShowPlayers(ResultsRun& run);
 void ShowTeams(ResultsRun& run);
+void ShowCustom(ResultsRun& run);
 
 }  // namespace golf

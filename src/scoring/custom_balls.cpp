@@ -164,7 +164,11 @@ TeamBalls::Sum TeamBalls::Points(int column) const {
 }
 
 void CustomBalls::XBallInitializeTeamGrid(int teams) {
-  teams_.assign(static_cast<std::size_t>(teams), {});
+  SetTables(std::vector<TeamBalls>(static_cast<std::size_t>(teams)));
+}
+
+void CustomBalls::SetTables(std::vector<TeamBalls> teams) {
+  teams_ = std::move(teams);
   positions_.assign(teams_.size(), {});
 }
 

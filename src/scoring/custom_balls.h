@@ -34,6 +34,8 @@ class CustomBalls {
 
   // Empty tables.
   void XBallInitializeTeamGrid(int teams);
+  // A table for each team.
+  void SetTables(std::vector<TeamBalls> teams);
   int teams() const { return static_cast<int>(teams_.size()); }
   TeamBalls& Team(int team);
   const TeamBalls& Team(int team) const;

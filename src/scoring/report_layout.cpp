@@ -115,8 +115,7 @@ class LayoutReader {
 
   LayoutReader& Fail(std::string_view expected) {
     problem_ = name_ + " is no report layout that this program can read: line " +
-               std::to_string(line_number_) + " does not have " + std::string(expected) +
-               " where there should be one.";
+               std::to_string(line_number_) + " lacks " + std::string(expected) + ".";
     return *this;
   }
 

@@ -88,6 +88,30 @@ const HoleTables& TeamClass::LoadTeamHoleTables(int round) {
   return tables;
 }
 
+void TeamClass::PopulateTeamGrid(TeamBalls& balls, int rounds) {
+  PlayerClass& player = state().Player();
+  for (int round = 1; round <= std::min(rounds, kBlocks); ++round) {
+    int golfer = 0;
+    ForEachGolfer(round, [&](std::int32_t) {
+      ++golfer;
+      const RoundResults& results = player.Results(round);
+      for (int hole = 1; hole <= kHoles; ++hole) {
+        const std::int32_t gross = player.TourScoreGrossValue(hole, round);
+        if (gross < 1) continue;  // not played: the cells stay blank
+        const int column = HoleColumn((round - 1) * kHoles + hole);
+        const auto put = [&](BallTable table, std::int32_t value) {
+          balls.At(table, golfer, column).value = value;
+        };
+        put(BallTable::kGross, gross);
+        put(BallTable::kNet, results.net[hole]);
+        put(BallTable::kGrossPoints, results.gross_points[hole]);
+        put(BallTable::kNetPoints, results.net_points[hole]);
+      }
+      return golfer < kMostGolfersWithBalls;
+    });
+  }
+}
+
 std::int32_t TeamClass::LowestBallOnHole(bool gross, int balls, int hole, int round) {
   const HoleTables& tables = LoadTeamHoleTables(round);
   std::vector<double> values;

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "scoring/ball_tables.h"
 #include "scoring/team_round.h"
 #include "stores/quenby/team_records.h"
 
@@ -59,6 +60,14 @@ class TeamClass : public TeamRecords {
   std::string BestTotalXofYGross(int x, int hole, OptionalRound round = {});
   std::string BestTotalXofYNet(int x, int hole, OptionalRound round = {});
 
+  // Puts the balls of the team's first ten golfers into its tables, a block for each round: the
+  // golfers of a block are those of its round.
+  void PopulateTeamGrid(TeamBalls& balls, int rounds);
+
+  // The 18 holes in the order in which they take strokes, from the first tee group's tee: a team
+  // has none of its own. Makes the course of the round current.
+  std::vector<int> HolesByStrokes(OptionalRound round = {});
+
   // Texts that settle a tie where they are sorted.
   std::string GrossTotalTiebreakUSGA(OptionalRound round = {});
   std::string NetTotalTiebreakUSGA(OptionalRound round = {});
@@ -101,7 +110,6 @@ class TeamClass : public TeamRecords {
   std::string LowestTotals(bool gross, int x, int hole, OptionalRound round);
 
   // team_tiebreaks.cpp
-  std::vector<int> HolesByStrokes(int round);
   std::string GrossKey(OptionalRound round, const std::vector<int>& holes);
   std::string NetKey(OptionalRound round, const std::vector<int>& holes);
   std::string ScrambleKey(OptionalRound round, const std::vector<int>& holes);

@@ -8,9 +8,8 @@
 
 namespace golf {
 
-// A team has no tee of its own: the first tee group's is taken. All 18 places, in a round of nine
-// holes too.
-std::vector<int> TeamClass::HolesByStrokes(int round) {
+// All 18 places, in a round of nine holes too.
+std::vector<int> TeamClass::HolesByStrokes(OptionalRound round) {
   TournamentClass& tournament = state().Tournament();
   const int group = std::stoi(tournament.NumTeesMenPlay()) < 1 ? 1 : 0;
   const int tee = tournament.TeeNumberPlayed(group, 1, round);
@@ -44,10 +43,10 @@ std::string TeamClass::NetKey(OptionalRound round, const std::vector<int>& holes
 }
 
 std::string TeamClass::GrossTotalTiebreakHandicapHole(OptionalRound round) {
-  return GrossKey(round, HolesByStrokes(RoundOr(round)));
+  return GrossKey(round, HolesByStrokes(round));
 }
 std::string TeamClass::NetTotalTiebreakHandicapHole(OptionalRound round) {
-  return NetKey(round, HolesByStrokes(RoundOr(round)));
+  return NetKey(round, HolesByStrokes(round));
 }
 std::string TeamClass::GrossTotalTiebreak1to18(OptionalRound round) {
   return GrossKey(round, HolesForward(state().Tournament().RoundType()));
@@ -82,7 +81,7 @@ std::string TeamClass::NetScrambleTiebreakUSGA(OptionalRound round) {
       results.handicap);
 }
 std::string TeamClass::NetScrambleTiebreakHandicapHole(OptionalRound round) {
-  return ScrambleKey(round, HolesByStrokes(RoundOr(round)));
+  return ScrambleKey(round, HolesByStrokes(round));
 }
 std::string TeamClass::NetScrambleTiebreak1to18(OptionalRound round) {
   return ScrambleKey(round, HolesForward(state().Tournament().RoundType()));

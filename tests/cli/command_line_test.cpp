@@ -123,8 +123,12 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   EXPECT_TRUE(Run(results + " --csv")
                   .out.starts_with("Name,Handicap,Out,In,Total,Net,Points,Place\n"
                                    "\"Duarte, Ines\",26,47,47,94,68,54,1\n"));
+  std::string unplayed = entries;
+  unplayed.replace(7 * 3052 + 443, 2 * 36, 72, '\0');
+  folder.Write("i/qbdata/X0001.Q9G", unplayed);
   EXPECT_NE(Run(results + " --csv --round 2").out.find("\n\"Idris, Omar\",+1,,,,,,\n"),
             std::string::npos);
+  folder.Write("i/qbdata/X0001.Q9G", entries);
   // The ladies' tee of round 1 is none.
   std::string control = folder.Read("i/qbdata/X0001.Q9C");
   control[180] = 0;
@@ -132,9 +136,9 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   const Ended ended = Run(results + " --json");
   EXPECT_EQ(ended.code, 3);
   EXPECT_NE(ended.problems.find("Record 1, Bergstrom, Anna: Error # 9 was"), std::string::npos);
-  EXPECT_TRUE(ended.problems.ends_with("5 faults.\n")) << ended.problems;
+  EXPECT_TRUE(ended.problems.ends_with("6 faults.\n")) << ended.problems;
   const auto lines = JsonLines(ended.out);
-  ASSERT_EQ(lines.size(), 10u);
+  ASSERT_EQ(lines.size(), 12u);
   EXPECT_EQ(lines[0],
             nlohmann::json::parse(R"({"record":1,"NameLF":"Bergstrom, Anna","error":9})"));
   const auto& calder = lines[1];

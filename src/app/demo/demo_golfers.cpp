@@ -24,9 +24,15 @@ constexpr DemoGolfer kNineHolers[] = {
     {205, "Greta", "Ramsey", true, 14.0f, 15, 'C'},
 };
 
+constexpr DemoGolfer kGuests[] = {
+    {301, "Vera", "Stoll", true, 21.3f, 25, 'C'},
+    {302, "Ned", "Umber", false, 13.4f, 16, 'B'},
+};
+
 }  // namespace
 
 std::span<const DemoGolfer> DemoMembers() { return kMembers; }
 std::span<const DemoGolfer> DemoNineHolers() { return kNineHolers; }
+std::span<const DemoGolfer> DemoGuests() { return kGuests; }
 
 }  // namespace golf

@@ -18,5 +18,6 @@ struct DemoGolfer {
 
 std::span<const DemoGolfer> DemoMembers();     // who play eighteen holes
 std::span<const DemoGolfer> DemoNineHolers();  // who play nine
+std::span<const DemoGolfer> DemoGuests();      // whom Quenby alone knows
 
 }  // namespace golf

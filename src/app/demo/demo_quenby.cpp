@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "app/demo/demo_golfers.h"
 #include "scoring/player_class.h"
+#include "scoring/report_layout.h"
 #include "scoring/tournament_class.h"
 #include "stores/quenby/program_class.h"
 
@@ -16,6 +18,7 @@ constexpr int kRoundsPlayed = 2;
 constexpr int kTeamSize = 4;
 constexpr std::int32_t kFirstGolfer = 10;     // the records below are never given to a golfer
 constexpr std::size_t kMembersInQuenby = 10;  // the others are still to be transferred
+constexpr int kTeams = 3;
 constexpr CivilTime kFirstRound{2024, 9, 14};
 
 void MakeMaster(ProgramClass& program) {
@@ -48,10 +51,21 @@ void MakeRosterList(ProgramClass& program) {
   }
 }
 
+// In the order of their records and their entries.
+std::vector<DemoGolfer> GolfersInQuenby() {
+  const auto members = DemoMembers().first(kMembersInQuenby);
+  const auto guests = DemoGuests();
+  std::vector<DemoGolfer> golfers(members.begin(), members.end());
+  golfers.insert(golfers.end(), guests.begin(), guests.end());
+  return golfers;
+}
+
+bool IsGuest(const DemoGolfer& golfer) { return golfer.id >= DemoGuests().front().id; }
+
 void MakeGolfers(TournamentPlayers& player) {
   player.OpenRosterFile();
   std::int32_t record = kFirstGolfer;
-  for (const DemoGolfer& golfer : DemoMembers().first(kMembersInQuenby)) {
+  for (const DemoGolfer& golfer : GolfersInQuenby()) {
     player.BlankPlayerRecord();
     player.SetIDNum(golfer.id);
     player.SetNameFirst(golfer.first);
@@ -62,7 +76,7 @@ void MakeGolfers(TournamentPlayers& player) {
     player.SetGroupTee(group);
     player.SetIndex(golfer.index);
     player.SetHandicap(golfer.handicap);
-    player.SetRosters(1, golfer.id % 5 == 0 ? 2 : 1);
+    player.SetRosters(1, IsGuest(golfer) || golfer.id % 5 == 0 ? 2 : 1);
     player.SaveRecord(record++, false);
   }
 }
@@ -71,7 +85,7 @@ void MakeControl(TournamentControl& tournament) {
   tournament.CreateBlankTournament(kTournament);
   tournament.SetName("Autumn Medal");
   tournament.SetNumRounds(kRoundsPlayed);
-  tournament.SetNumTeams(3);
+  tournament.SetNumTeams(kTeams);
   tournament.SetHandicapMax(0, 36);
   tournament.SetHandicapMax(1, 40);
   tournament.SetShowTeamsonSheet(true);
@@ -84,31 +98,53 @@ void MakeControl(TournamentControl& tournament) {
   tournament.SaveRecord();
 }
 
-void FillEntry(TournamentPlayers& player, std::int32_t record, int place) {
-  const DemoGolfer& golfer = DemoMembers()[static_cast<std::size_t>(place)];
+void FillScores(TournamentPlayers& player, const DemoGolfer& golfer, int place, int round) {
+  const int over = static_cast<int>(std::lround(golfer.handicap / 18));
+  for (int hole = 1; hole <= kHoles; ++hole) {
+    const int wobble = (place * 5 + hole * 3 + (round - 1) * (place + hole)) % 4 - 1;
+    player.SetTourScoreGross(hole, round, std::max(2, 4 + over + wobble / 2));
+  }
+  player.SetTourPutts(round, 30 + place % 6);
+}
+
+void FillEntry(TournamentPlayers& player, const DemoGolfer& golfer, int place) {
   player.TourBlankPlayerRecord();
-  player.SetTourRosterRecordPointer(record);
+  player.SetTourRosterRecordPointer(kFirstGolfer + place);
   for (int round = 1; round <= kRoundsPlayed; ++round) {
     player.SetTourTeamOn(round, place / kTeamSize + 1);
     player.SetTourTeamPositionIn(round, place % kTeamSize + 1);
     player.SetTourIndex(round, golfer.index);
     player.SetTourGrossHandicap(round, golfer.handicap);
     player.SetTourFlight(round, std::string(1, golfer.flight));
+    FillScores(player, golfer, place, round);
   }
-  const int over = static_cast<int>(std::lround(golfer.handicap / 18));
-  for (int hole = 1; hole <= kHoles; ++hole) {
-    const int wobble = (place * 5 + hole * 3) % 4 - 1;
-    player.SetTourScoreGross(hole, 1, std::max(2, 4 + over + wobble / 2));
-  }
-  player.SetTourPutts(1, 30 + place % 6);
 }
 
 void MakeEntries(TournamentPlayers& player) {
   player.TourOpenTournamentFile(kTournament);
-  for (int place = 0; place < static_cast<int>(kMembersInQuenby); ++place) {
-    FillEntry(player, kFirstGolfer + place, place);
-    player.SaveRecord(place + 1, true);
+  int place = 0;
+  for (const DemoGolfer& golfer : GolfersInQuenby()) {
+    FillEntry(player, golfer, place);
+    player.SaveRecord(++place, true);
   }
+}
+
+void MakeLayout(SharedState& state, const std::string& name, const std::string& description,
+                const std::string& selection, const PlaceCodes& codes) {
+  ReportLayout layout;
+  layout.ReportDescription = description;
+  layout.BallSelection = selection;
+  layout.HeaderText = {name, "(Tournament Name)", "(Date - <RoundDate>)"};
+  layout.fonts[0].size = "16";
+  for (auto& hole : layout.places) hole[0] = codes;
+  WriteReportLayout(state.files, state.StoreDataPath + name, layout);
+}
+
+void MakeLayouts(SharedState& state) {
+  MakeLayout(state, "Two best nets", "The two lowest net scores of each hole", "G",
+             {"12345678", "NONE", "L12"});
+  MakeLayout(state, "Gross and net", "One gross and one net ball of two golfers", "B",
+             {"12345678", "L1", "L1"});
 }
 
 }  // namespace
@@ -120,6 +156,7 @@ void MakeDemoQuenby(SharedState& state) {
   MakeGolfers(state.Player());
   MakeControl(state.Tournament());
   MakeEntries(state.Player());
+  MakeLayouts(state);
   state.InitSharedObjects();
 }
 
