@@ -17,6 +17,8 @@
 #include "stores/zandel/zandel_buffers.h"
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
+#include "transfers/kv_to_zd.h"
+#include "transfers/zd_to_qb.h"
 
 namespace golf {
 namespace {
@@ -58,7 +60,9 @@ ScreenCatalogue Application::Screens() {
           {"LoadRoster", Make<LoadRoster>},
           {"LoadRosters", Make<LoadRosters>},
           {"KVCoursestoQB", Make<KVCoursestoQB>},
-          {"KVtoQB", Make<KVtoQB>}};
+          {"KVtoQB", Make<KVtoQB>},
+          {"KVtoZD", Make<KVtoZD>},
+          {"ZDtoQB", Make<ZDtoQB>}};
 }
 
 void Application::Start(DateValue now, const RegionalOverrides& overrides) {
