@@ -29,7 +29,7 @@ std::string NewGolfer() {
     std::fill(bytes.begin() + from, bytes.begin() + to, ' ');
   }
   bytes[424] = 'A';
-  for (const std::size_t date : {599, 607, 655}) Put(bytes, date, {45425.0});  // 13 May 2024
+  for (const std::size_t date : {599u, 607u, 655u}) Put(bytes, date, {45425.0});  // 13 May 2024
   return bytes;
 }
 
@@ -84,7 +84,7 @@ struct Outcome {
     const std::size_t at = (static_cast<std::size_t>(record) - 1) * kLeaguePlayerBytes;
     if (at + kLeaguePlayerBytes > file.size()) return;
     const std::string from = file.substr(at, kLeaguePlayerBytes);
-    if (from[23] <= ' ' && from[23] >= 0 && Trim(from.substr(23, 15)) <= " ") return;
+    if (Trim(from.substr(23, 15)) <= " ") return;
     std::string quenby = states.back();
     std::size_t r = kFirstGolfer;
     const auto found = std::find(keys.begin(), keys.end(), Key(from, 23, 15, 8, 15));
