@@ -17,8 +17,8 @@
 #include <vector>
 
 #include "app/application.h"
+#include "scoring/player_class.h"
 #include "stores/kelvane/kelvane_files.h"
-#include "stores/quenby/tournament_players.h"
 #include "whole_process.h"
 
 namespace golf::bench {

@@ -3,7 +3,10 @@
 #include <utility>
 
 #include "core/entry.h"
+#include "scoring/player_class.h"
 #include "scoring/screens/grid_sort_screen.h"
+#include "scoring/stroke_control.h"
+#include "scoring/tournament_class.h"
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
 #include "stores/course/course_class.h"
@@ -12,8 +15,6 @@
 #include "stores/quenby/program_class.h"
 #include "stores/quenby/screens/load_rosters.h"
 #include "stores/quenby/team_records.h"
-#include "stores/quenby/tournament_control.h"
-#include "stores/quenby/tournament_players.h"
 #include "stores/zandel/zandel_buffers.h"
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
@@ -28,10 +29,11 @@ void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   objects.SpareCourse = std::make_shared<CourseClass>(state);
   objects.Course = std::make_shared<CourseClass>(state);
   objects.Program = std::make_shared<ProgramClass>(state);
-  objects.Tournament = std::make_shared<TournamentControl>(state);
-  objects.Player = std::make_shared<TournamentPlayers>(state);
+  objects.TournamentRecord = objects.Tournament = std::make_shared<TournamentClass>(state);
+  objects.PlayerRecords = objects.Player = std::make_shared<PlayerClass>(state);
   objects.Team1 = std::make_shared<TeamRecords>(state);
   objects.Team2 = std::make_shared<TeamRecords>(state);
+  objects.ESC = std::make_shared<ESCClass>();
   if (!objects.Kelvane) objects.Kelvane = std::make_shared<KelvaneBuffers>();
   if (!objects.Zandel) objects.Zandel = std::make_shared<ZandelBuffers>();
 }

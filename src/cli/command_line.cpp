@@ -69,6 +69,7 @@ struct Arguments {
   GolfersKvToQbRequest golfers_kv_to_qb;
   GolfersKvToZdRequest golfers_kv_to_zd;
   GolfersZdToQbRequest golfers_zd_to_qb;
+  ResultsRequest results;
   std::string script;
   bool start_programs = false;
 };
@@ -175,6 +176,19 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   dump->add_option("FILE", args.dump.file, "A file of Kelvane, Quenby or Zandel")->required();
   dump->add_option("--record", args.dump.record, "Only this record, from 1")->type_name("N");
   dump->add_flag("--csv", args.dump.csv, "A line a record, with a heading");
+
+  CLI::App* results = AddCommand(app, "results", "Show what scoring works out",
+                                 "--install golf-demo results players --tournament 1", chosen,
+                                 [&] { return RunResults(options, args.results); });
+  results->add_option("WHAT", args.results.what, "Whose results: players")
+      ->required()
+      ->check(CLI::IsMember(ResultsNames()));
+  results->add_option("--tournament", args.results.tournament, "The tournament's number")
+      ->type_name("N")
+      ->required();
+  results->add_option("--round", args.results.round, "The round; the active one if left out")
+      ->type_name("R");
+  results->add_flag("--csv", args.results.csv, "A line an entry, with a heading");
 
   AddCommand(app, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
              "--install golf-demo courses-kv-to-qb", chosen,

@@ -37,6 +37,15 @@ struct DumpRequest {
 };
 ExitCode RunDump(const Options& options, const DumpRequest& request);
 
+struct ResultsRequest {
+  std::string what;  // one of ResultsNames
+  std::int32_t tournament = 0;
+  std::optional<int> round;  // the active round if left out
+  bool csv = false;
+};
+std::vector<std::string> ResultsNames();
+ExitCode RunResults(const Options& options, const ResultsRequest& request);
+
 ExitCode RunCoursesKvToQb(const Options& options);
 
 struct GolfersKvToQbRequest {

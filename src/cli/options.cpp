@@ -4,12 +4,24 @@
 
 namespace golf {
 
-DateValue Moment(const Options& options) {
-  if (options.now) return DateFromCivil(*options.now);
-  const std::time_t now = std::time(nullptr);
-  const std::tm* local = std::localtime(&now);
+namespace {
+
+DateValue LocalMoment(std::time_t moment) {
+  const std::tm* local = std::localtime(&moment);
   return DateFromCivil({local->tm_year + 1900, local->tm_mon + 1, local->tm_mday, local->tm_hour,
                         local->tm_min, local->tm_sec});
+}
+
+}  // namespace
+
+std::function<DateValue()> ClockOf(const Options& options) {
+  if (options.now) return [given = DateFromCivil(*options.now)] { return given; };
+  // A run asks for each golfer: the system is asked for its time zone once a second only.
+  return [last = std::time_t{-1}, moment = DateValue{}]() mutable {
+    const std::time_t now = std::time(nullptr);
+    if (now != last) moment = LocalMoment(last = now);
+    return moment;
+  };
 }
 
 std::unique_ptr<Application> StartApplication(const Options& options) {
@@ -17,7 +29,7 @@ std::unique_ptr<Application> StartApplication(const Options& options) {
     throw NumberedError(ErrorNumber::kPathNotFound, "--install names no folder.");
   }
   auto application = std::make_unique<Application>(MakePlatform(options.install.value_or("")));
-  application->Start(Moment(options), options.regional);
+  application->Start(ClockOf(options)(), options.regional);
   return application;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,8 +19,8 @@ struct Options {
   bool quiet = false;
 };
 
-// The present moment: the one given, or the clock's, in local time.
-DateValue Moment(const Options& options);
+// Gives the present moment: the one given, or the clock's, in local time.
+std::function<DateValue()> ClockOf(const Options& options);
 
 // The program over the install of the options, ready for its first screen. Error 76 where there is
 // no such folder.

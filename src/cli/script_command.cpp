@@ -36,7 +36,7 @@ ExitCode RunScript(const Options& options, const std::string& file, bool start_p
   const auto application = StartApplication(options);
   JsonListener listener;
   HeadlessHost host(application->state(), Application::Screens(), listener);
-  host.clock = [&options] { return Moment(options); };
+  host.clock = ClockOf(options);
   host.starts_programs = start_programs;
   ScriptRunner runner(application->state(), host, listener, file == "-" ? std::cin : script);
   try {

@@ -85,7 +85,7 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   JsonListener json;
   HostListener& listener = options.json ? static_cast<HostListener&>(json) : report;
   HeadlessHost host(application->state(), Application::Screens(), listener);
-  host.clock = [&options] { return Moment(options); };
+  host.clock = ClockOf(options);
   const auto failed = Work(*application, host, report, command);
   bar.Clear();
   const ExitCode code = failed ? *failed : ExitCodeAfterRun(host);

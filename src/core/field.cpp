@@ -6,24 +6,10 @@
 #include "core/numbered_error.h"
 
 namespace golf {
-namespace {
 
-[[noreturn]] void FailSubscript(const Field& field) {
+void Field::FailSubscript() const {
   throw NumberedError(ErrorNumber::kSubscript,
-                      "An index of " + std::string(field.name) + " is out of its range.");
-}
-
-}  // namespace
-
-std::size_t Field::OffsetOf(std::span<const int> indexes) const {
-  if (indexes.size() != rank) FailSubscript(*this);
-  std::size_t at = offset;
-  for (std::size_t i = 0; i < rank; ++i) {
-    const std::int64_t position = std::int64_t{indexes[i]} - dimensions[i].base;
-    if (position < 0 || position >= dimensions[i].count) FailSubscript(*this);
-    at += static_cast<std::size_t>(position) * strides[i];
-  }
-  return at;
+                      "An index of " + std::string(name) + " is out of its range.");
 }
 
 FieldValue ReadFieldValue(const Field& field, std::string_view record, std::size_t offset) {

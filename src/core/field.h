@@ -90,7 +90,18 @@ struct Field {
 
   // Where in the record the value with these indexes starts. Error 9 for an index outside its
   // bounds, or for as many indexes as the field does not have.
-  std::size_t OffsetOf(std::span<const int> indexes) const;
+  constexpr std::size_t OffsetOf(std::span<const int> indexes) const {
+    if (indexes.size() != rank) FailSubscript();
+    std::size_t at = offset;
+    for (std::size_t i = 0; i < rank; ++i) {
+      const std::int64_t position = std::int64_t{indexes[i]} - dimensions[i].base;
+      if (position < 0 || position >= dimensions[i].count) FailSubscript();
+      at += static_cast<std::size_t>(position) * strides[i];
+    }
+    return at;
+  }
+
+  [[noreturn]] void FailSubscript() const;
 
   // Where the n-th value starts, n from 0, the last index counting fastest.
   constexpr std::size_t OffsetOfNth(std::size_t n) const {

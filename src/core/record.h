@@ -1,12 +1,15 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "core/field.h"
 #include "core/little_endian.h"
@@ -84,6 +87,10 @@ class Record {
  public:
   template <FieldName kName>
   using Value = typename detail::ValueOf<FieldOf<Layout, kName>().type>::Type;
+  // What a field is set from.
+  template <FieldName kName>
+  using Source =
+      std::conditional_t<std::is_same_v<Value<kName>, std::string>, std::string_view, Value<kName>>;
 
   // The stored value; text with its blanks.
   template <FieldName kName, class... Indexes>
@@ -100,17 +107,19 @@ class Record {
 
   // Sets a field that is no table. Text is cut at the field's width or filled with blanks.
   template <FieldName kName>
-  void Set(const Value<kName>& value) {
+  void Set(Source<kName> value) {
     Set<kName>({}, value);
   }
 
   // Sets the element of a table with these indexes.
   template <FieldName kName>
-  void Set(std::initializer_list<int> indexes, const Value<kName>& value) {
+  void Set(std::initializer_list<int> indexes, Source<kName> value) {
     constexpr Field kField = FieldOf<Layout, kName>();
     char* at = bytes_.data() + kField.OffsetOf({indexes.begin(), indexes.size()});
     if constexpr (kField.type == FieldType::kText) {
-      FitText(value, kField.width).copy(at, kField.width);
+      const std::size_t held = std::min(value.size(), kField.width);
+      if (held > 0) std::memmove(at, value.data(), held);  // the text may be the field's own
+      std::memset(at + held, ' ', kField.width - held);
     } else {
       StoreLittleEndian(at, value);
     }

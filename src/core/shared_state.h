@@ -12,9 +12,12 @@
 namespace golf {
 
 class CourseClass;
+class ESCClass;
+class PlayerClass;
 class ProgramClass;
 class SharedState;
 class TeamRecords;
+class TournamentClass;
 class TournamentControl;
 class TournamentPlayers;
 struct KelvaneBuffers;
@@ -26,10 +29,15 @@ struct StoreObjects {
   std::shared_ptr<CourseClass> SpareCourse;
   std::shared_ptr<CourseClass> Course;
   std::shared_ptr<ProgramClass> Program;
-  std::shared_ptr<TournamentControl> Tournament;
-  std::shared_ptr<TournamentPlayers> Player;
+  std::shared_ptr<TournamentClass> Tournament;
+  std::shared_ptr<PlayerClass> Player;
   std::shared_ptr<TeamRecords> Team1;
   std::shared_ptr<TeamRecords> Team2;
+  std::shared_ptr<ESCClass> ESC;
+  // The storeys of the tournament and the player that hold their records: the same objects, for
+  // the rooms below their calculation.
+  std::shared_ptr<TournamentControl> TournamentRecord;
+  std::shared_ptr<TournamentPlayers> PlayerRecords;
   // Record buffers, which are made once and stay.
   std::shared_ptr<KelvaneBuffers> Kelvane;
   std::shared_ptr<ZandelBuffers> Zandel;
@@ -72,10 +80,16 @@ class SharedState {
   CourseClass& SpareCourse() { return *objects_.SpareCourse; }
   CourseClass& Course() { return *objects_.Course; }
   ProgramClass& Program() { return *objects_.Program; }
-  TournamentControl& Tournament() { return *objects_.Tournament; }
-  TournamentPlayers& Player() { return *objects_.Player; }
+  TournamentClass& Tournament() { return *objects_.Tournament; }
+  PlayerClass& Player() { return *objects_.Player; }
   TeamRecords& Team1() { return *objects_.Team1; }
   TeamRecords& Team2() { return *objects_.Team2; }
+  ESCClass& ESC() { return *objects_.ESC; }
+
+  // The tournament and the player once more, as the rooms know them that are below their
+  // calculation.
+  TournamentControl& TournamentRecord() { return *objects_.TournamentRecord; }
+  TournamentPlayers& PlayerRecords() { return *objects_.PlayerRecords; }
 
   KelvaneBuffers& Kelvane() { return *objects_.Kelvane; }
   ZandelBuffers& Zandel() { return *objects_.Zandel; }

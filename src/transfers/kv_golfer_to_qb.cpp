@@ -2,8 +2,8 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
+#include "scoring/player_class.h"
 #include "stores/kelvane/kelvane_buffers.h"
-#include "stores/quenby/tournament_players.h"
 
 namespace golf {
 namespace {
@@ -37,7 +37,7 @@ constexpr CopyStep kAlways[] = {
       if (HasNoIndex(from)) to.SetIndex(from.golfer.Get<"Handicap">());
     },
     [](Player&, KelvaneBuffers& from) {
-      from.golfer.Set<"HandicapText">(std::string(Trim(from.golfer.Get<"HandicapText">())));
+      from.golfer.Set<"HandicapText">(Trim(from.golfer.Get<"HandicapText">()));
     },
     [](Player& to, KelvaneBuffers& from) {
       if (HasNoHandicap(from)) to.SetIndex(0);

@@ -57,6 +57,11 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
       {"dump i/zddata/18CRSKV.INX", 1, "", "There is no file"},
       {"dump i/kvdata/kvcrs.dat --record 8", 1, "", "no record 8"},
       {"--install i dump kvdata/kvcrs.dat --record 7", 0, "Ash Ridge Municipal", ""},
+      {"--install i results players", 2, "", "--tournament"},
+      {"--install i results players --tournament 2", 1, "", "There is no tournament 2."},
+      {"--install i results players --tournament -1", 1, "", "There is no tournament -1."},
+      {"--install i results players --tournament 1 --round 3", 1, "", "has 2."},
+      {"--install i results players --tournament 1", 0, "Duarte, Ines     26  ", ""},
       {"--install i script none.txt", 1, "", "cannot be read"},
       {"--install i list events --league 0001?", 1, "", "There is no league 0001?."},
       {"--install i list leagues", 0, "Saturday Eighteen", ""},
@@ -109,6 +114,40 @@ TEST_F(CommandLineTest, ListsLeaguesAndWhatTheyHaveToPost) {
   EXPECT_EQ(events[11]["code"], 6);
   EXPECT_EQ(events[10]["text"], "Non-Event scores after event #5 but before #6");
   EXPECT_FALSE(folder.Exists("i/zddata/00012.ZE8"));
+}
+
+TEST_F(CommandLineTest, ResultsOfPlayers) {
+  folder.Remove("i/qbdata/X0001.Q9T");
+  const std::string entries = folder.Read("i/qbdata/X0001.Q9G");
+  const std::string results = "--install i results players --tournament 1";
+  EXPECT_TRUE(Run(results + " --csv")
+                  .out.starts_with("Name,Handicap,Out,In,Total,Net,Points,Place\n"
+                                   "\"Duarte, Ines\",26,47,47,94,68,54,1\n"));
+  EXPECT_NE(Run(results + " --csv --round 2").out.find("\n\"Idris, Omar\",+1,,,,,,\n"),
+            std::string::npos);
+  // The ladies' tee of round 1 is none.
+  std::string control = folder.Read("i/qbdata/X0001.Q9C");
+  control[180] = 0;
+  folder.Write("i/qbdata/X0001.Q9C", control);
+  const Ended ended = Run(results + " --json");
+  EXPECT_EQ(ended.code, 3);
+  EXPECT_NE(ended.problems.find("Record 1, Bergstrom, Anna: Error # 9 was"), std::string::npos);
+  EXPECT_TRUE(ended.problems.ends_with("5 faults.\n")) << ended.problems;
+  const auto lines = JsonLines(ended.out);
+  ASSERT_EQ(lines.size(), 10u);
+  EXPECT_EQ(lines[0],
+            nlohmann::json::parse(R"({"record":1,"NameLF":"Bergstrom, Anna","error":9})"));
+  const auto& calder = lines[1];
+  EXPECT_EQ(calder.size(), 48u);
+  EXPECT_EQ(calder["TourScoreNet"].size(), 21u);
+  EXPECT_EQ(calder["TourScoreNet"][20], "69");
+  EXPECT_EQ(calder["TourHoleStrokes"].size(), 18u);
+  EXPECT_EQ(calder["TourPBEStatsGross"]["-5"].size(), 21u);
+  EXPECT_EQ(calder["TourTotalNet"], "69");
+  EXPECT_EQ(calder["TourTeeTime"], "12:00 am");
+  EXPECT_EQ(calder["TourCoursePlayedNumber"], 2);
+  EXPECT_FALSE(folder.Exists("i/qbdata/X0001.Q9T"));
+  EXPECT_EQ(folder.Read("i/qbdata/X0001.Q9G"), entries);
 }
 
 TEST_F(CommandLineTest, DumpsTablesInTheOrderOfTheirIndexes) {

@@ -12,13 +12,15 @@
 #include "app/demo/demo_install.h"
 #include "app/file_kinds.h"
 #include "cli/field_text.h"
+#include "cli/results_players.h"
+#include "scoring/open_tournament.h"
+#include "scoring/player_class.h"
+#include "scoring/tournament_class.h"
 #include "stores/course/course_class.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "stores/quenby/program_class.h"
 #include "stores/quenby/team_records.h"
-#include "stores/quenby/tournament_control.h"
-#include "stores/quenby/tournament_players.h"
 #include "stores/zandel/zandel_batches.h"
 #include "stores/zandel/zandel_files.h"
 #include "support/memory_platform.h"
@@ -27,7 +29,7 @@ namespace golf {
 namespace {
 
 using Control = TournamentControl;
-using Player = TournamentPlayers;
+using Player = PlayerClass;
 using Team = TeamRecords;
 
 constexpr std::array kRecords = {-1, 0, 1, 2, 3, 10};
@@ -227,6 +229,25 @@ void WalkLeagues(SharedState& state) {
   Need(batches && batches->selected < static_cast<int>(batches->list.size()));
 }
 
+// All that is worked out of the first entries, and of the tournament.
+void WalkScores(SharedState& state) {
+  OpenTournament(state, 1);
+  Player& player = state.Player();
+  for (const int record : {1, 2, 3}) {
+    Try([&] { player.GetRecord(record, true); });
+    for (int round = 0; round <= 8; ++round) {
+      Json object;
+      Try([&] { AddResults(player, record == 2, round, object); });
+      Need(object.dump(-1, ' ', false, Json::error_handler_t::replace).size() > 0);
+    }
+  }
+  Try([&] { state.Tournament().CalculateTotals(); });
+  for (int row = 0; row <= 22; ++row) {
+    Try([&] { state.Tournament().ScoreTotalGross(row); });
+    Try([&] { state.Tournament().ScoreAverageNet(row); });
+  }
+}
+
 void WalkCourses(SharedState& state) {
   CourseClass& course = state.Course();
   for (const int record : kRecords) {
@@ -245,6 +266,7 @@ void WalkCourses(SharedState& state) {
   course.UpdateAllCourseLists();
   for (int i = 1; i <= course.Course18NumberofCourses(); ++i) course.Course18Name(i);
   course.RebuildCourseIndexes(course.ActiveCoursesByName());
+  WalkScores(state);
 }
 
 void WalkQuenby(SharedState& state) {
@@ -256,6 +278,7 @@ void WalkQuenby(SharedState& state) {
   WalkGolfers(state);
   WalkEntries(state);
   WalkTeams(state);
+  WalkScores(state);
 }
 
 void WalkDefaults(SharedState& state) {

@@ -9,12 +9,12 @@
 #include <set>
 
 #include "app/application.h"
+#include "scoring/player_class.h"
+#include "scoring/tournament_class.h"
 #include "stores/kelvane/kelvane_buffers.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "stores/quenby/program_class.h"
 #include "stores/quenby/team_records.h"
-#include "stores/quenby/tournament_control.h"
-#include "stores/quenby/tournament_players.h"
 #include "support/memory_platform.h"
 
 namespace golf {

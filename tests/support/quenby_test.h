@@ -4,10 +4,10 @@
 
 #include <string>
 
+#include "scoring/player_class.h"
+#include "scoring/tournament_class.h"
 #include "stores/quenby/program_class.h"
 #include "stores/quenby/team_records.h"
-#include "stores/quenby/tournament_control.h"
-#include "stores/quenby/tournament_players.h"
 #include "support/bytes.h"
 #include "support/error_of.h"
 #include "support/test_host.h"

@@ -4,10 +4,9 @@
 #include <cmath>
 
 #include "app/demo/demo_golfers.h"
+#include "scoring/player_class.h"
+#include "scoring/tournament_class.h"
 #include "stores/quenby/program_class.h"
-#include "stores/quenby/team_records.h"
-#include "stores/quenby/tournament_control.h"
-#include "stores/quenby/tournament_players.h"
 
 namespace golf {
 namespace {

@@ -101,12 +101,40 @@ bool CourseClass::IsCourseRecord(std::int32_t record) {
 
 void CourseClass::GetRecord(std::int32_t record) {
   current_ = record;
-  if (IsCourseRecord(record)) {
+  if (TakeKept(record)) return;
+  const bool has_record = IsCourseRecord(record);
+  if (has_record) {
     state_.files.Read(course_file_, record, record_);
   } else {
     BuildSpecialRecord(record);
   }
   BuildTeeLists();
+  if (has_record) Keep(record);
+}
+
+// Scores ask for the same few courses again and again.
+bool CourseClass::TakeKept(std::int32_t record) {
+  const std::uint64_t generation = state_.files.Generation(course_file_);
+  if (generation != kept_generation_ || course_file_ != kept_file_) kept_.clear();
+  kept_generation_ = generation;
+  kept_file_ = course_file_;
+  const auto kept = std::find_if(kept_.begin(), kept_.end(), [record](const KeptCourse& course) {
+    return course.number == record;
+  });
+  if (kept == kept_.end()) return false;
+  record_ = kept->record;
+  tees_ = kept->tees;
+  return true;
+}
+
+void CourseClass::Keep(std::int32_t record) {
+  constexpr std::size_t kMostKept = 8;  // a tournament has a course for each of 7 rounds
+  const KeptCourse course{record, record_, tees_};
+  if (kept_.size() < kMostKept) {
+    kept_.push_back(course);
+  } else {
+    kept_[next_kept_++ % kMostKept] = course;
+  }
 }
 
 void CourseClass::BuildSpecialRecord(std::int32_t record) {
@@ -166,23 +194,23 @@ void CourseClass::BuildCourseList(std::string_view list_name, std::string_view a
 }
 
 void CourseClass::BuildTeeLists() {
-  tee_count_ = 0;
-  for (TeeList& list : tees_) list.fill(std::string(kEntryLength, ' '));
+  tees_.count = 0;
+  for (TeeList& list : tees_.lists) list.fill(std::string(kEntryLength, ' '));
   const auto entry = [](const std::string& text, const std::string& key) {
     return FitText(text, kEntryLength - 2) + key;
   };
   for (int tee = 1; tee <= kShownTees; ++tee) {
     if (!ActiveTees(tee)) continue;
-    const auto at = static_cast<std::size_t>(tee_count_++);
+    const auto at = static_cast<std::size_t>(tees_.count++);
     const std::string key = TeeNameAbv(tee) + std::to_string(tee);
     const std::string name = TeeName(tee);
     for (int group = 0; group <= 1; ++group) {
       const std::string rating = FormatNumber(record_.Get<"Rating">(tee, group), "00.0");
       const std::string slopes = FormatNumber(int{record_.Get<"slope">(tee, group)}, "000");
       const std::string text = FitText(name, 9) + rating + "/" + slopes + std::string(61, ' ');
-      tees_[static_cast<std::size_t>(group)][at] = FitText(text + key, kEntryLength);
+      tees_.lists[static_cast<std::size_t>(group)][at] = FitText(text + key, kEntryLength);
     }
-    tees_[2][at] = entry(name, key);
+    tees_.lists[2][at] = entry(name, key);
   }
 }
 

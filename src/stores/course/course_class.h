@@ -74,12 +74,12 @@ class CourseClass {
 
   // Tee lists, as old as the last GetRecord.
 
-  std::int32_t TeeNumberofTees() const { return tee_count_; }
+  std::int32_t TeeNumberofTees() const { return tees_.count; }
   // Entries of 80 characters, 1 to 5, of which the first TeeNumberofTees are filled; the tee number
   // is the last character.
-  const std::string& TeeMensTees(std::int32_t i) const { return TeeEntry(tees_[0], i); }
-  const std::string& TeeLadiesTees(std::int32_t i) const { return TeeEntry(tees_[1], i); }
-  const std::string& TeeAllTees(std::int32_t i) const { return TeeEntry(tees_[2], i); }
+  const std::string& TeeMensTees(std::int32_t i) const { return TeeEntry(tees_.lists[0], i); }
+  const std::string& TeeLadiesTees(std::int32_t i) const { return TeeEntry(tees_.lists[1], i); }
+  const std::string& TeeAllTees(std::int32_t i) const { return TeeEntry(tees_.lists[2], i); }
 
   // Settings of the course screens. Nothing keeps them and they start as false.
 
@@ -92,6 +92,9 @@ class CourseClass {
   bool RequireRatingandSlope = false;
 
   // The current record.
+
+  // As it stands, for whoever calculates with its numbers.
+  const Record<CourseLayout>& Stored() const { return record_; }
 
   std::int16_t activeflag() const { return record_.Get<"activeflag">(); }
   void Setactiveflag(double value);
@@ -106,7 +109,7 @@ class CourseClass {
 
   // Texts come trimmed. Name is stored as given, the others trimmed; all are cut to their field.
   std::string Name() const { return Trimmed(record_.Get<"Name">()); }
-  void SetName(std::string_view value) { record_.Set<"Name">(std::string(value)); }
+  void SetName(std::string_view value) { record_.Set<"Name">(value); }
   std::string Address1() const { return Trimmed(record_.Get<"Address1">()); }
   void SetAddress1(std::string_view value) { record_.Set<"Address1">(Trimmed(value)); }
   std::string Address2() const { return Trimmed(record_.Get<"Address2">()); }
@@ -179,11 +182,23 @@ class CourseClass {
     const std::string& At(std::int32_t i) const;
   };
   using TeeList = std::array<std::string, kShownTees>;
+  struct TeeLists {
+    std::int32_t count = 0;
+    std::array<TeeList, 3> lists;  // men's, ladies', all
+  };
+  // A course that was read, and the tee lists that were built from it.
+  struct KeptCourse {
+    std::int32_t number;
+    Record<CourseLayout> record;
+    TeeLists tees;
+  };
 
   static std::string Trimmed(std::string_view text);
   static const std::string& TeeEntry(const TeeList& list, std::int32_t i);
 
   bool IsCourseRecord(std::int32_t record);
+  bool TakeKept(std::int32_t record);
+  void Keep(std::int32_t record);
   void BuildSpecialRecord(std::int32_t record);
   void BuildCourseList(std::string_view list_name, std::string_view away_entry, CourseList& list);
   std::vector<std::int32_t> ReadIndexEntries();
@@ -203,8 +218,11 @@ class CourseClass {
   CourseList courses9_;
   CourseList courses18_;
   CourseList courses_all_;
-  std::int32_t tee_count_ = 0;
-  std::array<TeeList, 3> tees_;
+  TeeLists tees_;
+  std::vector<KeptCourse> kept_;  // as fresh as the window of the file was in this generation
+  std::uint64_t kept_generation_ = 0;
+  int kept_file_ = 0;
+  std::size_t next_kept_ = 0;
 };
 
 }  // namespace golf

@@ -41,7 +41,7 @@ std::string CourseClass::TeeName(int& tee) const {
 }
 
 void CourseClass::SetTeeName(int tee, std::string_view value) {
-  record_.Set<"TeeName">({LimitTee(tee)}, std::string(value));
+  record_.Set<"TeeName">({LimitTee(tee)}, value);
 }
 
 std::string CourseClass::TeeNameAbv(int& tee) const {

@@ -50,7 +50,7 @@ std::string ProgramClass::LastRosterViewLoaded() const {
   return Trimmed(master_.Get<"LastRosterViewLoaded">());
 }
 void ProgramClass::SetLastRosterViewLoaded(std::string_view value) {
-  master_.Set<"LastRosterViewLoaded">(std::string(value));
+  master_.Set<"LastRosterViewLoaded">(value);
 }
 void ProgramClass::SetRosterColumnSorted(int i, double value) {
   master_.Set<"RosterColumnSorted">({i}, RoundToInt16(value));
@@ -65,31 +65,31 @@ std::string ProgramClass::LastTournamentViewLoaded() const {
   return Trimmed(master_.Get<"LastTournamentViewLoaded">());
 }
 void ProgramClass::SetLastTournamentViewLoaded(std::string_view value) {
-  master_.Set<"LastTournamentViewLoaded">(std::string(value));
+  master_.Set<"LastTournamentViewLoaded">(value);
 }
 std::string ProgramClass::MiscTourTextFieldName(int i) const {
   return Trimmed(master_.Get<"MiscTourTextFieldName">(i));
 }
 void ProgramClass::SetMiscTourTextFieldName(int i, std::string_view value) {
-  master_.Set<"MiscTourTextFieldName">({i}, std::string(value));
+  master_.Set<"MiscTourTextFieldName">({i}, value);
 }
 std::string ProgramClass::MiscTextFieldName(int i) const {
   return Trimmed(master_.Get<"MiscTextFieldName">(i));
 }
 void ProgramClass::SetMiscTextFieldName(int i, std::string_view value) {
-  master_.Set<"MiscTextFieldName">({i}, std::string(value));
+  master_.Set<"MiscTextFieldName">({i}, value);
 }
 std::string ProgramClass::MiscDateFieldName(int i) const {
   return Trimmed(master_.Get<"MiscDateFieldName">(i));
 }
 void ProgramClass::SetMiscDateFieldName(int i, std::string_view value) {
-  master_.Set<"MiscDateFieldName">({i}, std::string(value));
+  master_.Set<"MiscDateFieldName">({i}, value);
 }
 std::string ProgramClass::MiscCurrFieldName(int i) const {
   return Trimmed(master_.Get<"MiscCurrFieldName">(i));
 }
 void ProgramClass::SetMiscCurrFieldName(int i, std::string_view value) {
-  master_.Set<"MiscCurrFieldName">({i}, std::string(value));
+  master_.Set<"MiscCurrFieldName">({i}, value);
 }
 
 void ProgramClass::OpenRosterListFile() {
@@ -123,17 +123,17 @@ void ProgramClass::DeleteRosterRecord(std::int32_t roster) {
 void ProgramClass::SetIsRosterActive(bool value) { roster_.Set<"IsRosterActive">(value ? -1 : 0); }
 std::string ProgramClass::ClubName() const { return Trimmed(roster_.Get<"ClubName">()); }
 void ProgramClass::SetClubName(std::string_view value) {
-  roster_.Set<"ClubName">(std::string(value));
+  roster_.Set<"ClubName">(value);
 }
 std::string ProgramClass::ClubAddress(int i) const {
   return Trimmed(roster_.Get<"ClubAddress">(i));
 }
 void ProgramClass::SetClubAddress(int i, std::string_view value) {
-  roster_.Set<"ClubAddress">({i}, std::string(value));
+  roster_.Set<"ClubAddress">({i}, value);
 }
 std::string ProgramClass::ClubPhone() const { return Trimmed(roster_.Get<"ClubPhone">()); }
 void ProgramClass::SetClubPhone(std::string_view value) {
-  roster_.Set<"ClubPhone">(std::string(value));
+  roster_.Set<"ClubPhone">(value);
 }
 
 }  // namespace golf

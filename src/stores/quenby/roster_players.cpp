@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 #include "core/number_text.h"
@@ -35,10 +36,13 @@ std::int16_t PreferredTimeNumber(std::string_view name) {
       found == kPreferredTimes.end() ? 0 : found - kPreferredTimes.begin());
 }
 
+std::int64_t CurrencyInCents(std::int64_t value) {
+  const std::int64_t rest = value % 100;
+  return value / 100 + (rest >= 50 ? 1 : 0) - (rest <= -50 ? 1 : 0);
+}
+
 std::string FormatCurrency(std::int64_t value) {
-  const auto magnitude =
-      value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
-  const std::uint64_t cents = magnitude / 100 + (magnitude % 100 >= 50 ? 1 : 0);
+  const std::int64_t cents = std::abs(CurrencyInCents(value));
   const std::string digits = std::to_string(100 + cents % 100);
   return (value < 0 ? "-" : "") + std::to_string(cents / 100) + "." + digits.substr(1);
 }
@@ -173,7 +177,7 @@ std::string RosterPlayers::Flight() {
   return player_.Get<"Flight">();
 }
 
-void RosterPlayers::SetFlight(std::string_view value) { player_.Set<"Flight">(std::string(value)); }
+void RosterPlayers::SetFlight(std::string_view value) { player_.Set<"Flight">(value); }
 
 std::int16_t RosterPlayers::GroupTee() {
   const int group = player_.Get<"GroupTee">();

@@ -150,11 +150,11 @@ class RosterPlayers {
   }
   template <FieldName kName>
   void SetText(std::string_view value) {
-    player_.Set<kName>(std::string(Trim(value)));
+    player_.Set<kName>(Trim(value));
   }
   template <FieldName kName>
   void SetText(int n, std::string_view value) {
-    player_.Set<kName>({n}, std::string(Trim(value)));
+    player_.Set<kName>({n}, Trim(value));
   }
   template <FieldName kName>
   bool IsFlagged() const {
@@ -178,7 +178,8 @@ class RosterPlayers {
 std::string PreferredTimeName(int number);
 std::int16_t PreferredTimeNumber(std::string_view name);
 
-// An amount times 10000 in the format "0.00".
+// An amount times 10000 in whole cents, half away from zero, and in the format "0.00".
+std::int64_t CurrencyInCents(std::int64_t value);
 std::string FormatCurrency(std::int64_t value);
 
 }  // namespace golf

@@ -17,7 +17,9 @@ constexpr float kNewTeeTime = std::bit_cast<float>(std::uint32_t{0x3F355555});  
 
 }  // namespace
 
-int TeamRecords::RoundOr(OptionalRound round) const { return state_.Tournament().RoundOr(round); }
+int TeamRecords::RoundOr(OptionalRound round) const {
+  return state_.TournamentRecord().RoundOr(round);
+}
 
 void TeamRecords::OpenTeamFile(std::int32_t tournament) {
   state_.files.Close(file_);
@@ -66,9 +68,9 @@ void TeamRecords::BlankTeamRecord() {
 
 std::string TeamRecords::LastNamesOfPlayers() {
   // Nobody plays for a team that the tournament does not count.
-  if (number_ < 1 || number_ > std::stoi(state_.Tournament().NumTeams())) return {};
+  if (number_ < 1 || number_ > std::stoi(state_.TournamentRecord().NumTeams())) return {};
   if (RoundOr({}) < 1 || RoundOr({}) > kRounds) return {};
-  TournamentPlayers& player = state_.Player();
+  TournamentPlayers& player = state_.PlayerRecords();
   std::string names;
   const std::int32_t count = player.TourIndexNumberofPlayersInIndex();
   const std::int32_t first = player.TourIndex1stPlayerOnTeam(number_);
@@ -82,18 +84,18 @@ std::string TeamRecords::LastNamesOfPlayers() {
 
 std::string TeamRecords::TeamName() {
   std::string names;
-  if (EqualIgnoringCase(state_.Tournament().TeamNamesMat(), kNamedByPlayers)) {
+  if (EqualIgnoringCase(state_.TournamentRecord().TeamNamesMat(), kNamedByPlayers)) {
     names = LastNamesOfPlayers();
   }
   return names.empty() ? std::string(Trim(record_.Get<"TeamName">())) : names;
 }
 
 void TeamRecords::SetTeamName(std::string_view value) {
-  record_.Set<"TeamName">(std::string(Trim(value)));
+  record_.Set<"TeamName">(Trim(value));
 }
 std::string TeamRecords::Sponsor() const { return std::string(Trim(record_.Get<"Sponsor">())); }
 void TeamRecords::SetSponsor(std::string_view value) {
-  record_.Set<"Sponsor">(std::string(Trim(value)));
+  record_.Set<"Sponsor">(Trim(value));
 }
 
 std::string TeamRecords::Flight(OptionalRound round) {
@@ -127,20 +129,20 @@ std::string TeamRecords::TeeStartHole(OptionalRound round) {
   return std::string(Trim(record_.Get<"TeeStartHole">(of)));
 }
 void TeamRecords::SetTeeStartHole(OptionalRound round, std::string_view value) {
-  record_.Set<"TeeStartHole">({RoundOr(round)}, std::string(value));
+  record_.Set<"TeeStartHole">({RoundOr(round)}, value);
 }
 
 std::string TeamRecords::Cart1(OptionalRound round) const {
   return std::string(Trim(record_.Get<"Cart1">(RoundOr(round))));
 }
 void TeamRecords::SetCart1(OptionalRound round, std::string_view value) {
-  record_.Set<"Cart1">({RoundOr(round)}, std::string(value));
+  record_.Set<"Cart1">({RoundOr(round)}, value);
 }
 std::string TeamRecords::Cart2(OptionalRound round) const {
   return std::string(Trim(record_.Get<"Cart2">(RoundOr(round))));
 }
 void TeamRecords::SetCart2(OptionalRound round, std::string_view value) {
-  record_.Set<"Cart2">({RoundOr(round)}, std::string(value));
+  record_.Set<"Cart2">({RoundOr(round)}, value);
 }
 
 std::int16_t TeamRecords::CourseNumberPlayed(OptionalRound round) const {

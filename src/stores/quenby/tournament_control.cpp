@@ -131,7 +131,7 @@ void TournamentControl::MakeTeams(std::int32_t tournament) {
 std::string TournamentControl::Name() const { return std::string(Trim(record_.Get<"Name">())); }
 
 void TournamentControl::SetName(std::string_view value) {
-  record_.Set<"Name">(std::string(Trim(value)));
+  record_.Set<"Name">(Trim(value));
 }
 
 void TournamentControl::SetNumTeams(double value) {
@@ -262,7 +262,7 @@ void TournamentControl::SetTeamFlightRange(int i, double value) {
 }
 
 std::int32_t TournamentControl::NumPlayersInTournament() {
-  return state_.Player().TourNumberofPlayersInTournament();
+  return state_.PlayerRecords().TourNumberofPlayersInTournament();
 }
 
 }  // namespace golf

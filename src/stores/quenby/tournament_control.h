@@ -167,6 +167,9 @@ class TournamentControl {
   // Live entries of the open player file; its buffers hold the last one read.
   std::int32_t NumPlayersInTournament();
 
+  // The record as it stands, for whoever calculates with its numbers; nothing is mended.
+  const Record<TournamentLayout>& Stored() const { return record_; }
+
  protected:
   SharedState& state() const { return state_; }
 

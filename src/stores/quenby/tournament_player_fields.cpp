@@ -74,17 +74,17 @@ void TournamentPlayers::SetTourScoreTransferredtoKV(int round, bool value) {
 std::string TournamentPlayers::TourFlight(OptionalRound round) {
   const int of = RoundOr(round);
   const int flight = static_cast<unsigned char>(entry_.Get<"TourFlight">(of)[0]);
-  const int last = 64 + std::stoi(state().Tournament().NumFlights());
+  const int last = 64 + std::stoi(state().TournamentRecord().NumFlights());
   if (flight < 'A' || flight > last) entry_.Set<"TourFlight">({of}, "A");
   return entry_.Get<"TourFlight">(of);
 }
 void TournamentPlayers::SetTourFlight(OptionalRound round, std::string_view value) {
-  entry_.Set<"TourFlight">({RoundOr(round)}, std::string(value));
+  entry_.Set<"TourFlight">({RoundOr(round)}, value);
 }
 
 std::int16_t TournamentPlayers::TourGroupTee(OptionalRound round) {
   const int of = RoundOr(round);
-  TournamentControl& tournament = state().Tournament();
+  TournamentControl& tournament = state().TournamentRecord();
   const int groups =
       std::stoi(sex() == "F" ? tournament.NumTeesLadiesPlay() : tournament.NumTeesMenPlay());
   const int group = entry_.Get<"TourGroupTee">(of);
@@ -115,7 +115,7 @@ std::string TournamentPlayers::TourReportFlags(OptionalRound round) const {
   return entry_.Get<"TourReportFlags">(RoundOr(round));
 }
 void TournamentPlayers::SetTourReportFlags(OptionalRound round, std::string_view value) {
-  entry_.Set<"TourReportFlags">({RoundOr(round)}, std::string(Trim(value)));
+  entry_.Set<"TourReportFlags">({RoundOr(round)}, Trim(value));
 }
 std::string TournamentPlayers::TourCartString(OptionalRound round) const {
   return TourCart(round) != 0 ? "Y" : " ";
@@ -139,13 +139,13 @@ std::string TournamentPlayers::TourGroupText(OptionalRound round) const {
   return std::string(Trim(entry_.Get<"TourGroupText">(RoundOr(round))));
 }
 void TournamentPlayers::SetTourGroupText(OptionalRound round, std::string_view value) {
-  entry_.Set<"TourGroupText">({RoundOr(round)}, std::string(Trim(value)));
+  entry_.Set<"TourGroupText">({RoundOr(round)}, Trim(value));
 }
 std::string TournamentPlayers::TourMiscInTourText(int n) const {
   return std::string(Trim(entry_.Get<"TourMiscInTourText">(n)));
 }
 void TournamentPlayers::SetTourMiscInTourText(int n, std::string_view value) {
-  entry_.Set<"TourMiscInTourText">({n}, std::string(Trim(value)));
+  entry_.Set<"TourMiscInTourText">({n}, Trim(value));
 }
 
 std::int16_t TournamentPlayers::TourPutts(OptionalRound round) const {

@@ -31,7 +31,7 @@ auto& OfRound(Tables& tables, std::int64_t round) {
 }  // namespace
 
 int TournamentPlayers::RoundOr(OptionalRound round) const {
-  return state().Tournament().RoundOr(round);
+  return state().TournamentRecord().RoundOr(round);
 }
 
 void TournamentPlayers::TourOpenTournamentFile(std::int32_t tournament) {
@@ -134,7 +134,7 @@ void TournamentPlayers::RefreshIndex() {
 }
 
 void TournamentPlayers::IndexPlayersByTeam() {
-  TournamentControl& tournament = state().Tournament();
+  TournamentControl& tournament = state().TournamentRecord();
   const int teams = std::stoi(tournament.NumTeams());
   const std::int32_t length = TourFileLength();
   for (auto& table : players_by_team_) table.assign(static_cast<std::size_t>(length) + 1, 0);

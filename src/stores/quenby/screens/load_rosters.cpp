@@ -6,8 +6,8 @@
 #include "core/resume_next.h"
 #include "core/text.h"
 #include "scoring/grid_sort.h"
+#include "scoring/player_class.h"
 #include "stores/quenby/program_class.h"
-#include "stores/quenby/tournament_players.h"
 
 namespace golf {
 namespace {
@@ -111,7 +111,8 @@ void LoadRosters::LoadList() {
 }
 
 void LoadRosters::ShowRowButtons() {
-  const bool is_roster = grid1.active_row() > 1;
+  // The entry of all rosters is the first row, but for names that sort ahead of it.
+  const bool is_roster = grid1.active_row() > 1 && RosterInHand() > 0;
   EditButton.SetVisible(is_roster);
   DeleteButton.SetVisible(is_roster);
 }

@@ -1,0 +1,142 @@
+// The golfer transfer from Kelvane to Quenby as a whole process: as many golfers in a Kelvane
+// roster as in Quenby's file, half of them the same. Beside it a bare loop with one system call for
+// each record: Quenby's IDs read once, then each Kelvane golfer read and a Quenby record written.
+//
+// golfer_transfer [ROUNDS]            prints medians for 10,000 and for 30,000 golfers
+// golfer_transfer --bare-loop DIR     is the bare loop
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <numeric>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <unordered_map>
+
+#include "core/record.h"
+#include "stores/kelvane/kelvane_layouts.h"
+#include "stores/quenby/quenby_layouts.h"
+#include "whole_process.h"
+
+namespace golf::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+using KelvaneGolfer = Record<KelvaneGolferLayout>;
+using QuenbyGolfer = Record<PlayerLayout>;
+
+constexpr int kFirstRecord = 10;
+
+// IDs in no order; the first half of them stands in Quenby's file among others.
+void MakeInstall(const fs::path& folder, int golfers) {
+  fs::create_directories(folder / "kvdata");
+  fs::create_directories(folder / "qbdata");
+  std::vector<int> ids(static_cast<std::size_t>(golfers));
+  std::iota(ids.begin(), ids.end(), 1);
+  std::shuffle(ids.begin(), ids.end(), std::mt19937(1));
+  std::ofstream kelvane(folder / "kvdata" / "CLUB.KVG", std::ios::binary);
+  std::ofstream quenby(folder / "qbdata" / "QBGOLFER.Q9D", std::ios::binary);
+  quenby << std::string((kFirstRecord - 1) * PlayerLayout::kLength, '\0');
+  for (const int id : ids) {
+    KelvaneGolfer golfer;
+    golfer.Set<"Status">(1);
+    golfer.Set<"IDNum">(id);
+    golfer.Set<"NameLast">("Golfer " + std::to_string(id));
+    golfer.Set<"HandicapText">("12");
+    golfer.Set<"Handicap">(12.0f);
+    kelvane << golfer.Bytes();
+    QuenbyGolfer player;
+    player.Set<"IDNum">(id % 2 == 0 ? id : id + golfers + 1);
+    quenby << player.Bytes();
+  }
+  Record<KelvaneHeaderLayout> header;
+  header.Set<"Holes">(18);
+  std::ofstream(folder / "kvdata" / "CLUB.KV5", std::ios::binary) << header.Bytes();
+  Record<RosterLayout> roster;
+  roster.Set<"IsRosterActive">(-1);
+  roster.Set<"ClubName">("Members");
+  std::ofstream(folder / "qbdata" / "QBROSTER.Q9D", std::ios::binary) << roster.Bytes();
+}
+
+void Need(bool worked) {
+  if (!worked) throw std::runtime_error("the bare loop failed");
+}
+
+int OpenFile(const fs::path& path, int flags) {
+  const int file = open(path.c_str(), flags);
+  Need(file >= 0);
+  return file;
+}
+
+int CountOf(int file, std::size_t length) {
+  return static_cast<int>(lseek(file, 0, SEEK_END) / static_cast<off_t>(length));
+}
+
+void BareLoop(const fs::path& folder) {
+  constexpr auto kFrom = static_cast<off_t>(KelvaneGolferLayout::kLength);
+  constexpr auto kTo = static_cast<off_t>(PlayerLayout::kLength);
+  constexpr off_t kId = FieldOf<PlayerLayout, "IDNum">().offset;
+  const int quenby = OpenFile(folder / "qbdata" / "QBGOLFER.Q9D", O_RDWR);
+  const int kelvane = OpenFile(folder / "kvdata" / "CLUB.KVG", O_RDONLY);
+  std::unordered_map<int, int> records;
+  int end = CountOf(quenby, PlayerLayout::kLength);
+  for (int record = kFirstRecord - 1; record < end; ++record) {
+    std::int32_t id = 0;
+    Need(pread(quenby, &id, sizeof id, record * kTo + kId) == sizeof id);
+    records.emplace(id, record);
+  }
+  KelvaneGolfer golfer;
+  QuenbyGolfer player;
+  const int golfers = CountOf(kelvane, KelvaneGolferLayout::kLength);
+  for (int place = 0; place < golfers; ++place) {
+    const auto from = golfer.MutableBytes();
+    const auto to = player.MutableBytes();
+    Need(pread(kelvane, from.data(), from.size(), place * kFrom) == kFrom);
+    player.Set<"IDNum">(golfer.Get<"IDNum">());
+    const auto found = records.find(golfer.Get<"IDNum">());
+    const int record = found == records.end() ? end++ : found->second;
+    Need(pwrite(quenby, to.data(), to.size(), record * kTo) == kTo);
+  }
+  close(quenby);
+  close(kelvane);
+}
+
+double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int golfers,
+                int rounds) {
+  const fs::path pristine = scratch.path() / "pristine";
+  MakeInstall(pristine, golfers);
+  const std::vector<Contender> contenders = {
+      {"golfers-kv-to-qb",
+       {GOLF_CLI, "--quiet", "--install", "{}", "golfers-kv-to-qb", "--roster", "CLUB", "--to",
+        "1"}},
+      {"bare loop", {own_path, "--bare-loop", "{}"}}};
+  const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
+  Print(std::to_string(golfers) + " golfers into a file of as many, half of them the same",
+        contenders, medians, 1);
+  fs::remove_all(pristine);
+  return medians[0].seconds;
+}
+
+}  // namespace
+}  // namespace golf::bench
+
+int main(int argc, char** argv) {
+  using namespace golf::bench;
+  if (argc == 3 && std::string(argv[1]) == "--bare-loop") {
+    BareLoop(argv[2]);
+    return 0;
+  }
+  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
+  const ScratchFolder scratch("bench-golfer-transfer");
+  const double small = RaceOver(scratch, argv[0], 10000, rounds);
+  const double large = RaceOver(scratch, argv[0], 30000, rounds);
+  std::printf("Three times the golfers take %.2f times as long.\n", large / small);
+  return 0;
+}

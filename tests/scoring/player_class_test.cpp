@@ -1,0 +1,279 @@
+#include "scoring/player_class.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "support/error_of.h"
+#include "support/scored_round.h"
+#include "support/test_host.h"
+
+namespace golf {
+namespace {
+
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr float kNotANumber = std::numeric_limits<float>::quiet_NaN();
+
+class PlayerClassTest : public testing::Test {
+ protected:
+  PlayerClass& Load() { return scored.Load(install.state()); }
+  int StrokesOf(PlayerClass& player, OptionalRound round = {}) {
+    int strokes = 0;
+    for (int hole = 1; hole <= kHoles; ++hole) strokes += player.TourHoleStrokes(hole, round);
+    return strokes;
+  }
+
+  TestInstall install;
+  ScoredRound scored;
+};
+
+TEST_F(PlayerClassTest, Handicaps) {
+  const struct {
+    bool from_index;
+    float value;  // the index, or the gross handicap
+    int slope;
+    float percent;
+    float adjustment;
+    bool decimals;
+    const char* gross;
+    const char* plus_form;
+    const char* value_form;
+    int strokes;
+  } kCases[] = {
+      {true, 10.4F, 125, 100, 0, false, "12", "12", "12", 12},
+      {true, 12, 113, 100, 0, false, "12", "12", "12", 12},
+      {true, 2.5F, 113, 100, 0, false, "3", "3", "3", 3},
+      {true, -2.5F, 113, 100, 0, false, "-2", "+2", "-2", -2},
+      {true, 20, 0, 100, 0, false, "0", "0", "0", 0},
+      {false, 20, 113, 90, 1, false, "20", "19", "19", 19},
+      {false, 40, 113, 100, 0, false, "40", "36", "36", 36},
+      {false, 12.49999F, 113, 100, 0, false, "13", "13", "13", 13},
+      {false, 12.6F, 113, 100, 0, true, "13", "12.60", "12.60", 13},
+      {false, 12.5F, 113, 100, 0, true, "13", "12.50", "12.50", 12},
+      {false, 13.5F, 113, 100, 0, true, "14", "13.50", "13.50", 14},
+      {false, -2, 113, 100, 0, true, "-2", "+2.00", "-2.00", -2},
+      {false, 0, 113, 100, -30, false, "0", "+30", "-30", -18},
+      {false, kInfinity, 113, 100, 0, false, "Infinity", "36", "36", 36},
+      {false, kNotANumber, 113, 100, 0, false, "NaN", "NaN", "NaN", 0},
+  };
+  for (const auto& c : kCases) {
+    scored.control.Set<"IndextoHandicap">(c.from_index ? -1 : 0);
+    scored.control.Set<"HandicapDecimalPlaces">(c.decimals ? -1 : 0);
+    scored.entry.Set<"TourIndex">({1}, c.value);
+    scored.entry.Set<"TourGrossHandicap">({1}, c.value);
+    scored.course.Fill<"slope">(c.slope);
+    scored.control.Fill<"TeeHandicapPercent">(c.percent);
+    scored.control.Fill<"TeeHandicapAdjustment">(c.adjustment);
+    PlayerClass& player = Load();
+    EXPECT_EQ(player.TourGrossHandicapValue(false), c.gross);
+    EXPECT_EQ(player.TourHandicap(), c.plus_form);
+    EXPECT_EQ(player.TourHandicapValue(), c.value_form);
+    EXPECT_EQ(StrokesOf(player), c.strokes) << c.value_form;
+  }
+}
+
+TEST_F(PlayerClassTest, AnIndexThatIsNoNumberIsAnErrorEachTime) {
+  scored.control.Set<"IndextoHandicap">(-1);
+  for (const float index : {kNotANumber, kInfinity, -kInfinity}) {
+    scored.entry.Fill<"TourIndex">(index);
+    PlayerClass& player = Load();
+    for (int time = 1; time <= 2; ++time) EXPECT_EQ(ErrorOf([&] { player.TourHandicap(); }), 6);
+  }
+}
+
+TEST_F(PlayerClassTest, ScoresPointsAndStatistics) {
+  scored.PlayInTurn(1, 18);
+  scored.entry.Fill<"TourGrossHandicap">(12);
+  PlayerClass& player = Load();
+  const auto gross = [&](int hole) { return std::get<std::string>(player.TourScoreGross(hole)); };
+  EXPECT_EQ(gross(2) + gross(19) + gross(20) + gross(21), "6454590");
+  EXPECT_EQ(player.TourScoreNet(1) + player.TourScoreNet(13), "45");
+  EXPECT_EQ(player.TourScoreNet(19) + player.TourScoreNet(20) + player.TourScoreNet(21), "364278");
+  EXPECT_EQ(player.TourPointsGross(1) + player.TourPointsGross(19) + player.TourPointsGross(21),
+            "1918");
+  EXPECT_EQ(player.TourPointsNet(3) + player.TourPointsNet(20) + player.TourPointsNet(21), "41334");
+  EXPECT_EQ(player.TourPBEStatsGross(2, 2) + player.TourPBEStatsGross(2, 21), "16");
+  EXPECT_EQ(player.TourPBEStatsNet(-1, 3) + player.TourPBEStatsNet(-1, 21), "14");
+  EXPECT_EQ(player.TourPBEStatsGross(2, 19), "0");
+  // Half a quota of 24 from 9 points; both halves a little off.
+  EXPECT_EQ(player.TourQuota(false), "24");
+  EXPECT_EQ(player.TourPointsQuotaResults(1) + player.TourPointsQuotaResults(3), "-3-6");
+  EXPECT_EQ(player.TourScoreAdjusted(), "90");
+  EXPECT_EQ(player.TourGrossTotalTiebreakUSGA(), "090,045,030,15,04");
+  EXPECT_EQ(player.TourNetTotalTiebreakUSGA(), "078,039,026,13,03");
+  EXPECT_EQ(player.TourNetTotalTiebreak1to18(),
+            "078,04,05,03,04,05,03,04,05,03,04,05,03,05,06,04,05,06,04");
+  EXPECT_EQ(player.TourGrossTotalTiebreak18to1(),
+            "090,04,06,05,04,06,05,04,06,05,04,06,05,04,06,05,04,06,05");
+}
+
+TEST_F(PlayerClassTest, HolesThatAreOutOfTheOrdinary) {
+  scored.PlayInTurn(1, 18);
+  for (const auto& [hole, score] : {std::pair{1, 99}, {2, 0}, {3, -5}, {4, 32767}}) {
+    scored.entry.Set<"TourScoreGross">({hole, 1}, static_cast<std::int16_t>(score));
+  }
+  scored.course.Set<"HolePar">({1, 5}, 90);
+  scored.course.Set<"StrkSqnc">({1, 1}, 19);
+  PlayerClass& player = Load();
+  const auto gross = [&](int hole) { return std::get<std::string>(player.TourScoreGross(hole)); };
+  EXPECT_EQ(gross(1) + gross(2) + gross(3) + gross(4), "F  F");
+  EXPECT_EQ(gross(19), std::to_string(99 - 5 + 32767 + 6 + 4 + 5 + 6 + 4));
+  EXPECT_EQ(player.TourScoreNet(2) + player.TourScoreNet(3) + player.TourScoreNet(1), "99");
+  EXPECT_EQ(player.TourPointsGross(5), "8");  // far below its par
+  EXPECT_EQ(player.TourPBEStatsGross(-5, 5) + player.TourPBEStatsGross(5, 21), "12");
+  EXPECT_EQ(player.TourHoleAdjusted(3.9), -5);
+  EXPECT_EQ(player.TourHoleAdjusted(1), 6);
+  EXPECT_TRUE(player.TourGrossTotalTiebreakHandicapHole().starts_with("32931,32886,00,-05,32767"));
+}
+
+TEST_F(PlayerClassTest, NineHolesOfATournamentOfNine) {
+  scored.control.Set<"RoundType">(9);
+  scored.control.Set<"RCGAESC">(-1);
+  scored.PlayInTurn(1, 9);
+  scored.entry.Fill<"TourGrossHandicap">(6);
+  scored.entry.Set<"TourScoreGross">({2, 1}, 9);
+  scored.entry.Set<"TourScoreGross">({10, 1}, 8);  // stored, but not of the round
+  PlayerClass& player = Load();
+  EXPECT_EQ(player.TourScoreNet(19) + player.TourScoreNet(20) + player.TourScoreNet(21), "42042");
+  EXPECT_EQ(player.TourScoreAdjusted(), "51");  // both long holes are cut to 6
+  EXPECT_EQ(player.TourGrossTotalTiebreakUSGA(), "056,030,15,04");
+  EXPECT_EQ(player.TourNetTotalTiebreakUSGA(), "042,026,13,03");
+  EXPECT_EQ(player.TourGrossTotalTiebreak1to18(), "056,05,09,04,05,06,04,05,06,04");
+}
+
+TEST_F(PlayerClassTest, TotalsOnly) {
+  scored.PlayInTurn(1, 18);
+  scored.control.Set<"ScoreEntryTotal">(-1);
+  scored.control.Set<"HandicapDecimalPlaces">(-1);
+  scored.entry.Set<"TourScoreGrossTotal">({1}, 95);
+  scored.entry.Set<"TourScoreAdjusted">({1}, 93);
+  scored.entry.Fill<"TourGrossHandicap">(12.5);
+  PlayerClass& player = Load();
+  EXPECT_EQ(player.TourScoreGross(1), TextOrNumber(0));
+  EXPECT_EQ(player.TourScoreGross(19), TextOrNumber("0"));
+  EXPECT_EQ(player.TourScoreGross(21), TextOrNumber("95"));
+  EXPECT_EQ(player.TourScoreNet(1) + player.TourScoreNet(21), "82.50");
+  EXPECT_EQ(player.TourGrossTotalTiebreakUSGA(), "095,000,000,00,00");
+  EXPECT_TRUE(player.TourNetTotalTiebreak1to18().starts_with("082,00,"));  // a tie, to even
+  EXPECT_EQ(player.TourPointsNet(21) + player.TourPBEStatsGross(1, 21), "00");
+  EXPECT_EQ(player.TourScoreAdjusted(), "93");
+}
+
+TEST_F(PlayerClassTest, TotalsOverRounds) {
+  scored.control.Set<"HandicapDecimalPlaces">(-1);
+  scored.control.Set<"ActiveRound">(3);
+  scored.control.Set<"PointQuotaOption">(3);
+  for (int round = 1; round <= 3; ++round) {
+    scored.PlayInTurn(round, 18);
+    scored.entry.Set<"TourPutts">({round}, 30);
+    scored.entry.Set<"TourEarnings">({round}, 100050);
+  }
+  scored.entry.Fill<"TourGrossHandicap">(12.5);
+  scored.entry.Fill<"TourQuota">(20.5);
+  PlayerClass& player = Load();
+  EXPECT_EQ(player.TourTotalGross() + player.TourTotalNet(), "270233");  // 232.5, away from zero
+  EXPECT_EQ(player.TourTotalNet(2, 3) + player.TourTotalNet(3), "15578");
+  EXPECT_EQ(player.TourTotalGross({}, 1), "270");  // without a start the end is not looked at
+  EXPECT_EQ(player.TourTotalQuotaResults() + player.TourTotalPutts(), "-7.5090");
+  EXPECT_EQ(player.TourTotalEarnings(), "30.03");  // each counts in whole cents
+  EXPECT_EQ(player.TourTotalGross(3, 2), "0");
+  EXPECT_EQ(ErrorOf([&] { player.TourTotalGross(7, 8); }), 9);
+}
+
+TEST_F(PlayerClassTest, ARoundIsWorkedOutOnceForEachRead) {
+  scored.PlayInTurn(1, 18);
+  scored.entry.Set<"TourGrossHandicap">({1}, 12);
+  scored.entry.Set<"TourGrossHandicap">({2}, 3);
+  PlayerClass& player = Load();
+  EXPECT_EQ(StrokesOf(player, 1), 12);
+  player.SetTourGrossHandicap(1, 5);
+  EXPECT_EQ(player.TourHandicap(), "12");
+  // The quota of round 2 is made from round 1, and its strokes stay those of the round before.
+  EXPECT_EQ(player.TourQuota(false, 2), "24");
+  player.TourHandicap(2);
+  EXPECT_EQ(StrokesOf(player, 1), 3);
+  player.CalculateSetToRecalculate();
+  EXPECT_EQ(player.TourHandicap(), "5");
+}
+
+TEST_F(PlayerClassTest, AnErrorLeavesTheRoundToBeWorkedOut) {
+  scored.PlayInTurn(1, 18);
+  scored.entry.Set<"TourGroupTee">({1}, 9);  // mended to 1
+  scored.control.Set<"TeeNumberPlayed">({0, 1, 1}, 0);
+  PlayerClass& player = Load();
+  for (int time = 1; time <= 2; ++time) EXPECT_EQ(ErrorOf([&] { player.TourScoreNet(21); }), 9);
+  install.state().Tournament().SetTeeNumberPlayed(0, 1, 1, 7);
+  EXPECT_EQ(ErrorOf([&] { player.TourScoreNet(21); }), 9);
+  EXPECT_EQ(player.TourCourseTeePlayedNumber(), 7);
+  install.state().Tournament().SetTeeNumberPlayed(0, 1, 1, 6);
+  EXPECT_EQ(player.TourScoreNet(21), "90");
+  for (const int round : {0, 8}) EXPECT_EQ(ErrorOf([&] { player.TourHandicap(round); }), 9);
+  for (const int hole : {0, 22}) EXPECT_EQ(ErrorOf([&] { player.TourScoreGross(hole); }), 9);
+  EXPECT_EQ(ErrorOf([&] { player.TourHoleStrokes(19); }), 9);
+}
+
+TEST_F(PlayerClassTest, CoursesAreReadOnceUntilTheyChange) {
+  PlayerClass& player = Load();
+  EXPECT_EQ(player.TourHolePar(18), 4);
+  const auto recalculated = [&] {
+    player.CalculateSetToRecalculate();
+    return player.TourHolePar(18);
+  };
+  const int before = install.platform->CountAll();
+  EXPECT_EQ(recalculated(), 4);
+  EXPECT_EQ(install.platform->CountAll(), before);
+  SharedState& state = install.state();
+  state.SpareCourse().OpenCourseFile();
+  state.SpareCourse().GetRecord(1);
+  state.SpareCourse().SetHolePar(1, 18, 5);
+  state.SpareCourse().SaveRecord(1);
+  EXPECT_EQ(recalculated(), 5);
+  scored.course.Set<"HolePar">({1, 18}, 3);  // by another program, seen with the next click
+  install.folder.Write("qbdata/qbcrs.dat", scored.course.Bytes());
+  state.files.Synchronize();
+  EXPECT_EQ(recalculated(), 3);
+  state.Tournament().SetCourseNumberPlayed(1, 5);
+  EXPECT_EQ(recalculated(), 0);
+  EXPECT_EQ(player.TourCoursePlayedName(), "**Invalid Course**");
+}
+
+TEST_F(PlayerClassTest, TeeTimesComeFromTheTeam) {
+  scored.entry.Set<"TourTeamOn">({1}, 3);
+  scored.entry.Set<"TourTeamOn">({2}, 201);
+  PlayerClass& player = Load();
+  TeamRecords& team = install.state().Team1();
+  team.BlankTeamRecord();
+  team.SetTeeStartHole(1, "2b");
+  team.SaveRecord(3);
+  team.BlankTeamRecord();
+  EXPECT_EQ(player.TourTeeTime(1) + player.TourTeeStartHole(1), "05:00 pm02B");
+  EXPECT_EQ(player.TourTeeTime(2) + player.TourTeeStartHole(2), "NoneNone");
+}
+
+TEST_F(PlayerClassTest, StatisticsOfATournament) {
+  scored.PlayInTurn(1, 12);
+  scored.entry.Fill<"TourGrossHandicap">(6);
+  PlayerClass& player = Load();
+  player.SetTourScoreGross(1, 1, 8);
+  player.SaveRecord(2, true);
+  player.TourBlankPlayerRecord();
+  player.SaveRecord(3, true);  // free, and so not counted
+  TournamentClass& tournament = install.state().Tournament();
+  tournament.CalculateTotals();
+  EXPECT_EQ(tournament.ScoreTotalGross(1), 13);
+  EXPECT_EQ(tournament.ScoreTotalNet(19), 2 * 45 + 3 - 12);
+  EXPECT_EQ(tournament.ScoreAverageGross(1) + tournament.ScoreAverageGross(19), "6.5046.50");
+  EXPECT_EQ(tournament.ScoreAverageGross(20) + tournament.ScoreAverageNet(13), "15.000.00");
+  EXPECT_EQ(tournament.ScoreHighNet(1), TextOrNumber(7));
+  EXPECT_EQ(tournament.ScoreLowGross(1), TextOrNumber(5));
+  EXPECT_EQ(tournament.ScoreLowGross(18), TextOrNumber(0));
+  EXPECT_EQ(tournament.ScoreHighGross(19), TextOrNumber(""));
+  EXPECT_EQ(tournament.ScorePBEStatsGross(2, 21), 8);
+  EXPECT_EQ(tournament.ScorePBEStatsNet(-1, 19), 4);
+  EXPECT_EQ(tournament.ScorePlayersThatPlayed(12), TextOrNumber(2));
+  EXPECT_EQ(tournament.ScorePlayersThatPlayed(20), TextOrNumber(""));
+  EXPECT_EQ(ErrorOf([&] { tournament.ScoreTotalGross(22); }), 9);
+}
+
+}  // namespace
+}  // namespace golf
