@@ -62,7 +62,7 @@ ScoredRound AnyRound(Dice& dice) {
   control.Set<"NumTeesLadiesPlay">(dice.From(-1, 6));
   for (int d = -5; d <= 5; ++d) control.Set<"PointsGiven">({d}, dice.Mostly(-3, 9, 9, {32767}));
   for (int sex = 0; sex <= 1; ++sex) {
-    control.Set<"HandicapMax">({sex}, dice.Of({36.0F, 36.0F, 99.0F, 18.45F, 9.125F, 0.0F, -3.0F}));
+    control.Set<"HandicapMax">({sex}, dice.Of({36.0F, 9e6F, 9e6F, 18.45F, 9.125F, -3.0F}));
   }
   any.golfer.Set<"Sex">(static_cast<std::uint8_t>(dice.From(0, 2)));
   for (int round = 1; round <= kRounds; ++round) {
@@ -72,12 +72,13 @@ ScoredRound AnyRound(Dice& dice) {
         control.Set<"TeeHandicapPercent">({sex, group, round},
                                           dice.Of({100.0F, 90.0F, 85.0F, 33.3F, 0.0F, -50.0F}));
         control.Set<"TeeHandicapAdjustment">({sex, group, round},
-                                             dice.Of({0.0F, 1.0F, -2.0F, 0.5F, 2.345F}));
+                                             dice.Of({0.0F, 1.0F, -2.5F, 2.345F, -0.777F}));
       }
     }
     any.entry.Set<"TourGroupTee">({round}, dice.From(0, 6));
     any.entry.Set<"TourIndex">({round}, dice.Handicap());
-    any.entry.Set<"TourGrossHandicap">({round}, dice.Handicap() * dice.Of({1.0F, 1.0F, 3.0F}));
+    // In the largest handicaps the width of each step shows.
+    any.entry.Set<"TourGrossHandicap">({round}, dice.Handicap() * dice.Of({1.0F, 1.0F, 29999.0F}));
     any.entry.Set<"TourQuota">({round}, dice.Handicap());
     any.entry.Set<"TourScoreGrossTotal">({round}, dice.Mostly(60, 120, 5, {0, -1, 32767}));
     any.entry.Set<"TourScoreAdjusted">({round}, dice.Mostly(60, 120, 5, {0, -1, 32767}));
@@ -224,7 +225,8 @@ std::string QuotaText(const ScoredRound& all, int round) {
 
 template <class T, class U>
 void Same(const char* what, int place, const T& given, const U& plain) {
-  RC_LOG() << what << " " << place << "\n";
+  if (given == plain) return;
+  RC_LOG() << what << " " << place;
   RC_ASSERT(given == plain);
 }
 
