@@ -26,7 +26,8 @@ class Dice {
     return values.begin()[random_() % values.size()];
   }
   std::int16_t From(int low, int high) {
-    return static_cast<std::int16_t>(low + static_cast<int>(random_() % (high - low + 1U)));
+    return static_cast<std::int16_t>(
+        low + static_cast<int>(random_() % static_cast<unsigned>(high - low + 1)));
   }
   // A usual number; one time in `n` an odd one.
   std::int16_t Mostly(int low, int high, int n, std::initializer_list<int> odd) {
@@ -127,18 +128,16 @@ int Capped(int flag, float handicap, int par, int score) {
 
 // The places 19 to 21 hold the sums.
 struct PlainRound {
-  using ByHole = std::array<int, 22>;
-
   PlainRound(const ScoredRound& all, int round);
 
   std::string HandicapText() const { return Text(handicap, decimals); }
-  void GiveStrokes(const ByHole& rank, int given);
+  void GiveStrokes(const ByHole<int>& rank, int given);
 
   int holes, decimals;
   bool totals_only;
   float gross_handicap, handicap, decimal_net;
   int adjusted = 0;
-  ByHole score{}, par{}, strokes{}, gross{}, net{}, gross_points{}, net_points{};
+  ByHole<int> score, par, strokes, gross, net, gross_points, net_points;
 };
 
 PlainRound::PlainRound(const ScoredRound& all, int round)
@@ -165,7 +164,7 @@ PlainRound::PlainRound(const ScoredRound& all, int round)
   const double most = std::round(all.control.Get<"HandicapMax">(sex) * 100.0) / 100;
   if (handicap > most) handicap = static_cast<float>(most);
 
-  ByHole rank{};
+  ByHole<int> rank;
   const int flag = holes + (all.control.Get<"RCGAESC">() != 0 ? 10 : 0);
   for (int hole = 1; hole <= 18; ++hole) {
     score[hole] = all.entry.Get<"TourScoreGross">(hole, round);
@@ -199,7 +198,7 @@ PlainRound::PlainRound(const ScoredRound& all, int round)
   }
 }
 
-void PlainRound::GiveStrokes(const ByHole& rank, int given) {
+void PlainRound::GiveStrokes(const ByHole<int>& rank, int given) {
   const int step = holes == 9 ? 9 : 18;
   for (int r = 1; r <= 18; ++r) {
     for (int hole = 1; hole <= holes; ++hole) {
@@ -281,7 +280,7 @@ RC_GTEST_PROP(ScoringProperties, ARoundIsWhatPlainReckoningMakesIt, ()) {
 RC_GTEST_PROP(ScoringProperties, StrokeControlCapsAsPlainReckoningDoes, ()) {
   Dice dice(*rc::gen::arbitrary<unsigned>());
   ESCClass control;
-  std::array<int, 19> adjusted{};  // kept under a scheme that is none
+  ByHole<int> adjusted;  // kept under a scheme that is none
   for (int times = 0; times < 50; ++times) {
     const int flag = dice.Of({0, 9, 18, 19, 28, 100, 119, 219, 319, 7});
     const float handicap = dice.Handicap();
