@@ -1,10 +1,13 @@
 #include "cli/picker_presses.h"
 
+#include <algorithm>
+
 #include "cli/commands.h"
 #include "core/code_page.h"
 #include "core/text.h"
 #include "stores/kelvane/screens/load_roster.h"
 #include "stores/quenby/screens/load_rosters.h"
+#include "stores/zandel/zandel_files.h"
 
 namespace golf {
 namespace {
@@ -32,11 +35,25 @@ void PickKelvaneRoster(HeadlessHost& host, Screen& picker, const std::string& na
 
 void PickQuenbyRoster(HeadlessHost& host, Screen& picker, int number) {
   auto& rosters = dynamic_cast<LoadRosters&>(picker);
+  constexpr int kMostRoster = 999;  // a transfer keeps three digits of the number
+  if (number > kMostRoster) throw Refusal("A roster above 999 cannot be transferred to.");
   const std::string key = std::to_string(number == 0 ? -1 : number);
   if (!ChooseRow(host, picker, rosters.grid1, 0, key)) {
     throw Refusal("Quenby has no roster " + std::to_string(number) + ".");
   }
   host.Press(picker, "LoadButton");
+}
+
+void PickLeague(HeadlessHost& host, Screen& screen, std::string_view finder, LeaguePicker& picker,
+                const std::string& base) {
+  const auto& items = picker.LeagueList.items();
+  const auto item = std::find_if(items.begin(), items.end(), [&](const std::string& listed) {
+    return EqualIgnoringCase(LeagueBase(listed), base);
+  });
+  if (item == items.end()) throw Refusal("There is no league " + Utf8FromText(base) + ".");
+  host.Press(screen, finder);
+  host.Operate(screen, [&] { picker.LeagueList.Select(static_cast<int>(item - items.begin())); });
+  host.Press(screen, "OKLEague");
 }
 
 void Tick(HeadlessHost& host, Screen& screen, CheckBox& box, const std::string& why) {
