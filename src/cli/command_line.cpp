@@ -70,6 +70,7 @@ struct Arguments {
   ResultsRequest results;
   GolfersKvToZdRequest golfers_kv_to_zd;
   GolfersZdToQbRequest golfers_zd_to_qb;
+  CourseRequest course;
   std::string script;
   bool start_programs = false;
 };
@@ -148,6 +149,26 @@ void AddGolfersZdToQb(CLI::App& app, const Options& options, GolfersZdToQbReques
   command->add_flag("--subs", request.substitutes, "The league's substitutes as well");
 }
 
+void AddLibrary(CLI::App& command, std::string& library) {
+  command.add_option("--library", library, "Whose courses: kv, qb or zd; kv if left out")
+      ->check(CLI::IsMember({"kv", "qb", "zd"}));
+}
+
+void AddCourse(CLI::App& app, const Options& options, CourseRequest& request, Command& chosen) {
+  CLI::App* course = app.add_subcommand("course", "Show a course, or look a library over");
+  course->require_subcommand(1);
+  CLI::App* show = AddCommand(*course, "show", "Show a course with the scorecards of its tees",
+                              "--install golf-demo course show 1 --library qb", chosen,
+                              [&] { return RunCourseShow(options, request); });
+  show->add_option("N", request.number, "The course, as in list courses")->required();
+  CLI::App* check = AddCommand(*course, "check",
+                               "Hold every active tee against the rules: a line for each finding, "
+                               "and exit code 1 if there is one",
+                               "--install golf-demo course check --library qb", chosen,
+                               [&] { return RunCourseCheck(options, request); });
+  for (CLI::App* command : {show, check}) AddLibrary(*command, request.library);
+}
+
 void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
   AddCommand(app, "demo", "Make a demonstration install in an empty or new folder",
              "demo golf-demo", chosen, [&] { return RunDemo(options, args.demo_folder); })
@@ -160,8 +181,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   list->add_option("WHAT", args.list.what, "What to list")
       ->required()
       ->check(CLI::IsMember(ListNames()));
-  list->add_option("--library", args.list.library, "Whose courses: kv, qb or zd; kv if left out")
-      ->check(CLI::IsMember({"kv", "qb", "zd"}));
+  AddLibrary(*list, args.list.library);
   list->add_option("--league", args.list.league, "Whose events: a base that list leagues shows")
       ->type_name("BASE");
   list->parse_complete_callback([&args] {
@@ -198,6 +218,8 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   results->add_option("--layout", args.results.layout, "The layout of custom results")
       ->type_name("NAME");
   results->add_flag("--csv", args.results.csv, "A line an entry, with a heading");
+
+  AddCourse(app, options, args.course, chosen);
 
   AddCommand(app, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
              "--install golf-demo courses-kv-to-qb", chosen,

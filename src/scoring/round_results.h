@@ -18,11 +18,11 @@ inline constexpr int kSecondNine = 20;
 inline constexpr int kWholeRound = 21;
 
 // The holes that an entry of what stands by hole covers.
-struct HoleRange {
+struct CoveredHoles {
   int first;
   int last;
 };
-constexpr HoleRange HolesOf(int entry) {
+constexpr CoveredHoles HolesOf(int entry) {
   return {.first = entry == kSecondNine                          ? 10
                    : entry == kFirstNine || entry == kWholeRound ? 1
                                                                  : entry,

@@ -9,16 +9,6 @@ namespace golf {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::int64_t kMostBytes = 1 << 20;  // more is no settings file
-
-std::string ReadWhole(FileTable& files, const std::string& path) {
-  const int number = files.FreeNumber();
-  files.Open(number, path, kMostBytes, FileAccess::kReadOnly);
-  std::string text(static_cast<std::size_t>(std::min(files.Length(number), kMostBytes)), '\0');
-  files.ReadBytes(number, 1, text);
-  files.Close(number);
-  return text;
-}
 
 }  // namespace
 
@@ -68,7 +58,7 @@ std::string_view SettingsReader::RestOfLine() {
 SettingsReader ReadSettingsFile(SharedState& state, const std::string& path) {
   std::string text;
   const ResumeNext silently(nullptr);
-  if (state.remembers_settings) silently([&] { text = ReadWhole(state.files, path); });
+  if (state.remembers_settings) silently([&] { text = state.files.ReadText(path); });
   return SettingsReader(std::move(text));
 }
 
