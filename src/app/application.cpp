@@ -7,6 +7,9 @@
 #include "core/entry.h"
 #include "scoring/player_class.h"
 #include "scoring/screens/grid_sort_screen.h"
+#include "scoring/screens/team_layout_builder.h"
+#include "scoring/screens/team_layout_list.h"
+#include "scoring/screens/team_results_screen.h"
 #include "scoring/stroke_control.h"
 #include "scoring/team_class.h"
 #include "scoring/tournament_class.h"
@@ -82,6 +85,9 @@ ScreenCatalogue Application::Screens() {
           {"CourseTable", Make<CourseTable>},
           {"CourseForm", Make<CourseForm>},
           {"CourseTee", Make<CourseTee>},
+          {"TeamResults", Make<TeamResults>},
+          {"TeamLayouts", Make<TeamLayouts>},
+          {"XReportsCustomTeamResults", Make<XReportsCustomTeamResults>},
           {"KVCoursestoQB", Make<KVCoursestoQB>},
           {"KVtoQB", Make<KVtoQB>},
           {"KVtoZD", Make<KVtoZD>},
@@ -109,6 +115,9 @@ void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,
     throw NumberedError(ErrorNumber::kBadCall, "There is no screen " + std::string(name) + ".");
   }
   if (name == "CourseTable") return ShowCourseTable(state, host, word);
+  if (name == "XReportsCustomTeamResults") {
+    return OpenTeamLayoutBuilder(state, host, word == "new" ? "" : std::string(word));
+  }
   if (name == "LoadRosters") OpenForLoadRosters(state);
   OpenTransfer(state, host, name, word);
 }

@@ -43,33 +43,15 @@ void MakeActive(TournamentClass& tournament, int round) {
 
 }  // namespace
 
-void SortByScore(std::vector<ResultsRow>& rows) {
-  std::stable_sort(rows.begin(), rows.end(), [](const ResultsRow& a, const ResultsRow& b) {
-    return a.score && (!b.score || *a.score < *b.score);
-  });
-}
-
-void Place(std::vector<ResultsRow>& rows) {
-  SortByScore(rows);
-  std::size_t place = 0;
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    if (i == 0 || rows[i].score != rows[i - 1].score) place = i + 1;
-    rows[i].cells.push_back(rows[i].score ? std::to_string(place) : "");
-  }
-}
-
-void WriteRows(ResultsForm form, const std::vector<std::string>& headings,
-               std::vector<ResultsRow> rows) {
+void WriteStandings(ResultsForm form, const StandingsTable& table) {
   std::vector<std::vector<std::string>> lines;
-  for (ResultsRow& row : rows) lines.push_back(std::move(row.cells));
-  if (form == ResultsForm::kTable) return WriteTable(headings, lines);
-  lines.insert(lines.begin(), headings);
-  for (const auto& line : lines) {
-    for (std::size_t i = 0; i < line.size(); ++i) {
-      std::cout << (i > 0 ? "," : "") << CsvValue(line[i]);
-    }
-    std::cout << '\n';
+  for (const StandingsRow& row : table.rows) {
+    auto& line = lines.emplace_back(row.cells);
+    for (std::string& cell : line) cell = PlainCell(cell);
   }
+  if (form == ResultsForm::kTable) return WriteTable(table.headings, lines);
+  lines.insert(lines.begin(), table.headings);
+  for (const auto& line : lines) std::cout << CsvLine(line) << '\n';
 }
 
 void ResultsRun::Try(const std::function<void()>& show, const std::function<std::string()>& what,

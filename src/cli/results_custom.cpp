@@ -7,7 +7,7 @@
 #include "cli/results_command.h"
 #include "cli/results_teams.h"
 #include "core/code_page.h"
-#include "scoring/custom_standings.h"
+#include "scoring/standings_table.h"
 #include "scoring/tournament_class.h"
 
 namespace golf {
@@ -16,7 +16,8 @@ namespace {
 ReportLayout ReadLayout(ResultsRun& run) {
   ReportLayout layout;
   std::string problem;
-  const std::string path = run.state.StoreDataPath + TextFromUtf8(run.request.layout);
+  const std::string path =
+      run.state.StoreDataPath + TextFromUtf8(run.request.layout) + std::string(kLayoutExtension);
   if (!ReadReportLayout(run.state.files, path, layout, problem)) {
     throw Refusal(PlainText(problem));
   }
@@ -48,34 +49,6 @@ void WriteJson(const std::vector<CustomStanding>& standings) {
   }
 }
 
-std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
-
-std::vector<std::string> Headings(int rounds) {
-  std::vector<std::string> headings = {"Team", "Name", "Players"};
-  for (int round = 1; round <= rounds; ++round) {
-    const std::string of_round = " (Rnd #" + std::to_string(round) + ")";
-    for (const char* sum : {"Front", "Back", "Total"}) headings.push_back(sum + of_round);
-  }
-  headings.insert(headings.end(), {"Total", "Total Points", "Place"});
-  return headings;
-}
-
-// Ranked by the running total of the last round.
-ResultsRow RowOf(const CustomStanding& standing) {
-  ResultsRow row;
-  row.cells = {std::to_string(standing.TeamNumber), PlainCell(standing.TeamName),
-               PlainCell(standing.golfers)};
-  for (const auto& block : standing.Scores) {
-    for (std::size_t i = 0; i < 3; ++i) row.cells.push_back(Shown(block[i]));
-  }
-  const TeamBalls::Sum& total = standing.Scores.back().back();
-  row.cells.push_back(Shown(total));
-  row.cells.push_back(Shown(standing.Points.back().back()));
-  row.cells.push_back(total ? std::to_string(standing.Positions.back().back()) : "");
-  row.score = standing.Positions.back().back();
-  return row;
-}
-
 }  // namespace
 
 void ShowCustom(ResultsRun& run) {
@@ -90,10 +63,8 @@ void ShowCustom(ResultsRun& run) {
   });
   const std::vector<CustomStanding> worked_out = standings.WorkOut();
   if (run.form == ResultsForm::kJson) return WriteJson(worked_out);
-  std::vector<ResultsRow> rows;
-  for (const CustomStanding& standing : worked_out) rows.push_back(RowOf(standing));
-  SortByScore(rows);
-  WriteRows(run.form, Headings(std::stoi(run.state.Tournament().NumRounds())), std::move(rows));
+  StandingsTable table = CustomTable(worked_out, std::stoi(run.state.Tournament().NumRounds()));
+  WriteStandings(run.form, std::move(table));
 }
 
 }  // namespace golf

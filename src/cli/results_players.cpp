@@ -3,7 +3,6 @@
 #include <cmath>
 #include <utility>
 
-#include "cli/plain_text.h"
 #include "cli/results_command.h"
 #include "scoring/tournament_class.h"
 
@@ -13,28 +12,28 @@ namespace {
 const std::vector<std::string> kHeadings = {"Name",  "Handicap", "Out",    "In",
                                             "Total", "Net",      "Points", "Place"};
 
-std::string Utf8Of(const TextOrNumber& value) {
+std::string TextOf(const TextOrNumber& value) {
   const auto* text = std::get_if<std::string>(&value);
-  return text != nullptr ? PlainCell(*text) : std::to_string(std::get<std::int32_t>(value));
+  return text != nullptr ? *text : std::to_string(std::get<std::int32_t>(value));
 }
 
 // Without a score there is no more to show than the handicap.
-ResultsRow RowOf(PlayerClass& player, bool decimals) {
+StandingsRow RowOf(PlayerClass& player, bool decimals) {
   const RoundResults& results = player.Results();
-  ResultsRow row;
-  row.cells = {PlainCell(player.NameLF()), player.TourHandicap()};
+  StandingsRow row;
+  row.cells = {player.NameLF(), player.TourHandicap()};
   if (results.gross[kWholeRound] < 1) {
     row.cells.resize(kHeadings.size() - 1);
     return row;
   }
   for (const int sum : {kFirstNine, kSecondNine, kWholeRound}) {
-    row.cells.push_back(Utf8Of(player.TourScoreGross(sum)));
+    row.cells.push_back(TextOf(player.TourScoreGross(sum)));
   }
   row.cells.push_back(player.TourScoreNet(kWholeRound));
   row.cells.push_back(player.TourPointsNet(kWholeRound));
   const double net = results.net[kWholeRound];
   const double shown = decimals ? results.decimal_net : net;
-  if (std::isfinite(shown)) row.score = shown;
+  if (std::isfinite(shown)) row.rank = shown;
   return row;
 }
 
@@ -76,12 +75,12 @@ void WriteJson(ResultsRun& run) {
 void ShowPlayers(ResultsRun& run) {
   if (run.form == ResultsForm::kJson) return WriteJson(run);
   const bool decimals = run.state.Tournament().HandicapDecimalPlaces() > 0;
-  std::vector<ResultsRow> rows;
+  std::vector<StandingsRow> rows;
   ForEachPlayer(
       run, [&](std::int32_t) { rows.push_back(RowOf(run.state.Player(), decimals)); },
       [](std::int32_t, const NumberedError&) {});
-  Place(rows);
-  WriteRows(run.form, kHeadings, std::move(rows));
+  AddPlaces(rows);
+  WriteStandings(run.form, {kHeadings, std::move(rows)});
 }
 
 }  // namespace golf

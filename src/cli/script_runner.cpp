@@ -45,7 +45,7 @@ std::string CellText(const Grid& grid, int column, const std::string& text) {
   }
   if (grid.cell_type(column) != CellType::kDropDown) return text;
   for (const DropDownItem& item : grid.items(column)) {
-    if (item.text == text || item.code == text) return item.text;
+    if (item.text == text || item.code == text || item.cell == text) return item.CellText();
   }
   throw ScriptError("No item of the cell is \"" + text + "\".");
 }

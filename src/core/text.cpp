@@ -126,4 +126,10 @@ std::string CsvValue(std::string_view text) {
   return quoted + '"';
 }
 
+std::string CsvLine(const std::vector<std::string>& values) {
+  std::string line;
+  for (std::size_t i = 0; i < values.size(); ++i) line += (i > 0 ? "," : "") + CsvValue(values[i]);
+  return line;
+}
+
 }  // namespace golf

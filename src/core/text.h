@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace golf {
 
@@ -30,8 +31,10 @@ std::string FitText(std::string_view text, std::size_t width);
 // The last `count` characters, all of a shorter text.
 std::string_view LastCharacters(std::string_view text, std::size_t count);
 
-// A value of a line of CSV, in quotes where it needs them. UTF-8 is taken as well.
+// A value of a line of CSV, in quotes where it needs them, and a line without its end. UTF-8 is
+// taken as well.
 std::string CsvValue(std::string_view text);
+std::string CsvLine(const std::vector<std::string>& values);
 
 enum class ReplaceMode : int { kDigitsToMarks = 1, kIgnoringCase = 2, kExact = 3 };
 

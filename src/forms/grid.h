@@ -11,10 +11,14 @@ namespace golf {
 
 enum class CellType { kText, kCheckBox, kDropDown };
 
-// An item of a drop-down cell: what is shown, and the code that stands for it.
+// An item of a drop-down cell: what is shown, the code that stands for it, and what a cell holds
+// that shows it, if that is more than the text.
 struct DropDownItem {
   std::string text;
   std::string code;
+  std::string cell = {};
+
+  const std::string& CellText() const { return cell.empty() ? text : cell; }
 };
 
 // A table of text cells addressed by column and row. Columns count from 0, where column 0 is the

@@ -73,6 +73,9 @@ class HeadlessHost : public HostBase {
   void StartProgram(const std::string& path, const std::string& arguments) override;
   DateValue Now() override { return clock(); }
   void EndProcess() override;
+  void CopyText(const std::string& text) override { copied_ = text; }
+  // What was copied last.
+  const std::string& copied() const { return copied_; }
 
  protected:
   void Open(Screen& screen) override;
@@ -98,6 +101,7 @@ class HeadlessHost : public HostBase {
   std::list<QueuedAnswer> answers_;
   std::string taken_;
   std::string bad_answer_;
+  std::string copied_;
 };
 
 }  // namespace golf

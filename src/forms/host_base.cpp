@@ -1,6 +1,7 @@
 #include "forms/host_base.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace golf {
@@ -162,6 +163,11 @@ Font HostBase::ChooseFont(std::string_view title, const Font& current) {
 
 void HostBase::TellCount(std::string_view name, std::int64_t count) {
   counts_.emplace_back(name, count);
+}
+
+std::uint32_t HostBase::Seed() {
+  constexpr double kSecondsOfDay = 86400;
+  return static_cast<std::uint32_t>(std::llround(std::fmod(Now(), 10000) * kSecondsOfDay));
 }
 
 void HostBase::ForgetScreens() {

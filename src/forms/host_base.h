@@ -51,6 +51,7 @@ class HostBase : public ScreenHost {
   void TellFault(const NumberedError& fault) override { faults_.push_back(fault); }
   void TellRunEnded(const NumberedError& error) override { run_ended_by_ = error; }
   void EndProcess() override { ended_ = true; }
+  std::uint32_t Seed() override;
 
   bool in_run() const { return in_run_; }
   // What the runs so far have told.

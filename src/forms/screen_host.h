@@ -63,6 +63,10 @@ class ScreenHost {
   // Starts a program with its arguments and does not wait. Fails where it cannot be started.
   virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;
   virtual DateValue Now() = 0;
+  // Where made-up figures start from: the same at the same moment, so that a run can be repeated.
+  virtual std::uint32_t Seed() = 0;
+  // Puts a text where other programs can paste it from.
+  virtual void CopyText(const std::string& text) = 0;
   // Ends the process when the running event returns.
   virtual void EndProcess() = 0;
 };

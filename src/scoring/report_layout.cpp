@@ -197,17 +197,13 @@ std::string SecondFile(const ReportLayout& layout) {
   return to.TextWith(layout.behind[1]);
 }
 
-std::string FileOf(const std::string& path, char number) {
-  return path + std::string(kLayoutExtension) + number;
-}
-
 }  // namespace
 
 bool ReadReportLayout(FileTable& files, const std::string& path, ReportLayout& layout,
                       std::string& problem) {
   ReportLayout read;
   const auto read_file = [&](char number, void (*values)(LayoutReader&, ReportLayout&)) {
-    const std::string file = FileOf(path, number);
+    const std::string file = path + number;
     const std::size_t name = file.find_last_of("/\\") + 1;
     if (!files.FileExists(file)) {
       problem = "There is no file " + file.substr(name) + ".";
@@ -224,8 +220,8 @@ bool ReadReportLayout(FileTable& files, const std::string& path, ReportLayout& l
 }
 
 void WriteReportLayout(FileTable& files, const std::string& path, const ReportLayout& layout) {
-  files.gate().ReplaceText(FileOf(path, '1'), FirstFile(layout));
-  files.gate().ReplaceText(FileOf(path, '2'), SecondFile(layout));
+  files.gate().ReplaceText(path + '1', FirstFile(layout));
+  files.gate().ReplaceText(path + '2', SecondFile(layout));
 }
 
 bool FitsReportLayout(std::string_view text) {

@@ -75,8 +75,9 @@ void CopyForward(ReportLayout& layout);
 
 inline constexpr std::string_view kLayoutExtension = ".TR";
 
-// The layout in the files `path` ".TR1" and ".TR2". Where they are no layout, `problem` says why
-// and `layout` is as it was: false. Raises the errors of FileTable.
+// The layout in two files: `path`, which ends in the extension, and behind it "1" and "2". Where
+// they are no layout, `problem` says why and `layout` is as it was: false. Raises the errors of
+// FileTable.
 bool ReadReportLayout(FileTable& files, const std::string& path, ReportLayout& layout,
                       std::string& problem);
 void WriteReportLayout(FileTable& files, const std::string& path, const ReportLayout& layout);

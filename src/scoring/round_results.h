@@ -23,12 +23,10 @@ struct CoveredHoles {
   int last;
 };
 constexpr CoveredHoles HolesOf(int entry) {
-  return {.first = entry == kSecondNine                          ? 10
-                   : entry == kFirstNine || entry == kWholeRound ? 1
-                                                                 : entry,
-          .last = entry == kFirstNine                            ? 9
-                  : entry == kSecondNine || entry == kWholeRound ? 18
-                                                                 : entry};
+  if (entry == kFirstNine) return {1, 9};
+  if (entry == kSecondNine) return {10, 18};
+  if (entry == kWholeRound) return {1, 18};
+  return {entry, entry};
 }
 
 constexpr int NineOf(int hole) { return hole > 9 ? kSecondNine : kFirstNine; }

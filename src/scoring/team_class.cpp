@@ -18,17 +18,17 @@ const TeamRound& TeamClass::Results(OptionalRound round) {
   return results;
 }
 
-bool TeamClass::UsesDecimals() const { return state().Tournament().HandicapDecimalPlaces() > 0; }
+bool TeamClass::ShowsDecimals() const { return state().Tournament().HandicapDecimalPlaces() > 0; }
 
 std::string TeamClass::Handicap(OptionalRound round) {
-  return FormatPlusHandicap(Results(round).handicap, UsesDecimals());
+  return FormatPlusHandicap(Results(round).handicap, ShowsDecimals());
 }
 std::int32_t TeamClass::ScoreGross(int hole, OptionalRound round) {
   return Results(round).gross[hole];
 }
 double TeamClass::ScoreNet(int hole, OptionalRound round) {
   const TeamRound& results = Results(round);
-  if (hole > kHoles && UsesDecimals()) return results.decimal_net[hole];
+  if (hole > kHoles && ShowsDecimals()) return results.decimal_net[hole];
   return results.net[hole];
 }
 std::int32_t TeamClass::PointsGross(int hole, OptionalRound round) {
@@ -38,10 +38,10 @@ std::int32_t TeamClass::PointsNet(int hole, OptionalRound round) {
   return Results(round).net_points[hole];
 }
 std::string TeamClass::Quota(OptionalRound round) {
-  return FormatSignedHandicap(Results(round).quota, UsesDecimals());
+  return FormatSignedHandicap(Results(round).quota, ShowsDecimals());
 }
 std::string TeamClass::QuotaResults(int part, OptionalRound round) {
-  return FormatSignedHandicap(Results(round).quota_results[part], UsesDecimals());
+  return FormatSignedHandicap(Results(round).quota_results[part], ShowsDecimals());
 }
 
 std::string TeamClass::NameofPlayersOnTeam(int i, OptionalRound round) {

@@ -24,6 +24,9 @@ class TeamClass : public TeamRecords {
   // All that is worked out of a round, as numbers.
   const TeamRound& Results(OptionalRound round = {});
 
+  // Whether handicaps and the sums of net scores have decimals.
+  bool ShowsDecimals() const;
+
   std::string Handicap(OptionalRound round = {});
   std::int32_t ScoreGross(int hole, OptionalRound round = {});
   // A whole number, or for the sums of a tournament with decimals a single.
@@ -92,8 +95,6 @@ class TeamClass : public TeamRecords {
     float net = 0;
     float scramble_net = 0;
   };
-
-  bool UsesDecimals() const;
 
   // team_round.cpp
   void CalculateTeamRound(int round, TeamRound& results);

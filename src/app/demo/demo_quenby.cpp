@@ -137,7 +137,8 @@ void MakeLayout(SharedState& state, const std::string& name, const std::string& 
   layout.HeaderText = {name, "(Tournament Name)", "(Date - <RoundDate>)"};
   layout.fonts[0].size = "16";
   for (auto& hole : layout.places) hole[0] = codes;
-  WriteReportLayout(state.files, state.StoreDataPath + name, layout);
+  WriteReportLayout(state.files, state.StoreDataPath + name + std::string(kLayoutExtension),
+                    layout);
 }
 
 void MakeLayouts(SharedState& state) {
