@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "app/tools.h"
 #include "core/entry.h"
 #include "scoring/player_class.h"
 #include "scoring/screens/grid_sort_screen.h"
@@ -12,7 +13,6 @@
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
 #include "stores/course/course_class.h"
-#include "stores/course/course_library.h"
 #include "stores/course/screens/course_form.h"
 #include "stores/course/screens/course_table.h"
 #include "stores/course/screens/course_tee.h"
@@ -47,18 +47,6 @@ void OpenForLoadRosters(SharedState& state) {
   state.StoreDataPath = state.QBDataPath;
   state.Program().OpenRosterListFile();
   state.Player().OpenRosterFile();
-}
-
-// `program` says whose library it is.
-void ShowCourseTable(SharedState& state, ScreenHost& host, std::string_view program) {
-  const CourseLibrary* library = FindCourseLibrary(program);
-  if (library == nullptr) {
-    throw NumberedError(ErrorNumber::kBadCall,
-                        "There is no course library \"" + std::string(program) + "\".");
-  }
-  OpenCourseLibrary(state, *library);
-  host.ShowModal(host.Load("CourseTable"));
-  state.Course().CloseCourseFile();
 }
 
 template <class AnyScreen>

@@ -1,6 +1,7 @@
 #include "desktop/widgets.h"
 
-#include <wx/panel.h>
+#include <algorithm>
+#include <utility>
 
 #include "desktop/wx_text.h"
 
@@ -11,11 +12,32 @@ wxStaticText* NewText(wxWindow* parent, long style) {
   return new wxStaticText(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, style);
 }
 
+wxString TextToShow(const std::string& text, Shown shown) {
+  return WxText(shown == nullptr ? text : shown(text));
+}
+
+// Lists alike, whatever they look like.
+template <class Widget>
+void TieList(Binding& binding, List& control, Widget& widget, wxEventTypeTag<wxCommandEvent> chosen,
+             Shown shown) {
+  binding.Tie(control, widget, [&widget, &control, shown] {
+    wxArrayString items;
+    for (const std::string& item : control.items()) items.Add(TextToShow(item, shown));
+    if (widget.GetStrings() != items) widget.Set(items);
+    widget.SetSelection(control.index());
+  });
+  widget.Bind(chosen, [&binding, &control](wxCommandEvent& event) {
+    binding.Operate([&control, &event] { control.Select(event.GetSelection()); });
+  });
+}
+
 }  // namespace
 
-wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control) {
+wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Shown shown) {
   wxStaticText* text = NewText(parent, wxST_ELLIPSIZE_END);
-  binding.Tie(control, *text, [text, &control] { text->SetLabelText(WxText(control.caption())); });
+  binding.Tie(control, *text, [text, &control, shown] {
+    text->SetLabelText(TextToShow(control.caption(), shown));
+  });
   return text;
 }
 
@@ -52,7 +74,79 @@ wxCheckBox* MakeCheckBox(Binding& binding, wxWindow* parent, CheckBox& control) 
   return box;
 }
 
+wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& control, long style) {
+  auto* button = new wxRadioButton(parent, wxID_ANY, WxText(control.caption()), wxDefaultPosition,
+                                   wxDefaultSize, style);
+  binding.Tie(control, *button, [button, &control] { button->SetValue(control.value()); });
+  button->Bind(wxEVT_RADIOBUTTON, [&binding, &control](wxCommandEvent&) {
+    binding.Operate([&control] { control.Choose(true); });
+  });
+  return button;
+}
+
+wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown) {
+  auto* list = new wxListBox(parent, wxID_ANY);
+  TieList(binding, control, *list, wxEVT_LISTBOX, shown);
+  // What the screen does comes when the toolkit is done with the key or click, or a button that
+  // gets the focus would be pressed by it as well. One key can come as both events.
+  const auto soon = [list, &binding, &control](std::function<void()> event) {
+    list->CallAfter([&binding, &control, event = std::move(event)] {
+      if (control.IsShown()) binding.Operate(event);
+    });
+  };
+  list->Bind(wxEVT_LISTBOX_DCLICK, [soon, &control](wxCommandEvent&) {
+    if (control.on_double_click) soon(control.on_double_click);
+  });
+  list->Bind(wxEVT_CHAR_HOOK, [soon, &control](wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
+    if (!enter || !control.on_key) return event.Skip();
+    soon([&control] { control.on_key("Enter"); });
+  });
+  return list;
+}
+
+wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown) {
+  auto* choice = new wxChoice(parent, wxID_ANY);
+  TieList(binding, control, *choice, wxEVT_CHOICE, shown);
+  return choice;
+}
+
 namespace {
+
+const wxColour kNoteColour(176, 0, 32);
+const wxColour kNotedField(255, 224, 224);
+
+// A text set again would move the operator's cursor.
+template <class Entry>
+void ShowText(Entry& entry, const TextBox& control) {
+  const wxString text = WxText(control.text());
+  if (entry.GetValue() != text) entry.ChangeValue(text);
+  if (control.selected() > 0 && entry.HasFocus()) {
+    entry.SetSelection(0, static_cast<long>(control.selected()));
+  }
+}
+
+template <class Entry>
+void FollowText(Binding& binding, TextBox& control, Entry& entry) {
+  entry.Bind(wxEVT_TEXT, [&binding, &control](wxCommandEvent& event) {
+    binding.Operate([&control, &event] { control.Enter(TextFromWx(event.GetString())); });
+  });
+}
+
+// A field whose entry is wrong looks so, and tells why.
+void MarkNote(wxWindow& widget, const Control& control) {
+  const bool noted = !control.note().empty();
+  if (noted == (widget.GetBackgroundColour() == kNotedField)) return;
+  widget.SetBackgroundColour(noted ? kNotedField : wxNullColour);
+  widget.SetForegroundColour(noted ? *wxBLACK : wxNullColour);
+  if (noted) {
+    widget.SetToolTip(WxText(control.note()));
+  } else {
+    widget.UnsetToolTip();
+  }
+  widget.Refresh();
+}
 
 // A key that the box's filter changes or refuses does not get through as it is. Pasting does.
 void FilterKeys(wxTextCtrl& box, const TextBox& control) {
@@ -72,16 +166,53 @@ wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, lo
   auto* box = new wxTextCtrl(parent, wxID_ANY, WxText(control.text()), wxDefaultPosition,
                              wxDefaultSize, style);
   binding.Tie(control, *box, [box, &control] {
-    // A text set again would move the operator's cursor.
-    const wxString text = WxText(control.text());
-    if (box->GetValue() != text) box->ChangeValue(text);
+    ShowText(*box, control);
     box->SetEditable(!control.read_only());
+    MarkNote(*box, control);
   });
   if (control.key_filter) FilterKeys(*box, control);
-  box->Bind(wxEVT_TEXT, [&binding, &control](wxCommandEvent& event) {
-    binding.Operate([&control, &event] { control.SetText(TextFromWx(event.GetString())); });
-  });
+  FollowText(binding, control, *box);
   return box;
+}
+
+wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control) {
+  wxArrayString items;
+  for (const std::string& item : control.items()) items.Add(WxText(item));
+  auto* combo = new wxComboBox(parent, wxID_ANY, WxText(control.text()), wxDefaultPosition,
+                               wxDefaultSize, items);
+  binding.Tie(control, *combo, [combo, &control] {
+    ShowText(*combo, control);
+    MarkNote(*combo, control);
+  });
+  FollowText(binding, control, *combo);
+  combo->Bind(wxEVT_COMBOBOX, [&binding, &control](wxCommandEvent& event) {
+    binding.Operate([&control, &event] { control.Select(event.GetSelection()); });
+  });
+  return combo;
+}
+
+wxStaticText* MakeNote(Binding& binding, wxWindow* parent, std::vector<const Control*> controls,
+                       int width, int lines) {
+  wxStaticText* text = NewText(parent, wxST_NO_AUTORESIZE);
+  text->SetForegroundColour(kNoteColour);
+  text->SetMinSize({width, lines * text->GetCharHeight()});
+  binding.ShowAlso([text, controls = std::move(controls), width] {
+    const auto noted = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
+      return !control->note().empty() && control->IsShown();
+    });
+    const wxString note = noted == controls.end() ? wxString() : WxText((*noted)->note()).BeforeFirst('\n');
+    if (text->GetName() == note) return;  // the label has lines of its own
+    text->SetName(note);
+    text->SetLabelText(note);
+    text->Wrap(width);
+  });
+  return text;
+}
+
+wxPanel* MakeFrame(Binding& binding, wxWindow* parent, Frame& control) {
+  auto* frame = new wxPanel(parent);
+  binding.Tie(control, *frame, [] {});
+  return frame;
 }
 
 wxNotebook* MakeTab(Binding& binding, wxWindow* parent, Tab& control) {
