@@ -18,6 +18,8 @@
 #include "stores/zandel/zandel_buffers.h"
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
+#include "transfers/kv_to_zd.h"
+#include "transfers/zd_to_qb.h"
 
 namespace golf {
 namespace {
@@ -60,7 +62,9 @@ ScreenCatalogue Application::Screens() {
           {"LoadRoster", Make<LoadRoster>},
           {"LoadRosters", Make<LoadRosters>},
           {"KVCoursestoQB", Make<KVCoursestoQB>},
-          {"KVtoQB", Make<KVtoQB>}};
+          {"KVtoQB", Make<KVtoQB>},
+          {"KVtoZD", Make<KVtoZD>},
+          {"ZDtoQB", Make<ZDtoQB>}};
 }
 
 void Application::Start(DateValue now, const RegionalOverrides& overrides) {
