@@ -1,10 +1,6 @@
-#include <wx/choice.h>
-#include <wx/radiobut.h>
-
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "desktop/wx_text.h"
 #include "scoring/screens/grid_sort_screen.h"
 
 namespace golf {
@@ -13,30 +9,9 @@ namespace {
 constexpr int kListWidth = 220;  // in pixels of a plain screen
 
 wxChoice* MakeColumnList(ScreenPanel& panel, ComboBox& control) {
-  auto* choice = new wxChoice(&panel, wxID_ANY);
+  wxChoice* choice = MakeChoice(panel.binding(), &panel, control, GridSort::HeadingOf);
   choice->SetMinSize(panel.FromDIP(wxSize(kListWidth, -1)));
-  panel.binding().Tie(control, *choice, [choice, &control] {
-    wxArrayString headings;
-    for (const std::string& entry : control.items()) {
-      headings.Add(WxText(GridSort::HeadingOf(entry)));
-    }
-    if (choice->GetStrings() != headings) choice->Set(headings);
-    choice->SetSelection(control.index());
-  });
-  choice->Bind(wxEVT_CHOICE, [&panel, &control](wxCommandEvent& event) {
-    panel.binding().Operate([&control, &event] { control.Select(event.GetSelection()); });
-  });
   return choice;
-}
-
-wxRadioButton* MakeOption(ScreenPanel& panel, OptionButton& control, long style) {
-  auto* button = new wxRadioButton(&panel, wxID_ANY, WxText(control.caption()), wxDefaultPosition,
-                                   wxDefaultSize, style);
-  panel.binding().Tie(control, *button, [button, &control] { button->SetValue(control.value()); });
-  button->Bind(wxEVT_RADIOBUTTON, [&panel, &control](wxCommandEvent&) {
-    panel.binding().Operate([&control] { control.Choose(true); });
-  });
-  return button;
 }
 
 // A row for each key: what it is, its list of columns, and the two orders.
@@ -54,8 +29,8 @@ wxSizer* Keys(ScreenPanel& panel, GridSort& screen) {
     rows->Add(MakeLabel(panel.binding(), &panel, screen.SortLabel[i]), middle);
     rows->Add(MakeColumnList(panel, screen.SortList[i]), wxSizerFlags().Expand().CentreVertical());
     GridSort::Options& orders = *screen.options[i];
-    rows->Add(MakeOption(panel, orders[0], wxRB_GROUP), middle);
-    rows->Add(MakeOption(panel, orders[1], 0), middle);
+    rows->Add(MakeOption(panel.binding(), &panel, orders[0], wxRB_GROUP), middle);
+    rows->Add(MakeOption(panel.binding(), &panel, orders[1]), middle);
   }
   return rows;
 }

@@ -7,6 +7,8 @@
 #include "stores/quenby/screens/load_rosters.h"
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
+#include "transfers/kv_to_zd.h"
+#include "transfers/zd_to_qb.h"
 
 namespace golf {
 namespace {
@@ -25,6 +27,8 @@ ViewCatalogue Views() {
           {"LoadRoster", {WindowKind::kDialog, Fill<LoadRoster, FillLoadRoster>}},
           {"LoadRosters", {WindowKind::kDialogOverOpener, Fill<LoadRosters, FillLoadRosters>}},
           {"KVtoQB", {WindowKind::kDialog, Fill<KVtoQB, FillKVtoQB>}},
+          {"KVtoZD", {WindowKind::kDialog, Fill<KVtoZD, FillKVtoZD>}},
+          {"ZDtoQB", {WindowKind::kDialog, Fill<ZDtoQB, FillZDtoQB>}},
           {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};
 }
 

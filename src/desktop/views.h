@@ -10,10 +10,12 @@ namespace golf {
 class GridSort;
 class KVCoursestoQB;
 class KVtoQB;
+class KVtoZD;
 class LoadRoster;
 class LoadRosters;
 class TipBox;
 class TransferMenu;
+class ZDtoQB;
 
 // A dialog comes up in the middle of its opener, or at the opener's top left corner.
 enum class WindowKind { kMain, kDialog, kDialogOverOpener };
@@ -34,6 +36,8 @@ void FillGridSort(ScreenPanel& panel, GridSort& screen);
 void FillLoadRoster(ScreenPanel& panel, LoadRoster& screen);
 void FillLoadRosters(ScreenPanel& panel, LoadRosters& screen);
 void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen);
+void FillKVtoZD(ScreenPanel& panel, KVtoZD& screen);
+void FillZDtoQB(ScreenPanel& panel, ZDtoQB& screen);
 void FillKVCoursestoQB(ScreenPanel& panel, KVCoursestoQB& screen);
 
 }  // namespace golf

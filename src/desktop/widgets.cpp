@@ -1,7 +1,5 @@
 #include "desktop/widgets.h"
 
-#include <wx/panel.h>
-
 #include "desktop/wx_text.h"
 
 namespace golf {
@@ -11,11 +9,32 @@ wxStaticText* NewText(wxWindow* parent, long style) {
   return new wxStaticText(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, style);
 }
 
+wxString TextToShow(const std::string& text, Shown shown) {
+  return WxText(shown == nullptr ? text : shown(text));
+}
+
+// Lists alike, whatever they look like.
+template <class Widget>
+void TieList(Binding& binding, List& control, Widget& widget, wxEventTypeTag<wxCommandEvent> chosen,
+             Shown shown) {
+  binding.Tie(control, widget, [&widget, &control, shown] {
+    wxArrayString items;
+    for (const std::string& item : control.items()) items.Add(TextToShow(item, shown));
+    if (widget.GetStrings() != items) widget.Set(items);
+    widget.SetSelection(control.index());
+  });
+  widget.Bind(chosen, [&binding, &control](wxCommandEvent& event) {
+    binding.Operate([&control, &event] { control.Select(event.GetSelection()); });
+  });
+}
+
 }  // namespace
 
-wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control) {
+wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Shown shown) {
   wxStaticText* text = NewText(parent, wxST_ELLIPSIZE_END);
-  binding.Tie(control, *text, [text, &control] { text->SetLabelText(WxText(control.caption())); });
+  binding.Tie(control, *text, [text, &control, shown] {
+    text->SetLabelText(TextToShow(control.caption(), shown));
+  });
   return text;
 }
 
@@ -52,6 +71,40 @@ wxCheckBox* MakeCheckBox(Binding& binding, wxWindow* parent, CheckBox& control) 
   return box;
 }
 
+wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& control, long style) {
+  auto* button = new wxRadioButton(parent, wxID_ANY, WxText(control.caption()), wxDefaultPosition,
+                                   wxDefaultSize, style);
+  binding.Tie(control, *button, [button, &control] { button->SetValue(control.value()); });
+  button->Bind(wxEVT_RADIOBUTTON, [&binding, &control](wxCommandEvent&) {
+    binding.Operate([&control] { control.Choose(true); });
+  });
+  return button;
+}
+
+wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown) {
+  auto* list = new wxListBox(parent, wxID_ANY);
+  TieList(binding, control, *list, wxEVT_LISTBOX, shown);
+  list->Bind(wxEVT_LISTBOX_DCLICK, [&binding, &control](wxCommandEvent&) {
+    if (control.on_double_click) binding.Operate(control.on_double_click);
+  });
+  // Before the toolkit gives the key to a default button. What the screen does with it comes when
+  // the key is done with, or it would press the button that has the focus then.
+  list->Bind(wxEVT_CHAR_HOOK, [list, &binding, &control](wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
+    if (!enter || !control.on_key) return event.Skip();
+    list->CallAfter(
+        [&binding, &control] { binding.Operate([&control] { control.on_key("Enter"); }); });
+  });
+  return list;
+}
+
+wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown) {
+  auto* choice = new wxChoice(parent, wxID_ANY);
+  TieList(binding, control, *choice, wxEVT_CHOICE, shown);
+  return choice;
+}
+
 namespace {
 
 // A key that the box's filter changes or refuses does not get through as it is. Pasting does.
@@ -82,6 +135,12 @@ wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, lo
     binding.Operate([&control, &event] { control.SetText(TextFromWx(event.GetString())); });
   });
   return box;
+}
+
+wxPanel* MakeFrame(Binding& binding, wxWindow* parent, Frame& control) {
+  auto* frame = new wxPanel(parent);
+  binding.Tie(control, *frame, [] {});
+  return frame;
 }
 
 wxNotebook* MakeTab(Binding& binding, wxWindow* parent, Tab& control) {

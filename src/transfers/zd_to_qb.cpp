@@ -6,9 +6,9 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
+#include "scoring/player_class.h"
 #include "shell/remembered_settings.h"
 #include "stores/quenby/free_golfer_places.h"
-#include "stores/quenby/tournament_players.h"
 #include "stores/zandel/zandel_files.h"
 #include "transfers/quenby_rosters.h"
 #include "transfers/transfer_run.h"

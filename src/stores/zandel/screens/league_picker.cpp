@@ -45,8 +45,9 @@ void LeaguePicker::Fill() {
   LeagueList.Select(LeagueList.items().empty() ? -1 : 0);
 }
 
-std::string LeaguePicker::HeadingOf(std::string_view item) {
-  return std::string(TrimRight(item.substr(0, item.size() - LeagueBase(item).size())));
+std::string LeaguePicker::HeadingOf(const std::string& item) {
+  const std::string_view text = item;
+  return std::string(TrimRight(text.substr(0, text.size() - LeagueBase(text).size())));
 }
 
 void LeaguePicker::Open() {

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 
 #include "core/shared_state.h"
 #include "forms/screen.h"
@@ -33,7 +32,7 @@ class LeaguePicker {
   void Fill();
   bool IsOpen() const { return Panel.visible(); }
   // What of an item is meant to be read.
-  static std::string HeadingOf(std::string_view item);
+  static std::string HeadingOf(const std::string& item);
 
   Frame Panel;
   Label LoadLeagueLabel;
