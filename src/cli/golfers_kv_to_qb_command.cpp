@@ -14,11 +14,11 @@ constexpr int kFirstOptionalRow = 2;
 
 // The row of an optional item by its number or by its name on either side; 0 if there is none.
 int RowOfItem(const Grid& grid, const std::string& item) {
+  if (item.empty()) return 0;
   int number = 0;
   const auto read = std::from_chars(item.data(), item.data() + item.size(), number);
-  if (read.ec == std::errc() && read.ptr == item.data() + item.size()) {
-    return number >= kFirstOptionalRow && number <= grid.rows() ? number : 0;
-  }
+  const bool whole = read.ec == std::errc() && read.ptr == item.data() + item.size();
+  if (whole && number >= kFirstOptionalRow && number <= grid.rows()) return number;
   for (int row = kFirstOptionalRow; row <= grid.rows(); ++row) {
     for (const int column : {KVtoQB::kItemColumn, KVtoQB::kQuenbyItemColumn}) {
       if (EqualIgnoringCase(grid.text(column, row), item)) return row;

@@ -37,7 +37,7 @@ std::string PlainText(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool pair = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
-    if (pair) continue;
+    if (pair || text[i] == '\0') continue;  // a field that was never filled holds NULs
     const bool line_end = text[i] == '\r' || text[i] == '\n';
     plain += line_end ? '\n' : Harmless(text[i]);
   }
@@ -47,6 +47,7 @@ std::string PlainText(std::string_view text) {
 
 std::string PlainCell(std::string_view text) {
   std::string cell(text);
+  std::erase(cell, '\0');
   std::transform(cell.begin(), cell.end(), cell.begin(), Harmless);
   return Utf8FromText(cell);
 }

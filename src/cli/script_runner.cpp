@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "app/application.h"
+#include "core/number_text.h"
 #include "core/text.h"
 
 namespace golf {
@@ -34,8 +35,14 @@ bool TakesFocus(const Control& control) {
   return active && control.IsShown() && control.IsUsable();
 }
 
-// What a text means in a cell of this column: in a drop-down the item with that text or code.
+// What a text means in a cell of this column: in a drop-down the item with that text or code, in a
+// check box a tick for any number but 0.
 std::string CellText(const Grid& grid, int column, const std::string& text) {
+  if (grid.cell_type(column) == CellType::kCheckBox) {
+    double number = 0;
+    if (!ReadLeadingNumber(text, number)) throw ScriptError("\"" + text + "\" is no tick.");
+    return number != 0 ? "1" : "0";
+  }
   if (grid.cell_type(column) != CellType::kDropDown) return text;
   for (const DropDownItem& item : grid.items(column)) {
     if (item.text == text || item.code == text) return item.text;

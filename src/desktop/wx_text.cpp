@@ -5,7 +5,9 @@
 namespace golf {
 
 wxString WxText(std::string_view text) {
-  wxString shown = wxString::FromUTF8(Utf8FromText(text));
+  std::string filled(text);
+  std::erase(filled, '\0');  // a field that was never filled holds NULs
+  wxString shown = wxString::FromUTF8(Utf8FromText(filled));
   shown.Replace("\r\n", "\n");
   shown.Replace("\r", "\n");
   return shown;

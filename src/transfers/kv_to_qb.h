@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "core/resume_next.h"
@@ -59,9 +60,10 @@ class KVtoQB : public Screen {
   void FindDestination();
 
   void Transfer();
-  // False if the files could not be opened, which the operator has been told.
-  bool OpenFiles();
-  void CopyGolfers();
+  // The records of Quenby's golfer file; nothing if the files could not be opened, which the
+  // operator has been told.
+  std::optional<std::int32_t> OpenFiles();
+  void CopyGolfers(std::int32_t length);
   void Report(const Counts& counts);
   void AskTournamentUpdate();
   void UpdateTournament(std::int32_t number);

@@ -111,7 +111,8 @@ void LoadRosters::LoadList() {
 }
 
 void LoadRosters::ShowRowButtons() {
-  const bool is_roster = grid1.active_row() > 1;
+  // The entry of all rosters is the first row, but for names that sort ahead of it.
+  const bool is_roster = grid1.active_row() > 1 && RosterInHand() > 0;
   EditButton.SetVisible(is_roster);
   DeleteButton.SetVisible(is_roster);
 }
