@@ -153,7 +153,7 @@ void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest&
                      Command& chosen) {
   CLI::App* command =
       AddCommand(app, "scores-zd-to-kv", "Transfer scores of a league, Zandel to Kelvane",
-                 "--install golf-demo scores-zd-to-kv --league 00011 --batch 3 --roster CLUB",
+                 "--install golf-demo scores-zd-to-kv --league 00011 --batch 3 --roster CLUB18",
                  chosen, [&] { return RunScoresZdToKv(options, request); });
   AddLeague(*command, request.league);
   command->add_option("--batch", request.batch, "What to transfer, by its code as in list events")
