@@ -29,64 +29,50 @@ struct Roster {
   bool operator==(const Roster&) const = default;
 };
 
-// Golfers 11, nobody, 12, ... 18, and 11 again; three scores each, those of the last one 300.
+// Golfers with these IDs, of whom one is gone, with a score a day from kDay + 1 back.
 Roster SomeRoster() {
   Roster roster;
   for (const int id : {11, -11, 12, 13, 14, 15, 16, 17, 18, 11}) {
-    std::string golfer = Pattern(kGolferBytes);
+    std::string golfer = Pattern(kGolferBytes), history = Pattern(kHistoryBytes);
     Put16(golfer, 0, {id > 0 ? 1 : 0});
     Put(golfer, 4, {std::int32_t{std::abs(id)}});
     golfer[454] = 0;
-    const int scores = roster.golfers.size() == 9 * kGolferBytes ? 300 : 3;
-    Put16(golfer, 455, {scores, scores, 1, 1});
-    std::string history = Pattern(kHistoryBytes);
-    for (int i = 0; i < scores; ++i) {
-      Put(history, kEntryBytes * static_cast<std::size_t>(i) + 8, {kDay + 1 - i});
-    }
+    Put16(golfer, 455, {3, 0, 0, 0});
+    for (std::size_t i = 0; i < 3; ++i) Put(history, kEntryBytes * i + 8, {kDay + 1.0 - i});
     roster.golfers += golfer;
     roster.histories += history;
   }
   return roster;
 }
 
-// The roster after each write of a run, worked out entry by entry.
-std::vector<Roster> States(const Roster& before, const std::vector<Posted>& posted) {
-  std::vector<Roster> states = {before};
+// The roster after each write of a run that posts these.
+std::vector<Roster> States(const std::vector<Posted>& posted) {
+  std::vector<Roster> states = {SomeRoster()};
   for (const Posted& p : posted) {
     Roster now = states.back();
     std::string golfer = RecordAt(now.golfers, p.place, kGolferBytes);
     std::string entry(kEntryBytes, '\0');
     PutText(entry, 42, 7);
-    Put16(entry, 0, {p.course});
-    entry[2] = static_cast<char>(p.tee);
+    Put16(entry, 0, {p.course, p.tee});
     Put(entry, 3, {p.rating});
     entry[7] = static_cast<char>(p.slope);
     Put(entry, 8, {p.date});
     entry[35] = static_cast<char>(p.score);
-    if (p.kind == Posted::kJoinsHalf) entry[36] = 4;
+    entry[36] = p.kind == Posted::kJoinsHalf ? 4 : 0;
     golfer[454] = 0;
     if (p.kind == Posted::kKeepsHalf) {
       golfer.replace(446, 8, entry, 0, 8);
       golfer[454] = entry[35];
     } else {
-      std::string history = RecordAt(now.histories, p.place, kHistoryBytes);
-      std::size_t at = 0;
-      const auto scores = static_cast<std::size_t>(Int16At(golfer, 455));
-      const auto date = [&] { return LoadLittleEndian<double>(&history[at * kEntryBytes + 8]); };
-      while (at < std::min<std::size_t>(scores, 299) && p.date < date()) ++at;
-      history.insert(at * kEntryBytes, entry).resize(kHistoryBytes);
-      now.histories.replace((p.place - 1) * kHistoryBytes, kHistoryBytes, history);
-      const bool counts[] = {true, p.date >= 45395, p.date > 45390, p.date > kDay};
-      for (std::size_t i = 0; i < 4; ++i) {
-        const int count = Int16At(golfer, 455 + 2 * i);
-        if (counts[i] && count < 300) Put16(golfer, 455 + 2 * i, {count + 1});
-      }
+      const std::size_t history = (p.place - 1) * kHistoryBytes;
+      const auto newer = static_cast<std::size_t>(kDay + 1 - p.date);
+      now.histories.insert(history + newer * kEntryBytes, entry);
+      now.histories.erase(history + kHistoryBytes, kEntryBytes);
+      for (std::size_t at = 455; at < 463; at += 2) Put16(golfer, at, {Int16At(golfer, at) + 1});
     }
-    Roster halfway = now;
+    if (p.kind == Posted::kJoinsHalf) states.push_back(now);  // the history goes first
     now.golfers.replace((p.place - 1) * kGolferBytes, kGolferBytes, golfer);
-    if (p.kind == Posted::kEntry)
-      halfway = {now.golfers, halfway.histories = states.back().histories};
-    states.push_back(halfway);
+    if (p.kind == Posted::kEntry) states.push_back({now.golfers, states.back().histories});
     states.push_back(now);
   }
   return states;
@@ -111,14 +97,14 @@ std::string Player(int id, int sex, int team, int score, const std::string& last
   Put16(bytes, 972, {score});
   std::fill_n(bytes.begin() + 3878, 100, '\0');
   if (id > 12) return bytes;
-  bytes[3878 + 99] = bytes[3878 + 1] = 2;  // slots 100 and 2 before event 2
   bytes[3878] = 1;
-  Put16(bytes, 3978, {80, 90});
-  Put16(bytes, 4178, {712, 712});
-  Put16(bytes, 4378, {113, 255});
-  Put16(bytes, 3978 + 198, {id == 12 ? 199 : 200});
-  Put16(bytes, 4178 + 198, {-1});
-  Put16(bytes, 4378 + 198, {0});
+  bytes[3878 + 1] = bytes[3878 + 99] = 2;  // slots 2 and 100 before event 2
+  for (std::size_t slot : {0, 1, 99}) {
+    const bool last = slot == 99;
+    Put16(bytes, 3978 + 2 * slot, {last ? 199 + id % 2 : 90});
+    Put16(bytes, 4178 + 2 * slot, {last ? -1 : 712});
+    Put16(bytes, 4378 + 2 * slot, {last ? 0 : 255});
+  }
   return bytes;
 }
 
@@ -128,7 +114,7 @@ class ZDtoKVTest : public testing::Test {
     const TempFolder& folder = install.folder;
     header = Pattern(781);
     header[152] = static_cast<char>(roster_holes);
-    Put(header, 220, {45390.0, kDay, 45395.0});
+    Put(header, 220, {0.0, 0.0, 0.0});
     folder.Write("kvdata/CLUB.kv5", header);
     folder.Write("kvdata/CLUB.kvg", SomeRoster().golfers + "torn");
     folder.Write("kvdata/CLUB.kvs", SomeRoster().histories);
@@ -252,7 +238,7 @@ TEST_F(ZDtoKVTest, FilesAndLogByteForByte) {
           std::to_string(score) + " - Ann " + FitText(p.place == 7 ? "Sub" : "Z", 15) + "\r\n";
     }
     EXPECT_EQ(Run(c.batch), expected);
-    EXPECT_TRUE(Left() == States(SomeRoster(), c.posted).back());
+    EXPECT_TRUE(Left() == States(c.posted).back());
     EXPECT_EQ(install.folder.Read("kvdata/CLUB.kv5"), header);
     EXPECT_EQ(Asked("Re-transfer score?"), c.asked);
     EXPECT_EQ(*(install.events().end() - 2), "message [Notice] Transfer Complete..." +
@@ -282,7 +268,7 @@ TEST_F(ZDtoKVTest, ASecondRunAsksFirst) {
     EXPECT_EQ(Asked("Cancel Transfer?"), c.asked_to_cancel);
     std::vector<Posted> posted = first.posted;
     if (c.posted == 1) posted.push_back(posted[c.asked == 6 ? 2 : 0]);
-    EXPECT_TRUE(Left() == States(SomeRoster(), posted).back());
+    EXPECT_TRUE(Left() == States(posted).back());
   }
 }
 
@@ -290,7 +276,7 @@ TEST_F(ZDtoKVTest, ASecondRunAsksFirst) {
 TEST_F(ZDtoKVTest, EachFileOperationFailsOnce) {
   for (const std::size_t which : {0u, 2u}) {
     const Case c = Cases()[which];
-    const auto states = States(SomeRoster(), c.posted);
+    const auto states = States(c.posted);
     bool failed = true;
     for (int nth = 1; failed; ++nth) {
       SCOPED_TRACE(nth);
