@@ -97,6 +97,7 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   const auto failed = Work(*application, host, report, command);
   bar.Clear();
   const ExitCode code = failed ? *failed : ExitCodeAfterRun(host);
+  if (host.run_ended_by()) TellProblem(host.run_ended_by()->Report());
   TellFaultCount(host.faults().size());
   if (options.json) {
     if (!host.counts().empty() && !failed) WriteResult(command, host);
