@@ -24,6 +24,9 @@
 #include "stores/zandel/zandel_buffers.h"
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
+#include "transfers/kv_to_zd.h"
+#include "transfers/zd_to_kv.h"
+#include "transfers/zd_to_qb.h"
 
 namespace golf {
 namespace {
@@ -60,11 +63,19 @@ Application::Application(std::unique_ptr<Platform> platform)
     : platform_(std::move(platform)), state_(*platform_, MakeStoreObjects) {}
 
 ScreenCatalogue Application::Screens() {
-  return {{"TransferMenu", Make<TransferMenu>},   {"TipBox", Make<TipBox>},
-          {"GridSort", Make<GridSort>},           {"LoadRoster", Make<LoadRoster>},
-          {"LoadRosters", Make<LoadRosters>},     {"CourseTable", Make<CourseTable>},
-          {"CourseForm", Make<CourseForm>},       {"CourseTee", Make<CourseTee>},
-          {"KVCoursestoQB", Make<KVCoursestoQB>}, {"KVtoQB", Make<KVtoQB>}};
+  return {{"TransferMenu", Make<TransferMenu>},
+          {"TipBox", Make<TipBox>},
+          {"GridSort", Make<GridSort>},
+          {"LoadRoster", Make<LoadRoster>},
+          {"LoadRosters", Make<LoadRosters>},
+          {"CourseTable", Make<CourseTable>},
+          {"CourseForm", Make<CourseForm>},
+          {"CourseTee", Make<CourseTee>},
+          {"KVCoursestoQB", Make<KVCoursestoQB>},
+          {"KVtoQB", Make<KVtoQB>},
+          {"KVtoZD", Make<KVtoZD>},
+          {"ZDtoKV", Make<ZDtoKV>},
+          {"ZDtoQB", Make<ZDtoQB>}};
 }
 
 void Application::Start(DateValue now, const RegionalOverrides& overrides) {

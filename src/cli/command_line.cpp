@@ -67,11 +67,33 @@ struct Arguments {
   ListRequest list;
   DumpRequest dump;
   GolfersKvToQbRequest golfers_kv_to_qb;
+  GolfersKvToZdRequest golfers_kv_to_zd;
+  GolfersZdToQbRequest golfers_zd_to_qb;
+  ScoresZdToKvRequest scores_zd_to_kv;
   ResultsRequest results;
   CourseRequest course;
   std::string script;
   bool start_programs = false;
 };
+
+void AddRoster(CLI::App& command, std::string& roster) {
+  command.add_option("--roster", roster, "The Kelvane roster, as in list rosters")
+      ->required()
+      ->type_name("NAME");
+}
+
+void AddQuenbyRoster(CLI::App& command, int& to) {
+  command.add_option("--to", to, "The Quenby roster, as in list qb-rosters; 0 for all")
+      ->required()
+      ->check(CLI::Range(0, 32767))
+      ->type_name("N");
+}
+
+void AddLeague(CLI::App& command, std::string& league) {
+  command.add_option("--league", league, "The league, by its base as in list leagues")
+      ->required()
+      ->type_name("BASE");
+}
 
 void AddGolfersKvToQb(CLI::App& app, const Options& options, GolfersKvToQbRequest& request,
                       Command& chosen) {
@@ -79,13 +101,8 @@ void AddGolfersKvToQb(CLI::App& app, const Options& options, GolfersKvToQbReques
       AddCommand(app, "golfers-kv-to-qb", "Transfer the golfers of a roster, Kelvane to Quenby",
                  "--install golf-demo golfers-kv-to-qb --roster CLUB --to 1 --items Flight,7",
                  chosen, [&] { return RunGolfersKvToQb(options, request); });
-  command->add_option("--roster", request.roster, "The Kelvane roster, as in list rosters")
-      ->required()
-      ->type_name("NAME");
-  command->add_option("--to", request.to, "The Quenby roster, as in list qb-rosters; 0 for all")
-      ->required()
-      ->check(CLI::Range(0, 32767))
-      ->type_name("N");
+  AddRoster(*command, request.roster);
+  AddQuenbyRoster(*command, request.to);
   command->add_flag("--marked-only", request.marked_only, "Only golfers who are marked to print");
   command->add_flag("--to-9-hole", request.to_9_hole, "Handicaps of 18 holes by 2");
   command->add_flag("--to-18-hole", request.to_18_hole, "Handicaps of 9 holes times 2");
@@ -117,6 +134,60 @@ void AddCourse(CLI::App& app, const Options& options, CourseRequest& request, Co
                                "--install golf-demo course check --library qb", chosen,
                                [&] { return RunCourseCheck(options, request); });
   for (CLI::App* command : {show, check}) AddLibrary(*command, request.library);
+}
+
+void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdRequest& request,
+                      Command& chosen) {
+  CLI::App* command =
+      AddCommand(app, "golfers-kv-to-zd",
+                 "Transfer handicaps and addresses of a roster's golfers, Kelvane to Zandel",
+                 "--install golf-demo golfers-kv-to-zd --roster CLUB --league 00021 --percent 80",
+                 chosen, [&] { return RunGolfersKvToZd(options, request); });
+  AddRoster(*command, request.roster);
+  AddLeague(*command, request.league);
+  command
+      ->add_option("--percent", request.percent,
+                   "Percent of the handicap, 10 to 100; any other number is 100, and so is none")
+      ->type_name("N");
+  command
+      ->add_option("--holes", request.holes,
+                   "What the league's handicaps are for: 9 halves them; 18 if left out")
+      ->check(CLI::IsMember({9, 18}))
+      ->type_name("9|18");
+  command->add_flag("--even-if-scored", request.even_if_scored,
+                    "Also where the league's current event has scores already");
+}
+
+void AddGolfersZdToQb(CLI::App& app, const Options& options, GolfersZdToQbRequest& request,
+                      Command& chosen) {
+  CLI::App* command =
+      AddCommand(app, "golfers-zd-to-qb", "Transfer the golfers of a league, Zandel to Quenby",
+                 "--install golf-demo golfers-zd-to-qb --league 00011 --to 1 --double --subs",
+                 chosen, [&] { return RunGolfersZdToQb(options, request); });
+  AddLeague(*command, request.league);
+  AddQuenbyRoster(*command, request.to);
+  command->add_flag("--double", request.doubled, "Handicaps of 9 holes times 2");
+  command->add_flag("--subs", request.substitutes, "The league's substitutes as well");
+}
+
+void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest& request,
+                     Command& chosen) {
+  CLI::App* command =
+      AddCommand(app, "scores-zd-to-kv", "Transfer scores of a league, Zandel to Kelvane",
+                 "--install golf-demo scores-zd-to-kv --league 00011 --batch 3 --roster CLUB18",
+                 chosen, [&] { return RunScoresZdToKv(options, request); });
+  AddLeague(*command, request.league);
+  command->add_option("--batch", request.batch, "What to transfer, by its code as in list events")
+      ->required()
+      ->check(CLI::Range(1, 999))
+      ->type_name("CODE");
+  AddRoster(*command, request.roster);
+  command
+      ->add_option("--again", request.again,
+                   "Whether scores that the roster has already go in once more; left out, three "
+                   "of them in a row end the transfer")
+      ->check(CLI::IsMember({"yes", "no"}))
+      ->type_name("yes|no");
 }
 
 void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
@@ -166,6 +237,9 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
              "--install golf-demo courses-kv-to-qb", chosen,
              [&] { return RunCoursesKvToQb(options); });
   AddGolfersKvToQb(app, options, args.golfers_kv_to_qb, chosen);
+  AddGolfersKvToZd(app, options, args.golfers_kv_to_zd, chosen);
+  AddGolfersZdToQb(app, options, args.golfers_zd_to_qb, chosen);
+  AddScoresZdToKv(app, options, args.scores_zd_to_kv, chosen);
 
   CLI::App* script = AddCommand(app, "script", "Drive the screens by the lines of a script",
                                 "--install golf-demo script clicks.txt", chosen, [&] {

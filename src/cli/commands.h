@@ -66,6 +66,31 @@ struct GolfersKvToQbRequest {
 };
 ExitCode RunGolfersKvToQb(const Options& options, const GolfersKvToQbRequest& request);
 
+struct GolfersKvToZdRequest {
+  std::string roster;  // Kelvane's, by name
+  std::string league;  // Zandel's, by base
+  std::optional<int> percent;
+  int holes = 18;  // that the league's handicaps are for: 9 or 18
+  bool even_if_scored = false;
+};
+ExitCode RunGolfersKvToZd(const Options& options, const GolfersKvToZdRequest& request);
+
+struct GolfersZdToQbRequest {
+  std::string league;  // Zandel's, by base
+  int to = 0;          // Quenby's roster, by number; 0 for all rosters
+  bool doubled = false;
+  bool substitutes = false;
+};
+ExitCode RunGolfersZdToQb(const Options& options, const GolfersZdToQbRequest& request);
+
+struct ScoresZdToKvRequest {
+  std::string league;  // Zandel's, by base
+  int batch = 0;       // by code
+  std::string roster;  // Kelvane's, by name
+  std::string again;   // "yes" or "no"; empty: as the boxes offer
+};
+ExitCode RunScoresZdToKv(const Options& options, const ScoresZdToKvRequest& request);
+
 ExitCode RunScript(const Options& options, const std::string& file, bool start_programs);
 
 }  // namespace golf

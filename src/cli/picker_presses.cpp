@@ -1,10 +1,13 @@
 #include "cli/picker_presses.h"
 
+#include <algorithm>
+
 #include "cli/commands.h"
 #include "core/code_page.h"
 #include "core/text.h"
 #include "stores/kelvane/screens/load_roster.h"
 #include "stores/quenby/screens/load_rosters.h"
+#include "stores/zandel/zandel_files.h"
 
 namespace golf {
 namespace {
@@ -39,6 +42,18 @@ void PickQuenbyRoster(HeadlessHost& host, Screen& picker, int number) {
     throw Refusal("Quenby has no roster " + std::to_string(number) + ".");
   }
   host.Press(picker, "LoadButton");
+}
+
+void PickLeague(HeadlessHost& host, Screen& screen, std::string_view finder, LeaguePicker& picker,
+                const std::string& base) {
+  const auto& items = picker.LeagueList.items();
+  const auto item = std::find_if(items.begin(), items.end(), [&](const std::string& listed) {
+    return EqualIgnoringCase(LeagueBase(listed), base);
+  });
+  if (item == items.end()) throw Refusal("There is no league " + Utf8FromText(base) + ".");
+  host.Press(screen, finder);
+  host.Operate(screen, [&] { picker.LeagueList.Select(static_cast<int>(item - items.begin())); });
+  host.Press(screen, "OKLEague");
 }
 
 void Tick(HeadlessHost& host, Screen& screen, CheckBox& box, const std::string& why) {

@@ -23,6 +23,9 @@ class ReportListener : public HostListener {
   void OnError(const NumberedError& error) override { Tell(error); }
   void OnProgress(const Progress& progress) override { bar_.Show(progress); }
 
+  void AddLog(std::string_view text) {
+    if (!text.empty()) texts_.push_back(PlainText(text));
+  }
   void Write(std::ostream& out) const {
     for (const std::string& text : texts_) out << text << '\n';
   }
@@ -33,7 +36,8 @@ class ReportListener : public HostListener {
     TellProblem(error.Report());
   }
   void Keep(std::string_view title, std::string_view text) {
-    const bool names_nothing = title.empty() || title == "Notice";
+    const bool names_nothing =
+        title.empty() || title == "Notice" || title == "Message" || title == "Info";
     if (!names_nothing) texts_.push_back(PlainText(title));
     texts_.push_back(PlainText(text));
   }
@@ -43,10 +47,22 @@ class ReportListener : public HostListener {
 };
 
 // Runs the command's screen; the exit code of an error that ended a click.
-std::optional<ExitCode> Work(Application& application, HeadlessHost& host,
+std::optional<ExitCode> Work(Application& application, HeadlessHost& host, ReportListener& report,
                              const TransferCommand& command) {
   application.state().remembers_settings = false;
-  host.drive = [&](Screen& screen) { command.work(host, screen); };
+  host.drive = [&](Screen& screen) {
+    const auto add_log = [&] {
+      const auto* log = dynamic_cast<const TextBox*>(screen.FindControl(command.log));
+      if (log != nullptr) report.AddLog(log->text());
+    };
+    try {
+      command.work(host, screen);
+    } catch (const ClickEnded&) {
+      add_log();  // what was done before the error
+      throw;
+    }
+    add_log();
+  };
   try {
     host.Operate([&] { OpenScreen(application.state(), host, command.screen, ""); });
   } catch (const ClickEnded& ended) {
@@ -78,9 +94,10 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   HostListener& listener = options.json ? static_cast<HostListener&>(json) : report;
   HeadlessHost host(application->state(), Application::Screens(), listener);
   host.clock = ClockOf(options);
-  const auto failed = Work(*application, host, command);
+  const auto failed = Work(*application, host, report, command);
   bar.Clear();
   const ExitCode code = failed ? *failed : ExitCodeAfterRun(host);
+  if (host.run_ended_by()) TellProblem(host.run_ended_by()->Report());
   TellFaultCount(host.faults().size());
   if (options.json) {
     if (!host.counts().empty() && !failed) WriteResult(command, host);

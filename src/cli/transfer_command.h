@@ -17,6 +17,7 @@ struct TransferCommand {
   // on those that it opens.
   std::function<void(HeadlessHost&, Screen&)> work;
   bool carries_on = false;  // over faults, which are then counted
+  std::string log{};        // the text box that holds the run's report; empty with none
 };
 
 // Opens the screen as the menu does, works it, and prints its report: refusals and errors on

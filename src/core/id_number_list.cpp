@@ -1,16 +1,12 @@
 #include "core/id_number_list.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace golf {
 
 std::int32_t IdNumberList::Run(int operation, std::int32_t value) {
   switch (operation) {
     case kSize:
-      ids_.clear();
       held_.clear();
-      sorted_ = 0;
+      Rewind();
       return 0;  // the list grows as it is filled
     case kAppend:
       Append(value);
@@ -31,39 +27,36 @@ std::int32_t IdNumberList::Run(int operation, std::int32_t value) {
 }
 
 void IdNumberList::Append(std::int32_t value) {
-  ids_.push_back(value);
-  ++held_[value];
+  const auto held = held_.try_emplace(held_.end(), value, 0);
+  ++held->second;
+  if (value < 1 || value >= next_) return;
+  ++passed_;
+  if (held == held_.upper_bound(0) && held->second == 1) Rewind();  // all is counted from it
 }
 
 void IdNumberList::Forget(std::int32_t value) {
   const auto held = held_.find(value);
   if (held == held_.end()) return;
   if (--held->second == 0) held_.erase(held);
-  const auto at = std::find(ids_.begin(), ids_.end(), value);
-  sorted_ = std::min(sorted_, static_cast<std::size_t>(at - ids_.begin()));
-  *at = 0;
   ++held_[0];
+  Rewind();
 }
 
-// A stable order does not matter: equal IDs cannot be told apart.
-void IdNumberList::Sort() {
-  const auto tail = ids_.begin() + static_cast<std::ptrdiff_t>(sorted_);
-  std::sort(tail, ids_.end());
-  std::inplace_merge(ids_.begin(), tail, ids_.end());
-  sorted_ = ids_.size();
+void IdNumberList::Rewind() {
+  next_ = 1;
+  passed_ = 0;
 }
 
+// An entry has a gap before it if it is higher than the first one plus the number of entries before
+// it: an ID that is held twice counts twice.
 std::int32_t IdNumberList::NextFree(std::int32_t highest) {
-  Sort();
-  auto id = std::upper_bound(ids_.begin(), ids_.end(), 0);
-  if (id == ids_.end()) return 1;
-  std::int64_t expected = std::int64_t{*id} + 1;  // the base and its offset
-  std::int64_t free = std::int64_t{ids_.back()} + 1;
-  for (++id; id != ids_.end(); ++id, ++expected) {
-    if (*id <= expected) continue;
-    free = expected;
-    break;
-  }
+  const auto first = held_.upper_bound(0);
+  if (first == held_.end()) return 1;
+  auto id = held_.upper_bound(static_cast<std::int32_t>(next_ - 1));
+  for (; id != held_.end() && id->first <= first->first + passed_; ++id) passed_ += id->second;
+  const bool gap = id != held_.end();
+  next_ = gap ? id->first : std::int64_t{held_.rbegin()->first} + 1;
+  const std::int64_t free = gap ? first->first + passed_ : next_;
   return free > highest ? 1 : static_cast<std::int32_t>(free);
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <unordered_map>
-#include <vector>
+#include <map>
 
 namespace golf {
 
@@ -23,13 +22,15 @@ class IdNumberList {
  private:
   void Append(std::int32_t value);
   void Forget(std::int32_t value);
-  void Sort();
+  void Rewind();
   std::int32_t NextFree(std::int32_t highest);
 
-  std::vector<std::int32_t> ids_;
-  std::size_t sorted_ = 0;  // so many from the front are in ascending order
-  // How often each ID is in the list: answers as a search from the first entry would.
-  std::unordered_map<std::int32_t, int> held_;
+  // How often each ID is in the list: answers as a walk over the sorted entries would.
+  std::map<std::int32_t, int> held_;
+  // A walk for a free ID begins where the last one ended: the IDs above 0 and below `next_`, so
+  // many entries, are in use without a gap.
+  std::int64_t next_ = 1;
+  std::int64_t passed_ = 0;
 };
 
 }  // namespace golf

@@ -11,7 +11,7 @@ void FillKVCoursestoQB(ScreenPanel& panel, KVCoursestoQB& screen) {
   content->Add(MakeWrappedLabel(binding, &panel, screen.Label1, panel.FromDIP(400)));
   content->AddSpacer(GroupGap(panel));
   content->Add(MakeLabel(binding, &panel, screen.TransferLabel), wxSizerFlags().Expand());
-  AddKeepingPlace(*content, *panel.MakeGauge(), CloseGap(panel));
+  AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
   content->AddStretchSpacer();
   content->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.TransferCourses),
                           .cancel = MakeButton(binding, &panel, screen.CancelButton)}),

@@ -9,12 +9,14 @@ namespace golf {
 void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen) {
   Binding& binding = panel.binding();
   auto* rosters = new wxBoxSizer(wxHORIZONTAL);
-  rosters->Add(RosterColumn(panel, screen.Label1[0], screen.HandicapRoster, screen.SourceButton),
-               wxSizerFlags(1).Expand());
+  rosters->Add(
+      RosterColumn(binding, &panel, screen.Label1[0], screen.HandicapRoster, screen.SourceButton),
+      wxSizerFlags(1).Expand());
   rosters->Add(MakeLabel(binding, &panel, screen.Label1[2]),
                wxSizerFlags().CentreVertical().Border(wxLEFT | wxRIGHT, GroupGap(panel)));
-  rosters->Add(RosterColumn(panel, screen.Label1[1], screen.TournamentRoster, screen.DestButton),
-               wxSizerFlags(1).Expand());
+  rosters->Add(
+      RosterColumn(binding, &panel, screen.Label1[1], screen.TournamentRoster, screen.DestButton),
+      wxSizerFlags(1).Expand());
 
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(rosters, wxSizerFlags().Expand());
@@ -27,7 +29,7 @@ void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen) {
                wxSizerFlags(1).Expand());
   content->AddSpacer(GroupGap(panel));
   content->Add(MakeLabel(binding, &panel, screen.Working), wxSizerFlags().Expand());
-  AddKeepingPlace(*content, *panel.MakeGauge(), CloseGap(panel));
+  AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
   content->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.TransferButton),
                           .cancel = MakeButton(binding, &panel, screen.ExitButton)}),
                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));

@@ -1,8 +1,18 @@
 #include "desktop/layout_helpers.h"
 
+#include "core/text.h"
+#include "desktop/log_buttons.h"
 #include "desktop/widgets.h"
 
 namespace golf {
+namespace {
+
+constexpr int kLogColumns = 66;
+constexpr int kLogLines = 11;
+
+std::string WithoutEdges(const std::string& text) { return std::string(Trim(text)); }
+
+}  // namespace
 
 int CloseGap(const wxWindow& window) { return window.FromDIP(6); }
 int GroupGap(const wxWindow& window) { return window.FromDIP(16); }
@@ -36,11 +46,42 @@ wxSizer* ButtonRow(const EndButtons& buttons) {
   return row;
 }
 
-wxSizer* RosterColumn(ScreenPanel& panel, Label& heading, TextBox& name, Button& finder) {
-  Binding& binding = panel.binding();
-  wxStaticText* title = MakeLabel(binding, &panel, heading);
+wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBox& name,
+                      Button& finder) {
+  wxStaticText* title = MakeLabel(binding, parent, heading);
   MakeBold(*title);
-  return Column({title, MakeTextBox(binding, &panel, name), MakeButton(binding, &panel, finder)});
+  wxTextCtrl* box = MakeTextBox(binding, parent, name);
+  // Getting the focus by a key scrolls to the end, where a number stands behind blanks.
+  box->Bind(wxEVT_KILL_FOCUS, [box](wxFocusEvent& event) {
+    event.Skip();
+    box->SetInsertionPoint(0);
+  });
+  return Column({title, box, MakeButton(binding, parent, finder)});
+}
+
+wxSizer* RunLog(Binding& binding, wxWindow* parent, Label& heading, TextBox& log) {
+  wxStaticText* title = MakeLabel(binding, parent, heading, WithoutEdges);
+  MakeBold(*title);
+  wxTextCtrl* box = MakeTextBox(binding, parent, log, wxTE_MULTILINE | wxTE_DONTWRAP);
+  wxFont font = box->GetFont();
+  font.SetFamily(wxFONTFAMILY_TELETYPE);
+  box->SetFont(font);
+  box->SetMinSize({kLogColumns * box->GetCharWidth(), kLogLines * box->GetCharHeight()});
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(title, wxSizerFlags().Expand());
+  column->Add(box, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(*parent)));
+  column->Add(LogButtons(parent, *box), wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));
+  return column;
+}
+
+wxSizer* RunProgress(ScreenPanel& panel, wxWindow* parent, Label& working, Label& count) {
+  auto* texts = new wxBoxSizer(wxHORIZONTAL);
+  texts->Add(MakeLabel(panel.binding(), parent, working), wxSizerFlags(1));
+  texts->Add(MakeLabel(panel.binding(), parent, count));
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(texts, wxSizerFlags().Expand());
+  AddKeepingPlace(*column, *panel.MakeGauge(parent), CloseGap(panel));
+  return column;
 }
 
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above) {

@@ -29,7 +29,14 @@ struct EndButtons {
 wxSizer* ButtonRow(const EndButtons& buttons);
 
 // A roster or league with its heading above and the button that finds it below.
-wxSizer* RosterColumn(ScreenPanel& panel, Label& heading, TextBox& name, Button& finder);
+wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBox& name,
+                      Button& finder);
+
+// The log of a run, in columns, with its heading above and buttons to copy and save it below.
+wxSizer* RunLog(Binding& binding, wxWindow* parent, Label& heading, TextBox& log);
+
+// How far a run has come: a text, a count, and the panel's gauge.
+wxSizer* RunProgress(ScreenPanel& panel, wxWindow* parent, Label& working, Label& count);
 
 // Adds a widget that keeps its place while it is hidden.
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above);

@@ -50,8 +50,8 @@ ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& scree
 // Widgets still report while they go, to the binding.
 ScreenPanel::~ScreenPanel() { DestroyChildren(); }
 
-wxGauge* ScreenPanel::MakeGauge() {
-  gauge_ = new wxGauge(this, wxID_ANY, kGaugeSteps);
+wxGauge* ScreenPanel::MakeGauge(wxWindow* parent) {
+  gauge_ = new wxGauge(parent, wxID_ANY, kGaugeSteps);
   gauge_->SetName("Progress");
   gauge_->Hide();
   return gauge_;

@@ -22,7 +22,7 @@ class ScreenPanel : public wxPanel {
   Binding& binding() { return binding_; }
 
   // A gauge that is seen while a run is on. Whoever lays it out keeps its place.
-  wxGauge* MakeGauge();
+  wxGauge* MakeGauge(wxWindow* parent);
 
   void SetInRun(bool in_run);
   void ShowProgress(const Progress& progress);

@@ -10,6 +10,9 @@
 #include "stores/quenby/screens/load_rosters.h"
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
+#include "transfers/kv_to_zd.h"
+#include "transfers/zd_to_kv.h"
+#include "transfers/zd_to_qb.h"
 
 namespace golf {
 namespace {
@@ -31,6 +34,9 @@ ViewCatalogue Views() {
           {"CourseForm", {WindowKind::kDialog, Fill<CourseForm, FillCourseForm>}},
           {"CourseTee", {WindowKind::kDialog, Fill<CourseTee, FillCourseTee>}},
           {"KVtoQB", {WindowKind::kDialog, Fill<KVtoQB, FillKVtoQB>}},
+          {"KVtoZD", {WindowKind::kDialog, Fill<KVtoZD, FillKVtoZD>}},
+          {"ZDtoKV", {WindowKind::kDialog, Fill<ZDtoKV, FillZDtoKV>}},
+          {"ZDtoQB", {WindowKind::kDialog, Fill<ZDtoQB, FillZDtoQB>}},
           {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};
 }
 

@@ -13,10 +13,13 @@ class CourseTee;
 class GridSort;
 class KVCoursestoQB;
 class KVtoQB;
+class KVtoZD;
 class LoadRoster;
 class LoadRosters;
 class TipBox;
 class TransferMenu;
+class ZDtoKV;
+class ZDtoQB;
 
 // A dialog comes up in the middle of its opener, or at the opener's top left corner.
 enum class WindowKind { kMain, kDialog, kDialogOverOpener };
@@ -40,6 +43,9 @@ void FillCourseTable(ScreenPanel& panel, CourseTable& screen);
 void FillCourseForm(ScreenPanel& panel, CourseForm& screen);
 void FillCourseTee(ScreenPanel& panel, CourseTee& screen);
 void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen);
+void FillKVtoZD(ScreenPanel& panel, KVtoZD& screen);
+void FillZDtoKV(ScreenPanel& panel, ZDtoKV& screen);
+void FillZDtoQB(ScreenPanel& panel, ZDtoQB& screen);
 void FillKVCoursestoQB(ScreenPanel& panel, KVCoursestoQB& screen);
 
 }  // namespace golf

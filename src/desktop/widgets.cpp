@@ -200,7 +200,8 @@ wxStaticText* MakeNote(Binding& binding, wxWindow* parent, std::vector<const Con
     const auto noted = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
       return !control->note().empty() && control->IsShown();
     });
-    const wxString note = noted == controls.end() ? wxString() : WxText((*noted)->note()).BeforeFirst('\n');
+    const wxString note =
+        noted == controls.end() ? wxString() : WxText((*noted)->note()).BeforeFirst('\n');
     if (text->GetName() == note) return;  // the label has lines of its own
     text->SetName(note);
     text->SetLabelText(note);

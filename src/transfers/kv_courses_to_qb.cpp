@@ -41,8 +41,6 @@ class CourseLinks {
   std::vector<Link> links_;
 };
 
-void CountUp(std::int16_t& counter) { counter = CheckedInt16(counter + 1); }
-
 }  // namespace
 
 KVCoursestoQB::KVCoursestoQB(const ScreenContext& context) : Screen("KVCoursestoQB", context) {

@@ -14,24 +14,16 @@
 #include "stores/kelvane/screens/load_roster.h"
 #include "stores/quenby/free_golfer_places.h"
 #include "stores/quenby/program_class.h"
-#include "stores/quenby/screens/load_rosters.h"
+#include "transfers/quenby_rosters.h"
 #include "transfers/transfer_run.h"
 
 namespace golf {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::size_t kNumberWidth = 3;  // of the roster number at the end of its text
 
 void TellNotice(ScreenHost& host, std::string text) {
   host.Ask(Box{.title = "Notice", .text = std::move(text), .icon = BoxIcon::kInformation});
-}
-
-// A program that holds its master file is open.
-void OpenMaster(SharedState& state) {
-  if (state.Program().OpenMasterFile()) return;
-  throw NumberedError(ErrorNumber::kPermissionDenied,
-                      state.StoreDataPath + "QBMASTER.Q9D cannot be opened.");
 }
 
 // Quenby's golfers as the file stood before the run: where an ID is found first, as a walk from the
@@ -115,10 +107,8 @@ void KVtoQB::FillItemGrid() {
   const bool eighteen = header.Get<"Holes">() == 18;
   Convert18Hcpto9Hcp.SetVisible(eighteen);
   Convert9Hcpto18Hcp.SetVisible(!eighteen);
-  ProgramClass& program = state().Program();
-  OpenMaster(state());
-  program.OpenRosterListFile();
-  program.GetMasterRecord();
+  OpenQuenbyRosters(state());
+  const ProgramClass& program = state().Program();
 
   constexpr const char* kAlways = "ID#, name, addresses, phone#s, email, hcp, index";
   ShowItem(1, kAlways, kAlways);
@@ -150,18 +140,7 @@ void KVtoQB::FindSource() {
 }
 
 void KVtoQB::FindDestination() {
-  auto& picker = dynamic_cast<LoadRosters&>(host().Load("LoadRosters"));
-  picker.DeleteButton.SetEnabled(false);
-  host().ShowModal(picker);
-  host().Unload(picker);  // the next opener decides anew what can be done
-  ProgramClass& program = state().Program();
-  const std::int16_t roster = std::max<std::int16_t>(program.ActiveRoster(), 0);
-  std::string name = "Show ALL Rosters";
-  if (roster > 0) {
-    program.GetRosterRecord(roster);
-    name = program.ClubName();
-  }
-  TournamentRoster.SetText(name + std::string(25, ' ') + FormatNumber(roster, "000"));
+  TournamentRoster.SetText(AskForQuenbyRoster(state(), host(), false));
 }
 
 GolferToQbChoice KVtoQB::Choice() const {
@@ -220,7 +199,7 @@ void KVtoQB::CopyGolfers(std::int32_t length) {
   TournamentPlayers& player = state().Player();
   auto& golfer = state().Kelvane().golfer;
   const GolferToQbChoice choice = Choice();
-  const double destination = LeadingNumber(LastCharacters(TournamentRoster.text(), kNumberWidth));
+  const double destination = QuenbyRosterNumber(TournamentRoster.text());
 
   QuenbyGolfers quenby(length);
   for (std::int32_t record = kFirstGolferRecord; record <= length; ++record) {
@@ -288,11 +267,8 @@ void KVtoQB::Report(const Counts& counts) {
 
 void KVtoQB::AskTournamentUpdate() {
   state().InitSharedObjects();
-  ProgramClass& program = state().Program();
-  OpenMaster(state());
-  program.OpenRosterListFile();
-  program.GetMasterRecord();
-  const std::int32_t number = program.ActiveTournament();
+  OpenQuenbyRosters(state());
+  const std::int32_t number = state().Program().ActiveTournament();
   if (number <= 0) return;
   TournamentControl& tournament = state().Tournament();
   tournament.OpenTournamentControlFile(number);

@@ -1,5 +1,6 @@
 #include "transfers/transfer_run.h"
 
+#include "core/number_text.h"
 #include "core/resume_next.h"
 
 namespace golf {
@@ -32,5 +33,19 @@ void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
     throw;
   }
 }
+
+CopyingLook::CopyingLook(ScreenHost& host, std::initializer_list<Label*> progress, Button* hidden)
+    : host_(host), progress_(progress), hidden_(hidden) {
+  if (hidden_ != nullptr) hidden_->SetVisible(false);
+  host_.SetPointer(Pointer::kBusy);
+}
+
+CopyingLook::~CopyingLook() {
+  for (Label* label : progress_) label->SetCaption("");
+  if (hidden_ != nullptr) hidden_->SetVisible(true);
+  host_.SetPointer(Pointer::kNormal);
+}
+
+void CountUp(std::int16_t& counter) { counter = CheckedInt16(counter + 1); }
 
 }  // namespace golf

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <initializer_list>
+#include <vector>
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
@@ -13,5 +16,23 @@ namespace golf {
 // its load opens, and the error goes on.
 void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
                  const std::function<void()>& run);
+
+// How a screen looks while its run copies: the pointer is busy and the button away, if there is
+// one. In whatever way the run ends, the screen looks as before and the labels are empty.
+class CopyingLook {
+ public:
+  CopyingLook(ScreenHost& host, std::initializer_list<Label*> progress, Button* hidden = nullptr);
+  CopyingLook(const CopyingLook&) = delete;
+  CopyingLook& operator=(const CopyingLook&) = delete;
+  ~CopyingLook();
+
+ private:
+  ScreenHost& host_;
+  std::vector<Label*> progress_;
+  Button* hidden_;
+};
+
+// A count of 16 bits, one higher. Error 6 above 32767.
+void CountUp(std::int16_t& counter);
 
 }  // namespace golf

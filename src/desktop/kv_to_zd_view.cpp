@@ -1,0 +1,80 @@
+#include "desktop/layout_helpers.h"
+#include "desktop/league_panel.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "transfers/kv_to_zd.h"
+
+namespace golf {
+namespace {
+
+constexpr int kPercentWidth = 60;  // in pixels of a plain screen
+
+// What was chosen, with its heading above and the button that chooses below.
+wxSizer* Choice(Binding& binding, wxWindow* parent, Label& heading, Label& chosen, Button& finder,
+                Shown shown) {
+  wxStaticText* title = MakeLabel(binding, parent, heading);
+  MakeBold(*title);
+  return Column(
+      {title, MakeLabel(binding, parent, chosen, shown), MakeButton(binding, parent, finder)});
+}
+
+wxSizer* Handicaps(Binding& binding, wxWindow* parent, KVtoZD& screen) {
+  const int gap = CloseGap(*parent);
+  auto* types = new wxFlexGridSizer(2, gap, gap);
+  const auto middle = wxSizerFlags().CentreVertical();
+  types->Add(MakeOption(binding, parent, screen.HandicapType[0], wxRB_GROUP), middle);
+  types->Add(MakeLabel(binding, parent, screen.Label1[7]), middle);
+  types->Add(MakeOption(binding, parent, screen.HandicapType[1]), middle);
+
+  auto* percent = new wxBoxSizer(wxHORIZONTAL);
+  percent->Add(MakeLabel(binding, parent, screen.Label1[5]), middle);
+  wxTextCtrl* box = MakeTextBox(binding, parent, screen.HandicapPrct);
+  box->SetMinSize(parent->FromDIP(wxSize(kPercentWidth, -1)));
+  percent->Add(box, wxSizerFlags().CentreVertical().Border(wxLEFT | wxRIGHT, gap));
+  percent->Add(MakeLabel(binding, parent, screen.Label1[6]), middle);
+
+  wxStaticText* title = MakeLabel(binding, parent, screen.Label1[4]);
+  MakeBold(*title);
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(title, wxSizerFlags().Expand());
+  column->Add(types, wxSizerFlags().Border(wxTOP, gap));
+  column->Add(percent, wxSizerFlags().Border(wxTOP, gap));
+  return column;
+}
+
+wxPanel* MakeMain(ScreenPanel& panel, KVtoZD& screen) {
+  Binding& binding = panel.binding();
+  wxPanel* frame = MakeFrame(binding, &panel, screen.Frame1);
+  const int gap = GroupGap(panel);
+  auto* ends = new wxGridSizer(2, 0, gap);
+  ends->Add(
+      Choice(binding, frame, screen.Label1[1], screen.SourcePath, screen.FindKVMButton, nullptr),
+      wxSizerFlags().Expand());
+  ends->Add(Choice(binding, frame, screen.Label1[2], screen.DestLabel, screen.FindZDButton,
+                   LeaguePicker::HeadingOf),
+            wxSizerFlags().Expand());
+  const auto group = wxSizerFlags().Expand().Border(wxTOP, gap);
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(MakeLabel(binding, frame, screen.Label1[0]), wxSizerFlags().CentreHorizontal());
+  content->Add(ends, group);
+  content->Add(Handicaps(binding, frame, screen), group);
+  content->Add(RunLog(binding, frame, screen.Label1[3], screen.Message),
+               wxSizerFlags(1).Expand().Border(wxTOP, gap));
+  content->Add(RunProgress(panel, frame, screen.Working, screen.WorkingCount), group);
+  content->Add(ButtonRow({.affirmative = MakeButton(binding, frame, screen.TransferButton),
+                          .cancel = MakeButton(binding, frame, screen.CancelButton)}),
+               group);
+  frame->SetSizer(content);
+  return frame;
+}
+
+}  // namespace
+
+void FillKVtoZD(ScreenPanel& panel, KVtoZD& screen) {
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(MakeMain(panel, screen), wxSizerFlags(1).Expand());
+  content->Add(MakeLeaguePanel(panel, screen.picker), wxSizerFlags(1).Expand());
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf

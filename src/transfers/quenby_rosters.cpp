@@ -1,0 +1,47 @@
+#include "transfers/quenby_rosters.h"
+
+#include <algorithm>
+
+#include "core/number_text.h"
+#include "core/text.h"
+#include "stores/quenby/program_class.h"
+#include "stores/quenby/screens/load_rosters.h"
+
+namespace golf {
+namespace {
+
+constexpr std::size_t kNumberWidth = 3;
+constexpr std::size_t kBlanksBeforeNumber = 25;
+
+}  // namespace
+
+void OpenQuenbyRosters(SharedState& state) {
+  ProgramClass& program = state.Program();
+  if (!program.OpenMasterFile()) {
+    throw NumberedError(ErrorNumber::kPermissionDenied,
+                        state.StoreDataPath + "QBMASTER.Q9D cannot be opened.");
+  }
+  program.OpenRosterListFile();
+  program.GetMasterRecord();
+}
+
+std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_delete) {
+  auto& picker = dynamic_cast<LoadRosters&>(host.Load("LoadRosters"));
+  picker.DeleteButton.SetEnabled(may_delete);
+  host.ShowModal(picker);
+  host.Unload(picker);  // the next opener decides anew what can be done
+  ProgramClass& program = state.Program();
+  const std::int16_t roster = std::max<std::int16_t>(program.ActiveRoster(), 0);
+  std::string name = "Show ALL Rosters";
+  if (roster > 0) {
+    program.GetRosterRecord(roster);
+    name = program.ClubName();
+  }
+  return name + std::string(kBlanksBeforeNumber, ' ') + FormatNumber(roster, "000");
+}
+
+double QuenbyRosterNumber(std::string_view roster) {
+  return LeadingNumber(LastCharacters(roster, kNumberWidth));
+}
+
+}  // namespace golf

@@ -1,0 +1,272 @@
+#include "transfers/zd_to_qb.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "stores/quenby/screens/load_rosters.h"
+#include "support/league_test.h"
+
+namespace golf {
+namespace {
+
+constexpr std::size_t kGolferBytes = 1867;
+constexpr std::size_t kFirstGolfer = 10;
+
+std::string Golfer(int id, const std::string& first, const std::string& last) {
+  std::string bytes = Pattern(kGolferBytes);
+  Put(bytes, 4, {id});
+  Put16(bytes, 8, {4, 5, 0, 9});
+  PutText(bytes, 16, 11, first);
+  PutText(bytes, 27, 16, last);
+  return bytes;
+}
+
+std::string NewGolfer() {
+  std::string bytes(kGolferBytes, '\0');
+  for (const auto& [from, to] :
+       {std::pair{16, 43}, {44, 424}, {429, 441}, {449, 599}, {671, 1867}}) {
+    std::fill(bytes.begin() + from, bytes.begin() + to, ' ');
+  }
+  bytes[424] = 'A';
+  for (const std::size_t date : {599u, 607u, 655u}) Put(bytes, date, {45425.0});  // 13 May 2024
+  return bytes;
+}
+
+std::string Key(const std::string& record, std::size_t last, std::size_t last_width,
+                std::size_t first, std::size_t first_width) {
+  return UpperCase(std::string(Trim(record.substr(last, last_width))) +
+                   std::string(Trim(record.substr(first, first_width))));
+}
+
+// The rule of the list of IDs, walked anew for each.
+int NextID(std::vector<int> ids) {
+  std::sort(ids.begin(), ids.end());
+  std::erase_if(ids, [](int id) { return id <= 0; });
+  if (ids.empty()) return 1;
+  int next = ids.back() + 1;
+  for (std::size_t i = ids.size() - 1; i > 0; --i) {
+    if (ids[i] > ids[0] + static_cast<int>(i)) next = ids[0] + static_cast<int>(i);
+  }
+  return next > 99999 ? 1 : next;
+}
+
+struct Case {
+  const char* what;
+  std::string golfers;  // from record 10 on
+  std::string players;
+  std::string substitutes;
+  int last_substitute = 7;
+  int factor = 3;
+  std::string roster = "Club" + std::string(25, ' ') + "007";
+  int in_roster = 7;
+  bool doubled = false;
+  bool with_substitutes = true;
+  int event = 2;
+};
+
+// The golfer file after each golfer of the league, worked out by walks over whole files.
+struct Outcome {
+  explicit Outcome(const Case& c)
+      : states{std::string((kFirstGolfer - 1) * kGolferBytes, 'x') + c.golfers} {
+    if (c.golfers.empty()) states[0].clear();
+    for (std::size_t r = kFirstGolfer; r <= states[0].size() / kGolferBytes; ++r) {
+      const std::string golfer = RecordAt(states[0], r, kGolferBytes);
+      const int id = LoadLittleEndian<std::int32_t>(golfer.data() + 4);
+      keys.push_back(id >= 1 ? Key(golfer, 27, 16, 16, 11) : "");
+      if (id >= 1) ids.push_back(id);
+    }
+    for (int i = 1; i <= c.factor; ++i) Copy(c, c.players, i);
+    for (int i = 6; c.with_substitutes && i <= c.last_substitute; ++i) Copy(c, c.substitutes, i);
+  }
+
+  void Copy(const Case& c, const std::string& file, int record) {
+    const std::size_t at = (static_cast<std::size_t>(record) - 1) * kLeaguePlayerBytes;
+    if (at + kLeaguePlayerBytes > file.size()) return;
+    const std::string from = file.substr(at, kLeaguePlayerBytes);
+    if (Trim(from.substr(23, 15)) <= " ") return;
+    std::string quenby = states.back();
+    std::size_t r = kFirstGolfer;
+    const auto found = std::find(keys.begin(), keys.end(), Key(from, 23, 15, 8, 15));
+    std::string golfer;
+    if (found != keys.end()) {
+      r += static_cast<std::size_t>(found - keys.begin());
+      golfer = RecordAt(quenby, r, kGolferBytes);
+      ++updated;
+    } else {
+      while (r <= quenby.size() / kGolferBytes) {
+        const int id = LoadLittleEndian<std::int32_t>(quenby.data() + (r - 1) * kGolferBytes + 4);
+        if (id < 1 && id != -1) break;
+        ++r;
+      }
+      golfer = NewGolfer();
+      ids.push_back(NextID(ids));
+      Put(golfer, 4, {ids.back()});
+      Put16(golfer, 8, {c.in_roster});
+      ++added;
+    }
+    const auto copy = [&](std::size_t to, std::size_t width, std::size_t start,
+                          std::size_t length) {
+      golfer.replace(to, width, FitText(Trim(from.substr(start, length)), width));
+    };
+    copy(27, 16, 23, 15);
+    copy(16, 11, 8, 15);
+    golfer[43] = Int16At(from, 382) == 1 ? 1 : 0;
+    for (std::size_t line = 0; line < 3; ++line) copy(44 + 30 * line, 30, 38 + 30 * line, 30);
+    copy(284, 20, 384, 12);
+    copy(304, 20, 396, 12);
+    float handicap =
+        LoadLittleEndian<float>(from.data() + 1266 + 4 * static_cast<std::size_t>(c.event));
+    if (c.doubled) handicap = static_cast<float>(std::round(handicap * 100.0) / 100 * 2);
+    Put(golfer, 441, {0.0f, handicap});
+    quenby.resize(std::max(quenby.size(), r * kGolferBytes), '\0');
+    states.push_back(quenby.replace((r - 1) * kGolferBytes, kGolferBytes, golfer));
+  }
+
+  std::string log() const {
+    return " Transfered\r\n" + std::to_string(updated) + " golfers updated.\r\n" +
+           std::to_string(added) + " new golfers added.\r\n" + std::string(30, '=') + "\r\n";
+  }
+
+  std::vector<std::string> states;
+  std::vector<std::string> keys;
+  std::vector<int> ids;
+  int updated = 0;
+  int added = 0;
+};
+
+void WriteInstall(const TestInstall& install, const Case& c) {
+  install.folder.Write("zddata/00011.ZL8",
+                       LeagueControl("x", c.last_substitute, c.factor, c.event));
+  install.folder.Write("zddata/00011.ZP8", c.players);
+  install.folder.Write("zddata/0001.ZS8", c.substitutes);
+  if (!c.golfers.empty()) install.folder.Write("qbdata/QBGOLFER.Q9D", Outcome(c).states[0]);
+  install.folder.Write("qbdata/ZDtoQB.DAT", "\"DIV1 x   00011\"\r\n\"" + c.roster + "\"\r\n" +
+                                                (c.doubled ? "1" : "0") + "\r\n" +
+                                                (c.with_substitutes ? "1" : "0") + "\r\n");
+}
+
+std::string Transfer(TestInstall& install) {
+  return TransferFromMenu<ZDtoQB>(install, "ZDtoQBButton");
+}
+
+std::vector<Case> Cases() {
+  const std::string golfers = Golfer(50, "Al", "Able") + Golfer(-1, "gone", "gone") +
+                              Golfer(0, "No", "Body") + Golfer(52, "B", "\xE9 b") +
+                              Golfer(-7, "", "") + Golfer(50, "al", "ABLE") + Golfer(54, "X", "Y");
+  const std::string players =
+      LeaguePlayer(1, "No", "Body", 9.996f) + LeaguePlayer(2, "aL", "aBLE", -3.251f) +
+      LeaguePlayer(3, "First", "  ", 1) + LeaguePlayer(4, "Twice", "New", 36.4f) +
+      LeaguePlayer(5, "Twice", "New", 0) + LeaguePlayer(6, "Christopherson", "Long");
+  const std::string substitutes =
+      players + LeaguePlayer(7, "B", "\xC9 B") + LeaguePlayer(8, "", "Last");
+  const std::string all = "Show ALL Rosters" + std::string(25, ' ') + "000";
+  return {
+      {"matched, new, blank", golfers, players, substitutes, 8, 6},
+      {"doubled, without substitutes", golfers, players, substitutes, 8, 6, all, 0, true, false},
+      {"into nothing", "", players, substitutes, 8, 2},
+      {"a product beyond torn files", golfers, players + players.substr(0, 8000),
+       substitutes + substitutes.substr(0, 8000), 32767, 32767},
+      {"negative factors", golfers, players, substitutes, -1, -6},
+      {"all numbers given", Golfer(99999, "Q", "Q"), players, "", 5, 6}};
+}
+
+TEST(ZDtoQBTest, FilesAndReportByteForByte) {
+  for (const Case& c : Cases()) {
+    SCOPED_TRACE(c.what);
+    TestInstall install;
+    WriteInstall(install, c);
+    const Outcome outcome(c);
+    EXPECT_EQ(Transfer(install), outcome.log());
+    EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == outcome.states.back());
+    EXPECT_TRUE(install.folder.Read("zddata/00011.ZP8") == c.players);
+    EXPECT_TRUE(install.folder.Read("zddata/0001.ZS8") == c.substitutes);
+    EXPECT_EQ(install.events(),
+              std::vector<std::string>({"open TransferMenu", "open ZDtoQB", "beep",
+                                        "message [Message] " +
+                                            std::to_string(outcome.updated + outcome.added) +
+                                            " golfers transfered. -> OK",
+                                        "close ZDtoQB", "end"}));
+  }
+}
+
+TEST(ZDtoQBTest, BadInputChangesNothing) {
+  const BadInput kCases[] = {
+      {"qbdata/ZDtoQB.DAT", "", "message [Message] First select the source league -> OK"},
+      {"qbdata/ZDtoQB.DAT", "\"00011\"\r\n",
+       "message [Notice] You must select a Quenby roster before you can transfer golfers. -> OK"},
+      {"zddata/00011.ZL8", "", "message [Message] 0 golfers transfered. -> OK"},
+      BadControl(LeagueControl("x", 9, 3, 0)),
+      BadControl(LeagueControl("x", 9, 3, 51)),
+      BadControl(LeagueControl("x", 9, 3, 5).substr(0, 94))};
+  for (const auto& c : kCases) {
+    TestInstall install;
+    const Case usual = Cases()[0];
+    WriteInstall(install, usual);
+    install.folder.Write(c.file, c.bytes);
+    Transfer(install);
+    EXPECT_TRUE(Told(install, c.event)) << c.event;
+    EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == Outcome(usual).states[0]);
+  }
+}
+
+// Whatever fails, the file holds the work up to some golfer; trying again completes it.
+TEST(ZDtoQBTest, EachFileOperationFailsOnceAndIsTriedAgainOrGivenUp) {
+  const Case c = Cases()[0];
+  const Outcome outcome(c);
+  for (const std::string answer : {"Retry", "Cancel"}) {
+    int asked = 0;
+    bool failed = true;
+    for (int nth = 1; failed; ++nth) {
+      SCOPED_TRACE(answer + std::to_string(nth));
+      ASSERT_LT(nth, 500);
+      TestInstall install;
+      WriteInstall(install, c);
+      install.host->QueueAnswer("Message", answer);
+      const bool full = nth % 2 == 0;
+      install.platform->Fail(
+          {.error = full ? ErrorNumber::kDiskFull : ErrorNumber::kPathAccess, .nth = nth});
+      Transfer(install);
+      failed = install.platform->Failed();
+      const bool told =
+          Told(install,
+               std::string("message [Message] ") +
+                   (full ? "DISK IS FULL - You may need to delete nonessential" : "DISK ERROR 75") +
+                   " -> " + answer);
+      if (told) ++asked;
+      const auto& states = outcome.states;
+      const std::string left = install.folder.Read("qbdata/QBGOLFER.Q9D");
+      EXPECT_NE(std::find(states.begin(), states.end(), left), states.end());
+      EXPECT_TRUE(!told || answer == "Cancel" || left == states.back());
+    }
+    EXPECT_GT(asked, 10);
+  }
+}
+
+TEST(ZDtoQBTest, TheManagerOfRostersDeletesThroughThisScreen) {
+  TestInstall install;
+  std::string roster = Pattern(413);
+  Put16(roster, 0, {-1});
+  install.folder.Write("qbdata/QBROSTER.Q9D", roster);
+  std::string golfer = Golfer(50, "Al", "Able");
+  Put16(golfer, 8, {1, 0, 0, 0});
+  install.folder.Write("qbdata/QBGOLFER.Q9D", golfer);
+  install.host->QueueAnswer("DELETE Roster?", "YES");
+  install.host->drive = [&](Screen& screen) {
+    if (auto* manager = dynamic_cast<LoadRosters*>(&screen)) {
+      manager->grid1.SetActiveRow(2);
+      install.host->Press(screen, "DeleteButton");
+      install.host->Press(screen, "LoadButton");
+    } else {
+      install.host->Press(screen, "DestButton");
+      EXPECT_EQ(dynamic_cast<ZDtoQB&>(screen).TournamentRoster.text(),
+                "Show ALL Rosters" + std::string(25, ' ') + "000");
+    }
+  };
+  OpenScreen(install.state(), *install.host, "ZDtoQB", "");
+  EXPECT_EQ(LoadLittleEndian<std::int32_t>(install.folder.Read("qbdata/QBGOLFER.Q9D").data() + 4),
+            -1);
+}
+
+}  // namespace
+}  // namespace golf

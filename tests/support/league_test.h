@@ -1,0 +1,72 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+
+#include "core/text.h"
+#include "support/bytes.h"
+#include "support/test_host.h"
+
+namespace golf {
+
+inline constexpr std::size_t kLeaguePlayerBytes = 8012;
+
+// Zandel's records by their offsets, with a pattern in what is not named.
+inline std::string LeagueControl(const std::string& name, int last_substitute, int players,
+                                 int event) {
+  std::string bytes = Pattern(405);
+  PutText(bytes, 2, 40, name);
+  Put16(bytes, 82, {last_substitute});
+  Put16(bytes, 88, {players, 1, 12, event});
+  return bytes;
+}
+
+inline std::string LeaguePlayer(int id, const std::string& first, const std::string& last,
+                                float handicap = 7.251f, int event = 2) {
+  std::string bytes = Pattern(kLeaguePlayerBytes);
+  Put(bytes, 4, {id});
+  PutText(bytes, 8, 15, first);
+  PutText(bytes, 23, 15, last);
+  Put16(bytes, 382, {id % 3});
+  std::fill_n(bytes.begin() + 870, 100, '\0');  // no scores
+  Put(bytes, 1270 + 4 * (static_cast<std::size_t>(event) - 1), {handicap});
+  return bytes;
+}
+
+inline std::string RecordAt(const std::string& file, std::size_t record, std::size_t length) {
+  return file.substr((record - 1) * length, length);
+}
+
+// The operator's way from the menu: what the screen's log says after its run, whether or not that
+// ended with an error.
+template <class AnyScreen>
+std::string TransferFromMenu(TestInstall& install, const char* button) {
+  std::string log;
+  install.host->drive = [&](Screen& screen) {
+    if (screen.name() == "TransferMenu") return install.host->Press(screen, button);
+    install.host->Press(screen, "TransferButton");
+    log = dynamic_cast<AnyScreen&>(screen).Message.text();
+  };
+  try {
+    OpenScreen(install.state(), *install.host, "TransferMenu", "");
+  } catch (const ClickEnded&) {
+  }
+  return log;
+}
+
+inline bool Told(const TestInstall& install, const std::string& event) {
+  const auto& events = install.listener.events;
+  return std::find(events.begin(), events.end(), event) != events.end();
+}
+
+// Files that a run refuses, and the event that tells of it.
+struct BadInput {
+  const char* file;
+  std::string bytes;
+  const char* event;
+};
+inline BadInput BadControl(const std::string& bytes) {
+  return {"zddata/00011.ZL8", bytes, "error 9"};
+}
+
+}  // namespace golf
