@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "app/tools.h"
 #include "core/entry.h"
 #include "scoring/player_class.h"
 #include "scoring/screens/grid_sort_screen.h"
@@ -16,7 +17,6 @@
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
 #include "stores/course/course_class.h"
-#include "stores/course/course_library.h"
 #include "stores/course/screens/course_form.h"
 #include "stores/course/screens/course_table.h"
 #include "stores/course/screens/course_tee.h"
@@ -28,6 +28,7 @@
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
 #include "transfers/kv_to_zd.h"
+#include "transfers/zd_to_kv.h"
 #include "transfers/zd_to_qb.h"
 
 namespace golf {
@@ -52,18 +53,6 @@ void OpenForLoadRosters(SharedState& state) {
   state.StoreDataPath = state.QBDataPath;
   state.Program().OpenRosterListFile();
   state.Player().OpenRosterFile();
-}
-
-// `program` says whose library it is.
-void ShowCourseTable(SharedState& state, ScreenHost& host, std::string_view program) {
-  const CourseLibrary* library = FindCourseLibrary(program);
-  if (library == nullptr) {
-    throw NumberedError(ErrorNumber::kBadCall,
-                        "There is no course library \"" + std::string(program) + "\".");
-  }
-  OpenCourseLibrary(state, *library);
-  host.ShowModal(host.Load("CourseTable"));
-  state.Course().CloseCourseFile();
 }
 
 template <class AnyScreen>
@@ -91,6 +80,7 @@ ScreenCatalogue Application::Screens() {
           {"KVCoursestoQB", Make<KVCoursestoQB>},
           {"KVtoQB", Make<KVtoQB>},
           {"KVtoZD", Make<KVtoZD>},
+          {"ZDtoKV", Make<ZDtoKV>},
           {"ZDtoQB", Make<ZDtoQB>}};
 }
 

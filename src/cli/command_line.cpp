@@ -67,9 +67,10 @@ struct Arguments {
   ListRequest list;
   DumpRequest dump;
   GolfersKvToQbRequest golfers_kv_to_qb;
-  ResultsRequest results;
   GolfersKvToZdRequest golfers_kv_to_zd;
   GolfersZdToQbRequest golfers_zd_to_qb;
+  ScoresZdToKvRequest scores_zd_to_kv;
+  ResultsRequest results;
   CourseRequest course;
   std::string script;
   bool start_programs = false;
@@ -115,6 +116,26 @@ void AddGolfersKvToQb(CLI::App& app, const Options& options, GolfersKvToQbReques
                     "Put handicaps and indexes into the active tournament as well");
 }
 
+void AddLibrary(CLI::App& command, std::string& library) {
+  command.add_option("--library", library, "Whose courses: kv, qb or zd; kv if left out")
+      ->check(CLI::IsMember({"kv", "qb", "zd"}));
+}
+
+void AddCourse(CLI::App& app, const Options& options, CourseRequest& request, Command& chosen) {
+  CLI::App* course = app.add_subcommand("course", "Show a course, or look a library over");
+  course->require_subcommand(1);
+  CLI::App* show = AddCommand(*course, "show", "Show a course with the scorecards of its tees",
+                              "--install golf-demo course show 1 --library qb", chosen,
+                              [&] { return RunCourseShow(options, request); });
+  show->add_option("N", request.number, "The course, as in list courses")->required();
+  CLI::App* check = AddCommand(*course, "check",
+                               "Hold every active tee against the rules: a line for each finding, "
+                               "and exit code 1 if there is one",
+                               "--install golf-demo course check --library qb", chosen,
+                               [&] { return RunCourseCheck(options, request); });
+  for (CLI::App* command : {show, check}) AddLibrary(*command, request.library);
+}
+
 void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdRequest& request,
                       Command& chosen) {
   CLI::App* command =
@@ -149,24 +170,24 @@ void AddGolfersZdToQb(CLI::App& app, const Options& options, GolfersZdToQbReques
   command->add_flag("--subs", request.substitutes, "The league's substitutes as well");
 }
 
-void AddLibrary(CLI::App& command, std::string& library) {
-  command.add_option("--library", library, "Whose courses: kv, qb or zd; kv if left out")
-      ->check(CLI::IsMember({"kv", "qb", "zd"}));
-}
-
-void AddCourse(CLI::App& app, const Options& options, CourseRequest& request, Command& chosen) {
-  CLI::App* course = app.add_subcommand("course", "Show a course, or look a library over");
-  course->require_subcommand(1);
-  CLI::App* show = AddCommand(*course, "show", "Show a course with the scorecards of its tees",
-                              "--install golf-demo course show 1 --library qb", chosen,
-                              [&] { return RunCourseShow(options, request); });
-  show->add_option("N", request.number, "The course, as in list courses")->required();
-  CLI::App* check = AddCommand(*course, "check",
-                               "Hold every active tee against the rules: a line for each finding, "
-                               "and exit code 1 if there is one",
-                               "--install golf-demo course check --library qb", chosen,
-                               [&] { return RunCourseCheck(options, request); });
-  for (CLI::App* command : {show, check}) AddLibrary(*command, request.library);
+void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest& request,
+                     Command& chosen) {
+  CLI::App* command =
+      AddCommand(app, "scores-zd-to-kv", "Transfer scores of a league, Zandel to Kelvane",
+                 "--install golf-demo scores-zd-to-kv --league 00011 --batch 3 --roster CLUB18",
+                 chosen, [&] { return RunScoresZdToKv(options, request); });
+  AddLeague(*command, request.league);
+  command->add_option("--batch", request.batch, "What to transfer, by its code as in list events")
+      ->required()
+      ->check(CLI::Range(1, 999))
+      ->type_name("CODE");
+  AddRoster(*command, request.roster);
+  command
+      ->add_option("--again", request.again,
+                   "Whether scores that the roster has already go in once more; left out, three "
+                   "of them in a row end the transfer")
+      ->check(CLI::IsMember({"yes", "no"}))
+      ->type_name("yes|no");
 }
 
 void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
@@ -227,6 +248,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   AddGolfersKvToQb(app, options, args.golfers_kv_to_qb, chosen);
   AddGolfersKvToZd(app, options, args.golfers_kv_to_zd, chosen);
   AddGolfersZdToQb(app, options, args.golfers_zd_to_qb, chosen);
+  AddScoresZdToKv(app, options, args.scores_zd_to_kv, chosen);
 
   CLI::App* script = AddCommand(app, "script", "Drive the screens by the lines of a script",
                                 "--install golf-demo script clicks.txt", chosen, [&] {

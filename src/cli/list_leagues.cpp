@@ -14,7 +14,7 @@ namespace {
 // A control file that is cut holds the start of the name, or nothing of it.
 std::string NameOf(const Record<LeagueControlLayout>& control) {
   const std::string name = control.Get<"LeagueName">();
-  return std::string(TrimRight(std::string_view(name).substr(0, name.find('\0'))));
+  return std::string(Trim(std::string_view(name).substr(0, name.find('\0'))));
 }
 
 }  // namespace

@@ -176,7 +176,7 @@ void ScriptRunner::SetText(const Words& words) {
   if (box.read_only()) throw ScriptError(words[1] + " can only be read.");
   host_.Operate(screen, [&] {
     screen.MoveFocus(&box);
-    box.SetText(words[2]);
+    box.Enter(words[2]);
     screen.MoveFocus(nullptr);
   });
 }

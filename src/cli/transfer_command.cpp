@@ -51,9 +51,17 @@ std::optional<ExitCode> Work(Application& application, HeadlessHost& host, Repor
                              const TransferCommand& command) {
   application.state().remembers_settings = false;
   host.drive = [&](Screen& screen) {
-    command.work(host, screen);
-    const auto* log = dynamic_cast<const TextBox*>(screen.FindControl(command.log));
-    if (log != nullptr) report.AddLog(log->text());
+    const auto add_log = [&] {
+      const auto* log = dynamic_cast<const TextBox*>(screen.FindControl(command.log));
+      if (log != nullptr) report.AddLog(log->text());
+    };
+    try {
+      command.work(host, screen);
+    } catch (const ClickEnded&) {
+      add_log();  // what was done before the error
+      throw;
+    }
+    add_log();
   };
   try {
     host.Operate([&] { OpenScreen(application.state(), host, command.screen, ""); });
@@ -89,6 +97,7 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   const auto failed = Work(*application, host, report, command);
   bar.Clear();
   const ExitCode code = failed ? *failed : ExitCodeAfterRun(host);
+  if (host.run_ended_by()) TellProblem(host.run_ended_by()->Report());
   TellFaultCount(host.faults().size());
   if (options.json) {
     if (!host.counts().empty() && !failed) WriteResult(command, host);

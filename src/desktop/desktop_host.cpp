@@ -1,6 +1,7 @@
 #include "desktop/desktop_host.h"
 
 #include <wx/app.h>
+#include <wx/clipbrd.h>
 #include <wx/datetime.h>
 #include <wx/dialog.h>
 #include <wx/evtloop.h>
@@ -10,6 +11,8 @@
 #include <utility>
 
 #include "desktop/native_boxes.h"
+#include "desktop/tools_menu.h"
+#include "desktop/wx_text.h"
 
 namespace golf {
 namespace {
@@ -94,6 +97,7 @@ void DesktopHost::Open(Screen& screen) {
   const View& view = views_.find(screen.name())->second;
   wxTopLevelWindow* window = NewWindow(view.kind, TopWindow());
   auto* panel = new ScreenPanel(*window, *this, screen);
+  if (auto* frame = dynamic_cast<wxFrame*>(window)) AddToolsMenu(*frame, state(), *this);
   view.fill(*panel, screen);
   if (view.kind == WindowKind::kDialog) window->CentreOnParent();
   if (view.kind == WindowKind::kDialogOverOpener && TopWindow() != nullptr) {
@@ -110,6 +114,8 @@ void DesktopHost::RunModal(Screen& screen) {
   auto& dialog = dynamic_cast<wxDialog&>(panel.window());
   dialog.ShowModal();
   dialog.Destroy();
+  // Some window managers give the focus to the main window, which takes no input.
+  if (wxTopLevelWindow* below = TopWindow()) below->Raise();
 }
 
 void DesktopHost::Close(Screen& screen) {
@@ -214,6 +220,11 @@ void DesktopHost::ForgetTypedInput() { Yield(wxEVT_CATEGORY_ALL); }
 
 void DesktopHost::StartProgram(const std::string& path, const std::string& arguments) {
   state().files.platform().StartProgram(path, arguments);
+}
+
+void DesktopHost::CopyText(const std::string& text) {
+  wxClipboardLocker clipboard;
+  if (!!clipboard) wxTheClipboard->SetData(new wxTextDataObject(WxText(text)));
 }
 
 void DesktopHost::EndProcess() {

@@ -31,6 +31,7 @@ class DesktopHost : public HostBase {
   void EndRun() override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
   DateValue Now() override { return clock(); }
+  void CopyText(const std::string& text) override;
   void EndProcess() override;
 
  protected:

@@ -28,10 +28,15 @@ class ControlTable : public wxGridTableBase {
   }
   wxString GetValue(int row, int column) override {
     const bool there = row < control_.rows();  // until the view has caught up
-    return there ? WxText(control_.text(ControlColumn(column), row + 1)) : wxString();
+    return there ? WxText(Shown(ControlColumn(column), row + 1)) : wxString();
   }
   void SetValue(int row, int column, const wxString& value) override {
-    Enter(row, column, TextFromWx(value));
+    const std::string text = TextFromWx(value);
+    if (row < control_.rows() && text == Shown(ControlColumn(column), row + 1)) return;
+    for (const DropDownItem& item : control_.items(ControlColumn(column))) {
+      if (item.text == text) return Enter(row, column, item.CellText());
+    }
+    Enter(row, column, text);
   }
   wxString GetTypeName(int, int column) override {
     return IsTick(column) ? wxGRID_VALUE_BOOL : wxGRID_VALUE_STRING;
@@ -51,11 +56,11 @@ class ControlTable : public wxGridTableBase {
     const int control_column = ControlColumn(column);
     const bool locked = control_.IsLocked(control_column, row + 1);
     attributes->SetReadOnly(locked);
-    if (IsTick(column)) {
+    if (IsTick(column) || control_.IsCentred(control_column)) {
       attributes->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
-      if (locked) {
-        attributes->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
-      }
+    }
+    if (IsTick(column) && locked) {
+      attributes->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
     }
     if (control_.cell_type(control_column) == CellType::kDropDown) {
       attributes->SetEditor(new wxGridCellChoiceEditor(Choices(control_column)));
@@ -78,6 +83,14 @@ class ControlTable : public wxGridTableBase {
 
  private:
   int ControlColumn(int column) const { return columns_[static_cast<std::size_t>(column)]; }
+  // Of an item of a drop-down cell its text alone.
+  const std::string& Shown(int control_column, int row) const {
+    const std::string& text = control_.text(control_column, row);
+    for (const DropDownItem& item : control_.items(control_column)) {
+      if (item.CellText() == text) return item.text;
+    }
+    return text;
+  }
   bool IsTick(int column) const {
     return control_.cell_type(ControlColumn(column)) == CellType::kCheckBox;
   }

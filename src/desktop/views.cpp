@@ -1,13 +1,20 @@
 #include "desktop/views.h"
 
 #include "scoring/screens/grid_sort_screen.h"
+#include "scoring/screens/team_layout_builder.h"
+#include "scoring/screens/team_layout_list.h"
+#include "scoring/screens/team_results_screen.h"
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
+#include "stores/course/screens/course_form.h"
+#include "stores/course/screens/course_table.h"
+#include "stores/course/screens/course_tee.h"
 #include "stores/kelvane/screens/load_roster.h"
 #include "stores/quenby/screens/load_rosters.h"
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
 #include "transfers/kv_to_zd.h"
+#include "transfers/zd_to_kv.h"
 #include "transfers/zd_to_qb.h"
 
 namespace golf {
@@ -26,8 +33,16 @@ ViewCatalogue Views() {
           {"GridSort", {WindowKind::kDialog, Fill<GridSort, FillGridSort>}},
           {"LoadRoster", {WindowKind::kDialog, Fill<LoadRoster, FillLoadRoster>}},
           {"LoadRosters", {WindowKind::kDialogOverOpener, Fill<LoadRosters, FillLoadRosters>}},
+          {"CourseTable", {WindowKind::kDialog, Fill<CourseTable, FillCourseTable>}},
+          {"CourseForm", {WindowKind::kDialog, Fill<CourseForm, FillCourseForm>}},
+          {"CourseTee", {WindowKind::kDialog, Fill<CourseTee, FillCourseTee>}},
+          {"TeamResults", {WindowKind::kDialog, Fill<TeamResults, FillTeamResults>}},
+          {"TeamLayouts", {WindowKind::kDialog, Fill<TeamLayouts, FillTeamLayouts>}},
+          {"XReportsCustomTeamResults",
+           {WindowKind::kDialog, Fill<XReportsCustomTeamResults, FillTeamLayoutBuilder>}},
           {"KVtoQB", {WindowKind::kDialog, Fill<KVtoQB, FillKVtoQB>}},
           {"KVtoZD", {WindowKind::kDialog, Fill<KVtoZD, FillKVtoZD>}},
+          {"ZDtoKV", {WindowKind::kDialog, Fill<ZDtoKV, FillZDtoKV>}},
           {"ZDtoQB", {WindowKind::kDialog, Fill<ZDtoQB, FillZDtoQB>}},
           {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};
 }

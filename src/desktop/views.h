@@ -7,14 +7,21 @@
 
 namespace golf {
 
+class CourseForm;
+class CourseTable;
+class CourseTee;
 class GridSort;
 class KVCoursestoQB;
 class KVtoQB;
 class KVtoZD;
 class LoadRoster;
 class LoadRosters;
+class TeamLayouts;
+class TeamResults;
 class TipBox;
 class TransferMenu;
+class XReportsCustomTeamResults;
+class ZDtoKV;
 class ZDtoQB;
 
 // A dialog comes up in the middle of its opener, or at the opener's top left corner.
@@ -32,11 +39,18 @@ ViewCatalogue Views();
 
 void FillTransferMenu(ScreenPanel& panel, TransferMenu& screen);
 void FillTipBox(ScreenPanel& panel, TipBox& screen);
+void FillTeamResults(ScreenPanel& panel, TeamResults& screen);
+void FillTeamLayouts(ScreenPanel& panel, TeamLayouts& screen);
+void FillTeamLayoutBuilder(ScreenPanel& panel, XReportsCustomTeamResults& screen);
 void FillGridSort(ScreenPanel& panel, GridSort& screen);
 void FillLoadRoster(ScreenPanel& panel, LoadRoster& screen);
 void FillLoadRosters(ScreenPanel& panel, LoadRosters& screen);
+void FillCourseTable(ScreenPanel& panel, CourseTable& screen);
+void FillCourseForm(ScreenPanel& panel, CourseForm& screen);
+void FillCourseTee(ScreenPanel& panel, CourseTee& screen);
 void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen);
 void FillKVtoZD(ScreenPanel& panel, KVtoZD& screen);
+void FillZDtoKV(ScreenPanel& panel, ZDtoKV& screen);
 void FillZDtoQB(ScreenPanel& panel, ZDtoQB& screen);
 void FillKVCoursestoQB(ScreenPanel& panel, KVCoursestoQB& screen);
 

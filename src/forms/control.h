@@ -172,7 +172,11 @@ class TextBox : public Control {
   const std::string& text() const { return text_; }
   void SetText(std::string text) {
     selected_ = 0;
-    if (text_ == text) return;
+    if (text_ != text) Enter(std::move(text));
+  }
+  // What the operator enters: runs the event even where the text is the one that stood there.
+  void Enter(std::string text) {
+    selected_ = 0;
     Assign(text_, std::move(text));
     if (on_change) on_change();
   }
@@ -186,9 +190,9 @@ class TextBox : public Control {
 
   // A key that the filter has let through: it takes the place of what is selected, or comes behind
   // the text.
-  void TypeKey(char key) { SetText(selected_ > 0 ? key + text_.substr(selected_) : text_ + key); }
+  void TypeKey(char key) { Enter(selected_ > 0 ? key + text_.substr(selected_) : text_ + key); }
 
-  // Runs after every change of the text, the program's own included.
+  // Runs after every change of the text, the program's own included, and after every entry.
   std::function<void()> on_change;
   // Gives the key that takes the place of a typed one; 0 refuses it.
   std::function<char(char)> key_filter;

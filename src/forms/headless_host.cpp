@@ -21,7 +21,9 @@ const std::string* HeadlessHost::NextAnswer(std::string_view title) {
       return queued.title == title && queued.always == always;
     });
   };
-  if (const auto once = find(false); once != answers_.end()) {
+  const auto once = find(false);
+  answer_stands_ = once == answers_.end();
+  if (!answer_stands_) {
     taken_ = std::move(once->answer);
     answers_.erase(once);
     return &taken_;
@@ -105,7 +107,8 @@ void HeadlessHost::AnswerTip(Screen& screen, const TipView& tip) {
 }
 
 void HeadlessHost::NoteBadAnswer(std::string_view title, std::string_view answer) {
-  if (!bad_answer_.empty()) return;
+  // One that stands for every box of a title need not fit them all.
+  if (!bad_answer_.empty() || answer_stands_) return;
   bad_answer_ =
       "\"" + std::string(answer) + "\" does not answer the box \"" + std::string(title) + "\".";
 }

@@ -60,8 +60,8 @@ class HeadlessHost : public HostBase {
   // pressed.
   bool Leave(Screen& screen);
 
-  // What is wrong with an answer that was queued, if it did not fit its box; empty with none. Such
-  // a box took its default, so that a run does not stop halfway.
+  // What is wrong with an answer that was queued for one box, if it did not fit it; empty with
+  // none. Such a box took its default, so that a run does not stop halfway.
   const std::string& bad_answer() const { return bad_answer_; }
 
   void Show(Screen& screen) override;
@@ -100,6 +100,7 @@ class HeadlessHost : public HostBase {
   HostListener& listener_;
   std::list<QueuedAnswer> answers_;
   std::string taken_;
+  bool answer_stands_ = false;  // the last one that was taken
   std::string bad_answer_;
   std::string copied_;
 };

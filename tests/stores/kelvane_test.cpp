@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "stores/kelvane/kelvane_files.h"
+#include "stores/kelvane/kelvane_golfer_index.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "support/bytes.h"
 #include "support/error_of.h"
@@ -157,9 +158,12 @@ TEST_F(KelvaneTest, FindingAGolfer) {
   install.folder.Write("kvdata/Club.kvg", file + std::string(2803, '\1'));
   OpenKVRoster(state, "Club");
   EXPECT_EQ(KVGolferPlaces(state), 6);
+  KelvaneGolferIndex index(state);
+  EXPECT_EQ(index.PlacesOf(7), (std::vector<std::int32_t>{5, 6}));
   for (const auto& [id, place] : {std::pair{7, 5}, {8, 4}, {0, 0}, {0x01010101, 0}}) {
     EXPECT_EQ(FindKVGolfer(state, id), place) << id;
     EXPECT_EQ(buffers.golfer.Get<"IDNum">(), place == 4 ? 8 : 7) << id;  // of the last one read
+    EXPECT_EQ(index.Find(id), place) << id;
   }
   install.folder.Write("kvdata/Club.kvg", "");
   state.files.Synchronize();

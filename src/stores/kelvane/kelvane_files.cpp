@@ -112,8 +112,7 @@ std::int32_t FindKVGolfer(SharedState& state, std::int32_t id) {
   const std::int32_t places = KVGolferPlaces(state);
   for (std::int32_t place = 1; place <= places; ++place) {
     state.files.Read(kKelvaneGolferFile, place, golfer);
-    // What stands in a free place is left over from somebody.
-    if (golfer.Get<"Status">() >= 1 && golfer.Get<"IDNum">() == id) return place;
+    if (IsGolfer(golfer) && golfer.Get<"IDNum">() == id) return place;
   }
   return 0;
 }

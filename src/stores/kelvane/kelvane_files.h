@@ -30,6 +30,11 @@ void CloseKVFiles(SharedState& state);
 // Fills the header buffer for a new roster: 9 or 18 holes.
 void BuildBlankKVHeader(SharedState& state, std::uint8_t holes);
 
+// What stands in a free place is left over from somebody.
+inline bool IsGolfer(const Record<KelvaneGolferLayout>& golfer) {
+  return golfer.Get<"Status">() >= 1;
+}
+
 // Golfer places of the open roster.
 std::int32_t KVGolferPlaces(SharedState& state);
 

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "stores/kelvane/kelvane_buffers.h"
+#include "core/number_text.h"
+#include "core/numbered_error.h"
+#include "stores/kelvane/kelvane_files.h"
 
 namespace golf {
 namespace {
@@ -69,6 +71,14 @@ void KelvaneBuffers::SetEntry(int i, const Record<KelvaneScoreLayout>& entry) {
   entry.Bytes().copy(at, kKelvaneScoreLength);
 }
 
+std::uint8_t KVByte(double value) {
+  const std::int16_t whole = RoundToInt16(value);
+  if (whole < 0 || whole > 255) {
+    throw NumberedError(ErrorNumber::kOverflow, "A number is too large for its place.");
+  }
+  return static_cast<std::uint8_t>(whole);
+}
+
 void BlankKVScore(SharedState& state) {
   auto& score = state.Kelvane().score;
   score = {};
@@ -97,6 +107,24 @@ void RepositionKVScore(SharedState& state, int place) {
     Shift(buffers, place + 1, target, -1);
     buffers.SetEntry(target, buffers.score);
   }
+}
+
+void ReadKVHistory(SharedState& state, std::int32_t place) {
+  state.files.Read(kKelvaneScoreFile, place, state.Kelvane().history);
+}
+
+void WriteKVHistory(SharedState& state, std::int32_t place) {
+  state.files.Write(kKelvaneScoreFile, place, state.Kelvane().history);
+}
+
+void WriteKVGolfer(SharedState& state, std::int32_t place) {
+  state.files.Write(kKelvaneGolferFile, place, state.Kelvane().golfer);
+}
+
+void PostKVScore(SharedState& state, std::int32_t place) {
+  AddKVScore(state);
+  WriteKVGolfer(state, place);
+  WriteKVHistory(state, place);
 }
 
 }  // namespace golf

@@ -73,21 +73,26 @@ CourseForm::CourseForm(const ScreenContext& context) : Screen("CourseForm", cont
 
 void CourseForm::BeginAdd() {
   SetCaption("Add Course");
-  SetTag("");
   FCourseNum.SetCaption("");
   for (const CourseText& text : kTexts) (this->*text.box).SetText("");
   ChooseHoles(course().Allow18HoleCourses ? 0 : 1);
-  grid1.SetActiveRow(1);
+  Begin();
 }
 
 void CourseForm::BeginEdit(std::int32_t number) {
   SetCaption("Edit Course");
-  SetTag("");
   FCourseNum.SetCaption(std::to_string(number));
   for (const CourseText& text : kTexts) (this->*text.box).SetText((course().*text.get)());
   const int flag = course().HoleNumFlag();
   ChooseHoles(flag == 9 ? 1 : flag == -9 ? 2 : 0);
+  Begin();
+}
+
+void CourseForm::Begin() {
+  SetTag("");
+  ShowTees();
   grid1.SetActiveRow(1);
+  MoveFocus(&FCourseName);
 }
 
 void CourseForm::CopyToRecord() {

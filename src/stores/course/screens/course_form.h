@@ -55,6 +55,7 @@ class CourseForm : public Screen {
 
  private:
   CourseClass& course() const { return state().Course(); }
+  void Begin();
   void ChooseHoles(std::size_t option);
   int HoleNumFlag() const;
   void ShowTees();

@@ -26,6 +26,7 @@ CourseTable::CourseTable(const ScreenContext& context) : Screen("CourseTable", c
   CourseGrid.SetHeading(kHolesColumn, "# of holes");
   CourseGrid.SetHeading(kKelvaneColumn, "KV Course");
   CourseGrid.SetHidden(kNumberColumn, true);
+  for (const int column : {kHolesColumn, kKelvaneColumn}) CourseGrid.SetCentred(column, true);
   for (int column = 0; column <= CourseGrid.columns(); ++column) {
     CourseGrid.LockColumn(column, true);
   }

@@ -1,0 +1,150 @@
+#include "desktop/grid_widget.h"
+#include "desktop/layout_helpers.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "desktop/wx_text.h"
+#include "scoring/screens/team_layout_builder.h"
+
+namespace golf {
+namespace {
+
+constexpr int kRowsSeen = 11;
+constexpr int kGridWidth = 960;  // in pixels of a plain screen
+
+class BuilderFiller {
+ public:
+  BuilderFiller(ScreenPanel& panel, XReportsCustomTeamResults& screen)
+      : panel_(panel), binding_(panel.binding()), screen_(screen) {}
+
+  wxSizer* Content() {
+    wxNotebook* book = MakeTab(binding_, &panel_, screen_.TabMain);
+    FillPage(book->GetPage(0), Scores(book->GetPage(0)));
+    FillPage(book->GetPage(1), HeadersAndFonts(book->GetPage(1)));
+    auto* content = new wxBoxSizer(wxVERTICAL);
+    content->Add(book, wxSizerFlags(1).Expand());
+    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
+    buttons->Add(NewButton(&panel_, screen_.Help));
+    buttons->Add(ButtonRow({.affirmative = NewButton(&panel_, screen_.SaveButton),
+                            .cancel = NewButton(&panel_, screen_.CancelButton)}),
+                 wxSizerFlags(1));
+    content->Add(buttons, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
+    return content;
+  }
+
+ private:
+  wxSizerFlags Below() const { return wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel_)); }
+  wxButton* NewButton(wxWindow* parent, Button& control) {
+    return MakeButton(binding_, parent, control);
+  }
+
+  void FillPage(wxWindow* page, wxSizer* content) {
+    auto* margin = new wxBoxSizer(wxVERTICAL);
+    margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, EdgeGap(panel_)));
+    page->SetSizer(margin);
+  }
+
+  wxSizer* Scores(wxWindow* page) {
+    auto* top = new wxBoxSizer(wxHORIZONTAL);
+    top->Add(Entries(page), wxSizerFlags(1).Expand().Border(wxRIGHT, 2 * GroupGap(panel_)));
+    top->Add(Selection(page));
+    auto* content = new wxBoxSizer(wxVERTICAL);
+    content->Add(top, wxSizerFlags().Expand());
+    content->Add(MakeLabel(binding_, page, screen_.CopyLabel),
+                 wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
+    wxGrid* grid = MakeGrid(binding_, page, screen_.grid1, GridMarks::kCells, kRowsSeen);
+    grid->SetMinSize({panel_.FromDIP(kGridWidth), grid->GetMinSize().y});
+    grid->FreezeTo(0, 1);
+    content->Add(grid, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel_)));
+    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
+    for (Button* button : {&screen_.SampleDataGenerate, &screen_.CalculateButton}) {
+      buttons->Add(NewButton(page, *button), wxSizerFlags().Border(wxRIGHT, CloseGap(panel_)));
+    }
+    content->Add(buttons, Below());
+    return content;
+  }
+
+  wxSizer* Entries(wxWindow* page) {
+    auto* rows = new wxFlexGridSizer(2, CloseGap(panel_), GroupGap(panel_));
+    rows->AddGrowableCol(1);
+    const auto add = [&](Label& label, wxWindow* widget, bool wide) {
+      rows->Add(MakeLabel(binding_, page, label), wxSizerFlags().CentreVertical());
+      rows->Add(widget, wide ? wxSizerFlags().Expand() : wxSizerFlags());
+    };
+    add(screen_.NameLabel, MakeTextBox(binding_, page, screen_.ReportName), true);
+    add(screen_.DescriptionLabel, MakeTextBox(binding_, page, screen_.ReportDescription), true);
+    add(screen_.HoleNumberLabel, MakeChoice(binding_, page, screen_.HoleNumberUsedList), false);
+    add(screen_.PlayersLabel, MakeChoice(binding_, page, screen_.PlayerPerTeamList), false);
+    return rows;
+  }
+
+  // A frame with its caption above what it holds.
+  wxPanel* NewFrame(wxWindow* page, Frame& control, wxSizer*& column) {
+    wxPanel* frame = MakeFrame(binding_, page, control);
+    auto* caption = new wxStaticText(frame, wxID_ANY, WxText(control.caption()));
+    MakeBold(*caption);
+    column = new wxBoxSizer(wxVERTICAL);
+    column->Add(caption);
+    frame->SetSizer(column);
+    return frame;
+  }
+
+  wxPanel* Selection(wxWindow* page) {
+    wxSizer* column = nullptr;
+    wxPanel* frame = NewFrame(page, screen_.SelectionFrame, column);
+    column->Add(MakeOption(binding_, frame, screen_.BallSelectionOpt[0], wxRB_GROUP), Below());
+    column->Add(MakeOption(binding_, frame, screen_.BallSelectionOpt[1]), Below());
+    column->Add(MakeChoice(binding_, frame, screen_.BallSelectionStyle), Below());
+    return frame;
+  }
+
+  wxSizer* HeadersAndFonts(wxWindow* page) {
+    auto* content = new wxBoxSizer(wxHORIZONTAL);
+    content->Add(Headers(page), wxSizerFlags(1).Border(wxRIGHT, 2 * GroupGap(panel_)));
+    content->Add(Fonts(page), wxSizerFlags(1));
+    return content;
+  }
+
+  wxPanel* Headers(wxWindow* page) {
+    wxSizer* column = nullptr;
+    wxPanel* frame = NewFrame(page, screen_.HeaderFrame, column);
+    for (TextCombo& header : screen_.HeaderText) {
+      column->Add(MakeTextCombo(binding_, frame, header), Below());
+    }
+    column->Add(MakeLabel(binding_, frame, screen_.NumberLabel),
+                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
+    column->Add(MakeTextBox(binding_, frame, screen_.ReportNumber), Below());
+    for (CheckBox& header : screen_.Header) {
+      column->Add(MakeCheckBox(binding_, frame, header), Below());
+    }
+    return frame;
+  }
+
+  wxPanel* Fonts(wxWindow* page) {
+    wxSizer* column = nullptr;
+    wxPanel* frame = NewFrame(page, screen_.FontFrame, column);
+    auto* rows = new wxFlexGridSizer(2, CloseGap(panel_), GroupGap(panel_));
+    rows->AddGrowableCol(1);
+    for (std::size_t i = 0; i < screen_.FontButton.size(); ++i) {
+      rows->Add(NewButton(frame, screen_.FontButton[i]), wxSizerFlags().Expand());
+      rows->Add(MakeLabel(binding_, frame, screen_.FontLabel[i]),
+                wxSizerFlags().Expand().CentreVertical());
+    }
+    column->Add(rows, Below());
+    column->Add(MakeCheckBox(binding_, frame, screen_.DisplayHGridLines),
+                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
+    column->Add(MakeCheckBox(binding_, frame, screen_.DisplayVGridLines), Below());
+    return frame;
+  }
+
+  ScreenPanel& panel_;
+  Binding& binding_;
+  XReportsCustomTeamResults& screen_;
+};
+
+}  // namespace
+
+void FillTeamLayoutBuilder(ScreenPanel& panel, XReportsCustomTeamResults& screen) {
+  FinishWindow(panel, BuilderFiller(panel, screen).Content());
+}
+
+}  // namespace golf

@@ -1,0 +1,36 @@
+#include "stores/kelvane/kelvane_golfer_index.h"
+
+#include <algorithm>
+
+#include "stores/kelvane/kelvane_files.h"
+
+namespace golf {
+
+void KelvaneGolferIndex::Read() {
+  golfers_.clear();
+  Record<KelvaneGolferLayout> golfer;
+  const std::int32_t places = KVGolferPlaces(state_);
+  for (std::int32_t place = 1; place <= places; ++place) {
+    state_.files.Read(kKelvaneGolferFile, place, golfer);
+    if (IsGolfer(golfer)) golfers_.push_back({golfer.Get<"IDNum">(), place});
+  }
+  std::sort(golfers_.begin(), golfers_.end());
+  read_ = true;
+}
+
+std::vector<std::int32_t> KelvaneGolferIndex::PlacesOf(std::int32_t id) {
+  if (!read_) Read();
+  std::vector<std::int32_t> places;
+  auto golfer = std::lower_bound(golfers_.begin(), golfers_.end(), Golfer{id, 0});
+  for (; golfer != golfers_.end() && golfer->id == id; ++golfer) places.push_back(golfer->place);
+  return places;
+}
+
+std::int32_t KelvaneGolferIndex::Find(std::int32_t id) {
+  const std::vector<std::int32_t> places = PlacesOf(id);
+  if (places.empty()) return 0;
+  state_.files.Read(kKelvaneGolferFile, places.front(), state_.Kelvane().golfer);
+  return places.front();
+}
+
+}  // namespace golf
