@@ -2,7 +2,9 @@
 
 #include <wx/settings.h>
 
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/number_text.h"
@@ -19,6 +21,7 @@ class ControlTable : public wxGridTableBase {
  public:
   ControlTable(Binding& binding, Grid& control) : binding_(binding), control_(control) {
     ChooseColumns();
+    FillDropDowns();
   }
 
   int GetNumberRows() override { return rows_; }
@@ -59,11 +62,13 @@ class ControlTable : public wxGridTableBase {
     if (IsTick(column) || control_.IsCentred(control_column)) {
       attributes->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
     }
-    if (IsTick(column) && locked) {
+    if (locked && control_.cell_type(control_column) != CellType::kText) {
       attributes->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
     }
-    if (control_.cell_type(control_column) == CellType::kDropDown) {
-      attributes->SetEditor(new wxGridCellChoiceEditor(Choices(control_column)));
+    const auto editor = drop_downs_.find(control_column);
+    if (editor != drop_downs_.end()) {
+      editor->second.editor->IncRef();  // for the attributes, which let it go again
+      attributes->SetEditor(editor->second.editor.get());
     }
     return attributes;
   }
@@ -73,6 +78,7 @@ class ControlTable : public wxGridTableBase {
     const int rows_before = rows_;
     const int columns_before = GetNumberCols();
     ChooseColumns();
+    FillDropDowns();
     const bool rows = TellChange(rows_ - rows_before, rows_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED,
                                  wxGRIDTABLE_NOTIFY_ROWS_DELETED);
     const bool columns =
@@ -93,6 +99,18 @@ class ControlTable : public wxGridTableBase {
   }
   bool IsTick(int column) const {
     return control_.cell_type(ControlColumn(column)) == CellType::kCheckBox;
+  }
+  // One for each column: an editor must outlive the attributes that it was asked for through, which
+  // come and go while it is open.
+  void FillDropDowns() {
+    for (const int column : columns_) {
+      if (control_.cell_type(column) != CellType::kDropDown) continue;
+      wxArrayString choices = Choices(column);
+      DropDown& drop_down = drop_downs_[column];
+      if (drop_down.editor && drop_down.choices == choices) continue;
+      drop_down.editor = wxGridCellEditorPtr(new wxGridCellChoiceEditor(choices));
+      drop_down.choices = std::move(choices);
+    }
   }
   wxArrayString Choices(int control_column) const {
     wxArrayString choices;
@@ -119,9 +137,15 @@ class ControlTable : public wxGridTableBase {
     return GetView()->ProcessTableMessage(message);
   }
 
+  struct DropDown {
+    wxGridCellEditorPtr editor;
+    wxArrayString choices;
+  };
+
   Binding& binding_;
   Grid& control_;
-  std::vector<int> columns_;  // those of the control that are seen
+  std::map<int, DropDown> drop_downs_;  // by column of the control
+  std::vector<int> columns_;            // those of the control that are seen
   int rows_ = 0;
 };
 

@@ -45,15 +45,15 @@ class BuilderFiller {
 
   wxSizer* Scores(wxWindow* page) {
     auto* top = new wxBoxSizer(wxHORIZONTAL);
-    top->Add(Entries(page), wxSizerFlags(1).Expand().Border(wxRIGHT, 2 * GroupGap(panel_)));
+    top->Add(Numbers(page), wxSizerFlags(1).Border(wxRIGHT, 2 * GroupGap(panel_)));
     top->Add(Selection(page));
     auto* content = new wxBoxSizer(wxVERTICAL);
-    content->Add(top, wxSizerFlags().Expand());
+    content->Add(Names(page), wxSizerFlags().Expand());
+    content->Add(top, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
     content->Add(MakeLabel(binding_, page, screen_.CopyLabel),
                  wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
     wxGrid* grid = MakeGrid(binding_, page, screen_.grid1, GridMarks::kCells, kRowsSeen);
     grid->SetMinSize({panel_.FromDIP(kGridWidth), grid->GetMinSize().y});
-    grid->FreezeTo(0, 1);
     content->Add(grid, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel_)));
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
     for (Button* button : {&screen_.SampleDataGenerate, &screen_.CalculateButton}) {
@@ -63,17 +63,26 @@ class BuilderFiller {
     return content;
   }
 
-  wxSizer* Entries(wxWindow* page) {
+  wxSizer* Names(wxWindow* page) {
     auto* rows = new wxFlexGridSizer(2, CloseGap(panel_), GroupGap(panel_));
     rows->AddGrowableCol(1);
-    const auto add = [&](Label& label, wxWindow* widget, bool wide) {
+    const auto add = [&](Label& label, TextBox& box) {
       rows->Add(MakeLabel(binding_, page, label), wxSizerFlags().CentreVertical());
-      rows->Add(widget, wide ? wxSizerFlags().Expand() : wxSizerFlags());
+      rows->Add(MakeTextBox(binding_, page, box), wxSizerFlags().Expand());
     };
-    add(screen_.NameLabel, MakeTextBox(binding_, page, screen_.ReportName), true);
-    add(screen_.DescriptionLabel, MakeTextBox(binding_, page, screen_.ReportDescription), true);
-    add(screen_.HoleNumberLabel, MakeChoice(binding_, page, screen_.HoleNumberUsedList), false);
-    add(screen_.PlayersLabel, MakeChoice(binding_, page, screen_.PlayerPerTeamList), false);
+    add(screen_.NameLabel, screen_.ReportName);
+    add(screen_.DescriptionLabel, screen_.ReportDescription);
+    return rows;
+  }
+
+  wxSizer* Numbers(wxWindow* page) {
+    auto* rows = new wxFlexGridSizer(2, CloseGap(panel_), GroupGap(panel_));
+    const auto add = [&](Label& label, ComboBox& list) {
+      rows->Add(MakeLabel(binding_, page, label), wxSizerFlags().CentreVertical());
+      rows->Add(MakeChoice(binding_, page, list));
+    };
+    add(screen_.HoleNumberLabel, screen_.HoleNumberUsedList);
+    add(screen_.PlayersLabel, screen_.PlayerPerTeamList);
     return rows;
   }
 
@@ -83,7 +92,7 @@ class BuilderFiller {
     auto* caption = new wxStaticText(frame, wxID_ANY, WxText(control.caption()));
     MakeBold(*caption);
     column = new wxBoxSizer(wxVERTICAL);
-    column->Add(caption);
+    column->Add(caption, wxSizerFlags().Expand());
     frame->SetSizer(column);
     return frame;
   }

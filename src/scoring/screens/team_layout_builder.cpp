@@ -318,6 +318,9 @@ void XReportsCustomTeamResults::ShowLists() {
 
 void XReportsCustomTeamResults::ShowCodes() {
   grid1.SetRepainting(false);
+  for (int hole = 1; hole <= kLayoutHoles; ++hole) {
+    grid1.LockRow(HoleColumn(hole), hole > layout_.HoleNumberUsed);  // those follow the others
+  }
   for (int place = 0; place < kLayoutPlaces; ++place) {
     for (const Code code : {Code::kPlayers, Code::kGross, Code::kNet}) {
       const int column = ColumnOf(place, code);

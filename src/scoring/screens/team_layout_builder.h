@@ -43,6 +43,7 @@ class XReportsCustomTeamResults : public Screen {
   bool SaveReport();
 
   void OnLoad() override;
+  void OnActivate() override { MoveFocus(&ReportName); }
   Button* LeaveButton() override { return &CancelButton; }
 
   Tab TabMain{"TabMain", {"&Scores to Use", "&Headers and Fonts"}};

@@ -1,6 +1,7 @@
 #include "scoring/screens/team_results_screen.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "core/number_text.h"
@@ -40,6 +41,7 @@ TeamResults::TeamResults(const ScreenContext& context)
     grid->SetHidden(0, true);
     for (int column = 0; column <= grid->columns(); ++column) grid->LockColumn(column, true);
   }
+  for (int column = 2; column <= grid2.columns(); ++column) grid2.SetCentred(column, true);
   grid2.SetHeading(1, "Player");
   for (int hole = 1; hole <= kHoles; ++hole) {
     grid2.SetHeading(CardColumn(HoleColumn(hole)), std::to_string(hole));
@@ -155,6 +157,7 @@ void TeamResults::ShowStandings(const StandingsTable& table) {
     const bool text = column == kNameColumn || column == kPlayersColumn;
     grid1.SetHeading(column, heading);
     grid1.SetHidden(column, !used);
+    grid1.SetCentred(column, !text);
     grid1.SetSortKind(column, text ? SortKind::kText
                               : column == kHandicapHeading && heading == "Handicap"
                                   ? SortKind::kPlusBelowZero
@@ -180,18 +183,19 @@ void TeamResults::ShowCard() {
       std::min<std::int32_t>(team.Results().golfers, kMostGolfersWithBalls);
   grid2.SetRepainting(false);
   grid2.SetRows(0);
-  grid2.SetRows(2 * golfers + 1);
+  const bool by_layout = LayoutList.index() > 0;
+  grid2.SetRows(2 * golfers + (by_layout ? 1 : 0));
   for (int golfer = 1; golfer <= golfers; ++golfer) {
     const std::string name =
         golfer <= 8 ? team.NameofPlayersOnTeam(golfer) : "Player #" + std::to_string(golfer);
     ShowCardLine(2 * golfer - 1, name + ", gross", golfer, BallTable::kGross);
     ShowCardLine(2 * golfer, name + ", net", golfer, BallTable::kNet);
   }
-  ShowCardSums(2 * golfers + 1, number);
+  if (by_layout) ShowCardSums(2 * golfers + 1, number);
   grid2.SetRepainting(true);
   const std::string of_round = ", round " + RoundList.text();
   CardLabel.SetCaption(grid1.text(kNameColumn, row) + of_round +
-                       (LayoutList.index() > 0 ? ": a ball that counts is marked *" : ""));
+                       (by_layout ? ": a ball that counts is marked *" : ""));
 }
 
 const TeamBalls& TeamResults::BallsOf(int team) const {
@@ -204,16 +208,24 @@ void TeamResults::ShowCardLine(int row, const std::string& name, int golfer, Bal
   const TeamBalls& balls = BallsOf(number);
   grid2.SetText(1, row, name);
   const int block = RoundList.index();
+  std::array<TeamBalls::Sum, 3> sums;  // of both nines, and the total
   for (int hole = 1; hole <= kHoles; ++hole) {
     const Ball& ball = balls.At(table, golfer, HoleColumn(block * kHoles + hole));
     grid2.SetText(CardColumn(HoleColumn(hole)), row,
                   Shown(ball.value) + (ball.selected ? "*" : ""));
+    for (const std::size_t sum : {hole > 9 ? 1U : 0U, 2U}) {
+      sums[sum] = AddSums(sums[sum], ball.value);
+    }
+  }
+  for (int sum = 1; sum <= 3; ++sum) {
+    grid2.SetText(CardColumn(SumColumn(1, sum)), row,
+                  Shown(sums[static_cast<std::size_t>(sum) - 1]));
   }
 }
 
 void TeamResults::ShowCardSums(int row, int team) {
   const TeamBalls& balls = BallsOf(team);
-  grid2.SetText(1, row, LayoutList.index() > 0 ? "Counted" : "");
+  grid2.SetText(1, row, "Counted");
   for (int column = 1; column < kBlockWidth; ++column) {
     const int in_tables = RoundList.index() * kBlockWidth + column;
     grid2.SetText(CardColumn(column), row, Shown(balls.Score(in_tables)));
