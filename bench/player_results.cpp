@@ -9,97 +9,20 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <random>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "app/application.h"
+#include "scored_install.h"
 #include "scoring/open_tournament.h"
 #include "scoring/player_class.h"
-#include "stores/course/course_layout.h"
 #include "whole_process.h"
 
 namespace golf::bench {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr int kRoundsPlayed = 5;
-
-template <class Layout>
-void WriteRecords(const fs::path& path, int count, const auto& fill) {
-  std::ofstream file(path, std::ios::binary);
-  for (int number = 1; number <= count; ++number) {
-    Record<Layout> record;
-    fill(record, number);
-    file << record.Bytes();
-  }
-}
-
-void FillCourse(Record<CourseLayout>& course, int number) {
-  constexpr int kPars[] = {4, 5, 3, 4, 4, 3, 4, 5, 4};
-  course.Set<"activeflag">(1);
-  course.Set<"HoleNumFlag">(18);
-  course.Set<"Name">("Course " + std::to_string(number));
-  course.Fill<"ActiveTees">(255);
-  course.Fill<"slope">(120 + number);
-  for (int tee = 1; tee <= kTeeSlots; ++tee) {
-    for (int hole = 1; hole <= kHoles; ++hole) {
-      course.Set<"HolePar">({tee, hole}, static_cast<std::int16_t>(kPars[hole % 9]));
-      course.Set<"HoleHandicap">({tee, hole}, static_cast<std::int16_t>(hole * 7 % 19));
-      course.Set<"StrkSqnc">({tee, hole}, static_cast<std::int16_t>(hole));
-    }
-  }
-}
-
-void FillControl(Record<TournamentLayout>& control, int) {
-  control.Set<"Name">("Long Cup");
-  control.Set<"NumRounds">(kRoundsPlayed);
-  control.Set<"NumTeams">(200);
-  control.Set<"RoundType">(18);
-  control.Set<"IndextoHandicap">(-1);
-  control.Set<"ActiveRound">(kRoundsPlayed);
-  control.Set<"Version">("2005");
-  control.Fill<"NumTeesMenPlay">(1);
-  control.Fill<"NumTeesLadiesPlay">(1);
-  control.Fill<"PointsGiven">(2);
-  control.Fill<"TeeNumberPlayed">(2);
-  control.Fill<"TeeHandicapPercent">(95);
-  control.Fill<"HandicapMax">(36);
-  for (int round = 1; round <= kRounds; ++round) {
-    control.Set<"CourseNumberPlayed">({round}, static_cast<std::int16_t>(round));
-  }
-}
-
-void FillGolfer(Record<PlayerLayout>& golfer, int number) {
-  golfer.Set<"IDNum">(number);
-  golfer.Set<"NameLast">("Golfer" + std::to_string(number));
-  golfer.Set<"NameFirst">("Pat");
-}
-
-void MakeInstall(const fs::path& folder, int players) {
-  const fs::path data = folder / "qbdata";
-  fs::create_directories(data);
-  std::mt19937 random(1);
-  const auto fill_entry = [&random](Record<TournamentPlayerLayout>& entry, int number) {
-    std::uniform_int_distribution<int> score(2, 9);
-    entry.Set<"TourRosterRecordPointer">(static_cast<std::int16_t>(number));
-    entry.Fill<"TourTeamOn">(number % 200 + 1);
-    for (int round = 1; round <= kRoundsPlayed; ++round) {
-      entry.Set<"TourIndex">({round}, static_cast<float>(number % 400) / 10);
-      for (int hole = 1; hole <= kHoles; ++hole) {
-        entry.Set<"TourScoreGross">({hole, round}, static_cast<std::int16_t>(score(random)));
-      }
-    }
-  };
-  WriteRecords<CourseLayout>(data / "qbcrs.dat", kRounds, FillCourse);
-  WriteRecords<TournamentLayout>(data / "X0001.Q9C", 1, FillControl);
-  WriteRecords<PlayerLayout>(data / "QBGOLFER.Q9D", players, FillGolfer);
-  WriteRecords<TournamentPlayerLayout>(data / "X0001.Q9G", players, fill_entry);
-  WriteRecords<TeamLayout>(data / "X0001.Q9T", 200, [](Record<TeamLayout>&, int) {});
-}
 
 // Nanoseconds for each round; each is on another course than the one before.
 double TimeRounds(PlayerClass& player, int repeats) {
@@ -132,7 +55,7 @@ void MeasureRounds(const fs::path& install, int rounds) {
 std::vector<Measured> MeasureResults(const ScratchFolder& scratch, int players, int rounds) {
   const fs::path pristine = scratch.path() / "pristine";
   fs::remove_all(pristine);
-  MakeInstall(pristine, players);
+  MakeScoredInstall(pristine, players, [](int number) { return number % 200 + 1; });
   const std::vector<std::string> command = {GOLF_CLI,  "--install",    "{}", "results",
                                             "players", "--tournament", "1"};
   std::vector<Contender> contenders = {{"table", command}, {"JSON", command}};

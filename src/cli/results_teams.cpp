@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cli/problems.h"
+#include "scoring/player_class.h"
 #include "scoring/tournament_class.h"
 
 namespace golf {
@@ -31,8 +32,9 @@ void ForEachTeam(ResultsRun& run, const std::function<void(int team)>& action) {
   for (int team = 1; team <= teams; ++team) {
     if (run.state.Team1().GetRecord(team)) {
       action(team);
-    } else {
-      TellProblem("Team " + std::to_string(team) + " is left out: a team file is read up to team " +
+    } else if (run.state.Player().TourIndex1stPlayerOnTeam(team) > 0) {
+      TellProblem("Team " + std::to_string(team) +
+                  " is left out, with its golfers: the last team that can be read is " +
                   std::to_string(team - 1) + ".");
     }
   }

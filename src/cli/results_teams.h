@@ -9,8 +9,8 @@
 
 namespace golf {
 
-// Calls `action(number)` for each team of the tournament with the team in the first team object;
-// the team of a number that no record can be read of is told on standard error.
+// Calls `action(number)` for each team of the tournament with the team in the first team object. A
+// team with golfers that cannot be read is told on standard error.
 void ForEachTeam(ResultsRun& run, const std::function<void(int team)>& action);
 
 // Every value of the team in hand for a round, under the name of its member. Errors of the

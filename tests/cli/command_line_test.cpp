@@ -68,6 +68,9 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
       {"--install i results players --tournament -1", 1, "", "There is no tournament -1."},
       {"--install i results players --tournament 1 --round 3", 1, "", "has 2."},
       {"--install i results players --tournament 1", 0, "Duarte, Ines     26  ", ""},
+      {"--install i results custom --tournament 1", 2, "", "--layout"},
+      {"--install i results custom --tournament 1 --layout no", 1, "", "There is no file no.TR1."},
+      {"--install i results teams --tournament 1", 0, "Jarvis, Kettle, Stoll, Umber", ""},
       {"--install i script none.txt", 1, "", "cannot be read"},
       {"--install i list events --league 0001?", 1, "", "There is no league 0001?."},
       {"--install i list leagues", 0, "Saturday Eighteen", ""},
@@ -175,6 +178,23 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   EXPECT_EQ(calder["TourCoursePlayedNumber"], 2);
   EXPECT_FALSE(folder.Exists("i/qbdata/X0001.Q9T"));
   EXPECT_EQ(folder.Read("i/qbdata/X0001.Q9G"), entries);
+}
+
+TEST_F(CommandLineTest, ResultsOfTeams) {
+  const std::string results = "--install i --json results ";
+  const auto teams = JsonLines(Run(results + "teams --tournament 1 --round 2").out);
+  ASSERT_EQ(teams.size(), 3u);
+  EXPECT_EQ(teams[0].size(), 51u);
+  EXPECT_EQ(teams[0]["NameofPlayersOnTeam"][1], "Bergstrom, Anna");
+  EXPECT_EQ(teams[0]["BestBallNet"]["2"][20], "128");
+  EXPECT_EQ(teams[0]["BestTotalXofYGross"]["4"].size(), 3u);
+  EXPECT_EQ(teams[0]["ScrambleNet"].size(), 21u);
+  const auto custom =
+      JsonLines(Run(results + "custom --tournament 1 --layout \"two best nets\"").out);
+  ASSERT_EQ(custom.size(), 3u);
+  EXPECT_EQ(custom[0], nlohmann::json::parse(R"({"TeamNumber":1,"TeamName":"Team #1",
+      "Scores":[[64,66,130,130],[64,64,128,258]],"Points":[[60,56,116,116],[56,60,116,232]],
+      "Positions":[[1,1,1,1],[1,1,1,1]],"PointsPositions":[[1,1,1,1],[1,1,1,1]]})"));
 }
 
 TEST_F(CommandLineTest, DumpsTablesInTheOrderOfTheirIndexes) {

@@ -13,6 +13,8 @@
 #include "app/file_kinds.h"
 #include "cli/field_text.h"
 #include "cli/results_players.h"
+#include "cli/results_teams.h"
+#include "scoring/custom_standings.h"
 #include "scoring/open_tournament.h"
 #include "scoring/player_class.h"
 #include "scoring/team_class.h"
@@ -240,6 +242,19 @@ void WalkScores(SharedState& state) {
       Try([&] { AddResults(player, record == 2, round, object); });
       Need(object.dump(-1, ' ', false, Json::error_handler_t::replace).size() > 0);
     }
+  }
+  for (const int number : {1, 2}) {
+    if (!state.Team1().GetRecord(number)) continue;
+    for (int round = 0; round <= 8; ++round) {
+      Json object;
+      Try([&] { AddResults(state.Team1(), round, object); });
+    }
+    const ReportLayout layout;
+    Try([&] {
+      CustomStandings standings(state, layout);
+      standings.AddTeam();
+      Need(standings.WorkOut().size() == 1);
+    });
   }
   Try([&] { state.Tournament().CalculateTotals(); });
   for (int row = 0; row <= 22; ++row) {

@@ -216,7 +216,7 @@ void XReportsCustomTeamResults::SetReportFileName(std::string name) {
 
 // The screen is up by now.
 void XReportsCustomTeamResults::Begin() {
-  random_.seed(host().Seed());
+  random_ = host().Seed();
   if (state().Program().ActiveTournament() <= 0) {
     host().Ask(Box{.title = "No active tournament",
                    .text = "You must have an 'active' tournament to access this report"});
@@ -470,17 +470,22 @@ void XReportsCustomTeamResults::ChooseFontOf(std::size_t i) {
   ShowFonts();
 }
 
+// A number of 0 to `most`; the next ones follow from the seed alone.
+int XReportsCustomTeamResults::MadeUp(std::uint32_t most) {
+  random_ = random_ * 1664525 + 1013904223;
+  return static_cast<int>((random_ >> 16) % (most + 1));  // the low bits have short periods
+}
+
 // Scores of 3 to 7, with a stroke on every other hole or so.
 void XReportsCustomTeamResults::GenerateSample() {
-  const auto up_to = [this](unsigned most) { return static_cast<int>(random_() % (most + 1)); };
   sample_.XBallInitializeTeamGrid(kSampleTeams);
   for (int team = 1; team <= kSampleTeams; ++team) {
     std::vector<std::vector<int>> gross(static_cast<std::size_t>(layout_.PlayersPerTeam));
     auto net = gross;
     for (std::size_t player = 0; player < gross.size(); ++player) {
       for (int hole = 1; hole <= kLayoutHoles; ++hole) {
-        gross[player].push_back(3 + up_to(4));
-        net[player].push_back(gross[player].back() - up_to(1));
+        gross[player].push_back(3 + MadeUp(4));
+        net[player].push_back(gross[player].back() - MadeUp(1));
       }
     }
     sample_.PopulateTeamGridwithManualData(team, BallTable::kGross, gross);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <random>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -116,6 +116,7 @@ class XReportsCustomTeamResults : public Screen {
   void AskToCancel();
   void ChooseFontOf(std::size_t i);
 
+  int MadeUp(std::uint32_t most);
   void GenerateSample();
   void CalculateSample();
   void ShowSampleTeam(int team);
@@ -125,7 +126,7 @@ class XReportsCustomTeamResults : public Screen {
   std::string extension_{kLayoutExtension};
   ReportLayout layout_;
   bool showing_ = false;  // the program sets controls, not the operator
-  std::mt19937 random_;
+  std::uint32_t random_ = 0;  // of the sample scores made up last
   CustomBalls sample_{layout_};
 };
 
