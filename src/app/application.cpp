@@ -20,6 +20,7 @@
 #include "transfers/kv_to_qb.h"
 #include "transfers/kv_to_zd.h"
 #include "transfers/qb_to_kv.h"
+#include "transfers/zd_to_kv.h"
 #include "transfers/zd_to_qb.h"
 
 namespace golf {
@@ -66,6 +67,7 @@ ScreenCatalogue Application::Screens() {
           {"KVtoQB", Make<KVtoQB>},
           {"KVtoZD", Make<KVtoZD>},
           {"QBtoKV", Make<QBtoKV>},
+          {"ZDtoKV", Make<ZDtoKV>},
           {"ZDtoQB", Make<ZDtoQB>}};
 }
 

@@ -70,6 +70,7 @@ struct Arguments {
   GolfersKvToZdRequest golfers_kv_to_zd;
   GolfersZdToQbRequest golfers_zd_to_qb;
   ScoresQbToKvRequest scores_qb_to_kv;
+  ScoresZdToKvRequest scores_zd_to_kv;
   ResultsRequest results;
   std::string script;
   bool start_programs = false;
@@ -176,6 +177,26 @@ void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvRequest&
                     "Join the scores of 9 holes by two for a roster of 18 holes");
 }
 
+void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest& request,
+                     Command& chosen) {
+  CLI::App* command =
+      AddCommand(app, "scores-zd-to-kv", "Transfer scores of a league, Zandel to Kelvane",
+                 "--install golf-demo scores-zd-to-kv --league 00011 --batch 3 --roster CLUB18",
+                 chosen, [&] { return RunScoresZdToKv(options, request); });
+  AddLeague(*command, request.league);
+  command->add_option("--batch", request.batch, "What to transfer, by its code as in list events")
+      ->required()
+      ->check(CLI::Range(1, 999))
+      ->type_name("CODE");
+  AddRoster(*command, request.roster);
+  command
+      ->add_option("--again", request.again,
+                   "Whether scores that the roster has already go in once more; left out, three "
+                   "of them in a row end the transfer")
+      ->check(CLI::IsMember({"yes", "no"}))
+      ->type_name("yes|no");
+}
+
 void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
   AddCommand(app, "demo", "Make a demonstration install in an empty or new folder",
              "demo golf-demo", chosen, [&] { return RunDemo(options, args.demo_folder); })
@@ -225,6 +246,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   AddGolfersKvToZd(app, options, args.golfers_kv_to_zd, chosen);
   AddGolfersZdToQb(app, options, args.golfers_zd_to_qb, chosen);
   AddScoresQbToKv(app, options, args.scores_qb_to_kv, chosen);
+  AddScoresZdToKv(app, options, args.scores_zd_to_kv, chosen);
 
   CLI::App* script = AddCommand(app, "script", "Drive the screens by the lines of a script",
                                 "--install golf-demo script clicks.txt", chosen, [&] {

@@ -88,6 +88,14 @@ struct ScoresQbToKvRequest {
 };
 ExitCode RunScoresQbToKv(const Options& options, const ScoresQbToKvRequest& request);
 
+struct ScoresZdToKvRequest {
+  std::string league;  // Zandel's, by base
+  int batch = 0;       // by code
+  std::string roster;  // Kelvane's, by name
+  std::string again;   // "yes" or "no"; empty: as the boxes offer
+};
+ExitCode RunScoresZdToKv(const Options& options, const ScoresZdToKvRequest& request);
+
 ExitCode RunScript(const Options& options, const std::string& file, bool start_programs);
 
 }  // namespace golf

@@ -89,7 +89,7 @@ KVtoZD::KVtoZD(const ScreenContext& context)
               .label = "Select the DESTINATION League",
               .main = Frame1,
               .finder = FindZDButton,
-              .leave = &CancelButton,
+              .leave = CancelButton,
               .take = [this](std::string league) { DestLabel.SetCaption(std::move(league)); }}) {
   SetCaption("Transfer GOLFERS from Kelvane to Zandel");
   const std::initializer_list<Control*> main = {

@@ -58,7 +58,7 @@ ZDtoQB::ZDtoQB(const ScreenContext& context)
               .label = "Select the SOURCE League",
               .main = Frame2,
               .finder = SourceButton,
-              .leave = &CancelButton,
+              .leave = CancelButton,
               .take = [this](std::string league) {
                 LeagueRoster.SetText(std::move(league));
                 MoveFocus(&TransferButton);

@@ -3,12 +3,13 @@
 #include <algorithm>
 
 #include "core/number_text.h"
+#include "core/text.h"
 #include "stores/zandel/zandel_files.h"
 
 namespace golf {
 namespace {
 
-constexpr int kNonEventCode = 500;
+constexpr std::size_t kCodeWidth = 3;
 
 ScoreBatch ScoresBefore(int event) {
   return {event + kNonEventCode,
@@ -28,6 +29,16 @@ ScoreBatch ScoresOf(SharedState& state, int event) {
 
 std::string ScoreBatch::Item() const {
   return text + std::string(blanks, ' ') + FormatNumber(code, "000");
+}
+
+int BatchCode(std::string_view item) {
+  return RoundToInt16(LeadingNumber(LastCharacters(item, kCodeWidth)));
+}
+
+std::string BatchHeading(const std::string& item) {
+  const std::string_view text = item;
+  return std::string(
+      TrimRight(text.substr(0, text.size() - LastCharacters(text, kCodeWidth).size())));
 }
 
 std::optional<ScoreBatches> LoadScoreBatches(SharedState& state, std::string_view chosen) {

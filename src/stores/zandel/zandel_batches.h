@@ -10,6 +10,9 @@
 
 namespace golf {
 
+// Above the codes of the events: the scores before event e have e more.
+inline constexpr int kNonEventCode = 500;
+
 // The scores of a league that are posted together: those of an event, or those that were played
 // before it apart from events.
 struct ScoreBatch {
@@ -20,6 +23,10 @@ struct ScoreBatch {
   // As a list shows it.
   std::string Item() const;
 };
+
+// The code at the end of such an item, and what of it is meant to be read.
+int BatchCode(std::string_view item);
+std::string BatchHeading(const std::string& item);
 
 struct ScoreBatches {
   std::vector<ScoreBatch> list;

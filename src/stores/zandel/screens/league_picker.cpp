@@ -27,7 +27,7 @@ LeaguePicker::LeaguePicker(SharedState& state, Screen& screen, LeaguePickerUse u
     control->SetParent(Panel);
   }
   Panel.SetVisible(false);
-  if (use_.leave != nullptr) use_.leave->SetCancel(true);
+  use_.leave.SetCancel(true);
   use_.finder.on_click = [this] { Open(); };
   LeagueList.on_double_click = [this] { Pick(); };
   LeagueList.on_key = [this](std::string_view key) {
@@ -36,7 +36,7 @@ LeaguePicker::LeaguePicker(SharedState& state, Screen& screen, LeaguePickerUse u
     return picks;
   };
   OKLEague.on_click = [this] { Pick(); };
-  CancelLeague.on_click = [this] { Close(); };
+  CancelLeague.on_click = [this] { Close(true); };
 }
 
 void LeaguePicker::Fill() {
@@ -54,23 +54,23 @@ void LeaguePicker::Open() {
   LeagueList.SetTag(use_.tag);
   use_.main.SetVisible(false);
   Panel.SetVisible(true);
-  if (use_.leave != nullptr) use_.leave->SetCancel(false);
+  use_.leave.SetCancel(false);
   CancelLeague.SetCancel(true);
   screen_.MoveFocus(&LeagueList);
 }
 
-void LeaguePicker::Close() {
+void LeaguePicker::Close(bool give_escape_back) {
   Panel.SetVisible(false);
   use_.main.SetVisible(true);
-  if (use_.leave != nullptr) {
+  if (give_escape_back) {
     CancelLeague.SetCancel(false);
-    use_.leave->SetCancel(true);
+    use_.leave.SetCancel(true);
   }
   screen_.MoveFocus(&use_.finder);
 }
 
 void LeaguePicker::Pick() {
-  Close();
+  Close(use_.pick_gives_escape_back);
   use_.take(ChosenLeague(LeagueList.text()));
 }
 

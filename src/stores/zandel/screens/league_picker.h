@@ -15,9 +15,11 @@ struct LeaguePickerUse {
   const char* label;
   Frame& main;     // gives way to the picker
   Button& finder;  // opens the picker
-  Button* leave;   // closes the screen; null where it does not change roles with CancelLeague
+  Button& leave;   // closes the screen; is what Escape presses while the panel is closed
   // Puts the league where the screen shows it; its last five characters are its base.
   std::function<void(std::string)> take;
+  // Whether Escape leaves the screen again once a league was picked; else only after a cancel.
+  bool pick_gives_escape_back = true;
 };
 
 // Where the operator picks one of Zandel's leagues: a panel that comes up in place of the main one.
@@ -42,7 +44,7 @@ class LeaguePicker {
 
  private:
   void Open();
-  void Close();
+  void Close(bool give_escape_back);
   void Pick();
 
   SharedState& state_;

@@ -1,0 +1,211 @@
+// The score transfer from Zandel to Kelvane as a whole process: an event of a league of 2,000
+// golfers, all with a score, into a roster of 20,000 with histories of 20 scores. Beside it a bare
+// loop with one system call for each record: every file read once, and the golfer and the history
+// of each score read and written.
+//
+// league_scores [ROUNDS]            prints medians
+// league_scores --bare-loop DIR     is the bare loop
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <numeric>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "core/record.h"
+#include "stores/course/course_layout.h"
+#include "stores/kelvane/kelvane_layouts.h"
+#include "stores/zandel/zandel_layouts.h"
+#include "whole_process.h"
+
+namespace golf::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kLeagueGolfers = 2000;
+constexpr int kRosterGolfers = 20000;
+constexpr int kTeams = 100;
+constexpr int kCourses = 200;
+constexpr int kScoresBefore = 20;
+constexpr int kEvent = 3;
+
+std::ofstream NewFile(const fs::path& path) {
+  fs::create_directories(path.parent_path());
+  return std::ofstream(path, std::ios::binary);
+}
+
+void MakeRoster(const fs::path& folder, const std::vector<int>& ids) {
+  Record<KelvaneHeaderLayout> header;
+  header.Set<"Holes">(18);
+  NewFile(folder / "kvdata" / "CLUB.KV5") << header.Bytes();
+  Record<KelvaneHistoryLayout> history;
+  for (int i = 1; i <= kScoresBefore; ++i) {
+    history.Set<"Date">({i}, 45000.0 - i);
+    history.Set<"Adjusted">({i}, 90);
+  }
+  auto golfers = NewFile(folder / "kvdata" / "CLUB.KVG");
+  auto histories = NewFile(folder / "kvdata" / "CLUB.KVS");
+  for (const int id : ids) {
+    Record<KelvaneGolferLayout> golfer;
+    golfer.Set<"Status">(1);
+    golfer.Set<"IDNum">(id);
+    golfer.Set<"ScoreCounter">({1}, kScoresBefore);
+    golfers << golfer.Bytes();
+    histories << history.Bytes();
+  }
+}
+
+void MakeLeague(const fs::path& folder) {
+  const fs::path zandel = folder / "zddata";
+  Record<LeagueControlLayout> control;
+  control.Set<"LeagueName">("Large");
+  control.Set<"EventCount">(5);
+  control.Set<"CurrentEvent">(kEvent);
+  control.Set<"LeagueHoles">(18);
+  NewFile(zandel / "00011.ZL8") << control.Bytes();
+  auto players = NewFile(zandel / "00011.ZP8");
+  for (int id = 1; id <= kLeagueGolfers; ++id) {
+    Record<LeaguePlayerLayout> player;
+    player.Set<"GolferID">(id);
+    player.Set<"FirstName">("Golfer");
+    player.Set<"LastName">(std::to_string(id));
+    player.Set<"Sex">(id % 2 == 0 ? 1 : 0);
+    player.Set<"EventTeam">({kEvent}, static_cast<std::int16_t>(1 + id % kTeams));
+    player.Set<"EventPostScore">({kEvent}, static_cast<std::int16_t>(70 + id % 50));
+    players << player.Bytes();
+  }
+  NewFile(zandel / "0001.ZS8");
+  auto teams = NewFile(zandel / "00011.ZT8");
+  for (int number = 1; number <= kTeams; ++number) {
+    Record<LeagueTeamLayout> team;
+    team.Set<"EventCourse">({kEvent}, static_cast<std::int16_t>(1 + number % kCourses));
+    team.Set<"EventTee">({kEvent, 1}, 1);
+    team.Set<"EventTee">({kEvent, 2}, 2);
+    teams << team.Bytes();
+  }
+  auto events = NewFile(zandel / "00011.ZE8");
+  for (int number = 1; number <= 5; ++number) {
+    Record<LeagueEventLayout> event;
+    event.Set<"EventDate">(static_cast<float>(45100 + number));
+    events << event.Bytes();
+  }
+}
+
+void MakeCourses(const fs::path& file) {
+  auto courses = NewFile(file);
+  for (int number = 1; number <= kCourses; ++number) {
+    Record<CourseLayout> course;
+    course.Set<"activeflag">(1);
+    course.Set<"HoleNumFlag">(18);
+    course.Set<"Name">("Course " + std::to_string(number));
+    for (int tee = 1; tee <= 2; ++tee) {
+      course.Set<"ActiveTees">({tee}, 255);
+      course.Set<"TeeName">({tee}, "Tee " + std::to_string(tee));
+      for (int sex = 0; sex <= 1; ++sex) course.Set<"Rating">({tee, sex}, 71.2f);
+    }
+    courses << course.Bytes();
+  }
+}
+
+void MakeInstall(const fs::path& folder) {
+  std::vector<int> ids(kRosterGolfers);
+  std::iota(ids.begin(), ids.end(), 1);
+  std::shuffle(ids.begin(), ids.end(), std::mt19937(1));
+  MakeRoster(folder, ids);
+  MakeLeague(folder);
+  MakeCourses(folder / "kvdata" / "kvcrs.dat");
+  MakeCourses(folder / "zddata" / "zdcrs.dat");
+}
+
+void Need(bool worked) {
+  if (!worked) throw std::runtime_error("the bare loop failed");
+}
+
+// An open file of records, counted from 0.
+template <class Layout>
+class BareFile {
+ public:
+  explicit BareFile(const fs::path& path) : file_(open(path.c_str(), O_RDWR)) { Need(file_ >= 0); }
+  BareFile(const BareFile&) = delete;
+  BareFile& operator=(const BareFile&) = delete;
+  ~BareFile() { close(file_); }
+
+  int Count() const { return static_cast<int>(lseek(file_, 0, SEEK_END) / kLength); }
+  void Read(int record) {
+    const auto bytes = buffer.MutableBytes();
+    Need(pread(file_, bytes.data(), bytes.size(), record * kLength) == kLength);
+  }
+  void Write(int record) {
+    const auto bytes = buffer.Bytes();
+    Need(pwrite(file_, bytes.data(), bytes.size(), record * kLength) == kLength);
+  }
+  void ReadAll() {
+    for (int record = 0, count = Count(); record < count; ++record) Read(record);
+  }
+
+  Record<Layout> buffer;
+
+ private:
+  static constexpr auto kLength = static_cast<off_t>(Layout::kLength);
+  int file_;
+};
+
+void BareLoop(const fs::path& folder) {
+  const fs::path kelvane = folder / "kvdata";
+  const fs::path zandel = folder / "zddata";
+  BareFile<KelvaneHeaderLayout>(kelvane / "CLUB.KV5").ReadAll();
+  BareFile<CourseLayout>(kelvane / "kvcrs.dat").ReadAll();
+  BareFile<CourseLayout>(zandel / "zdcrs.dat").ReadAll();
+  BareFile<LeagueControlLayout>(zandel / "00011.ZL8").ReadAll();
+  BareFile<LeagueTeamLayout>(zandel / "00011.ZT8").ReadAll();
+  BareFile<LeagueEventLayout>(zandel / "00011.ZE8").ReadAll();
+  BareFile<KelvaneGolferLayout> golfers(kelvane / "CLUB.KVG");
+  BareFile<KelvaneHistoryLayout> histories(kelvane / "CLUB.KVS");
+  std::unordered_map<int, int> places;
+  for (int place = 0, count = golfers.Count(); place < count; ++place) {
+    golfers.Read(place);
+    places.emplace(golfers.buffer.Get<"IDNum">(), place);
+  }
+  BareFile<LeaguePlayerLayout> players(zandel / "00011.ZP8");
+  for (int player = 0, count = players.Count(); player < count; ++player) {
+    players.Read(player);
+    const int place = places.at(players.buffer.Get<"GolferID">());
+    golfers.Read(place);
+    histories.Read(place);
+    golfers.Write(place);
+    histories.Write(place);
+  }
+}
+
+}  // namespace
+}  // namespace golf::bench
+
+int main(int argc, char** argv) {
+  using namespace golf::bench;
+  if (argc == 3 && std::string(argv[1]) == "--bare-loop") {
+    BareLoop(argv[2]);
+    return 0;
+  }
+  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
+  const ScratchFolder scratch("bench-league-scores");
+  const auto pristine = scratch.path() / "pristine";
+  MakeInstall(pristine);
+  const std::vector<Contender> contenders = {
+      {"scores-zd-to-kv",
+       {GOLF_CLI, "--quiet", "--install", "{}", "scores-zd-to-kv", "--league", "00011", "--batch",
+        std::to_string(kEvent), "--roster", "CLUB"}},
+      {"bare loop", {argv[0], "--bare-loop", "{}"}}};
+  const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
+  Print("2,000 scores of a league into a roster of 20,000 golfers", contenders, medians, 1);
+  return 0;
+}

@@ -1,0 +1,69 @@
+#include "transfers/league_course_match.h"
+
+#include "core/number_text.h"
+#include "core/text.h"
+#include "stores/course/course_class.h"
+
+namespace golf {
+namespace {
+
+// Of a tee of the current record, through the text in which a library shows it: two libraries agree
+// where they show the same.
+float RatingOf(const CourseClass& course, int tee, int sex) {
+  return CheckedSingle(LeadingNumber(course.Rating(tee, sex)));
+}
+
+int SlopeOf(const CourseClass& course, int tee, int sex) {
+  return RoundToInt16(LeadingNumber(course.slope(tee, sex)));
+}
+
+}  // namespace
+
+const PlayedTee& LeagueCourseMatch::Find(std::int32_t league_course, int tee, int sex) {
+  const std::tuple key(league_course, tee, sex);
+  const auto found = found_.find(key);
+  if (found != found_.end()) return found->second;
+  return found_.emplace(key, Match(league_course, tee, sex)).first->second;
+}
+
+PlayedTee LeagueCourseMatch::Match(std::int32_t league_course, int tee, int sex) {
+  CourseClass& league = state_.SpareCourse();
+  league.GetRecord(league_course);
+  PlayedTee played{0, tee_without_course_, RatingOf(league, tee, sex), SlopeOf(league, tee, sex)};
+  FindInKelvane(league.Name(), league.TeeName(tee), sex, played);
+  return played;
+}
+
+// The last course and tee that match win.
+void LeagueCourseMatch::FindInKelvane(const std::string& course, const std::string& tee, int sex,
+                                      PlayedTee& played) {
+  CourseClass& kelvane = state_.Course();
+  for (const std::int32_t number : KelvaneCoursesNamed(course)) {
+    kelvane.GetRecord(number);
+    for (int candidate = 1; candidate <= kShownTees; ++candidate) {
+      if (!kelvane.ActiveTees(candidate)) continue;
+      if (!EqualIgnoringCase(kelvane.TeeName(candidate), tee)) continue;
+      if (RatingOf(kelvane, candidate, sex) != played.rating) continue;
+      if (SlopeOf(kelvane, candidate, sex) != played.slope) continue;
+      played.course_number = CheckedInt16(number);
+      played.tee_number = static_cast<std::uint8_t>(candidate);
+    }
+  }
+}
+
+const std::vector<std::int32_t>& LeagueCourseMatch::KelvaneCoursesNamed(const std::string& name) {
+  if (!by_name_) {
+    std::unordered_map<std::string, std::vector<std::int32_t>> by_name;
+    CourseClass& kelvane = state_.Course();
+    Record<CourseLayout> course;
+    const std::int32_t length = kelvane.CourseFileLength();
+    for (std::int32_t number = 1; number <= length; ++number) {
+      state_.files.Read(kelvane.CourseFileNumber(), number, course);
+      by_name[UpperCase(Trim(course.Get<"Name">()))].push_back(number);
+    }
+    by_name_ = std::move(by_name);
+  }
+  return (*by_name_)[UpperCase(name)];
+}
+
+}  // namespace golf

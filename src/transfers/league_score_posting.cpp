@@ -1,0 +1,119 @@
+#include "transfers/league_score_posting.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+#include "shell/tip_box.h"
+#include "stores/kelvane/kelvane_halves.h"
+#include "stores/kelvane/kelvane_scores.h"
+#include "stores/zandel/zandel_buffers.h"
+
+namespace golf {
+namespace {
+
+constexpr int kNoRound = 20;          // a score up to here,
+constexpr int kNoRoundEither = 200;   // and one from here on
+constexpr int kRefusalsToCancel = 3;  // in a row
+
+}  // namespace
+
+LeagueScorePosting::LeagueScorePosting(SharedState& state, ScreenHost& host, TextBox& log)
+    : state_(state),
+      host_(host),
+      log_box_(log),
+      log_(log.text()),
+      halves_(state.Kelvane().header.Get<"Holes">() == 18 &&
+              state.Zandel().control.Get<"LeagueHoles">() == 9) {}
+
+bool LeagueScorePosting::Post(std::int32_t place, const LeagueScore& score) {
+  if (score.score <= kNoRound || score.score >= kNoRoundEither) return true;
+  ReadKVHistory(state_, place);
+  if (halves_) {
+    PostHalf(place, score);
+  } else {
+    if (IsInHistory(score)) {
+      if (!WantsItAgain(score)) return !WantsToCancel();
+      refusals_ = 0;
+    }
+    PostEntry(place, score);
+  }
+  Log(score.score);
+  return true;
+}
+
+bool LeagueScorePosting::IsInHistory(const LeagueScore& score) const {
+  const KelvaneBuffers& kelvane = state_.Kelvane();
+  const auto& history = kelvane.history;
+  const PlayedTee& played = score.played;
+  const int entries = std::min<int>(kelvane.golfer.Get<"ScoreCounter">(1), kKelvaneScores);
+  for (int i = 1; i <= entries; ++i) {
+    if (history.Get<"Date">(i) == score.date && history.Get<"Adjusted">(i) == score.score &&
+        history.Get<"CourseNumber">(i) == played.course_number &&
+        history.Get<"TeeNumber">(i) == played.tee_number &&
+        history.Get<"Rating">(i) == played.rating && history.Get<"Slope">(i) == played.slope) {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool LeagueScorePosting::WantsItAgain(const LeagueScore& score) {
+  ShowLog();
+  TipBox& box = SharedTipBox(host_);
+  box.SetMessageType(TipBox::kLastingQuestion);
+  box.SetMessageTitle("Re-transfer score?");
+  box.SetMessageText("A score (" + std::to_string(score.score) + ") with the same date (" +
+                     FormatDay(score.date, "mm/dd/yy") +
+                     ") has already been transfered to the Kelvane. Do you want to transfer this "
+                     "score again?");
+  return box.ResultReturned() == "YES";
+}
+
+bool LeagueScorePosting::WantsToCancel() {
+  if (++refusals_ < kRefusalsToCancel) return false;
+  const BoxButton answer = host_.Ask(Box{.title = "Cancel Transfer?",
+                                         .text = "Would you like to cancel this transfer?",
+                                         .icon = BoxIcon::kQuestion,
+                                         .buttons = {BoxButton::kYes, BoxButton::kNo}});
+  refusals_ = 0;
+  return answer == BoxButton::kYes;
+}
+
+void LeagueScorePosting::PostEntry(std::int32_t place, const LeagueScore& score) {
+  const std::uint8_t slope = KVByte(score.played.slope);
+  BlankKVScore(state_);
+  auto& entry = state_.Kelvane().score;
+  entry.Set<"CourseNumber">(score.played.course_number);
+  entry.Set<"TeeNumber">(score.played.tee_number);
+  entry.Set<"Adjusted">(KVByte(score.score));
+  entry.Set<"Rating">(score.played.rating);
+  entry.Set<"Slope">(slope);
+  entry.Set<"Date">(score.date);
+  PostKVScore(state_, place);
+}
+
+// The history comes first: should the golfer's record not follow it, the half still waits.
+void LeagueScorePosting::PostHalf(std::int32_t place, const LeagueScore& score) {
+  const NineHoleHalf half{static_cast<double>(score.score), score.played.rating,
+                          static_cast<double>(score.played.slope)};
+  if (KVHalfWaits(state_)) {
+    BlankKVScore(state_);
+    state_.Kelvane().score.Set<"Date">(score.date);
+    JoinKVHalves(state_, half);
+    AddKVScore(state_);
+    WriteKVHistory(state_, place);
+  } else {
+    KeepKVHalf(state_, half);
+  }
+  WriteKVGolfer(state_, place);
+}
+
+void LeagueScorePosting::Log(int score) {
+  const auto& player = state_.Zandel().player;
+  log_ += std::to_string(score) + " - ";
+  log_.append(Trim(player.Get<"FirstName">())).append(" ");
+  log_.append(player.Get<"LastName">()).append("\r\n");
+  ++count_;
+}
+
+}  // namespace golf

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "core/shared_state.h"
+#include "forms/screen_host.h"
+#include "stores/zandel/screens/league_picker.h"
+
+namespace golf {
+
+// Posts the scores of a league's event, or a batch of its scores apart from events, into the
+// histories of a Kelvane roster. Golfers are matched by their IDs. The league does not change: what
+// has been posted before is told from the history. The league's files stay open with the list of
+// its events.
+class ZDtoKV : public Screen {
+ public:
+  explicit ZDtoKV(const ScreenContext& context);
+
+  void OnLoad() override;
+  void OnUnload() override;
+  void OpenAgain() override;
+  Button* LeaveButton() override { return &ExitButton; }
+  Button* PanelLeaveButton() override { return picker.IsOpen() ? &picker.CancelLeague : nullptr; }
+
+  Frame Frame2{"Frame2"};
+  Button SourceButton{"SourceButton", "Find League to transfer scores from"};
+  TextBox LeagueRoster{"LeagueRoster"};  // the last five characters are its base
+  ComboBox EventList{"EventList"};       // the last three characters are the batch's code
+  Button DestButton{"DestButton", "Find Handicap Roster to transfer score to"};
+  TextBox HandicapRoster{"HandicapRoster"};
+  Button TransferButton{"TransferButton", "Transfer Scores"};
+  Button ExitButton{"ExitButton", "Exit"};
+  TextBox Message{"Message"};
+  Label Working{"Working"};
+  // Above the log, the roster and the league.
+  std::array<Label, 3> Label1{Label("Label1", "  Transfer Messages"),
+                              Label("Label1", "To Kelvane ROSTER..."),
+                              Label("Label1", "Transfer scores from LEAGUE ...")};
+  LeaguePicker picker;
+
+ private:
+  struct Run;
+
+  std::array<Control*, 5> Remembered();
+  void TakeLeague(std::string league);
+  void LoadEventList();
+  void FindDestination();
+
+  void Transfer();
+  void OpenCourseLibraries();
+  // The number of scores posted.
+  std::int32_t PostScores();
+  // These give false once the operator has cancelled the transfer.
+  bool PostAll(Run& run);
+  bool PostGolfer(Run& run, int file, std::int32_t record);
+  bool PostScoresOf(Run& run, std::int32_t place);
+  void Report(std::int32_t count);
+};
+
+}  // namespace golf
