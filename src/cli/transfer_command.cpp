@@ -51,9 +51,17 @@ std::optional<ExitCode> Work(Application& application, HeadlessHost& host, Repor
                              const TransferCommand& command) {
   application.state().remembers_settings = false;
   host.drive = [&](Screen& screen) {
-    command.work(host, screen);
-    const auto* log = dynamic_cast<const TextBox*>(screen.FindControl(command.log));
-    if (log != nullptr) report.AddLog(log->text());
+    const auto add_log = [&] {
+      const auto* log = dynamic_cast<const TextBox*>(screen.FindControl(command.log));
+      if (log != nullptr) report.AddLog(log->text());
+    };
+    try {
+      command.work(host, screen);
+    } catch (const ClickEnded&) {
+      add_log();  // what was done before the error
+      throw;
+    }
+    add_log();
   };
   try {
     host.Operate([&] { OpenScreen(application.state(), host, command.screen, ""); });

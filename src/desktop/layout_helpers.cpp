@@ -1,6 +1,7 @@
 #include "desktop/layout_helpers.h"
 
 #include "core/text.h"
+#include "desktop/log_buttons.h"
 #include "desktop/widgets.h"
 
 namespace golf {
@@ -49,7 +50,13 @@ wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBo
                       Button& finder) {
   wxStaticText* title = MakeLabel(binding, parent, heading);
   MakeBold(*title);
-  return Column({title, MakeTextBox(binding, parent, name), MakeButton(binding, parent, finder)});
+  wxTextCtrl* box = MakeTextBox(binding, parent, name);
+  // Getting the focus by a key scrolls to the end, where a number stands behind blanks.
+  box->Bind(wxEVT_KILL_FOCUS, [box](wxFocusEvent& event) {
+    event.Skip();
+    box->SetInsertionPoint(0);
+  });
+  return Column({title, box, MakeButton(binding, parent, finder)});
 }
 
 wxSizer* RunLog(Binding& binding, wxWindow* parent, Label& heading, TextBox& log) {
@@ -63,6 +70,7 @@ wxSizer* RunLog(Binding& binding, wxWindow* parent, Label& heading, TextBox& log
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(title, wxSizerFlags().Expand());
   column->Add(box, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(*parent)));
+  column->Add(LogButtons(parent, *box), wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));
   return column;
 }
 

@@ -32,7 +32,7 @@ wxSizer* ButtonRow(const EndButtons& buttons);
 wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBox& name,
                       Button& finder);
 
-// The log of a run, in columns, with its heading above.
+// The log of a run, in columns, with its heading above and buttons to copy and save it below.
 wxSizer* RunLog(Binding& binding, wxWindow* parent, Label& heading, TextBox& log);
 
 // How far a run has come: a text, a count, and the panel's gauge.

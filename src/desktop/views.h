@@ -15,6 +15,7 @@ class LoadRoster;
 class LoadRosters;
 class TipBox;
 class TransferMenu;
+class ZDtoKV;
 class ZDtoQB;
 
 // A dialog comes up in the middle of its opener, or at the opener's top left corner.
@@ -37,6 +38,7 @@ void FillLoadRoster(ScreenPanel& panel, LoadRoster& screen);
 void FillLoadRosters(ScreenPanel& panel, LoadRosters& screen);
 void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen);
 void FillKVtoZD(ScreenPanel& panel, KVtoZD& screen);
+void FillZDtoKV(ScreenPanel& panel, ZDtoKV& screen);
 void FillZDtoQB(ScreenPanel& panel, ZDtoQB& screen);
 void FillKVCoursestoQB(ScreenPanel& panel, KVCoursestoQB& screen);
 

@@ -85,6 +85,7 @@ void ZDtoKV::OnLoad() {
   ReadSettings(state(), *this, Remembered());
   LoadEventList();
   Message.SetText("");
+  MoveFocus(&SourceButton);
 }
 
 void ZDtoKV::OnUnload() { WriteSettings(state(), *this, Remembered()); }
