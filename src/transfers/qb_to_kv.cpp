@@ -1,5 +1,6 @@
 #include "transfers/qb_to_kv.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/number_text.h"
@@ -15,6 +16,7 @@ namespace golf {
 namespace {
 
 constexpr std::size_t kCourseKey = 5;
+constexpr std::size_t kTeeKey = 2;  // with its abbreviation
 constexpr int kBackNine = -9;
 constexpr int kEighteen = 18;
 constexpr int kNine = 9;
@@ -24,6 +26,11 @@ constexpr const char* kQuenby = "QB";
 
 void Tell(ScreenHost& host, std::string title, std::string text) {
   host.Ask(Box{.title = std::move(title), .text = std::move(text)});
+}
+
+std::string WithoutKey(const std::string& item, std::size_t key) {
+  return std::string(
+      Trim(std::string_view(item).substr(0, item.size() - std::min(item.size(), key))));
 }
 
 std::string CountLine(std::int16_t count, const char* what) { return std::to_string(count) + what; }
@@ -129,6 +136,14 @@ std::int32_t QBtoKV::TournamentOf(const std::string& item) {
 std::int32_t QBtoKV::CourseOf(const std::string& item) {
   return RoundToInt32(LeadingNumber(LastCharacters(item, kCourseKey)));
 }
+
+std::string QBtoKV::TournamentHeading(const std::string& item) {
+  return std::string(Trim(item.substr(0, item.rfind(' ') + 1)));
+}
+
+std::string QBtoKV::CourseHeading(const std::string& item) { return WithoutKey(item, kCourseKey); }
+
+std::string QBtoKV::TeeHeading(const std::string& item) { return WithoutKey(item, kTeeKey); }
 
 void QBtoKV::PointCourseAt(const char* program, const std::string& folder) {
   state().CourseDataPath = folder;

@@ -65,6 +65,10 @@ class QBtoKV : public Screen {
   // The keys at the end of the items of the lists.
   static std::int32_t TournamentOf(const std::string& item);
   static std::int32_t CourseOf(const std::string& item);
+  // What of such items is meant to be read.
+  static std::string TournamentHeading(const std::string& item);
+  static std::string CourseHeading(const std::string& item);
+  static std::string TeeHeading(const std::string& item);
 
  private:
   // The tees of the round for one sex: 0 men, 1 ladies.
