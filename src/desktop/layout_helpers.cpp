@@ -7,7 +7,7 @@
 namespace golf {
 namespace {
 
-constexpr int kLogColumns = 52;
+constexpr int kLogColumns = 66;
 constexpr int kLogLines = 11;
 
 std::string WithoutEdges(const std::string& text) { return std::string(Trim(text)); }

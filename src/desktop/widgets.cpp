@@ -84,17 +84,21 @@ wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& cont
 wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown) {
   auto* list = new wxListBox(parent, wxID_ANY);
   TieList(binding, control, *list, wxEVT_LISTBOX, shown);
-  list->Bind(wxEVT_LISTBOX_DCLICK, [&binding, &control](wxCommandEvent&) {
-    if (control.on_double_click) binding.Operate(control.on_double_click);
+  // What the screen does comes when the toolkit is done with the key or click, or a button that
+  // gets the focus would be pressed by it as well. One key can come as both events.
+  const auto soon = [list, &binding, &control](std::function<void()> event) {
+    list->CallAfter([&binding, &control, event = std::move(event)] {
+      if (control.IsShown()) binding.Operate(event);
+    });
+  };
+  list->Bind(wxEVT_LISTBOX_DCLICK, [soon, &control](wxCommandEvent&) {
+    if (control.on_double_click) soon(control.on_double_click);
   });
-  // Before the toolkit gives the key to a default button. What the screen does with it comes when
-  // the key is done with, or it would press the button that has the focus then.
-  list->Bind(wxEVT_CHAR_HOOK, [list, &binding, &control](wxKeyEvent& event) {
+  list->Bind(wxEVT_CHAR_HOOK, [soon, &control](wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
     if (!enter || !control.on_key) return event.Skip();
-    list->CallAfter(
-        [&binding, &control] { binding.Operate([&control] { control.on_key("Enter"); }); });
+    soon([&control] { control.on_key("Enter"); });
   });
   return list;
 }

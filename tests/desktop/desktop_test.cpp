@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <wx/grid.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
@@ -13,8 +14,11 @@
 #include "desktop/operator.h"
 #include "shell/tip_box.h"
 #include "stores/course/course_class.h"
+#include "stores/kelvane/screens/load_roster.h"
+#include "support/bytes.h"
 #include "support/error_of.h"
 #include "support/test_host.h"
+#include "transfers/kv_to_qb.h"
 
 namespace golf {
 namespace {
@@ -37,6 +41,7 @@ class DesktopTest : public testing::Test {
  protected:
   DesktopTest() {
     install.host.reset();
+    install.state().Now = [this] { return host.Now(); };
     for (const auto& [name, active] : std::vector<std::pair<const char*, int>>{
              {"Dunes & West", 1}, {"Gone", 0}, {"Pe\xF1on", 1}}) {
       AddCourse(name, active);
@@ -201,6 +206,53 @@ TEST_F(DesktopTest, AQuestionIsAnsweredByEnterAndRemembered) {
   user.Press("ExitButton");
   user.RunProgram();
   EXPECT_EQ(answers, std::vector<std::string>({"NO", "YES", "YES"}));
+}
+
+// Both pickers, a tick in the grid by the keyboard, the run, and the report.
+TEST_F(DesktopTest, TransfersGolfers) {
+  std::string golfer(2804, ' ');
+  Put16(golfer, 0, {1});
+  Put(golfer, 4, {std::int32_t{5}});
+  golfer[416] = 'C';
+  std::string header(781, ' ');
+  header[152] = 18;
+  install.folder.Write("kvdata/club.kv5", header);
+  install.folder.Write("kvdata/club.kvg", golfer);
+  user.Press("KVtoQBButton");
+  user.Press("SourceButton");
+  user.When(
+      "the picker", [&] { return host.IsShown("LoadRoster"); },
+      [&] { dynamic_cast<LoadRoster&>(host.Load("LoadRoster")).grid1.SetActiveRow(1); });
+  user.Press("LoadButton");
+  user.Press("DestButton");
+  user.Press("LoadButton");
+  user.When(
+      "the grid",
+      [&] { return !host.IsShown("LoadRosters") && Operator::Find("grid1")->IsEnabled(); },
+      [] {
+        auto& grid = dynamic_cast<wxGrid&>(*Operator::Find("grid1"));
+        EXPECT_EQ(grid.GetNumberRows(), 16);
+        grid.SetGridCursor(1, 1);
+        grid.SetFocus();
+      });
+  user.Type("grid1", WXK_SPACE);
+  user.When(
+      "the tick",
+      [&] { return dynamic_cast<KVtoQB&>(host.Load("KVtoQB")).grid1.text(2, 2) == "1"; }, [] {});
+  user.Press("TransferButton");
+  user.When(
+      "the report", [] { return Operator::Find("Message") != nullptr; },
+      [] {
+        EXPECT_EQ(dynamic_cast<wxTextCtrl&>(*Operator::Find("Message")).GetValue(),
+                  "CLUB TRANSFERED:\n0 golfers updated.\n1 new golfers added.\n" +
+                      wxString('=', 30) + "\n");
+      });
+  user.Press("OKButton");
+  user.Press("ExitButton");
+  user.RunProgram();
+  const std::string quenby = install.folder.Read("qbdata/QBGOLFER.Q9D");
+  ASSERT_EQ(quenby.size(), 10 * 1867u);
+  EXPECT_EQ(quenby[9 * 1867 + 424], 'C');
 }
 
 TEST(DesktopHostTest, AScreenWithoutAViewIsAnErrorToTell) {

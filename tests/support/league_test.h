@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <string>
-#include <vector>
 
 #include "core/text.h"
 #include "support/bytes.h"
+#include "support/test_host.h"
 
 namespace golf {
 
@@ -33,14 +33,40 @@ inline std::string LeaguePlayer(int id, const std::string& first, const std::str
   return bytes;
 }
 
-inline std::string Joined(const std::vector<std::string>& records) {
-  std::string bytes;
-  for (const std::string& record : records) bytes += record;
-  return bytes;
-}
-
 inline std::string RecordAt(const std::string& file, std::size_t record, std::size_t length) {
   return file.substr((record - 1) * length, length);
+}
+
+// The operator's way from the menu: what the screen's log says after its run, whether or not that
+// ended with an error.
+template <class AnyScreen>
+std::string TransferFromMenu(TestInstall& install, const char* button) {
+  std::string log;
+  install.host->drive = [&](Screen& screen) {
+    if (screen.name() == "TransferMenu") return install.host->Press(screen, button);
+    install.host->Press(screen, "TransferButton");
+    log = dynamic_cast<AnyScreen&>(screen).Message.text();
+  };
+  try {
+    OpenScreen(install.state(), *install.host, "TransferMenu", "");
+  } catch (const ClickEnded&) {
+  }
+  return log;
+}
+
+inline bool Told(const TestInstall& install, const std::string& event) {
+  const auto& events = install.listener.events;
+  return std::find(events.begin(), events.end(), event) != events.end();
+}
+
+// Files that a run refuses, and the event that tells of it.
+struct BadInput {
+  const char* file;
+  std::string bytes;
+  const char* event;
+};
+inline BadInput BadControl(const std::string& bytes) {
+  return {"zddata/00011.ZL8", bytes, "error 9"};
 }
 
 }  // namespace golf
