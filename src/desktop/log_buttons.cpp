@@ -2,10 +2,13 @@
 
 #include <wx/button.h>
 #include <wx/clipbrd.h>
+#include <wx/file.h>
 #include <wx/filedlg.h>
 #include <wx/filename.h>
 #include <wx/stdpaths.h>
 #include <wx/textbuf.h>
+
+#include <functional>
 
 #include "desktop/layout_helpers.h"
 

@@ -91,7 +91,7 @@ void ZDtoKV::OnLoad() {
 void ZDtoKV::OnUnload() { WriteSettings(state(), *this, Remembered()); }
 
 // The list on the screen stays, and with it the batch chosen.
-void ZDtoKV::OpenAgain() { LoadScoreBatches(state(), LeagueRoster.text()); }
+void ZDtoKV::OpenAgain() { LoadScoreBatches(state(), listed_league_); }
 
 void ZDtoKV::TakeLeague(std::string league) {
   LeagueRoster.SetText(std::move(league));
@@ -100,8 +100,10 @@ void ZDtoKV::TakeLeague(std::string league) {
 }
 
 void ZDtoKV::LoadEventList() {
+  listed_league_.clear();
   const auto batches = LoadScoreBatches(state(), LeagueRoster.text());
   if (!batches) return;
+  listed_league_ = LeagueRoster.text();
   EventList.Clear();
   for (const ScoreBatch& batch : batches->list) EventList.AddItem(batch.Item());
   EventList.Select(batches->selected);
@@ -119,8 +121,7 @@ void ZDtoKV::Transfer() {
   if (IsBlankText(HandicapRoster.text()) || IsBlankText(LeagueRoster.text())) {
     host().Ask(Box{.title = "Info",
                    .text = "You must select both source league and destination roster before you "
-                           "can transfer scores.",
-                   .icon = BoxIcon::kInformation});
+                           "can transfer scores."});
     return;
   }
   if (!OpenKVRoster(state(), HandicapRoster.text())) return Report(0);
@@ -205,8 +206,7 @@ bool ZDtoKV::PostScoresOf(Run& run, std::int32_t place) {
 void ZDtoKV::Report(std::int32_t count) {
   host().TellCount("transferred", count);
   host().Ask(Box{.title = "Notice",
-                 .text = "Transfer Complete..." + std::to_string(count) + " scores transfered.",
-                 .icon = BoxIcon::kInformation});
+                 .text = "Transfer Complete..." + std::to_string(count) + " scores transfered."});
   TransferButton.SetVisible(false);
 }
 

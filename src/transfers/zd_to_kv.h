@@ -57,6 +57,8 @@ class ZDtoKV : public Screen {
   bool PostGolfer(Run& run, int file, std::int32_t record);
   bool PostScoresOf(Run& run, std::int32_t place);
   void Report(std::int32_t count);
+
+  std::string listed_league_;  // whose files are open with the list; empty with none
 };
 
 }  // namespace golf

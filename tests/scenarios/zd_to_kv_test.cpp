@@ -4,8 +4,7 @@
 
 #include "stores/course/course_layout.h"
 #include "stores/kelvane/screens/load_roster.h"
-#include "support/league_bytes.h"
-#include "support/test_host.h"
+#include "support/league_test.h"
 
 namespace golf {
 namespace {
@@ -125,14 +124,12 @@ class ZDtoKVTest : public testing::Test {
     Put16(control, 192, {league_holes});
     folder.Write("zddata/00011.ZL8", control);
     folder.Write("zddata/00011.ZP8",
-                 Joined({Player(11, 0, 1, 85), Player(12, 1, 2, 86), Player(13, 0, 1, 20),
-                         Player(14, 0, 1, 200), Player(15, 0, 3, 21), Player(0, 0, 1, 85),
-                         Player(17, 0, 0, 85), Player(18, 1, 101, 85), Player(99, 0, 1, 85)}) +
-                     "torn");
+                 Player(11, 0, 1, 85) + Player(12, 1, 2, 86) + Player(13, 0, 1, 20) +
+                     Player(14, 0, 1, 200) + Player(15, 0, 3, 21) + Player(0, 0, 1, 85) +
+                     Player(17, 0, 0, 85) + Player(18, 1, 101, 85) + Player(99, 0, 1, 85) + "torn");
     folder.Write("zddata/0001.ZS8",
-                 Joined({Player(11, 7, 1, 1), "", "", "", "", Player(12, 1, 2, 86),
-                         Player(16, 1, 50, 199, "Sub"), Player(13, 0, 0, 30)})
-                     .insert(kLeaguePlayerBytes, 4 * kLeaguePlayerBytes, '\0'));
+                 Player(11, 7, 1, 1) + std::string(4 * kLeaguePlayerBytes, '\0') +
+                     Player(12, 1, 2, 86) + Player(16, 1, 50, 199, "Sub") + Player(13, 0, 0, 30));
     std::string teams(3 * 4400, '\0');
     for (int t = 0; t < 3; ++t) Put16(teams, 2302 + 4400 * static_cast<std::size_t>(t), {t + 1});
     teams[4400 + 3405] = 9;  // the ladies of team 2
@@ -308,12 +305,8 @@ TEST_F(ZDtoKVTest, RefusalsAndBadInput) {
     Prepare(18, 18);
     install.folder.Write(settings, "\"00011\"\r\n3\r\n\"CLUB\"\r\n");
     install.folder.Write(c.file, c.bytes);
-    install.host->drive = [&](Screen& screen) { install.host->Press(screen, "TransferButton"); };
-    try {
-      install.host->Operate([&] { OpenScreen(install.state(), *install.host, "ZDtoKV", ""); });
-    } catch (const ClickEnded&) {
-    }
-    EXPECT_TRUE(install.events().at(1).starts_with(c.event));
+    TransferFromMenu<ZDtoKV>(install, "ZDtoKVButton");
+    EXPECT_TRUE(install.events().at(2).starts_with(c.event));
     EXPECT_TRUE(Left() == SomeRoster());
   }
 }
