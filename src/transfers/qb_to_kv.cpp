@@ -333,7 +333,10 @@ void QBtoKV::Transfer() {
   });
   TournamentScoreChoice choice = Choice();
   next([&] { choice.back_nine = IsBackNine(choice.course); });
-  if (!OpenRoster(next)) return Tell(host(), "Notice", "Cannot open Handicap Roster.");
+  if (!OpenRoster(next)) {
+    next([&] { OpenAgain(); });  // what the operator chooses next goes by the tournament
+    return Tell(host(), "Notice", "Cannot open Handicap Roster.");
+  }
   next([&] { MarkRoster(); });
   OpenTournamentFiles(next);
   if (HolesFit(choice)) PostScores(choice, next);

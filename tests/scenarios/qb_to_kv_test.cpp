@@ -53,9 +53,7 @@ struct Score {
   std::string Bytes(double date) const {
     std::string bytes(kScore, '\0');
     Put16(bytes, 0, {course});
-    bytes[2] = static_cast<char>(tee);
-    Put(bytes, 3, {rating});
-    bytes[7] = static_cast<char>(slope);
+    bytes.replace(2, 6, Half(0, rating, slope, tee).substr(2, 6));
     Put(bytes, 8, {date});
     for (int hole = first_hole; first_hole > 0 && hole <= (gross == 36 ? first_hole + 8 : 18);) {
       bytes[15 + static_cast<std::size_t>(hole++)] = 4;
