@@ -142,7 +142,7 @@ void CourseForm::ShowHoles() {
   for (int tee = 1; tee <= kShownTees; ++tee) any_active |= course().ActiveTees(tee);
   HolesFrame.SetEnabled(!any_active);
   FHoleNum[0].SetVisible(any_active || course().Allow18HoleCourses);
-  for (const std::size_t nine : {1, 2}) {
+  for (const auto nine : {std::size_t{1}, std::size_t{2}}) {
     FHoleNum[nine].SetVisible(any_active || course().Allow9HoleCourses);
   }
 }
