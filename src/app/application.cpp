@@ -1,7 +1,10 @@
 #include "app/application.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
+#include "app/tools.h"
 #include "core/entry.h"
 #include "scoring/player_class.h"
 #include "scoring/screens/grid_sort_screen.h"
@@ -10,6 +13,9 @@
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
 #include "stores/course/course_class.h"
+#include "stores/course/screens/course_form.h"
+#include "stores/course/screens/course_table.h"
+#include "stores/course/screens/course_tee.h"
 #include "stores/kelvane/kelvane_buffers.h"
 #include "stores/kelvane/screens/load_roster.h"
 #include "stores/quenby/program_class.h"
@@ -63,6 +69,9 @@ ScreenCatalogue Application::Screens() {
           {"GridSort", Make<GridSort>},
           {"LoadRoster", Make<LoadRoster>},
           {"LoadRosters", Make<LoadRosters>},
+          {"CourseTable", Make<CourseTable>},
+          {"CourseForm", Make<CourseForm>},
+          {"CourseTee", Make<CourseTee>},
           {"KVCoursestoQB", Make<KVCoursestoQB>},
           {"KVtoQB", Make<KVtoQB>},
           {"KVtoZD", Make<KVtoZD>},
@@ -80,7 +89,10 @@ void Application::Start(DateValue now, const RegionalOverrides& overrides) {
 }
 
 bool CanOpenScreen(const ScreenHost& host, std::string_view name) {
-  return name != "TipBox" && name != "GridSort" && host.HasScreen(name);
+  constexpr std::string_view kOpenedByOthers[] = {"TipBox", "GridSort", "CourseForm", "CourseTee"};
+  const bool by_others = std::find(std::begin(kOpenedByOthers), std::end(kOpenedByOthers), name) !=
+                         std::end(kOpenedByOthers);
+  return !by_others && host.HasScreen(name);
 }
 
 void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,
@@ -88,6 +100,7 @@ void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,
   if (!CanOpenScreen(host, name)) {
     throw NumberedError(ErrorNumber::kBadCall, "There is no screen " + std::string(name) + ".");
   }
+  if (name == "CourseTable") return ShowCourseTable(state, host, word);
   if (name == "LoadRosters") OpenForLoadRosters(state);
   OpenTransfer(state, host, name, word);
 }

@@ -34,8 +34,8 @@ class Application {
   SharedState state_;
 };
 
-// Whether a name stands for a screen that somebody opens. The message box and the sort dialog
-// are opened by other screens, with something in hand.
+// Whether a name stands for a screen that somebody opens. The message box, the sort dialog
+// and the screens of one course are opened by other screens, with something in hand.
 bool CanOpenScreen(const ScreenHost& host, std::string_view name);
 
 // Opens a screen by its name as its opener does, and returns when it is gone. `word` is what the

@@ -2,8 +2,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <functional>
 #include <iostream>
+#include <limits>
 
 #include "cli/commands.h"
 #include "cli/console.h"
@@ -53,6 +55,24 @@ void AddGlobalOptions(CLI::App& app, Options& options) {
   app.add_flag("--quiet", options.quiet, "No progress");
 }
 
+// An option or argument that is a whole number. The parser's own reading takes a leading zero for
+// another base, and codes are listed with zeros.
+template <class Number>
+CLI::Option* AddNumber(CLI::App& command, const std::string& name, Number& number,
+                       const std::string& help) {
+  const auto read = [&number, name](const std::string& text) {
+    std::int64_t value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool whole = result.ec == std::errc() && result.ptr == text.data() + text.size();
+    if (!whole || value < std::numeric_limits<std::int32_t>::min() ||
+        value > std::numeric_limits<std::int32_t>::max()) {
+      throw CLI::ValidationError(name, "\"" + text + "\" is no whole number");
+    }
+    number = static_cast<std::int32_t>(value);
+  };
+  return command.add_option_function<std::string>(name, read, help)->type_name("N");
+}
+
 CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& help,
                      const std::string& example, Command& chosen, Command command) {
   CLI::App* added = app.add_subcommand(name, help);
@@ -72,6 +92,7 @@ struct Arguments {
   ScoresQbToKvRequest scores_qb_to_kv;
   ScoresZdToKvRequest scores_zd_to_kv;
   ResultsRequest results;
+  CourseRequest course;
   std::string script;
   bool start_programs = false;
 };
@@ -83,9 +104,8 @@ void AddRoster(CLI::App& command, std::string& roster) {
 }
 
 void AddQuenbyRoster(CLI::App& command, int& to) {
-  command.add_option("--to", to, "The Quenby roster, as in list qb-rosters; 0 for all")
+  AddNumber(command, "--to", to, "The Quenby roster, as in list qb-rosters; 0 for all")
       ->required()
-      ->check(CLI::Range(0, 32767))
       ->type_name("N");
 }
 
@@ -116,6 +136,25 @@ void AddGolfersKvToQb(CLI::App& app, const Options& options, GolfersKvToQbReques
                     "Put handicaps and indexes into the active tournament as well");
 }
 
+void AddLibrary(CLI::App& command, std::string& library) {
+  command.add_option("--library", library, "Whose courses: kv, qb or zd; kv if left out")
+      ->check(CLI::IsMember({"kv", "qb", "zd"}));
+}
+
+void AddCourse(CLI::App& app, const Options& options, CourseRequest& request, Command& chosen) {
+  CLI::App* course = app.add_subcommand("course", "Show a course, or look a library over");
+  course->require_subcommand(1);
+  CLI::App* show = AddCommand(*course, "show", "Show a course with the scorecards of its tees",
+                              "--install golf-demo course show 1 --library qb", chosen,
+                              [&] { return RunCourseShow(options, request); });
+  AddNumber(*show, "N", request.number, "The course, as in list courses")->required();
+  CLI::App* check = AddCommand(*course, "check",
+                               "Hold every active tee against the rules: a line for each finding",
+                               "--install golf-demo course check --library qb", chosen,
+                               [&] { return RunCourseCheck(options, request); });
+  for (CLI::App* command : {show, check}) AddLibrary(*command, request.library);
+}
+
 void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdRequest& request,
                       Command& chosen) {
   CLI::App* command =
@@ -125,9 +164,8 @@ void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdReques
                  chosen, [&] { return RunGolfersKvToZd(options, request); });
   AddRoster(*command, request.roster);
   AddLeague(*command, request.league);
-  command
-      ->add_option("--percent", request.percent,
-                   "Percent of the handicap, 10 to 100; any other number is 100, and so is none")
+  AddNumber(*command, "--percent", request.percent,
+            "Percent of the handicap, 10 to 100; any other number is 100, and so is none")
       ->type_name("N");
   command
       ->add_option("--holes", request.holes,
@@ -156,15 +194,14 @@ void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvRequest&
       app, "scores-qb-to-kv", "Transfer the scores of a tournament's round, Quenby to Kelvane",
       "--install golf-demo scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18", chosen,
       [&] { return RunScoresQbToKv(options, request); });
-  command->add_option("--tournament", request.tournament, "As in list tournaments")
+  AddNumber(*command, "--tournament", request.tournament, "As in list tournaments")
       ->required()
       ->type_name("N");
-  command->add_option("--round", request.round, "Of the tournament")->required()->type_name("R");
+  AddNumber(*command, "--round", request.round, "Of the tournament")->required()->type_name("R");
   AddRoster(*command, request.roster);
-  command
-      ->add_option("--course", request.course,
-                   "The Kelvane course, as in list courses, 0 for an away course; the one that the "
-                   "name of the round's course fits best if left out")
+  AddNumber(*command, "--course", request.course,
+            "The Kelvane course, as in list courses, 0 for an away course; the one that the "
+            "name of the round's course fits best if left out")
       ->type_name("N");
   command->add_flag("--as-tournament", request.as_tournament, "Post them as tournament scores");
   command->add_flag("--points", request.points, "Post points in place of scores");
@@ -184,9 +221,8 @@ void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest&
                  "--install golf-demo scores-zd-to-kv --league 00011 --batch 3 --roster CLUB18",
                  chosen, [&] { return RunScoresZdToKv(options, request); });
   AddLeague(*command, request.league);
-  command->add_option("--batch", request.batch, "What to transfer, by its code as in list events")
+  AddNumber(*command, "--batch", request.batch, "What to transfer, by its code as in list events")
       ->required()
-      ->check(CLI::Range(1, 999))
       ->type_name("CODE");
   AddRoster(*command, request.roster);
   command
@@ -209,8 +245,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   list->add_option("WHAT", args.list.what, "What to list")
       ->required()
       ->check(CLI::IsMember(ListNames()));
-  list->add_option("--library", args.list.library, "Whose courses: kv, qb or zd; kv if left out")
-      ->check(CLI::IsMember({"kv", "qb", "zd"}));
+  AddLibrary(*list, args.list.library);
   list->add_option("--league", args.list.league, "Whose events: a base that list leagues shows")
       ->type_name("BASE");
   list->parse_complete_callback([&args] {
@@ -223,7 +258,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
                               "dump golf-demo/kvdata/kvcrs.dat --record 1", chosen,
                               [&] { return RunDump(options, args.dump); });
   dump->add_option("FILE", args.dump.file, "A file of Kelvane, Quenby or Zandel")->required();
-  dump->add_option("--record", args.dump.record, "Only this record, from 1")->type_name("N");
+  AddNumber(*dump, "--record", args.dump.record, "Only this record, from 1")->type_name("N");
   dump->add_flag("--csv", args.dump.csv, "A line a record, with a heading");
 
   CLI::App* results = AddCommand(app, "results", "Show what scoring works out",
@@ -232,12 +267,14 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   results->add_option("WHAT", args.results.what, "Whose results: players")
       ->required()
       ->check(CLI::IsMember(ResultsNames()));
-  results->add_option("--tournament", args.results.tournament, "The tournament's number")
+  AddNumber(*results, "--tournament", args.results.tournament, "The tournament's number")
       ->type_name("N")
       ->required();
-  results->add_option("--round", args.results.round, "The round; the active one if left out")
+  AddNumber(*results, "--round", args.results.round, "The round; the active one if left out")
       ->type_name("R");
   results->add_flag("--csv", args.results.csv, "A line an entry, with a heading");
+
+  AddCourse(app, options, args.course, chosen);
 
   AddCommand(app, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
              "--install golf-demo courses-kv-to-qb", chosen,

@@ -46,6 +46,13 @@ struct ResultsRequest {
 std::vector<std::string> ResultsNames();
 ExitCode RunResults(const Options& options, const ResultsRequest& request);
 
+struct CourseRequest {
+  std::string library = "kv";  // whose: "kv", "qb" or "zd"
+  std::int32_t number = 0;     // of the course, for RunCourseShow
+};
+ExitCode RunCourseShow(const Options& options, const CourseRequest& request);
+ExitCode RunCourseCheck(const Options& options, const CourseRequest& request);
+
 ExitCode RunCoursesKvToQb(const Options& options);
 
 struct GolfersKvToQbRequest {

@@ -35,6 +35,10 @@ void AddKindKeys(Json& event, const Control& control) {
   }
   if (const auto* toggle = dynamic_cast<const Toggle*>(&control)) {
     event["value"] = toggle->value() ? 1 : 0;
+  } else if (const auto* combo = dynamic_cast<const TextCombo*>(&control)) {
+    event["text"] = JsonText(combo->text());
+    event["index"] = combo->index();
+    event["items"] = TextList(combo->items());
   } else if (const auto* text_box = dynamic_cast<const TextBox*>(&control)) {
     event["text"] = JsonText(text_box->text());
   } else if (const auto* list = dynamic_cast<const List*>(&control)) {

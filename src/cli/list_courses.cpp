@@ -1,35 +1,31 @@
-#include <map>
-
+#include "cli/course_command.h"
 #include "cli/list_command.h"
 #include "cli/plain_text.h"
 #include "core/text.h"
-#include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
 
 namespace golf {
 namespace {
 
-struct Library {
-  const char* program;
-  std::string SharedState::*folder;
-};
-
-const std::map<std::string, Library> kLibraries = {{"kv", {"KV", &SharedState::KVDataPath}},
-                                                   {"qb", {"QB", &SharedState::QBDataPath}},
-                                                   {"zd", {"ZD", &SharedState::ZDDataPath}}};
-
-std::string HolesText(const CourseClass& course) {
-  const int holes = course.HoleNumFlag();
-  return std::to_string(holes < 0 ? -holes : holes) + (holes == 9 ? "F" : holes == -9 ? "B" : "");
+std::vector<std::string> CourseRow(const CourseClass& course, std::int32_t number) {
+  std::string tees;
+  for (const TeeKey& tee : ActiveTeesOf(course)) {
+    tees += (tees.empty() ? "" : ", ") + std::to_string(tee.number) + " " + tee.name;
+  }
+  const int link = course.KVCourseNum();
+  return {std::to_string(number), PlainCell(course.Name()), HolesText(course.HoleNumFlag()),
+          link == 0 ? "-" : std::to_string(link), PlainCell(tees)};
 }
 
-struct ListedTee {
-  int number;
-  std::string name;
-  std::string abbreviation;
-};
+}  // namespace
 
-std::vector<ListedTee> TeesOf(const CourseClass& course) {
-  std::vector<ListedTee> tees;
+CourseClass& OpenNamedLibrary(SharedState& state, const std::string& library) {
+  OpenCourseLibrary(state, *FindCourseLibrary(library));
+  return state.Course();
+}
+
+std::vector<TeeKey> ActiveTeesOf(const CourseClass& course) {
+  std::vector<TeeKey> tees;
   for (int i = 1; i <= course.TeeNumberofTees(); ++i) {
     const int tee = course.TeeAllTees(i).back() - '0';
     const std::string letter = course.TeeNameAbv(int{tee});
@@ -38,43 +34,29 @@ std::vector<ListedTee> TeesOf(const CourseClass& course) {
   return tees;
 }
 
-Json CourseObject(const CourseClass& course, std::int32_t number) {
-  Json tees = Json::array();
-  for (const ListedTee& tee : TeesOf(course)) {
-    tees.push_back({{"number", tee.number},
-                    {"name", JsonText(tee.name)},
-                    {"abbreviation", JsonText(tee.abbreviation)}});
-  }
+Json CourseKeys(const CourseClass& course, std::int32_t number) {
   return {{"number", number},
           {"name", JsonText(course.Name())},
-          {"holes", HolesText(course)},
-          {"link", course.KVCourseNum()},
-          {"tees", tees}};
+          {"holes", HolesText(course.HoleNumFlag())},
+          {"link", course.KVCourseNum()}};
 }
 
-std::vector<std::string> CourseRow(const CourseClass& course, std::int32_t number) {
-  std::string tees;
-  for (const ListedTee& tee : TeesOf(course)) {
-    tees += (tees.empty() ? "" : ", ") + std::to_string(tee.number) + " " + tee.name;
-  }
-  const int link = course.KVCourseNum();
-  return {std::to_string(number), PlainCell(course.Name()), HolesText(course),
-          link == 0 ? "-" : std::to_string(link), PlainCell(tees)};
+Json TeeKeys(const TeeKey& tee) {
+  return {{"number", tee.number},
+          {"name", JsonText(tee.name)},
+          {"abbreviation", JsonText(tee.abbreviation)}};
 }
-
-}  // namespace
 
 void ListCourses(SharedState& state, const ListRequest& request, ListWriter& out) {
-  const Library& chosen = kLibraries.at(request.library);
-  state.CourseDataPath = state.*chosen.folder;
-  CourseClass& course = state.Course();
-  course.SetActiveProgram(chosen.program);
-  course.OpenCourseFile();
+  CourseClass& course = OpenNamedLibrary(state, request.library);
   out.SetHeadings({"No.", "Course", "Holes", "Kelvane", "Tees"});
   for (std::int32_t number = 1; number <= course.CourseFileLength(); ++number) {
     course.GetRecord(number);
     if (course.activeflag() == 0) continue;
-    out.Add(CourseObject(course, number), CourseRow(course, number));
+    Json object = CourseKeys(course, number);
+    object["tees"] = Json::array();
+    for (const TeeKey& tee : ActiveTeesOf(course)) object["tees"].push_back(TeeKeys(tee));
+    out.Add(object, CourseRow(course, number));
   }
 }
 

@@ -176,7 +176,7 @@ void ScriptRunner::SetText(const Words& words) {
   if (box.read_only()) throw ScriptError(words[1] + " can only be read.");
   host_.Operate(screen, [&] {
     screen.MoveFocus(&box);
-    box.SetText(words[2]);
+    box.Enter(words[2]);
     screen.MoveFocus(nullptr);
   });
 }
@@ -190,7 +190,7 @@ void ScriptRunner::Type(const Words& words) {
   for (const char typed : words[2]) {
     if (!host_.IsShown(screen)) throw ScriptError(screen.name() + " is not open any more.");
     const char key = box.key_filter ? box.key_filter(typed) : typed;
-    if (key != 0) host_.Operate(screen, [&] { box.SetText(box.text() + key); });
+    if (key != 0) host_.Operate(screen, [&] { box.TypeKey(key); });
   }
 }
 
@@ -229,22 +229,40 @@ void ScriptRunner::Check(const Words& words) {
 }
 
 void ScriptRunner::Select(const Words& words) {
-  auto& list = Usable<List>(words[1]);
+  const std::vector<std::string>& items = ItemsOf(words[1]);
   const int index = WholeNumber(words[2]);
-  if (index < 0 || index >= static_cast<int>(list.items().size())) {
+  if (index < 0 || index >= static_cast<int>(items.size())) {
     throw ScriptError(words[1] + " has no item " + words[2] + ".");
   }
-  host_.Operate(Top(), [&] { list.Select(index); });
+  SelectItem(words[1], index);
 }
 
 void ScriptRunner::Pick(const Words& words) {
-  auto& list = Usable<List>(words[1]);
-  const auto& items = list.items();
+  const std::vector<std::string>& items = ItemsOf(words[1]);
   const auto item = std::find_if(items.begin(), items.end(), [&](const std::string& text) {
     return text.find(words[2]) != std::string::npos;
   });
   if (item == items.end()) throw ScriptError("No item of " + words[1] + " holds " + words[2] + ".");
-  host_.Operate(Top(), [&] { list.Select(static_cast<int>(item - items.begin())); });
+  SelectItem(words[1], static_cast<int>(item - items.begin()));
+}
+
+const std::vector<std::string>& ScriptRunner::ItemsOf(const std::string& name) const {
+  if (const auto* combo = dynamic_cast<const TextCombo*>(&Named(name))) return combo->items();
+  return Usable<List>(name).items();
+}
+
+// Who picks from a drop-down with free text is in it then, as he is when he types.
+void ScriptRunner::SelectItem(const std::string& name, int index) {
+  Screen& screen = Top();
+  auto* combo = dynamic_cast<TextCombo*>(&Usable<Control>(name));
+  host_.Operate(screen, [&] {
+    if (combo == nullptr) {
+      Usable<List>(name).Select(index);
+    } else {
+      screen.MoveFocus(combo);
+      combo->Select(index);
+    }
+  });
 }
 
 void ScriptRunner::ChooseTab(const Words& words) {

@@ -58,6 +58,9 @@ class ScriptRunner {
   // The control of this name, which must be of this kind and within the operator's reach.
   template <class Kind>
   Kind& Usable(const std::string& name) const;
+  // Of a list, or of a drop-down with free text.
+  const std::vector<std::string>& ItemsOf(const std::string& name) const;
+  void SelectItem(const std::string& name, int index);
   void FocusNext(Screen& screen);
 
   SharedState& state_;

@@ -10,6 +10,7 @@ void PrepareStart(SharedState& state, const RegionalForms& forms, DateValue now)
   const TimeForms times = DetectTimeForms(forms);
   state.TimeSeparator = times.separator;
   state.TimeMask = times.mask;
+  state.decimal_comma = forms.decimal_comma;
   Platform& platform = state.files.platform();
   const auto folder = [&](const char* name) {
     return state.ProgramPath + name + platform.Separator();

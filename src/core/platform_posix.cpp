@@ -293,6 +293,10 @@ class PosixPlatform : public Platform {
 
   RegionalForms Regional() const override {
     RegionalForms forms;
+    if (const locale_t numbers = newlocale(LC_NUMERIC_MASK, "", nullptr)) {
+      forms.decimal_comma = std::string_view(nl_langinfo_l(RADIXCHAR, numbers)) == ",";
+      freelocale(numbers);
+    }
     const locale_t locale = newlocale(LC_TIME_MASK, "", nullptr);
     if (locale == nullptr) return forms;
     forms.short_date = PictureFromStrftime(nl_langinfo_l(D_FMT, locale));

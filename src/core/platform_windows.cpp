@@ -332,7 +332,7 @@ class WindowsPlatform : public Platform {
   RegionalForms Regional() const override {
     const RegionalForms usual;
     return {Picture(LOCALE_SSHORTDATE, usual.short_date),
-            Picture(LOCALE_STIMEFORMAT, usual.long_time)};
+            Picture(LOCALE_STIMEFORMAT, usual.long_time), Picture(LOCALE_SDECIMAL, ".") == ","};
   }
 
  private:

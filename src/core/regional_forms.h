@@ -10,6 +10,7 @@ namespace golf {
 struct RegionalForms {
   std::string short_date = "MM/dd/yy";
   std::string long_time = "HH:mm:ss";
+  bool decimal_comma = false;  // how numbers are written
 };
 
 // How dates are shown and typed, found out from the short date form.

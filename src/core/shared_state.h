@@ -72,6 +72,8 @@ class SharedState {
   std::string DateMask;
   std::string TimeMask;
   std::string TimeSeparator;
+  // Whether the machine writes numbers with a comma; one that is entered may have either then.
+  bool decimal_comma = false;
 
   // The word that the calling sibling passed: "ZD", "QB" or "KV" name it, any other nobody.
   std::string CommandLine;

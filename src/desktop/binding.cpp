@@ -66,6 +66,7 @@ void Binding::Refresh() {
       // All of them, since one control can take others with it.
       if (ShowState(tied)) rearranged = true;
     }
+    for (const auto& show : shows_also_) show();
     if (rearranged && on_rearranged) on_rearranged();
   }
   ShowFocus();
@@ -104,6 +105,7 @@ void Binding::HoldInput(bool held) {
 void Binding::Release() {
   for (const Tied& tied : ties_) tied.control->Observe(nullptr);
   ties_.clear();
+  shows_also_.clear();
   screen_ = nullptr;
 }
 

@@ -4,6 +4,8 @@
 
 #include <functional>
 #include <list>
+#include <utility>
+#include <vector>
 
 #include "forms/host_base.h"
 
@@ -23,6 +25,9 @@ class Binding {
   // Names the widget after its control and from now on shows, besides what `show` puts into it,
   // whether it can be seen, used, and has the focus.
   void Tie(Control& control, wxWindow& widget, std::function<void()> show);
+
+  // Called when controls have changed, for what belongs to several of them.
+  void ShowAlso(std::function<void()> show) { shows_also_.push_back(std::move(show)); }
 
   // When this part of a control's widget gets the focus, the control has it. Done for the widget
   // itself.
@@ -58,6 +63,7 @@ class Binding {
 
   HostBase& host_;
   Screen* screen_;
+  std::vector<std::function<void()>> shows_also_;
   std::list<Tied> ties_;  // observers keep the addresses of its elements
   const Control* shown_focus_ = nullptr;
   bool changed_ = false;

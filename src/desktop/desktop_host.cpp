@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "desktop/native_boxes.h"
+#include "desktop/tools_menu.h"
 
 namespace golf {
 namespace {
@@ -94,6 +95,7 @@ void DesktopHost::Open(Screen& screen) {
   const View& view = views_.find(screen.name())->second;
   wxTopLevelWindow* window = NewWindow(view.kind, TopWindow());
   auto* panel = new ScreenPanel(*window, *this, screen);
+  if (auto* frame = dynamic_cast<wxFrame*>(window)) AddToolsMenu(*frame, state(), *this);
   view.fill(*panel, screen);
   if (view.kind == WindowKind::kDialog) window->CentreOnParent();
   if (view.kind == WindowKind::kDialogOverOpener && TopWindow() != nullptr) {
@@ -110,6 +112,8 @@ void DesktopHost::RunModal(Screen& screen) {
   auto& dialog = dynamic_cast<wxDialog&>(panel.window());
   dialog.ShowModal();
   dialog.Destroy();
+  // Some window managers give the focus to the main window, which takes no input.
+  if (wxTopLevelWindow* below = TopWindow()) below->Raise();
 }
 
 void DesktopHost::Close(Screen& screen) {

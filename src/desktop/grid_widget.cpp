@@ -51,11 +51,11 @@ class ControlTable : public wxGridTableBase {
     const int control_column = ControlColumn(column);
     const bool locked = control_.IsLocked(control_column, row + 1);
     attributes->SetReadOnly(locked);
-    if (IsTick(column)) {
+    if (IsTick(column) || control_.IsCentred(control_column)) {
       attributes->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
-      if (locked) {
-        attributes->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
-      }
+    }
+    if (IsTick(column) && locked) {
+      attributes->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
     }
     if (control_.cell_type(control_column) == CellType::kDropDown) {
       attributes->SetEditor(new wxGridCellChoiceEditor(Choices(control_column)));

@@ -8,6 +8,30 @@ namespace {
 
 constexpr int kGaugeSteps = 1000;
 
+// The clock of a timer control, as long as the window has its screen.
+class RunningTimer : public wxTimer {
+ public:
+  RunningTimer(Binding& binding, Timer& control) : binding_(binding), control_(control) {
+    control_.Observe([this] { Follow(); });
+    Follow();
+  }
+  void Notify() override {
+    if (control_.on_timer) binding_.Operate(control_.on_timer);
+  }
+
+ private:
+  void Follow() {
+    if (control_.IsRunning()) {
+      Start(control_.interval());
+    } else {
+      Stop();
+    }
+  }
+
+  Binding& binding_;
+  Timer& control_;
+};
+
 }  // namespace
 
 ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen)
@@ -16,6 +40,7 @@ ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& scree
   window_.SetTitle(WxText(screen.caption()));
   window_.Bind(wxEVT_CLOSE_WINDOW, &ScreenPanel::OnClose, this);
   window_.Bind(wxEVT_CHAR_HOOK, &ScreenPanel::OnCharHook, this);
+  FollowTimers();
   Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
     event.Skip();
     binding_.Refresh();
@@ -45,7 +70,17 @@ void ScreenPanel::ShowProgress(const Progress& progress) {
   gauge_->SetValue(static_cast<int>(progress.done * kGaugeSteps / progress.total));
 }
 
+void ScreenPanel::FollowTimers() {
+  for (Control* control : screen_->controls()) {
+    auto* timer = dynamic_cast<Timer*>(control);
+    if (timer != nullptr) timers_.push_back(std::make_unique<RunningTimer>(binding_, *timer));
+  }
+}
+
+// Also in the middle of a timer's event.
 void ScreenPanel::Detach() {
+  for (const auto& timer : timers_) timer->Stop();
+  for (Control* control : screen_->controls()) control->Observe(nullptr);
   binding_.Release();
   screen_ = nullptr;
 }

@@ -2,7 +2,11 @@
 
 #include <wx/gauge.h>
 #include <wx/panel.h>
+#include <wx/timer.h>
 #include <wx/toplevel.h>
+
+#include <memory>
+#include <vector>
 
 #include "desktop/binding.h"
 
@@ -27,6 +31,7 @@ class ScreenPanel : public wxPanel {
   void Detach();
 
  private:
+  void FollowTimers();
   void OnClose(wxCloseEvent& event);
   void OnCharHook(wxKeyEvent& event);
 
@@ -35,6 +40,7 @@ class ScreenPanel : public wxPanel {
   Screen* screen_;
   Binding binding_;
   wxGauge* gauge_ = nullptr;
+  std::vector<std::unique_ptr<wxTimer>> timers_;
 };
 
 }  // namespace golf

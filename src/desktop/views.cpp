@@ -3,6 +3,9 @@
 #include "scoring/screens/grid_sort_screen.h"
 #include "shell/tip_box.h"
 #include "shell/transfer_menu.h"
+#include "stores/course/screens/course_form.h"
+#include "stores/course/screens/course_table.h"
+#include "stores/course/screens/course_tee.h"
 #include "stores/kelvane/screens/load_roster.h"
 #include "stores/quenby/screens/load_rosters.h"
 #include "transfers/kv_courses_to_qb.h"
@@ -28,6 +31,9 @@ ViewCatalogue Views() {
           {"GridSort", {WindowKind::kDialog, Fill<GridSort, FillGridSort>}},
           {"LoadRoster", {WindowKind::kDialog, Fill<LoadRoster, FillLoadRoster>}},
           {"LoadRosters", {WindowKind::kDialogOverOpener, Fill<LoadRosters, FillLoadRosters>}},
+          {"CourseTable", {WindowKind::kDialog, Fill<CourseTable, FillCourseTable>}},
+          {"CourseForm", {WindowKind::kDialog, Fill<CourseForm, FillCourseForm>}},
+          {"CourseTee", {WindowKind::kDialog, Fill<CourseTee, FillCourseTee>}},
           {"KVtoQB", {WindowKind::kDialog, Fill<KVtoQB, FillKVtoQB>}},
           {"KVtoZD", {WindowKind::kDialog, Fill<KVtoZD, FillKVtoZD>}},
           {"QBtoKV", {WindowKind::kDialog, Fill<QBtoKV, FillQBtoKV>}},

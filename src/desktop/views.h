@@ -7,6 +7,9 @@
 
 namespace golf {
 
+class CourseForm;
+class CourseTable;
+class CourseTee;
 class GridSort;
 class KVCoursestoQB;
 class KVtoQB;
@@ -37,6 +40,9 @@ void FillTipBox(ScreenPanel& panel, TipBox& screen);
 void FillGridSort(ScreenPanel& panel, GridSort& screen);
 void FillLoadRoster(ScreenPanel& panel, LoadRoster& screen);
 void FillLoadRosters(ScreenPanel& panel, LoadRosters& screen);
+void FillCourseTable(ScreenPanel& panel, CourseTable& screen);
+void FillCourseForm(ScreenPanel& panel, CourseForm& screen);
+void FillCourseTee(ScreenPanel& panel, CourseTee& screen);
 void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen);
 void FillKVtoZD(ScreenPanel& panel, KVtoZD& screen);
 void FillQBtoKV(ScreenPanel& panel, QBtoKV& screen);

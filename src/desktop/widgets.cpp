@@ -1,5 +1,8 @@
 #include "desktop/widgets.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "desktop/wx_text.h"
 
 namespace golf {
@@ -111,6 +114,40 @@ wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Show
 
 namespace {
 
+const wxColour kNoteColour(176, 0, 32);
+const wxColour kNotedField(255, 224, 224);
+
+// A text set again would move the operator's cursor.
+template <class Entry>
+void ShowText(Entry& entry, const TextBox& control) {
+  const wxString text = WxText(control.text());
+  if (entry.GetValue() != text) entry.ChangeValue(text);
+  if (control.selected() > 0 && entry.HasFocus()) {
+    entry.SetSelection(0, static_cast<long>(control.selected()));
+  }
+}
+
+template <class Entry>
+void FollowText(Binding& binding, TextBox& control, Entry& entry) {
+  entry.Bind(wxEVT_TEXT, [&binding, &control](wxCommandEvent& event) {
+    binding.Operate([&control, &event] { control.Enter(TextFromWx(event.GetString())); });
+  });
+}
+
+// A field whose entry is wrong looks so, and tells why.
+void MarkNote(wxWindow& widget, const Control& control) {
+  const bool noted = !control.note().empty();
+  if (noted == (widget.GetBackgroundColour() == kNotedField)) return;
+  widget.SetBackgroundColour(noted ? kNotedField : wxNullColour);
+  widget.SetForegroundColour(noted ? *wxBLACK : wxNullColour);
+  if (noted) {
+    widget.SetToolTip(WxText(control.note()));
+  } else {
+    widget.UnsetToolTip();
+  }
+  widget.Refresh();
+}
+
 // A key that the box's filter changes or refuses does not get through as it is. Pasting does.
 void FilterKeys(wxTextCtrl& box, const TextBox& control) {
   box.Bind(wxEVT_CHAR, [&box, &control](wxKeyEvent& event) {
@@ -129,16 +166,47 @@ wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, lo
   auto* box = new wxTextCtrl(parent, wxID_ANY, WxText(control.text()), wxDefaultPosition,
                              wxDefaultSize, style);
   binding.Tie(control, *box, [box, &control] {
-    // A text set again would move the operator's cursor.
-    const wxString text = WxText(control.text());
-    if (box->GetValue() != text) box->ChangeValue(text);
+    ShowText(*box, control);
     box->SetEditable(!control.read_only());
+    MarkNote(*box, control);
   });
   if (control.key_filter) FilterKeys(*box, control);
-  box->Bind(wxEVT_TEXT, [&binding, &control](wxCommandEvent& event) {
-    binding.Operate([&control, &event] { control.SetText(TextFromWx(event.GetString())); });
-  });
+  FollowText(binding, control, *box);
   return box;
+}
+
+wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control) {
+  wxArrayString items;
+  for (const std::string& item : control.items()) items.Add(WxText(item));
+  auto* combo = new wxComboBox(parent, wxID_ANY, WxText(control.text()), wxDefaultPosition,
+                               wxDefaultSize, items);
+  binding.Tie(control, *combo, [combo, &control] {
+    ShowText(*combo, control);
+    MarkNote(*combo, control);
+  });
+  FollowText(binding, control, *combo);
+  combo->Bind(wxEVT_COMBOBOX, [&binding, &control](wxCommandEvent& event) {
+    binding.Operate([&control, &event] { control.Select(event.GetSelection()); });
+  });
+  return combo;
+}
+
+wxStaticText* MakeNote(Binding& binding, wxWindow* parent, std::vector<const Control*> controls,
+                       int width, int lines) {
+  wxStaticText* text = NewText(parent, wxST_NO_AUTORESIZE);
+  text->SetForegroundColour(kNoteColour);
+  text->SetMinSize({width, lines * text->GetCharHeight()});
+  binding.ShowAlso([text, controls = std::move(controls), width, shown = wxString()]() mutable {
+    const auto noted = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
+      return !control->note().empty() && control->IsShown();
+    });
+    const wxString note =
+        noted == controls.end() ? wxString() : WxText((*noted)->note()).BeforeFirst('\n');
+    if (std::exchange(shown, note) == note) return;
+    text->SetLabelText(note);
+    text->Wrap(width);
+  });
+  return text;
 }
 
 wxPanel* MakeFrame(Binding& binding, wxWindow* parent, Frame& control) {

@@ -3,12 +3,15 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
+#include <wx/combobox.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
 #include <wx/panel.h>
 #include <wx/radiobut.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
+
+#include <vector>
 
 #include "desktop/binding.h"
 
@@ -32,6 +35,11 @@ wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& cont
 wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown = nullptr);
 wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown = nullptr);
 wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, long style = 0);
+wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control);
+// The first line of the first note that there is among these controls, broken into so many lines of
+// this width, in pixels; their place is kept. The controls themselves are marked as well.
+wxStaticText* MakeNote(Binding& binding, wxWindow* parent, std::vector<const Control*> controls,
+                       int width, int lines);
 // Holds the widgets of the controls that the frame holds.
 wxPanel* MakeFrame(Binding& binding, wxWindow* parent, Frame& control);
 // With an empty panel for each page.

@@ -27,6 +27,17 @@ std::string List::text() const {
   return index_ < 0 ? std::string() : items_[static_cast<std::size_t>(index_)];
 }
 
+int TextCombo::index() const {
+  const auto item = std::find(items_.begin(), items_.end(), text());
+  return item == items_.end() ? -1 : static_cast<int>(item - items_.begin());
+}
+
+bool TextCombo::Select(int index) {
+  if (index < 0 || index >= static_cast<int>(items_.size())) return false;
+  SetText(items_[static_cast<std::size_t>(index)]);
+  return true;
+}
+
 bool Tab::Choose(int page) {
   if (page < 0 || page >= static_cast<int>(pages_.size())) return false;
   Assign(page_, page);

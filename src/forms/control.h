@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -48,6 +50,10 @@ class Control {
   const std::string& tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
 
+  // What is wrong with the operator's entry, to be read beside it; empty with nothing.
+  const std::string& note() const { return note_; }
+  void SetNote(std::string note) { Assign(note_, std::move(note)); }
+
   // Called after every change of what the control shows. One view at a time.
   void Observe(std::function<void()> changed) { changed_ = std::move(changed); }
 
@@ -77,6 +83,7 @@ class Control {
   bool visible_ = true;
   bool enabled_ = true;
   std::string tag_;
+  std::string note_;
   std::function<void()> changed_;
 };
 
@@ -160,11 +167,16 @@ class OptionButton : public Toggle {
 
 class TextBox : public Control {
  public:
-  explicit TextBox(std::string name) : Control(ControlKind::kTextBox, std::move(name)) {}
+  explicit TextBox(std::string name) : TextBox(ControlKind::kTextBox, std::move(name)) {}
 
   const std::string& text() const { return text_; }
   void SetText(std::string text) {
-    if (text_ == text) return;
+    selected_ = 0;
+    if (text_ != text) Enter(std::move(text));
+  }
+  // What the operator enters: runs the event even where the text is the one that stood there.
+  void Enter(std::string text) {
+    selected_ = 0;
     Assign(text_, std::move(text));
     if (on_change) on_change();
   }
@@ -172,14 +184,42 @@ class TextBox : public Control {
   bool read_only() const { return read_only_; }
   void SetReadOnly(bool read_only) { Assign(read_only_, read_only); }
 
-  // Runs after every change of the text, the program's own included.
+  // How many of the first characters are selected, until the text is set.
+  std::size_t selected() const { return selected_; }
+  void SelectFirst(std::size_t count) { Assign(selected_, std::min(count, text_.size())); }
+
+  // A key that the filter has let through: it takes the place of what is selected, or comes behind
+  // the text.
+  void TypeKey(char key) { Enter(selected_ > 0 ? key + text_.substr(selected_) : text_ + key); }
+
+  // Runs after every change of the text, the program's own included, and after every entry.
   std::function<void()> on_change;
   // Gives the key that takes the place of a typed one; 0 refuses it.
   std::function<char(char)> key_filter;
 
+ protected:
+  TextBox(ControlKind kind, std::string name) : Control(kind, std::move(name)) {}
+
  private:
   std::string text_;
+  std::size_t selected_ = 0;
   bool read_only_ = false;
+};
+
+// A drop-down list with free text.
+class TextCombo : public TextBox {
+ public:
+  TextCombo(std::string name, std::vector<std::string> items)
+      : TextBox(ControlKind::kComboBox, std::move(name)), items_(std::move(items)) {}
+
+  const std::vector<std::string>& items() const { return items_; }
+  // The item that is the text, from 0; -1 if none is.
+  int index() const;
+  // Takes an item as the text. An index beyond the list changes nothing: false.
+  bool Select(int index);
+
+ private:
+  std::vector<std::string> items_;
 };
 
 // A list box, or a drop-down list.

@@ -26,6 +26,8 @@ std::optional<BoxButton> ButtonNamed(const Box& box, std::string_view name) {
   return *found;
 }
 
+bool MeansYes(std::string_view answer) { return EqualIgnoringCase(answer.substr(0, 1), "Y"); }
+
 std::string DescribeFont(const Font& font) {
   std::string description = font.name + ", " + std::to_string(font.size);
   if (font.bold || font.italic) description += ",";

@@ -36,6 +36,9 @@ struct InputBox {
   std::string default_answer;
 };
 
+// Whether an answer typed into an input box means yes: it begins with "Y" in either case.
+bool MeansYes(std::string_view answer);
+
 struct Font {
   std::string name;
   int size = 10;  // points

@@ -52,6 +52,8 @@ class Grid : public Control {
   // Error 9 for a row or column that is not there.
   void SortRows(const std::vector<SortKey>& keys, int last_row, std::string_view date_format);
 
+  bool IsCentred(int column) const { return Column(column).centred; }
+  void SetCentred(int column, bool centred) { Column(column).centred = centred; }
   bool IsHidden(int column) const { return Column(column).hidden; }
   void SetHidden(int column, bool hidden);
   bool IsLocked(int column, int row) const;
@@ -75,6 +77,7 @@ class Grid : public Control {
     CellType type = CellType::kText;
     std::vector<DropDownItem> items;
     SortKind sort_kind = SortKind::kText;
+    bool centred = false;
     bool hidden = false;
     bool locked = false;
   };

@@ -6,6 +6,7 @@
 
 #include "core/number_text.h"
 #include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
 #include "transfers/transfer_run.h"
 
 namespace golf {
@@ -122,9 +123,8 @@ void KVCoursestoQB::TellCounts(const Counts& counts) {
 }
 
 void KVCoursestoQB::RebuildIndexes() {
-  state().CourseDataPath = state().QBDataPath;
+  OpenCourseLibrary(state(), *FindCourseLibrary("QB"));
   CourseClass& course = state().Course();
-  course.OpenCourseFile();
   course.RebuildCourseIndexes(course.ActiveCoursesByName());
 }
 

@@ -332,7 +332,7 @@ void QBtoKV::Transfer() {
     host().TellFault(fault);
   });
   TournamentScoreChoice choice = Choice();
-  next([&] { choice.back_nine = IsBackNine(choice.course); });
+  choice.back_nine = IsBackNine(choice.course, next);
   if (!OpenRoster(next)) {
     next([&] { OpenAgain(); });  // what the operator chooses next goes by the tournament
     return Tell(host(), "Notice", "Cannot open Handicap Roster.");
@@ -355,13 +355,18 @@ TournamentScoreChoice QBtoKV::Choice() {
   return choice;
 }
 
-bool QBtoKV::IsBackNine(std::int32_t number) {
+bool QBtoKV::IsBackNine(std::int32_t number, const ResumeNext& next) {
   state().CourseDataPath = state().KVDataPath;
   CourseClass course(state());
   course.SetActiveProgram(kKelvane);
-  course.OpenCourseFile();
-  course.GetRecord(number);
-  return course.HoleNumFlag() == kBackNine;
+  // The library is open even where its indexes are not.
+  next([&] { course.OpenCourseFile(); });
+  bool back_nine = false;
+  next([&] {
+    course.GetRecord(number);
+    back_nine = course.HoleNumFlag() == kBackNine;
+  });
+  return back_nine;
 }
 
 bool QBtoKV::OpenRoster(const ResumeNext& next) {

@@ -104,7 +104,7 @@ class QBtoKV : public Screen {
 
   void Transfer();
   TournamentScoreChoice Choice();
-  bool IsBackNine(std::int32_t course);
+  bool IsBackNine(std::int32_t course, const ResumeNext& next);
   bool OpenRoster(const ResumeNext& next);
   void MarkRoster();
   void OpenTournamentFiles(const ResumeNext& next);

@@ -32,6 +32,12 @@ std::vector<nlohmann::json> JsonLines(const std::string& text) {
 TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
   folder.MakeFolder("empty");
   folder.Write("file", "");
+  folder.Write("bad-library.txt", "open CourseTable xx\n");
+  std::string cut = folder.Read("i/kvdata/kvcrs.dat").substr(0, 3226 + 100);
+  cut[792 + 12 + 2] = cut[792 + 2];  // tee 2: the second hole has the first one's handicap
+  folder.MakeFolder("cut");
+  folder.MakeFolder("cut/kvdata");
+  folder.Write("cut/kvdata/kvcrs.dat", cut);
   const struct {
     const char* words;
     int code;
@@ -68,6 +74,9 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
       {"--install i dump zddata/0001.ZS8 --record 6", 0, "Jarvis", ""},
       {"--install i scores-zd-to-kv --league 00021 --batch 77 --roster CLUB18", 1, "",
        "no batch 77"},
+      {"--install i scores-zd-to-kv --league 00021 --batch 077 --roster CLUB18", 1, "",
+       "no batch 77"},
+      {"--install i scores-zd-to-kv --league 00021 --batch 0x2 --roster CLUB18", 2, "", "0x2"},
       {"--install i scores-zd-to-kv --league 00021 --batch 2 --roster nine9", 1, "", "9 hole"},
       {"--install i scores-zd-to-kv --league 00021 --batch 2 --roster club18", 0, "...9 scores",
        ""},
@@ -82,6 +91,14 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
       {"--install i scores-qb-to-kv --tournament 1 --round 1 --roster club18", 0, "10 Scores", ""},
       {"--install i scores-qb-to-kv --tournament 1 --round 2 --roster club18 --points", 0,
        "Kettle, Sam (Round 2 not complete)", ""},
+      {"--install i course show 9", 1, "", "There is no course 9; the library holds 7."},
+      {"--install i course show 6", 1, "", "Course 6 was deleted."},
+      {"--install i course show 5", 0, "Sequence  16   14   18", ""},
+      {"--install i course check", 0, "4 Heron Lake - West, tee 1 Blue: ladies' rating: 18", ""},
+      {"--install cut course check --json", 0,
+       R"("tee":2,"teeName":"White","field":"handicap","hole":2,"text":"Handicap Holes)",
+       "ends with 100 bytes"},
+      {"--install i script bad-library.txt", 3, "", "no course library \"xx\""},
       {"--install i courses-kv-to-qb", 0, "Number of courses ADDED: 5", ""},
       {"courses-kv-to-qb --install i", 0, "Number of courses UPDATED: 6", ""},
   };

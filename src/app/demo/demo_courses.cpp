@@ -104,7 +104,7 @@ void FillHoles(CourseClass& course, const DemoCourse& demo, int tee, int percent
   std::sort(by_rank.begin(), by_rank.end());
   for (std::size_t i = 0; i < by_rank.size(); ++i) {
     course.SetHoleHandicap(tee, by_rank[i].second, static_cast<double>(i + 1));
-    course.SetStrkSqnc(tee, static_cast<int>(i) + first, by_rank[i].second);
+    course.SetStrkSqnc(tee, static_cast<int>(i) + 1, by_rank[i].second);
   }
   FillTotals(course, tee);
 }

@@ -7,6 +7,7 @@
 #include "core/number_text.h"
 #include "core/numbered_error.h"
 #include "core/text.h"
+#include "stores/course/course_library.h"
 
 namespace golf {
 namespace {
@@ -48,7 +49,7 @@ constexpr SpecialCourse kInvalidCourse = {0, "**Invalid Course**", 18};
 void CourseClass::OpenCourseFile() {
   state_.files.Close(course_file_);
   course_file_ = state_.files.FreeNumber();
-  state_.files.Open(course_file_, state_.CourseDataPath + LowerCase(active_program_) + "crs.dat",
+  state_.files.Open(course_file_, state_.CourseDataPath + CourseFileName(active_program_),
                     CourseLayout::kLength);
   UpdateAllCourseLists();
 }

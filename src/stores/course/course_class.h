@@ -57,6 +57,8 @@ class CourseClass {
   void SaveIndexRecord(std::int32_t position);
   // The records of all active courses, sorted by name in capitals; equal names in file order.
   std::vector<std::int32_t> ActiveCoursesByName();
+  // What lists show of a record, as old as the last call above; null where there is none.
+  const CourseDigest* FindDigest(std::int32_t record) const { return digests_.Find(record); }
   // Writes the three index files from the records given, in their order. Files are not cut.
   void RebuildCourseIndexes(const std::vector<std::int32_t>& sorted_records);
 

@@ -12,13 +12,16 @@ namespace {
 constexpr Field kActive = FieldOf<CourseLayout, "activeflag">();
 constexpr Field kHoles = FieldOf<CourseLayout, "HoleNumFlag">();
 constexpr Field kName = FieldOf<CourseLayout, "Name">();
-constexpr std::size_t kHeadLength = kName.offset + kName.width;
-static_assert(kActive.offset < kHeadLength && kHoles.offset < kHeadLength);
+constexpr Field kLink = FieldOf<CourseLayout, "KVCourseNum">();
+constexpr std::size_t kHeadLength = kLink.offset + kLink.width;
+static_assert(kActive.offset < kHeadLength && kHoles.offset < kHeadLength &&
+              kName.offset + kName.width < kHeadLength);
 
 CourseDigest DigestOf(const std::array<char, kHeadLength>& head) {
   CourseDigest digest;
   digest.activeflag = LoadLittleEndian<std::int16_t>(head.data() + kActive.offset);
   digest.hole_num_flag = LoadLittleEndian<std::int16_t>(head.data() + kHoles.offset);
+  digest.kv_course_num = LoadLittleEndian<std::int16_t>(head.data() + kLink.offset);
   std::copy_n(head.data() + kName.offset, digest.name.size(), digest.name.data());
   return digest;
 }

@@ -14,6 +14,7 @@ namespace golf {
 struct CourseDigest {
   std::int16_t activeflag = 0;
   std::int16_t hole_num_flag = 0;
+  std::int16_t kv_course_num = 0;
   std::array<char, 30> name{};
 
   std::string_view Name() const { return {name.data(), name.size()}; }

@@ -13,8 +13,6 @@ constexpr std::string_view kExtension = ".KV5";
 constexpr int kTypeColumn = 1;
 constexpr int kNameColumn = 2;
 
-bool IsYes(std::string_view answer) { return EqualIgnoringCase(answer.substr(0, 1), "Y"); }
-
 // The holes of a roster, 0 where its header cannot be read. The header is in the buffer then.
 int HolesOf(SharedState& state, const std::string& file_name) {
   auto& header = state.Kelvane().header;
@@ -173,7 +171,7 @@ void LoadRoster::AskToDelete() {
       host().Ask(InputBox{.title = "DELETE Roster?",
                           .text = "Type 'YES' to DELETE roster - '" + name + "'.",
                           .default_answer = "NO"});
-  if (IsYes(answer)) Delete(name);
+  if (MeansYes(answer)) Delete(name);
 }
 
 void LoadRoster::Delete(const std::string& name) {

@@ -1,0 +1,82 @@
+#include "app/tools.h"
+
+#include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
+
+namespace golf {
+namespace {
+
+constexpr const char* kCourseLibrary = "Course library";
+
+void ShowOpenLibrary(SharedState& state, ScreenHost& host) {
+  host.ShowModal(host.Load("CourseTable"));
+  state.Course().CloseCourseFile();
+}
+
+// Whether the operator wants to work on a sibling's own file.
+bool IsWanted(ScreenHost& host, const std::string& sibling, const std::string& path) {
+  const Box question{.title = kCourseLibrary,
+                     .text = "This is " + sibling + "'s own course library:\r" + path +
+                             "\r\rWhat you change in it is changed for " + sibling +
+                             " as well. Close " + sibling + " before you go on.\r\rOpen it?",
+                     .icon = BoxIcon::kQuestion,
+                     .buttons = {BoxButton::kYes, BoxButton::kNo},
+                     .default_button = 1};
+  return host.Ask(question) == BoxButton::kYes;
+}
+
+// False where the sibling holds its library; the operator is told then.
+bool OpenUnlessHeld(SharedState& state, ScreenHost& host, const CourseLibrary& library) {
+  try {
+    OpenCourseLibrary(state, library);
+    return true;
+  } catch (const NumberedError& error) {
+    if (!error.Is(ErrorNumber::kPermissionDenied)) throw;
+  }
+  const std::string sibling(library.sibling);
+  host.Ask(Box{.title = kCourseLibrary,
+               .text = sibling + "'s course library is in use:\r" + CourseFilePath(state, library) +
+                       "\r\rClose " + sibling + " and try again.",
+               .icon = BoxIcon::kStop});
+  return false;
+}
+
+void OpenForOperator(SharedState& state, ScreenHost& host, const CourseLibrary& library) {
+  const std::string path = CourseFilePath(state, library);
+  if (!IsWanted(host, std::string(library.sibling), path)) return;
+  if (!OpenUnlessHeld(state, host, library)) return;
+  // He may add courses of any number of holes.
+  state.Course().Allow18HoleCourses = true;
+  state.Course().Allow9HoleCourses = true;
+  ShowOpenLibrary(state, host);
+}
+
+Tool CourseTool(const CourseLibrary& library) {
+  return {.caption = std::string(kCourseLibrary) + " of &" + std::string(library.sibling) + "...",
+          .is_there =
+              [&library](SharedState& state) {
+                return state.files.FileExists(CourseFilePath(state, library));
+              },
+          .open = [&library](SharedState& state,
+                             ScreenHost& host) { OpenForOperator(state, host, library); }};
+}
+
+}  // namespace
+
+std::vector<Tool> Tools() {
+  std::vector<Tool> tools;
+  for (const CourseLibrary& library : kCourseLibraries) tools.push_back(CourseTool(library));
+  return tools;
+}
+
+void ShowCourseTable(SharedState& state, ScreenHost& host, std::string_view program) {
+  const CourseLibrary* library = FindCourseLibrary(program);
+  if (library == nullptr) {
+    throw NumberedError(ErrorNumber::kBadCall,
+                        "There is no course library \"" + std::string(program) + "\".");
+  }
+  OpenCourseLibrary(state, *library);
+  ShowOpenLibrary(state, host);
+}
+
+}  // namespace golf

@@ -1,0 +1,70 @@
+#include "desktop/grid_widget.h"
+#include "desktop/layout_helpers.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "stores/course/screens/course_form.h"
+
+namespace golf {
+namespace {
+
+constexpr int kTextWidth = 320;  // in pixels of a plain screen
+
+// The texts of the course, each with its name in front.
+wxSizer* Texts(ScreenPanel& panel, CourseForm& screen) {
+  Binding& binding = panel.binding();
+  auto* fields = new wxFlexGridSizer(2, CloseGap(panel), GroupGap(panel));
+  fields->AddGrowableCol(1);
+  std::size_t i = 0;
+  const auto name = [&] {
+    fields->Add(MakeLabel(binding, &panel, screen.lblLabels[i++]), wxSizerFlags().CentreVertical());
+  };
+  name();
+  fields->Add(MakeLabel(binding, &panel, screen.FCourseNum), wxSizerFlags().Expand());
+  for (TextBox* text : {&screen.FCourseName, &screen.FAddress1, &screen.FAddress2, &screen.FCity,
+                        &screen.FState, &screen.FZipcode, &screen.FPhone, &screen.FGolfPro}) {
+    name();
+    wxTextCtrl* box = MakeTextBox(binding, &panel, *text);
+    box->SetMinSize({panel.FromDIP(kTextWidth), -1});
+    fields->Add(box, wxSizerFlags().Expand());
+  }
+  return fields;
+}
+
+wxPanel* Holes(ScreenPanel& panel, CourseForm& screen) {
+  wxPanel* frame = MakeFrame(panel.binding(), &panel, screen.HolesFrame);
+  wxStaticText* title = new wxStaticText(frame, wxID_ANY, "Holes");
+  MakeBold(*title);
+  wxSizer* column = Column({title});
+  long style = wxRB_GROUP;
+  for (OptionButton& option : screen.FHoleNum) {
+    column->Add(MakeOption(panel.binding(), frame, option, style),
+                wxSizerFlags().Border(wxTOP, CloseGap(panel)));
+    style = 0;
+  }
+  frame->SetSizer(column);
+  return frame;
+}
+
+}  // namespace
+
+void FillCourseForm(ScreenPanel& panel, CourseForm& screen) {
+  Binding& binding = panel.binding();
+  auto* top = new wxBoxSizer(wxHORIZONTAL);
+  top->Add(Texts(panel, screen), wxSizerFlags(1).Expand().Border(wxRIGHT, 2 * GroupGap(panel)));
+  top->Add(Holes(panel, screen));
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(top, wxSizerFlags().Expand());
+  content->Add(MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, screen.grid1.rows()),
+               wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
+  content->Add(MakeButton(binding, &panel, screen.EditTeeButton),
+               wxSizerFlags().Border(wxTOP, CloseGap(panel)));
+  wxButton* ok = MakeButton(binding, &panel, screen.OKButton);
+  wxButton* cancel = MakeButton(binding, &panel, screen.CancelButton);
+  auto* buttons = new wxBoxSizer(wxHORIZONTAL);
+  buttons->Add(MakeButton(binding, &panel, screen.Help));
+  buttons->Add(ButtonRow({.affirmative = ok, .cancel = cancel}), wxSizerFlags(1));
+  content->Add(buttons, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf

@@ -1,0 +1,31 @@
+#include "desktop/grid_widget.h"
+#include "desktop/layout_helpers.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "stores/course/screens/course_table.h"
+
+namespace golf {
+namespace {
+
+constexpr int kRowsSeen = 14;
+constexpr int kListWidth = 440;  // in pixels of a plain screen
+
+}  // namespace
+
+void FillCourseTable(ScreenPanel& panel, CourseTable& screen) {
+  const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
+  wxGrid* grid = MakeGrid(panel.binding(), &panel, screen.CourseGrid, GridMarks::kRows, kRowsSeen);
+  grid->SetMinSize({panel.FromDIP(kListWidth), grid->GetMinSize().y});
+  auto* buttons = new wxBoxSizer(wxVERTICAL);
+  buttons->Add(Column({button(screen.AddCourseButton), button(screen.EditCourseButton),
+                       button(screen.DeleteCourseButton), button(screen.Help)}),
+               wxSizerFlags().Expand());
+  buttons->AddStretchSpacer();
+  buttons->Add(button(screen.CloseButton), wxSizerFlags().Expand());
+  auto* content = new wxBoxSizer(wxHORIZONTAL);
+  content->Add(grid, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
+  content->Add(buttons, wxSizerFlags().Expand());
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "core/shared_state.h"
+#include "forms/screen_host.h"
+#include "stores/course/course_class.h"
+
+namespace golf {
+
+class CourseTee;
+
+// One course: its texts, its number of holes, and its tees. Works on the current record of the
+// shared Course object, whose tees it changes there; the texts stay in the controls. Hides with the
+// tag "OK" or "CANCEL", and its opener saves.
+class CourseForm : public Screen {
+ public:
+  explicit CourseForm(const ScreenContext& context);
+
+  // For a course without a record, and for the current one. Each empties or fills the controls.
+  void BeginAdd();
+  void BeginEdit(std::int32_t number);
+  // Puts the texts and the number of holes into the current record.
+  void CopyToRecord();
+
+  void OnActivate() override;
+  void OnUnload() override;
+  Button* LeaveButton() override { return &CancelButton; }
+
+  Label FCourseNum{"FCourseNum"};
+  TextBox FCourseName{"FCourseName"};
+  TextBox FAddress1{"FAddress1"};
+  TextBox FAddress2{"FAddress2"};
+  TextBox FCity{"FCity"};
+  TextBox FState{"FState"};
+  TextBox FZipcode{"FZipcode"};
+  TextBox FPhone{"FPhone"};
+  TextBox FGolfPro{"FGolfPro"};
+  Frame HolesFrame{"HolesFrame", "Holes"};
+  std::array<OptionButton, 3> FHoleNum{OptionButton("FHoleNum", "&18 holes"),
+                                       OptionButton("FHoleNum", "9 holes, &front nine"),
+                                       OptionButton("FHoleNum", "9 holes, &back nine")};
+  Grid grid1{"grid1", 6};
+  Button EditTeeButton{"EditTeeButton", "Edit tee"};
+  Button OKButton{"OKButton", "&OK"};
+  Button CancelButton{"CancelButton", "Cancel"};
+  Button Help{"Help", "&Help"};
+  std::array<Label, 9> lblLabels{
+      Label("lblLabels", "Course number"), Label("lblLabels", "Name"),
+      Label("lblLabels", "Address"),       Label("lblLabels", "Address 2"),
+      Label("lblLabels", "City"),          Label("lblLabels", "State"),
+      Label("lblLabels", "Zip code"),      Label("lblLabels", "Phone"),
+      Label("lblLabels", "Golf pro")};
+
+ private:
+  CourseClass& course() const { return state().Course(); }
+  void Begin();
+  void ChooseHoles(std::size_t option);
+  int HoleNumFlag() const;
+  void ShowTees();
+  void ShowHoles();
+  void ShowEditCaption();
+  void EditTee();
+  void FillTee(CourseTee& screen);
+  void SaveTeeData(CourseTee& screen);
+  void MendSlopes(int tee);
+  void Accept();
+  void Cancel();
+
+  int tee_ = 1;  // the one in work
+  bool tee_screen_used_ = false;
+};
+
+}  // namespace golf

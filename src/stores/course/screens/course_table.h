@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "core/shared_state.h"
+#include "forms/screen_host.h"
+
+namespace golf {
+
+// The active courses of the open library by name, to add to, to edit and to delete from. Works on
+// the shared Course object, which is open. Closing rewrites the library's indexes.
+class CourseTable : public Screen {
+ public:
+  explicit CourseTable(const ScreenContext& context);
+
+  void OnLoad() override;
+  void OnActivate() override;
+  void OnUnload() override;
+  Button* LeaveButton() override { return &CloseButton; }
+
+  Grid CourseGrid{"CourseGrid", 3};
+  Button AddCourseButton{"AddCourseButton", "Add &New Course"};
+  Button EditCourseButton{"EditCourseButton", "Ed&it Course"};
+  Button DeleteCourseButton{"DeleteCourseButton", "&Delete Course"};
+  Button CloseButton{"CloseButton", "&Close"};
+  Button Help{"Help", "&Help"};
+
+ private:
+  // The active row becomes that of this course, where it is shown.
+  void LoadGrid(std::int32_t course_in_hand);
+  std::int32_t CourseInHand() const;
+  bool WarnedOff(std::string_view what);
+  bool FormAccepted(Screen& form);
+  void AddCourse();
+  void EditCourse();
+  void DeleteCourse();
+  void Close();
+
+  bool kelvane_installed_ = false;
+  bool form_used_ = false;
+};
+
+}  // namespace golf

@@ -1,0 +1,167 @@
+#include "stores/course/tee_rules.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+#include "core/number_text.h"
+#include "core/text.h"
+
+namespace golf {
+namespace {
+
+constexpr double kHighestRating = 99.9;
+constexpr int kLowestSlope = 55;
+constexpr int kHighestSlope = 155;
+
+constexpr const char* kWrongValue = "You have entered an incorrect value.";
+
+struct RatingRule {
+  double low;
+  double high;
+  const char* text;
+};
+
+constexpr RatingRule kRating18{45, 80, "18 hole Rating must be between 45 and 80"};
+constexpr RatingRule kRating9{25, 45, "9 hole Rating must be between 25 and 45"};
+
+constexpr const char* kUnratedGroup[] = {
+    "If men do not have a rating for this tee, enter the ladies' rating.",
+    "If ladies do not have a rating for this tee, enter the men's rating."};
+
+TeeFault ParFault(int hole) {
+  return {.field = TeeField::kPar,
+          .hole = hole,
+          .title = kWrongValue,
+          .text = "Par must be between 1 and 6"};
+}
+
+TeeFault HandicapFault(int hole) {
+  return {.field = TeeField::kHandicap,
+          .hole = hole,
+          .title = kWrongValue,
+          .text =
+              "Handicap Holes must be entered. Handicap hole numbers are between 1 and 18.  "
+              "Each hole must have a different number.  Handicap hole #" +
+              std::to_string(hole) + " is a repeat number or zero."};
+}
+
+// A handicap as a whole number; anything too large, or below 0, is one that no hole may have.
+int WholeHandicap(double value) {
+  constexpr double kNone = kCourseHoles + 1;
+  return value < 0 ? static_cast<int>(kNone) : RoundToInt32(std::min(value, kNone));
+}
+
+template <class Read>
+HoleValues ValuesByHole(Read read) {
+  HoleValues values{};
+  for (int hole = 1; hole <= kCourseHoles; ++hole) {
+    values[static_cast<std::size_t>(hole) - 1] = read(hole);
+  }
+  return values;
+}
+
+}  // namespace
+
+HoleRange HolesPlayed(int hole_num_flag) {
+  constexpr int kNine = 9;
+  if (hole_num_flag == kNine) return {1, kNine};
+  if (hole_num_flag == -kNine) return {kNine + 1, kCourseHoles};
+  return {};
+}
+
+std::string RatingText(double value, std::string_view pattern) {
+  const double taken = LeadingNumber(FormatNumber(value, "0.0000"));
+  return FormatNumber(std::clamp(taken, 0.0, kHighestRating), pattern);
+}
+
+int SlopeShown(double value) {
+  constexpr double kLowestStored = -32768;
+  return RoundToInt16(std::clamp<double>(value, kLowestStored, kHighestSlope));
+}
+
+std::optional<TeeFault> NameFault(std::string_view name, std::string_view abbreviation) {
+  if (!Trim(name).empty() && !Trim(abbreviation).empty()) return std::nullopt;
+  return TeeFault{.field = TeeField::kName,
+                  .title = "Enter a tee name.",
+                  .text = "Tee name and abreviation are required."};
+}
+
+std::optional<TeeFault> RatingFault(double rating, int holes, int group) {
+  const RatingRule& rule = holes == 9 ? kRating9 : kRating18;
+  if (rating >= rule.low && rating <= rule.high) return std::nullopt;
+  return TeeFault{.field = TeeField::kRating,
+                  .group = group,
+                  .title = "Need a correct rating",
+                  .text = std::string(rule.text) + "\r" + kUnratedGroup[group] +
+                          "\r\rIf your course is not rated enter par."};
+}
+
+std::optional<TeeFault> SlopeFault(double slope, int group) {
+  if (slope >= kLowestSlope && slope <= kHighestSlope) return std::nullopt;
+  return TeeFault{.field = TeeField::kSlope,
+                  .group = group,
+                  .title = "Need a correct slope",
+                  .text =
+                      "Slope must be between 55 and 155\r"
+                      "If your course is not sloped type in 113."};
+}
+
+std::vector<TeeFault> HoleFaults(const HoleValues& pars, const HoleValues& handicaps,
+                                 HoleRange holes, bool require_pars, bool require_handicaps) {
+  std::vector<TeeFault> faults;
+  std::array<bool, kCourseHoles + 1> used{};
+  for (int hole = holes.first; hole <= holes.last; ++hole) {
+    const auto at = static_cast<std::size_t>(hole) - 1;
+    if (require_pars && (pars[at] < 1 || pars[at] > 6)) faults.push_back(ParFault(hole));
+    if (handicaps[at] == 0 && !require_handicaps) continue;
+    const int handicap = WholeHandicap(handicaps[at]);
+    const bool wrong = handicap < 1 || handicap > kCourseHoles ||
+                       std::exchange(used[static_cast<std::size_t>(handicap)], true);
+    if (wrong) faults.push_back(HandicapFault(hole));
+  }
+  return faults;
+}
+
+std::optional<TeeFault> StorageFault(double value) {
+  constexpr double kLimit = 32767.5;  // of what rounds to 16 bits
+  if (std::abs(value) < kLimit) return std::nullopt;
+  return TeeFault{.field = TeeField::kStorage,
+                  .title = kWrongValue,
+                  .text = "This number is too large to be stored."};
+}
+
+std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee) {
+  const Record<CourseLayout>& stored = course.Stored();
+  const HoleRange holes = HolesPlayed(course.HoleNumFlag());
+  const int rated = std::abs(course.HoleNumFlag()) == 9 ? 9 : kCourseHoles;
+  std::vector<TeeFault> faults;
+  const auto add = [&faults](std::optional<TeeFault> fault) {
+    if (fault) faults.push_back(std::move(*fault));
+  };
+  add(NameFault(course.TeeName(int{tee}), course.TeeNameAbv(int{tee})));
+  for (const int group : {0, 1}) {
+    const std::string rating = RatingText(stored.Get<"Rating">(tee, group), "0.0");
+    add(RatingFault(LeadingNumber(rating), rated, group));
+  }
+  for (const int group : {0, 1}) add(SlopeFault(stored.Get<"slope">(tee, group), group));
+  const auto of_holes =
+      HoleFaults(ValuesByHole([&](int hole) { return stored.Get<"HolePar">(tee, hole); }),
+                 ValuesByHole([&](int hole) { return stored.Get<"HoleHandicap">(tee, hole); }),
+                 holes, course.RequirePars, course.RequireHoleHandicaps);
+  faults.insert(faults.end(), of_holes.begin(), of_holes.end());
+  return faults;
+}
+
+std::vector<int> StrokeSequence(const HoleValues& handicaps, HoleRange holes) {
+  std::vector<int> sequence;
+  for (int hole = holes.first; hole <= holes.last; ++hole) sequence.push_back(hole);
+  std::stable_sort(sequence.begin(), sequence.end(), [&](int a, int b) {
+    return WholeHandicap(handicaps[static_cast<std::size_t>(a) - 1]) <
+           WholeHandicap(handicaps[static_cast<std::size_t>(b) - 1]);
+  });
+  return sequence;
+}
+
+}  // namespace golf

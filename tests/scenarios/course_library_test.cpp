@@ -1,0 +1,392 @@
+// The screens of a course library: what they refuse, and what they leave in the files.
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "app/tools.h"
+#include "stores/course/screens/course_form.h"
+#include "stores/course/screens/course_table.h"
+#include "stores/course/screens/course_tee.h"
+#include "support/bytes.h"
+#include "support/test_host.h"
+
+namespace golf {
+namespace {
+
+constexpr std::size_t kLength = 3226;
+
+// An active course of 18 holes: one valid tee, Blue, in slot 2.
+std::string Course(const std::string& name) {
+  std::string bytes = Pattern(kLength);
+  Put16(bytes, 0, {1, 18});
+  PutText(bytes, 4, 30, name);
+  bytes.replace(158, 6, std::string("\0\xFF\0\0\0\0", 6));
+  Put16(bytes, 1224, {0});
+  for (int tee = 0; tee < 6; ++tee) {
+    const auto at = static_cast<std::size_t>(tee);
+    PutText(bytes, 168 + 7 * at, 7, tee == 1 ? "Blue" : "NoName");
+    PutText(bytes, 210 + at, 1, tee == 1 ? "B" : "");
+    for (const auto group : {std::size_t{0}, std::size_t{1}}) {
+      Put(bytes, 216 + 24 * group + 4 * at, {tee == 1 ? 71.5f : 0.0f});
+      Put16(bytes, 264 + 12 * group + 2 * at, {113});
+    }
+    for (std::size_t hole = 0; hole < 18; ++hole) {
+      const std::size_t cell = 12 * hole + 2 * at;
+      const int number = static_cast<int>(hole) + 1;
+      Put16(bytes, 288 + cell, {tee == 1 ? 100 + number : 0});
+      Put16(bytes, 540 + cell, {tee == 1 ? 4 : 0});
+      Put16(bytes, 792 + cell, {tee == 1 ? 19 - number : 0});
+      Put16(bytes, 1008 + cell, {tee == 1 ? 19 - number : 0});
+      Put16(bytes, 1226 + cell, {number});
+    }
+    for (const auto& [field, value] :
+         {std::pair{504, 945}, {516, 1026}, {528, 1971}, {756, 36}, {768, 36}, {780, 72}}) {
+      Put16(bytes, static_cast<std::size_t>(field) + 2 * at, {tee == 1 ? value : 0});
+    }
+  }
+  Put16(bytes, 164, {4, 4});
+  bytes[1442] = 0;
+  return bytes;
+}
+
+std::string Index(std::initializer_list<int> numbers) {
+  std::string bytes(2 * numbers.size(), '\0');
+  Put16(bytes, 0, numbers);
+  return bytes;
+}
+
+class CourseLibraryTest : public testing::Test {
+ protected:
+  using Work = std::function<void(Screen&)>;
+
+  // Opens Quenby's table and works each screen that comes up.
+  void Run(const Work& table, const Work& form = {}, const Work& tee = {}) {
+    host().drive = [=](Screen& screen) {
+      for (Control* control : screen.controls()) {
+        const auto* timer = dynamic_cast<Timer*>(control);
+        if (timer != nullptr && timer->IsRunning()) timer->on_timer();
+      }
+      (screen.name() == "CourseTable" ? table : screen.name() == "CourseForm" ? form : tee)(screen);
+    };
+    host().Operate([&] { OpenScreen(install.state(), host(), "CourseTable", "qb"); });
+  }
+  HeadlessHost& host() { return *install.host; }
+  Work Presses(std::vector<const char*> buttons) {
+    return [=, this](Screen& screen) {
+      for (const char* button : buttons) host().Press(screen, button);
+    };
+  }
+  // As the operator pastes.
+  void Set(Screen& screen, const char* name, const std::string& text) {
+    auto* box = dynamic_cast<TextBox*>(screen.FindControl(name));
+    ASSERT_NE(box, nullptr) << name;
+    screen.MoveFocus(box);
+    box->Enter(text);
+    screen.MoveFocus(nullptr);
+  }
+  void Write(const std::string& courses) { install.folder.Write("qbdata/qbcrs.dat", courses); }
+  std::string Read(const char* file) { return install.folder.Read(std::string("qbdata/") + file); }
+  // What was asked and told since the last call, screens apart.
+  std::string Told() {
+    std::string told;
+    for (const std::string& event : install.events()) {
+      if (event.starts_with("message") || event.starts_with("input")) told += event + "\n";
+    }
+    install.events().clear();
+    return told;
+  }
+
+  TestInstall install;
+};
+
+TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
+  const std::string rating =
+      "message [Need a correct rating] 18 hole Rating must be between 45 and "
+      "80\rIf men do not have a rating for this tee, enter the ladies' "
+      "rating.\r\rIf your course is not rated enter par. -> OK\n"
+      "message [Enter rating?] Do you want to enter the rating? -> Yes\n";
+  std::string ladies = rating;
+  ladies.replace(ladies.find("If men"), ladies.find("\r\r") - ladies.find("If men"),
+                 "If ladies do not have a rating for this tee, enter the men's rating.");
+  const std::string slope =
+      "message [Need a correct slope] Slope must be between 55 and 155\rIf "
+      "your course is not sloped type in 113. -> OK\n";
+  const std::string name =
+      "message [Enter a tee name.] Tee name and abreviation are required. -> OK\n";
+  const auto handicap = [](int hole) {
+    return "message [You have entered an incorrect value.] Handicap Holes must be entered. "
+           "Handicap hole numbers are between 1 and 18.  Each hole must have a different number.  "
+           "Handicap hole #" +
+           std::to_string(hole) + " is a repeat number or zero. -> OK\n";
+  };
+  const std::string par =
+      "message [You have entered an incorrect value.] Par must be between 1 and 6 -> OK\n";
+  const std::string large =
+      "message [You have entered an incorrect value.] This number is too large to be stored. -> "
+      "OK\n";
+  const struct {
+    const char* control;
+    const char* text;
+    const char* shown;
+    std::string told;  // nothing: the tee is taken
+    bool required = false;
+  } kCases[] = {
+      {"FTeeNameAbv", " ", " ", name},
+      {"FMensRating", "44.94", "44.9", rating},
+      {"FMensRating", "44.96", "45.0", ""},
+      {"FMensRating", "80.1", "80.1", rating},
+      {"FMensRating", "72,5", "72.0", ""},
+      {"FMensRating", "72.5.9", "72.5", ""},
+      {"FMensRating", "par", "0.0", rating},
+      {"FMensRating", "-3", "0.0", rating},
+      {"FMensRating", "99.95", "99.9", rating},
+      {"FLadiesRating", "1e9", "99.9", ladies},
+      {"FLadiesRating", "0", "0.0", ladies.substr(0, ladies.find('\n') + 1), true},
+      {"FMensSlope", "54", "54", slope},
+      {"FMensSlope", "54.5", "54", slope},
+      {"FLadiesSlope", "156", "155", ""},
+      {"FLadiesSlope", "-9999999999", "-32768", slope},
+      {"FPar(3)", "0", "0", ""},
+      {"FPar(3)", "0", "0", par, true},
+      {"FPar(3)", "6.5", "6.5", par, true},
+      {"FHandicap(5)", "12", "12", handicap(7)},
+      {"FHandicap(5)", "-1", "-1", handicap(6)},
+      {"FHandicap(5)", "99999999999", "99999999999", handicap(6)},
+      {"FHandicap(5)", "0.4", "0.4", handicap(6)},
+      {"FHandicap(5)", "0", "0", ""},
+      {"FHandicap(5)", "0", "0", handicap(6), true},
+      {"FYardage(2)", "32768", "32768", large},
+      {"FYardage(2)", "32000", "32000", large},
+  };
+  Write(Course("Dunes"));
+  for (const auto& c : kCases) {
+    SCOPED_TRACE(std::string(c.control) + " " + c.text);
+    Run(
+        Presses({"EditCourseButton"}),
+        [&](Screen& form) {
+          CourseClass& course = install.state().Course();
+          course.RequirePars = course.RequireHoleHandicaps = course.RequireRatingandSlope =
+              c.required;
+          dynamic_cast<CourseForm&>(form).grid1.SetActiveRow(2);
+          host().Press(form, "EditTeeButton");
+        },
+        [&](Screen& tee) {
+          Set(tee, c.control, c.text);
+          EXPECT_EQ(dynamic_cast<TextBox&>(*tee.FindControl(c.control)).text(), c.shown);
+          install.events().clear();
+          host().Press(tee, "OKButton");
+          EXPECT_EQ(Told(), c.told);
+          EXPECT_EQ(host().IsShown(tee), !c.told.empty());
+        });
+    EXPECT_TRUE(Read("qbcrs.dat") == Course("Dunes"));  // it was left by Cancel
+  }
+}
+
+TEST_F(CourseLibraryTest, ANewBackNineIsStoredTwice) {
+  Write("torn");
+  Run([&](Screen& table) { host().Press(table, "AddCourseButton"); },
+      [&](Screen& screen) {
+        auto& form = dynamic_cast<CourseForm&>(screen);
+        host().Press(form, "OKButton");
+        Set(form, "FCourseName", "\xC9toile");
+        form.FHoleNum[2].Choose(true);
+        host().Press(form, "OKButton");
+        EXPECT_EQ(Told(),
+                  "message [Need more info.] Course name required! -> OK\n"
+                  "message [Notice] At least one tee must be active before the course can be saved."
+                  " Edit at least one teebox and activate it.  OR click CANCEL to not save the "
+                  "course. -> OK\n");
+        host().Press(form, "EditTeeButton");
+        EXPECT_FALSE(form.HolesFrame.enabled());
+        host().Press(form, "OKButton");
+      },
+      [&](Screen& screen) {
+        auto& tee = dynamic_cast<CourseTee&>(screen);
+        EXPECT_FALSE(tee.FPar[9].IsUsable() || tee.FPar[0].IsShown() || tee.FYardTotal.IsShown());
+        tee.ActiveTee.Choose(true);
+        Set(tee, "FTeeName", "Emerald Green");
+        EXPECT_EQ(tee.FTeeName.text() + tee.FTeeNameAbv.text(), "EmeraldE");
+        for (const char* box : {"FMensRating", "FLadiesRating"}) Set(tee, box, "35.5");
+        tee.BackHoleNumber.Select(18);
+        tee.MoveFocus(&tee.FYardage[9]);
+        for (const char key : std::string("123456789")) {
+          dynamic_cast<TextBox*>(tee.focus())->TypeKey(key);  // three holes, the focus moving on
+        }
+        tee.MoveFocus(&tee.FPar[9]);
+        for (const char key : std::string("435")) {
+          dynamic_cast<TextBox*>(tee.focus())->TypeKey(key);
+        }
+        EXPECT_EQ(tee.focus(), &tee.FPar[12]);
+        for (const int rank : {3, 1, 2}) {
+          const auto at = static_cast<std::size_t>(8 + rank);
+          tee.FHandicap[at].Enter(std::to_string(rank * 2));
+        }
+        host().Press(tee, "OKButton");
+      });
+  std::string expected(kLength, ' ');
+  std::fill_n(expected.begin(), 1443, '\0');
+  for (const auto& [at, width] : {std::pair{4, 30}, {34, 124}}) {
+    PutText(expected, static_cast<std::size_t>(at), static_cast<std::size_t>(width));
+  }
+  PutText(expected, 4, 30, "\xC9toile");
+  Put16(expected, 0, {1, -9});
+  expected[158] = '\xFF';
+  Put16(expected, 164, {2, 2});
+  for (std::size_t tee = 0; tee < 6; ++tee) {
+    PutText(expected, 168 + 7 * tee, 7, tee == 0 ? "Emerald" : "NoName");
+    PutText(expected, 210 + tee, 1, tee == 0 ? "E" : "");
+    Put16(expected, 264 + 2 * tee, {113});
+    Put16(expected, 276 + 2 * tee, {113});
+    for (int hole = 0; hole < 18; ++hole) {
+      Put16(expected, 1226 + 12 * static_cast<std::size_t>(hole) + 2 * tee,
+            {tee == 0 ? 19 + hole % 9 : hole + 1});
+    }
+  }
+  Put(expected, 216, {35.5f});
+  Put(expected, 240, {35.5f});
+  for (const auto nine : {std::size_t{0}, std::size_t{9}}) {
+    for (std::size_t hole = 0; hole < 3; ++hole) {
+      const std::size_t cell = 12 * (nine + hole);
+      Put16(expected, 288 + cell, {std::array{123, 456, 789}[hole]});
+      Put16(expected, 540 + cell, {std::array{4, 3, 5}[hole]});
+      Put16(expected, 792 + cell, {2 * (static_cast<int>(hole) + 1)});
+    }
+  }
+  // Holes without a handicap come first; the totals are those of the nine that was entered.
+  for (const auto& [n, hole] :
+       {std::pair{0, 13}, {1, 14}, {2, 15}, {3, 16}, {4, 17}, {5, 18}, {6, 10}, {7, 11}, {8, 12}}) {
+    Put16(expected, 1008 + 12 * static_cast<std::size_t>(n), {hole});
+  }
+  for (const auto& [field, value] : {std::pair{516, 1368}, {528, 1368}, {768, 12}, {780, 12}}) {
+    Put16(expected, static_cast<std::size_t>(field), {value});
+  }
+  EXPECT_TRUE(Read("qbcrs.dat") == expected);
+  EXPECT_EQ(Read("9CRSQB.INX") + Read("18CRSQB.INX") + Read("ALLCRSQB.INX"),
+            Index({1, 1}) + Index({0}) + Index({1, 1}));
+}
+
+TEST_F(CourseLibraryTest, CoursesOfKelvaneAreWarnedOfAndKeepTheirBytes) {
+  install.folder.Write("KVM.EXE", "");
+  std::string courses[] = {Course("zebra"), Course("Alder"), Course("Mill")};
+  Put16(courses[1], 1224, {7});
+  Put16(courses[2], 0, {0});
+  const auto written = [&] { return courses[0] + courses[1] + courses[2]; };
+  Write(written());
+  const char* warned =
+      "message [Notice] Note: This course was transferred from the Kelvane.  It is recommended "
+      "that you 'edit' this course in the Kelvane and retransfer the new 'edited' course to the "
+      "Quenby.\r\rClick OK to continue anyway. -> ";
+  host().QueueAnswer("Change tee name?", "yes");
+  bool edited = false;
+  Run(
+      [&](Screen& screen) {
+        auto& table = dynamic_cast<CourseTable&>(screen);
+        host().Press(table, "EditCourseButton");
+        EXPECT_EQ(Told(), warned + std::string("Cancel\n"));
+        host().QueueAnswer("Notice", "OK", true);
+        host().Press(table, "EditCourseButton");
+        EXPECT_EQ(Told(), warned + std::string("OK\n") +
+                              "input [Change tee name?] Type YES if you want to change the name of "
+                              "this tee from Blue to Gold. -> yes\n");
+        EXPECT_EQ(table.CourseGrid.text(0, 1) + table.CourseGrid.text(3, 1), "2Yes");
+        EXPECT_TRUE(table.CourseGrid.on_key("Delete"));
+        EXPECT_EQ(table.CourseGrid.rows(), 2);  // the answer was NO
+        table.CourseGrid.SetActiveRow(2);
+        host().QueueAnswer("DELETE COURSE?", "yup");
+        install.events().clear();
+        host().Press(table, "DeleteCourseButton");
+        EXPECT_EQ(Told(),
+                  "input [DELETE COURSE?] Type 'YES' if you want to\rdelete course: zebra -> "
+                  "yup\n");
+        host().Press(table, "CloseButton");
+      },
+      [&](Screen& form) {
+        if (std::exchange(edited, true)) return;
+        dynamic_cast<CourseForm&>(form).grid1.SetActiveRow(2);
+        host().Press(form, "EditTeeButton");
+        Set(form, "FCity", "Elm");
+        host().Press(form, "OKButton");
+      },
+      [&](Screen& tee) {
+        Set(tee, "FTeeName", "Gold");
+        auto& card = dynamic_cast<CourseTee&>(tee);
+        for (const auto& [from, to] :
+             {std::pair<TextBox*, Control*>{&card.FPar[8], &card.FHandicap[0]},
+              {&card.FPar[17], &card.FPar[17]}}) {
+          tee.MoveFocus(from);
+          from->TypeKey('4');
+          EXPECT_EQ(tee.focus(), to);
+        }
+        host().Press(tee, "OKButton");
+      });
+  PutText(courses[1], 94, 17, "Elm");
+  PutText(courses[1], 175, 7, "Gold");
+  Put16(courses[0], 0, {0});
+  EXPECT_TRUE(Read("qbcrs.dat") == written());
+  EXPECT_EQ(Read("18CRSQB.INX") + Read("ALLCRSQB.INX"), Index({1, 2}) + Index({1, 2}));
+}
+
+TEST_F(CourseLibraryTest, AFlatLadiesSlopeEndsTheClickAndLosesNothing) {
+  std::string course = Course("Dunes");
+  Put(course, 240 + 4 * 3, {70.0f});
+  Put16(course, 276 + 2 * 3, {50});
+  Write(course);
+  EXPECT_THROW(Run(Presses({"EditCourseButton"}),
+                   [&](Screen& form) {
+                     Set(form, "FCity", "Elm");
+                     try {
+                       host().Press(form, "OKButton");
+                     } catch (const ClickEnded& ended) {
+                       EXPECT_EQ(ended.error.number(), 9);
+                       EXPECT_TRUE(host().IsShown(form));
+                       EXPECT_EQ(dynamic_cast<CourseForm&>(form).FCity.text(), "Elm");
+                       throw;
+                     }
+                   }),
+               ClickEnded);
+  EXPECT_TRUE(Read("qbcrs.dat") == course);
+}
+
+TEST_F(CourseLibraryTest, ASiblingsOwnLibraryIsOpenedOnRequestUnlessItIsHeld) {
+  install.folder.Write("kvdata/kvcrs.dat", Course("Dunes"));
+  std::vector<Tool> tools = Tools();
+  std::erase_if(tools, [&](const Tool& tool) { return !tool.is_there(install.state()); });
+  ASSERT_EQ(tools.size(), 1u);
+  EXPECT_EQ(tools[0].caption, "Course library of &Kelvane...");
+  const auto open = [&] { host().Operate([&] { tools[0].open(install.state(), host()); }); };
+  open();  // the answer was No
+  install.platform->Fail({.error = ErrorNumber::kPermissionDenied, .only = Operation::kOpen});
+  host().QueueAnswer("Course library", "Yes");
+  open();
+  EXPECT_FALSE(install.folder.Exists("kvdata/ALLCRSKV.INX"));
+  const std::string path = install.state().KVDataPath + "kvcrs.dat";
+  const std::string asked =
+      "message [Course library] This is Kelvane's own course library:\r" + path +
+      "\r\rWhat you change in it is changed for Kelvane as well. Close Kelvane "
+      "before you go on.\r\rOpen it? -> ";
+  EXPECT_EQ(Told(), asked + "No\n" + asked +
+                        "Yes\nmessage [Course library] Kelvane's course library "
+                        "is in use:\r" +
+                        path + "\r\rClose Kelvane and try again. -> OK\n");
+  host().QueueAnswer("Course library", "Yes");
+  host().drive = [](Screen& table) {
+    EXPECT_EQ(dynamic_cast<CourseTable&>(table).CourseGrid.rows(), 1);
+  };
+  open();
+  EXPECT_EQ(install.folder.Read("kvdata/ALLCRSKV.INX"), Index({1, 1}));
+}
+
+TEST_F(CourseLibraryTest, AnEmptyLibraryHasNothingToEditAndGetsEmptyIndexes) {
+  Run([&](Screen& screen) {
+    auto& table = dynamic_cast<CourseTable&>(screen);
+    EXPECT_FALSE(table.EditCourseButton.IsShown() || table.DeleteCourseButton.IsShown());
+    EXPECT_FALSE(table.CourseGrid.on_key("Delete"));
+    host().Press(table, "CloseButton");
+  });
+  EXPECT_EQ(Read("9CRSQB.INX") + Read("18CRSQB.INX") + Read("ALLCRSQB.INX"),
+            Index({0}) + Index({0}) + Index({0}));
+}
+
+}  // namespace
+}  // namespace golf
