@@ -69,6 +69,7 @@ struct Arguments {
   GolfersKvToQbRequest golfers_kv_to_qb;
   GolfersKvToZdRequest golfers_kv_to_zd;
   GolfersZdToQbRequest golfers_zd_to_qb;
+  ScoresQbToKvRequest scores_qb_to_kv;
   ScoresZdToKvRequest scores_zd_to_kv;
   ResultsRequest results;
   CourseRequest course;
@@ -170,6 +171,33 @@ void AddGolfersZdToQb(CLI::App& app, const Options& options, GolfersZdToQbReques
   command->add_flag("--subs", request.substitutes, "The league's substitutes as well");
 }
 
+void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvRequest& request,
+                     Command& chosen) {
+  CLI::App* command = AddCommand(
+      app, "scores-qb-to-kv", "Transfer the scores of a tournament's round, Quenby to Kelvane",
+      "--install golf-demo scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18", chosen,
+      [&] { return RunScoresQbToKv(options, request); });
+  command->add_option("--tournament", request.tournament, "As in list tournaments")
+      ->required()
+      ->type_name("N");
+  command->add_option("--round", request.round, "Of the tournament")->required()->type_name("R");
+  AddRoster(*command, request.roster);
+  command
+      ->add_option("--course", request.course,
+                   "The Kelvane course, as in list courses, 0 for an away course; the one that the "
+                   "name of the round's course fits best if left out")
+      ->type_name("N");
+  command->add_flag("--as-tournament", request.as_tournament, "Post them as tournament scores");
+  command->add_flag("--points", request.points, "Post points in place of scores");
+  command
+      ->add_option("--again", request.again,
+                   "Whether scores that have been transferred before go again; no if left out")
+      ->check(CLI::IsMember({"yes", "no"}))
+      ->type_name("yes|no");
+  command->add_flag("--nine-into-eighteen", request.nine_into_eighteen,
+                    "Join the scores of 9 holes by two for a roster of 18 holes");
+}
+
 void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest& request,
                      Command& chosen) {
   CLI::App* command =
@@ -239,6 +267,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   AddGolfersKvToQb(app, options, args.golfers_kv_to_qb, chosen);
   AddGolfersKvToZd(app, options, args.golfers_kv_to_zd, chosen);
   AddGolfersZdToQb(app, options, args.golfers_zd_to_qb, chosen);
+  AddScoresQbToKv(app, options, args.scores_qb_to_kv, chosen);
   AddScoresZdToKv(app, options, args.scores_zd_to_kv, chosen);
 
   CLI::App* script = AddCommand(app, "script", "Drive the screens by the lines of a script",

@@ -11,6 +11,7 @@
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
 #include "transfers/kv_to_zd.h"
+#include "transfers/qb_to_kv.h"
 #include "transfers/zd_to_kv.h"
 #include "transfers/zd_to_qb.h"
 
@@ -35,6 +36,7 @@ ViewCatalogue Views() {
           {"CourseTee", {WindowKind::kDialog, Fill<CourseTee, FillCourseTee>}},
           {"KVtoQB", {WindowKind::kDialog, Fill<KVtoQB, FillKVtoQB>}},
           {"KVtoZD", {WindowKind::kDialog, Fill<KVtoZD, FillKVtoZD>}},
+          {"QBtoKV", {WindowKind::kDialog, Fill<QBtoKV, FillQBtoKV>}},
           {"ZDtoKV", {WindowKind::kDialog, Fill<ZDtoKV, FillZDtoKV>}},
           {"ZDtoQB", {WindowKind::kDialog, Fill<ZDtoQB, FillZDtoQB>}},
           {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};

@@ -89,6 +89,13 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
        R"("tee":2,"teeName":"White","field":"handicap","hole":2,"text":"Handicap Holes)",
        "ends with 100 bytes"},
       {"--install i script bad-library.txt", 3, "", "no course library \"xx\""},
+      {"--install i scores-qb-to-kv --tournament 1 --round 3 --roster club18", 1, "", "has 2."},
+      {"--install i scores-qb-to-kv --tournament 1 --round 1 --roster club18 --course 6", 1, "",
+       "no course 6"},
+      {"--install i scores-qb-to-kv --tournament 1 --round 1 --roster nine9", 1, "", "9 hole"},
+      {"--install i scores-qb-to-kv --tournament 1 --round 1 --roster club18", 0, "10 Scores", ""},
+      {"--install i scores-qb-to-kv --tournament 1 --round 2 --roster club18 --points", 0,
+       "Kettle, Sam (Round 2 not complete)", ""},
       {"--install i courses-kv-to-qb", 0, "Number of courses ADDED: 5", ""},
       {"courses-kv-to-qb --install i", 0, "Number of courses UPDATED: 6", ""},
   };
