@@ -90,13 +90,9 @@ std::string TeamRecords::TeamName() {
   return names.empty() ? std::string(Trim(record_.Get<"TeamName">())) : names;
 }
 
-void TeamRecords::SetTeamName(std::string_view value) {
-  record_.Set<"TeamName">(Trim(value));
-}
+void TeamRecords::SetTeamName(std::string_view value) { record_.Set<"TeamName">(Trim(value)); }
 std::string TeamRecords::Sponsor() const { return std::string(Trim(record_.Get<"Sponsor">())); }
-void TeamRecords::SetSponsor(std::string_view value) {
-  record_.Set<"Sponsor">(Trim(value));
-}
+void TeamRecords::SetSponsor(std::string_view value) { record_.Set<"Sponsor">(Trim(value)); }
 
 std::string TeamRecords::Flight(OptionalRound round) {
   const int of = RoundOr(round);
