@@ -6,24 +6,17 @@
 // league_scores [ROUNDS]            prints medians
 // league_scores --bare-loop DIR     is the bare loop
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <numeric>
-#include <random>
-#include <stdexcept>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
-#include "core/record.h"
+#include "bare_file.h"
+#include "score_roster.h"
 #include "stores/course/course_layout.h"
-#include "stores/kelvane/kelvane_layouts.h"
 #include "stores/zandel/zandel_layouts.h"
 #include "whole_process.h"
 
@@ -33,36 +26,13 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kLeagueGolfers = 2000;
-constexpr int kRosterGolfers = 20000;
 constexpr int kTeams = 100;
 constexpr int kCourses = 200;
-constexpr int kScoresBefore = 20;
 constexpr int kEvent = 3;
 
 std::ofstream NewFile(const fs::path& path) {
   fs::create_directories(path.parent_path());
   return std::ofstream(path, std::ios::binary);
-}
-
-void MakeRoster(const fs::path& folder, const std::vector<int>& ids) {
-  Record<KelvaneHeaderLayout> header;
-  header.Set<"Holes">(18);
-  NewFile(folder / "kvdata" / "CLUB.KV5") << header.Bytes();
-  Record<KelvaneHistoryLayout> history;
-  for (int i = 1; i <= kScoresBefore; ++i) {
-    history.Set<"Date">({i}, 45000.0 - i);
-    history.Set<"Adjusted">({i}, 90);
-  }
-  auto golfers = NewFile(folder / "kvdata" / "CLUB.KVG");
-  auto histories = NewFile(folder / "kvdata" / "CLUB.KVS");
-  for (const int id : ids) {
-    Record<KelvaneGolferLayout> golfer;
-    golfer.Set<"Status">(1);
-    golfer.Set<"IDNum">(id);
-    golfer.Set<"ScoreCounter">({1}, kScoresBefore);
-    golfers << golfer.Bytes();
-    histories << history.Bytes();
-  }
 }
 
 void MakeLeague(const fs::path& folder) {
@@ -118,72 +88,24 @@ void MakeCourses(const fs::path& file) {
 }
 
 void MakeInstall(const fs::path& folder) {
-  std::vector<int> ids(kRosterGolfers);
-  std::iota(ids.begin(), ids.end(), 1);
-  std::shuffle(ids.begin(), ids.end(), std::mt19937(1));
-  MakeRoster(folder, ids);
+  MakeScoreRoster(folder);
   MakeLeague(folder);
   MakeCourses(folder / "kvdata" / "kvcrs.dat");
   MakeCourses(folder / "zddata" / "zdcrs.dat");
 }
 
-void Need(bool worked) {
-  if (!worked) throw std::runtime_error("the bare loop failed");
-}
-
-// An open file of records, counted from 0.
-template <class Layout>
-class BareFile {
- public:
-  explicit BareFile(const fs::path& path) : file_(open(path.c_str(), O_RDWR)) { Need(file_ >= 0); }
-  BareFile(const BareFile&) = delete;
-  BareFile& operator=(const BareFile&) = delete;
-  ~BareFile() { close(file_); }
-
-  int Count() const { return static_cast<int>(lseek(file_, 0, SEEK_END) / kLength); }
-  void Read(int record) {
-    const auto bytes = buffer.MutableBytes();
-    Need(pread(file_, bytes.data(), bytes.size(), record * kLength) == kLength);
-  }
-  void Write(int record) {
-    const auto bytes = buffer.Bytes();
-    Need(pwrite(file_, bytes.data(), bytes.size(), record * kLength) == kLength);
-  }
-  void ReadAll() {
-    for (int record = 0, count = Count(); record < count; ++record) Read(record);
-  }
-
-  Record<Layout> buffer;
-
- private:
-  static constexpr auto kLength = static_cast<off_t>(Layout::kLength);
-  int file_;
-};
-
 void BareLoop(const fs::path& folder) {
-  const fs::path kelvane = folder / "kvdata";
   const fs::path zandel = folder / "zddata";
-  BareFile<KelvaneHeaderLayout>(kelvane / "CLUB.KV5").ReadAll();
-  BareFile<CourseLayout>(kelvane / "kvcrs.dat").ReadAll();
+  BareFile<CourseLayout>(folder / "kvdata" / "kvcrs.dat").ReadAll();
   BareFile<CourseLayout>(zandel / "zdcrs.dat").ReadAll();
   BareFile<LeagueControlLayout>(zandel / "00011.ZL8").ReadAll();
   BareFile<LeagueTeamLayout>(zandel / "00011.ZT8").ReadAll();
   BareFile<LeagueEventLayout>(zandel / "00011.ZE8").ReadAll();
-  BareFile<KelvaneGolferLayout> golfers(kelvane / "CLUB.KVG");
-  BareFile<KelvaneHistoryLayout> histories(kelvane / "CLUB.KVS");
-  std::unordered_map<int, int> places;
-  for (int place = 0, count = golfers.Count(); place < count; ++place) {
-    golfers.Read(place);
-    places.emplace(golfers.buffer.Get<"IDNum">(), place);
-  }
+  BareRoster roster(folder);
   BareFile<LeaguePlayerLayout> players(zandel / "00011.ZP8");
   for (int player = 0, count = players.Count(); player < count; ++player) {
     players.Read(player);
-    const int place = places.at(players.buffer.Get<"GolferID">());
-    golfers.Read(place);
-    histories.Read(place);
-    golfers.Write(place);
-    histories.Write(place);
+    roster.Post(players.buffer.Get<"GolferID">());
   }
 }
 

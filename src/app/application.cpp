@@ -28,6 +28,7 @@
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
 #include "transfers/kv_to_zd.h"
+#include "transfers/qb_to_kv.h"
 #include "transfers/zd_to_kv.h"
 #include "transfers/zd_to_qb.h"
 
@@ -80,6 +81,7 @@ ScreenCatalogue Application::Screens() {
           {"KVCoursestoQB", Make<KVCoursestoQB>},
           {"KVtoQB", Make<KVtoQB>},
           {"KVtoZD", Make<KVtoZD>},
+          {"QBtoKV", Make<QBtoKV>},
           {"ZDtoKV", Make<ZDtoKV>},
           {"ZDtoQB", Make<ZDtoQB>}};
 }

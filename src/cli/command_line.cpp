@@ -2,8 +2,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <functional>
 #include <iostream>
+#include <limits>
 
 #include "cli/commands.h"
 #include "cli/console.h"
@@ -53,6 +55,24 @@ void AddGlobalOptions(CLI::App& app, Options& options) {
   app.add_flag("--quiet", options.quiet, "No progress");
 }
 
+// An option or argument that is a whole number. The parser's own reading takes a leading zero for
+// another base, and codes are listed with zeros.
+template <class Number>
+CLI::Option* AddNumber(CLI::App& command, const std::string& name, Number& number,
+                       const std::string& help) {
+  const auto read = [&number, name](const std::string& text) {
+    std::int64_t value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool whole = result.ec == std::errc() && result.ptr == text.data() + text.size();
+    if (!whole || value < std::numeric_limits<std::int32_t>::min() ||
+        value > std::numeric_limits<std::int32_t>::max()) {
+      throw CLI::ValidationError(name, "\"" + text + "\" is no whole number");
+    }
+    number = static_cast<std::int32_t>(value);
+  };
+  return command.add_option_function<std::string>(name, read, help)->type_name("N");
+}
+
 CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& help,
                      const std::string& example, Command& chosen, Command command) {
   CLI::App* added = app.add_subcommand(name, help);
@@ -69,6 +89,7 @@ struct Arguments {
   GolfersKvToQbRequest golfers_kv_to_qb;
   GolfersKvToZdRequest golfers_kv_to_zd;
   GolfersZdToQbRequest golfers_zd_to_qb;
+  ScoresQbToKvRequest scores_qb_to_kv;
   ScoresZdToKvRequest scores_zd_to_kv;
   ResultsRequest results;
   CourseRequest course;
@@ -83,9 +104,8 @@ void AddRoster(CLI::App& command, std::string& roster) {
 }
 
 void AddQuenbyRoster(CLI::App& command, int& to) {
-  command.add_option("--to", to, "The Quenby roster, as in list qb-rosters; 0 for all")
+  AddNumber(command, "--to", to, "The Quenby roster, as in list qb-rosters; 0 for all")
       ->required()
-      ->check(CLI::Range(0, 32767))
       ->type_name("N");
 }
 
@@ -127,10 +147,9 @@ void AddCourse(CLI::App& app, const Options& options, CourseRequest& request, Co
   CLI::App* show = AddCommand(*course, "show", "Show a course with the scorecards of its tees",
                               "--install golf-demo course show 1 --library qb", chosen,
                               [&] { return RunCourseShow(options, request); });
-  show->add_option("N", request.number, "The course, as in list courses")->required();
+  AddNumber(*show, "N", request.number, "The course, as in list courses")->required();
   CLI::App* check = AddCommand(*course, "check",
-                               "Hold every active tee against the rules: a line for each finding, "
-                               "and exit code 1 if there is one",
+                               "Hold every active tee against the rules: a line for each finding",
                                "--install golf-demo course check --library qb", chosen,
                                [&] { return RunCourseCheck(options, request); });
   for (CLI::App* command : {show, check}) AddLibrary(*command, request.library);
@@ -145,9 +164,8 @@ void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdReques
                  chosen, [&] { return RunGolfersKvToZd(options, request); });
   AddRoster(*command, request.roster);
   AddLeague(*command, request.league);
-  command
-      ->add_option("--percent", request.percent,
-                   "Percent of the handicap, 10 to 100; any other number is 100, and so is none")
+  AddNumber(*command, "--percent", request.percent,
+            "Percent of the handicap, 10 to 100; any other number is 100, and so is none")
       ->type_name("N");
   command
       ->add_option("--holes", request.holes,
@@ -170,6 +188,32 @@ void AddGolfersZdToQb(CLI::App& app, const Options& options, GolfersZdToQbReques
   command->add_flag("--subs", request.substitutes, "The league's substitutes as well");
 }
 
+void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvRequest& request,
+                     Command& chosen) {
+  CLI::App* command = AddCommand(
+      app, "scores-qb-to-kv", "Transfer the scores of a tournament's round, Quenby to Kelvane",
+      "--install golf-demo scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18", chosen,
+      [&] { return RunScoresQbToKv(options, request); });
+  AddNumber(*command, "--tournament", request.tournament, "As in list tournaments")
+      ->required()
+      ->type_name("N");
+  AddNumber(*command, "--round", request.round, "Of the tournament")->required()->type_name("R");
+  AddRoster(*command, request.roster);
+  AddNumber(*command, "--course", request.course,
+            "The Kelvane course, as in list courses, 0 for an away course; the one that the "
+            "name of the round's course fits best if left out")
+      ->type_name("N");
+  command->add_flag("--as-tournament", request.as_tournament, "Post them as tournament scores");
+  command->add_flag("--points", request.points, "Post points in place of scores");
+  command
+      ->add_option("--again", request.again,
+                   "Whether scores that have been transferred before go again; no if left out")
+      ->check(CLI::IsMember({"yes", "no"}))
+      ->type_name("yes|no");
+  command->add_flag("--nine-into-eighteen", request.nine_into_eighteen,
+                    "Join the scores of 9 holes by two for a roster of 18 holes");
+}
+
 void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest& request,
                      Command& chosen) {
   CLI::App* command =
@@ -177,9 +221,8 @@ void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest&
                  "--install golf-demo scores-zd-to-kv --league 00011 --batch 3 --roster CLUB18",
                  chosen, [&] { return RunScoresZdToKv(options, request); });
   AddLeague(*command, request.league);
-  command->add_option("--batch", request.batch, "What to transfer, by its code as in list events")
+  AddNumber(*command, "--batch", request.batch, "What to transfer, by its code as in list events")
       ->required()
-      ->check(CLI::Range(1, 999))
       ->type_name("CODE");
   AddRoster(*command, request.roster);
   command
@@ -215,7 +258,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
                               "dump golf-demo/kvdata/kvcrs.dat --record 1", chosen,
                               [&] { return RunDump(options, args.dump); });
   dump->add_option("FILE", args.dump.file, "A file of Kelvane, Quenby or Zandel")->required();
-  dump->add_option("--record", args.dump.record, "Only this record, from 1")->type_name("N");
+  AddNumber(*dump, "--record", args.dump.record, "Only this record, from 1")->type_name("N");
   dump->add_flag("--csv", args.dump.csv, "A line a record, with a heading");
 
   CLI::App* results = AddCommand(app, "results", "Show what scoring works out",
@@ -226,10 +269,10 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
                    "Whose results: players or teams, or custom for teams under a layout")
       ->required()
       ->check(CLI::IsMember(ResultsNames()));
-  results->add_option("--tournament", args.results.tournament, "The tournament's number")
+  AddNumber(*results, "--tournament", args.results.tournament, "The tournament's number")
       ->type_name("N")
       ->required();
-  results->add_option("--round", args.results.round, "The round; the active one if left out")
+  AddNumber(*results, "--round", args.results.round, "The round; the active one if left out")
       ->type_name("R");
   results->parse_complete_callback([&args] {
     if (args.results.what == "custom" && args.results.layout.empty()) {
@@ -248,6 +291,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   AddGolfersKvToQb(app, options, args.golfers_kv_to_qb, chosen);
   AddGolfersKvToZd(app, options, args.golfers_kv_to_zd, chosen);
   AddGolfersZdToQb(app, options, args.golfers_zd_to_qb, chosen);
+  AddScoresQbToKv(app, options, args.scores_qb_to_kv, chosen);
   AddScoresZdToKv(app, options, args.scores_zd_to_kv, chosen);
 
   CLI::App* script = AddCommand(app, "script", "Drive the screens by the lines of a script",

@@ -84,6 +84,18 @@ struct GolfersZdToQbRequest {
 };
 ExitCode RunGolfersZdToQb(const Options& options, const GolfersZdToQbRequest& request);
 
+struct ScoresQbToKvRequest {
+  std::int32_t tournament = 0;
+  int round = 1;
+  std::string roster;                  // Kelvane's, by name
+  std::optional<std::int32_t> course;  // Kelvane's; the one that fits best if left out
+  bool as_tournament = false;
+  bool points = false;
+  std::string again = "no";  // "yes" or "no": scores that have been transferred before
+  bool nine_into_eighteen = false;
+};
+ExitCode RunScoresQbToKv(const Options& options, const ScoresQbToKvRequest& request);
+
 struct ScoresZdToKvRequest {
   std::string league;  // Zandel's, by base
   int batch = 0;       // by code

@@ -40,15 +40,6 @@ std::map<int, int> CountQuenbyGolfers(TournamentPlayers& player) {
   return counts;
 }
 
-// The number of a tournament by the name of its control file; 0 for any other file.
-std::int32_t TournamentNumber(const std::string& file_name) {
-  const std::string digits = WithoutExtension(file_name).substr(1);
-  const bool number = !digits.empty() && digits.size() <= 9 &&
-                      digits.find_first_not_of("0123456789") == std::string::npos;
-  const std::int32_t tournament = number ? std::stoi(digits) : 0;
-  return EqualIgnoringCase(file_name, TournamentFileName(tournament, ".Q9C")) ? tournament : 0;
-}
-
 // A control file without a record is listed without a name.
 void AddTournament(SharedState& state, std::int32_t number, ListWriter& out) {
   const auto control = state.files.gate().Open(
@@ -111,7 +102,8 @@ void ListTournaments(SharedState& state, const ListRequest&, ListWriter& out) {
   state.StoreDataPath = state.QBDataPath;
   out.SetHeadings({"No.", "Tournament", "Date", "Rounds", "Players"});
   for (const std::string& file : state.files.FilesLike(state.QBDataPath, "X*.Q9C")) {
-    if (const std::int32_t number = TournamentNumber(file)) AddTournament(state, number, out);
+    const std::int32_t number = TournamentOfFile(file).value_or(0);
+    if (number > 0) AddTournament(state, number, out);
   }
 }
 

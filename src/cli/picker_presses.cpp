@@ -37,6 +37,7 @@ void PickQuenbyRoster(HeadlessHost& host, Screen& picker, int number) {
   auto& rosters = dynamic_cast<LoadRosters&>(picker);
   constexpr int kMostRoster = 999;  // a transfer keeps three digits of the number
   if (number > kMostRoster) throw Refusal("A roster above 999 cannot be transferred to.");
+  if (number < 0) throw Refusal("Quenby has no roster " + std::to_string(number) + ".");
   const std::string key = std::to_string(number == 0 ? -1 : number);
   if (!ChooseRow(host, picker, rosters.grid1, 0, key)) {
     throw Refusal("Quenby has no roster " + std::to_string(number) + ".");

@@ -79,6 +79,4 @@ std::string TextFromUtf8(std::string_view utf8) {
   return text;
 }
 
-bool FitsCodePage(std::string_view utf8) { return Utf8FromText(TextFromUtf8(utf8)) == utf8; }
-
 }  // namespace golf

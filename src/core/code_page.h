@@ -15,7 +15,4 @@ std::string Utf8FromText(std::string_view text);
 // 1252 character that it is.
 std::string TextFromUtf8(std::string_view utf8);
 
-// True if TextFromUtf8 and back gives the same bytes.
-bool FitsCodePage(std::string_view utf8);
-
 }  // namespace golf

@@ -229,6 +229,7 @@ class GridView : public wxGrid {
   // The keys that the screen knows; all others move about in the grid.
   void OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
+    if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // would unmark the active row
     const char* name = key == WXK_RETURN || key == WXK_NUMPAD_ENTER ? "Enter"
                        : key == WXK_INSERT                          ? "Insert"
                        : key == WXK_DELETE                          ? "Delete"

@@ -14,6 +14,7 @@
 #include "transfers/kv_courses_to_qb.h"
 #include "transfers/kv_to_qb.h"
 #include "transfers/kv_to_zd.h"
+#include "transfers/qb_to_kv.h"
 #include "transfers/zd_to_kv.h"
 #include "transfers/zd_to_qb.h"
 
@@ -42,6 +43,7 @@ ViewCatalogue Views() {
            {WindowKind::kDialog, Fill<XReportsCustomTeamResults, FillTeamLayoutBuilder>}},
           {"KVtoQB", {WindowKind::kDialog, Fill<KVtoQB, FillKVtoQB>}},
           {"KVtoZD", {WindowKind::kDialog, Fill<KVtoZD, FillKVtoZD>}},
+          {"QBtoKV", {WindowKind::kDialog, Fill<QBtoKV, FillQBtoKV>}},
           {"ZDtoKV", {WindowKind::kDialog, Fill<ZDtoKV, FillZDtoKV>}},
           {"ZDtoQB", {WindowKind::kDialog, Fill<ZDtoQB, FillZDtoQB>}},
           {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};

@@ -196,14 +196,13 @@ wxStaticText* MakeNote(Binding& binding, wxWindow* parent, std::vector<const Con
   wxStaticText* text = NewText(parent, wxST_NO_AUTORESIZE);
   text->SetForegroundColour(kNoteColour);
   text->SetMinSize({width, lines * text->GetCharHeight()});
-  binding.ShowAlso([text, controls = std::move(controls), width] {
+  binding.ShowAlso([text, controls = std::move(controls), width, shown = wxString()]() mutable {
     const auto noted = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
       return !control->note().empty() && control->IsShown();
     });
     const wxString note =
         noted == controls.end() ? wxString() : WxText((*noted)->note()).BeforeFirst('\n');
-    if (text->GetName() == note) return;  // the label has lines of its own
-    text->SetName(note);
+    if (std::exchange(shown, note) == note) return;
     text->SetLabelText(note);
     text->Wrap(width);
   });

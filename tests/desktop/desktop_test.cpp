@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
+#include <wx/frame.h>
 #include <wx/grid.h>
+#include <wx/menu.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
@@ -14,6 +16,7 @@
 #include "desktop/operator.h"
 #include "shell/tip_box.h"
 #include "stores/course/course_class.h"
+#include "stores/course/screens/course_tee.h"
 #include "stores/kelvane/screens/load_roster.h"
 #include "support/bytes.h"
 #include "support/error_of.h"
@@ -164,6 +167,40 @@ TEST_F(DesktopTest, TellsOfAMissingSiblingAndClosesByItsWindow) {
   user.RunProgram();
   EXPECT_EQ(install.platform->started(),
             std::vector<std::string>({state().ProgramPath + "PRIORXFR.EXE qb"}));
+}
+
+TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
+  user.When(
+      "the menu", [] { return Operator::Find("ExitButton") != nullptr; },
+      [] {
+        auto& frame = dynamic_cast<wxFrame&>(WindowOf("ExitButton"));
+        const wxMenu& tools = *frame.GetMenuBar()->GetMenu(0);
+        ASSERT_EQ(tools.GetMenuItemCount(), 3u);  // Kelvane's is the only library
+        const int entry = tools.FindItemByPosition(0)->GetId();
+        frame.CallAfter([&frame, entry] { frame.ProcessCommand(entry); });
+      });
+  user.Answer(
+      "Course library",
+      "This is Kelvane's own course library:\n" + state().KVDataPath +
+          "kvcrs.dat\n\nWhat you change in it is changed for Kelvane as well. Close Kelvane "
+          "before you go on.\n\nOpen it?");
+  user.Do([&] { host.Operate([&] { OpenScreen(state(), host, "CourseTable", "KV"); }); });
+  user.Press("EditCourseButton");
+  user.Press("EditTeeButton");
+  user.Press("ActiveTee");
+  user.Press("FPar");
+  user.Type("FPar", '4');
+  auto& tee = dynamic_cast<CourseTee&>(host.Load("CourseTee"));
+  user.When(
+      "the next hole", [&] { return tee.focus() == &tee.FPar[1]; },
+      [&] { EXPECT_NE(tee.FParOut.caption(), "0"); });
+  for (const char* title : {"Cancel", "CANCEL"}) {
+    user.Type("CancelButton", WXK_ESCAPE);
+    user.Answer(title, "Cancel changes?");
+  }
+  user.Press("CloseButton");
+  user.Press("ExitButton");
+  user.RunProgram();
 }
 
 TEST_F(DesktopTest, AQuestionIsAnsweredByEnterAndRemembered) {

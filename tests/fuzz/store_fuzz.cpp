@@ -21,6 +21,7 @@
 #include "scoring/tournament_class.h"
 #include "stores/course/course_class.h"
 #include "stores/kelvane/kelvane_files.h"
+#include "stores/kelvane/kelvane_golfer_index.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "stores/quenby/program_class.h"
 #include "stores/zandel/zandel_batches.h"
@@ -89,7 +90,7 @@ void WalkKelvane(SharedState& state) {
     AddKVScore(state);
     BlankKVScore(state);
     AddKVScore(state);
-    const std::int32_t found = FindKVGolfer(state, id);
+    const std::int32_t found = KelvaneGolferIndex(state).Find(id);
     Need(found == 0 || buffers.golfer.Get<"Status">() >= 1);
     state.id_numbers.Run(IdNumberList::kAppendNew, id);
   }

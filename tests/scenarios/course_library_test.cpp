@@ -27,7 +27,7 @@ std::string Course(const std::string& name) {
     const auto at = static_cast<std::size_t>(tee);
     PutText(bytes, 168 + 7 * at, 7, tee == 1 ? "Blue" : "NoName");
     PutText(bytes, 210 + at, 1, tee == 1 ? "B" : "");
-    for (const std::size_t group : {0, 1}) {
+    for (const auto group : {std::size_t{0}, std::size_t{1}}) {
       Put(bytes, 216 + 24 * group + 4 * at, {tee == 1 ? 71.5f : 0.0f});
       Put16(bytes, 264 + 12 * group + 2 * at, {113});
     }
@@ -245,8 +245,8 @@ TEST_F(CourseLibraryTest, ANewBackNineIsStoredTwice) {
   }
   Put(expected, 216, {35.5f});
   Put(expected, 240, {35.5f});
-  for (const std::size_t nine : {0, 9}) {
-    for (const std::size_t hole : {0, 1, 2}) {
+  for (const auto nine : {std::size_t{0}, std::size_t{9}}) {
+    for (std::size_t hole = 0; hole < 3; ++hole) {
       const std::size_t cell = 12 * (nine + hole);
       Put16(expected, 288 + cell, {std::array{123, 456, 789}[hole]});
       Put16(expected, 540 + cell, {std::array{4, 3, 5}[hole]});

@@ -161,13 +161,11 @@ TEST_F(KelvaneTest, FindingAGolfer) {
   KelvaneGolferIndex index(state);
   EXPECT_EQ(index.PlacesOf(7), (std::vector<std::int32_t>{5, 6}));
   for (const auto& [id, place] : {std::pair{7, 5}, {8, 4}, {0, 0}, {0x01010101, 0}}) {
-    EXPECT_EQ(FindKVGolfer(state, id), place) << id;
-    EXPECT_EQ(buffers.golfer.Get<"IDNum">(), place == 4 ? 8 : 7) << id;  // of the last one read
     EXPECT_EQ(index.Find(id), place) << id;
   }
   install.folder.Write("kvdata/Club.kvg", "");
   state.files.Synchronize();
-  EXPECT_EQ(FindKVGolfer(state, 7), 0);
+  EXPECT_EQ(KelvaneGolferIndex(state).Find(7), 0);
 }
 
 TEST_F(KelvaneTest, AddingAScore) {

@@ -187,49 +187,6 @@ TEST_F(EntriesTest, GettersMend) {
   }
 }
 
-TEST_F(EntriesTest, SettersCutAndKeepTheirOddities) {
-  std::string entry = Entry(1);
-  Put16(entry, 30, {-1, -1, -1, -1, 0});
-  PutText(entry, 203, 12, "ab");
-  Load(entry);
-  player.SetTourLockFlag(1, "no");
-  player.SetTourScoreTransferredtoKV(2, false);
-  player.SetTourLockFlag(3, "y");
-  player.SetTourLockFlag(5, "1");
-  player.SetTourScoreTransferredtoKV(5, true);
-  Put16(entry, 30, {0x1FE, 0x1FD, -1, -1, 3});
-  EXPECT_EQ(player.TourLockFlag(1), 0);
-  EXPECT_EQ(player.TourLockFlag(2), 1);
-  EXPECT_TRUE(player.TourScoreTransferredtoKV(1));
-  EXPECT_FALSE(player.TourScoreTransferredtoKV(2));
-  player.SetTourPutts(1, 250);
-  player.SetTourFairways({}, 250);
-  double adjusted = 300;
-  player.SetTourScoreAdjusted(2, adjusted);
-  EXPECT_EQ(adjusted, 250);
-  Put16(entry, 711, {250});
-  Put16(entry, 723, {200});
-  Put16(entry, 737, {250});
-  for (const int hole : {0, 19, 20, 22, -1}) player.SetTourScoreGross(hole, 3, 9);
-  player.SetTourScoreGross(18, 7, 4);
-  player.SetTourScoreGross(21, 2, 88);
-  Put16(entry, 443 + (6 * 18 + 17) * 2, {4});
-  Put16(entry, 697, {88});
-  player.SetTourCart(6, -5);
-  Put16(entry, 187, {-5});
-  EXPECT_EQ(player.TourCart(6), 1);
-  EXPECT_EQ(player.TourCartString(6) + player.TourCartString(5), "Y ");
-  EXPECT_EQ(Saved(), entry);
-  EXPECT_EQ(player.TourReportFlags(2), "ab          ");
-  player.SetTourIndex(1, -2.35f);
-  EXPECT_EQ(player.TourIndex() + player.TourIndexValue(), "+2.4-2.4");
-  const std::function<void()> errors[] = {
-      [&] { player.TourTeamOn(8); },         [&] { player.TourTeamOnInTrial(25); },
-      [&] { player.TourMiscInTourText(6); }, [&] { player.TourScoreTransferredtoKV(0); },
-      [&] { player.TourFlight(0); },         [&] { player.SetTourScoreGross(1, 8, 4); }};
-  for (const auto& error : errors) EXPECT_EQ(ErrorOf(error), 9) << &error - errors;
-}
-
 class TeamsTest : public EntriesTest {
  protected:
   TeamsTest() { team.OpenTeamFile(12); }

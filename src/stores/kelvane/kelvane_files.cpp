@@ -107,14 +107,4 @@ std::int32_t KVGolferPlaces(SharedState& state) {
   return state.files.RecordCount<KelvaneGolferLayout>(kKelvaneGolferFile);
 }
 
-std::int32_t FindKVGolfer(SharedState& state, std::int32_t id) {
-  auto& golfer = state.Kelvane().golfer;
-  const std::int32_t places = KVGolferPlaces(state);
-  for (std::int32_t place = 1; place <= places; ++place) {
-    state.files.Read(kKelvaneGolferFile, place, golfer);
-    if (IsGolfer(golfer) && golfer.Get<"IDNum">() == id) return place;
-  }
-  return 0;
-}
-
 }  // namespace golf

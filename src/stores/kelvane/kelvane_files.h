@@ -38,8 +38,4 @@ inline bool IsGolfer(const Record<KelvaneGolferLayout>& golfer) {
 // Golfer places of the open roster.
 std::int32_t KVGolferPlaces(SharedState& state);
 
-// The first place with a golfer of this ID; 0 if there is none. The golfer buffer holds the last
-// record that was read.
-std::int32_t FindKVGolfer(SharedState& state, std::int32_t id);
-
 }  // namespace golf

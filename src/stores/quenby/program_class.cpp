@@ -122,9 +122,7 @@ void ProgramClass::DeleteRosterRecord(std::int32_t roster) {
 
 void ProgramClass::SetIsRosterActive(bool value) { roster_.Set<"IsRosterActive">(value ? -1 : 0); }
 std::string ProgramClass::ClubName() const { return Trimmed(roster_.Get<"ClubName">()); }
-void ProgramClass::SetClubName(std::string_view value) {
-  roster_.Set<"ClubName">(value);
-}
+void ProgramClass::SetClubName(std::string_view value) { roster_.Set<"ClubName">(value); }
 std::string ProgramClass::ClubAddress(int i) const {
   return Trimmed(roster_.Get<"ClubAddress">(i));
 }
@@ -132,8 +130,6 @@ void ProgramClass::SetClubAddress(int i, std::string_view value) {
   roster_.Set<"ClubAddress">({i}, value);
 }
 std::string ProgramClass::ClubPhone() const { return Trimmed(roster_.Get<"ClubPhone">()); }
-void ProgramClass::SetClubPhone(std::string_view value) {
-  roster_.Set<"ClubPhone">(value);
-}
+void ProgramClass::SetClubPhone(std::string_view value) { roster_.Set<"ClubPhone">(value); }
 
 }  // namespace golf

@@ -30,6 +30,16 @@ std::string TournamentFileName(std::int32_t tournament, std::string_view extensi
   return "X" + FormatNumber(tournament, "0000") + std::string(extension);
 }
 
+std::optional<std::int32_t> TournamentOfFile(std::string_view name) {
+  constexpr double kHighest = 999999999;
+  if (name.empty()) return std::nullopt;
+  const double number = LeadingNumber(name.substr(1));
+  if (!(number >= 0 && number <= kHighest)) return std::nullopt;
+  const std::int32_t tournament = RoundToInt32(number);
+  if (!EqualIgnoringCase(name, TournamentFileName(tournament, ".Q9C"))) return std::nullopt;
+  return tournament;
+}
+
 std::string TournamentControl::ControlFile(std::int32_t tournament) const {
   return state_.StoreDataPath +
          (tournament == kDefaults ? "Default.Q9C" : TournamentFileName(tournament, ".Q9C"));
@@ -130,9 +140,7 @@ void TournamentControl::MakeTeams(std::int32_t tournament) {
 
 std::string TournamentControl::Name() const { return std::string(Trim(record_.Get<"Name">())); }
 
-void TournamentControl::SetName(std::string_view value) {
-  record_.Set<"Name">(Trim(value));
-}
+void TournamentControl::SetName(std::string_view value) { record_.Set<"Name">(Trim(value)); }
 
 void TournamentControl::SetNumTeams(double value) {
   SetInt16<"NumTeams">(LimitNumber(value, 1, kMostTeams));

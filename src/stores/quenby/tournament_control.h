@@ -17,6 +17,8 @@ using OptionalRound = std::optional<int>;
 
 // The name of a file of a tournament, without folder: "X0012" and the extension.
 std::string TournamentFileName(std::int32_t tournament, std::string_view extension);
+// The tournament of a control file by its name; nothing for a file that is no tournament's.
+std::optional<std::int32_t> TournamentOfFile(std::string_view name);
 
 // The control record of a tournament, one file at a time in StoreDataPath: the first storey of the
 // tournament, under its statistics. Where a getter is said to mend, it brings the stored value into

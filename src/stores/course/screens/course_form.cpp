@@ -1,6 +1,7 @@
 #include "stores/course/screens/course_form.h"
 
 #include "core/number_text.h"
+#include "core/numbered_error.h"
 #include "core/text.h"
 #include "stores/course/course_library.h"
 #include "stores/course/screens/course_tee.h"
@@ -141,7 +142,7 @@ void CourseForm::ShowHoles() {
   for (int tee = 1; tee <= kShownTees; ++tee) any_active |= course().ActiveTees(tee);
   HolesFrame.SetEnabled(!any_active);
   FHoleNum[0].SetVisible(any_active || course().Allow18HoleCourses);
-  for (const std::size_t nine : {1, 2}) {
+  for (const auto nine : {std::size_t{1}, std::size_t{2}}) {
     FHoleNum[nine].SetVisible(any_active || course().Allow9HoleCourses);
   }
 }
@@ -166,6 +167,22 @@ void CourseForm::EditTee() {
   OnActivate();
 }
 
+// One group too high: where the men's slope is too flat it is the ladies' that is mended, and where
+// the ladies' is there is nothing to mend, which ends the click with the course as it is.
+void CourseForm::MendSlopes(int tee) {
+  const auto too_flat = [&](int group) {
+    return IsAbove(course().Rating(tee, group), 0) &&
+           !IsAbove(course().slope(tee, group), kTooFlat);
+  };
+  if (too_flat(0)) course().Setslope(tee, 1, kUnslopedCourse);
+  if (too_flat(1)) {
+    throw NumberedError(ErrorNumber::kSubscript,
+                        "The ladies' slope of tee " + std::to_string(tee) + ", " +
+                            course().TeeName(int{tee}) + ", is " + course().slope(tee, 1) +
+                            ". Edit the tee and enter a slope of 55 to 155 before you save.");
+  }
+}
+
 void CourseForm::Accept() {
   if (Trim(FCourseName.text()).empty()) {
     host().Ask(Box{.title = "Need more info.", .text = "Course name required!"});
@@ -177,14 +194,7 @@ void CourseForm::Accept() {
   int handicaps = 0;
   for (int tee = 1; tee <= kShownTees; ++tee) {
     any_active |= course().ActiveTees(tee);
-    for (const int group : {0, 1}) {
-      const bool rated = IsAbove(course().Rating(tee, group), 0);
-      // One group too high: the men's slope mends the ladies', and the ladies' has nowhere to go,
-      // which ends the click with the course unsaved.
-      if (rated && !IsAbove(course().slope(tee, group), kTooFlat)) {
-        course().Setslope(tee, group + 1, kUnslopedCourse);
-      }
-    }
+    MendSlopes(tee);
     if (IsAbove(course().HolePar(tee, first_hole), 0)) pars |= 1 << tee;
     if (IsAbove(course().HoleHandicap(tee, first_hole), 0)) handicaps |= 1 << tee;
   }

@@ -64,6 +64,7 @@ class CourseForm : public Screen {
   void EditTee();
   void FillTee(CourseTee& screen);
   void SaveTeeData(CourseTee& screen);
+  void MendSlopes(int tee);
   void Accept();
   void Cancel();
 

@@ -64,6 +64,10 @@ void CourseTable::OnLoad() {
   LoadGrid(0);
 }
 
+void CourseTable::OnActivate() {
+  if (focus() == nullptr) MoveFocus(&CourseGrid);
+}
+
 void CourseTable::LoadGrid(std::int32_t course_in_hand) {
   CourseClass& course = state().Course();
   const int row_before = CourseGrid.active_row();
@@ -168,6 +172,7 @@ void CourseTable::Close() {
   for (int row = 1; row <= CourseGrid.rows(); ++row) {
     records.push_back(RoundToInt32(LeadingNumber(CourseGrid.text(kNumberColumn, row))));
   }
+  const JoinedWrites joined(state().files);
   state().Course().RebuildCourseIndexes(records);
   host().Unload(*this);
 }

@@ -15,6 +15,7 @@ class CourseTable : public Screen {
   explicit CourseTable(const ScreenContext& context);
 
   void OnLoad() override;
+  void OnActivate() override;
   void OnUnload() override;
   Button* LeaveButton() override { return &CloseButton; }
 

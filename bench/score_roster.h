@@ -1,0 +1,30 @@
+#pragma once
+
+#include <filesystem>
+#include <unordered_map>
+
+#include "bare_file.h"
+#include "stores/kelvane/kelvane_layouts.h"
+
+namespace golf::bench {
+
+inline constexpr int kRosterGolfers = 20000;
+
+// Makes the roster CLUB in kvdata: golfers with the IDs 1 to kRosterGolfers in no order, each with
+// a history of 20 scores.
+void MakeScoreRoster(const std::filesystem::path& folder);
+
+// What a bare loop does with it: the golfers read once, and for each score the golfer and his
+// history read and written.
+class BareRoster {
+ public:
+  explicit BareRoster(const std::filesystem::path& folder);
+  void Post(int id);
+
+ private:
+  BareFile<KelvaneGolferLayout> golfers_;
+  BareFile<KelvaneHistoryLayout> histories_;
+  std::unordered_map<int, int> places_;
+};
+
+}  // namespace golf::bench

@@ -1,0 +1,136 @@
+// The score transfer from Quenby to Kelvane as a whole process: a tournament of 2,000 players, all
+// with a score by hole, into a roster of 20,000 with histories of 20 scores. Beside it a bare loop
+// with one system call for each record: every file read once, each score's golfer and history read
+// and written, and its entry in the tournament marked.
+//
+// tournament_scores [ROUNDS]            prints medians
+// tournament_scores --bare-loop DIR     is the bare loop
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+#include "bare_file.h"
+#include "score_roster.h"
+#include "stores/course/course_layout.h"
+#include "stores/quenby/quenby_layouts.h"
+#include "whole_process.h"
+
+namespace golf::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kPlayers = 2000;
+constexpr int kCourses = 200;
+
+std::ofstream NewFile(const fs::path& path) {
+  fs::create_directories(path.parent_path());
+  return std::ofstream(path, std::ios::binary);
+}
+
+// With their index of the courses of 18 holes.
+void MakeCourses(const fs::path& file, const fs::path& index_file) {
+  auto courses = NewFile(file);
+  auto index = NewFile(index_file);
+  const auto number_to_index = [&](int number) {
+    Record<CourseIndexLayout> entry;
+    entry.Set<"Index">(static_cast<std::int16_t>(number));
+    index << entry.Bytes();
+  };
+  number_to_index(kCourses);
+  for (int number = 1; number <= kCourses; ++number) {
+    Record<CourseLayout> course;
+    course.Set<"activeflag">(1);
+    course.Set<"HoleNumFlag">(18);
+    course.Set<"Name">("Course " + std::to_string(number));
+    for (int tee = 1; tee <= 2; ++tee) {
+      course.Set<"ActiveTees">({tee}, 255);
+      course.Set<"TeeName">({tee}, "Tee " + std::to_string(tee));
+    }
+    course.Fill<"Rating">(71.2);
+    course.Fill<"slope">(120);
+    course.Fill<"HolePar">(4);
+    courses << course.Bytes();
+    number_to_index(number);
+  }
+}
+
+void MakeTournament(const fs::path& quenby) {
+  Record<TournamentLayout> control;
+  control.Set<"Name">("Large");
+  control.Set<"NumRounds">(1);
+  control.Set<"NumTeesMenPlay">(1);
+  control.Set<"NumTeesLadiesPlay">(1);
+  control.Set<"RoundType">(18);
+  control.Set<"ActiveRound">(1);
+  control.Set<"Version">("2005");
+  control.Fill<"DateofRound">(45100);
+  control.Fill<"CourseNumberPlayed">(kCourses / 2);
+  control.Fill<"TeeNumberPlayed">(1);
+  control.Fill<"TeeHandicapPercent">(100);
+  control.Fill<"HandicapMax">(36);
+  NewFile(quenby / "X0001.Q9C") << control.Bytes();
+  auto golfers = NewFile(quenby / "QBGOLFER.Q9D");
+  auto entries = NewFile(quenby / "X0001.Q9G");
+  for (int i = 1; i <= kPlayers; ++i) {
+    Record<PlayerLayout> golfer;
+    golfer.Set<"IDNum">(i * (kRosterGolfers / kPlayers));
+    golfer.Set<"NameLast">("Golfer " + std::to_string(i));
+    golfers << golfer.Bytes();
+    Record<TournamentPlayerLayout> entry;
+    entry.Set<"TourRosterRecordPointer">(static_cast<std::int16_t>(i));
+    entry.Fill<"TourGrossHandicap">(i % 30);
+    entry.Fill<"TourScoreGross">(4 + i % 3);
+    entries << entry.Bytes();
+  }
+}
+
+void MakeInstall(const fs::path& folder) {
+  MakeScoreRoster(folder);
+  MakeTournament(folder / "qbdata");
+  MakeCourses(folder / "kvdata" / "kvcrs.dat", folder / "kvdata" / "18CRSKV.INX");
+  MakeCourses(folder / "qbdata" / "qbcrs.dat", folder / "qbdata" / "18CRSQB.INX");
+}
+
+void BareLoop(const fs::path& folder) {
+  const fs::path quenby = folder / "qbdata";
+  BareFile<CourseLayout>(folder / "kvdata" / "kvcrs.dat").ReadAll();
+  BareFile<CourseLayout>(quenby / "qbcrs.dat").ReadAll();
+  BareFile<TournamentLayout>(quenby / "X0001.Q9C").ReadAll();
+  BareRoster roster(folder);
+  BareFile<PlayerLayout> golfers(quenby / "QBGOLFER.Q9D");
+  BareFile<TournamentPlayerLayout> entries(quenby / "X0001.Q9G");
+  for (int entry = 0, count = entries.Count(); entry < count; ++entry) {
+    entries.Read(entry);
+    golfers.Read(entries.buffer.Get<"TourRosterRecordPointer">() - 1);
+    roster.Post(golfers.buffer.Get<"IDNum">());
+    entries.Write(entry);
+  }
+}
+
+}  // namespace
+}  // namespace golf::bench
+
+int main(int argc, char** argv) {
+  using namespace golf::bench;
+  if (argc == 3 && std::string(argv[1]) == "--bare-loop") {
+    BareLoop(argv[2]);
+    return 0;
+  }
+  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
+  const ScratchFolder scratch("bench-tournament-scores");
+  const auto pristine = scratch.path() / "pristine";
+  MakeInstall(pristine);
+  const std::vector<Contender> contenders = {
+      {"scores-qb-to-kv",
+       {GOLF_CLI, "--quiet", "--install", "{}", "scores-qb-to-kv", "--tournament", "1", "--round",
+        "1", "--roster", "CLUB"}},
+      {"bare loop", {argv[0], "--bare-loop", "{}"}}};
+  const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
+  Print("2,000 scores of a tournament into a roster of 20,000 golfers", contenders, medians, 1);
+  return 0;
+}

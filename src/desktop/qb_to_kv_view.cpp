@@ -1,0 +1,145 @@
+#include "desktop/layout_helpers.h"
+#include "desktop/log_buttons.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "transfers/qb_to_kv.h"
+
+namespace golf {
+namespace {
+
+// In pixels of a plain screen.
+constexpr int kTournamentWidth = 340;
+constexpr int kRoundWidth = 110;
+constexpr int kListHeight = 110;
+constexpr int kCourseWidth = 300;
+constexpr int kTeeWidth = 70;
+constexpr int kPartnerWidth = 180;
+constexpr int kTransferWidth = 200;  // for the longest caption that it takes
+constexpr int kLogLines = 7;
+
+wxStaticText* MakeHeading(wxWindow* parent, const wxString& text) {
+  auto* heading = new wxStaticText(parent, wxID_ANY, text);
+  MakeBold(*heading);
+  return heading;
+}
+
+wxListBox* MakeList(ScreenPanel& panel, ListBox& control, int width, Shown shown) {
+  wxListBox* list = MakeListBox(panel.binding(), &panel, control, shown);
+  list->SetMinSize(panel.FromDIP(wxSize(width, kListHeight)));
+  return list;
+}
+
+// The rounds keep their place where there is only one.
+wxSizer* Source(ScreenPanel& panel, QBtoKV& screen) {
+  auto* lists = new wxBoxSizer(wxHORIZONTAL);
+  lists->Add(MakeList(panel, screen.TournamentList, kTournamentWidth, QBtoKV::TournamentHeading),
+             wxSizerFlags(3).Expand());
+  lists->Add(MakeList(panel, screen.RoundList, kRoundWidth, nullptr),
+             wxSizerFlags(1).Expand().ReserveSpaceEvenIfHidden().Border(wxLEFT, CloseGap(panel)));
+  auto* source = new wxBoxSizer(wxVERTICAL);
+  source->Add(MakeHeading(&panel, "Tournament and round"));
+  source->Add(lists, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
+  return source;
+}
+
+// Where the scores come from beside where they go.
+wxSizer* Ends(ScreenPanel& panel, QBtoKV& screen) {
+  auto* ends = new wxBoxSizer(wxHORIZONTAL);
+  ends->Add(Source(panel, screen), wxSizerFlags(3).Expand());
+  ends->AddSpacer(GroupGap(panel));
+  ends->Add(Column({MakeHeading(&panel, "Handicap roster"),
+                    MakeTextBox(panel.binding(), &panel, screen.HandicapRoster),
+                    MakeButton(panel.binding(), &panel, screen.DestButton)}),
+            wxSizerFlags(2).Expand());
+  return ends;
+}
+
+wxChoice* MakePartner(ScreenPanel& panel, ComboBox& control, int width, Shown shown) {
+  wxChoice* choice = MakeChoice(panel.binding(), &panel, control, shown);
+  choice->SetMinSize(panel.FromDIP(wxSize(width, -1)));
+  return choice;
+}
+
+// Quenby's course, and its partner in Kelvane.
+wxSizer* Courses(ScreenPanel& panel, QBtoKV& screen) {
+  Binding& binding = panel.binding();
+  wxStaticText* partner = MakeLabel(binding, &panel, screen.Label1[1]);
+  MakeBold(*partner);
+  auto* rows = new wxFlexGridSizer(2, CloseGap(panel), GroupGap(panel));
+  rows->AddGrowableCol(0, 1);
+  rows->AddGrowableCol(1, 1);
+  const auto wide = wxSizerFlags().Expand().CentreVertical();
+  rows->Add(MakeHeading(&panel, "Course of the round in Quenby"));
+  rows->Add(partner);
+  rows->Add(MakeLabel(binding, &panel, screen.QBCourse), wide);
+  rows->Add(MakePartner(panel, screen.CourseCombo, kCourseWidth, QBtoKV::CourseHeading), wide);
+  return rows;
+}
+
+// The same for the tees of one sex, a row each. What is hidden leaves no gap.
+wxSizer* Tees(ScreenPanel& panel, QBtoKV::Labels& sexes, QBtoKV::Labels& tees,
+              QBtoKV::Combos& partners) {
+  Binding& binding = panel.binding();
+  auto* rows = new wxFlexGridSizer(3, CloseGap(panel), CloseGap(panel));
+  rows->AddGrowableCol(2);
+  const auto middle = wxSizerFlags().CentreVertical();
+  for (std::size_t i = 0; i < QBtoKV::kTees; ++i) {
+    wxStaticText* tee = MakeLabel(binding, &panel, tees[i]);
+    tee->SetMinSize(panel.FromDIP(wxSize(kTeeWidth, -1)));
+    rows->Add(MakeLabel(binding, &panel, sexes[i]), middle);
+    rows->Add(tee, middle);
+    rows->Add(MakePartner(panel, partners[i], kPartnerWidth, QBtoKV::TeeHeading),
+              wxSizerFlags().Expand().CentreVertical());
+  }
+  return rows;
+}
+
+wxSizer* Partners(ScreenPanel& panel, QBtoKV& screen) {
+  auto* tees = new wxGridSizer(2, 0, GroupGap(panel));
+  const auto wide = wxSizerFlags().Expand();
+  tees->Add(Tees(panel, screen.QBMTeeLabel, screen.QBMTee, screen.MTeeCombo), wide);
+  tees->Add(Tees(panel, screen.QBLTeeLabel, screen.QBLTee, screen.LTeeCombo), wide);
+  auto* partners = new wxBoxSizer(wxVERTICAL);
+  partners->Add(Courses(panel, screen), wide);
+  partners->Add(tees, wxSizerFlags(wide).Border(wxTOP, GroupGap(panel)));
+  return partners;
+}
+
+wxSizer* Log(ScreenPanel& panel, TextBox& log) {
+  wxStaticText* heading = MakeHeading(&panel, "Messages");
+  wxTextCtrl* box = MakeTextBox(panel.binding(), &panel, log, wxTE_MULTILINE | wxTE_DONTWRAP);
+  box->SetMinSize({-1, kLogLines * box->GetCharHeight()});
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
+  column->Add(heading);
+  column->Add(box, wxSizerFlags(below).Proportion(1));
+  column->Add(LogButtons(&panel, *box), below);
+  return column;
+}
+
+}  // namespace
+
+void FillQBtoKV(ScreenPanel& panel, QBtoKV& screen) {
+  Binding& binding = panel.binding();
+  const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(MakeLabel(binding, &panel, screen.Label1[0]), wxSizerFlags().Expand());
+  content->Add(Ends(panel, screen), group);
+  content->Add(Partners(panel, screen), group);
+  auto* checks = new wxBoxSizer(wxHORIZONTAL);
+  checks->Add(MakeCheckBox(binding, &panel, screen.TCheck));
+  checks->Add(MakeCheckBox(binding, &panel, screen.TCheck2),
+              wxSizerFlags().Border(wxLEFT, GroupGap(panel)));
+  content->Add(checks, group);
+  content->Add(Log(panel, screen.Message), wxSizerFlags(group).Proportion(1));
+  content->Add(MakeLabel(binding, &panel, screen.Working), group);
+  AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
+  wxButton* transfer = MakeButton(binding, &panel, screen.TransferButton);
+  transfer->SetMinSize(panel.FromDIP(wxSize(kTransferWidth, -1)));
+  content->Add(ButtonRow({.affirmative = transfer,
+                          .cancel = MakeButton(binding, &panel, screen.ExitButton)}),
+               group);
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf

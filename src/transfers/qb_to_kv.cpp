@@ -1,0 +1,455 @@
+#include "transfers/qb_to_kv.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/number_text.h"
+#include "scoring/player_class.h"
+#include "scoring/tournament_class.h"
+#include "shell/remembered_settings.h"
+#include "stores/course/course_class.h"
+#include "stores/kelvane/kelvane_files.h"
+#include "transfers/common_beginning.h"
+#include "transfers/transfer_run.h"
+
+namespace golf {
+namespace {
+
+constexpr std::size_t kCourseKey = 5;
+constexpr std::size_t kTeeKey = 2;  // with its abbreviation
+constexpr int kBackNine = -9;
+constexpr int kEighteen = 18;
+constexpr int kNine = 9;
+
+constexpr const char* kKelvane = "KV";
+constexpr const char* kQuenby = "QB";
+
+void Tell(ScreenHost& host, std::string title, std::string text) {
+  host.Ask(Box{.title = std::move(title), .text = std::move(text)});
+}
+
+std::string WithoutKey(const std::string& item, std::size_t key) {
+  return std::string(
+      Trim(std::string_view(item).substr(0, item.size() - std::min(item.size(), key))));
+}
+
+std::string CountLine(std::int16_t count, const char* what) { return std::to_string(count) + what; }
+
+// Where the list is empty there is nothing to choose.
+void SelectTee(ComboBox& list, const std::string& tee) {
+  if (!list.Select(ItemWithLongestCommonBeginning(list.items(), tee))) {
+    throw NumberedError(ErrorNumber::kBadCall, "The course has no tees.");
+  }
+}
+
+std::uint8_t TeeOf(const ComboBox& list) {
+  if (!list.visible()) return 0;
+  const std::string item = list.text();
+  return static_cast<std::uint8_t>(LeadingNumber(LastCharacters(item, 1)));
+}
+
+}  // namespace
+
+QBtoKV::QBtoKV(const ScreenContext& context) : Screen("QBtoKV", context) {
+  SetCaption("Transfer Quenby to Kelvane");
+  Add({&Label1[0], &TournamentList, &RoundList, &DestButton, &HandicapRoster, &QBCourse, &Label1[1],
+       &CourseCombo});
+  for (const Sex& sex : Sexes()) {
+    for (std::size_t i = 0; i < kTees; ++i) {
+      Add({&sex.headings[i], &sex.tees[i], &sex.partners[i]});
+    }
+  }
+  Add({&TCheck, &TCheck2, &FirstTimeLoaded, &Message, &Working, &TransferButton, &ExitButton});
+  FirstTimeLoaded.SetVisible(false);
+  RoundList.SetVisible(false);
+  HideTees();
+  for (const Sex& sex : Sexes()) {
+    for (ComboBox& list : sex.partners) list.SetVisible(false);
+  }
+  Message.SetReadOnly(true);
+  TransferButton.SetDefault(true);
+  ExitButton.SetCancel(true);
+  DestButton.on_click = [this] { FindRoster(); };
+  TCheck2.on_click = [this] { AskForPoints(); };
+  TransferButton.on_click = [this] { RunTransfer(*this, state(), host(), [this] { Transfer(); }); };
+  ExitButton.on_click = [this] { host().Unload(*this); };
+}
+
+std::array<QBtoKV::Sex, 2> QBtoKV::Sexes() {
+  return {Sex{0, QBMTee, QBMTeeLabel, MTeeCombo, &CourseClass::TeeMensTees},
+          Sex{1, QBLTee, QBLTeeLabel, LTeeCombo, &CourseClass::TeeLadiesTees}};
+}
+
+std::size_t QBtoKV::TeesPlayed(const Sex& sex) {
+  TournamentClass& tournament = state().Tournament();
+  return std::stoul(sex.group == 0 ? tournament.NumTeesMenPlay() : tournament.NumTeesLadiesPlay());
+}
+
+// The log comes last: a golfer's name with a quote in it ends the reading there.
+std::vector<Control*> QBtoKV::Remembered() {
+  std::vector<Control*> controls = {&FirstTimeLoaded, &HandicapRoster, &TCheck,     &TCheck2,
+                                    &TournamentList,  &RoundList,      &CourseCombo};
+  for (const Sex& sex : Sexes()) {
+    for (ComboBox& list : sex.partners) controls.push_back(&list);
+  }
+  controls.push_back(&Message);
+  return controls;
+}
+
+void QBtoKV::OnLoad() {
+  const ResumeNext silently(nullptr);
+  state().StoreDataPath = state().QBDataPath;
+  ReadSettings(state(), *this, Remembered());
+  TieEvents();  // the lists had nothing in them to choose from until now
+  if (FirstTimeLoaded.text() != "NO") TCheck2.SetValue(false);
+  FirstTimeLoaded.SetText("NO");
+  Message.SetText("");
+  silently([&] { FillCourseCombo(); });
+  FillTournamentList();
+  TournamentList.Select(0);
+  ShowCaption();
+}
+
+void QBtoKV::OnUnload() { WriteSettings(state(), *this, Remembered()); }
+
+void QBtoKV::OpenAgain() {
+  if (TournamentList.index() >= 0) ReadTournament();
+}
+
+// After a run each new choice offers another one.
+void QBtoKV::TieEvents() {
+  const auto offering = [this](void (QBtoKV::*choose)()) {
+    return [this, choose] {
+      TransferButton.SetVisible(true);
+      (this->*choose)();
+    };
+  };
+  TournamentList.on_click = offering(&QBtoKV::ChooseTournament);
+  RoundList.on_click = offering(&QBtoKV::ChooseRound);
+  CourseCombo.on_click = offering(&QBtoKV::ChooseCourse);
+}
+
+std::int32_t QBtoKV::TournamentOf(const std::string& item) {
+  return TournamentOfFile(item.substr(item.rfind(' ') + 1)).value_or(0);
+}
+
+std::int32_t QBtoKV::CourseOf(const std::string& item) {
+  return RoundToInt32(LeadingNumber(LastCharacters(item, kCourseKey)));
+}
+
+std::string QBtoKV::TournamentHeading(const std::string& item) {
+  return std::string(Trim(item.substr(0, item.rfind(' ') + 1)));
+}
+
+std::string QBtoKV::CourseHeading(const std::string& item) { return WithoutKey(item, kCourseKey); }
+
+std::string QBtoKV::TeeHeading(const std::string& item) { return WithoutKey(item, kTeeKey); }
+
+void QBtoKV::PointCourseAt(const char* program, const std::string& folder) {
+  state().CourseDataPath = folder;
+  state().Course().SetActiveProgram(program);
+  state().Course().OpenCourseFile();
+}
+
+void QBtoKV::FillCourseCombo() {
+  state().InitSharedObjects();
+  bool opened = false;
+  const ResumeNext silently(nullptr);
+  silently([&] { opened = OpenKVRoster(state(), HandicapRoster.text()); });
+  auto& header = state().Kelvane().header;
+  if (opened) state().files.Read(kKelvaneHeaderFile, 1, header);
+  PointCourseAt(kKelvane, state().KVDataPath);
+  CourseCombo.Clear();
+  const CourseClass& course = state().Course();
+  const auto fill = [&](std::int32_t count, auto entry) {
+    for (std::int32_t i = 0; i <= count; ++i) CourseCombo.AddItem((course.*entry)(i));
+  };
+  if (!opened) {
+    fill(course.CourseALLNumberofCourses(), &CourseClass::CourseALLName);
+  } else if (header.Get<"Holes">() == kEighteen) {
+    fill(course.Course18NumberofCourses(), &CourseClass::Course18Name);
+  } else {
+    fill(course.Course9NumberofCourses(), &CourseClass::Course9Name);
+  }
+}
+
+void QBtoKV::FillTournamentList() {
+  TournamentClass& tournament = state().Tournament();
+  for (const std::string& file : state().files.FilesLike(state().QBDataPath, "X*.Q9C")) {
+    const auto number = TournamentOfFile(file);
+    if (!number) continue;
+    tournament.OpenTournamentControlFile(*number);
+    tournament.GetRecord();
+    TournamentList.AddItem(tournament.Name() + std::string(3, ' ') + tournament.DateofRound(1) +
+                           std::string(20, ' ') + file);
+  }
+}
+
+void QBtoKV::ReadTournament() {
+  state().Tournament().OpenTournamentControlFile(TournamentOf(TournamentList.text()));
+  state().Tournament().GetRecord();
+  PointCourseAt(kQuenby, state().QBDataPath);
+}
+
+void QBtoKV::ChooseTournament() {
+  selected_round_ = 1;
+  TransferButton.SetCaption("Transfer scores");
+  const ResumeNext silently(nullptr);
+  silently(
+      [&] { state().Tournament().OpenTournamentControlFile(TournamentOf(TournamentList.text())); });
+  silently([&] { state().Tournament().GetRecord(); });
+  silently([&] { PointCourseAt(kQuenby, state().QBDataPath); });
+  FillRoundList();
+  silently([&] { ShowTees(); });
+  silently([&] { MatchCourse(); });
+}
+
+void QBtoKV::FillRoundList() {
+  const int rounds = std::stoi(state().Tournament().NumRounds());
+  round_list_ready_ = false;
+  RoundList.SetVisible(rounds > 1);
+  if (rounds > 1) {
+    RoundList.Clear();
+    for (int round = 1; round <= rounds; ++round) {
+      RoundList.AddItem("Round #" + std::to_string(round));
+    }
+    RoundList.Select(0);
+  }
+  round_list_ready_ = true;
+}
+
+void QBtoKV::ChooseRound() {
+  if (round_list_ready_) {
+    PointCourseAt(kQuenby, state().QBDataPath);
+    selected_round_ = RoundList.index() + 1;
+    ShowTees();
+    MatchCourse();
+  }
+  TransferButton.SetCaption("Transfer round #" + std::to_string(selected_round_) + " scores");
+}
+
+void QBtoKV::ShowTees() {
+  TournamentClass& tournament = state().Tournament();
+  QBCourse.SetCaption(tournament.CourseNamePlayed(selected_round_));
+  HideTees();
+  for (const Sex& sex : Sexes()) {
+    const std::size_t played = TeesPlayed(sex);
+    for (std::size_t i = 0; i < played; ++i) {
+      const int group = static_cast<int>(i) + 1;
+      sex.tees[i].SetVisible(true);
+      sex.headings[i].SetVisible(true);
+      sex.tees[i].SetCaption(tournament.TeeNamePlayed(sex.group, group, selected_round_));
+    }
+  }
+}
+
+void QBtoKV::HideTees() {
+  for (const Sex& sex : Sexes()) {
+    for (Label& tee : sex.tees) tee.SetVisible(false);
+    for (Label& heading : sex.headings) heading.SetVisible(false);
+  }
+}
+
+void QBtoKV::MatchCourse() {
+  const std::string name = state().Tournament().CourseNamePlayed(selected_round_);
+  CourseCombo.Select(ItemWithLongestCommonBeginning(CourseCombo.items(), name));
+}
+
+// With an away course there is no tee to choose.
+void QBtoKV::ChooseCourse() {
+  MatchTees();
+  for (const Sex& sex : Sexes()) {
+    const std::size_t played = TeesPlayed(sex);
+    for (std::size_t i = 0; i < kTees; ++i) {
+      sex.partners[i].SetVisible(CourseCombo.index() > 0 && i < played);
+    }
+  }
+}
+
+void QBtoKV::MatchTees() {
+  const ResumeNext next(
+      [this](const NumberedError&) { Tell(host(), "Problem", "Selected Course has NO TEES!"); });
+  next([&] { PointCourseAt(kKelvane, state().KVDataPath); });
+  next([&] { state().Course().GetRecord(CourseOf(CourseCombo.text())); });
+  next([&] { GetTees(); });
+  for (const Sex& sex : Sexes()) {
+    const std::size_t played = TeesPlayed(sex);
+    for (std::size_t i = 0; i < played; ++i) {
+      next([&] { SelectTee(sex.partners[i], sex.tees[i].caption()); });
+    }
+  }
+}
+
+void QBtoKV::GetTees() {
+  const CourseClass& course = state().Course();
+  for (const Sex& sex : Sexes()) {
+    for (ComboBox& list : sex.partners) {
+      list.Clear();
+      for (std::int32_t tee = 1; tee <= course.TeeNumberofTees(); ++tee) {
+        list.AddItem((course.*sex.tee_list)(tee));
+      }
+      list.Select(0);
+    }
+  }
+}
+
+void QBtoKV::FindRoster() {
+  Screen& picker = host().Load("LoadRoster");
+  picker.SetTag("OPENONLY");
+  host().ShowModal(picker);
+  TransferButton.SetVisible(true);
+  HandicapRoster.SetText(state().KVRosterName);
+  FillCourseCombo();
+  if (TournamentList.index() >= 0) ChooseTournament();
+}
+
+void QBtoKV::AskForPoints() {
+  const std::string answer = host().Ask(
+      InputBox{.title = "Transfer QB points to KV Score?",
+               .text = "Type in  YES  if you want Points won in the Quenby to be posted into the "
+                       "score recorded in the Kelvane.  This option is used by groups that want "
+                       "the Kelvane to calculate a Point Quota.",
+               .default_answer = "NO"});
+  TCheck2.SetValue(UpperCase(answer) == "YES");
+  ShowCaption();
+}
+
+void QBtoKV::ShowCaption() {
+  TransferButton.SetCaption(TCheck2.value() ? "Transfer Points" : "Transfer Scores");
+}
+
+void QBtoKV::Transfer() {
+  if (IsBlankText(HandicapRoster.text()) || IsBlankText(TournamentList.text())) {
+    return Tell(host(), "Info",
+                "You must select both source and destination rosters before you can transfer "
+                "golfers.");
+  }
+  if (CourseCombo.index() < 0) {
+    return Tell(host(), "Info", "You must select a course to transfer to.");
+  }
+  const ResumeNext next([this](const NumberedError& fault) {
+    host().SetPointer(Pointer::kNormal);
+    host().TellFault(fault);
+  });
+  TournamentScoreChoice choice = Choice();
+  choice.back_nine = IsBackNine(choice.course, next);
+  if (!OpenRoster(next)) {
+    next([&] { OpenAgain(); });  // what the operator chooses next goes by the tournament
+    return Tell(host(), "Notice", "Cannot open Handicap Roster.");
+  }
+  next([&] { MarkRoster(); });
+  OpenTournamentFiles(next);
+  if (HolesFit(choice)) PostScores(choice, next);
+}
+
+TournamentScoreChoice QBtoKV::Choice() {
+  TournamentScoreChoice choice;
+  choice.round = selected_round_;
+  choice.course = CourseOf(CourseCombo.text());
+  for (const Sex& sex : Sexes()) {
+    auto& tees = choice.tees[static_cast<std::size_t>(sex.group)];
+    for (std::size_t i = 0; i < kTees; ++i) tees[i] = TeeOf(sex.partners[i]);
+  }
+  choice.as_tournament = TCheck.value();
+  choice.points = TCheck2.value();
+  return choice;
+}
+
+bool QBtoKV::IsBackNine(std::int32_t number, const ResumeNext& next) {
+  state().CourseDataPath = state().KVDataPath;
+  CourseClass course(state());
+  course.SetActiveProgram(kKelvane);
+  // The library is open even where its indexes are not.
+  next([&] { course.OpenCourseFile(); });
+  bool back_nine = false;
+  next([&] {
+    course.GetRecord(number);
+    back_nine = course.HoleNumFlag() == kBackNine;
+  });
+  return back_nine;
+}
+
+bool QBtoKV::OpenRoster(const ResumeNext& next) {
+  next([&] { state().InitSharedObjects(); });
+  bool opened = false;
+  next([&] { opened = OpenKVRoster(state(), HandicapRoster.text()); });
+  return opened;
+}
+
+// Nothing is written over a header that could not be read.
+void QBtoKV::MarkRoster() {
+  auto& header = state().Kelvane().header;
+  state().files.Read(kKelvaneHeaderFile, 1, header);
+  header.Set<"Setting153">(1);
+  state().files.Write(kKelvaneHeaderFile, 1, header);
+}
+
+void QBtoKV::OpenTournamentFiles(const ResumeNext& next) {
+  const std::int32_t number = TournamentOf(TournamentList.text());
+  next([&] { state().Tournament().OpenTournamentControlFile(number); });
+  next([&] { state().Tournament().GetRecord(); });
+  next([&] { state().Player().OpenRosterFile(); });
+  next([&] { state().Player().TourOpenTournamentFile(number); });
+  next([&] { PointCourseAt(kQuenby, state().QBDataPath); });
+  next([&] { QBCourse.SetCaption(state().Tournament().CourseNamePlayed(selected_round_)); });
+}
+
+bool QBtoKV::HolesFit(TournamentScoreChoice& choice) {
+  const int holes = state().Kelvane().header.Get<"Holes">();
+  const int played = state().Tournament().RoundType();
+  if (holes == played) return true;
+  if (played == kNine) {
+    choice.join_nines =
+        host().Ask(Box{.title = "Continue",
+                       .text = "Transfers 9 hole scores to an 18 hole roster?",
+                       .buttons = {BoxButton::kYes, BoxButton::kNo}}) == BoxButton::kYes;
+    return choice.join_nines;
+  }
+  host().Beep();
+  host().Ask(Box{.title = "Can not contine",
+                 .text = "You have selected an " + std::to_string(holes) +
+                         " hole Handicap Roster for a " + std::to_string(played) +
+                         " hole tournament.",
+                 .icon = BoxIcon::kStop});
+  return false;
+}
+
+void QBtoKV::PostScores(const TournamentScoreChoice& choice, const ResumeNext& next) {
+  PlayerClass& player = state().Player();
+  TransferButton.SetVisible(false);
+  Message.SetText("");
+  host().SetPointer(Pointer::kBusy);
+  TournamentScorePosting posting(state(), host(), choice, next);
+  std::int32_t records = 0;
+  next([&] { records = player.TourFileLength(); });
+  for (std::int32_t record = 1; record <= records; ++record) {
+    bool exists = false;  // nor does a player who could not be read
+    next([&] { exists = player.GetRecord(record, true) && player.TourPlayerExists(); });
+    if (exists) posting.Take(record);
+    Working.SetCaption(NumberText(record) + " " + player.NameLF());
+    host().RepaintNow(Working);
+    host().Tell({record, records, Working.caption()});
+  }
+  Report(posting);
+}
+
+void QBtoKV::Report(const TournamentScorePosting& posting) {
+  const auto& [transferred, already, to_transfer, not_found] = posting.counts();
+  std::string report;
+  if (to_transfer > 0) report += CountLine(to_transfer, " Scores TO transfer.\r\n");
+  if (already > 0) report += CountLine(already, " Scores already transferred.\r\n");
+  Message.SetText(report + CountLine(transferred, " Scores transferred.\r\n") + posting.log());
+  Working.SetCaption("");
+  host().SetPointer(Pointer::kNormal);
+  host().TellCount("transferred", transferred);
+  host().TellCount("alreadyTransferred", already);
+  host().TellCount("toTransfer", to_transfer);
+  host().TellCount("notFound", not_found);
+  if (not_found > 0) {
+    host().Beep();
+    Tell(host(), "Notice", CountLine(not_found, " golfers were NOT found."));
+  }
+  Tell(host(), "Notice", CountLine(transferred, " Scores transferred."));
+}
+
+}  // namespace golf

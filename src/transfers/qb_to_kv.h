@@ -1,0 +1,119 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/resume_next.h"
+#include "core/shared_state.h"
+#include "forms/screen_host.h"
+#include "transfers/tournament_score_posting.h"
+
+namespace golf {
+
+// Posts the scores of a tournament's round into the histories of a Kelvane roster, for the golfers
+// whom both have by ID number. The operator sees the course and the tees of the round beside those
+// of Kelvane's library that their names fit best, and may choose others. A run carries on over
+// faults.
+class QBtoKV : public Screen {
+ public:
+  static constexpr int kTees = 5;
+  using Labels = std::array<Label, kTees>;
+  using Combos = std::array<ComboBox, kTees>;
+
+  explicit QBtoKV(const ScreenContext& context);
+
+  void OnLoad() override;
+  void OnUnload() override;
+  void OpenAgain() override;
+  Button* LeaveButton() override { return &ExitButton; }
+
+  std::array<Label, 2> Label1{
+      Label("Label1",
+            "Transfer scores from specified tournament to the specified handicap roster."),
+      Label("Label1", "Corresponding course in Kelvane")};
+  ListBox TournamentList{"TournamentList"};  // behind the last blank stands its control file
+  ListBox RoundList{"RoundList"};
+  Button DestButton{"DestButton", "Find Handicap Roster"};
+  TextBox HandicapRoster{"HandicapRoster"};
+  Label QBCourse{"QBCourse"};
+  ComboBox CourseCombo{"CourseCombo"};  // the last five characters are the course's number
+  // The tees of the round, and Kelvane's, of which the last character is the tee's number.
+  Labels QBMTee{Label("QBMTee(1)"), Label("QBMTee(2)"), Label("QBMTee(3)"), Label("QBMTee(4)"),
+                Label("QBMTee(5)")};
+  Labels QBMTeeLabel{Label("QBMTeeLabel(1)", "Men"), Label("QBMTeeLabel(2)", "Men"),
+                     Label("QBMTeeLabel(3)", "Men"), Label("QBMTeeLabel(4)", "Men"),
+                     Label("QBMTeeLabel(5)", "Men")};
+  Combos MTeeCombo{ComboBox("MTeeCombo(1)"), ComboBox("MTeeCombo(2)"), ComboBox("MTeeCombo(3)"),
+                   ComboBox("MTeeCombo(4)"), ComboBox("MTeeCombo(5)")};
+  Labels QBLTee{Label("QBLTee(1)"), Label("QBLTee(2)"), Label("QBLTee(3)"), Label("QBLTee(4)"),
+                Label("QBLTee(5)")};
+  Labels QBLTeeLabel{Label("QBLTeeLabel(1)", "Ladies"), Label("QBLTeeLabel(2)", "Ladies"),
+                     Label("QBLTeeLabel(3)", "Ladies"), Label("QBLTeeLabel(4)", "Ladies"),
+                     Label("QBLTeeLabel(5)", "Ladies")};
+  Combos LTeeCombo{ComboBox("LTeeCombo(1)"), ComboBox("LTeeCombo(2)"), ComboBox("LTeeCombo(3)"),
+                   ComboBox("LTeeCombo(4)"), ComboBox("LTeeCombo(5)")};
+  CheckBox TCheck{"TCheck", "Transfer scores as Tournament scores"};
+  CheckBox TCheck2{"TCheck2", "Transfer points won in QB to KV score value."};
+  TextBox FirstTimeLoaded{"FirstTimeLoaded"};  // "NO" once the screen has been loaded once
+  TextBox Message{"Message"};
+  Label Working{"Working"};
+  Button TransferButton{"TransferButton", "Transfer Scores"};
+  Button ExitButton{"ExitButton", "Exit"};
+
+  // The keys at the end of the items of the lists.
+  static std::int32_t TournamentOf(const std::string& item);
+  static std::int32_t CourseOf(const std::string& item);
+  // What of such items is meant to be read.
+  static std::string TournamentHeading(const std::string& item);
+  static std::string CourseHeading(const std::string& item);
+  static std::string TeeHeading(const std::string& item);
+
+ private:
+  // The tees of the round for one sex: 0 men, 1 ladies.
+  struct Sex {
+    int group;
+    Labels& tees;
+    Labels& headings;
+    Combos& partners;
+    const std::string& (CourseClass::*tee_list)(std::int32_t) const;
+  };
+  std::array<Sex, 2> Sexes();
+  std::size_t TeesPlayed(const Sex& sex);
+
+  std::vector<Control*> Remembered();
+  void TieEvents();
+
+  void FillCourseCombo();
+  void FillTournamentList();
+  void PointCourseAt(const char* program, const std::string& folder);
+  void ReadTournament();
+  void ChooseTournament();
+  void FillRoundList();
+  void ChooseRound();
+  void ShowTees();
+  void HideTees();
+  void MatchCourse();
+  void ChooseCourse();
+  void MatchTees();
+  void GetTees();
+  void FindRoster();
+  void AskForPoints();
+  void ShowCaption();
+
+  void Transfer();
+  TournamentScoreChoice Choice();
+  bool IsBackNine(std::int32_t course, const ResumeNext& next);
+  bool OpenRoster(const ResumeNext& next);
+  void MarkRoster();
+  void OpenTournamentFiles(const ResumeNext& next);
+  bool HolesFit(TournamentScoreChoice& choice);
+  void PostScores(const TournamentScoreChoice& choice, const ResumeNext& next);
+  void Report(const TournamentScorePosting& posting);
+
+  int selected_round_ = 1;
+  bool round_list_ready_ = false;  // the operator's choices in RoundList count
+};
+
+}  // namespace golf

@@ -1,0 +1,194 @@
+#include "transfers/tournament_score_posting.h"
+
+#include <cmath>
+
+#include "core/number_text.h"
+#include "scoring/player_class.h"
+#include "scoring/tournament_class.h"
+#include "stores/kelvane/kelvane_halves.h"
+#include "stores/kelvane/kelvane_scores.h"
+#include "transfers/transfer_run.h"
+
+namespace golf {
+namespace {
+
+constexpr int kNineHoles = 9;
+constexpr double kHighestNoScore = 20;  // a total up to here is not the score of a round
+
+}  // namespace
+
+TournamentScorePosting::TournamentScorePosting(SharedState& state, ScreenHost& host,
+                                               const TournamentScoreChoice& choice,
+                                               const ResumeNext& next)
+    : state_(state), host_(host), choice_(choice), next_(next), golfers_(state) {}
+
+void TournamentScorePosting::Take(std::int32_t record) {
+  bool wanted = false;
+  next_([&] { wanted = IsToBePosted(); });
+  if (!wanted) return;
+  next_([&] { CountUp(counts_.transferred); });
+  BlankKVScore(state_);
+  if (!choice_.join_nines) FillEntry();
+  bool posted = false;
+  next_([&] {
+    choice_.join_nines ? PostHalf() : PostEntry();
+    posted = true;
+  });
+  if (!posted) return;
+  next_([&] {
+    state_.Player().SetTourScoreTransferredtoKV(choice_.round, true);
+    state_.Player().SaveRecord(record, true);
+  });
+}
+
+// With the golfer in hand afterwards.
+bool TournamentScorePosting::IsToBePosted() {
+  if (!IsWantedAgain()) {
+    CountUp(counts_.already);
+    return false;
+  }
+  if (!IsComplete()) {
+    Log(" (Round" + NumberText(choice_.round) + " not complete)");
+    CountUp(counts_.to_transfer);
+    return false;
+  }
+  place_ = golfers_.Find(RoundToInt32(LeadingNumber(state_.Player().IDNum())));
+  if (place_ == 0) {
+    Log(" (No ID# match found)");
+    CountUp(counts_.to_transfer);
+    CountUp(counts_.not_found);
+    return false;
+  }
+  return AdjustedScore() > 0;
+}
+
+// A score that has been transferred before goes again only if the operator says so.
+bool TournamentScorePosting::IsWantedAgain() {
+  PlayerClass& player = state_.Player();
+  if (!player.TourScoreTransferredtoKV(choice_.round)) return true;
+  if (golfers_.Find(RoundToInt32(LeadingNumber(player.IDNum()))) == 0) return false;
+  const Box box{.title = "Transfer again?",
+                .text = "The score for '" + player.NameLF() + "' (round #" +
+                        std::to_string(choice_.round) +
+                        ") has already been transferred.  Do you want to transfer it again?",
+                .icon = BoxIcon::kQuestion,
+                .buttons = {BoxButton::kYes, BoxButton::kNo},
+                .default_button = 1};
+  return host_.Ask(box) == BoxButton::kYes;
+}
+
+bool TournamentScorePosting::IsComplete() {
+  TournamentClass& tournament = state_.Tournament();
+  if (tournament.ScoreEntryTotal() != 0) {  // there are no points without holes
+    return AdjustedScore() > kHighestNoScore && !choice_.points;
+  }
+  const int holes = tournament.RoundType();
+  for (int hole = 1; hole <= holes; ++hole) {
+    if (state_.Player().TourScoreGrossValue(hole, choice_.round) <= 0) return false;
+  }
+  return true;
+}
+
+double TournamentScorePosting::AdjustedScore() {
+  return LeadingNumber(state_.Player().TourScoreAdjusted(choice_.round));
+}
+
+void TournamentScorePosting::Log(const std::string& reason) {
+  log_ += state_.Player().NameLF() + reason + "\r\n";
+}
+
+// Each figure by itself: one that does not fit leaves only its own place empty.
+void TournamentScorePosting::FillEntry() {
+  PlayerClass& player = state_.Player();
+  auto& entry = state_.Kelvane().score;
+  const int round = choice_.round;
+  next_([&] { entry.Set<"CourseNumber">(RoundToInt16(choice_.course)); });
+  next_([&] { SetTee(); });
+  next_([&] { SetDate(); });
+  next_([&] {
+    entry.Set<"Rating">(CheckedSingle(LeadingNumber(player.TourCourseTeePlayedRating(round))));
+  });
+  next_([&] { entry.Set<"Slope">(KVByte(LeadingNumber(player.TourCourseTeePlayedSlope(round)))); });
+  next_([&] { FillHoles(); });
+  next_([&] { entry.Set<"Gross">(KVByte(player.TourScoreGrossValue(kWholeRound, round))); });
+  next_([&] { entry.Set<"Adjusted">(KVByte(AdjustedScore())); });
+  if (choice_.as_tournament) entry.Set<"ScoreType">(kKelvaneTournamentScore);
+  next_([&] { entry.Set<"Putts">(KVByte(player.TourPutts(round))); });
+  next_([&] { entry.Set<"Fairways">(KVByte(player.TourFairways(round))); });
+  next_([&] { entry.Set<"Greens">(KVByte(player.TourGreens(round))); });
+  next_([&] {
+    const double handicap = LeadingNumber(player.TourGrossHandicap(false, round));
+    entry.Set<"HandicapPlayed">(RoundToInt16(handicap));
+  });
+  if (choice_.points) FillPoints();
+}
+
+void TournamentScorePosting::SetTee() {
+  PlayerClass& player = state_.Player();
+  const auto& tees = choice_.tees[player.sex() == "F" ? 1 : 0];
+  const int group = player.TourGroupTee(choice_.round);
+  state_.Kelvane().score.Set<"TeeNumber">(tees[static_cast<std::size_t>(group) - 1]);
+}
+
+// A day that is none leaves the present moment.
+void TournamentScorePosting::SetDate() {
+  const DateValue date = state_.Tournament().Stored().Get<"DateofRound">(choice_.round);
+  if (!IsDate(date)) {
+    throw NumberedError(ErrorNumber::kBadCall,
+                        "The tournament has no date for round" + NumberText(choice_.round) + ".");
+  }
+  state_.Kelvane().score.Set<"Date">(std::trunc(date));
+}
+
+// On a course that is a back nine, the holes played are Kelvane's 10 to 18.
+void TournamentScorePosting::FillHoles() {
+  auto& entry = state_.Kelvane().score;
+  const int holes = choice_.back_nine ? kNineHoles : kHoles;
+  const int before = choice_.back_nine ? kNineHoles : 0;
+  for (int hole = 1; hole <= holes; ++hole) {
+    const std::int32_t score = state_.Player().TourScoreGrossValue(hole, choice_.round);
+    entry.Set<"HoleScore">({hole + before}, KVByte(score));
+  }
+}
+
+// Points are worth the same on every course.
+void TournamentScorePosting::FillPoints() {
+  auto& entry = state_.Kelvane().score;
+  next_([&] {
+    const std::string points = state_.Player().TourPointsGross(kWholeRound, choice_.round);
+    entry.Set<"Adjusted">(KVByte(LeadingNumber(points)));
+  });
+  entry.Set<"CourseNumber">(0);
+  entry.Set<"TeeNumber">(0);
+  entry.Set<"Rating">(0);
+}
+
+void TournamentScorePosting::PostEntry() {
+  ReadKVHistory(state_, place_);
+  PostKVScore(state_, place_);
+}
+
+// A half that waits is always the adjusted score, also where points are posted.
+void TournamentScorePosting::PostHalf() {
+  PlayerClass& player = state_.Player();
+  const int round = choice_.round;
+  NineHoleHalf half{.score = AdjustedScore(),
+                    .rating = LeadingNumber(player.TourCourseTeePlayedRating(round)),
+                    .slope = LeadingNumber(player.TourCourseTeePlayedSlope(round))};
+  if (!KVHalfWaits(state_)) {
+    KeepKVHalf(state_, half);
+    return WriteKVGolfer(state_, place_);
+  }
+  auto& entry = state_.Kelvane().score;
+  if (choice_.points) {
+    half.score = LeadingNumber(player.TourPointsGross(kWholeRound, round));
+  }
+  JoinKVHalves(state_, half);
+  if (choice_.points) entry.Set<"Rating">(0);
+  next_([&] { SetDate(); });
+  const double handicap = LeadingNumber(player.TourGrossHandicap(false, round));
+  entry.Set<"HandicapPlayed">(RoundToInt16(2 * handicap));
+  PostEntry();
+}
+
+}  // namespace golf

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "core/resume_next.h"
+#include "core/shared_state.h"
+#include "forms/screen_host.h"
+#include "stores/kelvane/kelvane_golfer_index.h"
+
+namespace golf {
+
+// What the operator has chosen for a run.
+struct TournamentScoreChoice {
+  int round = 1;
+  std::int32_t course = 0;  // its number in Kelvane's library; 0 an away course
+  bool back_nine = false;
+  std::array<std::array<std::uint8_t, 5>, 2> tees{};  // Kelvane's, by sex and tee group; 0 none
+  bool as_tournament = false;
+  bool points = false;      // are posted in place of scores
+  bool join_nines = false;  // a round of nine holes is half of an entry
+};
+
+// Posts the scores of a tournament's round into the histories of the open roster, one player after
+// the other. The tournament and its players are open in the shared objects. A fault while a player
+// is looked at, in a half, or while an entry is posted leaves him, without the mark that his score
+// has been transferred; any other one only leaves what it hit as it was.
+class TournamentScorePosting {
+ public:
+  struct Counts {
+    std::int16_t transferred = 0;
+    std::int16_t already = 0;      // transferred by an earlier run
+    std::int16_t to_transfer = 0;  // with a reason in the log
+    std::int16_t not_found = 0;
+  };
+
+  // `next` runs the statements that are carried over.
+  TournamentScorePosting(SharedState& state, ScreenHost& host, const TournamentScoreChoice& choice,
+                         const ResumeNext& next);
+
+  // The player in hand, who was read from this record of the tournament's file.
+  void Take(std::int32_t record);
+
+  const Counts& counts() const { return counts_; }
+  // A line for each score that is still to be transferred.
+  const std::string& log() const { return log_; }
+
+ private:
+  bool IsToBePosted();
+  bool IsWantedAgain();
+  bool IsComplete();
+  double AdjustedScore();
+  void Log(const std::string& reason);
+
+  void FillEntry();
+  void FillHoles();
+  void FillPoints();
+  void SetDate();
+  void SetTee();
+  void PostEntry();
+  void PostHalf();
+
+  SharedState& state_;
+  ScreenHost& host_;
+  const TournamentScoreChoice& choice_;
+  const ResumeNext& next_;
+  KelvaneGolferIndex golfers_;
+  std::int32_t place_ = 0;  // of the player among the roster's golfers
+  Counts counts_;
+  std::string log_;
+};
+
+}  // namespace golf

@@ -1,0 +1,348 @@
+#include "transfers/qb_to_kv.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "stores/kelvane/kelvane_layouts.h"
+#include "stores/kelvane/screens/load_roster.h"
+#include "support/bytes.h"
+#include "support/scored_round.h"
+#include "support/test_host.h"
+
+namespace golf {
+namespace {
+
+constexpr std::size_t kGolfer = 2804, kHistory = 14700, kScore = 49, kEntryLength = 3052;
+constexpr std::size_t kRecordOfHalf = 446, kCounters = 455, kFlags = 30, kOldCounter = 7;
+
+struct Player {
+  int id;  // 0: a free entry of the tournament
+  bool lady = false;
+  int missing_hole = 0;
+  bool sent = false;
+  int adjusted = 0;  // a total that was typed in
+};
+
+// What the operator chooses, and what the tournament is.
+struct Setting {
+  int course = -1;  // the item in the list; what is matched if below 0
+  bool as_tournament = false, points = false, by_total = false, date = true;
+  int holes = 18, roster_holes = 18;
+  std::string half = std::string(9, '\0');  // of each golfer, as it waits
+};
+
+std::string Half(int score, float rating, int slope, int tee = 1) {
+  std::string half(9, '\0');
+  half[2] = static_cast<char>(tee);
+  Put(half, 3, {rating});
+  half[7] = static_cast<char>(slope);
+  half[8] = static_cast<char>(score);
+  return half;
+}
+
+// An entry as it must be in a history: bytes from its course to its slope, and so on.
+struct Score {
+  int course, tee;
+  float rating;
+  int slope;
+  int first_hole;  // that holds a 4; 0 for none
+  int gross, adjusted, type, handicap;
+  bool counts = true;  // putts, fairways, greens
+
+  std::string Bytes(double date) const {
+    std::string bytes(kScore, '\0');
+    Put16(bytes, 0, {course});
+    bytes.replace(2, 6, Half(0, rating, slope, tee).substr(2, 6));
+    Put(bytes, 8, {date});
+    for (int hole = first_hole; first_hole > 0 && hole <= (gross == 36 ? first_hole + 8 : 18);) {
+      bytes[15 + static_cast<std::size_t>(hole++)] = 4;
+    }
+    bytes.replace(34, 3,
+                  {static_cast<char>(gross), static_cast<char>(adjusted), static_cast<char>(type)});
+    Put16(bytes, 37, {handicap});
+    if (counts) bytes.replace(39, 3, "\x1e\x7\x5");
+    PutText(bytes, 42, 7);
+    return bytes;
+  }
+};
+
+class QbToKvTest : public testing::Test {
+ protected:
+  static constexpr double kDay = 45000, kNow = 45600.5;
+
+  void Prepare(const Setting& setting, const std::vector<Player>& players) {
+    const auto courses = [&](const char* name, std::initializer_list<const char*> names) {
+      std::string file;
+      for (const char* of : names) {
+        CourseClass course(install.state());
+        course.BuildBlankRecord();
+        course.SetName(of);
+        course.SetHoleNumFlag(setting.roster_holes == 18 ? 18 : -9);
+        for (int tee = 2; tee <= 4; ++tee) {
+          course.SetTeeName(tee, tee == 2 ? "Red" : tee == 3 ? "White" : "Whitest");
+          if (name[0] == 'q' || tee != 2) course.SetActiveTees(tee, true);
+          for (int sex = 0; sex <= 1; ++sex) {
+            course.SetRating(tee, sex, 20.1 * tee + sex);
+            course.Setslope(tee, sex, 100 + 10 * tee + sex);
+          }
+          for (int hole = 1; hole <= 18; ++hole) course.SetHolePar(tee, hole, 4);
+        }
+        file += course.Stored().Bytes();
+      }
+      install.folder.Write(name, file);
+    };
+    courses("qbdata/qbcrs.dat", {"North park"});
+    courses("kvdata/kvcrs.dat", {"North", "NORTH PARK B", "North Star"});
+    std::string index(8, '\0');
+    Put16(index, 0, {3, 1, 2, 3});
+    for (const char* list : {"18", "9", "ALL"}) {
+      install.folder.Write("kvdata/" + std::string(list) + "CRSKV.INX", index);
+    }
+    ScoredRound made;
+    auto& control = made.control;
+    control.Set<"Name">("Medal");
+    control.Set<"NumRounds">(2);
+    control.Set<"NumTeesMenPlay">(1);
+    control.Set<"NumTeesLadiesPlay">(2);
+    control.Fill<"TeeNumberPlayed">(3);
+    control.Set<"RoundType">(static_cast<std::int16_t>(setting.holes));
+    control.Set<"ScoreEntryTotal">(setting.by_total ? -1 : 0);
+    control.Fill<"DateofRound">(setting.date ? kDay + 0.75 : 1e9);
+    install.folder.Write("qbdata/X0001.Q9C", std::string(control.Bytes()));
+    install.folder.Write("qbdata/XOLD.Q9C", "no tournament");
+    std::string golfers, entries;
+    for (std::size_t i = 0; i < players.size(); ++i) {
+      const Player& player = players[i];
+      made.golfer.Set<"IDNum">(player.id);
+      made.golfer.Set<"NameLast">("Player " + std::to_string(i + 1));
+      made.golfer.Set<"NameFirst">("A");
+      made.golfer.Set<"Sex">(player.lady ? 1 : 0);
+      golfers += made.golfer.Bytes();
+      auto& entry = made.entry;
+      entry.Set<"TourRosterRecordPointer">(static_cast<std::int16_t>(player.id == 0 ? 0 : i + 1));
+      for (int hole = 1; hole <= 18; ++hole) {
+        const bool played = hole <= setting.holes && hole != player.missing_hole;
+        entry.Set<"TourScoreGross">({hole, 2}, played ? 4 : 0);
+      }
+      entry.Set<"TourScoreGrossTotal">({2}, 80);
+      entry.Set<"TourScoreAdjusted">({2}, static_cast<std::int16_t>(player.adjusted));
+      entry.Set<"TourGrossHandicap">({2}, 9.0f);
+      entry.Fill<"TourGroupTee">(player.lady ? 2 : 1);
+      entry.Set<"TourFlags">({2}, player.sent ? 3 : 1);
+      entry.Set<"TourPutts">({2}, 30);
+      entry.Set<"TourFairways">({2}, 7);
+      entry.Set<"TourGreens">({2}, 5);
+      entries += entry.Bytes();
+    }
+    install.folder.Write("qbdata/QBGOLFER.Q9D", golfers);
+    install.folder.Write("qbdata/X0001.Q9G", entries_before = entries);
+    std::string header(781, '\1');
+    header[152] = static_cast<char>(setting.roster_holes);
+    header[153] = '\0';
+    Put(header, 220, {kNow, kDay - 1, kDay, 0.0});  // counters 3, 4 and 2: not, yes, yes
+    install.folder.Write("kvdata/CLUB.KV5", header);
+    roster_before.clear();
+    for (const int id : {50, 11, 12, 11}) {  // the first place is free
+      std::string golfer = Pattern(kGolfer);
+      Put16(golfer, 0, {id == 50 ? 0 : 1});
+      Put(golfer, 4, {std::int32_t{id}});
+      golfer.replace(kRecordOfHalf, 9, setting.half);
+      Put16(golfer, kCounters, {kOldCounter, kOldCounter, kOldCounter, kOldCounter});
+      roster_before += golfer;
+    }
+    install.folder.Write("kvdata/CLUB.KVG", roster_before);
+    history_before.assign(4 * kHistory, '\0');
+    for (std::size_t i = 0; i < 4; ++i) Put(history_before, i * kHistory + 8, {kDay - 100});
+    install.folder.Write("kvdata/CLUB.KVS", history_before);
+    install.folder.Write("qbdata/QBtoKV.DAT", "");
+    install.Restart();
+    install.state().Now = [] { return kNow; };
+  }
+
+  void Run(const Setting& setting) {
+    if (setting.points) install.host->QueueAnswer("Transfer QB points to KV Score?", "yes");
+    install.host->drive = [&](Screen& screen) {
+      if (auto* rosters = dynamic_cast<LoadRoster*>(&screen)) {
+        rosters->grid1.SetActiveRow(1);
+        return install.host->Press(screen, "LoadButton");
+      }
+      auto& transfer = dynamic_cast<QBtoKV&>(screen);
+      install.host->Press(screen, "DestButton");
+      captions = transfer.TransferButton.caption();
+      transfer.RoundList.Select(1);
+      captions += ", " + transfer.TransferButton.caption();
+      if (setting.course >= 0) transfer.CourseCombo.Select(setting.course);
+      transfer.TCheck.Choose(setting.as_tournament);
+      if (setting.points) transfer.TCheck2.Choose(true);
+      install.host->Press(screen, "TransferButton");
+      report = transfer.Message.text();
+      EXPECT_EQ(transfer.TransferButton.visible(), report.empty());
+      transfer.RoundList.Select(0);
+      EXPECT_TRUE(transfer.TransferButton.visible());
+    };
+    install.host->Operate([&] { OpenScreen(install.state(), *install.host, "QBtoKV", ""); });
+  }
+
+  // Puts a score into the expected history of a golfer's place, from 1.
+  void Post(std::size_t place, const std::string& bytes) {
+    std::string history = bytes + history_before.substr((place - 1) * kHistory, kHistory - kScore);
+    history_before.replace((place - 1) * kHistory, kHistory, history);
+    for (const std::size_t counter : {0, 1, 3}) {
+      const std::size_t at = (place - 1) * kGolfer + kCounters + 2 * counter;
+      Put16(roster_before, at, {Int16At(roster_before, at) + 1});
+    }
+  }
+  void ExpectFiles(const std::vector<std::size_t>& flagged) {
+    for (const std::size_t entry : flagged) {
+      entries_before[(entry - 1) * kEntryLength + kFlags + 2] = 3;
+    }
+    EXPECT_TRUE(install.folder.Read("kvdata/CLUB.KVG") == roster_before);
+    EXPECT_TRUE(install.folder.Read("kvdata/CLUB.KVS") == history_before);
+    EXPECT_TRUE(install.folder.Read("qbdata/X0001.Q9G") == entries_before);
+    EXPECT_EQ(install.folder.Read("kvdata/CLUB.KV5")[153], '\1');
+    EXPECT_FALSE(install.folder.Exists("qbdata/X0000.Q9C"));
+  }
+  std::string LastMessage() {
+    const auto message = std::find_if(install.events().rbegin(), install.events().rend(),
+                                      [](const auto& e) { return e.starts_with("message"); });
+    return message == install.events().rend() ? "" : *message;
+  }
+
+  TestInstall install;
+  std::string roster_before, history_before, entries_before;  // then as they must be
+  std::string report, captions;
+};
+
+TEST_F(QbToKvTest, AnEntryByteForByte) {
+  const Score plain{2, 4, 60.3f, 130, 1, 72, 72, 0, 9};
+  const Score away{0, 0, 60.3f, 130, 1, 72, 72, 2, 9};
+  const Score points{0, 0, 0, 130, 1, 72, 36, 0, 9};
+  const Score typed{2, 4, 60.3f, 130, 0, 80, 21, 0, 9};
+  const Score back{2, 4, 60.3f, 130, 10, 36, 36, 0, 9};
+  const Score joined{0, 1, 96.4f, 131, 0, 0, 77, 4, 18, false};
+  const Score joined_points{0, 1, 0, 131, 0, 0, 59, 4, 18, false};
+  const struct {
+    const char* what;
+    Setting setting;
+    const Score* score;  // null: a half waits instead
+    double date = kDay;
+  } kCases[] = {
+      {"course and tee by name", {}, &plain},
+      {"away, tournament", {.course = 0, .as_tournament = true}, &away},
+      {"points", {.points = true}, &points},
+      {"a typed total", {.by_total = true}, &typed},
+      {"no date", {.date = false}, &plain, kNow},
+      {"back nine", {.holes = 9, .roster_holes = 9}, &back},
+      {"first half", {.holes = 9}, nullptr},
+      {"first half with points", {.points = true, .holes = 9}, nullptr},
+      {"second half", {.holes = 9, .half = Half(41, 36.1f, 131)}, &joined},
+      {"its points", {.points = true, .holes = 9, .half = Half(41, 36.1f, 131)}, &joined_points},
+  };
+  for (const auto& c : kCases) {
+    SCOPED_TRACE(c.what);
+    Prepare(c.setting, {{.id = 11, .adjusted = 21}});
+    install.host->QueueAnswer("Continue", "Yes");
+    Run(c.setting);
+    std::string half = c.setting.half;
+    if (c.score != nullptr) {
+      Post(2, c.score->Bytes(c.date));
+      half[8] = 0;
+    } else {
+      half = Half(36, 60.3f, 130);
+    }
+    roster_before.replace(kGolfer + kRecordOfHalf, 9, half);
+    ExpectFiles({1});
+    EXPECT_EQ(install.host->faults().size(), c.setting.date ? 0 : 1);
+    EXPECT_EQ(LastMessage(), "message [Notice] 1 Scores transferred. -> OK");
+  }
+}
+
+TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
+  const std::vector<Player> kPlayers = {{11},
+                                        {12, true},
+                                        {11},
+                                        {12, false, 18},
+                                        {99},
+                                        {0},
+                                        {11, false, 0, true},
+                                        {77, false, 0, true}};
+  Prepare({}, kPlayers);
+  Run({});
+  const Score man{2, 4, 60.3f, 130, 1, 72, 72, 0, 9};
+  const Score lady{2, 4, 61.3f, 131, 1, 72, 72, 0, 9};
+  Post(2, man.Bytes(kDay));
+  Post(3, lady.Bytes(kDay));
+  Post(2, man.Bytes(kDay));
+  ExpectFiles({1, 2, 3});
+  EXPECT_EQ(report,
+            "2 Scores TO transfer.\r\n2 Scores already transferred.\r\n3 Scores transferred.\r\n"
+            "Player 4, A (Round 2 not complete)\r\nPlayer 5, A (No ID# match found)\r\n");
+  EXPECT_EQ(captions, "Transfer round #1 scores, Transfer round #2 scores");
+  const auto& events = install.events();
+  EXPECT_EQ(events.at(3),
+            "message [Transfer again?] The score for 'Player 7, A' (round #2) has already been "
+            "transferred.  Do you want to transfer it again? -> No");
+  EXPECT_EQ(events.at(5), "message [Notice] 1 golfers were NOT found. -> OK");
+
+  install.host->QueueAnswer("Transfer again?", "Yes");
+  Run({});  // the first one goes again
+  Post(2, man.Bytes(kDay));
+  ExpectFiles({});
+  EXPECT_EQ(
+      report.substr(0, 80),
+      "2 Scores TO transfer.\r\n4 Scores already transferred.\r\n1 Scores transferred.\r\nPla");
+  EXPECT_EQ(install.folder.Read("qbdata/QBtoKV.DAT").substr(0, 18), "\"NO\"\r\n\"CLUB\"\r\n0\r\n0");
+}
+
+TEST_F(QbToKvTest, Refusals) {
+  const struct {
+    Setting setting;
+    std::string message;
+  } kCases[] = {
+      {{.holes = 9}, "message [Continue] Transfers 9 hole scores to an 18 hole roster? -> No"},
+      {{.roster_holes = 9},
+       "message [Can not contine] You have selected an 9 hole Handicap Roster for a 18 hole "
+       "tournament. -> OK"},
+  };
+  for (const auto& c : kCases) {
+    Prepare(c.setting, {{11}});
+    install.host->QueueAnswer("Continue", "No");
+    Run(c.setting);
+    ExpectFiles({});
+    EXPECT_EQ(LastMessage(), c.message);
+  }
+}
+
+// No score twice, none flagged that is in no history, and no history ahead of its golfer; a golfer
+// may be ahead of his history, by the score that was being written.
+TEST_F(QbToKvTest, EachFileOperationFailsOnce) {
+  bool failed = true;
+  for (int nth = 1; failed; ++nth) {
+    SCOPED_TRACE(nth);
+    Prepare({}, {{11}, {12, true}});
+    install.platform->Fail({.error = ErrorNumber::kDiskFull, .nth = nth});
+    try {
+      Run({});
+    } catch (const ClickEnded&) {
+    }
+    failed = install.platform->Failed();
+    const std::string roster = install.folder.Read("kvdata/CLUB.KVG");
+    const std::string history = install.folder.Read("kvdata/CLUB.KVS");
+    const std::string entries = install.folder.Read("qbdata/X0001.Q9G");
+    for (std::size_t i = 0; i < 2; ++i) {
+      const bool flagged = entries.at(i * kEntryLength + kFlags + 2) == 3;
+      const std::size_t at = (i + 1) * kHistory;
+      const int posted = history.at(at + 35) == 72 ? 1 : 0;
+      EXPECT_NE(history.at(at + kScore + 35), 72);
+      EXPECT_LE(flagged, posted);
+      const int counted = Int16At(roster, (i + 1) * kGolfer + kCounters) - int{kOldCounter};
+      EXPECT_TRUE(counted == posted || (counted == 1 && !flagged));
+    }
+    ASSERT_LT(nth, 500);
+  }
+  EXPECT_EQ(LastMessage(), "message [Notice] 2 Scores transferred. -> OK");
+}
+
+}  // namespace
+}  // namespace golf
