@@ -106,7 +106,7 @@ double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int c
   MakeInstall(pristine, courses);
   const std::vector<Contender> contenders = {
       {"courses-kv-to-qb", {GOLF_CLI, "--quiet", "--install", "{}", "courses-kv-to-qb"}},
-      {"bare loop", {own_path, "--bare-loop", "{}"}},
+      BareLoopOf(own_path),
       {"cp --reflink=never", {"cp", "--reflink=never", "-r", pristine.string(), "{}/copy"}}};
   const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
   Print(std::to_string(courses) + " Kelvane courses, " + std::to_string(courses / 2) +
@@ -121,14 +121,10 @@ double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int c
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  if (argc == 3 && std::string(argv[1]) == "--bare-loop") {
-    BareLoop(argv[2]);
-    return 0;
-  }
-  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
-  const ScratchFolder scratch("bench-course-transfer");
-  const double small = RaceOver(scratch, argv[0], 10000, rounds);
-  const double large = RaceOver(scratch, argv[0], 30000, rounds);
-  std::printf("Three times the courses take %.2f times as long.\n", large / small);
-  return 0;
+  return RunBenchmark(argc, argv, BareLoop, [&](int rounds) {
+    const ScratchFolder scratch("bench-course-transfer");
+    const double small = RaceOver(scratch, argv[0], 10000, rounds);
+    const double large = RaceOver(scratch, argv[0], 30000, rounds);
+    std::printf("Three times the courses take %.2f times as long.\n", large / small);
+  });
 }

@@ -116,7 +116,7 @@ double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int g
       {"golfers-kv-to-qb",
        {GOLF_CLI, "--quiet", "--install", "{}", "golfers-kv-to-qb", "--roster", "CLUB", "--to",
         "1"}},
-      {"bare loop", {own_path, "--bare-loop", "{}"}}};
+      BareLoopOf(own_path)};
   const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
   Print(std::to_string(golfers) + " golfers into a file of as many, half of them the same",
         contenders, medians, 1);
@@ -129,14 +129,10 @@ double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int g
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  if (argc == 3 && std::string(argv[1]) == "--bare-loop") {
-    BareLoop(argv[2]);
-    return 0;
-  }
-  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
-  const ScratchFolder scratch("bench-golfer-transfer");
-  const double small = RaceOver(scratch, argv[0], 10000, rounds);
-  const double large = RaceOver(scratch, argv[0], 30000, rounds);
-  std::printf("Three times the golfers take %.2f times as long.\n", large / small);
-  return 0;
+  return RunBenchmark(argc, argv, BareLoop, [&](int rounds) {
+    const ScratchFolder scratch("bench-golfer-transfer");
+    const double small = RaceOver(scratch, argv[0], 10000, rounds);
+    const double large = RaceOver(scratch, argv[0], 30000, rounds);
+    std::printf("Three times the golfers take %.2f times as long.\n", large / small);
+  });
 }

@@ -114,20 +114,16 @@ void BareLoop(const fs::path& folder) {
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  if (argc == 3 && std::string(argv[1]) == "--bare-loop") {
-    BareLoop(argv[2]);
-    return 0;
-  }
-  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
-  const ScratchFolder scratch("bench-league-scores");
-  const auto pristine = scratch.path() / "pristine";
-  MakeInstall(pristine);
-  const std::vector<Contender> contenders = {
-      {"scores-zd-to-kv",
-       {GOLF_CLI, "--quiet", "--install", "{}", "scores-zd-to-kv", "--league", "00011", "--batch",
-        std::to_string(kEvent), "--roster", "CLUB"}},
-      {"bare loop", {argv[0], "--bare-loop", "{}"}}};
-  const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
-  Print("2,000 scores of a league into a roster of 20,000 golfers", contenders, medians, 1);
-  return 0;
+  return RunBenchmark(argc, argv, BareLoop, [&](int rounds) {
+    const ScratchFolder scratch("bench-league-scores");
+    const auto pristine = scratch.path() / "pristine";
+    MakeInstall(pristine);
+    const std::vector<Contender> contenders = {
+        {"scores-zd-to-kv",
+         {GOLF_CLI, "--quiet", "--install", "{}", "scores-zd-to-kv", "--league", "00011", "--batch",
+          std::to_string(kEvent), "--roster", "CLUB"}},
+        BareLoopOf(argv[0])};
+    const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
+    Print("2,000 scores of a league into a roster of 20,000 golfers", contenders, medians, 1);
+  });
 }

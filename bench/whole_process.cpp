@@ -85,6 +85,20 @@ void Print(const std::string& title, const std::vector<Contender>& contenders,
   }
 }
 
+int RunBenchmark(int argc, char** argv, void (*bare_loop)(const fs::path&),
+                 const std::function<void(int rounds)>& race) {
+  if (argc == 3 && std::string(argv[1]) == "--bare-loop") {
+    bare_loop(argv[2]);
+  } else {
+    race(std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5));
+  }
+  return 0;
+}
+
+Contender BareLoopOf(const std::string& own_path) {
+  return {"bare loop", {own_path, "--bare-loop", "{}"}};
+}
+
 ScratchFolder::ScratchFolder(const std::string& name)
     : path_(fs::temp_directory_path() / (name + "-" + std::to_string(getpid()))) {
   fs::create_directories(path_);

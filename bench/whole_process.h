@@ -30,6 +30,13 @@ std::vector<Measured> Race(const std::filesystem::path& pristine, const std::fil
 void Print(const std::string& title, const std::vector<Contender>& contenders,
            const std::vector<Measured>& medians, std::size_t base);
 
+// The frame of a benchmark beside a bare loop: "--bare-loop DIR" is the loop over an install, any
+// other arguments are `race`, which is given how many rounds are asked for, 5 at least.
+int RunBenchmark(int argc, char** argv, void (*bare_loop)(const std::filesystem::path&),
+                 const std::function<void(int rounds)>& race);
+// The bare loop of this very program as a contender.
+Contender BareLoopOf(const std::string& own_path);
+
 // A folder for one benchmark, taken away at the end. Below TMPDIR, where that is set.
 class ScratchFolder {
  public:

@@ -194,9 +194,7 @@ void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvRequest&
       app, "scores-qb-to-kv", "Transfer the scores of a tournament's round, Quenby to Kelvane",
       "--install golf-demo scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18", chosen,
       [&] { return RunScoresQbToKv(options, request); });
-  AddNumber(*command, "--tournament", request.tournament, "As in list tournaments")
-      ->required()
-      ->type_name("N");
+  AddNumber(*command, "--tournament", request.tournament, "As in list tournaments")->required();
   AddNumber(*command, "--round", request.round, "Of the tournament")->required()->type_name("R");
   AddRoster(*command, request.roster);
   AddNumber(*command, "--course", request.course,
@@ -258,7 +256,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
                               "dump golf-demo/kvdata/kvcrs.dat --record 1", chosen,
                               [&] { return RunDump(options, args.dump); });
   dump->add_option("FILE", args.dump.file, "A file of Kelvane, Quenby or Zandel")->required();
-  AddNumber(*dump, "--record", args.dump.record, "Only this record, from 1")->type_name("N");
+  AddNumber(*dump, "--record", args.dump.record, "Only this record, from 1");
   dump->add_flag("--csv", args.dump.csv, "A line a record, with a heading");
 
   CLI::App* results = AddCommand(app, "results", "Show what scoring works out",
@@ -270,7 +268,6 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
       ->required()
       ->check(CLI::IsMember(ResultsNames()));
   AddNumber(*results, "--tournament", args.results.tournament, "The tournament's number")
-      ->type_name("N")
       ->required();
   AddNumber(*results, "--round", args.results.round, "The round; the active one if left out")
       ->type_name("R");

@@ -59,8 +59,7 @@ void LoadRoster::OnLoad() {
 }
 
 void LoadRoster::OnActivate() {
-  opens_only_ = tag() == "OPENONLY";
-  if (!opens_only_) return;
+  if (!OpensOnly()) return;
   NewButton.SetVisible(false);
   DeleteButton.SetVisible(false);
 }
@@ -119,8 +118,8 @@ void LoadRoster::ShowNewRosterFrame(bool shown) {
   grid1.SetVisible(!shown);
   LoadButton.SetVisible(!shown);
   CancelButton.SetVisible(!shown);
-  NewButton.SetVisible(!shown && !opens_only_);
-  DeleteButton.SetVisible(!shown && !opens_only_);
+  NewButton.SetVisible(!shown && !OpensOnly());
+  DeleteButton.SetVisible(!shown && !OpensOnly());
   LoadButton.SetDefault(!shown);
   CancelButton.SetCancel(!shown);
   OK2Button.SetDefault(shown);

@@ -44,8 +44,7 @@ class LoadRoster : public Screen {
   void MakeNew();
   void AskToDelete();
   void Delete(const std::string& name);
-
-  bool opens_only_ = false;
+  bool OpensOnly() const { return tag() == "OPENONLY"; }
 };
 
 }  // namespace golf

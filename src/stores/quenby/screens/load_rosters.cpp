@@ -18,8 +18,6 @@ constexpr int kAddressColumns[] = {2, 3, 4};
 constexpr int kPhoneColumn = 5;
 constexpr int kMemberships = 3;
 
-bool IsYes(std::string_view answer) { return EqualIgnoringCase(answer.substr(0, 1), "Y"); }
-
 }  // namespace
 
 LoadRosters::LoadRosters(const ScreenContext& context) : Screen("LoadRosters", context) {
@@ -222,7 +220,7 @@ void LoadRosters::AskToDelete() {
                           .text = "Type 'YES' to DELETE roster - '" + program.ClubName() +
                                   "'.\r\rAll players in this roster will be deleted.",
                           .default_answer = "NO"});
-  if (IsYes(answer)) {
+  if (MeansYes(answer)) {
     program.DeleteRosterRecord(roster);
     TakeGolfersOut(roster);
   }
