@@ -100,20 +100,13 @@ void BareLoop(const fs::path& folder) {
   close(kelvane);
 }
 
-double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int courses,
-                int rounds) {
-  const fs::path pristine = scratch.path() / "pristine";
-  MakeInstall(pristine, courses);
-  const std::vector<Contender> contenders = {
-      {"courses-kv-to-qb", {GOLF_CLI, "--quiet", "--install", "{}", "courses-kv-to-qb"}},
-      BareLoopOf(own_path),
-      {"cp --reflink=never", {"cp", "--reflink=never", "-r", pristine.string(), "{}/copy"}}};
-  const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
-  Print(std::to_string(courses) + " Kelvane courses, " + std::to_string(courses / 2) +
-            " in Quenby, all linked",
-        contenders, medians, 1);
-  fs::remove_all(pristine);
-  return medians[0].seconds;
+BareLoopRace RaceOver(int courses) {
+  return {.title = std::to_string(courses) + " Kelvane courses, " + std::to_string(courses / 2) +
+                   " in Quenby, all linked",
+          .make_install = [courses](const fs::path& folder) { MakeInstall(folder, courses); },
+          .words = {"courses-kv-to-qb"},
+          .others = {{"cp --reflink=never",
+                      {"sh", "-c", "cd {} && mkdir copy && cp --reflink=never -r *data copy"}}}};
 }
 
 }  // namespace
@@ -121,10 +114,7 @@ double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int c
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  return RunBenchmark(argc, argv, BareLoop, [&](int rounds) {
-    const ScratchFolder scratch("bench-course-transfer");
-    const double small = RaceOver(scratch, argv[0], 10000, rounds);
-    const double large = RaceOver(scratch, argv[0], 30000, rounds);
-    std::printf("Three times the courses take %.2f times as long.\n", large / small);
-  });
+  const auto seconds = RaceBareLoop(argc, argv, BareLoop, {RaceOver(10000), RaceOver(30000)});
+  if (seconds.empty()) return 0;
+  std::printf("Three times the courses take %.2f times as long.\n", seconds[1] / seconds[0]);
 }

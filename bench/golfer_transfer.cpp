@@ -108,20 +108,11 @@ void BareLoop(const fs::path& folder) {
   close(kelvane);
 }
 
-double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int golfers,
-                int rounds) {
-  const fs::path pristine = scratch.path() / "pristine";
-  MakeInstall(pristine, golfers);
-  const std::vector<Contender> contenders = {
-      {"golfers-kv-to-qb",
-       {GOLF_CLI, "--quiet", "--install", "{}", "golfers-kv-to-qb", "--roster", "CLUB", "--to",
-        "1"}},
-      BareLoopOf(own_path)};
-  const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
-  Print(std::to_string(golfers) + " golfers into a file of as many, half of them the same",
-        contenders, medians, 1);
-  fs::remove_all(pristine);
-  return medians[0].seconds;
+BareLoopRace RaceOver(int golfers) {
+  return {
+      .title = std::to_string(golfers) + " golfers into a file of as many, half of them the same",
+      .make_install = [golfers](const fs::path& folder) { MakeInstall(folder, golfers); },
+      .words = {"golfers-kv-to-qb", "--roster", "CLUB", "--to", "1"}};
 }
 
 }  // namespace
@@ -129,10 +120,7 @@ double RaceOver(const ScratchFolder& scratch, const std::string& own_path, int g
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  return RunBenchmark(argc, argv, BareLoop, [&](int rounds) {
-    const ScratchFolder scratch("bench-golfer-transfer");
-    const double small = RaceOver(scratch, argv[0], 10000, rounds);
-    const double large = RaceOver(scratch, argv[0], 30000, rounds);
-    std::printf("Three times the golfers take %.2f times as long.\n", large / small);
-  });
+  const auto seconds = RaceBareLoop(argc, argv, BareLoop, {RaceOver(10000), RaceOver(30000)});
+  if (seconds.empty()) return 0;
+  std::printf("Three times the golfers take %.2f times as long.\n", seconds[1] / seconds[0]);
 }

@@ -6,13 +6,9 @@
 // league_scores [ROUNDS]            prints medians
 // league_scores --bare-loop DIR     is the bare loop
 
-#include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <string>
-#include <vector>
 
 #include "bare_file.h"
 #include "score_roster.h"
@@ -114,16 +110,9 @@ void BareLoop(const fs::path& folder) {
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  return RunBenchmark(argc, argv, BareLoop, [&](int rounds) {
-    const ScratchFolder scratch("bench-league-scores");
-    const auto pristine = scratch.path() / "pristine";
-    MakeInstall(pristine);
-    const std::vector<Contender> contenders = {
-        {"scores-zd-to-kv",
-         {GOLF_CLI, "--quiet", "--install", "{}", "scores-zd-to-kv", "--league", "00011", "--batch",
-          std::to_string(kEvent), "--roster", "CLUB"}},
-        BareLoopOf(argv[0])};
-    const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
-    Print("2,000 scores of a league into a roster of 20,000 golfers", contenders, medians, 1);
-  });
+  RaceBareLoop(argc, argv, BareLoop,
+               {{.title = "2,000 scores of a league into a roster of 20,000 golfers",
+                 .make_install = MakeInstall,
+                 .words = {"scores-zd-to-kv", "--league", "00011", "--batch",
+                           std::to_string(kEvent), "--roster", "CLUB"}}});
 }

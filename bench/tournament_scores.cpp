@@ -6,10 +6,7 @@
 // tournament_scores [ROUNDS]            prints medians
 // tournament_scores --bare-loop DIR     is the bare loop
 
-#include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <string>
 
@@ -117,16 +114,9 @@ void BareLoop(const fs::path& folder) {
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  return RunBenchmark(argc, argv, BareLoop, [&](int rounds) {
-    const ScratchFolder scratch("bench-tournament-scores");
-    const auto pristine = scratch.path() / "pristine";
-    MakeInstall(pristine);
-    const std::vector<Contender> contenders = {
-        {"scores-qb-to-kv",
-         {GOLF_CLI, "--quiet", "--install", "{}", "scores-qb-to-kv", "--tournament", "1", "--round",
-          "1", "--roster", "CLUB"}},
-        BareLoopOf(argv[0])};
-    const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
-    Print("2,000 scores of a tournament into a roster of 20,000 golfers", contenders, medians, 1);
-  });
+  RaceBareLoop(
+      argc, argv, BareLoop,
+      {{.title = "2,000 scores of a tournament into a roster of 20,000 golfers",
+        .make_install = MakeInstall,
+        .words = {"scores-qb-to-kv", "--tournament", "1", "--round", "1", "--roster", "CLUB"}}});
 }

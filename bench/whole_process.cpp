@@ -85,18 +85,28 @@ void Print(const std::string& title, const std::vector<Contender>& contenders,
   }
 }
 
-int RunBenchmark(int argc, char** argv, void (*bare_loop)(const fs::path&),
-                 const std::function<void(int rounds)>& race) {
+std::vector<double> RaceBareLoop(int argc, char** argv, void (*bare_loop)(const fs::path&),
+                                 const std::vector<BareLoopRace>& races) {
+  std::vector<double> seconds;
   if (argc == 3 && std::string(argv[1]) == "--bare-loop") {
     bare_loop(argv[2]);
-  } else {
-    race(std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5));
+    return seconds;
   }
-  return 0;
-}
-
-Contender BareLoopOf(const std::string& own_path) {
-  return {"bare loop", {own_path, "--bare-loop", "{}"}};
+  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
+  const ScratchFolder scratch("bench");
+  const fs::path pristine = scratch.path() / "pristine";
+  for (const BareLoopRace& race : races) {
+    fs::remove_all(pristine);
+    race.make_install(pristine);
+    Contender command{race.words.front(), {GOLF_CLI, "--quiet", "--install", "{}"}};
+    command.command.insert(command.command.end(), race.words.begin(), race.words.end());
+    std::vector<Contender> contenders = {command, {"bare loop", {argv[0], "--bare-loop", "{}"}}};
+    contenders.insert(contenders.end(), race.others.begin(), race.others.end());
+    const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
+    Print(race.title, contenders, medians, 1);
+    seconds.push_back(medians[0].seconds);
+  }
+  return seconds;
 }
 
 ScratchFolder::ScratchFolder(const std::string& name)

@@ -30,12 +30,20 @@ std::vector<Measured> Race(const std::filesystem::path& pristine, const std::fil
 void Print(const std::string& title, const std::vector<Contender>& contenders,
            const std::vector<Measured>& medians, std::size_t base);
 
-// The frame of a benchmark beside a bare loop: "--bare-loop DIR" is the loop over an install, any
-// other arguments are `race`, which is given how many rounds are asked for, 5 at least.
-int RunBenchmark(int argc, char** argv, void (*bare_loop)(const std::filesystem::path&),
-                 const std::function<void(int rounds)>& race);
-// The bare loop of this very program as a contender.
-Contender BareLoopOf(const std::string& own_path);
+// A command of the program beside the same work as a bare loop.
+struct BareLoopRace {
+  std::string title;
+  std::function<void(const std::filesystem::path& folder)> make_install;
+  std::vector<std::string> words;  // behind "--install FOLDER"; the command's name first
+  std::vector<Contender> others = {};
+};
+
+// The main function of a benchmark beside a bare loop. "--bare-loop DIR" is the loop over an
+// install; else each race is run and printed, in as many rounds as the argument says, 5 at least.
+// Gives the seconds of the command in each.
+std::vector<double> RaceBareLoop(int argc, char** argv,
+                                 void (*bare_loop)(const std::filesystem::path&),
+                                 const std::vector<BareLoopRace>& races);
 
 // A folder for one benchmark, taken away at the end. Below TMPDIR, where that is set.
 class ScratchFolder {

@@ -33,6 +33,7 @@ bool OpenUnlessHeld(SharedState& state, ScreenHost& host, const CourseLibrary& l
     OpenCourseLibrary(state, library);
     return true;
   } catch (const NumberedError& error) {
+    state.Course().CloseCourseFile();
     if (!error.Is(ErrorNumber::kPermissionDenied)) throw;
   }
   const std::string sibling(library.sibling);

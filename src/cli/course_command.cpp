@@ -65,7 +65,10 @@ const HoleRow kRows[] = {
      {}},
     {"sequence",
      "Sequence",
-     [](CourseClass& course, int tee, int n) { return std::to_string(course.StrkSqnc(tee, n)); },
+     // As stored: 0 where there is none.
+     [](CourseClass& course, int tee, int n) {
+       return std::to_string(course.Stored().Get<"StrkSqnc">(tee, n));
+     },
      {}}};
 
 constexpr const char* kTotalKeys[] = {"Out", "In", "Total"};

@@ -58,12 +58,13 @@ wxPanel* MakeMain(ScreenPanel& panel, KVtoZD& screen) {
   content->Add(MakeLabel(binding, frame, screen.Label1[0]), wxSizerFlags().CentreHorizontal());
   content->Add(ends, group);
   content->Add(Handicaps(binding, frame, screen), group);
-  content->Add(RunLog(binding, frame, screen.Label1[3], screen.Message),
-               wxSizerFlags(1).Expand().Border(wxTOP, gap));
-  content->Add(RunProgress(panel, frame, screen.Working, screen.WorkingCount), group);
-  content->Add(ButtonRow({.affirmative = MakeButton(binding, frame, screen.TransferButton),
-                          .cancel = MakeButton(binding, frame, screen.CancelButton)}),
-               group);
+  AddRun(*content, panel, frame,
+         {.heading = screen.Label1[3],
+          .log = screen.Message,
+          .working = screen.Working,
+          .count = &screen.WorkingCount,
+          .transfer = screen.TransferButton,
+          .leave = screen.CancelButton});
   frame->SetSizer(content);
   return frame;
 }
@@ -71,10 +72,7 @@ wxPanel* MakeMain(ScreenPanel& panel, KVtoZD& screen) {
 }  // namespace
 
 void FillKVtoZD(ScreenPanel& panel, KVtoZD& screen) {
-  auto* content = new wxBoxSizer(wxVERTICAL);
-  content->Add(MakeMain(panel, screen), wxSizerFlags(1).Expand());
-  content->Add(MakeLeaguePanel(panel, screen.picker), wxSizerFlags(1).Expand());
-  FinishWindow(panel, content);
+  FillWithLeagues(panel, MakeMain(panel, screen), screen.picker);
 }
 
 }  // namespace golf

@@ -12,6 +12,31 @@ constexpr int kLogLines = 11;
 
 std::string WithoutEdges(const std::string& text) { return std::string(Trim(text)); }
 
+wxSizer* RunLog(Binding& binding, wxWindow* parent, Label& heading, TextBox& log) {
+  wxStaticText* title = MakeLabel(binding, parent, heading, WithoutEdges);
+  MakeBold(*title);
+  wxTextCtrl* box = MakeTextBox(binding, parent, log, wxTE_MULTILINE | wxTE_DONTWRAP);
+  wxFont font = box->GetFont();
+  font.SetFamily(wxFONTFAMILY_TELETYPE);
+  box->SetFont(font);
+  box->SetMinSize({kLogColumns * box->GetCharWidth(), kLogLines * box->GetCharHeight()});
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(title, wxSizerFlags().Expand());
+  column->Add(box, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(*parent)));
+  column->Add(LogButtons(parent, *box), wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));
+  return column;
+}
+
+wxSizer* RunProgress(ScreenPanel& panel, wxWindow* parent, const RunControls& run) {
+  auto* texts = new wxBoxSizer(wxHORIZONTAL);
+  texts->Add(MakeLabel(panel.binding(), parent, run.working), wxSizerFlags(1));
+  if (run.count != nullptr) texts->Add(MakeLabel(panel.binding(), parent, *run.count));
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(texts, wxSizerFlags().Expand());
+  AddKeepingPlace(*column, *panel.MakeGauge(parent), CloseGap(panel));
+  return column;
+}
+
 }  // namespace
 
 int CloseGap(const wxWindow& window) { return window.FromDIP(6); }
@@ -59,29 +84,15 @@ wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBo
   return Column({title, box, MakeButton(binding, parent, finder)});
 }
 
-wxSizer* RunLog(Binding& binding, wxWindow* parent, Label& heading, TextBox& log) {
-  wxStaticText* title = MakeLabel(binding, parent, heading, WithoutEdges);
-  MakeBold(*title);
-  wxTextCtrl* box = MakeTextBox(binding, parent, log, wxTE_MULTILINE | wxTE_DONTWRAP);
-  wxFont font = box->GetFont();
-  font.SetFamily(wxFONTFAMILY_TELETYPE);
-  box->SetFont(font);
-  box->SetMinSize({kLogColumns * box->GetCharWidth(), kLogLines * box->GetCharHeight()});
-  auto* column = new wxBoxSizer(wxVERTICAL);
-  column->Add(title, wxSizerFlags().Expand());
-  column->Add(box, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(*parent)));
-  column->Add(LogButtons(parent, *box), wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));
-  return column;
-}
-
-wxSizer* RunProgress(ScreenPanel& panel, wxWindow* parent, Label& working, Label& count) {
-  auto* texts = new wxBoxSizer(wxHORIZONTAL);
-  texts->Add(MakeLabel(panel.binding(), parent, working), wxSizerFlags(1));
-  texts->Add(MakeLabel(panel.binding(), parent, count));
-  auto* column = new wxBoxSizer(wxVERTICAL);
-  column->Add(texts, wxSizerFlags().Expand());
-  AddKeepingPlace(*column, *panel.MakeGauge(parent), CloseGap(panel));
-  return column;
+void AddRun(wxSizer& content, ScreenPanel& panel, wxWindow* parent, const RunControls& run) {
+  Binding& binding = panel.binding();
+  const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
+  content.Add(RunLog(binding, parent, run.heading, run.log),
+              wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
+  content.Add(RunProgress(panel, parent, run), group);
+  content.Add(ButtonRow({.affirmative = MakeButton(binding, parent, run.transfer),
+                         .cancel = MakeButton(binding, parent, run.leave)}),
+              group);
 }
 
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above) {

@@ -32,11 +32,17 @@ wxSizer* ButtonRow(const EndButtons& buttons);
 wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBox& name,
                       Button& finder);
 
-// The log of a run, in columns, with its heading above and buttons to copy and save it below.
-wxSizer* RunLog(Binding& binding, wxWindow* parent, Label& heading, TextBox& log);
-
-// How far a run has come: a text, a count, and the panel's gauge.
-wxSizer* RunProgress(ScreenPanel& panel, wxWindow* parent, Label& working, Label& count);
+// What a run shows, and the buttons that start it and leave the screen.
+struct RunControls {
+  Label& heading;
+  TextBox& log;  // in columns, with buttons to copy and save it below
+  Label& working;
+  Label* count;  // may be null
+  Button& transfer;
+  Button& leave;
+};
+// Adds them below what a run is asked for, with the panel's gauge.
+void AddRun(wxSizer& content, ScreenPanel& panel, wxWindow* parent, const RunControls& run);
 
 // Adds a widget that keeps its place while it is hidden.
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above);

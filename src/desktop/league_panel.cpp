@@ -4,6 +4,7 @@
 #include "desktop/widgets.h"
 
 namespace golf {
+namespace {
 
 wxPanel* MakeLeaguePanel(ScreenPanel& panel, LeaguePicker& picker) {
   Binding& binding = panel.binding();
@@ -19,6 +20,15 @@ wxPanel* MakeLeaguePanel(ScreenPanel& panel, LeaguePicker& picker) {
                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   frame->SetSizer(content);
   return frame;
+}
+
+}  // namespace
+
+void FillWithLeagues(ScreenPanel& panel, wxPanel* main, LeaguePicker& picker) {
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(main, wxSizerFlags(1).Expand());
+  content->Add(MakeLeaguePanel(panel, picker), wxSizerFlags(1).Expand());
+  FinishWindow(panel, content);
 }
 
 }  // namespace golf

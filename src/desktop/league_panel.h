@@ -5,7 +5,8 @@
 
 namespace golf {
 
-// The panel of a league picker, which comes up in the place of the screen's main panel.
-wxPanel* MakeLeaguePanel(ScreenPanel& panel, LeaguePicker& picker);
+// Fills a window with the screen's main panel and that of its league picker, which comes up in its
+// place.
+void FillWithLeagues(ScreenPanel& panel, wxPanel* main, LeaguePicker& picker);
 
 }  // namespace golf

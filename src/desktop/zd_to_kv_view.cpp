@@ -30,16 +30,15 @@ wxSizer* Ends(Binding& binding, wxWindow* parent, ZDtoKV& screen) {
 wxPanel* MakeMain(ScreenPanel& panel, ZDtoKV& screen) {
   Binding& binding = panel.binding();
   wxPanel* frame = MakeFrame(binding, &panel, screen.Frame2);
-  const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(Ends(binding, frame, screen), wxSizerFlags().Expand());
-  content->Add(RunLog(binding, frame, screen.Label1[0], screen.Message),
-               wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
-  content->Add(MakeLabel(binding, frame, screen.Working), group);
-  AddKeepingPlace(*content, *panel.MakeGauge(frame), CloseGap(panel));
-  content->Add(ButtonRow({.affirmative = MakeButton(binding, frame, screen.TransferButton),
-                          .cancel = MakeButton(binding, frame, screen.ExitButton)}),
-               group);
+  AddRun(*content, panel, frame,
+         {.heading = screen.Label1[0],
+          .log = screen.Message,
+          .working = screen.Working,
+          .count = nullptr,
+          .transfer = screen.TransferButton,
+          .leave = screen.ExitButton});
   frame->SetSizer(content);
   return frame;
 }
@@ -47,10 +46,7 @@ wxPanel* MakeMain(ScreenPanel& panel, ZDtoKV& screen) {
 }  // namespace
 
 void FillZDtoKV(ScreenPanel& panel, ZDtoKV& screen) {
-  auto* content = new wxBoxSizer(wxVERTICAL);
-  content->Add(MakeMain(panel, screen), wxSizerFlags(1).Expand());
-  content->Add(MakeLeaguePanel(panel, screen.picker), wxSizerFlags(1).Expand());
-  FinishWindow(panel, content);
+  FillWithLeagues(panel, MakeMain(panel, screen), screen.picker);
 }
 
 }  // namespace golf

@@ -25,12 +25,13 @@ wxPanel* MakeMain(ScreenPanel& panel, ZDtoQB& screen) {
   content->Add(Column({MakeCheckBox(binding, frame, screen.Handicapto18),
                        MakeCheckBox(binding, frame, screen.TransferSubs)}),
                group);
-  content->Add(RunLog(binding, frame, screen.Label1[3], screen.Message),
-               wxSizerFlags(1).Expand().Border(wxTOP, gap));
-  content->Add(RunProgress(panel, frame, screen.Working, screen.WorkingCount), group);
-  content->Add(ButtonRow({.affirmative = MakeButton(binding, frame, screen.TransferButton),
-                          .cancel = MakeButton(binding, frame, screen.CancelButton)}),
-               group);
+  AddRun(*content, panel, frame,
+         {.heading = screen.Label1[3],
+          .log = screen.Message,
+          .working = screen.Working,
+          .count = &screen.WorkingCount,
+          .transfer = screen.TransferButton,
+          .leave = screen.CancelButton});
   frame->SetSizer(content);
   return frame;
 }
@@ -38,10 +39,7 @@ wxPanel* MakeMain(ScreenPanel& panel, ZDtoQB& screen) {
 }  // namespace
 
 void FillZDtoQB(ScreenPanel& panel, ZDtoQB& screen) {
-  auto* content = new wxBoxSizer(wxVERTICAL);
-  content->Add(MakeMain(panel, screen), wxSizerFlags(1).Expand());
-  content->Add(MakeLeaguePanel(panel, screen.picker), wxSizerFlags(1).Expand());
-  FinishWindow(panel, content);
+  FillWithLeagues(panel, MakeMain(panel, screen), screen.picker);
 }
 
 }  // namespace golf

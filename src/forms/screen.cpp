@@ -39,6 +39,13 @@ void Screen::Add(std::initializer_list<Control*> controls) {
   controls_.insert(controls_.end(), controls);
 }
 
+void Screen::AddInto(Frame& frame, const std::vector<Control*>& controls) {
+  for (Control* control : controls) {
+    Add({control});
+    control->SetParent(frame);
+  }
+}
+
 Control* Screen::FindControl(std::string_view name) const {
   for (Control* control : controls_) {
     if (EqualIgnoringCase(control->name(), name)) return control;

@@ -81,6 +81,8 @@ class Screen : public std::enable_shared_from_this<Screen> {
   ScreenHost& host() const { return context_.host; }
 
   void Add(std::initializer_list<Control*> controls);
+  // Adds controls that stand in a frame.
+  void AddInto(Frame& frame, const std::vector<Control*>& controls);
 
  private:
   std::string name_;

@@ -92,15 +92,12 @@ KVtoZD::KVtoZD(const ScreenContext& context)
               .leave = CancelButton,
               .take = [this](std::string league) { DestLabel.SetCaption(std::move(league)); }}) {
   SetCaption("Transfer GOLFERS from Kelvane to Zandel");
-  const std::initializer_list<Control*> main = {
-      &FindKVMButton,   &SourcePath,   &FindZDButton, &DestLabel, &HandicapType[0],
-      &HandicapType[1], &HandicapPrct, &Label1[0],    &Label1[1], &Label1[2],
-      &Label1[3],       &Label1[4],    &Label1[5],    &Label1[6], &Label1[7],
-      &TransferButton,  &CancelButton, &Message,      &Working,   &WorkingCount};
-  for (Control* control : main) control->SetParent(Frame1);
-  Add(main);
-  Add({&Frame1, &picker.Panel, &picker.LoadLeagueLabel, &picker.LeagueList, &picker.OKLEague,
-       &picker.CancelLeague});
+  Add({&Frame1, &picker.Panel});
+  AddInto(Frame1, {&FindKVMButton,   &SourcePath,   &FindZDButton, &DestLabel, &HandicapType[0],
+                   &HandicapType[1], &HandicapPrct, &Label1[0],    &Label1[1], &Label1[2],
+                   &Label1[3],       &Label1[4],    &Label1[5],    &Label1[6], &Label1[7],
+                   &TransferButton,  &CancelButton, &Message,      &Working,   &WorkingCount});
+  AddInto(picker.Panel, picker.Controls());
   Message.SetReadOnly(true);
   HandicapType[1].SetValue(true);
   for (std::size_t type = 0; type < HandicapType.size(); ++type) {

@@ -61,13 +61,11 @@ ZDtoKV::ZDtoKV(const ScreenContext& context)
               .take = [this](std::string league) { TakeLeague(std::move(league)); },
               .pick_gives_escape_back = false}) {
   SetCaption("Transfer Zandel Scores to Kelvane");
-  const std::initializer_list<Control*> main = {
-      &SourceButton, &LeagueRoster, &EventList, &DestButton, &HandicapRoster, &TransferButton,
-      &ExitButton,   &Message,      &Working,   &Label1[0],  &Label1[1],      &Label1[2]};
-  for (Control* control : main) control->SetParent(Frame2);
-  Add(main);
-  Add({&picker.Panel, &Frame2, &picker.LoadLeagueLabel, &picker.LeagueList, &picker.OKLEague,
-       &picker.CancelLeague});
+  Add({&Frame2, &picker.Panel});
+  AddInto(Frame2,
+          {&SourceButton, &LeagueRoster, &EventList, &DestButton, &HandicapRoster, &TransferButton,
+           &ExitButton, &Message, &Working, &Label1[0], &Label1[1], &Label1[2]});
+  AddInto(picker.Panel, picker.Controls());
   Message.SetReadOnly(true);
   EventList.on_click = [this] { TransferButton.SetVisible(true); };
   DestButton.on_click = [this] { FindDestination(); };

@@ -64,14 +64,11 @@ ZDtoQB::ZDtoQB(const ScreenContext& context)
                 MoveFocus(&TransferButton);
               }}) {
   SetCaption("Transfer GOLFERS from Zandel to Quenby");
-  const std::initializer_list<Control*> main = {
-      &SourceButton, &LeagueRoster,   &DestButton,   &TournamentRoster, &Handicapto18,
-      &TransferSubs, &TransferButton, &CancelButton, &Message,          &Working,
-      &WorkingCount, &Label1[0],      &Label1[1],    &Label1[2],        &Label1[3]};
-  for (Control* control : main) control->SetParent(Frame2);
-  Add(main);
-  Add({&picker.Panel, &Frame2, &picker.LoadLeagueLabel, &picker.LeagueList, &picker.OKLEague,
-       &picker.CancelLeague});
+  Add({&Frame2, &picker.Panel});
+  AddInto(Frame2, {&SourceButton, &LeagueRoster, &DestButton, &TournamentRoster, &Handicapto18,
+                   &TransferSubs, &TransferButton, &CancelButton, &Message, &Working, &WorkingCount,
+                   &Label1[0], &Label1[1], &Label1[2], &Label1[3]});
+  AddInto(picker.Panel, picker.Controls());
   Message.SetReadOnly(true);
   DestButton.on_click = [this] {
     TournamentRoster.SetText(AskForQuenbyRoster(state(), host(), true));

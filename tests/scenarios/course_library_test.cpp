@@ -122,9 +122,6 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
   };
   const std::string par =
       "message [You have entered an incorrect value.] Par must be between 1 and 6 -> OK\n";
-  const std::string large =
-      "message [You have entered an incorrect value.] This number is too large to be stored. -> "
-      "OK\n";
   const struct {
     const char* control;
     const char* text;
@@ -156,8 +153,6 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
       {"FHandicap(5)", "0.4", "0.4", handicap(6)},
       {"FHandicap(5)", "0", "0", ""},
       {"FHandicap(5)", "0", "0", handicap(6), true},
-      {"FYardage(2)", "32768", "32768", large},
-      {"FYardage(2)", "32000", "32000", large},
   };
   Write(Course("Dunes"));
   for (const auto& c : kCases) {
@@ -346,6 +341,43 @@ TEST_F(CourseLibraryTest, AFlatLadiesSlopeEndsTheClickAndLosesNothing) {
                    }),
                ClickEnded);
   EXPECT_TRUE(Read("qbcrs.dat") == course);
+}
+
+TEST_F(CourseLibraryTest, ANumberWithoutRoomLeavesTheRecordAndTheEntriesAsTheyAre) {
+  Write(Course("Dunes"));
+  bool mended = false;
+  Run(
+      [&](Screen& table) {
+        host().Press(table, "EditCourseButton");
+        host().Press(table, "CloseButton");
+      },
+      [&](Screen& screen) {
+        auto& form = dynamic_cast<CourseForm&>(screen);
+        form.grid1.SetActiveRow(2);
+        try {
+          host().Press(form, "EditTeeButton");
+          ADD_FAILURE();
+        } catch (const ClickEnded& ended) {
+          EXPECT_EQ(ended.error.number(), 6);
+        }
+        EXPECT_EQ(install.state().Course().HolePar(2, 1), "4");
+        mended = true;
+        host().Press(form, "EditTeeButton");
+        host().Press(form, "OKButton");
+      },
+      [&](Screen& tee) {
+        EXPECT_EQ(dynamic_cast<CourseTee&>(tee).FPar[0].text(), mended ? "5" : "4");
+        Set(tee, "FPar(0)", "5");
+        Set(tee, "FYardage(2)", mended ? "100.5" : "32768");
+        host().Press(tee, "OKButton");
+      });
+  std::string expected = Course("Dunes");
+  Put16(expected, 288 + 12 * 2 + 2, {100});  // 942.5 and 1968.5 go to the even neighbour
+  for (const auto& [field, value] :
+       {std::pair{504, 942}, {528, 1968}, {540, 5}, {756, 37}, {780, 73}}) {
+    Put16(expected, static_cast<std::size_t>(field) + 2, {value});
+  }
+  EXPECT_TRUE(Read("qbcrs.dat") == expected);
 }
 
 TEST_F(CourseLibraryTest, ASiblingsOwnLibraryIsOpenedOnRequestUnlessItIsHeld) {

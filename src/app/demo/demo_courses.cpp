@@ -77,6 +77,17 @@ std::pair<int, int> HolesOf(const DemoCourse& course) {
   return {course.holes == -9 ? 10 : 1, course.holes == 9 ? 9 : kCourseHoles};
 }
 
+// A course of a back nine stores its holes twice.
+void CopyBackNineToFront(CourseClass& course, int tee) {
+  for (int hole = 1; hole <= 9; ++hole) {
+    const Record<CourseLayout>& stored = course.Stored();
+    course.SetHoleYard(tee, hole, stored.Get<"HoleYard">(tee, hole + 9));
+    course.SetHolePar(tee, hole, stored.Get<"HolePar">(tee, hole + 9));
+    course.SetHoleHandicap(tee, hole, stored.Get<"HoleHandicap">(tee, hole + 9));
+    course.SetHoleNumber(tee, hole, stored.Get<"HoleNumber">(tee, hole + 9));
+  }
+}
+
 void FillTotals(CourseClass& course, int tee) {
   const auto sum = [&](auto getter, int first, int last) {
     int total = 0;
@@ -107,6 +118,7 @@ void FillHoles(CourseClass& course, const DemoCourse& demo, int tee, int percent
     course.SetStrkSqnc(tee, static_cast<int>(i) + 1, by_rank[i].second);
   }
   FillTotals(course, tee);
+  if (demo.holes == -9) CopyBackNineToFront(course, tee);
 }
 
 void FillCourse(CourseClass& course, const DemoCourse& demo) {

@@ -124,14 +124,6 @@ std::vector<TeeFault> HoleFaults(const HoleValues& pars, const HoleValues& handi
   return faults;
 }
 
-std::optional<TeeFault> StorageFault(double value) {
-  constexpr double kLimit = 32767.5;  // of what rounds to 16 bits
-  if (std::abs(value) < kLimit) return std::nullopt;
-  return TeeFault{.field = TeeField::kStorage,
-                  .title = kWrongValue,
-                  .text = "This number is too large to be stored."};
-}
-
 std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee) {
   const Record<CourseLayout>& stored = course.Stored();
   const HoleRange holes = HolesPlayed(course.HoleNumFlag());

@@ -13,7 +13,7 @@ namespace golf {
 // What may stand in a tee of a course. The screens that take it in and the command that looks a
 // library over share these rules; texts are those that the operator reads.
 
-enum class TeeField { kName, kRating, kSlope, kPar, kHandicap, kStorage };
+enum class TeeField { kName, kRating, kSlope, kPar, kHandicap };
 
 struct TeeFault {
   TeeField field;
@@ -48,9 +48,6 @@ std::optional<TeeFault> SlopeFault(double slope, int group = 0);
 // once; a 0 is a hole without one, if they are not required.
 std::vector<TeeFault> HoleFaults(const HoleValues& pars, const HoleValues& handicaps,
                                  HoleRange holes, bool require_pars, bool require_handicaps);
-
-// A number that no field of a course could hold.
-std::optional<TeeFault> StorageFault(double value);
 
 // All faults of a tee of the current course, 1 to 6, in the order in which the screen would find
 // them. What is required is what the course object says.

@@ -1,5 +1,7 @@
 #include "stores/course/screens/course_form.h"
 
+#include <utility>
+
 #include "core/number_text.h"
 #include "core/numbered_error.h"
 #include "core/text.h"
@@ -91,6 +93,8 @@ void CourseForm::BeginEdit(std::int32_t number) {
 
 void CourseForm::Begin() {
   SetTag("");
+  unsaved_tee_ = 0;
+  for (OptionButton& option : FHoleNum) option.SetVisible(true);
   ShowTees();
   grid1.SetActiveRow(1);
   MoveFocus(&FCourseName);
@@ -141,9 +145,10 @@ void CourseForm::ShowHoles() {
   bool any_active = false;
   for (int tee = 1; tee <= kShownTees; ++tee) any_active |= course().ActiveTees(tee);
   HolesFrame.SetEnabled(!any_active);
-  FHoleNum[0].SetVisible(any_active || course().Allow18HoleCourses);
+  if (any_active) return;
+  FHoleNum[0].SetVisible(course().Allow18HoleCourses);
   for (const auto nine : {std::size_t{1}, std::size_t{2}}) {
-    FHoleNum[nine].SetVisible(any_active || course().Allow9HoleCourses);
+    FHoleNum[nine].SetVisible(course().Allow9HoleCourses);
   }
 }
 
@@ -160,10 +165,14 @@ void CourseForm::EditTee() {
   tee_screen.SetTag("");
   tee_screen.FHoles.SetCaption(HolesText(HoleNumFlag()));
   tee_screen.FCourse.SetCaption(FCourseName.text());
-  FillTee(tee_screen);
+  if (std::exchange(unsaved_tee_, 0) != tee_) FillTee(tee_screen);
   tee_screen.Timer1.SetInterval(1);
   host().ShowModal(tee_screen);
-  if (tee_screen.tag() == "OK") SaveTeeData(tee_screen);
+  if (tee_screen.tag() == "OK") {
+    unsaved_tee_ = tee_;
+    SaveTeeData(tee_screen);
+    unsaved_tee_ = 0;
+  }
   OnActivate();
 }
 

@@ -63,12 +63,14 @@ class CourseForm : public Screen {
   void ShowEditCaption();
   void EditTee();
   void FillTee(CourseTee& screen);
+  // Error 6, with the record unchanged, for a number that has no room in it.
   void SaveTeeData(CourseTee& screen);
   void MendSlopes(int tee);
   void Accept();
   void Cancel();
 
-  int tee_ = 1;  // the one in work
+  int tee_ = 1;          // the one in work
+  int unsaved_tee_ = 0;  // whose entries could not be stored and stand on its screen yet
   bool tee_screen_used_ = false;
 };
 

@@ -1,6 +1,7 @@
 // What goes between a tee of the current course and the screen that edits it.
 
 #include "core/number_text.h"
+#include "core/numbered_error.h"
 #include "core/text.h"
 #include "stores/course/screens/course_form.h"
 #include "stores/course/screens/course_tee.h"
@@ -27,6 +28,38 @@ constexpr TeeTotal kTotals[] = {{&CourseTee::FYardOut, &CourseClass::SetYardOut}
                                 {&CourseTee::FParOut, &CourseClass::SetParOut},
                                 {&CourseTee::FParIn, &CourseClass::SetParIn},
                                 {&CourseTee::FParTotal, &CourseClass::SetParTotal}};
+
+// What the operator enters for each hole, with its name for him.
+struct HoleEntry {
+  HoleControls<TextBox> CourseTee::*boxes;
+  const char* name;
+};
+
+constexpr HoleEntry kHoleEntries[] = {{&CourseTee::FYardage, "length"},
+                                      {&CourseTee::FPar, "par"},
+                                      {&CourseTee::FHandicap, "handicap"}};
+
+void CheckFits(const std::string& number, const std::string& name) {
+  try {
+    RoundToInt16(LeadingNumber(number));
+  } catch (const NumberedError& error) {
+    if (!error.Is(ErrorNumber::kOverflow)) throw;
+    throw NumberedError(ErrorNumber::kOverflow, "The " + name + ", " + number +
+                                                    ", is too large to be stored. Edit the tee "
+                                                    "again: what you entered is still there.");
+  }
+}
+
+// Error 6 for a number that has no room in a record, before any of it is changed.
+void CheckNumbersFit(CourseTee& screen) {
+  for (const HoleEntry& entry : kHoleEntries) {
+    for (int hole = 1; hole <= kCourseHoles; ++hole) {
+      CheckFits(At(screen.*entry.boxes, hole).text(),
+                std::string(entry.name) + " of hole " + std::to_string(hole));
+    }
+  }
+  for (const TeeTotal& total : kTotals) CheckFits((screen.*total.label).caption(), "sum");
+}
 
 }  // namespace
 
@@ -58,12 +91,13 @@ void CourseForm::FillTee(CourseTee& screen) {
 }
 
 void CourseForm::SaveTeeData(CourseTee& screen) {
+  CheckNumbersFit(screen);
   course().SetActiveTees(tee_, screen.ActiveTee.value());
   course().SetRating(tee_, 0, screen.FMensRating.RatingValue());
   course().SetRating(tee_, 1, screen.FLadiesRating.RatingValue());
   course().Setslope(tee_, 0, screen.FMensSlope.SlopeValue());
   course().Setslope(tee_, 1, screen.FLadiesSlope.SlopeValue());
-  const bool named = !Trim(screen.FTeeName.text()).empty();
+  const bool named = !screen.FTeeName.text().empty();
   course().SetTeeName(tee_, named ? screen.FTeeName.text() : "NoName");
   course().SetTeeNameAbv(tee_, named ? screen.FTeeNameAbv.text() : "N");
   for (int hole = 1; hole <= kCourseHoles; ++hole) {

@@ -1,6 +1,7 @@
 #include "stores/course/screens/course_tee.h"
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 
 #include "core/number_text.h"
@@ -21,12 +22,17 @@ HoleValues ValuesOf(const HoleControls<TextBox>& boxes) {
   return values;
 }
 
+// As it is: what is stored becomes whole by the rule of the record.
+std::string SumText(double sum) {
+  return FormatNumber(sum, sum == std::floor(sum) ? "0" : "0.0###");
+}
+
 void ShowSums(const HoleControls<TextBox>& boxes, Label& out, Label& in, Label& total) {
   double sums[2] = {0, 0};
   for (std::size_t i = 0; i < boxes.size(); ++i) sums[i / kNine] += NumberIn(boxes[i]);
-  out.SetCaption(FormatNumber(sums[0], "0"));
-  in.SetCaption(FormatNumber(sums[1], "0"));
-  total.SetCaption(FormatNumber(sums[0] + sums[1], "0"));
+  out.SetCaption(SumText(sums[0]));
+  in.SetCaption(SumText(sums[1]));
+  total.SetCaption(SumText(sums[0] + sums[1]));
 }
 
 }  // namespace
@@ -243,13 +249,10 @@ void CourseTee::ShowNotes(const Control* left) {
 // Whoever presses Enter has left the field in which he was.
 void CourseTee::Accept() {
   MoveFocus(&OKButton);
-  if (!ActiveTee.value()) {
-    if (NumbersFit()) Finish();
-    return;
-  }
+  if (!ActiveTee.value()) return Finish();
   if (!NameAccepted() || !RatingsAccepted()) return;
   if (!FMensSlope.SlopeValid() || !FLadiesSlope.SlopeValid()) return;
-  if (!HolesAccepted() || !NumbersFit()) return;
+  if (!HolesAccepted()) return;
   ShowStrokeSequence();
   if (FHoles.caption() == "9B") CopyBackNineToFront();
   Finish();
@@ -288,22 +291,6 @@ bool CourseTee::HolesAccepted() {
   auto& boxes = first.field == TeeField::kPar ? FPar : FHandicap;
   TellFault(*this, host(), boxes[static_cast<std::size_t>(first.hole) - 1], first);
   return false;
-}
-
-// What would not go into the record is refused while its field is still there to be mended.
-bool CourseTee::NumbersFit() {
-  const auto fits = [this](Control& control, const std::string& text) {
-    const auto fault = StorageFault(LeadingNumber(text));
-    if (fault) TellFault(*this, host(), control, *fault);
-    return !fault;
-  };
-  for (HoleControls<TextBox>* boxes : {&FYardage, &FPar, &FHandicap}) {
-    for (TextBox& box : *boxes) {
-      if (!fits(box, box.text())) return false;
-    }
-  }
-  return fits(FYardage[0], FYardOut.caption()) && fits(FYardage[kNine], FYardIn.caption()) &&
-         fits(FYardage[0], FYardTotal.caption()) && fits(FPar[0], FParTotal.caption());
 }
 
 void CourseTee::ShowStrokeSequence() {

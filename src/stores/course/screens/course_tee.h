@@ -87,7 +87,6 @@ class CourseTee : public Screen {
   bool NameAccepted();
   bool RatingsAccepted();
   bool HolesAccepted();
-  bool NumbersFit();
   void ShowStrokeSequence();
   void CopyBackNineToFront();
   void Cancel();

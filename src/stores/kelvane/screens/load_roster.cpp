@@ -31,12 +31,8 @@ int HolesOf(SharedState& state, const std::string& file_name) {
 LoadRoster::LoadRoster(const ScreenContext& context) : Screen("LoadRoster", context) {
   SetCaption("Rosters");
   Add({&Label1, &DataPathLabel, &grid1, &LoadButton, &NewButton, &DeleteButton, &RepairButton,
-       &CancelButton, &NewRosterFrame, &InputTitle, &NameLabel, &NewRosterName, &OK2Button,
-       &Cancel2Button});
-  for (Control* control : std::initializer_list<Control*>{&InputTitle, &NameLabel, &NewRosterName,
-                                                          &OK2Button, &Cancel2Button}) {
-    control->SetParent(NewRosterFrame);
-  }
+       &CancelButton, &NewRosterFrame});
+  AddInto(NewRosterFrame, {&InputTitle, &NameLabel, &NewRosterName, &OK2Button, &Cancel2Button});
   grid1.SetHeading(kTypeColumn, "Type");
   grid1.SetHeading(kNameColumn, "  Roster Name");
   grid1.SetHidden(0, true);

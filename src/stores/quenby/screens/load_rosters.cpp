@@ -22,21 +22,14 @@ constexpr int kMemberships = 3;
 
 LoadRosters::LoadRosters(const ScreenContext& context) : Screen("LoadRosters", context) {
   SetCaption("Rosters");
-  Add({&DataPathLabel, &FilterLabel, &grid1, &ButtonFrame, &LoadButton, &NewButton, &EditButton,
-       &DeleteButton, &RepairButton, &Help, &CancelButton, &AddEditRosterFrame});
-  for (Button* button :
-       {&LoadButton, &NewButton, &EditButton, &DeleteButton, &RepairButton, &Help, &CancelButton}) {
-    button->SetParent(ButtonFrame);
-  }
+  Add({&DataPathLabel, &FilterLabel, &grid1, &ButtonFrame});
+  AddInto(ButtonFrame, {&LoadButton, &NewButton, &EditButton, &DeleteButton, &RepairButton, &Help,
+                        &CancelButton});
+  Add({&AddEditRosterFrame});
   for (std::size_t i = 0; i < Text1.size(); ++i) {
-    Add({&FieldName[i], &Text1[i]});
-    FieldName[i].SetParent(AddEditRosterFrame);
-    Text1[i].SetParent(AddEditRosterFrame);
+    AddInto(AddEditRosterFrame, {&FieldName[i], &Text1[i]});
   }
-  Add({&AddEditRosterOK, &AddRosterCancel, &EditRosterCancel});
-  for (Button* button : {&AddEditRosterOK, &AddRosterCancel, &EditRosterCancel}) {
-    button->SetParent(AddEditRosterFrame);
-  }
+  AddInto(AddEditRosterFrame, {&AddEditRosterOK, &AddRosterCancel, &EditRosterCancel});
   for (std::size_t i = 0; i < FieldName.size(); ++i) {
     grid1.SetHeading(kNameColumn + static_cast<int>(i), FieldName[i].caption());
   }

@@ -22,10 +22,6 @@ LeaguePicker::LeaguePicker(SharedState& state, Screen& screen, LeaguePickerUse u
       state_(state),
       screen_(screen),
       use_(std::move(use)) {
-  for (Control* control :
-       std::initializer_list<Control*>{&LoadLeagueLabel, &LeagueList, &OKLEague, &CancelLeague}) {
-    control->SetParent(Panel);
-  }
   Panel.SetVisible(false);
   use_.leave.SetCancel(true);
   use_.finder.on_click = [this] { Open(); };

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "core/shared_state.h"
 #include "forms/screen.h"
@@ -23,7 +24,7 @@ struct LeaguePickerUse {
 };
 
 // Where the operator picks one of Zandel's leagues: a panel that comes up in place of the main one.
-// The screen that owns it adds its controls.
+// The screen that owns it adds the panel and, into it, the picker's controls.
 class LeaguePicker {
  public:
   LeaguePicker(SharedState& state, Screen& screen, LeaguePickerUse use);
@@ -32,6 +33,9 @@ class LeaguePicker {
 
   // Closes all files of the process and lists the leagues anew. Errors as ListLeagues.
   void Fill();
+  std::vector<Control*> Controls() {
+    return {&LoadLeagueLabel, &LeagueList, &OKLEague, &CancelLeague};
+  }
   bool IsOpen() const { return Panel.visible(); }
   // What of an item is meant to be read.
   static std::string HeadingOf(const std::string& item);
