@@ -58,6 +58,16 @@ bool IsConsidered(const ReportLayout& layout, int hole, Kind kind, int golfer) {
   return false;
 }
 
+void ClearMarks(TeamBalls& team, bool points) {
+  for (const Kind kind : kGrossFirst) {
+    for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
+      for (int column = 1; column <= kTableColumns; ++column) {
+        team.At(points ? PointsOf(kind) : ScoresOf(kind), golfer, column).mark = BallMark::kNone;
+      }
+    }
+  }
+}
+
 // One team's hole, while its balls are picked.
 class HolePicker {
  public:
@@ -196,6 +206,7 @@ void CustomBalls::PopulateTeamGridwithManualData(int team, BallTable table,
 
 void CustomBalls::XBallConsiderWhichScores(bool points, const HoleSpan& holes) {
   for (TeamBalls& team : teams_) {
+    ClearMarks(team, points);
     ForEachHole(holes, [&](int hole) { MarkHole(team, points, hole); });
   }
 }
@@ -210,7 +221,7 @@ void CustomBalls::MarkHole(TeamBalls& team, bool points, int hole) const {
                                        : BallMark::kNone;
     for (const Kind kind : kGrossFirst) {
       Ball& ball = team.At(points ? PointsOf(kind) : ScoresOf(kind), golfer, HoleColumn(hole));
-      ball.mark = ball.value ? mark : BallMark::kNone;
+      if (ball.value) ball.mark = mark;
     }
   }
 }

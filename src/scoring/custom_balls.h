@@ -43,7 +43,8 @@ class CustomBalls {
   void PopulateTeamGridwithManualData(int team, BallTable table,
                                       const std::vector<std::vector<int>>& values);
 
-  // Marks the balls that the layout lets count, in the tables of points or in those of scores.
+  // Marks the balls that the layout lets count, in the tables of points or in those of scores; what
+  // was marked there before is no longer.
   void XBallConsiderWhichScores(bool points, const HoleSpan& holes);
   // Picks the marked balls and adds them up.
   void XBallCalculateTeamScore(const HoleSpan& holes);
