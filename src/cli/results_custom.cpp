@@ -23,9 +23,8 @@ ReportLayout ReadLayout(ResultsRun& run) {
     throw Refusal(PlainText(problem));
   }
   if (const int replaced = LimitToChoices(layout)) {
-    TellProblem(std::to_string(replaced) +
-                " codes of the layout are not known; the first choice of their list stands for "
-                "each.");
+    TellProblem("Codes of the layout that are not known: " + std::to_string(replaced) +
+                ". The first choice of their list stands for each.");
   }
   return layout;
 }

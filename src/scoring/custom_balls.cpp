@@ -12,6 +12,11 @@
 namespace golf {
 namespace {
 
+// The columns of the grid in which teams are ranked.
+constexpr int kTeamColumn = 0;
+constexpr int kFlightColumn = 1;
+constexpr int kResultColumn = 2;
+
 constexpr std::int32_t kNoBall = 1000;  // no ball that is so far from 0 counts
 
 // What a code of a layout asks for: the low or high balls, or the one of a number.
@@ -272,13 +277,20 @@ void CustomBalls::AddBlocks(TeamBalls& team) {
   }
 }
 
+void CustomBalls::FillStandings(Grid& grid, bool points, int column,
+                                const std::vector<std::string>& flights) const {
+  for (int row = 1; row <= teams(); ++row) {
+    const TeamBalls::Sum value = points ? Team(row).Points(column) : Team(row).Score(column);
+    grid.SetText(kTeamColumn, row, std::to_string(row));
+    grid.SetText(kFlightColumn, row, flights.at(static_cast<std::size_t>(row) - 1));
+    grid.SetText(kResultColumn, row, value ? std::to_string(*value) : "");
+  }
+}
+
 void CustomBalls::XBallSortTeamStandings(const SharedState& state, const RankingOrder& order,
                                          int position_option,
                                          const std::vector<std::string>& flights) {
   constexpr int kDense = 1;  // of the tournament's two ways to number places
-  constexpr int kTeamColumn = 0;
-  constexpr int kFlightColumn = 1;
-  constexpr int kResultColumn = 2;
   Grid grid("tgrid", kResultColumn);
   grid.SetSortKind(kResultColumn, SortKind::kValue);
   grid.SetRows(teams());
@@ -289,13 +301,7 @@ void CustomBalls::XBallSortTeamStandings(const SharedState& state, const Ranking
   const SortKey first = order.by_flight ? SortKey{kFlightColumn, SortOrder::kAscending} : result;
   for (int block = 1; block <= kBlocks; ++block) {
     for (int sum = 1; sum <= kSumsOfBlock; ++sum) {
-      for (int row = 1; row <= teams(); ++row) {
-        const int column = SumColumn(block, sum);
-        const auto value = order.points ? Team(row).Points(column) : Team(row).Score(column);
-        grid.SetText(kTeamColumn, row, std::to_string(row));
-        grid.SetText(kFlightColumn, row, flights.at(static_cast<std::size_t>(row) - 1));
-        grid.SetText(kResultColumn, row, value ? std::to_string(*value) : "");
-      }
+      FillStandings(grid, order.points, SumColumn(block, sum), flights);
       sorter.Sort({first, result, result});
       sorter.CalculatePositions(1, teams(),
                                 order.by_flight ? PositionMode::kGroups : PositionMode::kOneKey);
