@@ -1,3 +1,4 @@
+#include <map>
 #include <string>
 #include <utility>
 
@@ -22,9 +23,8 @@ ReportLayout ReadLayout(ResultsRun& run) {
     throw Refusal(PlainText(problem));
   }
   if (const int replaced = LimitToChoices(layout)) {
-    TellProblem(std::to_string(replaced) +
-                " codes of the layout are not known; the first choice of their list stands for "
-                "each.");
+    TellProblem("Codes of the layout that are not known: " + std::to_string(replaced) +
+                ". The first choice of their list stands for each.");
   }
   return layout;
 }
@@ -38,15 +38,10 @@ Json SumsAsJson(const CustomStanding::Sums& sums) {
   return blocks;
 }
 
-void WriteJson(const std::vector<CustomStanding>& standings) {
-  for (const CustomStanding& standing : standings) {
-    WriteJsonLine({{"TeamNumber", standing.TeamNumber},
-                   {"TeamName", JsonText(standing.TeamName)},
-                   {"Scores", SumsAsJson(standing.Scores)},
-                   {"Points", SumsAsJson(standing.Points)},
-                   {"Positions", standing.Positions},
-                   {"PointsPositions", standing.PointsPositions}});
-  }
+Json StandingAsJson(const CustomStanding& standing) {
+  return {{"TeamNumber", standing.TeamNumber},     {"TeamName", JsonText(standing.TeamName)},
+          {"Scores", SumsAsJson(standing.Scores)}, {"Points", SumsAsJson(standing.Points)},
+          {"Positions", standing.Positions},       {"PointsPositions", standing.PointsPositions}};
 }
 
 }  // namespace
@@ -54,15 +49,21 @@ void WriteJson(const std::vector<CustomStanding>& standings) {
 void ShowCustom(ResultsRun& run) {
   const ReportLayout layout = ReadLayout(run);
   CustomStandings standings(run.state, layout);
+  std::map<int, Json> objects;  // by team
   ForEachTeam(run, [&](int team) {
     run.Try([&] { standings.AddTeam(); }, [team] { return "Team " + std::to_string(team); },
             [&](const NumberedError& error) {
-              if (run.form != ResultsForm::kJson) return;
-              WriteJsonLine({{"TeamNumber", team}, {"error", error.number()}});
+              objects[team] = {{"TeamNumber", team}, {"error", error.number()}};
             });
   });
   const std::vector<CustomStanding> worked_out = standings.WorkOut();
-  if (run.form == ResultsForm::kJson) return WriteJson(worked_out);
+  if (run.form == ResultsForm::kJson) {
+    for (const CustomStanding& standing : worked_out) {
+      objects[standing.TeamNumber] = StandingAsJson(standing);
+    }
+    for (const auto& [team, object] : objects) WriteJsonLine(object);
+    return;
+  }
   StandingsTable table = CustomTable(worked_out, std::stoi(run.state.Tournament().NumRounds()));
   WriteStandings(run.form, std::move(table));
 }

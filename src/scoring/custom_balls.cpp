@@ -12,6 +12,11 @@
 namespace golf {
 namespace {
 
+// The columns of the grid in which teams are ranked.
+constexpr int kTeamColumn = 0;
+constexpr int kFlightColumn = 1;
+constexpr int kResultColumn = 2;
+
 constexpr std::int32_t kNoBall = 1000;  // no ball that is so far from 0 counts
 
 // What a code of a layout asks for: the low or high balls, or the one of a number.
@@ -56,6 +61,16 @@ bool IsConsidered(const ReportLayout& layout, int hole, Kind kind, int golfer) {
     if (listed && ParseBallCode(CodeOf(codes, kind)).count > 0) return true;
   }
   return false;
+}
+
+void ClearMarks(TeamBalls& team, bool points) {
+  for (const Kind kind : kGrossFirst) {
+    for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
+      for (int column = 1; column <= kTableColumns; ++column) {
+        team.At(points ? PointsOf(kind) : ScoresOf(kind), golfer, column).mark = BallMark::kNone;
+      }
+    }
+  }
 }
 
 // One team's hole, while its balls are picked.
@@ -196,6 +211,7 @@ void CustomBalls::PopulateTeamGridwithManualData(int team, BallTable table,
 
 void CustomBalls::XBallConsiderWhichScores(bool points, const HoleSpan& holes) {
   for (TeamBalls& team : teams_) {
+    ClearMarks(team, points);
     ForEachHole(holes, [&](int hole) { MarkHole(team, points, hole); });
   }
 }
@@ -210,7 +226,7 @@ void CustomBalls::MarkHole(TeamBalls& team, bool points, int hole) const {
                                        : BallMark::kNone;
     for (const Kind kind : kGrossFirst) {
       Ball& ball = team.At(points ? PointsOf(kind) : ScoresOf(kind), golfer, HoleColumn(hole));
-      ball.mark = ball.value ? mark : BallMark::kNone;
+      if (ball.value) ball.mark = mark;
     }
   }
 }
@@ -261,13 +277,20 @@ void CustomBalls::AddBlocks(TeamBalls& team) {
   }
 }
 
+void CustomBalls::FillStandings(Grid& grid, bool points, int column,
+                                const std::vector<std::string>& flights) const {
+  for (int row = 1; row <= teams(); ++row) {
+    const TeamBalls::Sum value = points ? Team(row).Points(column) : Team(row).Score(column);
+    grid.SetText(kTeamColumn, row, std::to_string(row));
+    grid.SetText(kFlightColumn, row, flights.at(static_cast<std::size_t>(row) - 1));
+    grid.SetText(kResultColumn, row, value ? std::to_string(*value) : "");
+  }
+}
+
 void CustomBalls::XBallSortTeamStandings(const SharedState& state, const RankingOrder& order,
                                          int position_option,
                                          const std::vector<std::string>& flights) {
   constexpr int kDense = 1;  // of the tournament's two ways to number places
-  constexpr int kTeamColumn = 0;
-  constexpr int kFlightColumn = 1;
-  constexpr int kResultColumn = 2;
   Grid grid("tgrid", kResultColumn);
   grid.SetSortKind(kResultColumn, SortKind::kValue);
   grid.SetRows(teams());
@@ -278,13 +301,7 @@ void CustomBalls::XBallSortTeamStandings(const SharedState& state, const Ranking
   const SortKey first = order.by_flight ? SortKey{kFlightColumn, SortOrder::kAscending} : result;
   for (int block = 1; block <= kBlocks; ++block) {
     for (int sum = 1; sum <= kSumsOfBlock; ++sum) {
-      for (int row = 1; row <= teams(); ++row) {
-        const int column = SumColumn(block, sum);
-        const auto value = order.points ? Team(row).Points(column) : Team(row).Score(column);
-        grid.SetText(kTeamColumn, row, std::to_string(row));
-        grid.SetText(kFlightColumn, row, flights.at(static_cast<std::size_t>(row) - 1));
-        grid.SetText(kResultColumn, row, value ? std::to_string(*value) : "");
-      }
+      FillStandings(grid, order.points, SumColumn(block, sum), flights);
       sorter.Sort({first, result, result});
       sorter.CalculatePositions(1, teams(),
                                 order.by_flight ? PositionMode::kGroups : PositionMode::kOneKey);

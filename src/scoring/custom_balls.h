@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/shared_state.h"
+#include "forms/grid.h"
 #include "scoring/ball_tables.h"
 
 namespace golf {
@@ -43,19 +44,22 @@ class CustomBalls {
   void PopulateTeamGridwithManualData(int team, BallTable table,
                                       const std::vector<std::vector<int>>& values);
 
-  // Marks the balls that the layout lets count, in the tables of points or in those of scores.
+  // Marks the balls that the layout lets count, in the tables of points or in those of scores; what
+  // was marked there before is no longer.
   void XBallConsiderWhichScores(bool points, const HoleSpan& holes);
   // Picks the marked balls and adds them up.
   void XBallCalculateTeamScore(const HoleSpan& holes);
 
-  // Ranks the teams in each block's four columns. `flights` holds a text for each team.
+  // Ranks the teams in each block's four columns. `position_option` 1 numbers places 1, 2, 2, 3,
+  // and 2 numbers them 1, 2, 2, 4. `flights` holds a text for each team.
   void XBallSortTeamStandings(const SharedState& state, const RankingOrder& order,
                               int position_option, const std::vector<std::string>& flights);
   // The place of a team (`row`) in that ranking; columns 1 to 4, blocks 1 to 5.
   int position(int row, int column, int block) const;
 
   // The four keys that settle ties in the last nine holes of a round: by the last holes, by the
-  // holes in the order of their strokes, from the first hole up, and from the last one down.
+  // holes in the order of their strokes, from the first hole up, and from the last one down. Rounds
+  // 1 to 5, error 9 for any other; `round_type` 9 or 18.
   std::array<std::string, 4> TiebreakKeys(int team, int round, int round_type,
                                           const std::vector<int>& holes_by_strokes) const;
 
@@ -63,6 +67,8 @@ class CustomBalls {
   void MarkHole(TeamBalls& team, bool points, int hole) const;
   void CountHole(TeamBalls& team, int hole) const;
   static void AddBlocks(TeamBalls& team);
+  void FillStandings(Grid& grid, bool points, int column,
+                     const std::vector<std::string>& flights) const;
 
   using Places = Indexed<Indexed<int, 1, kBlocks>, 1, kSumsOfBlock>;
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/numbered_error.h"
 #include "scoring/team_class.h"
 #include "scoring/tournament_class.h"
 
@@ -19,7 +20,6 @@ void CustomStandings::AddTeam() {
   standing.TeamName = team.TeamName();
   standing.golfers = team.NameofPlayersOnTeam(0);
   standing.Flight = team.Flight();
-  standing.stroke_order = team.HolesByStrokes();
   tables_.push_back(std::move(table));
   teams_.push_back(std::move(standing));
 }
@@ -33,6 +33,7 @@ std::vector<CustomStanding> CustomStandings::WorkOut() {
   for (std::size_t i = 0; i < standings.size(); ++i) {
     FillSums(static_cast<int>(i) + 1, standings[i]);
   }
+  FillTiebreaks(standings);
   Rank(standings, false, &CustomStanding::Positions);
   Rank(standings, true, &CustomStanding::PointsPositions);
   return standings;
@@ -48,11 +49,22 @@ void CustomStandings::FillSums(int row, CustomStanding& standing) const {
       points[i] = balls_.Team(row).Points(SumColumn(block, sum));
     }
   }
+}
+
+void CustomStandings::FillTiebreaks(std::vector<CustomStanding>& standings) const {
   TournamentClass& tournament = state_.Tournament();
   const int round = tournament.RoundOr({});
   if (round < 1 || round > rounds_) return;
-  standing.tiebreaks =
-      balls_.TiebreakKeys(row, round, tournament.RoundType(), standing.stroke_order);
+  std::vector<int> stroke_order;
+  try {
+    stroke_order = state_.Team1().HolesByStrokes();
+  } catch (const NumberedError&) {
+    // A round without a tee has none, which is no reason to rank nobody.
+  }
+  for (std::size_t i = 0; i < standings.size(); ++i) {
+    standings[i].tiebreaks =
+        balls_.TiebreakKeys(static_cast<int>(i) + 1, round, tournament.RoundType(), stroke_order);
+  }
 }
 
 void CustomStandings::Rank(std::vector<CustomStanding>& standings, bool points,

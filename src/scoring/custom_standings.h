@@ -21,7 +21,6 @@ struct CustomStanding {
   Sums Points;
   Places Positions;
   Places PointsPositions;
-  std::vector<int> stroke_order;         // holes of the active round, the hardest first
   std::array<std::string, 4> tiebreaks;  // of the active round
 };
 
@@ -41,6 +40,7 @@ class CustomStandings {
 
  private:
   void FillSums(int row, CustomStanding& standing) const;
+  void FillTiebreaks(std::vector<CustomStanding>& standings) const;
   void Rank(std::vector<CustomStanding>& standings, bool points,
             CustomStanding::Places CustomStanding::*places);
 

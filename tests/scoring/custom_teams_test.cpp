@@ -185,6 +185,11 @@ TEST_F(CustomTeamsTest, RanksTeams) {
   EXPECT_EQ(places({.points = true}, 2, 1), "25421");
   EXPECT_EQ(places({.by_flight = true}, 2, 1), "23121");
   EXPECT_EQ(HoleColumn(91) + HoleColumn(0), 0);
+  const auto mark = [&](int hole) {
+    return balls.Team(5).At(BallTable::kGross, 1, HoleColumn(hole)).mark;
+  };
+  balls.XBallConsiderWhichScores(false, {.hole = 19});
+  EXPECT_TRUE(mark(18) == BallMark::kNone && mark(19) == BallMark::kGross);
 }
 
 }  // namespace
