@@ -53,8 +53,7 @@ std::int32_t PlayerClass::TourHolePar(int hole, OptionalRound round) {
 
 std::int32_t PlayerClass::TourScoreGrossValue(int hole, OptionalRound round) {
   const int of = RoundOr(round);
-  CalculateRound(of);
-  if (hole < 1 || hole > kHoles) return results_[of].gross[hole];
+  if (hole < 1 || hole > kHoles) return Results(of).gross[hole];
   if (state().TournamentRecord().ScoreEntryTotal() != 0) return 0;
   return entry_.Get<"TourScoreGross">(hole, of);
 }

@@ -94,10 +94,10 @@ void TeamClass::PopulateTeamGrid(TeamBalls& balls, int rounds) {
     int golfer = 0;
     ForEachGolfer(round, [&](std::int32_t) {
       ++golfer;
-      const RoundResults& results = player.Results(round);
       for (int hole = 1; hole <= kHoles; ++hole) {
         const std::int32_t gross = player.TourScoreGrossValue(hole, round);
         if (gross < 1) continue;  // not played: the cells stay blank
+        const RoundResults& results = player.Results(round);
         const int column = HoleColumn((round - 1) * kHoles + hole);
         const auto put = [&](BallTable table, std::int32_t value) {
           balls.At(table, golfer, column).value = value;
