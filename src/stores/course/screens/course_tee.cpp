@@ -173,7 +173,8 @@ void CourseTee::ShowActive() {
   for (Frame* frame : {&TeeFrame, &FrontNineFrame, &BackNineFrame, &TotalFrame}) {
     frame->SetEnabled(ActiveTee.value());
   }
-  ShowNotes(nullptr);
+  if (ActiveTee.value()) return;
+  for (Control* entry : Entries()) entry->SetNote("");
 }
 
 void CourseTee::ShowTotals() {
