@@ -16,7 +16,7 @@ constexpr int kCardLabelWidth = 72;
 constexpr int kTotalWidth = 60;
 constexpr int kNameWidth = 120;
 constexpr int kNumberWidth = 64;
-constexpr int kNoteWidth = 270;
+constexpr int kNoteWidth = 300;
 
 constexpr int kCardNoteLines = 5;
 
@@ -109,7 +109,8 @@ class TeeFiller {
     const auto put_sum = [&](wxStaticText* sum, int row) {
       MakeBold(*sum);
       sum->SetMinSize(Wide(kTotalWidth));
-      put(sum, row, kNine + 1);
+      card->Add(sum, {row, static_cast<int>(kNine) + 1}, {1, 1}, wxALIGN_CENTRE_VERTICAL | wxLEFT,
+                CloseGap(panel_));
     };
     put_label(Text(frame, "Hole"), 0);
     put(MakeChoice(binding_, frame, first_number), 0, 1);

@@ -134,7 +134,7 @@ std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee) {
   };
   add(NameFault(course.TeeName(int{tee}), course.TeeNameAbv(int{tee})));
   for (const int group : {0, 1}) {
-    const std::string rating = RatingText(stored.Get<"Rating">(tee, group), "0.0");
+    const std::string rating = RatingText(LeadingNumber(course.Rating(tee, group)), "0.0");
     add(RatingFault(LeadingNumber(rating), rated, group));
   }
   for (const int group : {0, 1}) add(SlopeFault(stored.Get<"slope">(tee, group), group));

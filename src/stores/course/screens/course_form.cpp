@@ -164,6 +164,7 @@ void CourseForm::EditTee() {
   tee_screen.SetCaption("Edit Tee");
   tee_screen.SetTag("");
   tee_screen.FHoles.SetCaption(HolesText(HoleNumFlag()));
+  tee_screen.ShowHolesPlayed();
   tee_screen.FCourse.SetCaption(FCourseName.text());
   if (std::exchange(unsaved_tee_, 0) != tee_) FillTee(tee_screen);
   tee_screen.Timer1.SetInterval(1);

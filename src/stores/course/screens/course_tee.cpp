@@ -156,12 +156,16 @@ Control* CourseTee::NextAfter(const HoleControls<TextBox>& boxes, std::size_t ho
   return const_cast<TextBox*>(&boxes[hole + 1]);
 }
 
-void CourseTee::SetUp() {
+void CourseTee::ShowHolesPlayed() {
   const bool front_only = FHoles.caption() == "9F";
   const bool back_only = FHoles.caption() == "9B";
   FrontNineFrame.SetVisible(!back_only);
   BackNineFrame.SetVisible(!front_only);
   TotalFrame.SetVisible(!front_only && !back_only);
+}
+
+void CourseTee::SetUp() {
+  ShowHolesPlayed();
   ShowTotals();
   FTeeName.SetEnabled(true);
   MoveFocus(&OKButton);
@@ -173,7 +177,8 @@ void CourseTee::ShowActive() {
   for (Frame* frame : {&TeeFrame, &FrontNineFrame, &BackNineFrame, &TotalFrame}) {
     frame->SetEnabled(ActiveTee.value());
   }
-  ShowNotes(nullptr);
+  if (ActiveTee.value()) return;
+  for (Control* entry : Entries()) entry->SetNote("");
 }
 
 void CourseTee::ShowTotals() {

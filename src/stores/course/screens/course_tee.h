@@ -19,6 +19,9 @@ class CourseTee : public Screen {
  public:
   explicit CourseTee(const ScreenContext& context);
 
+  // The frames that FHoles asks for. Before the window is made: it has the size of what is seen.
+  void ShowHolesPlayed();
+
   Button* LeaveButton() override { return &CancelButton; }
 
   Label FCourse{"FCourse"};
