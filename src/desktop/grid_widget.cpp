@@ -180,6 +180,9 @@ class GridView : public wxGrid {
     showing_ = false;
   }
 
+  // A marked row looks marked wherever the focus is.
+  bool HasFocus() const override { return marks_ == GridMarks::kRows || wxGrid::HasFocus(); }
+
   // The size at which so many rows and all columns are seen.
   wxSize SizeFor(int rows_seen) const {
     int width = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X) + FromDIP(kMargin);
@@ -205,13 +208,17 @@ class GridView : public wxGrid {
     MakeCellVisible(row, std::max(GetGridCursorCol(), 0));
   }
 
-  // The last column takes the room that is left.
+  // The widest column takes the room that is left.
   void OnSize(wxSizeEvent& event) {
     event.Skip();
-    const int last = GetNumberCols() - 1;
-    if (last < 0) return;
-    const int spare = GetClientSize().x - GetColRight(last);
-    if (spare > 0) SetColSize(last, GetColSize(last) + spare);
+    const int columns = GetNumberCols();
+    if (columns == 0) return;
+    int widest = 0;
+    for (int column = 1; column < columns; ++column) {
+      if (GetColSize(column) > GetColSize(widest)) widest = column;
+    }
+    const int spare = GetClientSize().x - GetColRight(columns - 1);
+    if (spare > 0) SetColSize(widest, GetColSize(widest) + spare);
   }
 
   void OnSelect(wxGridEvent& event) {
@@ -226,10 +233,16 @@ class GridView : public wxGrid {
     binding_.Operate([this] { control_.on_double_click(); });
   }
 
+  // A row is marked as a whole: there are no cells to go along.
+  void LeaveByTab(bool backward) {
+    Navigate(backward ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
+  }
+
   // The keys that the screen knows; all others move about in the grid.
   void OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // would unmark the active row
+    if (key == WXK_TAB && marks_ == GridMarks::kRows) return LeaveByTab(event.ShiftDown());
     const char* name = key == WXK_RETURN || key == WXK_NUMPAD_ENTER ? "Enter"
                        : key == WXK_INSERT                          ? "Insert"
                        : key == WXK_DELETE                          ? "Delete"
