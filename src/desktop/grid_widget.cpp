@@ -129,6 +129,7 @@ class ControlTable : public wxGridTableBase {
   }
   bool TellChange(int more, int now, int appended, int deleted) {
     if (more == 0 || GetView() == nullptr) return false;
+    GetView()->ClearSelection();  // it would still name columns that are gone
     if (more > 0) {
       wxGridTableMessage message(this, appended, more);
       return GetView()->ProcessTableMessage(message);
@@ -169,6 +170,10 @@ class GridView : public wxGrid {
     Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &GridView::OnDoubleClick, this);
     Bind(wxEVT_KEY_DOWN, &GridView::OnKey, this);
     Bind(wxEVT_SIZE, &GridView::OnSize, this);
+    SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
+    ColourSelection(false);
+    GetGridWindow()->Bind(wxEVT_SET_FOCUS, &GridView::OnFocus, this);
+    GetGridWindow()->Bind(wxEVT_KILL_FOCUS, &GridView::OnFocus, this);
   }
 
   void Follow() {
@@ -191,6 +196,7 @@ class GridView : public wxGrid {
   void Measure() {
     if (GetNumberRows() > kMostRowsMeasured) return;
     measured_ = true;
+    SetColLabelSize(wxGRID_AUTOSIZE);
     AutoSizeColumns(false);
     for (int column = 0; column < GetNumberCols(); ++column) {
       SetColSize(column, GetColSize(column) + FromDIP(kMargin));
@@ -217,8 +223,22 @@ class GridView : public wxGrid {
   void OnSelect(wxGridEvent& event) {
     event.Skip();
     const int row = event.GetRow() + 1;
+    // A move along the row has unmarked it.
+    const bool marks_row = marks_ == GridMarks::kRows && !showing_;
+    if (marks_row && !IsInSelection(row - 1, 0)) SelectRow(row - 1);
     if (showing_ || row == control_.active_row() || row > control_.rows()) return;
     binding_.Operate([this, row] { control_.SetActiveRow(row); });
+  }
+
+  void OnFocus(wxFocusEvent& event) {
+    event.Skip();
+    ColourSelection(event.GetEventType() == wxEVT_SET_FOCUS);
+  }
+
+  // Without the focus the toolkit paints the selection grey, on which its own text is hard to read.
+  void ColourSelection(bool focused) {
+    SetSelectionForeground(wxSystemSettings::GetColour(focused ? wxSYS_COLOUR_HIGHLIGHTTEXT
+                                                               : wxSYS_COLOUR_WINDOWTEXT));
   }
 
   void OnDoubleClick(wxGridEvent& event) {
