@@ -28,6 +28,15 @@ constexpr int CardColumn(int in_block) { return in_block + 1; }
 
 std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
 
+// A long heading on several lines: a wide column would push others out of sight.
+std::string OnLines(std::string heading) {
+  for (const char* part : {" (", " for ", " 1 to "}) {
+    const std::size_t end = heading.find(part);
+    if (end != std::string::npos) heading[end] = '\n';
+  }
+  return heading;
+}
+
 }  // namespace
 
 TeamResults::TeamResults(const ScreenContext& context)
@@ -155,7 +164,7 @@ void TeamResults::ShowStandings(const StandingsTable& table) {
     const bool used = i < table.headings.size();
     const std::string heading = used ? table.headings[i] : "";
     const bool text = column == kNameColumn || column == kPlayersColumn;
-    grid1.SetHeading(column, heading);
+    grid1.SetHeading(column, OnLines(heading));
     grid1.SetHidden(column, !used);
     grid1.SetCentred(column, !text);
     grid1.SetSortKind(column, text ? SortKind::kText
@@ -245,7 +254,7 @@ std::vector<std::vector<std::string>> TeamResults::Lines() const {
   std::vector<std::vector<std::string>> lines(static_cast<std::size_t>(grid1.rows()) + 1);
   for (int column = 1; column <= grid1.columns(); ++column) {
     if (grid1.IsHidden(column)) continue;
-    lines[0].push_back(grid1.heading(column));
+    lines[0].push_back(ReplaceText(grid1.heading(column), "\n", " ", ReplaceMode::kExact));
     for (int row = 1; row <= grid1.rows(); ++row) {
       lines[static_cast<std::size_t>(row)].push_back(grid1.text(column, row));
     }
