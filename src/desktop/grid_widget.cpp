@@ -19,7 +19,8 @@ constexpr int kMargin = 8;              // of a cell's text, both sides together
 // The cells of a control as the toolkit asks for them: nothing is kept twice.
 class ControlTable : public wxGridTableBase {
  public:
-  ControlTable(Binding& binding, Grid& control) : binding_(binding), control_(control) {
+  ControlTable(Binding& binding, Grid& control, bool labelled)
+      : binding_(binding), control_(control), labelled_(labelled) {
     ChooseColumns();
     FillDropDowns();
   }
@@ -28,6 +29,9 @@ class ControlTable : public wxGridTableBase {
   int GetNumberCols() override { return static_cast<int>(columns_.size()); }
   wxString GetColLabelValue(int column) override {
     return WxText(control_.heading(ControlColumn(column)));
+  }
+  wxString GetRowLabelValue(int row) override {
+    return labelled_ && row < control_.rows() ? WxText(control_.text(0, row + 1)) : wxString();
   }
   wxString GetValue(int row, int column) override {
     const bool there = row < control_.rows();  // until the view has caught up
@@ -123,7 +127,7 @@ class ControlTable : public wxGridTableBase {
   void ChooseColumns() {
     rows_ = control_.rows();
     columns_.clear();
-    for (int column = 0; column <= control_.columns(); ++column) {
+    for (int column = labelled_ ? 1 : 0; column <= control_.columns(); ++column) {
       if (!control_.IsHidden(column)) columns_.push_back(column);
     }
   }
@@ -145,6 +149,7 @@ class ControlTable : public wxGridTableBase {
 
   Binding& binding_;
   Grid& control_;
+  bool labelled_;                       // column 0 holds the labels of the rows
   std::map<int, DropDown> drop_downs_;  // by column of the control
   std::vector<int> columns_;            // those of the control that are seen
   int rows_ = 0;
@@ -158,9 +163,10 @@ class GridView : public wxGrid {
         binding_(binding),
         control_(control),
         marks_(marks),
-        table_(new ControlTable(binding, control)) {
+        table_(new ControlTable(binding, control, marks == GridMarks::kLabelledCells)) {
     SetTable(table_, true, marks == GridMarks::kRows ? wxGridSelectRows : wxGridSelectCells);
-    HideRowLabels();
+    SetRowLabelAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
+    SetRowLabelSize(marks == GridMarks::kLabelledCells ? wxGRID_AUTOSIZE : 0);
     SetColLabelSize(wxGRID_AUTOSIZE);
     DisableDragRowSize();
     SetTabBehaviour(Tab_Leave);
@@ -169,6 +175,7 @@ class GridView : public wxGrid {
     Bind(wxEVT_GRID_SELECT_CELL, &GridView::OnSelect, this);
     Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &GridView::OnDoubleClick, this);
     Bind(wxEVT_KEY_DOWN, &GridView::OnKey, this);
+    Bind(wxEVT_CHAR_HOOK, &GridView::OnCharHook, this);
     Bind(wxEVT_SIZE, &GridView::OnSize, this);
     SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
     ColourSelection(false);
@@ -187,7 +194,7 @@ class GridView : public wxGrid {
 
   // The size at which so many rows and all columns are seen.
   wxSize SizeFor(int rows_seen) const {
-    int width = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X) + FromDIP(kMargin);
+    int width = GetRowLabelSize() + wxSystemSettings::GetMetric(wxSYS_VSCROLL_X) + FromDIP(kMargin);
     for (int column = 0; column < GetNumberCols(); ++column) width += GetColSize(column);
     return {width, GetColLabelSize() + rows_seen * GetDefaultRowSize() + FromDIP(kMargin)};
   }
@@ -216,7 +223,7 @@ class GridView : public wxGrid {
     event.Skip();
     const int last = GetNumberCols() - 1;
     if (last < 0) return;
-    const int spare = GetClientSize().x - GetColRight(last);
+    const int spare = GetClientSize().x - GetRowLabelSize() - GetColRight(last);
     if (spare > 0) SetColSize(last, GetColSize(last) + spare);
   }
 
@@ -244,6 +251,13 @@ class GridView : public wxGrid {
   void OnDoubleClick(wxGridEvent& event) {
     if (!control_.on_double_click) return event.Skip();
     binding_.Operate([this] { control_.on_double_click(); });
+  }
+
+  // While a cell is edited, Escape gives up the edit and not the screen.
+  void OnCharHook(wxKeyEvent& event) {
+    if (event.GetKeyCode() != WXK_ESCAPE || !IsCellEditControlShown()) return event.Skip();
+    wxGridCellEditorPtr(GetCellEditor(GetGridCursorRow(), GetGridCursorCol()))->Reset();
+    DisableCellEditControl();
   }
 
   // The keys that the screen knows; all others move about in the grid.
