@@ -19,7 +19,8 @@ constexpr int kMargin = 8;              // of a cell's text, both sides together
 // The cells of a control as the toolkit asks for them: nothing is kept twice.
 class ControlTable : public wxGridTableBase {
  public:
-  ControlTable(Binding& binding, Grid& control) : binding_(binding), control_(control) {
+  ControlTable(Binding& binding, Grid& control, bool labelled)
+      : binding_(binding), control_(control), labelled_(labelled) {
     ChooseColumns();
     FillDropDowns();
   }
@@ -28,6 +29,9 @@ class ControlTable : public wxGridTableBase {
   int GetNumberCols() override { return static_cast<int>(columns_.size()); }
   wxString GetColLabelValue(int column) override {
     return WxText(control_.heading(ControlColumn(column)));
+  }
+  wxString GetRowLabelValue(int row) override {
+    return labelled_ && row < control_.rows() ? WxText(control_.text(0, row + 1)) : wxString();
   }
   wxString GetValue(int row, int column) override {
     const bool there = row < control_.rows();  // until the view has caught up
@@ -123,12 +127,13 @@ class ControlTable : public wxGridTableBase {
   void ChooseColumns() {
     rows_ = control_.rows();
     columns_.clear();
-    for (int column = 0; column <= control_.columns(); ++column) {
+    for (int column = labelled_ ? 1 : 0; column <= control_.columns(); ++column) {
       if (!control_.IsHidden(column)) columns_.push_back(column);
     }
   }
   bool TellChange(int more, int now, int appended, int deleted) {
     if (more == 0 || GetView() == nullptr) return false;
+    GetView()->ClearSelection();  // it would still name columns that are gone
     if (more > 0) {
       wxGridTableMessage message(this, appended, more);
       return GetView()->ProcessTableMessage(message);
@@ -144,6 +149,7 @@ class ControlTable : public wxGridTableBase {
 
   Binding& binding_;
   Grid& control_;
+  bool labelled_;                       // column 0 holds the labels of the rows
   std::map<int, DropDown> drop_downs_;  // by column of the control
   std::vector<int> columns_;            // those of the control that are seen
   int rows_ = 0;
@@ -157,9 +163,10 @@ class GridView : public wxGrid {
         binding_(binding),
         control_(control),
         marks_(marks),
-        table_(new ControlTable(binding, control)) {
+        table_(new ControlTable(binding, control, marks == GridMarks::kLabelledCells)) {
     SetTable(table_, true, marks == GridMarks::kRows ? wxGridSelectRows : wxGridSelectCells);
-    HideRowLabels();
+    SetRowLabelAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
+    SetRowLabelSize(marks == GridMarks::kLabelledCells ? wxGRID_AUTOSIZE : 0);
     SetColLabelSize(wxGRID_AUTOSIZE);
     DisableDragRowSize();
     SetTabBehaviour(Tab_Leave);
@@ -168,7 +175,12 @@ class GridView : public wxGrid {
     Bind(wxEVT_GRID_SELECT_CELL, &GridView::OnSelect, this);
     Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &GridView::OnDoubleClick, this);
     Bind(wxEVT_KEY_DOWN, &GridView::OnKey, this);
+    Bind(wxEVT_CHAR_HOOK, &GridView::OnCharHook, this);
     Bind(wxEVT_SIZE, &GridView::OnSize, this);
+    SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
+    ColourSelection(false);
+    GetGridWindow()->Bind(wxEVT_SET_FOCUS, &GridView::OnFocus, this);
+    GetGridWindow()->Bind(wxEVT_KILL_FOCUS, &GridView::OnFocus, this);
   }
 
   void Follow() {
@@ -180,12 +192,9 @@ class GridView : public wxGrid {
     showing_ = false;
   }
 
-  // A marked row looks marked wherever the focus is.
-  bool HasFocus() const override { return marks_ == GridMarks::kRows || wxGrid::HasFocus(); }
-
   // The size at which so many rows and all columns are seen.
   wxSize SizeFor(int rows_seen) const {
-    int width = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X) + FromDIP(kMargin);
+    int width = GetRowLabelSize() + wxSystemSettings::GetMetric(wxSYS_VSCROLL_X) + FromDIP(kMargin);
     for (int column = 0; column < GetNumberCols(); ++column) width += GetColSize(column);
     return {width, GetColLabelSize() + rows_seen * GetDefaultRowSize() + FromDIP(kMargin)};
   }
@@ -194,6 +203,7 @@ class GridView : public wxGrid {
   void Measure() {
     if (GetNumberRows() > kMostRowsMeasured) return;
     measured_ = true;
+    SetColLabelSize(wxGRID_AUTOSIZE);
     AutoSizeColumns(false);
     for (int column = 0; column < GetNumberCols(); ++column) {
       SetColSize(column, GetColSize(column) + FromDIP(kMargin));
@@ -217,15 +227,29 @@ class GridView : public wxGrid {
     for (int column = 1; column < columns; ++column) {
       if (GetColSize(column) > GetColSize(widest)) widest = column;
     }
-    const int spare = GetClientSize().x - GetColRight(columns - 1);
+    const int spare = GetClientSize().x - GetRowLabelSize() - GetColRight(columns - 1);
     if (spare > 0) SetColSize(widest, GetColSize(widest) + spare);
   }
 
   void OnSelect(wxGridEvent& event) {
     event.Skip();
     const int row = event.GetRow() + 1;
+    // A move along the row has unmarked it.
+    const bool marks_row = marks_ == GridMarks::kRows && !showing_;
+    if (marks_row && !IsInSelection(row - 1, 0)) SelectRow(row - 1);
     if (showing_ || row == control_.active_row() || row > control_.rows()) return;
     binding_.Operate([this, row] { control_.SetActiveRow(row); });
+  }
+
+  void OnFocus(wxFocusEvent& event) {
+    event.Skip();
+    ColourSelection(event.GetEventType() == wxEVT_SET_FOCUS);
+  }
+
+  // Without the focus the toolkit paints the selection grey, on which its own text is hard to read.
+  void ColourSelection(bool focused) {
+    SetSelectionForeground(wxSystemSettings::GetColour(focused ? wxSYS_COLOUR_HIGHLIGHTTEXT
+                                                               : wxSYS_COLOUR_WINDOWTEXT));
   }
 
   void OnDoubleClick(wxGridEvent& event) {
@@ -236,6 +260,13 @@ class GridView : public wxGrid {
   // A row is marked as a whole: there are no cells to go along.
   void LeaveByTab(bool backward) {
     Navigate(backward ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
+  }
+
+  // While a cell is edited, Escape gives up the edit and not the screen.
+  void OnCharHook(wxKeyEvent& event) {
+    if (event.GetKeyCode() != WXK_ESCAPE || !IsCellEditControlShown()) return event.Skip();
+    wxGridCellEditorPtr(GetCellEditor(GetGridCursorRow(), GetGridCursorCol()))->Reset();
+    DisableCellEditControl();
   }
 
   // The keys that the screen knows; all others move about in the grid.

@@ -7,8 +7,8 @@
 
 namespace golf {
 
-// What the operator marks in a grid.
-enum class GridMarks { kRows, kCells };
+// What the operator marks in a grid. Beside labelled cells the column 0 stays in sight.
+enum class GridMarks { kRows, kCells, kLabelledCells };
 
 // The widget of a grid, with its hidden columns left out. It is as high as `rows_seen` rows and as
 // wide as its columns need to be at first.

@@ -52,7 +52,7 @@ class BuilderFiller {
     content->Add(top, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
     content->Add(MakeLabel(binding_, page, screen_.CopyLabel),
                  wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
-    wxGrid* grid = MakeGrid(binding_, page, screen_.grid1, GridMarks::kCells, kRowsSeen);
+    wxGrid* grid = MakeGrid(binding_, page, screen_.grid1, GridMarks::kLabelledCells, kRowsSeen);
     grid->SetMinSize({panel_.FromDIP(kGridWidth), grid->GetMinSize().y});
     content->Add(grid, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel_)));
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
@@ -79,7 +79,7 @@ class BuilderFiller {
     auto* rows = new wxFlexGridSizer(2, CloseGap(panel_), GroupGap(panel_));
     const auto add = [&](Label& label, ComboBox& list) {
       rows->Add(MakeLabel(binding_, page, label), wxSizerFlags().CentreVertical());
-      rows->Add(MakeChoice(binding_, page, list));
+      rows->Add(MakeChoice(binding_, page, list), wxSizerFlags().Expand());
     };
     add(screen_.HoleNumberLabel, screen_.HoleNumberUsedList);
     add(screen_.PlayersLabel, screen_.PlayerPerTeamList);

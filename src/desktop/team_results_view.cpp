@@ -10,6 +10,7 @@ namespace {
 constexpr int kStandingsSeen = 8;  // rows
 constexpr int kCardSeen = 9;
 constexpr int kWidth = 1140;  // in pixels of a plain screen
+constexpr int kListWidth = 260;
 
 wxSizer* Choices(ScreenPanel& panel, TeamResults& screen) {
   Binding& binding = panel.binding();
@@ -19,7 +20,9 @@ wxSizer* Choices(ScreenPanel& panel, TeamResults& screen) {
   MakeBold(*tournament);
   row->Add(tournament, wxSizerFlags(1).CentreVertical());
   row->Add(MakeLabel(binding, &panel, screen.LayoutLabel), middle);
-  row->Add(MakeChoice(binding, &panel, screen.LayoutList), middle);
+  wxChoice* layouts = MakeChoice(binding, &panel, screen.LayoutList);
+  layouts->SetMinSize({panel.FromDIP(kListWidth), -1});
+  row->Add(layouts, middle);
   row->Add(MakeLabel(binding, &panel, screen.RoundLabel), middle);
   row->Add(MakeChoice(binding, &panel, screen.RoundList), middle);
   return row;

@@ -89,7 +89,9 @@ TEST_F(CustomTeamsTest, NamesAndTextsThatAreRefused) {
     Build("", [&](XReportsCustomTeamResults& builder) {
       builder.ReportName.SetText(c.name);
       builder.ReportDescription.SetText(c.description);
+      builder.TabMain.Choose(1);
       EXPECT_FALSE(builder.SaveReport()) << c.name;
+      EXPECT_TRUE(builder.focus() != nullptr && builder.focus()->IsShown()) << c.name;
     });
     EXPECT_NE(Events().find(c.told), std::string::npos) << Events();
   }

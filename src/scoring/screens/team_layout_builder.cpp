@@ -197,8 +197,9 @@ void XReportsCustomTeamResults::BindEvents() {
     host().Ask(Box{.title = caption(),
                    .text = "Choose for each hole whose scores count and how many gross and net "
                            "balls are taken. Only as many holes need to be filled in as are scored "
-                           "differently; the others follow them. The sample columns show what "
-                           "made-up teams get: a ball that counts is marked as used.",
+                           "differently; the others follow them. A hole can take a second "
+                           "selection, in the next columns. The sample columns show what made-up "
+                           "teams get: a ball that counts is marked as used.",
                    .icon = BoxIcon::kInformation});
   };
   Timer1.on_timer = [this] {
@@ -392,18 +393,31 @@ void XReportsCustomTeamResults::SetReportHeaderItem(int i, std::string text) {
   HeaderText.at(static_cast<std::size_t>(i) - 1).SetText(std::move(text));
 }
 
-bool XReportsCustomTeamResults::HasTextThatFits() const {
-  const auto fits = [](const TextBox& box) { return FitsReportLayout(box.text()); };
-  return fits(ReportDescription) && fits(ReportNumber) &&
-         std::all_of(HeaderText.begin(), HeaderText.end(), fits);
+void XReportsCustomTeamResults::GoTo(int page, Control& control) {
+  TabMain.Choose(page);
+  MoveFocus(&control);
+}
+
+// False, once the operator is told, where a text cannot be written.
+bool XReportsCustomTeamResults::HasTextThatFits() {
+  TextBox* const boxes[] = {&ReportDescription, &HeaderText[0], &HeaderText[1], &HeaderText[2],
+                            &ReportNumber};
+  const auto box = std::find_if(std::begin(boxes), std::end(boxes), [](const TextBox* text_box) {
+    return !FitsReportLayout(text_box->text());
+  });
+  if (box == std::end(boxes)) return true;
+  host().Ask(Box{.title = "Notice",
+                 .text = "A text of a report layout cannot hold a double quote (\") or the end of "
+                         "a line."});
+  GoTo(*box == &ReportDescription ? 0 : 1, **box);
+  return false;
 }
 
 // Tells the operator what is wrong with the name; true if the layout cannot be saved under it.
 bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
   const auto refuse = [this](std::string text) {
     host().Ask(Box{.title = "Notice", .text = std::move(text)});
-    TabMain.Choose(0);
-    MoveFocus(&ReportName);
+    GoTo(0, ReportName);
     return true;
   };
   if (name.empty()) return refuse("You did not enter a name for your Report.");
@@ -425,19 +439,13 @@ bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
           .buttons = {BoxButton::kYes, BoxButton::kNo},
           .default_button = 1});
   if (answer == BoxButton::kYes) return false;
-  MoveFocus(&ReportName);
+  GoTo(0, ReportName);
   return true;
 }
 
 bool XReportsCustomTeamResults::SaveReport() {
   const std::string name(Trim(ReportName.text().substr(0, kNameWidth)));
-  if (IsRefused(name)) return false;
-  if (!HasTextThatFits()) {
-    host().Ask(Box{.title = "Notice",
-                   .text = "A text of a report layout cannot hold a double quote (\") or the end "
-                           "of a line."});
-    return false;
-  }
+  if (IsRefused(name) || !HasTextThatFits()) return false;
   TakeControls();
   CopyForward(layout_);
   WriteReportLayout(state().files, state().StoreDataPath + name + extension_, layout_);

@@ -112,7 +112,8 @@ class XReportsCustomTeamResults : public Screen {
   void ChangeCell(int column, int row);
 
   bool IsRefused(const std::string& name);
-  bool HasTextThatFits() const;
+  bool HasTextThatFits();
+  void GoTo(int page, Control& control);
   void AskToCancel();
   void ChooseFontOf(std::size_t i);
 

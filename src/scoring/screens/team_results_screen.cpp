@@ -7,6 +7,7 @@
 #include "core/number_text.h"
 #include "core/text.h"
 #include "scoring/open_tournament.h"
+#include "scoring/player_class.h"
 #include "scoring/screens/grid_sort_screen.h"
 #include "scoring/team_class.h"
 #include "scoring/tournament_class.h"
@@ -27,6 +28,15 @@ constexpr const char* kTotals = "Team totals";
 constexpr int CardColumn(int in_block) { return in_block + 1; }
 
 std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
+
+// A long heading on several lines: a wide column would push others out of sight.
+std::string OnLines(std::string heading) {
+  for (const char* part : {" (", " for ", " 1 to "}) {
+    const std::size_t end = heading.find(part);
+    if (end != std::string::npos) heading[end] = '\n';
+  }
+  return heading;
+}
 
 }  // namespace
 
@@ -51,7 +61,12 @@ TeamResults::TeamResults(const ScreenContext& context)
     grid2.SetHeading(CardColumn(SumColumn(1, sum)), kSums[sum - 1]);
   }
   ExitButton.SetCancel(true);
-  LayoutList.on_click = RoundList.on_click = [this] {
+  LayoutList.on_click = [this] {
+    if (loading_) return;
+    TakeLayout();
+    LoadStandings();
+  };
+  RoundList.on_click = [this] {
     if (!loading_) LoadStandings();
   };
   grid1.on_row_change = [this] { ShowCard(); };
@@ -101,50 +116,61 @@ bool TeamResults::OpenActiveTournament() {
   return false;
 }
 
-// False where the layout that is chosen cannot be read.
-bool TeamResults::TakeLayout() {
+// Where the layout that is chosen cannot be read, the totals stand in its place.
+void TeamResults::TakeLayout() {
   layout_ = {};
-  if (LayoutList.index() <= 0) return true;
+  if (LayoutList.index() <= 0) return;
   std::string problem;
   const std::string path =
       state().StoreDataPath + LayoutList.text() + std::string(kLayoutExtension);
-  if (!ReadReportLayout(state().files, path, layout_, problem)) {
-    host().Ask(Box{.title = "Notice", .text = problem, .icon = BoxIcon::kStop});
-    return false;
+  if (ReadReportLayout(state().files, path, layout_, problem)) {
+    LimitToChoices(layout_);
+    return;
   }
-  LimitToChoices(layout_);
-  return true;
+  host().Ask(Box{.title = "Notice", .text = problem, .icon = BoxIcon::kStop});
+  loading_ = true;
+  LayoutList.Select(0);
+  loading_ = false;
 }
 
 void TeamResults::LoadStandings() {
-  const bool by_layout = TakeLayout() && LayoutList.index() > 0;
+  const bool by_layout = LayoutList.index() > 0;
   TournamentClass& tournament = state().Tournament();
   tournament.SetActiveRound(RoundList.index() + 1);
-  TeamClass& team = state().Team1();
   standings_.emplace(state(), layout_);
   teams_.clear();
   std::vector<StandingsRow> totals;
-  std::string failed;
+  std::string problems;
   const int teams = std::stoi(tournament.NumTeams());
-  for (int number = 1; number <= teams; ++number) {
-    if (!team.GetRecord(number)) continue;
-    try {
-      StandingsRow row = TeamTotalsRow(team);
-      standings_->AddTeam();
-      teams_.push_back(number);
-      totals.push_back(std::move(row));
-    } catch (const NumberedError& error) {
-      failed += "\rTeam " + std::to_string(number) + ": " + error.description();
-    }
+  for (int team = 1; team <= teams; ++team) {
+    const std::string problem = AddTeam(team, totals);
+    if (!problem.empty()) problems += "\rTeam " + std::to_string(team) + ": " + problem;
   }
   const auto worked_out = standings_->WorkOut();
   ShowStandings(by_layout ? CustomTable(worked_out, std::stoi(tournament.NumRounds()))
                           : TeamTotalsTable(std::move(totals)));
-  if (!failed.empty()) {
+  if (!problems.empty()) {
     host().Ask(Box{.title = "Notice",
-                   .text = "These teams could not be worked out:" + failed,
+                   .text = "These teams could not be worked out:" + problems,
                    .icon = BoxIcon::kWarning});
   }
+}
+
+// Why the team is left out of the standings; empty if nobody misses it.
+std::string TeamResults::AddTeam(int team, std::vector<StandingsRow>& totals) {
+  if (!state().Team1().GetRecord(team)) {
+    const bool has_golfers = state().Player().TourIndex1stPlayerOnTeam(team) > 0;
+    return has_golfers ? "the record of this team cannot be read." : "";
+  }
+  try {
+    StandingsRow row = TeamTotalsRow(state().Team1());
+    standings_->AddTeam();
+    teams_.push_back(team);
+    totals.push_back(std::move(row));
+  } catch (const NumberedError& error) {
+    return error.description();
+  }
+  return "";
 }
 
 void TeamResults::ShowStandings(const StandingsTable& table) {
@@ -155,7 +181,7 @@ void TeamResults::ShowStandings(const StandingsTable& table) {
     const bool used = i < table.headings.size();
     const std::string heading = used ? table.headings[i] : "";
     const bool text = column == kNameColumn || column == kPlayersColumn;
-    grid1.SetHeading(column, heading);
+    grid1.SetHeading(column, OnLines(heading));
     grid1.SetHidden(column, !used);
     grid1.SetCentred(column, !text);
     grid1.SetSortKind(column, text ? SortKind::kText
@@ -245,7 +271,7 @@ std::vector<std::vector<std::string>> TeamResults::Lines() const {
   std::vector<std::vector<std::string>> lines(static_cast<std::size_t>(grid1.rows()) + 1);
   for (int column = 1; column <= grid1.columns(); ++column) {
     if (grid1.IsHidden(column)) continue;
-    lines[0].push_back(grid1.heading(column));
+    lines[0].push_back(ReplaceText(grid1.heading(column), "\n", " ", ReplaceMode::kExact));
     for (int row = 1; row <= grid1.rows(); ++row) {
       lines[static_cast<std::size_t>(row)].push_back(grid1.text(column, row));
     }

@@ -36,8 +36,9 @@ class TeamResults : public Screen {
  private:
   void Begin();
   bool OpenActiveTournament();
-  bool TakeLayout();
+  void TakeLayout();
   void LoadStandings();
+  std::string AddTeam(int team, std::vector<StandingsRow>& totals);
   void ShowStandings(const StandingsTable& table);
   void ShowCard();
   void ShowCardLine(int row, const std::string& name, int golfer, BallTable table);
