@@ -23,8 +23,7 @@ ReportLayout ReadLayout(ResultsRun& run) {
     throw Refusal(PlainText(problem));
   }
   if (const int replaced = LimitToChoices(layout)) {
-    TellProblem("Codes of the layout that are not known: " + std::to_string(replaced) +
-                ". The first choice of their list stands for each.");
+    TellProblem(UnknownCodesText(replaced));
   }
   return layout;
 }

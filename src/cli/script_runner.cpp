@@ -85,7 +85,10 @@ void ScriptRunner::FollowUntilGone(Screen& screen) {
 
 bool ScriptRunner::FollowNextLine() {
   std::string line;
-  if (!std::getline(lines_, line)) return false;
+  if (!std::getline(lines_, line)) {
+    FireTimers();  // before the screen is left
+    return false;
+  }
   if (line_ == 0 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
   listener_.SetLine(++line_);
   const Words words = WordsOf(line);

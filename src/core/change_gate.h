@@ -32,10 +32,9 @@ class ChangeGate {
   // Told of each change before it is made. One observer at most; an empty one ends it.
   void Observe(Observer observer) { observer_ = std::move(observer); }
 
-  // From now on nothing changes: a record that is written stays as it is, any other change is
-  // refused with error 75, and a file that is not there opens as an empty one that comes into being
-  // nowhere.
-  void RefuseChanges() { refuses_ = true; }
+  // While changes are refused a record that is written stays as it is, any other change is error
+  // 75, and a file that is not there opens as an empty one that comes into being nowhere.
+  void RefuseChanges(bool refuse = true) { refuses_ = refuse; }
 
   // Opens a file; one that is not there is created empty first, unless it is only to be read.
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access);
@@ -79,6 +78,18 @@ class ChangeGate {
   KeptWrites kept_;
   bool joins_ = false;
   bool refuses_ = false;
+};
+
+// Refuses changes as long as it lives.
+class RefusedChanges {
+ public:
+  explicit RefusedChanges(ChangeGate& gate) : gate_(gate) { gate_.RefuseChanges(); }
+  ~RefusedChanges() { gate_.RefuseChanges(false); }
+  RefusedChanges(const RefusedChanges&) = delete;
+  RefusedChanges& operator=(const RefusedChanges&) = delete;
+
+ private:
+  ChangeGate& gate_;
 };
 
 }  // namespace golf

@@ -134,4 +134,9 @@ void CopyForward(ReportLayout& layout) {
   }
 }
 
+std::string UnknownCodesText(int codes) {
+  return std::to_string(codes) + (codes == 1 ? " code" : " codes") +
+         " of this report cannot be read.  The first choice of its list stands in its place.";
+}
+
 }  // namespace golf

@@ -69,6 +69,8 @@ std::size_t ChoiceOf(const std::vector<LayoutChoice>& choices, std::string_view 
 // Brings what no list offers to the first choice of its list, as the screen does; how many codes
 // of holes that were.
 int LimitToChoices(ReportLayout& layout);
+// What the operator is told of so many.
+std::string UnknownCodesText(int codes);
 
 // The holes behind the first HoleNumberUsed ones repeat them.
 void CopyForward(ReportLayout& layout);

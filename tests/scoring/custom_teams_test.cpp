@@ -75,13 +75,15 @@ TEST_F(CustomTeamsTest, ANewLayoutIsSavedByteForByte) {
 
 TEST_F(CustomTeamsTest, NamesAndTextsThatAreRefused) {
   ReportLayout layout;
-  WriteReportLayout(state.files, state.QBDataPath + "There.TR", layout);
+  for (const char* name : {"There", "(System)"}) {
+    WriteReportLayout(state.files, state.QBDataPath + name + ".TR", layout);
+  }
   const struct {
     const char* name;
     const char* description;
     const char* told;
   } kCases[] = {{" ", "", "You did not enter a name"},
-                {"(System", "", "permanent system report"},
+                {"(system)", "", "permanent system report"},
                 {"a/b", "", "cannot hold any of"},
                 {"fine", "a \"quote\"", "double quote"},
                 {"THERE", "", "already exists"}};
@@ -118,7 +120,7 @@ TEST_F(CustomTeamsTest, LayoutsThatAreOutOfTheOrdinary) {
       {with("\"A\"\r\n1,4\r\n", "1,4\r\n\"A\"\r\n"), "line 1 lacks a text."},
       {with("1,4", "1,4,5"), "line 2 lacks its end."},
       {with("\"D\",\"G\"", "\"D\",G"), "line 3 lacks a text."},
-      {with("\"NONE\"", "\"Q7\""), "1 codes of this report are not known."},
+      {with("\"NONE\"", "\"Q7\""), "1 code of this report cannot be read."},
       {with("1,4", "99,9"), "Cancel?"},
       {with("\"A\"", "\"A \"B\" C\""), "Cancel?"},
   };

@@ -12,7 +12,6 @@ namespace golf {
 namespace {
 
 constexpr int kLabelColumn = 0;
-constexpr int kLastCodeColumn = 7;
 constexpr std::size_t kNameWidth = 40;
 constexpr std::size_t kBlanks = 40;  // between an item of a cell and its code
 
@@ -60,18 +59,6 @@ std::string FontText(const ReportFont& font) {
   return text;
 }
 
-// Sample teams stand side by side behind the codes: gross balls, net balls, and what counts.
-constexpr int kSampleTeams = 2;
-constexpr int kSampleWidth = 2 * kMostLayoutPlayers + 1;
-constexpr int kFirstSampleColumn = kLastCodeColumn + 2;
-constexpr int kGridColumns = kFirstSampleColumn - 1 + kSampleTeams * kSampleWidth;
-
-int SampleColumn(int team, BallTable table, int player) {
-  const int of_team = kFirstSampleColumn + (team - 1) * kSampleWidth;
-  return of_team + (table == BallTable::kNet ? kMostLayoutPlayers : 0) + player - 1;
-}
-int SampleTotalColumn(int team) { return kFirstSampleColumn + team * kSampleWidth - 1; }
-
 }  // namespace
 
 TextCombo XReportsCustomTeamResults::MakeHeader(int i) {
@@ -86,7 +73,7 @@ std::string PlaceCodes::*XReportsCustomTeamResults::FieldOf(Code code) {
 }
 
 XReportsCustomTeamResults::XReportsCustomTeamResults(const ScreenContext& context)
-    : Screen("XReportsCustomTeamResults", context), grid1("grid1", kGridColumns) {
+    : Screen("XReportsCustomTeamResults", context), grid1("grid1", SampleTeams::kLastColumn) {
   SetCaption("Team Results Report Layout Builder");
   AddControls();
   for (const int holes : HoleNumberChoices()) HoleNumberUsedList.AddItem(std::to_string(holes));
@@ -95,36 +82,27 @@ XReportsCustomTeamResults::XReportsCustomTeamResults(const ScreenContext& contex
   }
   for (const SelectionStyle& style : kStyles) BallSelectionStyle.AddItem(style.text);
   LabelRows();
-  HeadSampleColumns();
+  sample_.HeadColumns();
   BindEvents();
 }
 
 void XReportsCustomTeamResults::AddControls() {
   Add({&TabMain, &NameLabel, &ReportName, &DescriptionLabel, &ReportDescription, &HoleNumberLabel,
-       &HoleNumberUsedList, &PlayersLabel, &PlayerPerTeamList, &SelectionFrame,
-       &BallSelectionOpt[0], &BallSelectionOpt[1], &BallSelectionStyle, &CopyLabel, &grid1,
-       &SampleDataGenerate, &CalculateButton});
+       &HoleNumberUsedList, &PlayersLabel, &PlayerPerTeamList, &SelectionFrame});
+  AddInto(SelectionFrame, {&BallSelectionOpt[0], &BallSelectionOpt[1], &BallSelectionStyle});
+  Add({&CopyLabel, &grid1, &SampleDataGenerate, &CalculateButton});
   for (Control* control : controls()) {
     if (control != &TabMain) TabMain.Hold(*control, 0);
   }
-  for (OptionButton& option : BallSelectionOpt) option.SetParent(SelectionFrame);
-  BallSelectionStyle.SetParent(SelectionFrame);
-  Add({&HeaderFrame, &FontFrame});
-  for (Frame* frame : {&HeaderFrame, &FontFrame}) TabMain.Hold(*frame, 1);
-  const auto add_to = [this](Frame& frame, Control& control) {
-    Add({&control});
-    control.SetParent(frame);
-  };
-  for (TextCombo& header : HeaderText) add_to(HeaderFrame, header);
-  add_to(HeaderFrame, NumberLabel);
-  add_to(HeaderFrame, ReportNumber);
-  for (CheckBox& header : Header) add_to(HeaderFrame, header);
+  Add({&HeaderFrame});
+  for (TextCombo& header : HeaderText) AddInto(HeaderFrame, {&header});
+  AddInto(HeaderFrame, {&NumberLabel, &ReportNumber, &Header[0], &Header[1], &Header[2]});
+  Add({&FontFrame});
   for (std::size_t i = 0; i < FontButton.size(); ++i) {
-    add_to(FontFrame, FontLabel[i]);
-    add_to(FontFrame, FontButton[i]);
+    AddInto(FontFrame, {&FontLabel[i], &FontButton[i]});
   }
-  add_to(FontFrame, DisplayHGridLines);
-  add_to(FontFrame, DisplayVGridLines);
+  AddInto(FontFrame, {&DisplayHGridLines, &DisplayVGridLines});
+  for (Frame* frame : {&HeaderFrame, &FontFrame}) TabMain.Hold(*frame, 1);
   Add({&SaveButton, &CancelButton, &Help, &Timer1});
   CancelButton.SetCancel(true);
 }
@@ -160,20 +138,6 @@ void XReportsCustomTeamResults::LabelRows() {
   grid1.SetRepainting(true);
 }
 
-void XReportsCustomTeamResults::HeadSampleColumns() {
-  grid1.SetHeading(kFirstSampleColumn - 1, "+++");
-  for (int team = 1; team <= kSampleTeams; ++team) {
-    const std::string sample = "SAMPLE    " + std::to_string(team);
-    for (int player = 1; player <= kMostLayoutPlayers; ++player) {
-      const std::string who = "Player #" + std::to_string(player);
-      grid1.SetHeading(SampleColumn(team, BallTable::kGross, player),
-                       sample + "\nGROSS    \n" + who);
-      grid1.SetHeading(SampleColumn(team, BallTable::kNet, player), sample + "\nNET    \n" + who);
-    }
-    grid1.SetHeading(SampleTotalColumn(team), sample + "\nTOTAL ");
-  }
-}
-
 void XReportsCustomTeamResults::BindEvents() {
   const auto change = [this] { ChangeLayout(); };
   HoleNumberUsedList.on_click = change;
@@ -186,8 +150,8 @@ void XReportsCustomTeamResults::BindEvents() {
     };
   }
   grid1.on_change = [this](int column, int row) { ChangeCell(column, row); };
-  SampleDataGenerate.on_click = [this] { GenerateSample(); };
-  CalculateButton.on_click = [this] { CalculateSample(); };
+  SampleDataGenerate.on_click = [this] { sample_.Generate(); };
+  CalculateButton.on_click = [this] { sample_.Calculate(); };
   for (std::size_t i = 0; i < FontButton.size(); ++i) {
     FontButton[i].on_click = [this, i] { ChooseFontOf(i); };
   }
@@ -217,7 +181,7 @@ void XReportsCustomTeamResults::SetReportFileName(std::string name) {
 
 // The screen is up by now.
 void XReportsCustomTeamResults::Begin() {
-  random_ = host().Seed();
+  sample_.SetSeed(host().Seed());
   if (state().Program().ActiveTournament() <= 0) {
     host().Ask(Box{.title = "No active tournament",
                    .text = "You must have an 'active' tournament to access this report"});
@@ -229,7 +193,7 @@ void XReportsCustomTeamResults::Begin() {
     return host().Unload(*this);
   }
   ShowLayout();
-  if (action_ != kShow) GenerateSample();
+  if (action_ != kShow) sample_.Generate();
 }
 
 void XReportsCustomTeamResults::MakeNewLayout() {
@@ -250,11 +214,8 @@ bool XReportsCustomTeamResults::LoadLayout() {
   const int replaced = LimitToChoices(layout);
   layout_ = std::move(layout);
   if (replaced > 0) {
-    host().Ask(Box{.title = "Notice",
-                   .text = std::to_string(replaced) +
-                           " codes of this report are not known.  The first choice of its list "
-                           "stands for each.",
-                   .icon = BoxIcon::kWarning});
+    host().Ask(
+        Box{.title = "Notice", .text = UnknownCodesText(replaced), .icon = BoxIcon::kWarning});
   }
   if (file_name_.starts_with('(')) {
     host().Ask(Box{.title = "Notice",
@@ -307,13 +268,7 @@ void XReportsCustomTeamResults::ShowLists() {
       grid1.SetItems(ColumnOf(place, code), balls);
     }
   }
-  for (int team = 1; team <= kSampleTeams; ++team) {
-    for (int player = 1; player <= kMostLayoutPlayers; ++player) {
-      for (const BallTable table : {BallTable::kGross, BallTable::kNet}) {
-        grid1.SetHidden(SampleColumn(team, table, player), player > layout_.PlayersPerTeam);
-      }
-    }
-  }
+  sample_.HideColumns();
   grid1.SetRepainting(true);
 }
 
@@ -359,14 +314,14 @@ void XReportsCustomTeamResults::ChangeLayout() {
   if (layout_.HoleNumberUsed != holes_before) CopyForward(layout_);
   ShowLists();
   ShowCodes();
-  if (layout_.PlayersPerTeam != players_before) return GenerateSample();
-  CalculateSample();
+  if (layout_.PlayersPerTeam != players_before) return sample_.Generate();
+  sample_.Calculate();
 }
 
 // A place without players takes no balls either.
 void XReportsCustomTeamResults::ChangeCell(int column, int row) {
   const int hole = HoleOfRow(row);
-  if (hole == 0 || column < 1 || column > kLastCodeColumn || column % 4 == 0) return;
+  if (hole == 0 || column < 1 || column >= SampleTeams::kFirstColumn || column % 4 == 0) return;
   const auto code = static_cast<Code>((column - 1) % 4);
   PlaceCodes& place = layout_.At(hole, column / 4);
   place.*FieldOf(code) = CodeOfCell(grid1.text(column, row));
@@ -374,7 +329,7 @@ void XReportsCustomTeamResults::ChangeCell(int column, int row) {
   LimitToChoices(layout_);
   CopyForward(layout_);
   ShowCodes();
-  CalculateSample();
+  sample_.Calculate();
 }
 
 const std::string& XReportsCustomTeamResults::ConsiderPlayers(int hole, int place) const {
@@ -421,9 +376,6 @@ bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
     return true;
   };
   if (name.empty()) return refuse("You did not enter a name for your Report.");
-  if (name.starts_with('(')) {
-    return refuse("A name that begins with ( belongs to a permanent system report.");
-  }
   if (name.find_first_of("\\/:*?\"<>|\r\n") != std::string::npos) {
     return refuse("A report name cannot hold any of the characters \\ / : * ? \" < > |");
   }
@@ -431,6 +383,7 @@ bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
   if (!another || !state().files.FileExists(state().StoreDataPath + name + extension_ + "1")) {
     return false;
   }
+  if (name.starts_with('(')) return refuse("A permanent system report cannot be replaced.");
   const BoxButton answer = host().Ask(
       Box{.title = "Replace existing report layout with this layout?",
           .text = "A report layout with this name already exists.  Do you want to replace that "
@@ -476,54 +429,6 @@ void XReportsCustomTeamResults::ChooseFontOf(std::size_t i) {
   font.style &= ~(ReportFont::kBold | ReportFont::kItalic);
   font.style |= (chosen.bold ? ReportFont::kBold : 0) | (chosen.italic ? ReportFont::kItalic : 0);
   ShowFonts();
-}
-
-// A number of 0 to `most`; the next ones follow from the seed alone.
-int XReportsCustomTeamResults::MadeUp(std::uint32_t most) {
-  random_ = random_ * 1664525 + 1013904223;
-  return static_cast<int>((random_ >> 16) % (most + 1));  // the low bits have short periods
-}
-
-// Scores of 3 to 7, with a stroke on every other hole or so.
-void XReportsCustomTeamResults::GenerateSample() {
-  sample_.XBallInitializeTeamGrid(kSampleTeams);
-  for (int team = 1; team <= kSampleTeams; ++team) {
-    std::vector<std::vector<int>> gross(static_cast<std::size_t>(layout_.PlayersPerTeam));
-    auto net = gross;
-    for (std::size_t player = 0; player < gross.size(); ++player) {
-      for (int hole = 1; hole <= kLayoutHoles; ++hole) {
-        gross[player].push_back(3 + MadeUp(4));
-        net[player].push_back(gross[player].back() - MadeUp(1));
-      }
-    }
-    sample_.PopulateTeamGridwithManualData(team, BallTable::kGross, gross);
-    sample_.PopulateTeamGridwithManualData(team, BallTable::kNet, net);
-  }
-  CalculateSample();
-}
-
-void XReportsCustomTeamResults::CalculateSample() {
-  sample_.XBallConsiderWhichScores(false, {});
-  sample_.XBallCalculateTeamScore({});
-  grid1.SetRepainting(false);
-  for (int team = 1; team <= sample_.teams(); ++team) ShowSampleTeam(team);
-  grid1.SetRepainting(true);
-}
-
-void XReportsCustomTeamResults::ShowSampleTeam(int team) {
-  const TeamBalls& balls = sample_.Team(team);
-  for (int row = 1; row <= kTableColumns; ++row) {
-    const TeamBalls::Sum total = balls.Score(row);
-    grid1.SetText(SampleTotalColumn(team), row, total ? std::to_string(*total) : "");
-    for (int player = 1; player <= kMostLayoutPlayers; ++player) {
-      for (const BallTable table : {BallTable::kGross, BallTable::kNet}) {
-        const Ball& ball = balls.At(table, player, row);
-        const std::string value = ball.value ? std::to_string(*ball.value) : "";
-        grid1.SetText(SampleColumn(team, table, player), row,
-                      value + (ball.selected ? " (Used)" : ""));
-      }
-    }
-  }
 }
 
 }  // namespace golf

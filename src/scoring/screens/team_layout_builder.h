@@ -1,13 +1,12 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "forms/screen_host.h"
-#include "scoring/custom_balls.h"
 #include "scoring/report_layout.h"
+#include "scoring/screens/sample_teams.h"
 
 namespace golf {
 
@@ -98,7 +97,6 @@ class XReportsCustomTeamResults : public Screen {
   void AddControls();
   void BindEvents();
   void LabelRows();
-  void HeadSampleColumns();
   void Begin();
   bool LoadLayout();
   void MakeNewLayout();
@@ -117,18 +115,12 @@ class XReportsCustomTeamResults : public Screen {
   void AskToCancel();
   void ChooseFontOf(std::size_t i);
 
-  int MadeUp(std::uint32_t most);
-  void GenerateSample();
-  void CalculateSample();
-  void ShowSampleTeam(int team);
-
   int action_ = kShow;
   std::string file_name_;
   std::string extension_{kLayoutExtension};
   ReportLayout layout_;
   bool showing_ = false;  // the program sets controls, not the operator
-  std::uint32_t random_ = 0;  // of the sample scores made up last
-  CustomBalls sample_{layout_};
+  SampleTeams sample_{layout_, grid1};
 };
 
 }  // namespace golf

@@ -81,6 +81,7 @@ void TeamResults::OnActivate() {
 }
 
 void TeamResults::Begin() {
+  unchanged_.emplace(state().files.gate());
   if (!OpenActiveTournament()) return host().Unload(*this);
   TournamentClass& tournament = state().Tournament();
   TournamentLabel.SetCaption(tournament.Name());
@@ -290,7 +291,7 @@ void TeamResults::Copy() {
 }
 
 void TeamResults::SaveAsCsv() {
-  const std::string name =
+  std::string name =
       host().Ask(InputBox{.title = "Save as CSV",
                           .text = "Name of the file, in the folder " + state().ProgramPath,
                           .default_answer = "Team results.csv"});
@@ -300,6 +301,9 @@ void TeamResults::SaveAsCsv() {
                    .text = "A file name cannot hold any of the characters \\ / : * ? \" < > |"});
     return;
   }
+  constexpr std::string_view kEnding = ".csv";
+  const std::size_t stem = name.size() - std::min(name.size(), kEnding.size());
+  if (!EqualIgnoringCase(name.substr(stem), kEnding)) name += kEnding;
   const std::string path = state().ProgramPath + name;
   if (state().files.FileExists(path)) {
     const BoxButton answer = host().Ask(Box{.title = "Replace file?",
@@ -312,11 +316,15 @@ void TeamResults::SaveAsCsv() {
   }
   std::string text;
   for (const auto& line : Lines()) text += CsvLine(line) + "\r\n";
+  unchanged_.reset();
   state().files.gate().ReplaceText(path, text);
+  unchanged_.emplace(state().files.gate());
   host().Ask(Box{.title = "Notice",
                  .text = "The standings were saved as " + path,
                  .icon = BoxIcon::kInformation});
 }
+
+void TeamResults::OnUnload() { unchanged_.reset(); }
 
 void TeamResults::Close() {
   host().Unload(*this);

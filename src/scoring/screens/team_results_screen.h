@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/change_gate.h"
 #include "forms/screen_host.h"
 #include "scoring/standings_table.h"
 
@@ -11,12 +12,14 @@ namespace golf {
 
 // The teams of the active tournament as they stand: over all scores, or under a report layout. The
 // team whose row is active is shown hole by hole below, with the balls that count marked. The round
-// that is chosen is the active one in memory only.
+// that is chosen is the active one in memory only, and so is what is mended in records that are
+// read.
 class TeamResults : public Screen {
  public:
   explicit TeamResults(const ScreenContext& context);
 
   void OnActivate() override;
+  void OnUnload() override;
   Button* LeaveButton() override { return &ExitButton; }
 
   Label TournamentLabel{"TournamentLabel"};
@@ -50,6 +53,7 @@ class TeamResults : public Screen {
   void SaveAsCsv();
   void Close();
 
+  std::optional<RefusedChanges> unchanged_;
   bool begun_ = false;
   bool loading_ = false;
   ReportLayout layout_;

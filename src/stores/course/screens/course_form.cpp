@@ -45,8 +45,7 @@ CourseForm::CourseForm(const ScreenContext& context) : Screen("CourseForm", cont
   for (const CourseText& text : kTexts) Add({&(this->*text.box)});
   Add({&HolesFrame});
   for (std::size_t i = 0; i < FHoleNum.size(); ++i) {
-    Add({&FHoleNum[i]});
-    FHoleNum[i].SetParent(HolesFrame);
+    AddInto(HolesFrame, {&FHoleNum[i]});
     FHoleNum[i].on_click = [this, i] { ChooseHoles(i); };
   }
   Add({&grid1, &EditTeeButton, &OKButton, &CancelButton, &Help});

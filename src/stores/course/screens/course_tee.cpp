@@ -64,29 +64,25 @@ CourseTee::CourseTee(const ScreenContext& context) : Screen("CourseTee", context
 }
 
 void CourseTee::PlaceControls() {
-  const auto hold = [this](Frame& frame, std::initializer_list<Control*> controls) {
-    Add(controls);
-    for (Control* control : controls) control->SetParent(frame);
-  };
   const auto hold_nine = [&](Frame& frame, ComboBox& first_number, std::size_t first) {
     Add({&frame});
-    hold(frame, {&first_number});
+    AddInto(frame, {&first_number});
     for (HoleControls<TextBox>* boxes : {&FYardage, &FPar, &FHandicap}) {
-      for (std::size_t i = first; i < first + kNine; ++i) hold(frame, {&(*boxes)[i]});
+      for (std::size_t i = first; i < first + kNine; ++i) AddInto(frame, {&(*boxes)[i]});
     }
     for (HoleControls<Label>* labels : {&HoleNumber, &FSequence}) {
-      for (std::size_t i = first; i < first + kNine; ++i) hold(frame, {&(*labels)[i]});
+      for (std::size_t i = first; i < first + kNine; ++i) AddInto(frame, {&(*labels)[i]});
     }
   };
   Add({&FCourse, &FHoles, &ActiveTee, &TeeFrame});
-  hold(TeeFrame, {&FTeeName, &FTeeNameAbv, &YardsOrMeters, &FMensRating, &FMensSlope,
-                  &FLadiesRating, &FLadiesSlope, &YardOrMeter});
+  AddInto(TeeFrame, {&FTeeName, &FTeeNameAbv, &YardsOrMeters, &FMensRating, &FMensSlope,
+                     &FLadiesRating, &FLadiesSlope, &YardOrMeter});
   hold_nine(FrontNineFrame, FrontHoleNumber, 0);
-  hold(FrontNineFrame, {&FYardOut, &FParOut});
+  AddInto(FrontNineFrame, {&FYardOut, &FParOut});
   hold_nine(BackNineFrame, BackHoleNumber, kNine);
-  hold(BackNineFrame, {&FYardIn, &FParIn});
+  AddInto(BackNineFrame, {&FYardIn, &FParIn});
   Add({&TotalFrame});
-  hold(TotalFrame, {&FYardTotal, &FParTotal});
+  AddInto(TotalFrame, {&FYardTotal, &FParTotal});
   Add({&Timer1, &OKButton, &CancelButton, &Help});
 }
 
