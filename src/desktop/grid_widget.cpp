@@ -178,15 +178,17 @@ class GridView : public wxGrid {
     Bind(wxEVT_CHAR_HOOK, &GridView::OnCharHook, this);
     Bind(wxEVT_SIZE, &GridView::OnSize, this);
     SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
-    ColourSelection(false);
-    GetGridWindow()->Bind(wxEVT_SET_FOCUS, &GridView::OnFocus, this);
-    GetGridWindow()->Bind(wxEVT_KILL_FOCUS, &GridView::OnFocus, this);
+    for (wxWindow* window : {static_cast<wxWindow*>(this), GetGridWindow()}) {
+      window->Bind(wxEVT_SET_FOCUS, &GridView::OnFocus, this);
+      window->Bind(wxEVT_KILL_FOCUS, &GridView::OnFocus, this);
+    }
   }
 
   void Follow() {
     showing_ = true;
     const bool resized = table_->CatchUp();
     if (resized || !measured_) Measure();
+    ColourSelection(HasFocus());
     ShowActiveRow();
     ForceRefresh();
     showing_ = false;
