@@ -271,9 +271,16 @@ class GridView : public wxGrid {
     DisableCellEditControl();
   }
 
+  // The toolkit's cursor stands in the first row before any row is marked.
+  bool MarksFirstRow(int key) const {
+    return (key == WXK_DOWN || key == WXK_NUMPAD_DOWN) && marks_ == GridMarks::kRows &&
+           control_.active_row() == 0 && control_.rows() > 0;
+  }
+
   // The keys that the screen knows; all others move about in the grid.
   void OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
+    if (MarksFirstRow(key)) return binding_.Operate([this] { control_.SetActiveRow(1); });
     if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // would unmark the active row
     if (key == WXK_TAB && marks_ == GridMarks::kRows) return LeaveByTab(event.ShiftDown());
     const char* name = key == WXK_RETURN || key == WXK_NUMPAD_ENTER ? "Enter"

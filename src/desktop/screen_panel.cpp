@@ -40,6 +40,12 @@ ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& scree
   window_.SetTitle(WxText(screen.caption()));
   window_.Bind(wxEVT_CLOSE_WINDOW, &ScreenPanel::OnClose, this);
   window_.Bind(wxEVT_CHAR_HOOK, &ScreenPanel::OnCharHook, this);
+  const auto note_menu = [this](wxMenuEvent& event) {
+    menu_is_open_ = event.GetEventType() == wxEVT_MENU_OPEN;
+    event.Skip();
+  };
+  window_.Bind(wxEVT_MENU_OPEN, note_menu);
+  window_.Bind(wxEVT_MENU_CLOSE, note_menu);
   FollowTimers();
   Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
     event.Skip();
@@ -95,8 +101,10 @@ void ScreenPanel::OnClose(wxCloseEvent& event) {
   if (screen_ != nullptr) press(screen_->LeaveButton());
 }
 
+// In an open menu Escape closes the menu and not the screen.
 void ScreenPanel::OnCharHook(wxKeyEvent& event) {
-  if (event.GetKeyCode() != WXK_ESCAPE || !binding_.OperateKey("Escape")) event.Skip();
+  const bool leaves = event.GetKeyCode() == WXK_ESCAPE && !menu_is_open_;
+  if (!leaves || !binding_.OperateKey("Escape")) event.Skip();
 }
 
 }  // namespace golf

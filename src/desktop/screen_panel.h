@@ -40,6 +40,7 @@ class ScreenPanel : public wxPanel {
   Screen* screen_;
   Binding binding_;
   wxGauge* gauge_ = nullptr;
+  bool menu_is_open_ = false;
   std::vector<std::unique_ptr<wxTimer>> timers_;
 };
 
