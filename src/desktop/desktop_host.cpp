@@ -37,15 +37,17 @@ ScreenCatalogue WithView(const ScreenCatalogue& screens, const ViewCatalogue& vi
   return seen;
 }
 
-wxTopLevelWindow* NewWindow(WindowKind kind, wxWindow* parent) {
-  if (kind == WindowKind::kMain) {
+wxTopLevelWindow* NewWindow(const View& view, wxWindow* parent) {
+  if (view.kind == WindowKind::kMain) {
     auto* frame = new wxFrame(parent, wxID_ANY, "");
 #ifdef __WXMSW__
     frame->SetIcons(wxIconBundle("golf_transfer", nullptr));  // of the program's resources
 #endif
     return frame;
   }
-  auto* dialog = new wxDialog(parent, wxID_ANY, "");
+  const long border = view.grows ? wxRESIZE_BORDER : 0;
+  auto* dialog = new wxDialog(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                              wxDEFAULT_DIALOG_STYLE | border);
   dialog->SetEscapeId(wxID_NONE);  // the screen says what Escape does
   return dialog;
 }
@@ -95,7 +97,7 @@ std::vector<DesktopHost::Window>::iterator DesktopHost::Find(const Screen& scree
 void DesktopHost::Open(Screen& screen) {
   if (in_run()) ForgetTypedInput();
   const View& view = views_.find(screen.name())->second;
-  wxTopLevelWindow* window = NewWindow(view.kind, TopWindow());
+  wxTopLevelWindow* window = NewWindow(view, TopWindow());
   auto* panel = new ScreenPanel(*window, *this, screen);
   if (auto* frame = dynamic_cast<wxFrame*>(window)) AddToolsMenu(*frame, state(), *this);
   view.fill(*panel, screen);

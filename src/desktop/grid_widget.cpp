@@ -203,6 +203,7 @@ class GridView : public wxGrid {
 
  private:
   void Measure() {
+    widest_ = -1;
     if (GetNumberRows() > kMostRowsMeasured) return;
     measured_ = true;
     SetColLabelSize(wxGRID_AUTOSIZE);
@@ -210,6 +211,7 @@ class GridView : public wxGrid {
     for (int column = 0; column < GetNumberCols(); ++column) {
       SetColSize(column, GetColSize(column) + FromDIP(kMargin));
     }
+    SpendSpareWidth();
   }
 
   void ShowActiveRow() {
@@ -220,17 +222,25 @@ class GridView : public wxGrid {
     MakeCellVisible(row, std::max(GetGridCursorCol(), 0));
   }
 
-  // The widest column takes the room that is left.
   void OnSize(wxSizeEvent& event) {
     event.Skip();
-    const int columns = GetNumberCols();
-    if (columns == 0) return;
-    int widest = 0;
-    for (int column = 1; column < columns; ++column) {
-      if (GetColSize(column) > GetColSize(widest)) widest = column;
+    SpendSpareWidth();
+  }
+
+  // The widest column takes the room that is left, and gives it back.
+  void SpendSpareWidth() {
+    if (GetNumberCols() == 0) return;
+    if (widest_ < 0) NoteWidest();
+    const int others = GetRowLabelSize() + GetColRight(GetNumberCols() - 1) - GetColSize(widest_);
+    SetColSize(widest_, std::max(widest_needs_, GetClientSize().x - others));
+  }
+
+  void NoteWidest() {
+    widest_ = 0;
+    for (int column = 1; column < GetNumberCols(); ++column) {
+      if (GetColSize(column) > GetColSize(widest_)) widest_ = column;
     }
-    const int spare = GetClientSize().x - GetRowLabelSize() - GetColRight(columns - 1);
-    if (spare > 0) SetColSize(widest, GetColSize(widest) + spare);
+    widest_needs_ = GetColSize(widest_);
   }
 
   void OnSelect(wxGridEvent& event) {
@@ -246,6 +256,7 @@ class GridView : public wxGrid {
   void OnFocus(wxFocusEvent& event) {
     event.Skip();
     ColourSelection(event.GetEventType() == wxEVT_SET_FOCUS);
+    GetGridWindow()->Refresh();
   }
 
   // Without the focus the toolkit paints the selection grey, on which its own text is hard to read.
@@ -299,6 +310,8 @@ class GridView : public wxGrid {
   ControlTable* table_;
   bool showing_ = false;
   bool measured_ = false;
+  int widest_ = -1;  // column; -1 before it is known
+  int widest_needs_ = 0;
 };
 
 }  // namespace

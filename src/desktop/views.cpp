@@ -29,24 +29,25 @@ void Fill(ScreenPanel& panel, Screen& screen) {
 }  // namespace
 
 ViewCatalogue Views() {
-  return {{"TransferMenu", {WindowKind::kMain, Fill<TransferMenu, FillTransferMenu>}},
-          {"TipBox", {WindowKind::kDialog, Fill<TipBox, FillTipBox>}},
-          {"GridSort", {WindowKind::kDialog, Fill<GridSort, FillGridSort>}},
-          {"LoadRoster", {WindowKind::kDialog, Fill<LoadRoster, FillLoadRoster>}},
-          {"LoadRosters", {WindowKind::kDialogOverOpener, Fill<LoadRosters, FillLoadRosters>}},
-          {"CourseTable", {WindowKind::kDialog, Fill<CourseTable, FillCourseTable>}},
-          {"CourseForm", {WindowKind::kDialog, Fill<CourseForm, FillCourseForm>}},
-          {"CourseTee", {WindowKind::kDialog, Fill<CourseTee, FillCourseTee>}},
-          {"TeamResults", {WindowKind::kDialog, Fill<TeamResults, FillTeamResults>}},
-          {"TeamLayouts", {WindowKind::kDialog, Fill<TeamLayouts, FillTeamLayouts>}},
-          {"XReportsCustomTeamResults",
-           {WindowKind::kDialog, Fill<XReportsCustomTeamResults, FillTeamLayoutBuilder>}},
-          {"KVtoQB", {WindowKind::kDialog, Fill<KVtoQB, FillKVtoQB>}},
-          {"KVtoZD", {WindowKind::kDialog, Fill<KVtoZD, FillKVtoZD>}},
-          {"QBtoKV", {WindowKind::kDialog, Fill<QBtoKV, FillQBtoKV>}},
-          {"ZDtoKV", {WindowKind::kDialog, Fill<ZDtoKV, FillZDtoKV>}},
-          {"ZDtoQB", {WindowKind::kDialog, Fill<ZDtoQB, FillZDtoQB>}},
-          {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};
+  return {
+      {"TransferMenu", {WindowKind::kMain, Fill<TransferMenu, FillTransferMenu>}},
+      {"TipBox", {WindowKind::kDialog, Fill<TipBox, FillTipBox>}},
+      {"GridSort", {WindowKind::kDialog, Fill<GridSort, FillGridSort>}},
+      {"LoadRoster", {WindowKind::kDialog, Fill<LoadRoster, FillLoadRoster>, true}},
+      {"LoadRosters", {WindowKind::kDialogOverOpener, Fill<LoadRosters, FillLoadRosters>, true}},
+      {"CourseTable", {WindowKind::kDialog, Fill<CourseTable, FillCourseTable>, true}},
+      {"CourseForm", {WindowKind::kDialog, Fill<CourseForm, FillCourseForm>}},
+      {"CourseTee", {WindowKind::kDialog, Fill<CourseTee, FillCourseTee>}},
+      {"TeamResults", {WindowKind::kDialog, Fill<TeamResults, FillTeamResults>, true}},
+      {"TeamLayouts", {WindowKind::kDialog, Fill<TeamLayouts, FillTeamLayouts>, true}},
+      {"XReportsCustomTeamResults",
+       {WindowKind::kDialog, Fill<XReportsCustomTeamResults, FillTeamLayoutBuilder>, true}},
+      {"KVtoQB", {WindowKind::kDialog, Fill<KVtoQB, FillKVtoQB>, true}},
+      {"KVtoZD", {WindowKind::kDialog, Fill<KVtoZD, FillKVtoZD>, true}},
+      {"QBtoKV", {WindowKind::kDialog, Fill<QBtoKV, FillQBtoKV>, true}},
+      {"ZDtoKV", {WindowKind::kDialog, Fill<ZDtoKV, FillZDtoKV>, true}},
+      {"ZDtoQB", {WindowKind::kDialog, Fill<ZDtoQB, FillZDtoQB>, true}},
+      {"KVCoursestoQB", {WindowKind::kDialog, Fill<KVCoursestoQB, FillKVCoursestoQB>}}};
 }
 
 }  // namespace golf

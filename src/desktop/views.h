@@ -32,6 +32,7 @@ enum class WindowKind { kMain, kDialog, kDialogOverOpener };
 struct View {
   WindowKind kind;
   void (*fill)(ScreenPanel&, Screen&);
+  bool grows = false;  // with a list or a log that is worth more room
 };
 // Views by the names of their screens.
 using ViewCatalogue = std::map<std::string, View, std::less<>>;
