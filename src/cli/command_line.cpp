@@ -26,6 +26,29 @@ constexpr const char* kExitCodes =
     "it carried on over faults; 4 another program holds the files.\n"
     "Every command has a --help of its own.";
 
+constexpr const char* kInstallHint =
+    "Name the folder that holds kvdata, qbdata and zddata with --install.";
+constexpr const char* kScriptLines =
+    "A script has a line for each step; # starts a comment, words with blanks stand in "
+    "\"quotes\":\n"
+    "  open SCREEN              click CONTROL            set CONTROL TEXT\n"
+    "  check CONTROL on|off     double-click CONTROL     type CONTROL TEXT\n"
+    "  select CONTROL INDEX     tab CONTROL INDEX        key NAME [CONTROL]\n"
+    "  pick CONTROL TEXT        row GRID N               cell GRID ROW COLUMN TEXT\n"
+    "  show [CONTROL]           close                    answer TITLE ANSWER [always]\n"
+    "  caller WORD\n"
+    "Begin with: open TransferMenu, show.\n\n";
+
+// The parser's text for a command that it does not know tells only that it wants one.
+std::string FailureText(const CLI::App* app, const CLI::Error& error) {
+  const std::vector<std::string> unknown = app->remaining(true);
+  const bool wants_command = std::string_view(error.what()) == "A subcommand is required";
+  const std::string text = !wants_command    ? error.what()
+                           : unknown.empty() ? "A command is required"
+                                             : "There is no command " + unknown.front();
+  return text + "\nRun with --help for more information.\n";
+}
+
 void AddGlobalOptions(CLI::App& app, Options& options) {
   app.add_option_function<std::string>(
          "--install", [&options](const std::string& folder) { options.install = folder; },
@@ -104,7 +127,9 @@ void AddRoster(CLI::App& command, std::string& roster) {
 }
 
 void AddQuenbyRoster(CLI::App& command, int& to) {
-  AddNumber(command, "--to", to, "The Quenby roster, as in list qb-rosters; 0 for all")
+  AddNumber(command, "--to", to,
+            "The Quenby roster, as in list qb-rosters; 0 looks through all of\nthem and puts new "
+            "golfers on none")
       ->required()
       ->type_name("N");
 }
@@ -119,17 +144,18 @@ void AddGolfersKvToQb(CLI::App& app, const Options& options, GolfersKvToQbReques
                       Command& chosen) {
   CLI::App* command =
       AddCommand(app, "golfers-kv-to-qb", "Transfer the golfers of a roster, Kelvane to Quenby",
-                 "--install golf-demo golfers-kv-to-qb --roster CLUB --to 1 --items Flight,7",
+                 "--install golf-demo golfers-kv-to-qb --roster CLUB18 --to 1 --items Flight,7",
                  chosen, [&] { return RunGolfersKvToQb(options, request); });
   AddRoster(*command, request.roster);
   AddQuenbyRoster(*command, request.to);
   command->add_flag("--marked-only", request.marked_only, "Only golfers who are marked to print");
-  command->add_flag("--to-9-hole", request.to_9_hole, "Handicaps of 18 holes by 2");
+  command->add_flag("--to-9-hole", request.to_9_hole, "Handicaps of 18 holes divided by 2");
   command->add_flag("--to-18-hole", request.to_18_hole, "Handicaps of 9 holes times 2");
   command
       ->add_option("--items", request.items,
-                   "Optional items by name or row: 2 flight, 3 group number, 4 group text, 5 and 6 "
-                   "dates, 7 to 11 texts, 12 to 16 amounts")
+                   "Optional items by name or row, parted by commas: 2 flight,\n"
+                   "3 group number, 4 group text, 5 and 6 dates, 7 to 11 texts,\n"
+                   "12 to 16 amounts")
       ->delimiter(',')
       ->type_name("LIST");
   command->add_flag("--update-tournament", request.update_tournament,
@@ -160,7 +186,7 @@ void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdReques
   CLI::App* command =
       AddCommand(app, "golfers-kv-to-zd",
                  "Transfer handicaps and addresses of a roster's golfers, Kelvane to Zandel",
-                 "--install golf-demo golfers-kv-to-zd --roster CLUB --league 00021 --percent 80",
+                 "--install golf-demo golfers-kv-to-zd --roster CLUB18 --league 00021 --percent 80",
                  chosen, [&] { return RunGolfersKvToZd(options, request); });
   AddRoster(*command, request.roster);
   AddLeague(*command, request.league);
@@ -198,8 +224,8 @@ void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvRequest&
   AddNumber(*command, "--round", request.round, "Of the tournament")->required()->type_name("R");
   AddRoster(*command, request.roster);
   AddNumber(*command, "--course", request.course,
-            "The Kelvane course, as in list courses, 0 for an away course; the one that the "
-            "name of the round's course fits best if left out")
+            "The Kelvane course, as in list courses, 0 for an away course;\n"
+            "the one that the name of the round's course fits best if left out")
       ->type_name("N");
   command->add_flag("--as-tournament", request.as_tournament, "Post them as tournament scores");
   command->add_flag("--points", request.points, "Post points in place of scores");
@@ -225,8 +251,8 @@ void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest&
   AddRoster(*command, request.roster);
   command
       ->add_option("--again", request.again,
-                   "Whether scores that the roster has already go in once more; left out, three "
-                   "of them in a row end the transfer")
+                   "Whether scores that the roster has already go in once more;\n"
+                   "left out, they do not, and three in a row end the transfer")
       ->check(CLI::IsMember({"yes", "no"}))
       ->type_name("yes|no");
 }
@@ -255,7 +281,9 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   CLI::App* dump = AddCommand(app, "dump", "Show the records of a file, field by field",
                               "dump golf-demo/kvdata/kvcrs.dat --record 1", chosen,
                               [&] { return RunDump(options, args.dump); });
-  dump->add_option("FILE", args.dump.file, "A file of Kelvane, Quenby or Zandel")->required();
+  dump->add_option("FILE", args.dump.file,
+                   "A file of Kelvane, Quenby or Zandel, as named here or below the\ninstall")
+      ->required();
   AddNumber(*dump, "--record", args.dump.record, "Only this record, from 1");
   dump->add_flag("--csv", args.dump.csv, "A line a record, with a heading");
 
@@ -267,7 +295,8 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
                    "Whose results: players or teams, or custom for teams under a layout")
       ->required()
       ->check(CLI::IsMember(ResultsNames()));
-  AddNumber(*results, "--tournament", args.results.tournament, "The tournament's number")
+  AddNumber(*results, "--tournament", args.results.tournament,
+            "The tournament, as in list tournaments")
       ->required();
   AddNumber(*results, "--round", args.results.round, "The round; the active one if left out")
       ->type_name("R");
@@ -276,7 +305,9 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
       throw CLI::RequiredError("--layout");
     }
   });
-  results->add_option("--layout", args.results.layout, "The layout of custom results")
+  results
+      ->add_option("--layout", args.results.layout,
+                   "The layout of custom results: a pair of files NAME.TR1 and\nNAME.TR2 in qbdata")
       ->type_name("NAME");
   results->add_flag("--csv", args.results.csv, "A line an entry, with a heading");
 
@@ -295,6 +326,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
                                 "--install golf-demo script clicks.txt", chosen, [&] {
                                   return RunScript(options, args.script, args.start_programs);
                                 });
+  script->footer(kScriptLines + script->get_footer());
   script->add_option("FILE", args.script, "The script; - reads standard input")->required();
   script->add_flag("--start-programs", args.start_programs,
                    "Really start programs instead of reporting them");
@@ -320,6 +352,7 @@ ExitCode RunChosen(const Command& command) {
     const bool missing =
         error.Is(ErrorNumber::kPathNotFound) || error.Is(ErrorNumber::kFileNotFound);
     TellProblem(missing ? error.description() : error.Report());
+    if (error.Is(ErrorNumber::kPathNotFound)) TellProblem(kInstallHint);
     return missing ? ExitCode::kRefused : ExitCodeOf(error);
   } catch (const std::exception& error) {
     std::cerr << "A fault of the program: " << error.what() << std::endl;
@@ -336,6 +369,7 @@ int RunCommandLine(int argc, const char* const* argv) {
   app.set_version_flag("--version", "golf-transfer-cli " GOLF_VERSION);
   app.allow_windows_style_options(false);  // a word means the same on every system
   app.require_subcommand(1);
+  app.failure_message(FailureText);
   app.fallthrough();  // global options may stand behind the command, too
   Options options;
   Arguments arguments;

@@ -108,8 +108,8 @@ void ShowTee(CourseClass& course, const TeeKey& tee) {
   std::cout << "\nTee " << tee.number << ", " << PlainCell(tee.name) << " ("
             << PlainCell(tee.abbreviation) << ")";
   for (const int group : {0, 1}) {
-    std::cout << ", " << kGroups[group].owner << ' ' << course.Rating(tee.number, group) << '/'
-              << course.slope(tee.number, group);
+    std::cout << ", " << kGroups[group].owner << " rating/slope "
+              << course.Rating(tee.number, group) << '/' << course.slope(tee.number, group);
   }
   std::cout << '\n';
   const HoleRange range = HolesPlayed(course.HoleNumFlag());
@@ -134,9 +134,14 @@ void ShowTee(CourseClass& course, const TeeKey& tee) {
   WriteTable(headings, rows);
 }
 
+std::string HolesForPeople(int flag) {
+  const std::string holes = HolesText(flag);
+  return holes == "9F" ? "front 9 holes" : holes == "9B" ? "back 9 holes" : holes + " holes";
+}
+
 void ShowForPeople(CourseClass& course, std::int32_t number) {
   std::cout << "Course " << number << ", " << PlainCell(course.Name()) << ", "
-            << HolesText(course.HoleNumFlag()) << " holes";
+            << HolesForPeople(course.HoleNumFlag());
   if (course.KVCourseNum() > 0) std::cout << ", from Kelvane course " << course.KVCourseNum();
   std::cout << '\n';
   for (const CourseDetail& detail : kDetails) {

@@ -13,6 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 void PrepareFolder(const std::string& folder) {
+  if (folder.empty()) throw Refusal("DIR names no folder.");
   std::error_code error;
   const fs::path path = PathFromUtf8(folder);
   if (fs::exists(path, error) && !fs::is_directory(path, error)) {

@@ -14,11 +14,32 @@ std::size_t Width(std::string_view utf8) {  // in characters
   }));
 }
 
-void WriteRow(const std::vector<std::string>& cells, const std::vector<std::size_t>& widths) {
+struct Column {
+  std::size_t width = 0;
+  bool of_numbers = false;
+};
+
+// "-" stands for none.
+bool IsNumber(std::string_view cell) {
+  return cell.find_first_not_of("+-.0123456789") == std::string_view::npos;
+}
+
+bool HoldsNumbers(const std::vector<std::vector<std::string>>& rows, std::size_t column) {
+  const auto has_digit = [column](const auto& row) {
+    return row[column].find_first_of("0123456789") != std::string::npos;
+  };
+  return std::any_of(rows.begin(), rows.end(), has_digit) &&
+         std::all_of(rows.begin(), rows.end(),
+                     [column](const auto& row) { return IsNumber(row[column]); });
+}
+
+// Numbers stand below each other by their last digit.
+void WriteRow(const std::vector<std::string>& cells, const std::vector<Column>& columns) {
   std::string line;
   for (std::size_t i = 0; i < cells.size(); ++i) {
-    line += cells[i];
-    if (i + 1 < cells.size()) line.append(widths[i] - Width(cells[i]) + 2, ' ');
+    const std::string padding(columns[i].width - Width(cells[i]), ' ');
+    line += columns[i].of_numbers ? padding + cells[i] : cells[i] + padding;
+    line += "  ";
   }
   std::cout << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
 }
@@ -54,13 +75,14 @@ std::string PlainCell(std::string_view text) {
 
 void WriteTable(const std::vector<std::string>& headings,
                 const std::vector<std::vector<std::string>>& rows) {
-  std::vector<std::size_t> widths;
-  for (const std::string& heading : headings) widths.push_back(Width(heading));
-  for (const auto& row : rows) {
-    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], Width(row[i]));
+  std::vector<Column> columns;
+  for (std::size_t i = 0; i < headings.size(); ++i) {
+    Column column{Width(headings[i]), HoldsNumbers(rows, i)};
+    for (const auto& row : rows) column.width = std::max(column.width, Width(row[i]));
+    columns.push_back(column);
   }
-  WriteRow(headings, widths);
-  for (const auto& row : rows) WriteRow(row, widths);
+  WriteRow(headings, columns);
+  for (const auto& row : rows) WriteRow(row, columns);
 }
 
 }  // namespace golf

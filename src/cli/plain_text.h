@@ -12,7 +12,8 @@ std::string PlainText(std::string_view text);
 // The same on one line: line ends are a "?" as well.
 std::string PlainCell(std::string_view text);
 
-// Writes rows below headings in columns as wide as they need to be, to standard output.
+// Writes rows below headings in columns as wide as they need to be, numbers to the right, to
+// standard output. Each row has a cell for each heading.
 void WriteTable(const std::vector<std::string>& headings,
                 const std::vector<std::vector<std::string>>& rows);
 

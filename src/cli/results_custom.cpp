@@ -14,13 +14,21 @@
 namespace golf {
 namespace {
 
+std::string LayoutsThereAre(SharedState& state) {
+  std::string names;
+  for (const std::string& name : ListReportLayouts(state.files, state.StoreDataPath)) {
+    names += (names.empty() ? "" : ", ") + PlainCell(name);
+  }
+  return "Layouts: " + (names.empty() ? "none" : names) + ".";
+}
+
 ReportLayout ReadLayout(ResultsRun& run) {
   ReportLayout layout;
   std::string problem;
   const std::string path =
       run.state.StoreDataPath + TextFromUtf8(run.request.layout) + std::string(kLayoutExtension);
   if (!ReadReportLayout(run.state.files, path, layout, problem)) {
-    throw Refusal(PlainText(problem));
+    throw Refusal(PlainText(problem) + "\n" + LayoutsThereAre(run.state));
   }
   if (const int replaced = LimitToChoices(layout)) {
     TellProblem(UnknownCodesText(replaced));

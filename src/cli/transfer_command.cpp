@@ -17,8 +17,14 @@ class ReportListener : public HostListener {
  public:
   explicit ReportListener(ProgressBar& bar) : bar_(bar) {}
 
-  void OnMessage(const Box& box, BoxButton) override { Keep(box.title, box.text); }
-  void OnTip(const TipView& tip, const std::string&) override { Keep(tip.title, tip.text); }
+  void OnMessage(const Box& box, BoxButton answer) override {
+    Keep(box.title, box.text);
+    if (box.buttons.size() > 1) KeepAnswer(NameOf(answer));
+  }
+  void OnTip(const TipView& tip, const std::string& answer) override {
+    Keep(tip.title, tip.text);
+    if (tip.buttons.size() > 1) KeepAnswer(answer);
+  }
   void OnFault(const NumberedError& fault) override { Tell(fault); }
   void OnError(const NumberedError& error) override { Tell(error); }
   void OnProgress(const Progress& progress) override { bar_.Show(progress); }
@@ -41,6 +47,8 @@ class ReportListener : public HostListener {
     if (!names_nothing) texts_.push_back(PlainText(title));
     texts_.push_back(PlainText(text));
   }
+
+  void KeepAnswer(std::string_view answer) { texts_.push_back("Answer: " + PlainText(answer)); }
 
   ProgressBar& bar_;
   std::vector<std::string> texts_;
