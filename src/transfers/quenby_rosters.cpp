@@ -19,7 +19,9 @@ void OpenQuenbyRosters(SharedState& state) {
   ProgramClass& program = state.Program();
   if (!program.OpenMasterFile()) {
     throw NumberedError(ErrorNumber::kPermissionDenied,
-                        state.StoreDataPath + "QBMASTER.Q9D cannot be opened.");
+                        state.StoreDataPath +
+                            "QBMASTER.Q9D cannot be opened: another program holds it, or it "
+                            "may not be written to.");
   }
   program.OpenRosterListFile();
   program.GetMasterRecord();
