@@ -58,12 +58,10 @@ void FillCourseForm(ScreenPanel& panel, CourseForm& screen) {
                wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
   content->Add(MakeButton(binding, &panel, screen.EditTeeButton),
                wxSizerFlags().Border(wxTOP, CloseGap(panel)));
-  wxButton* ok = MakeButton(binding, &panel, screen.OKButton);
-  wxButton* cancel = MakeButton(binding, &panel, screen.CancelButton);
-  auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-  buttons->Add(MakeButton(binding, &panel, screen.Help));
-  buttons->Add(ButtonRow({.affirmative = ok, .cancel = cancel}), wxSizerFlags(1));
-  content->Add(buttons, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  content->Add(ButtonRow({.aside = MakeButton(binding, &panel, screen.Help),
+                          .affirmative = MakeButton(binding, &panel, screen.OKButton),
+                          .cancel = MakeButton(binding, &panel, screen.CancelButton)}),
+               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   FinishWindow(panel, content);
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
+#include "desktop/wx_text.h"
 #include "stores/course/screens/course_tee.h"
 
 namespace golf {
@@ -120,8 +121,7 @@ class TeeFiller {
       put(hole, 0, i + 1, wxALIGN_CENTRE_HORIZONTAL);
     }
     put_sum(Text(frame, sum_name), 0);
-    put_label(first == 0 ? MakeLabel(binding_, frame, screen_.YardOrMeter) : Text(frame, "Length"),
-              1);
+    put_label(first == 0 ? MakeLabel(binding_, frame, screen_.YardOrMeter) : UnitAgain(frame), 1);
     put_label(Text(frame, "Par"), 2);
     put_label(Text(frame, "Handicap"), 3);
     int row = 1;
@@ -145,6 +145,15 @@ class TeeFiller {
     return frame;
   }
 
+  // The unit beside the second nine, too.
+  wxStaticText* UnitAgain(wxWindow* frame) {
+    wxStaticText* unit = Text(frame, "");
+    binding_.ShowAlso([unit, this_unit = &screen_.YardOrMeter] {
+      unit->SetLabelText(WxText(this_unit->caption()));
+    });
+    return unit;
+  }
+
   wxPanel* Totals() {
     wxPanel* frame = MakeFrame(binding_, &panel_, screen_.TotalFrame);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
@@ -162,14 +171,9 @@ class TeeFiller {
   }
 
   wxSizer* Buttons() {
-    wxButton* help = MakeButton(binding_, &panel_, screen_.Help);
-    auto* row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(help);
-    wxButton* ok = MakeButton(binding_, &panel_, screen_.OKButton);
-    row->Add(ButtonRow({.affirmative = ok,
-                        .cancel = MakeButton(binding_, &panel_, screen_.CancelButton)}),
-             wxSizerFlags(1));
-    return row;
+    return ButtonRow({.aside = MakeButton(binding_, &panel_, screen_.Help),
+                      .affirmative = MakeButton(binding_, &panel_, screen_.OKButton),
+                      .cancel = MakeButton(binding_, &panel_, screen_.CancelButton)});
   }
 
   ScreenPanel& panel_;

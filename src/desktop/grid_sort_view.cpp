@@ -42,12 +42,10 @@ void FillGridSort(ScreenPanel& panel, GridSort& screen) {
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(Keys(panel, screen), wxSizerFlags().Expand());
   content->AddStretchSpacer();
-  wxButton* ok = button(screen.SortOK);
-  wxButton* cancel = button(screen.SortCancel);
-  auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-  buttons->Add(button(screen.Help));
-  buttons->Add(ButtonRow({.affirmative = ok, .cancel = cancel}), wxSizerFlags(1));
-  content->Add(buttons, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  content->Add(ButtonRow({.aside = button(screen.Help),
+                          .affirmative = button(screen.SortOK),
+                          .cancel = button(screen.SortCancel)}),
+               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   FinishWindow(panel, content);
 }
 

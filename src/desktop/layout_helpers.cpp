@@ -62,6 +62,7 @@ wxSizer* ButtonRow(const EndButtons& buttons) {
                                                   buttons.affirmative};
 #endif
   auto* row = new wxBoxSizer(wxHORIZONTAL);
+  if (buttons.aside != nullptr) row->Add(buttons.aside);
   row->AddStretchSpacer();
   for (wxButton* button : order) {
     if (button != nullptr) {

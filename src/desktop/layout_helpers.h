@@ -22,6 +22,7 @@ wxSizer* Column(std::initializer_list<wxWindow*> controls);
 
 // The buttons that end a dialog, in the order of the platform. Any of them may be null.
 struct EndButtons {
+  wxButton* aside = nullptr;  // ends nothing: at the other end of the row
   wxButton* affirmative = nullptr;
   wxButton* negative = nullptr;
   wxButton* cancel = nullptr;

@@ -22,12 +22,10 @@ class BuilderFiller {
     FillPage(book->GetPage(1), HeadersAndFonts(book->GetPage(1)));
     auto* content = new wxBoxSizer(wxVERTICAL);
     content->Add(book, wxSizerFlags(1).Expand());
-    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-    buttons->Add(NewButton(&panel_, screen_.Help));
-    buttons->Add(ButtonRow({.affirmative = NewButton(&panel_, screen_.SaveButton),
+    content->Add(ButtonRow({.aside = NewButton(&panel_, screen_.Help),
+                            .affirmative = NewButton(&panel_, screen_.SaveButton),
                             .cancel = NewButton(&panel_, screen_.CancelButton)}),
-                 wxSizerFlags(1));
-    content->Add(buttons, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
+                 wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
     return content;
   }
 

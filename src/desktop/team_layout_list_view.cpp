@@ -13,8 +13,8 @@ void FillTeamLayouts(ScreenPanel& panel, TeamLayouts& screen) {
   list->SetMinSize(panel.FromDIP(wxSize(320, 220)));
   content->Add(list, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
   const auto button = [&](Button& control) { return MakeButton(binding, &panel, control); };
-  content->Add(ButtonRow({.affirmative = button(screen.EditButton),
-                          .negative = button(screen.NewButton),
+  content->Add(ButtonRow({.aside = button(screen.NewButton),
+                          .affirmative = button(screen.EditButton),
                           .cancel = button(screen.ExitButton)}),
                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   FinishWindow(panel, content);

@@ -23,6 +23,11 @@ struct DemoTee {
   int ladies_slope;
 };
 
+struct DemoHoles {
+  std::array<int, kCourseHoles> pars;
+  std::array<int, kCourseHoles> lengths;
+};
+
 // Nine-hole courses use the first half or the second half of the tables by hole.
 struct DemoCourse {
   std::string_view name;
@@ -30,18 +35,17 @@ struct DemoCourse {
   std::string_view state;
   std::string_view pro;
   int holes;  // 18, 9 front, -9 back
-  std::array<int, kCourseHoles> pars;
-  std::array<int, kCourseHoles> lengths;
+  DemoHoles card;
   std::array<int, kCourseHoles> ranks;  // 1 the hardest
   std::vector<DemoTee> tees;
 };
 
-const std::array<int, kCourseHoles> kParsA = {4, 5, 3, 4, 4, 3, 4, 5, 4, 4, 4, 3, 5, 4, 4, 3, 5, 4};
-const std::array<int, kCourseHoles> kParsB = {4, 4, 3, 5, 4, 4, 3, 4, 5, 4, 3, 4, 5, 4, 4, 4, 3, 5};
-const std::array<int, kCourseHoles> kLengthsA = {392, 521, 168, 405, 378, 182, 411, 534, 366,
-                                                 401, 385, 157, 512, 421, 398, 201, 546, 415};
-const std::array<int, kCourseHoles> kLengthsB = {372, 418, 151, 498, 389, 402, 176, 355, 507,
-                                                 399, 164, 371, 525, 408, 381, 424, 190, 515};
+const DemoHoles kCardA = {
+    {4, 5, 3, 4, 4, 3, 4, 5, 4, 4, 4, 3, 5, 4, 4, 3, 5, 4},
+    {392, 521, 168, 405, 378, 182, 411, 534, 366, 401, 385, 157, 512, 421, 398, 201, 546, 415}};
+const DemoHoles kCardB = {
+    {4, 4, 3, 5, 4, 4, 3, 4, 5, 4, 3, 4, 5, 4, 4, 4, 3, 5},
+    {372, 418, 151, 498, 389, 402, 176, 355, 507, 399, 164, 371, 525, 408, 381, 424, 190, 515}};
 const std::array<int, kCourseHoles> kRanksA = {5, 9,  17, 3,  11, 13, 1,  7, 15,
                                                6, 12, 18, 10, 2,  8,  14, 4, 16};
 const std::array<int, kCourseHoles> kRanksB = {8, 2,  18, 10, 6, 4,  14, 16, 12,
@@ -54,18 +58,13 @@ const std::vector<DemoTee> kTwoTees = {{"Yellow", "Y", 96, 35.1, 118, 37.6, 125}
 
 const std::vector<DemoCourse>& KelvaneCourses() {
   static const std::vector<DemoCourse> kCourses = {
-      {"Larkfield Golf Club", "Larkfield", "OH", "Ann Moss", 18, kParsA, kLengthsA, kRanksA,
-       kThreeTees},
-      {"Quarry Hollow", "Stonebridge", "OH", "Piet Vos", 18, kParsB, kLengthsB, kRanksB,
-       kThreeTees},
-      {"Millpond Short Nine", "Larkfield", "OH", "", 9, kParsB, kLengthsB, kRanksA, kTwoTees},
-      {"Heron Lake - West", "Heron Lake", "MI", "J. Adair", 18, kParsA, kLengthsB, kRanksB,
-       kThreeTees},
-      {"Heron Lake - Back Nine", "Heron Lake", "MI", "J. Adair", -9, kParsA, kLengthsB, kRanksB,
-       kTwoTees},
-      {"Old Orchard (closed)", "Larkfield", "OH", "", 18, kParsB, kLengthsA, kRanksA, kTwoTees},
-      {"Ash Ridge Municipal", "Ash Ridge", "IN", "Lou Prett", 18, kParsB, kLengthsA, kRanksB,
-       kThreeTees},
+      {"Larkfield Golf Club", "Larkfield", "OH", "Ann Moss", 18, kCardA, kRanksA, kThreeTees},
+      {"Quarry Hollow", "Stonebridge", "OH", "Piet Vos", 18, kCardB, kRanksB, kThreeTees},
+      {"Millpond Short Nine", "Larkfield", "OH", "", 9, kCardB, kRanksA, kTwoTees},
+      {"Heron Lake - West", "Heron Lake", "MI", "J. Adair", 18, kCardA, kRanksB, kThreeTees},
+      {"Heron Lake - Back Nine", "Heron Lake", "MI", "J. Adair", -9, kCardA, kRanksB, kTwoTees},
+      {"Old Orchard (closed)", "Larkfield", "OH", "", 18, kCardB, kRanksA, kTwoTees},
+      {"Ash Ridge Municipal", "Ash Ridge", "IN", "Lou Prett", 18, kCardB, kRanksB, kThreeTees},
   };
   return kCourses;
 }
@@ -107,8 +106,8 @@ void FillHoles(CourseClass& course, const DemoCourse& demo, int tee, int percent
   std::vector<std::pair<int, int>> by_rank;
   for (int hole = first; hole <= last; ++hole) {
     const auto at = static_cast<std::size_t>(hole - 1);
-    course.SetHolePar(tee, hole, demo.pars[at]);
-    course.SetHoleYard(tee, hole, demo.lengths[at] * percent / 100);
+    course.SetHolePar(tee, hole, demo.card.pars[at]);
+    course.SetHoleYard(tee, hole, demo.card.lengths[at] * percent / 100);
     by_rank.emplace_back(demo.ranks[at], hole);
   }
   // The ranks of a nine run from 1 to 9.
