@@ -47,7 +47,9 @@ class Binding {
 
   // While input is held off no widget can be used.
   void HoldInput(bool held);
+  // The screen goes before its widgets; none of its controls may be touched from then on.
   void Release();
+  bool IsReleased() const { return screen_ == nullptr; }
 
  private:
   struct Tied {

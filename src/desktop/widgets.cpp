@@ -117,14 +117,26 @@ namespace {
 const wxColour kNoteColour(176, 0, 32);
 const wxColour kNotedField(255, 224, 224);
 
+template <class Entry>
+void ShowSelection(Entry& entry, const TextBox& control) {
+  if (control.selected() > 0) entry.SetSelection(0, static_cast<long>(control.selected()));
+}
+
 // A text set again would move the operator's cursor.
 template <class Entry>
 void ShowText(Entry& entry, const TextBox& control) {
   const wxString text = WxText(control.text());
   if (entry.GetValue() != text) entry.ChangeValue(text);
-  if (control.selected() > 0 && entry.HasFocus()) {
-    entry.SetSelection(0, static_cast<long>(control.selected()));
-  }
+  if (entry.HasFocus()) ShowSelection(entry, control);
+}
+
+// What a screen selected while it moved the focus is shown when the focus comes.
+template <class Entry>
+void SelectOnFocus(const Binding& binding, Entry& entry, const TextBox& control) {
+  entry.Bind(wxEVT_SET_FOCUS, [&binding, &entry, &control](wxFocusEvent& event) {
+    event.Skip();
+    if (!binding.IsReleased()) ShowSelection(entry, control);
+  });
 }
 
 template <class Entry>
@@ -171,6 +183,7 @@ wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, lo
     MarkNote(*box, control);
   });
   if (control.key_filter) FilterKeys(*box, control);
+  SelectOnFocus(binding, *box, control);
   FollowText(binding, control, *box);
   return box;
 }

@@ -14,6 +14,7 @@ namespace {
 
 constexpr const char* kHeadings[] = {
     "Active", "Tee", "Men's Rating", "Men's Slope", "Ladies' Rating", "Ladies' Slope"};
+constexpr int kTeeColumn = 2;
 constexpr int kOptionFlags[] = {18, 9, -9};  // HoleNumFlag of each option
 constexpr std::int16_t kUnslopedCourse = 113;
 constexpr int kTooFlat = 50;
@@ -54,6 +55,7 @@ CourseForm::CourseForm(const ScreenContext& context) : Screen("CourseForm", cont
   for (int column = 1; column <= grid1.columns(); ++column) {
     grid1.SetHeading(column, kHeadings[column - 1]);
     grid1.LockColumn(column, true);
+    grid1.SetCentred(column, column != kTeeColumn);
   }
   grid1.LockColumn(0, true);
   grid1.SetRows(kShownTees);
