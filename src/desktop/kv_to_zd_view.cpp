@@ -45,18 +45,15 @@ wxSizer* Handicaps(Binding& binding, wxWindow* parent, KVtoZD& screen) {
 wxPanel* MakeMain(ScreenPanel& panel, KVtoZD& screen) {
   Binding& binding = panel.binding();
   wxPanel* frame = MakeFrame(binding, &panel, screen.Frame1);
-  const int gap = GroupGap(panel);
-  auto* ends = new wxGridSizer(2, 0, gap);
-  ends->Add(
-      Choice(binding, frame, screen.Label1[1], screen.SourcePath, screen.FindKVMButton, nullptr),
-      wxSizerFlags().Expand());
-  ends->Add(Choice(binding, frame, screen.Label1[2], screen.DestLabel, screen.FindZDButton,
-                   LeaguePicker::HeadingOf),
-            wxSizerFlags().Expand());
-  const auto group = wxSizerFlags().Expand().Border(wxTOP, gap);
+  const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(MakeLabel(binding, frame, screen.Label1[0]), wxSizerFlags().CentreHorizontal());
-  content->Add(ends, group);
+  content->Add(SideBySide(panel,
+                          Choice(binding, frame, screen.Label1[1], screen.SourcePath,
+                                 screen.FindKVMButton, nullptr),
+                          Choice(binding, frame, screen.Label1[2], screen.DestLabel,
+                                 screen.FindZDButton, LeaguePicker::HeadingOf)),
+               group);
   content->Add(Handicaps(binding, frame, screen), group);
   AddRun(*content, panel, frame,
          {.heading = screen.Label1[3],

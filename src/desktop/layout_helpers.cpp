@@ -53,6 +53,12 @@ wxSizer* Column(std::initializer_list<wxWindow*> controls) {
   return column;
 }
 
+wxSizer* SideBySide(const wxWindow& window, wxSizer* left, wxSizer* right) {
+  auto* ends = new wxGridSizer(2, 0, GroupGap(window));
+  for (wxSizer* end : {left, right}) ends->Add(end, wxSizerFlags().Expand());
+  return ends;
+}
+
 wxSizer* ButtonRow(const EndButtons& buttons) {
 #ifdef __WXMSW__
   const std::initializer_list<wxButton*> order = {buttons.affirmative, buttons.negative,

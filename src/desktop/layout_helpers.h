@@ -20,6 +20,9 @@ int EdgeGap(const wxWindow& window);
 // Controls below each other, all as wide as the column.
 wxSizer* Column(std::initializer_list<wxWindow*> controls);
 
+// The two ends of a transfer, equally wide.
+wxSizer* SideBySide(const wxWindow& window, wxSizer* left, wxSizer* right);
+
 // The buttons that end a dialog, in the order of the platform. Any of them may be null.
 struct EndButtons {
   wxButton* aside = nullptr;  // ends nothing: at the other end of the row

@@ -19,12 +19,9 @@ wxSizer* Ends(Binding& binding, wxWindow* parent, ZDtoKV& screen) {
   wxChoice* batches = MakeChoice(binding, parent, screen.EventList, BatchHeading);
   batches->SetMinSize(parent->FromDIP(wxSize(kBatchesWidth, -1)));
   league->Add(batches, wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));
-  auto* ends = new wxGridSizer(2, 0, GroupGap(*parent));
-  ends->Add(league, wxSizerFlags().Expand());
-  ends->Add(
-      RosterColumn(binding, parent, screen.Label1[1], screen.HandicapRoster, screen.DestButton),
-      wxSizerFlags().Expand());
-  return ends;
+  return SideBySide(
+      *parent, league,
+      RosterColumn(binding, parent, screen.Label1[1], screen.HandicapRoster, screen.DestButton));
 }
 
 wxPanel* MakeMain(ScreenPanel& panel, ZDtoKV& screen) {

@@ -10,18 +10,15 @@ namespace {
 wxPanel* MakeMain(ScreenPanel& panel, ZDtoQB& screen) {
   Binding& binding = panel.binding();
   wxPanel* frame = MakeFrame(binding, &panel, screen.Frame2);
-  const int gap = GroupGap(panel);
-  auto* ends = new wxGridSizer(2, 0, gap);
-  ends->Add(
-      RosterColumn(binding, frame, screen.Label1[1], screen.LeagueRoster, screen.SourceButton),
-      wxSizerFlags().Expand());
-  ends->Add(
-      RosterColumn(binding, frame, screen.Label1[2], screen.TournamentRoster, screen.DestButton),
-      wxSizerFlags().Expand());
-  const auto group = wxSizerFlags().Expand().Border(wxTOP, gap);
+  const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(MakeLabel(binding, frame, screen.Label1[0]), wxSizerFlags().CentreHorizontal());
-  content->Add(ends, group);
+  content->Add(SideBySide(panel,
+                          RosterColumn(binding, frame, screen.Label1[1], screen.LeagueRoster,
+                                       screen.SourceButton),
+                          RosterColumn(binding, frame, screen.Label1[2], screen.TournamentRoster,
+                                       screen.DestButton)),
+               group);
   content->Add(Column({MakeCheckBox(binding, frame, screen.Handicapto18),
                        MakeCheckBox(binding, frame, screen.TransferSubs)}),
                group);
