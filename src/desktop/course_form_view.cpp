@@ -58,9 +58,9 @@ void FillCourseForm(ScreenPanel& panel, CourseForm& screen) {
                wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
   content->Add(MakeButton(binding, &panel, screen.EditTeeButton),
                wxSizerFlags().Border(wxTOP, CloseGap(panel)));
-  content->Add(ButtonRow({.aside = MakeButton(binding, &panel, screen.Help),
-                          .affirmative = MakeButton(binding, &panel, screen.OKButton),
-                          .cancel = MakeButton(binding, &panel, screen.CancelButton)}),
+  content->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.OKButton),
+                          .cancel = MakeButton(binding, &panel, screen.CancelButton),
+                          .aside = MakeButton(binding, &panel, screen.Help)}),
                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   FinishWindow(panel, content);
 }

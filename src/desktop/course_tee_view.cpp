@@ -171,9 +171,9 @@ class TeeFiller {
   }
 
   wxSizer* Buttons() {
-    return ButtonRow({.aside = MakeButton(binding_, &panel_, screen_.Help),
-                      .affirmative = MakeButton(binding_, &panel_, screen_.OKButton),
-                      .cancel = MakeButton(binding_, &panel_, screen_.CancelButton)});
+    return ButtonRow({.affirmative = MakeButton(binding_, &panel_, screen_.OKButton),
+                      .cancel = MakeButton(binding_, &panel_, screen_.CancelButton),
+                      .aside = MakeButton(binding_, &panel_, screen_.Help)});
   }
 
   ScreenPanel& panel_;

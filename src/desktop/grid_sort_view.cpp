@@ -42,9 +42,9 @@ void FillGridSort(ScreenPanel& panel, GridSort& screen) {
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(Keys(panel, screen), wxSizerFlags().Expand());
   content->AddStretchSpacer();
-  content->Add(ButtonRow({.aside = button(screen.Help),
-                          .affirmative = button(screen.SortOK),
-                          .cancel = button(screen.SortCancel)}),
+  content->Add(ButtonRow({.affirmative = button(screen.SortOK),
+                          .cancel = button(screen.SortCancel),
+                          .aside = button(screen.Help)}),
                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   FinishWindow(panel, content);
 }

@@ -48,11 +48,10 @@ wxPanel* MakeMain(ScreenPanel& panel, KVtoZD& screen) {
   const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(MakeLabel(binding, frame, screen.Label1[0]), wxSizerFlags().CentreHorizontal());
-  content->Add(SideBySide(panel,
-                          Choice(binding, frame, screen.Label1[1], screen.SourcePath,
-                                 screen.FindKVMButton, nullptr),
-                          Choice(binding, frame, screen.Label1[2], screen.DestLabel,
-                                 screen.FindZDButton, LeaguePicker::HeadingOf)),
+  content->Add(SideBySide(panel, {Choice(binding, frame, screen.Label1[1], screen.SourcePath,
+                                         screen.FindKVMButton, nullptr),
+                                  Choice(binding, frame, screen.Label1[2], screen.DestLabel,
+                                         screen.FindZDButton, LeaguePicker::HeadingOf)}),
                group);
   content->Add(Handicaps(binding, frame, screen), group);
   AddRun(*content, panel, frame,

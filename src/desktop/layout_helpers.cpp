@@ -53,10 +53,10 @@ wxSizer* Column(std::initializer_list<wxWindow*> controls) {
   return column;
 }
 
-wxSizer* SideBySide(const wxWindow& window, wxSizer* left, wxSizer* right) {
-  auto* ends = new wxGridSizer(2, 0, GroupGap(window));
-  for (wxSizer* end : {left, right}) ends->Add(end, wxSizerFlags().Expand());
-  return ends;
+wxSizer* SideBySide(const wxWindow& window, std::initializer_list<wxSizer*> ends) {
+  auto* row = new wxGridSizer(2, 0, GroupGap(window));
+  for (wxSizer* end : ends) row->Add(end, wxSizerFlags().Expand());
+  return row;
 }
 
 wxSizer* ButtonRow(const EndButtons& buttons) {

@@ -20,15 +20,16 @@ int EdgeGap(const wxWindow& window);
 // Controls below each other, all as wide as the column.
 wxSizer* Column(std::initializer_list<wxWindow*> controls);
 
-// The two ends of a transfer, equally wide.
-wxSizer* SideBySide(const wxWindow& window, wxSizer* left, wxSizer* right);
+// The two ends of a transfer, equally wide. A list, since the order in which widgets are made is
+// the order of the tab key.
+wxSizer* SideBySide(const wxWindow& window, std::initializer_list<wxSizer*> ends);
 
 // The buttons that end a dialog, in the order of the platform. Any of them may be null.
 struct EndButtons {
-  wxButton* aside = nullptr;  // ends nothing: at the other end of the row
   wxButton* affirmative = nullptr;
   wxButton* negative = nullptr;
   wxButton* cancel = nullptr;
+  wxButton* aside = nullptr;  // ends nothing: at the other end of the row
 };
 wxSizer* ButtonRow(const EndButtons& buttons);
 

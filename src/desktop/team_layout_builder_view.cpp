@@ -22,9 +22,9 @@ class BuilderFiller {
     FillPage(book->GetPage(1), HeadersAndFonts(book->GetPage(1)));
     auto* content = new wxBoxSizer(wxVERTICAL);
     content->Add(book, wxSizerFlags(1).Expand());
-    content->Add(ButtonRow({.aside = NewButton(&panel_, screen_.Help),
-                            .affirmative = NewButton(&panel_, screen_.SaveButton),
-                            .cancel = NewButton(&panel_, screen_.CancelButton)}),
+    content->Add(ButtonRow({.affirmative = NewButton(&panel_, screen_.SaveButton),
+                            .cancel = NewButton(&panel_, screen_.CancelButton),
+                            .aside = NewButton(&panel_, screen_.Help)}),
                  wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
     return content;
   }

@@ -13,9 +13,9 @@ void FillTeamLayouts(ScreenPanel& panel, TeamLayouts& screen) {
   list->SetMinSize(panel.FromDIP(wxSize(320, 220)));
   content->Add(list, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
   const auto button = [&](Button& control) { return MakeButton(binding, &panel, control); };
-  content->Add(ButtonRow({.aside = button(screen.NewButton),
-                          .affirmative = button(screen.EditButton),
-                          .cancel = button(screen.ExitButton)}),
+  content->Add(ButtonRow({.affirmative = button(screen.EditButton),
+                          .cancel = button(screen.ExitButton),
+                          .aside = button(screen.NewButton)}),
                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   FinishWindow(panel, content);
 }

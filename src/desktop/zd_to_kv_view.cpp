@@ -19,9 +19,8 @@ wxSizer* Ends(Binding& binding, wxWindow* parent, ZDtoKV& screen) {
   wxChoice* batches = MakeChoice(binding, parent, screen.EventList, BatchHeading);
   batches->SetMinSize(parent->FromDIP(wxSize(kBatchesWidth, -1)));
   league->Add(batches, wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));
-  return SideBySide(
-      *parent, league,
-      RosterColumn(binding, parent, screen.Label1[1], screen.HandicapRoster, screen.DestButton));
+  return SideBySide(*parent, {league, RosterColumn(binding, parent, screen.Label1[1],
+                                                   screen.HandicapRoster, screen.DestButton)});
 }
 
 wxPanel* MakeMain(ScreenPanel& panel, ZDtoKV& screen) {

@@ -13,11 +13,10 @@ wxPanel* MakeMain(ScreenPanel& panel, ZDtoQB& screen) {
   const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(MakeLabel(binding, frame, screen.Label1[0]), wxSizerFlags().CentreHorizontal());
-  content->Add(SideBySide(panel,
-                          RosterColumn(binding, frame, screen.Label1[1], screen.LeagueRoster,
-                                       screen.SourceButton),
-                          RosterColumn(binding, frame, screen.Label1[2], screen.TournamentRoster,
-                                       screen.DestButton)),
+  content->Add(SideBySide(panel, {RosterColumn(binding, frame, screen.Label1[1],
+                                               screen.LeagueRoster, screen.SourceButton),
+                                  RosterColumn(binding, frame, screen.Label1[2],
+                                               screen.TournamentRoster, screen.DestButton)}),
                group);
   content->Add(Column({MakeCheckBox(binding, frame, screen.Handicapto18),
                        MakeCheckBox(binding, frame, screen.TransferSubs)}),
