@@ -105,8 +105,8 @@ std::vector<std::string> Libraries(const TestInstall& install) {
 std::vector<std::string> LibrariesWithoutDisplay(const std::string& kelvane) {
   TestInstall install;
   install.folder.Write("kvdata/kvcrs.dat", kelvane);
-  install.host->drive = [&](Screen& screen) { install.host->Press(screen, "TransferCourses"); };
-  OpenScreen(install.state(), *install.host, "KVCoursestoQB", "");
+  install.Open("KVCoursestoQB",
+               [&](Screen& screen) { install.host->Press(screen, "TransferCourses"); });
   return Libraries(install);
 }
 

@@ -162,11 +162,8 @@ class QbToKvTest : public testing::Test {
 
   void Run(const Setting& setting) {
     if (setting.points) install.host->QueueAnswer("Transfer QB points to KV Score?", "yes");
-    install.host->drive = [&](Screen& screen) {
-      if (auto* rosters = dynamic_cast<LoadRoster*>(&screen)) {
-        rosters->grid1.SetActiveRow(1);
-        return install.host->Press(screen, "LoadButton");
-      }
+    install.Open("QBtoKV", [&](Screen& screen) {
+      if (PickRoster<LoadRoster>(*install.host, screen, 1)) return;
       auto& transfer = dynamic_cast<QBtoKV&>(screen);
       install.host->Press(screen, "DestButton");
       captions = transfer.TransferButton.caption();
@@ -180,8 +177,7 @@ class QbToKvTest : public testing::Test {
       EXPECT_EQ(transfer.TransferButton.visible(), report.empty());
       transfer.RoundList.Select(0);
       EXPECT_TRUE(transfer.TransferButton.visible());
-    };
-    install.host->Operate([&] { OpenScreen(install.state(), *install.host, "QBtoKV", ""); });
+    });
   }
 
   // Puts a score into the expected history of a golfer's place, from 1.
@@ -202,11 +198,6 @@ class QbToKvTest : public testing::Test {
     EXPECT_TRUE(install.folder.Read("qbdata/X0001.Q9G") == entries_before);
     EXPECT_EQ(install.folder.Read("kvdata/CLUB.KV5")[153], '\1');
     EXPECT_FALSE(install.folder.Exists("qbdata/X0000.Q9C"));
-  }
-  std::string LastMessage() {
-    const auto message = std::find_if(install.events().rbegin(), install.events().rend(),
-                                      [](const auto& e) { return e.starts_with("message"); });
-    return message == install.events().rend() ? "" : *message;
   }
 
   TestInstall install;
@@ -254,7 +245,7 @@ TEST_F(QbToKvTest, AnEntryByteForByte) {
     roster_before.replace(kGolfer + kRecordOfHalf, 9, half);
     ExpectFiles({1});
     EXPECT_EQ(install.host->faults().size(), c.setting.date ? 0 : 1);
-    EXPECT_EQ(LastMessage(), "message [Notice] 1 Scores transferred. -> OK");
+    EXPECT_EQ(install.LastMessage(), "message [Notice] 1 Scores transferred. -> OK");
   }
 }
 
@@ -310,23 +301,18 @@ TEST_F(QbToKvTest, Refusals) {
     install.host->QueueAnswer("Continue", "No");
     Run(c.setting);
     ExpectFiles({});
-    EXPECT_EQ(LastMessage(), c.message);
+    EXPECT_EQ(install.LastMessage(), c.message);
   }
 }
 
 // No score twice, none flagged that is in no history, and no history ahead of its golfer; a golfer
 // may be ahead of his history, by the score that was being written.
 TEST_F(QbToKvTest, EachFileOperationFailsOnce) {
-  bool failed = true;
-  for (int nth = 1; failed; ++nth) {
-    SCOPED_TRACE(nth);
+  ForEachFault([&](int nth) {
     Prepare({}, {{11}, {12, true}});
     install.platform->Fail({.error = ErrorNumber::kDiskFull, .nth = nth});
-    try {
-      Run({});
-    } catch (const ClickEnded&) {
-    }
-    failed = install.platform->Failed();
+    ClickErrorOf([&] { Run({}); });
+    const bool failed = install.platform->Failed();
     const std::string roster = install.folder.Read("kvdata/CLUB.KVG");
     const std::string history = install.folder.Read("kvdata/CLUB.KVS");
     const std::string entries = install.folder.Read("qbdata/X0001.Q9G");
@@ -339,9 +325,9 @@ TEST_F(QbToKvTest, EachFileOperationFailsOnce) {
       const int counted = Int16At(roster, (i + 1) * kGolfer + kCounters) - int{kOldCounter};
       EXPECT_TRUE(counted == posted || (counted == 1 && !flagged));
     }
-    ASSERT_LT(nth, 500);
-  }
-  EXPECT_EQ(LastMessage(), "message [Notice] 2 Scores transferred. -> OK");
+    return failed;
+  });
+  EXPECT_EQ(install.LastMessage(), "message [Notice] 2 Scores transferred. -> OK");
 }
 
 }  // namespace

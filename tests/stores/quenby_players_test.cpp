@@ -186,22 +186,6 @@ TEST_F(RosterPlayersTest, RosterNames) {
   }
 }
 
-TEST_F(RosterPlayersTest, BlankRecordByteForByte) {
-  const double now = DateFromCivil({2024, 5, 13, 14, 30, 15});
-  std::string expected(1867, '\0');
-  PutText(expected, 16, 27);
-  PutText(expected, 44, 381);
-  expected[424] = 'A';
-  PutText(expected, 429, 12);
-  PutText(expected, 449, 150);
-  Put<double>(expected, 599, {now, now});
-  Put<double>(expected, 655, {now});
-  PutText(expected, 671, 1196);
-  Load(Pattern(1867));
-  player.BlankPlayerRecord();
-  EXPECT_EQ(Saved(), expected);
-}
-
 TEST_F(RosterPlayersTest, FreeRecords) {
   const struct {
     std::vector<int> ids;  // from record 10 on

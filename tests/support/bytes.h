@@ -29,8 +29,36 @@ inline void PutText(std::string& bytes, std::size_t at, std::size_t width,
   bytes.replace(at, width, width, ' ').replace(at, text.size(), text);
 }
 
+// The file of an index: 16-bit numbers.
+inline std::string Index(std::initializer_list<int> numbers) {
+  std::string bytes(2 * numbers.size(), '\0');
+  Put16(bytes, 0, numbers);
+  return bytes;
+}
+
 inline int Int16At(const std::string& bytes, std::size_t at) {
   return LoadLittleEndian<std::int16_t>(bytes.data() + at);
+}
+
+inline std::int32_t Int32At(const std::string& bytes, std::size_t at) {
+  return LoadLittleEndian<std::int32_t>(bytes.data() + at);
+}
+inline float SingleAt(const std::string& bytes, std::size_t at) {
+  return LoadLittleEndian<float>(bytes.data() + at);
+}
+
+// A golfer's record of Quenby as it is made.
+inline std::string BlankGolfer(double now) {
+  std::string bytes(1867, '\0');
+  PutText(bytes, 16, 27);
+  PutText(bytes, 44, 381);
+  bytes[424] = 'A';
+  PutText(bytes, 429, 12);
+  PutText(bytes, 449, 150);
+  Put(bytes, 599, {now, now});
+  Put(bytes, 655, {now});
+  PutText(bytes, 671, 1196);
+  return bytes;
 }
 
 // Bytes of which neighbours differ, none of them 0 or a blank.

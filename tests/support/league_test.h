@@ -42,15 +42,13 @@ inline std::string RecordAt(const std::string& file, std::size_t record, std::si
 template <class AnyScreen>
 std::string TransferFromMenu(TestInstall& install, const char* button) {
   std::string log;
-  install.host->drive = [&](Screen& screen) {
-    if (screen.name() == "TransferMenu") return install.host->Press(screen, button);
-    install.host->Press(screen, "TransferButton");
-    log = dynamic_cast<AnyScreen&>(screen).Message.text();
-  };
-  try {
-    OpenScreen(install.state(), *install.host, "TransferMenu", "");
-  } catch (const ClickEnded&) {
-  }
+  ClickErrorOf([&] {
+    install.Open("TransferMenu", [&](Screen& screen) {
+      if (screen.name() == "TransferMenu") return install.host->Press(screen, button);
+      install.host->Press(screen, "TransferButton");
+      log = dynamic_cast<AnyScreen&>(screen).Message.text();
+    });
+  });
   return log;
 }
 
