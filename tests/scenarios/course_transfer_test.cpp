@@ -171,24 +171,6 @@ TEST(CourseTransferTest, MissingLibrariesComeIntoBeingEmpty) {
   ExpectOutcome(install, Expected("", "", ""));
 }
 
-TEST(CourseTransferTest, ASecondRunAddsOnlyWhatIsNew) {
-  TestInstall install;
-  std::string kelvane = Course("One") + Course("Two", 0);
-  install.folder.Write("kvdata/kvcrs.dat", kelvane);
-  RunTransfer(install);
-  const std::string first = install.folder.Read("qbdata/qbcrs.dat");
-  kelvane += Course("Three");
-  install.folder.Write("kvdata/kvcrs.dat", kelvane);
-  const std::string index18 = install.folder.Read("qbdata/18CRSQB.INX");
-  install.Restart();
-  RunTransfer(install);
-  const std::string second = install.folder.Read("qbdata/qbcrs.dat");
-  EXPECT_EQ(second.substr(0, first.size()), first);
-  EXPECT_EQ(second == Expected(kelvane, first, index18).library, true);
-  EXPECT_EQ(install.host->counts()[0].second, 1);
-  EXPECT_EQ(install.host->counts()[1].second, 1);  // a deleted course is no update
-}
-
 TEST(CourseTransferTest, EachFileOperationFailsOnceAndNothingIsLost) {
   const std::string kelvane = Course("One") + Course("Two") + Course("Three", 0);
   const std::string quenby = Course("Own") + Course("Old two", 1, 18, 2);
@@ -252,25 +234,6 @@ TEST(CourseTransferTest, NothingIsTakenInDuringARun) {
   };
   RunTransfer(install);
   EXPECT_EQ(shown, std::vector<std::string>({FitText("One", 30), FitText("Two", 30)}));
-}
-
-// Through the platform and through the gate the same changes are seen, record by record.
-TEST(CourseTransferTest, EveryChangeGoesThroughTheGate) {
-  TestInstall install;
-  install.folder.Write("kvdata/kvcrs.dat", Course("One") + Course("Two", 1, 9));
-  install.folder.Write("qbdata/qbcrs.dat", Course("Old", 1, 18, 1));
-  std::map<std::string, std::size_t> told;
-  std::string old_name;
-  install.state().files.gate().Observe([&](const FileChange& change) {
-    told[change.path] += change.new_bytes.size();
-    const std::string old_bytes = change.old_bytes();
-    if (old_bytes.size() == kLength) old_name = old_bytes.substr(4, 3);
-  });
-  RunTransfer(install);
-  std::map<std::string, std::size_t> made;
-  for (const Change& change : install.platform->changes()) made[change.path] += change.size;
-  EXPECT_EQ(told, made);
-  EXPECT_EQ(old_name, "Old");
 }
 
 }  // namespace

@@ -87,13 +87,5 @@ TEST_F(ZandelTest, BatchesOfScores) {
   EXPECT_FALSE(install.folder.Exists("zddata/0ABC1.ZL8"));
 }
 
-TEST_F(ZandelTest, TeesAreStoredByEventAndThenByColumn) {
-  Record<LeagueTeamLayout> team;
-  team.Set<"EventTee">({2, 1}, 7);
-  team.Set<"EventTee">({50, 2}, 8);
-  EXPECT_EQ(team.Bytes()[3404], 7);
-  EXPECT_EQ(team.Bytes()[3400 + 4 * 49 + 1], 8);
-}
-
 }  // namespace
 }  // namespace golf
