@@ -146,8 +146,7 @@ TEST_F(DesktopTest, AnErrorInARunLeavesTheScreenThere) {
               "Number of courses ADDED: 3\nNumber of courses UPDATED: 0\n");
   user.Press("KVCoursestoQBButton");
   user.Type("CancelButton", WXK_ESCAPE);
-  user.When(
-      "Cancel", [] { return Operator::Find("CancelButton") == nullptr; }, [] {});
+  user.Await("Cancel", [] { return Operator::Find("CancelButton") == nullptr; });
   user.Press("ExitButton");
   user.RunProgram();
 }
@@ -218,8 +217,7 @@ TEST_F(DesktopTest, AQuestionIsAnsweredByEnterAndRemembered) {
   };
   user.Do(ask);
   user.Type("NoButton", WXK_RETURN);
-  user.When(
-      "No", [&] { return answers.size() == 1; }, [] {});
+  user.Await("No", [&] { return answers.size() == 1; });
   user.Do(ask);
   user.When(
       "message", [] { return Operator::Find("Message") != nullptr; },
@@ -235,11 +233,9 @@ TEST_F(DesktopTest, AQuestionIsAnsweredByEnterAndRemembered) {
       [&] { memory.SetVisible(true); });
   user.Press("ShowMessage");
   user.Press("YesButton");
-  user.When(
-      "Yes", [&] { return answers.size() == 2; }, [] {});
+  user.Await("Yes", [&] { return answers.size() == 2; });
   user.Do(ask);
-  user.When(
-      "no question", [&] { return answers.size() == 3; }, [] {});
+  user.Await("no question", [&] { return answers.size() == 3; });
   user.Press("ExitButton");
   user.RunProgram();
   EXPECT_EQ(answers, std::vector<std::string>({"NO", "YES", "YES"}));
@@ -273,9 +269,8 @@ TEST_F(DesktopTest, TransfersGolfers) {
         grid.SetFocus();
       });
   user.Type("grid1", WXK_SPACE);
-  user.When(
-      "the tick",
-      [&] { return dynamic_cast<KVtoQB&>(host.Load("KVtoQB")).grid1.text(2, 2) == "1"; }, [] {});
+  user.Await("the tick",
+             [&] { return dynamic_cast<KVtoQB&>(host.Load("KVtoQB")).grid1.text(2, 2) == "1"; });
   user.Press("TransferButton");
   user.When(
       "the report", [] { return Operator::Find("Message") != nullptr; },

@@ -72,34 +72,32 @@ class QbToKvTest : public testing::Test {
   static constexpr double kDay = 45000, kNow = 45600.5;
 
   void Prepare(const Setting& setting, const std::vector<Player>& players) {
+    ScoredRound made;
+    auto& course = made.course;
+    course.Set<"HoleNumFlag">(setting.roster_holes == 18 ? 18 : -9);
+    const char* const tees[] = {"Red", "White", "Whitest"};
+    for (int tee = 2; tee <= 4; ++tee) {
+      course.Set<"TeeName">({tee}, tees[tee - 2]);
+      for (int sex = 0; sex <= 1; ++sex) {
+        course.Set<"Rating">({tee, sex}, static_cast<float>(20.1 * tee + sex));
+        course.Set<"slope">({tee, sex}, static_cast<std::int16_t>(100 + 10 * tee + sex));
+      }
+    }
     const auto courses = [&](const char* name, std::initializer_list<const char*> names) {
       std::string file;
+      for (int tee = 2; tee <= 4; ++tee)
+        course.Set<"ActiveTees">({tee}, name[0] == 'q' || tee != 2 ? 255 : 0);
       for (const char* of : names) {
-        CourseClass course(install.state());
-        course.BuildBlankRecord();
-        course.SetName(of);
-        course.SetHoleNumFlag(setting.roster_holes == 18 ? 18 : -9);
-        for (int tee = 2; tee <= 4; ++tee) {
-          course.SetTeeName(tee, tee == 2 ? "Red" : tee == 3 ? "White" : "Whitest");
-          if (name[0] == 'q' || tee != 2) course.SetActiveTees(tee, true);
-          for (int sex = 0; sex <= 1; ++sex) {
-            course.SetRating(tee, sex, 20.1 * tee + sex);
-            course.Setslope(tee, sex, 100 + 10 * tee + sex);
-          }
-          for (int hole = 1; hole <= 18; ++hole) course.SetHolePar(tee, hole, 4);
-        }
-        file += course.Stored().Bytes();
+        course.Set<"Name">(of);
+        file += course.Bytes();
       }
       install.folder.Write(name, file);
     };
     courses("qbdata/qbcrs.dat", {"North park"});
     courses("kvdata/kvcrs.dat", {"North", "NORTH PARK B", "North Star"});
-    std::string index(8, '\0');
-    Put16(index, 0, {3, 1, 2, 3});
-    for (const char* list : {"18", "9", "ALL"}) {
-      install.folder.Write("kvdata/" + std::string(list) + "CRSKV.INX", index);
+    for (const std::string list : {"18", "9", "ALL"}) {
+      install.folder.Write("kvdata/" + list + "CRSKV.INX", Index({3, 1, 2, 3}));
     }
-    ScoredRound made;
     auto& control = made.control;
     control.Set<"Name">("Medal");
     control.Set<"NumRounds">(2);

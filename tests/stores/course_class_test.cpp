@@ -166,17 +166,5 @@ TEST_F(CourseTest, StrayIndexesShowWhatTheyCan) {
   }
 }
 
-TEST_F(CourseTest, ListsSeeWhatAnotherHasWritten) {
-  OpenQuenby();
-  Append("One", 18);
-  course().RebuildCourseIndexes(course().ActiveCoursesByName());
-  std::string bytes = install.folder.Read("qbdata/qbcrs.dat");
-  bytes.replace(4, 3, "Two");
-  install.folder.Write("qbdata/qbcrs.dat", bytes);
-  install.state().files.Synchronize();
-  course().UpdateAllCourseLists();
-  EXPECT_EQ(course().CourseALLName(1).substr(0, 3), "Two");
-}
-
 }  // namespace
 }  // namespace golf
