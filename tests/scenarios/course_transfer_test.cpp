@@ -35,15 +35,8 @@ struct Outcome {
   int updated = 0;
 };
 
-void PutRecord(std::string& file, std::size_t record, const std::string& bytes) {
-  file.resize(std::max(file.size(), record * kLength), '\0');
-  file.replace((record - 1) * kLength, kLength, bytes);
-}
-
 std::string GetRecord(const std::string& file, std::size_t record) {
-  std::string bytes = file.substr(std::min((record - 1) * kLength, file.size()), kLength);
-  bytes.resize(kLength, '\0');
-  return bytes;
+  return RecordAt(file, record, kLength);
 }
 
 std::size_t RoundedCount(const std::string& file) {

@@ -105,14 +105,14 @@ struct Outcome {
 // By searching the whole file for each golfer, as a reader of the rules would.
 Outcome Expected(const std::string& kelvane, const std::string& quenby, const Choice& choice) {
   Outcome out{quenby};
-  const auto record = [&](std::size_t i) { return out.file.substr((i - 1) * kTo, kTo); };
+  const auto record = [&](std::size_t i) { return RecordAt(out.file, i, kTo); };
   const std::size_t length = quenby.size() / kTo;
   for (std::size_t g = 0; g + kFrom <= kelvane.size(); g += kFrom) {
     const std::string golfer = kelvane.substr(g, kFrom);
     if (Int16At(golfer, 0) < 1 || (choice.marked && golfer[2] == 0)) continue;
     std::size_t at = 0;
     for (std::size_t i = length; i >= 10; --i) {
-      if (std::max(IdAt(quenby.substr((i - 1) * kTo, kTo)), 0) == IdAt(golfer)) at = i;
+      if (std::max(IdAt(RecordAt(quenby, i, kTo)), 0) == IdAt(golfer)) at = i;
     }
     ++(at != 0 ? out.updated : out.added);
     const std::string old = at != 0 ? record(at) : BlankGolfer(DateFromCivil({2024, 5, 13}));
@@ -120,8 +120,7 @@ Outcome Expected(const std::string& kelvane, const std::string& quenby, const Ch
       const std::size_t now = out.file.size() / kTo;
       for (at = 10; at <= now && (IdAt(record(at)) >= 1 || IdAt(record(at)) == -1);) ++at;
     }
-    out.file.resize(std::max(out.file.size(), at * kTo), '\0');
-    out.file.replace((at - 1) * kTo, kTo, Copied(old, golfer, choice));
+    PutRecord(out.file, at, Copied(old, golfer, choice));
   }
   return out;
 }

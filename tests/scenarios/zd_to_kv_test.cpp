@@ -71,7 +71,7 @@ std::vector<Roster> States(const std::vector<Posted>& posted) {
       for (std::size_t at = 455; at < 463; at += 2) Put16(golfer, at, {Int16At(golfer, at) + 1});
     }
     if (p.kind == Posted::kJoinsHalf) states.push_back(now);  // the history goes first
-    now.golfers.replace((p.place - 1) * kGolferBytes, kGolferBytes, golfer);
+    PutRecord(now.golfers, p.place, golfer);
     if (p.kind == Posted::kEntry) states.push_back({now.golfers, states.back().histories});
     states.push_back(now);
   }

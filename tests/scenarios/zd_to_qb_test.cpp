@@ -107,8 +107,8 @@ struct Outcome {
     float handicap = SingleAt(from, 1266 + 4 * static_cast<std::size_t>(c.event));
     if (c.doubled) handicap = static_cast<float>(std::round(handicap * 100.0) / 100 * 2);
     Put(golfer, 441, {0.0f, handicap});
-    quenby.resize(std::max(quenby.size(), r * kGolferBytes), '\0');
-    states.push_back(quenby.replace((r - 1) * kGolferBytes, kGolferBytes, golfer));
+    PutRecord(quenby, r, golfer);
+    states.push_back(quenby);
   }
 
   std::string log() const {

@@ -71,6 +71,7 @@ TEST_F(CourseTest, TeeListsHoldTheActiveTeesUpToFive) {
 TEST_F(CourseTest, GettersMendAndSettersCut) {
   CourseClass& c = course();
   c.BuildBlankRecord();
+  EXPECT_EQ(c.Stored().Get<"YardsOrMeters">(), 0);
   c.SetHoleNumber(1, 1, 70);
   c.SetHoleNumber(1, 10, 0);
   c.SetHoleNumber(1, 2, 70);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
@@ -27,6 +28,18 @@ inline void Put16(std::string& bytes, std::size_t at, std::initializer_list<int>
 inline void PutText(std::string& bytes, std::size_t at, std::size_t width,
                     const std::string& text = "") {
   bytes.replace(at, width, width, ' ').replace(at, text.size(), text);
+}
+
+// A record of a file, from 1; zeros where the file ends.
+inline std::string RecordAt(const std::string& file, std::size_t record, std::size_t length) {
+  std::string bytes = file.substr(std::min((record - 1) * length, file.size()), length);
+  bytes.resize(length, '\0');
+  return bytes;
+}
+// Puts a record there, with zeros up to it where the file ended.
+inline void PutRecord(std::string& file, std::size_t record, const std::string& bytes) {
+  file.resize(std::max(file.size(), record * bytes.size()), '\0');
+  file.replace((record - 1) * bytes.size(), bytes.size(), bytes);
 }
 
 // The file of an index: 16-bit numbers.

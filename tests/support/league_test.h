@@ -33,10 +33,6 @@ inline std::string LeaguePlayer(int id, const std::string& first, const std::str
   return bytes;
 }
 
-inline std::string RecordAt(const std::string& file, std::size_t record, std::size_t length) {
-  return file.substr((record - 1) * length, length);
-}
-
 // The operator's way from the menu: what the screen's log says after its run, whether or not that
 // ended with an error.
 template <class AnyScreen>
