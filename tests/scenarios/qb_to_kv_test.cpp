@@ -248,15 +248,14 @@ TEST_F(QbToKvTest, AnEntryByteForByte) {
 }
 
 TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
-  const std::vector<Player> kPlayers = {{11},
-                                        {12, true},
-                                        {11},
-                                        {12, false, 18},
-                                        {99},
-                                        {0},
-                                        {11, false, 0, true},
-                                        {77, false, 0, true}};
-  Prepare({}, kPlayers);
+  Prepare({}, {{11},
+               {12, true},
+               {11},
+               {12, false, 18},
+               {99},
+               {0},
+               {11, false, 0, true},
+               {77, false, 0, true}});
   Run({});
   const Score man{2, 4, 60.3f, 130, 1, 72, 72, 0, 9};
   const Score lady{2, 4, 61.3f, 131, 1, 72, 72, 0, 9};

@@ -222,9 +222,6 @@ TEST_F(KelvaneTest, RepositioningAnEntry) {
     EXPECT_EQ(Courses(5), row.courses) << row.place << " " << row.date;
     EXPECT_EQ(buffers.score.Get<"CourseNumber">(), row.counter < 0 ? 77 : row.place);
   }
-  for (const int place : {0, 301}) {
-    EXPECT_EQ(ErrorOf([&] { RepositionKVScore(state, place); }), 9);
-  }
 }
 
 }  // namespace
