@@ -121,8 +121,9 @@ void WalkControl(SharedState& state) {
   control.GetRecord();
   CallEachWithRound(control, &Control::DateofRound, &Control::CourseNumberPlayed,
                     &Control::CourseNamePlayed);  // before anything is mended
-  CallEach(control, &Control::Name, &Control::RoundType, &Control::TeamHandicapOption,
-           &Control::PointQuotaOption, &Control::PositionOption,
+  CallEach(control, &Control::Name, &Control::NumRounds, &Control::NumTeams, &Control::NumFlights,
+           &Control::NumTeamFlights, &Control::NumTeeGroups, &Control::RoundType,
+           &Control::TeamHandicapOption, &Control::PointQuotaOption, &Control::PositionOption,
            &Control::PlayerFlightsDeterminedBy, &Control::TeamFlightsDeterminedBy,
            &Control::TeamHandicapPercent, &Control::PointQuotaFromHandicap, &Control::ActiveRound,
            &Control::TeamNamesMat);
@@ -138,14 +139,6 @@ void WalkControl(SharedState& state) {
       }
     }
   }
-  const auto within = [](const std::string& number, int low, int high) {
-    Need(std::stoi(number) >= low && std::stoi(number) <= high);
-  };
-  within(control.NumRounds(), 1, 5);
-  within(control.NumTeams(), 1, 200);
-  within(control.NumFlights(), 1, 26);
-  within(control.NumTeamFlights(), 1, 26);
-  within(std::to_string(control.NumTeeGroups()), 1, 5);
 }
 
 void WalkGolfers(SharedState& state) {

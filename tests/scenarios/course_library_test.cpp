@@ -29,40 +29,37 @@ std::string Course(const std::string& name) {
   for (std::size_t slope = 264; slope < 288; slope += 2) Put16(bytes, slope, {113});
   for (int hole = 1; hole <= 18; ++hole) {
     const std::size_t row = 12 * static_cast<std::size_t>(hole) - 12;
-    for (const auto& [at, value] :
-         {std::pair{290, 100 + hole}, {542, 4}, {794, 19 - hole}, {1010, 19 - hole}}) {
-      Put16(bytes, static_cast<std::size_t>(at) + row, {value});
-    }
+    PutCells(bytes, {{row + 290, 100 + hole}, {row + 542, 4}});
+    PutCells(bytes, {{row + 794, 19 - hole}, {row + 1010, 19 - hole}});
     Put16(bytes, 1226 + row, {hole, hole, hole, hole, hole, hole});
   }
-  for (const auto& [at, sum] :
-       {std::pair{506, 945}, {518, 1026}, {530, 1971}, {758, 36}, {770, 36}, {782, 72}}) {
-    Put16(bytes, static_cast<std::size_t>(at), {sum});
-  }
+  PutCells(bytes, {{506, 945}, {518, 1026}, {530, 1971}, {758, 36}, {770, 36}, {782, 72}});
   bytes[1442] = 0;
   return bytes;
 }
 
 class CourseLibraryTest : public testing::Test {
  protected:
-  using Work = std::function<void(Screen&)>;
+  template <class AnyScreen>
+  using Work = std::function<void(AnyScreen&)>;
 
   // Opens Quenby's table and works each screen that comes up.
-  void Run(const Work& table, const Work& form = {}, const Work& tee = {}) {
+  void Run(const Work<CourseTable>& table, const Work<CourseForm>& form = {},
+           const Work<CourseTee>& tee = {}) {
     const auto work = [=](Screen& screen) {
       for (Control* control : screen.controls()) {
         const auto* timer = dynamic_cast<Timer*>(control);
         if (timer != nullptr && timer->IsRunning()) timer->on_timer();
       }
-      (screen.name() == "CourseTable" ? table : screen.name() == "CourseForm" ? form : tee)(screen);
+      if (auto* shown = dynamic_cast<CourseTable*>(&screen)) return table(*shown);
+      if (auto* shown = dynamic_cast<CourseForm*>(&screen)) return form(*shown);
+      tee(dynamic_cast<CourseTee&>(screen));
     };
     install.Open("CourseTable", work, "qb");
   }
   HeadlessHost& host() { return *install.host; }
-  Work Presses(std::vector<const char*> buttons) {
-    return [=, this](Screen& screen) {
-      for (const char* button : buttons) host().Press(screen, button);
-    };
+  Work<Screen> Presses(const char* button) {
+    return [=, this](Screen& screen) { host().Press(screen, button); };
   }
   // As the operator pastes.
   void Set(Screen& screen, const char* name, const std::string& text) {
@@ -145,15 +142,15 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
   for (const auto& c : kCases) {
     SCOPED_TRACE(std::string(c.control) + " " + c.text);
     Run(
-        Presses({"EditCourseButton"}),
-        [&](Screen& form) {
+        Presses("EditCourseButton"),
+        [&](CourseForm& form) {
           CourseClass& course = install.state().Course();
           course.RequirePars = course.RequireHoleHandicaps = course.RequireRatingandSlope =
               c.required;
-          dynamic_cast<CourseForm&>(form).grid1.SetActiveRow(2);
+          form.grid1.SetActiveRow(2);
           host().Press(form, "EditTeeButton");
         },
-        [&](Screen& tee) {
+        [&](CourseTee& tee) {
           Set(tee, c.control, c.text);
           EXPECT_EQ(dynamic_cast<TextBox&>(*tee.FindControl(c.control)).text(), c.shown);
           install.events().clear();
@@ -167,9 +164,9 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
 
 TEST_F(CourseLibraryTest, ANewBackNineIsStoredTwice) {
   Write("torn");
-  Run([&](Screen& table) { host().Press(table, "AddCourseButton"); },
-      [&](Screen& screen) {
-        auto& form = dynamic_cast<CourseForm&>(screen);
+  Run(
+      Presses("AddCourseButton"),
+      [&](CourseForm& form) {
         host().Press(form, "OKButton");
         Set(form, "FCourseName", "\xC9toile");
         form.FHoleNum[2].Choose(true);
@@ -183,8 +180,7 @@ TEST_F(CourseLibraryTest, ANewBackNineIsStoredTwice) {
         EXPECT_FALSE(form.HolesFrame.enabled());
         host().Press(form, "OKButton");
       },
-      [&](Screen& screen) {
-        auto& tee = dynamic_cast<CourseTee&>(screen);
+      [&](CourseTee& tee) {
         EXPECT_FALSE(tee.FPar[9].IsUsable() || tee.FPar[0].IsShown() || tee.FYardTotal.IsShown());
         tee.ActiveTee.Choose(true);
         Set(tee, "FTeeName", "Emerald Green");
@@ -219,22 +215,16 @@ TEST_F(CourseLibraryTest, ANewBackNineIsStoredTwice) {
     Put16(expected, 1214 + 12 * static_cast<std::size_t>(hole),
           {19 + (hole - 1) % 9, hole, hole, hole, hole, hole});
   }
-  for (const auto nine : {std::size_t{0}, std::size_t{9}}) {
-    for (std::size_t hole = 0; hole < 3; ++hole) {
-      const std::size_t cell = 12 * (nine + hole);
-      Put16(expected, 288 + cell, {std::array{123, 456, 789}[hole]});
-      Put16(expected, 540 + cell, {std::array{4, 3, 5}[hole]});
-      Put16(expected, 792 + cell, {2 * (static_cast<int>(hole) + 1)});
-    }
+  for (const std::size_t nine : {0u, 108u}) {
+    PutCells(expected, {{nine + 288, 123}, {nine + 300, 456}, {nine + 312, 789}});
+    PutCells(expected, {{nine + 540, 4}, {nine + 552, 3}, {nine + 564, 5}});
+    PutCells(expected, {{nine + 792, 2}, {nine + 804, 4}, {nine + 816, 6}});
   }
   // Holes without a handicap come first; the totals are those of the nine that was entered.
-  for (const auto& [n, hole] :
-       {std::pair{0, 13}, {1, 14}, {2, 15}, {3, 16}, {4, 17}, {5, 18}, {6, 10}, {7, 11}, {8, 12}}) {
-    Put16(expected, 1008 + 12 * static_cast<std::size_t>(n), {hole});
+  for (std::size_t at = 1008; const int hole : {13, 14, 15, 16, 17, 18, 10, 11, 12}) {
+    Put16(expected, std::exchange(at, at + 12), {hole});
   }
-  for (const auto& [field, value] : {std::pair{516, 1368}, {528, 1368}, {768, 12}, {780, 12}}) {
-    Put16(expected, static_cast<std::size_t>(field), {value});
-  }
+  PutCells(expected, {{516, 1368}, {528, 1368}, {768, 12}, {780, 12}});
   EXPECT_TRUE(Read("qbcrs.dat") == expected);
   EXPECT_EQ(Read("9CRSQB.INX") + Read("18CRSQB.INX") + Read("ALLCRSQB.INX"),
             Index({1, 1}) + Index({0}) + Index({1, 1}));
@@ -254,8 +244,7 @@ TEST_F(CourseLibraryTest, CoursesOfKelvaneAreWarnedOfAndKeepTheirBytes) {
   host().QueueAnswer("Change tee name?", "yes");
   bool edited = false;
   Run(
-      [&](Screen& screen) {
-        auto& table = dynamic_cast<CourseTable&>(screen);
+      [&](CourseTable& table) {
         host().Press(table, "EditCourseButton");
         EXPECT_EQ(Told(), warned + std::string("Cancel\n"));
         host().QueueAnswer("Notice", "OK", true);
@@ -275,19 +264,18 @@ TEST_F(CourseLibraryTest, CoursesOfKelvaneAreWarnedOfAndKeepTheirBytes) {
                   "yup\n");
         host().Press(table, "CloseButton");
       },
-      [&](Screen& form) {
+      [&](CourseForm& form) {
         if (std::exchange(edited, true)) return;
-        dynamic_cast<CourseForm&>(form).grid1.SetActiveRow(2);
+        form.grid1.SetActiveRow(2);
         host().Press(form, "EditTeeButton");
         Set(form, "FCity", "Elm");
         host().Press(form, "OKButton");
       },
-      [&](Screen& tee) {
+      [&](CourseTee& tee) {
         Set(tee, "FTeeName", "Gold");
-        auto& card = dynamic_cast<CourseTee&>(tee);
         for (const auto& [from, to] :
-             {std::pair<TextBox*, Control*>{&card.FPar[8], &card.FHandicap[0]},
-              {&card.FPar[17], &card.FPar[17]}}) {
+             {std::pair<TextBox*, Control*>{&tee.FPar[8], &tee.FHandicap[0]},
+              {&tee.FPar[17], &tee.FPar[17]}}) {
           tee.MoveFocus(from);
           from->TypeKey('4');
           EXPECT_EQ(tee.focus(), to);
@@ -306,11 +294,11 @@ TEST_F(CourseLibraryTest, AFlatLadiesSlopeEndsTheClickAndLosesNothing) {
   Put(course, 240 + 4 * 3, {70.0f});
   Put16(course, 276 + 2 * 3, {50});
   Write(course);
-  Run(Presses({"EditCourseButton"}), [&](Screen& form) {
+  Run(Presses("EditCourseButton"), [&](CourseForm& form) {
     Set(form, "FCity", "Elm");
     EXPECT_EQ(ClickErrorOf([&] { host().Press(form, "OKButton"); }), 9);
     EXPECT_TRUE(host().IsShown(form));
-    EXPECT_EQ(dynamic_cast<CourseForm&>(form).FCity.text(), "Elm");
+    EXPECT_EQ(form.FCity.text(), "Elm");
   });
   EXPECT_TRUE(Read("qbcrs.dat") == course);
 }
@@ -319,12 +307,11 @@ TEST_F(CourseLibraryTest, ANumberWithoutRoomLeavesTheRecordAndTheEntriesAsTheyAr
   Write(Course("Dunes"));
   bool mended = false;
   Run(
-      [&](Screen& table) {
+      [&](CourseTable& table) {
         host().Press(table, "EditCourseButton");
         host().Press(table, "CloseButton");
       },
-      [&](Screen& screen) {
-        auto& form = dynamic_cast<CourseForm&>(screen);
+      [&](CourseForm& form) {
         form.grid1.SetActiveRow(2);
         EXPECT_EQ(ClickErrorOf([&] { host().Press(form, "EditTeeButton"); }), 6);
         EXPECT_EQ(install.state().Course().HolePar(2, 1), "4");
@@ -332,18 +319,15 @@ TEST_F(CourseLibraryTest, ANumberWithoutRoomLeavesTheRecordAndTheEntriesAsTheyAr
         host().Press(form, "EditTeeButton");
         host().Press(form, "OKButton");
       },
-      [&](Screen& tee) {
-        EXPECT_EQ(dynamic_cast<CourseTee&>(tee).FPar[0].text(), mended ? "5" : "4");
+      [&](CourseTee& tee) {
+        EXPECT_EQ(tee.FPar[0].text(), mended ? "5" : "4");
         Set(tee, "FPar(0)", "5");
         Set(tee, "FYardage(2)", mended ? "100.5" : "32768");
         host().Press(tee, "OKButton");
       });
   std::string expected = Course("Dunes");
-  Put16(expected, 288 + 12 * 2 + 2, {100});  // 942.5 and 1968.5 go to the even neighbour
-  for (const auto& [field, value] :
-       {std::pair{504, 942}, {528, 1968}, {540, 5}, {756, 37}, {780, 73}}) {
-    Put16(expected, static_cast<std::size_t>(field) + 2, {value});
-  }
+  PutCells(expected, {{314, 100}, {542, 5}, {758, 37}, {782, 73}});
+  PutCells(expected, {{506, 942}, {530, 1968}});  // 942.5 and 1968.5 go to the even neighbour
   EXPECT_TRUE(Read("qbcrs.dat") == expected);
 }
 
@@ -377,8 +361,7 @@ TEST_F(CourseLibraryTest, ASiblingsOwnLibraryIsOpenedOnRequestUnlessItIsHeld) {
 }
 
 TEST_F(CourseLibraryTest, AnEmptyLibraryHasNothingToEditAndGetsEmptyIndexes) {
-  Run([&](Screen& screen) {
-    auto& table = dynamic_cast<CourseTable&>(screen);
+  Run([&](CourseTable& table) {
     EXPECT_FALSE(table.EditCourseButton.IsShown() || table.DeleteCourseButton.IsShown());
     EXPECT_FALSE(table.CourseGrid.on_key("Delete"));
     host().Press(table, "CloseButton");

@@ -130,16 +130,9 @@ TEST_F(KelvaneTest, OpeningARoster) {
   for (const char* name : {"CLUB.kvg", "CLUB.kvs", "REPORTS.CFG"}) {
     EXPECT_EQ(install.folder.Read("kvdata/" + std::string(name)), "") << name;
   }
-  const std::pair<int, std::size_t> lengths[] = {{1, 781}, {2, 2804}, {3, 14700}, {5, 4744}};
-  for (const auto& [number, length] : lengths) {
-    std::string bytes(length, '\0');
-    EXPECT_EQ(ErrorOf([&] { state.files.ReadBytes(number, 1, bytes); }), 0) << number;
-    bytes += '\0';
-    EXPECT_EQ(ErrorOf([&] { state.files.ReadBytes(number, 1, bytes); }), 59) << number;
-  }
   CloseKVFiles(state);
-  for (const auto& file : lengths) {
-    EXPECT_EQ(ErrorOf([&] { state.files.Length(file.first); }), 52) << file.first;
+  for (const int number : {1, 2, 3, 5}) {
+    EXPECT_EQ(ErrorOf([&] { state.files.Length(number); }), 52) << number;
   }
   install.platform->Fail({ErrorNumber::kPermissionDenied, 1, Operation::kOpen, ".kvs"});
   EXPECT_EQ(ErrorOf([&] { OpenKVRoster(state, "CLUB"); }), 70);

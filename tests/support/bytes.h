@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <string>
+#include <utility>
 
 #include "core/little_endian.h"
 
@@ -22,6 +23,12 @@ inline void Put16(std::string& bytes, std::size_t at, std::initializer_list<int>
     Put(bytes, at, {static_cast<std::int16_t>(value)});
     at += 2;
   }
+}
+
+// Puts 16-bit numbers here and there.
+inline void PutCells(std::string& bytes,
+                     std::initializer_list<std::pair<std::size_t, int>> offsets_and_values) {
+  for (const auto& [at, value] : offsets_and_values) Put16(bytes, at, {value});
 }
 
 // Puts a text, with blanks up to its width.

@@ -8,6 +8,7 @@
 
 #include "app/application.h"
 #include "forms/headless_host.h"
+#include "support/error_of.h"
 #include "support/failing_platform.h"
 #include "support/temp_folder.h"
 
@@ -65,12 +66,13 @@ class TestInstall {
 // The number of the error that ends a click of `action`; 0 if none does.
 template <class Action>
 int ClickErrorOf(Action&& action) {
-  try {
-    std::forward<Action>(action)();
-  } catch (const ClickEnded& ended) {
-    return ended.error.number();
-  }
-  return 0;
+  return ErrorOf([&] {
+    try {
+      action();
+    } catch (const ClickEnded& ended) {
+      throw ended.error;
+    }
+  });
 }
 
 // Lets each call to the system fail in a run of its own: `run(n)` asks for the fault of the n-th,
