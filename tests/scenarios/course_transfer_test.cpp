@@ -153,6 +153,8 @@ TEST(CourseTransferTest, FilesByteForByte) {
                        std::to_string(outcome.updated) + "\r -> OK",
                    "close KVCoursestoQB", "end"}));
     ExpectOutcome(install, outcome);
+    EXPECT_EQ(install.host->counts()[0].second, outcome.added);
+    EXPECT_EQ(install.host->counts()[1].second, outcome.updated);
     EXPECT_EQ(install.folder.Read("kvdata/KVCRS.DAT") == library.kelvane, true);
   }
 }
