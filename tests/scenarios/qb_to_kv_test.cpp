@@ -248,14 +248,9 @@ TEST_F(QbToKvTest, AnEntryByteForByte) {
 }
 
 TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
-  Prepare({}, {{11},
-               {12, true},
-               {11},
-               {12, false, 18},
-               {99},
-               {0},
-               {11, false, 0, true},
-               {77, false, 0, true}});
+  const Player plays{11}, lady_plays{12, true}, incomplete{12, false, 18}, unknown{99}, nobody{0};
+  const Player sent{11, false, 0, true}, unknown_and_sent{77, false, 0, true};
+  Prepare({}, {plays, lady_plays, plays, incomplete, unknown, nobody, sent, unknown_and_sent});
   Run({});
   const Score man{2, 4, 60.3f, 130, 1, 72, 72, 0, 9};
   const Score lady{2, 4, 61.3f, 131, 1, 72, 72, 0, 9};
