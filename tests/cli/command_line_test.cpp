@@ -126,15 +126,19 @@ TEST_F(CommandLineTest, ReadingChangesNothing) {
 }
 
 TEST_F(CommandLineTest, ListsLeaguesAndWhatTheyHaveToPost) {
-  folder.Write("i/zddata/00019.ZL8", "");
+  for (const std::string name : {"00019.ZL8", "0006.ZL8", "000112.ZL8", "10011.ZL8", "00071.ZL7"}) {
+    folder.Write("i/zddata/" + name, "");
+  }
   std::filesystem::remove(folder.Path("i/zddata/00012.ZE8"));
   const auto leagues = JsonLines(Run("--install i list leagues --json").out);
   std::string entries;
   for (const auto& league : leagues) {
     entries += league["base"].get<std::string>() + " " + league["division"].dump() + ", ";
   }
-  EXPECT_EQ(entries, "00011 0, 00011 1, 00012 2, 00019 9, 00021 0, 00021 1, ");
-  EXPECT_EQ(leagues[5], nlohmann::json::parse(R"({"base":"00021","name":"Saturday Eighteen",
+  EXPECT_FALSE(folder.Exists("i/zddata/0006..ZL8"));
+  // A longer name stands for the league whose number it starts with.
+  EXPECT_EQ(entries, "00011 0, 00011 1, 00011 0, 00011 1, 00012 2, 00019 9, 00021 0, 00021 1, ");
+  EXPECT_EQ(leagues.back(), nlohmann::json::parse(R"({"base":"00021","name":"Saturday Eighteen",
       "division":1,"holes":18,"currentEvent":4})"));
   const auto events = JsonLines(Run("--install i list events --league 00012 --json").out);
   ASSERT_EQ(events.size(), 24u);

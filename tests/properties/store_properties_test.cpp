@@ -24,11 +24,6 @@ std::string AnyBytes(std::size_t size) {
   return bytes;
 }
 
-std::size_t FirstDifference(const std::string& a, const std::string& b) {
-  return static_cast<std::size_t>(std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first -
-                                  a.begin());
-}
-
 // A setter of any form, by the field that it sets: indexes in their order, then the value.
 template <class Object>
 struct Setter {
@@ -88,13 +83,13 @@ class StoreProperties : public testing::Test {
       }
       load();
       save();
-      RC_ASSERT(FirstDifference(bytes, before) == before.size());
+      RC_ASSERT((bytes == before));
       setter.call(object, indexes, *rc::gen::inRange(-32768, 32768));
       save();
       const std::size_t at = field->OffsetOf(indexes);
       bytes.replace(at, field->width, before, at, field->width);
       RC_LOG() << "Set" << setter.field;
-      RC_ASSERT(FirstDifference(bytes, before) == before.size());
+      RC_ASSERT((bytes == before));
       state.files.Synchronize();
     }
   }
