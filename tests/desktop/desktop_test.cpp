@@ -15,7 +15,7 @@
 #include "desktop/invocation.h"
 #include "desktop/operator.h"
 #include "shell/tip_box.h"
-#include "stores/course/course_class.h"
+#include "stores/course/course_layout.h"
 #include "stores/course/screens/course_tee.h"
 #include "stores/kelvane/screens/load_roster.h"
 #include "support/bytes.h"
@@ -45,24 +45,17 @@ class DesktopTest : public testing::Test {
   DesktopTest() {
     install.host.reset();
     install.state().Now = [this] { return host.Now(); };
-    for (const auto& [name, active] : std::vector<std::pair<const char*, int>>{
-             {"Dunes & West", 1}, {"Gone", 0}, {"Pe\xF1on", 1}}) {
-      AddCourse(name, active);
+    std::string courses;
+    for (const auto& [name, active] :
+         {std::pair{"Dunes & West", 1}, {"Gone", 0}, {"Pe\xF1on", 1}}) {
+      Record<CourseLayout> course;
+      course.Set<"Name">(name);
+      course.Set<"activeflag">(static_cast<std::int16_t>(active));
+      course.Set<"HoleNumFlag">(18);
+      courses += course.Bytes();
     }
+    install.folder.Write("kvdata/kvcrs.dat", courses);
     host.Show(host.Load("TransferMenu"));
-  }
-
-  void AddCourse(std::string_view name, int active) {
-    state().CourseDataPath = state().KVDataPath;
-    CourseClass& course = state().Course();
-    course.SetActiveProgram("KV");
-    course.OpenCourseFile();
-    course.BuildBlankRecord();
-    course.SetName(name);
-    course.Setactiveflag(active);
-    course.SetHoleNumFlag(18);
-    course.SaveRecord(course.CourseFileLength() + 1);
-    state().InitSharedObjects();
   }
 
   SharedState& state() { return install.state(); }
