@@ -133,9 +133,6 @@ void WalkControl(SharedState& state) {
     for (const int group : {0, 1, 2}) {
       for (const int n : {0, 1, 5}) {
         Try([&] { control.TeeNamePlayed(group, n, round); });
-        Try([&] { control.TeeNumberPlayed(group, n, round); });
-        Try([&] { control.TeeHandicapPercent(group, n, round); });
-        Try([&] { control.TeeHandicapAdjustment(group, n, round); });
       }
     }
   }
@@ -241,10 +238,7 @@ void WalkCourses(SharedState& state) {
     for (const int tee : {0, 1, 6, 7}) {
       for (const int hole : {0, 1, 10, 18, 19}) {
         Try([&] { course.HoleNumber(tee, hole); });
-        Try([&] { course.StrkSqnc(tee, hole); });
         Try([&] { course.HolePar(tee, hole); });
-        Try([&] { course.Rating(tee, hole); });
-        Try([&] { course.slope(tee, hole); });
       }
     }
   }
