@@ -54,44 +54,16 @@ TEST(GeneralRoutines, LimitNumber) {
   EXPECT_EQ(ErrorOf([&] { LimitNumber(huge, 0, 1e11); }), 6);
 }
 
-// With every rank there, strokes go round the holes by rank, five to a hole at most; a plus
-// player's come off the easiest, one from a hole at most.
-TEST(GeneralRoutines, AllocateHoleStrokesGoesRoundTheRanks) {
-  for (const int holes : {18, 9}) {
-    std::vector<int> ranks(18);
-    for (int i = 0; i < holes; ++i) ranks[static_cast<std::size_t>(i)] = i * 5 % holes + 1;
-    for (int strokes = -20; strokes <= 95; ++strokes) {
-      std::vector<int> expected(18, 77);  // behind a nine nothing changes
-      std::vector<int> result(18, 77);
-      for (std::size_t i = 0; i < static_cast<std::size_t>(holes); ++i) {
-        expected[i] = strokes < 0 ? (ranks[i] > holes + strokes ? -1 : 0)
-                                  : std::min(5, strokes / holes + (ranks[i] <= strokes % holes));
-      }
-      AllocateHoleStrokes(result, ranks, holes, strokes);
-      ASSERT_EQ(result, expected) << holes << " holes, " << strokes << " strokes";
-    }
-  }
-}
-
-TEST(GeneralRoutines, AllocateHoleStrokesWithSharedAndMissingRanks) {
-  const struct {
-    int holes, strokes;
-    Ints ranks, result;  // of the first holes; the others have rank 0 and get 0
-  } rows[] = {{18, 1, {3, 3, 19, 0, -1, 2}, {0, 0, 0, 0, 0, 1}},
-              {18, 2, {3, 3, 19, 0, -1, 2}, {1, 0, 0, 0, 0, 1}},
-              {18, 4, {3, 3, 19, 0, -1, 2}, {1, 1, 0, 0, 0, 1}},
-              {18, 20, {3, 3, 19, 0, -1, 2}, {2, 1, 0, 0, 0, 2}},
-              {18, -2, {3, 3, 18, 0, -1, 2}, {-1, 0, -1, 0, 0, 0}},
-              {9, 11, {17, 1, 3}, {1, 2, 2}},
-              {10, 11, {17, 1, 3}, {1, 1, 1}}};  // above 9 holes with the thresholds of 18
-  for (const auto& row : rows) {
-    Ints ranks = row.ranks;
-    Ints expected = row.result;
+TEST(GeneralRoutines, StrokesAreAllocatedOverNineHolesOrOverEighteen) {
+  const std::pair<int, Ints> rows[] = {{9, {1, 2, 2}}, {10, {1, 1, 1}}};
+  for (const auto& [holes, strokes] : rows) {
+    Ints ranks = {17, 1, 3}, expected = strokes;  // the others have rank 0
     ranks.resize(18);
-    expected.resize(18);
-    Ints result(18);
-    AllocateHoleStrokes(result, ranks, row.holes, row.strokes);
-    EXPECT_EQ(result, expected) << row.holes << " holes, " << row.strokes << " strokes";
+    expected.resize(holes == 9 ? 9 : 18);
+    expected.resize(18, 77);  // behind a nine nothing changes
+    Ints result(18, 77);
+    AllocateHoleStrokes(result, ranks, holes, 11);
+    EXPECT_EQ(result, expected) << holes;
   }
 }
 

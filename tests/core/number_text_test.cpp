@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "support/error_of.h"
 
@@ -12,44 +13,28 @@ namespace {
 
 TEST(NumberText, FormatNumber) {
   const struct {
-    double value;
-    std::string pattern, text;
+    std::string pattern;
+    std::vector<std::pair<double, std::string>> values_and_texts;
   } rows[] = {
-      {0, "0", "0"},
-      {0.5, "0", "1"},
-      {-2.5, "0", "-3"},
-      {123456, "000", "123456"},
-      {7, "00000", "00007"},
-      {71.25, "00.0", "71.3"},
-      {9.96, "00.0", "10.0"},
-      {-3.2, "00.0", "-03.2"},
-      {0.049, "0.0", "0.0"},
-      {0.05, "0.0", "0.1"},
-      {1.005, "0.00", "1.01"},  // on the decimal text, not on the binary value below it
-      {2.675, "0.00", "2.68"},
-      {-0.001, "0.00", "-0.00"},  // the sign goes by the value before it is rounded
-      {1e22, "0", "10000000000000000000000"},
-      {3, " 0", " 3"},
-      {12, " 0", " 12"},
-      {5.25, "#0.0;+0.0", "5.3"},
-      {0.4, "#0.0;+0.0", "0.4"},
-      {-1.5, "#0.0;+0.0", "+1.5"},
-      {-0.04, "0.00;-0.00", "-0.04"},
-      {12.49501, "0.00;-0.00", "12.50"},
-      {1234567.891, "$#,##0.00", "$1,234,567.89"},
-      {-999.999, "$#,##0.00", "-$1,000.00"},
-      {0.5, "$#,##0.00", "$0.50"},
-      {4, "#0; ; ", "4"},
-      {0, "#0; ; ", " "},
-      {-4, "#0; ; ", " "},  // a section without digits shows none
-      {0, "0;;", ""},
-      {-17, "0;;", ""},
-      {17, "0;;", "17"},
-      {0.199, "0.##", "0.2"},
-      {3, "0 \"of; 9\"", "3 of; 9"},
+      {"0", {{0, "0"}, {0.5, "1"}, {-2.5, "-3"}, {1e22, "10000000000000000000000"}}},
+      {"000", {{7, "007"}, {123456, "123456"}}},
+      {"00.0", {{71.25, "71.3"}, {9.96, "10.0"}, {-3.2, "-03.2"}}},
+      {"0.0", {{0.049, "0.0"}, {0.05, "0.1"}}},
+      // On the decimal text, not on the binary value; the sign goes by the value before.
+      {"0.00", {{1.005, "1.01"}, {2.675, "2.68"}, {-0.001, "-0.00"}}},
+      {" 0", {{3, " 3"}, {12, " 12"}}},
+      {"#0.0;+0.0", {{5.25, "5.3"}, {0.4, "0.4"}, {-1.5, "+1.5"}}},
+      {"0.00;-0.00", {{-0.04, "-0.04"}, {12.49501, "12.50"}}},
+      {"$#,##0.00", {{1234567.891, "$1,234,567.89"}, {-999.999, "-$1,000.00"}, {0.5, "$0.50"}}},
+      {"#0; ; ", {{4, "4"}, {0, " "}, {-4, " "}}},  // a section without digits shows none
+      {"0;;", {{0, ""}, {-17, ""}, {17, "17"}}},
+      {"0.##", {{0.199, "0.2"}}},
+      {"0 \"of; 9\"", {{3, "3 of; 9"}}},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(FormatNumber(row.value, row.pattern), row.text) << row.value << " " << row.pattern;
+  for (const auto& [pattern, values_and_texts] : rows) {
+    for (const auto& [value, text] : values_and_texts) {
+      EXPECT_EQ(FormatNumber(value, pattern), text) << value << " " << pattern;
+    }
   }
   // A single by its own shortest text: as a double this one is 2.3499999.
   EXPECT_EQ(FormatNumber(2.35f, "0.0"), "2.4");

@@ -78,9 +78,7 @@ void Operator::Answer(const std::string& title, const std::string& text, int key
         EXPECT_EQ(box.GetMessage().utf8_string(), text);
         TypeNow(key);
       });
-  When(
-      "end of box " + title, [this] { return dialogs_.empty() || dialogs_.back() == nullptr; },
-      [] {});
+  Await("end of box " + title, [this] { return dialogs_.empty() || dialogs_.back() == nullptr; });
 }
 
 void Operator::Type(const std::string& name, int key) {

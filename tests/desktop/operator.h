@@ -9,6 +9,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace golf {
@@ -23,6 +24,9 @@ class Operator : private wxTimer, private wxModalDialogHook {
 
   // Does something once the condition holds.
   void When(std::string what, std::function<bool()> condition, std::function<void()> action);
+  void Await(std::string what, std::function<bool()> condition) {
+    When(std::move(what), std::move(condition), [] {});
+  }
   // Clicks the widget of this name once it can be seen and used.
   void Press(const std::string& name);
   // Waits for a message box, expects its title and text, and answers it by a key.

@@ -3,16 +3,17 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
+#include <tuple>
+
 #include "scoring/custom_balls.h"
 
 namespace golf {
 namespace {
 
 struct Card {
-  int gross = 0;  // 0: not played
-  int strokes = 0;
-  int gross_points = 0;
-  int net_points = 0;
+  int values[4];  // gross, net and their points; no gross: not played
+  int strokes;
 };
 
 // One hole of one team, worked out in the order in which it is told: flags and loops.
@@ -22,46 +23,39 @@ struct PlainHole {
   bool selected[4][11] = {};
   bool used[11] = {};
 
+  static std::string CodeOf(const PlaceCodes& place, int kind) {
+    return kind == 0 ? place.GrossScoresToUse : place.NetScoresToUse;
+  }
+
   bool MayCount(int kind, int player) const {
     bool may = false;
     for (const PlaceCodes& place : places) {
-      const std::string& code = kind == 0 ? place.GrossScoresToUse : place.NetScoresToUse;
-      if (code == "NONE") continue;
-      if (place.ConsiderPlayers.find(static_cast<char>('0' + player)) != std::string::npos)
-        may = true;
+      may |= CodeOf(place, kind) != "NONE" &&
+             place.ConsiderPlayers.find(static_cast<char>('0' + player)) != std::string::npos;
     }
-    return may && cards[static_cast<std::size_t>(player) - 1].gross > 0;
+    return may && cards[static_cast<std::size_t>(player) - 1].values[0] > 0;
   }
 
   int OneKind(int kind) {
     int sum = 0;
     for (const PlaceCodes& place : places) {
-      const std::string& code = kind == 0 ? place.GrossScoresToUse : place.NetScoresToUse;
-      if (code == "NONE") continue;
-      const int count = code.back() - '0';
+      const std::string code = CodeOf(place, kind);
+      const int sign = code[0] == 'H' ? -1 : 1;
+      const int count = code == "NONE" ? 0 : code.back() - '0';
       for (int pick = 1; pick <= count; ++pick) {
-        int best = code[0] == 'H' ? -1000 : 1000;
-        int best_strokes = 0;
-        int who = 0;
+        std::tuple best{1000, 0, 0};  // the lowest value, then the fewest strokes, then the first
         for (int player = 1; player <= static_cast<int>(cards.size()); ++player) {
           if (used[player] || !MayCount(kind, player)) continue;
           const Card& card = cards[static_cast<std::size_t>(player) - 1];
-          const int value = kind == 0 ? card.gross : card.gross - card.strokes;
-          bool take = code[0] == 'H' ? value > best : value < best;
-          if (value == best && kind == 1 && who != 0) {
-            if (code[0] == 'L' && card.strokes < best_strokes) take = true;
-            if (code[0] == 'H' && card.strokes > best_strokes) take = true;
-          }
-          if (!take) continue;
-          best = value;
-          best_strokes = card.strokes;
-          who = player;
+          const int strokes = kind == 1 && code[0] != 'X' ? sign * card.strokes : 0;
+          best = std::min(best, {sign * card.values[kind], strokes, player});
         }
+        const auto& [value, strokes, who] = best;
         if (who == 0) continue;
         used[who] = true;
         if (code[0] == 'X' && pick != count) continue;
         selected[kind][who] = selected[kind + 2][who] = true;
-        sum += best;
+        sum += sign * value;
       }
     }
     return sum;
@@ -76,24 +70,17 @@ struct PlainHole {
   }
 
   void Work(const std::string& option, const std::string& selection) {
-    if (option == "S") {
-      Both(0, true);
-    } else if (selection == "B") {
-      const int gross_first = Both(0, false);
-      const int net_first = Both(1, false);
-      if (gross_first <= net_first) Both(0, false);
-    } else {
-      Both(selection == "N" ? 1 : 0, false);
-    }
+    const bool same = option == "S";
+    const int gross_first = Both(0, same);
+    if (same || selection == "G") return;
+    if (Both(1, false) < gross_first || selection == "N") return;
+    Both(0, false);
   }
 
   TeamBalls::Sum Sum(int table) const {
     TeamBalls::Sum sum;
     for (std::size_t i = 0; i < cards.size(); ++i) {
-      const Card& card = cards[i];
-      const int values[] = {card.gross, card.gross - card.strokes, card.gross_points,
-                            card.net_points};
-      if (selected[table][i + 1]) sum = sum.value_or(0) + values[table];
+      if (selected[table][i + 1]) sum = sum.value_or(0) + cards[i].values[table];
     }
     return sum;
   }
@@ -123,14 +110,12 @@ RC_GTEST_PROP(CustomBalls, CountTheSameBallsAsTheirSteps, ()) {
   const int golfers = *rc::gen::inRange(0, 11);
   const int column = HoleColumn(hole);
   for (int golfer = 1; golfer <= golfers; ++golfer) {
-    const Card card{*rc::gen::inRange(0, 6), *rc::gen::inRange(-1, 3), *rc::gen::inRange(0, 9),
-                    *rc::gen::inRange(0, 9)};
+    const int gross = *rc::gen::inRange(0, 6), strokes = *rc::gen::inRange(-1, 3);
+    const int points = *rc::gen::inRange(0, 9), net_points = *rc::gen::inRange(0, 9);
+    const Card card{{gross, gross - strokes, points, net_points}, strokes};
     plain.cards.push_back(card);
-    if (card.gross == 0) continue;
-    const int values[] = {card.gross, card.gross - card.strokes, card.gross_points,
-                          card.net_points};
-    for (int table = 0; table < 4; ++table) {
-      engine.Team(2).At(kBallTables[table], golfer, column).value = values[table];
+    for (int table = 0; table < 4 && gross > 0; ++table) {
+      engine.Team(2).At(kBallTables[table], golfer, column).value = card.values[table];
     }
   }
   engine.XBallConsiderWhichScores(false, {});

@@ -6,11 +6,13 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <numeric>
 #include <random>
 
 #include "app/application.h"
 #include "scoring/stroke_control.h"
+#include "support/error_of.h"
 #include "support/memory_platform.h"
 #include "support/scored_round.h"
 
@@ -281,6 +283,8 @@ RC_GTEST_PROP(ScoringProperties, StrokeControlCapsAsPlainReckoningDoes, ()) {
   Dice dice(*rc::gen::arbitrary<unsigned>());
   ESCClass control;
   ByHole<int> adjusted;  // kept under a scheme that is none
+  RC_ASSERT(ErrorOf([&] { control.SetHolePar(19, 4); }) == 9);
+  RC_ASSERT(ErrorOf([&] { control.AdjGross(0); }) == 9);
   for (int times = 0; times < 50; ++times) {
     const int flag = dice.Of({0, 9, 18, 19, 28, 100, 119, 219, 319, 7});
     const float handicap = dice.Handicap();
@@ -293,7 +297,7 @@ RC_GTEST_PROP(ScoringProperties, StrokeControlCapsAsPlainReckoningDoes, ()) {
     int holes = handicap <= 0   ? 0
                 : handicap > 27 ? 9
                                 : Even(handicap - static_cast<float>(9 * over - 18));
-    int custom_maximum = 0, capped[2] = {};
+    int custom_maximum = 0, capped[2] = {}, scores = 0;
     for (int hole = 1; hole <= 18; ++hole) {
       const int par = dice.Mostly(3, 6, 9, {0, 2, 7, 90});
       const int score = dice.Mostly(1, 12, 9, {0, 99, 32767});
@@ -309,13 +313,22 @@ RC_GTEST_PROP(ScoringProperties, StrokeControlCapsAsPlainReckoningDoes, ()) {
         adjusted[hole] = Capped(flag, handicap, par, score);
       }
       capped[hole / 10] += adjusted[hole];
+      scores += score;
     }
     Same("scheme", flag, control.CalculateESC(), capped[0] + capped[1]);
     Same("first nine", flag, control.AdjGross(1), capped[0]);
+    Same("gross", flag, control.Gross(1) + control.Gross(2), scores);
+    Same("gross", flag, control.Gross(3), scores);
     for (int hole = 1; hole <= 18; ++hole) {
       Same("capped", hole, control.HoleAdjScore(hole), adjusted[hole]);
     }
   }
+  control.Setflag(28);
+  control.SetHandicap(std::numeric_limits<float>::infinity());
+  control.SetHolePar(1, 4);
+  control.SetHoleScore(1, 12);
+  control.CalculateESC();
+  RC_ASSERT(control.HoleAdjScore(1) == 8);
 }
 
 }  // namespace

@@ -12,13 +12,10 @@ constexpr std::size_t kLength = 3226;
 constexpr std::size_t kLargest = 32767;
 
 int ErrorOfTransfer(TestInstall& install) {
-  install.host->drive = [&](Screen& screen) { install.host->Press(screen, "TransferCourses"); };
-  try {
-    OpenScreen(install.state(), *install.host, "KVCoursestoQB", "");
-  } catch (const ClickEnded& ended) {
-    return ended.error.number();
-  }
-  return 0;
+  return ClickErrorOf([&] {
+    install.Open("KVCoursestoQB",
+                 [&](Screen& screen) { install.host->Press(screen, "TransferCourses"); });
+  });
 }
 
 TEST(CourseOverflowTest, ANumberBeyondItsFieldStopsTheRunAndWhatWasWrittenStays) {

@@ -16,10 +16,7 @@ namespace {
 
 constexpr std::size_t kFrom = 2804, kTo = 1867, kHeader = 781, kEntry = 3052;
 
-float SingleAt(const std::string& bytes, std::size_t at) {
-  return LoadLittleEndian<float>(bytes.data() + at);
-}
-std::int32_t IdAt(const std::string& bytes) { return LoadLittleEndian<std::int32_t>(&bytes[4]); }
+std::int32_t IdAt(const std::string& record) { return Int32At(record, 4); }
 
 std::string Golfer(int id, const std::string& last, float index, float handicap) {
   std::string bytes = Pattern(kFrom);
@@ -100,20 +97,6 @@ std::string Copied(const std::string& old, const std::string& from, const Choice
   return to;
 }
 
-std::string BlankPlayer() {
-  std::string bytes(kTo, '\0');
-  PutText(bytes, 16, 27);
-  PutText(bytes, 44, 381);
-  bytes[424] = 'A';
-  PutText(bytes, 429, 12);
-  PutText(bytes, 449, 150);
-  const double now = DateFromCivil({2024, 5, 13});
-  Put(bytes, 599, {now, now});
-  Put(bytes, 655, {now});
-  PutText(bytes, 671, 1196);
-  return bytes;
-}
-
 struct Outcome {
   std::string file;
   int updated = 0, added = 0;
@@ -122,23 +105,22 @@ struct Outcome {
 // By searching the whole file for each golfer, as a reader of the rules would.
 Outcome Expected(const std::string& kelvane, const std::string& quenby, const Choice& choice) {
   Outcome out{quenby};
-  const auto record = [&](std::size_t i) { return out.file.substr((i - 1) * kTo, kTo); };
+  const auto record = [&](std::size_t i) { return RecordAt(out.file, i, kTo); };
   const std::size_t length = quenby.size() / kTo;
   for (std::size_t g = 0; g + kFrom <= kelvane.size(); g += kFrom) {
     const std::string golfer = kelvane.substr(g, kFrom);
     if (Int16At(golfer, 0) < 1 || (choice.marked && golfer[2] == 0)) continue;
     std::size_t at = 0;
     for (std::size_t i = length; i >= 10; --i) {
-      if (std::max(IdAt(quenby.substr((i - 1) * kTo, kTo)), 0) == IdAt(golfer)) at = i;
+      if (std::max(IdAt(RecordAt(quenby, i, kTo)), 0) == IdAt(golfer)) at = i;
     }
     ++(at != 0 ? out.updated : out.added);
-    const std::string old = at != 0 ? record(at) : BlankPlayer();
+    const std::string old = at != 0 ? record(at) : BlankGolfer(DateFromCivil({2024, 5, 13}));
     if (at == 0) {
       const std::size_t now = out.file.size() / kTo;
       for (at = 10; at <= now && (IdAt(record(at)) >= 1 || IdAt(record(at)) == -1);) ++at;
     }
-    out.file.resize(std::max(out.file.size(), at * kTo), '\0');
-    out.file.replace((at - 1) * kTo, kTo, Copied(old, golfer, choice));
+    PutRecord(out.file, at, Copied(old, golfer, choice));
   }
   return out;
 }
@@ -163,15 +145,9 @@ class GolferTransferTest : public testing::Test {
   }
   // The operator's way, from the transfer to its end.
   void Run(const Choice& choice) {
-    install.host->drive = [&](Screen& screen) {
-      if (auto* rosters = dynamic_cast<LoadRoster*>(&screen)) {
-        rosters->grid1.SetActiveRow(1);
-        return install.host->Press(screen, "LoadButton");
-      }
-      if (auto* rosters = dynamic_cast<LoadRosters*>(&screen)) {
-        rosters->grid1.SetActiveRow(choice.roster == 2 ? 2 : 1);
-        return install.host->Press(screen, "LoadButton");
-      }
+    install.Open("KVtoQB", [&](Screen& screen) {
+      if (PickRoster<LoadRoster>(*install.host, screen, 1)) return;
+      if (PickRoster<LoadRosters>(*install.host, screen, choice.roster == 2 ? 2 : 1)) return;
       auto& transfer = dynamic_cast<KVtoQB&>(screen);
       install.host->Press(screen, "SourceButton");
       install.host->Press(screen, "DestButton");
@@ -182,8 +158,7 @@ class GolferTransferTest : public testing::Test {
         transfer.grid1.Enter(KVtoQB::kTickColumn, row, choice.items ? "1" : "0");
       }
       install.host->Press(screen, "TransferButton");
-    };
-    install.host->Operate([&] { OpenScreen(install.state(), *install.host, "KVtoQB", ""); });
+    });
   }
 
   TestInstall install;
@@ -268,19 +243,14 @@ TEST_F(GolferTransferTest, UpdatesTheActiveTournament) {
 // A fault on the way leaves whole records, and the next run puts everything right.
 TEST_F(GolferTransferTest, EachFileOperationFailsOnce) {
   const Outcome outcome = Expected(SomeGolfers(), SomePlayers(), {});
-  bool failed = true;
-  for (int nth = 1; failed; ++nth) {
-    SCOPED_TRACE(nth);
+  ForEachFault([&](int nth) {
     Prepare(SomeGolfers(), SomePlayers(), {});
     install.folder.Write("qbdata/KVtoQB.DAT", "");
     install.Restart();
     install.platform->Fail({.error = ErrorNumber::kDiskFull, .nth = nth, .bytes_first = 1000});
-    try {
-      Run({});
-    } catch (const ClickEnded& ended) {
-      EXPECT_TRUE(ended.error.number() == 61 || ended.error.number() == 70);
-    }
-    failed = install.platform->Failed();
+    const int error = ClickErrorOf([&] { Run({}); });
+    EXPECT_TRUE(error == 0 || error == 61 || error == 70) << error;
+    const bool failed = install.platform->Failed();
     EXPECT_TRUE(install.folder.Read("kvdata/club.kvg") == SomeGolfers());
     EXPECT_TRUE(install.folder.Read("kvdata/club.kv5") == Header(18));
     const std::string left = install.folder.Read("qbdata/QBGOLFER.Q9D");
@@ -290,59 +260,46 @@ TEST_F(GolferTransferTest, EachFileOperationFailsOnce) {
       return e == Report(outcome) || e.starts_with("message [") || e.starts_with("error ");
     });
     EXPECT_TRUE(told || said);
-    ASSERT_LT(nth, 500);
-  }
+    return failed;
+  });
   EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == outcome.file);
 }
 
 TEST_F(GolferTransferTest, RefusalsAndHeldFiles) {
+  const std::string select = "message [Notice] You must select a ";
+  const std::string before = " roster before you can transfer golfers. -> OK";
   const std::string held =
       "message [Notice] The Kelvane is currently open.  You must close this program before you can "
       "transfer golfers. -> OK";
+  const std::string error75 = "message [Error] Error #  75 was generated by Golf Transfer\r";
   const struct {
     const char* kelvane;
     const char* quenby;
-    const char* fault;  // a file that cannot be opened in the run
-    ErrorNumber error;
     std::string event;
-    bool button;  // is still there
+    bool button;          // is still there
+    const char* file{};   // that cannot be opened in the run
+    ErrorNumber error{};  // for this reason
   } kCases[] = {
-      {" ",
-       "x001",
-       "",
-       {},
-       "message [Notice] You must select a Kelvane roster before you can "
-       "transfer golfers. -> OK",
-       true},
-      {"club",
-       "",
-       "",
-       {},
-       "message [Notice] You must select a Quenby roster before you can transfer "
-       "golfers. -> OK",
-       true},
-      {"none", "x001", "", {}, "message [Notice] Cannot open Handicap Roster. -> OK", true},
-      {"club", "x001", "club.kvg", ErrorNumber::kPermissionDenied, held, true},
-      {"club", "x001", "QBGOLFER.Q9D", ErrorNumber::kPermissionDenied, held, false},
-      {"club", "x001", "QBGOLFER.Q9D", ErrorNumber::kPathAccess,
-       "message [Error] Error #  75 was "
-       "generated by Golf Transfer\r",
-       false},
+      {" ", "x001", select + "Kelvane" + before, true},
+      {"club", "", select + "Quenby" + before, true},
+      {"none", "x001", "message [Notice] Cannot open Handicap Roster. -> OK", true},
+      {"club", "x001", held, true, "club.kvg", ErrorNumber::kPermissionDenied},
+      {"club", "x001", held, false, "QBGOLFER.Q9D", ErrorNumber::kPermissionDenied},
+      {"club", "x001", error75, false, "QBGOLFER.Q9D", ErrorNumber::kPathAccess},
   };
   Prepare(SomeGolfers(), SomePlayers(), {});
   for (const auto& c : kCases) {
     SCOPED_TRACE(c.event);
     install.Restart();
-    install.host->drive = [&](Screen& screen) {
+    install.Open("KVtoQB", [&](Screen& screen) {
       auto& transfer = dynamic_cast<KVtoQB&>(screen);
       transfer.HandicapRoster.SetText(c.kelvane);
       transfer.TournamentRoster.SetText(c.quenby);
-      if (*c.fault != '\0') install.platform->Fail({.error = c.error, .name = c.fault});
+      if (c.file != nullptr) install.platform->Fail({.error = c.error, .name = c.file});
       install.host->Press(screen, "TransferButton");
       EXPECT_EQ(install.events().at(1).substr(0, c.event.size()), c.event);
       EXPECT_EQ(transfer.TransferButton.visible(), c.button);
-    };
-    OpenScreen(install.state(), *install.host, "KVtoQB", "");
+    });
     EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == SomePlayers());
   }
 }

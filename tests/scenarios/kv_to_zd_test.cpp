@@ -37,7 +37,7 @@ struct Outcome {
   explicit Outcome(const Case& c) : players(c.players), substitutes(c.substitutes) {
     for (std::size_t g = 1; g <= c.golfers.size() / kGolferBytes; ++g) {
       const std::string golfer = RecordAt(c.golfers, g, kGolferBytes);
-      const int id = LoadLittleEndian<std::int32_t>(golfer.data() + 4);
+      const int id = Int32At(golfer, 4);
       if (Int16At(golfer, 0) < 1 || id < 1) continue;
       const int count = static_cast<int>(players.size() / kLeaguePlayerBytes);
       for (int p = 1; p <= count; ++p) {
@@ -53,7 +53,7 @@ struct Outcome {
   bool Update(std::string& file, int record, int id, const std::string& golfer, const Case& c) {
     const std::size_t at = (static_cast<std::size_t>(record) - 1) * kLeaguePlayerBytes;
     if (at + kLeaguePlayerBytes > file.size()) return false;
-    if (LoadLittleEndian<std::int32_t>(file.data() + at + 4) != id) return false;
+    if (Int32At(file, at + 4) != id) return false;
     const auto copy = [&](std::size_t to, std::size_t width, std::size_t from, std::size_t length) {
       file.replace(at + to, width, FitText(golfer.substr(from, length), width));
     };
@@ -64,7 +64,7 @@ struct Outcome {
     copy(384, 12, 276, 20);
     copy(396, 12, 296, 20);
     Put16(file, at + 382, {golfer[35] != 0 ? 1 : 0});
-    double handicap = c.used_percent / 100.0 * LoadLittleEndian<float>(golfer.data() + 427);
+    double handicap = c.used_percent / 100.0 * SingleAt(golfer, 427);
     if (c.nine) handicap /= 2;
     Put(file, at + 1266 + 4 * static_cast<std::size_t>(c.event),
         {static_cast<float>(handicap + 0.001)});
@@ -184,10 +184,7 @@ TEST(KVtoZDTest, BadInputChangesNothing) {
 TEST(KVtoZDTest, EachFileOperationFailsOnceAndNothingIsLost) {
   const Case c = Cases()[0];
   const Outcome outcome(c);
-  bool failed = true;
-  for (int nth = 1; failed; ++nth) {
-    SCOPED_TRACE(nth);
-    ASSERT_LT(nth, 500);
+  ForEachFault([&](int nth) {
     TestInstall install;
     WriteInstall(install, c);
     install.platform->Fail({.error = ErrorNumber::kDiskFull, .nth = nth, .bytes_first = 100});
@@ -195,13 +192,14 @@ TEST(KVtoZDTest, EachFileOperationFailsOnceAndNothingIsLost) {
     if (Transfer(install) != outcome.log) {
       EXPECT_TRUE(Told(install, "error 61") || Told(install, "close KVtoZD"));
     }
-    failed = install.platform->Failed();
+    const bool failed = install.platform->Failed();
     install.Restart();
     WriteInstall(install, {"", c.golfers, install.folder.Read("zddata/00011.ZP8"),
                            install.folder.Read("zddata/0001.ZS8")});
     EXPECT_EQ(Transfer(install), outcome.log);
     ExpectLeague(install, outcome.players, outcome.substitutes);
-  }
+    return failed;
+  });
 }
 
 TEST(KVtoZDTest, LeaguesToPickAndWhatIsKeptOfThem) {
@@ -211,7 +209,7 @@ TEST(KVtoZDTest, LeaguesToPickAndWhatIsKeptOfThem) {
   install.folder.Write("zddata/00041.ZL8", "");
   const std::vector<std::string> kept = {"A: 12345", "DIV1 Mens: A: 12345",
                                          "DIV2 No first: division"};
-  install.host->drive = [&](Screen& shown) {
+  install.Open("KVtoZD", [&](Screen& shown) {
     auto& screen = dynamic_cast<KVtoZD&>(shown);
     ASSERT_EQ(screen.picker.LeagueList.items().size(), 5u);
     for (int item = 0; item < 3; ++item) {
@@ -225,8 +223,7 @@ TEST(KVtoZDTest, LeaguesToPickAndWhatIsKeptOfThem) {
           screen.DestLabel.caption().starts_with(kept[static_cast<std::size_t>(item)] + "  "));
       EXPECT_EQ(LastCharacters(screen.DestLabel.caption(), 5), item < 2 ? "00021" : "00032");
     }
-  };
-  OpenScreen(install.state(), *install.host, "KVtoZD", "");
+  });
 }
 
 }  // namespace

@@ -15,8 +15,8 @@ class PickersTest : public testing::Test {
  protected:
   template <class AnyScreen>
   void With(const char* name, const std::function<void(AnyScreen&)>& work, const char* word = "") {
-    install.host->drive = [&](Screen& screen) { work(dynamic_cast<AnyScreen&>(screen)); };
-    install.host->Operate([&] { OpenScreen(install.state(), *install.host, name, word); });
+    install.Open(
+        name, [&](Screen& screen) { work(dynamic_cast<AnyScreen&>(screen)); }, word);
   }
   void Press(Screen& screen, const char* button) { install.host->Press(screen, button); }
 

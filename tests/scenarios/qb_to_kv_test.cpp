@@ -72,34 +72,32 @@ class QbToKvTest : public testing::Test {
   static constexpr double kDay = 45000, kNow = 45600.5;
 
   void Prepare(const Setting& setting, const std::vector<Player>& players) {
+    ScoredRound made;
+    auto& course = made.course;
+    course.Set<"HoleNumFlag">(setting.roster_holes == 18 ? 18 : -9);
+    const char* const tees[] = {"Red", "White", "Whitest"};
+    for (int tee = 2; tee <= 4; ++tee) {
+      course.Set<"TeeName">({tee}, tees[tee - 2]);
+      for (int sex = 0; sex <= 1; ++sex) {
+        course.Set<"Rating">({tee, sex}, static_cast<float>(20.1 * tee + sex));
+        course.Set<"slope">({tee, sex}, static_cast<std::int16_t>(100 + 10 * tee + sex));
+      }
+    }
     const auto courses = [&](const char* name, std::initializer_list<const char*> names) {
       std::string file;
+      for (int tee = 2; tee <= 4; ++tee)
+        course.Set<"ActiveTees">({tee}, name[0] == 'q' || tee != 2 ? 255 : 0);
       for (const char* of : names) {
-        CourseClass course(install.state());
-        course.BuildBlankRecord();
-        course.SetName(of);
-        course.SetHoleNumFlag(setting.roster_holes == 18 ? 18 : -9);
-        for (int tee = 2; tee <= 4; ++tee) {
-          course.SetTeeName(tee, tee == 2 ? "Red" : tee == 3 ? "White" : "Whitest");
-          if (name[0] == 'q' || tee != 2) course.SetActiveTees(tee, true);
-          for (int sex = 0; sex <= 1; ++sex) {
-            course.SetRating(tee, sex, 20.1 * tee + sex);
-            course.Setslope(tee, sex, 100 + 10 * tee + sex);
-          }
-          for (int hole = 1; hole <= 18; ++hole) course.SetHolePar(tee, hole, 4);
-        }
-        file += course.Stored().Bytes();
+        course.Set<"Name">(of);
+        file += course.Bytes();
       }
       install.folder.Write(name, file);
     };
     courses("qbdata/qbcrs.dat", {"North park"});
     courses("kvdata/kvcrs.dat", {"North", "NORTH PARK B", "North Star"});
-    std::string index(8, '\0');
-    Put16(index, 0, {3, 1, 2, 3});
-    for (const char* list : {"18", "9", "ALL"}) {
-      install.folder.Write("kvdata/" + std::string(list) + "CRSKV.INX", index);
+    for (const std::string list : {"18", "9", "ALL"}) {
+      install.folder.Write("kvdata/" + list + "CRSKV.INX", Index({3, 1, 2, 3}));
     }
-    ScoredRound made;
     auto& control = made.control;
     control.Set<"Name">("Medal");
     control.Set<"NumRounds">(2);
@@ -162,11 +160,8 @@ class QbToKvTest : public testing::Test {
 
   void Run(const Setting& setting) {
     if (setting.points) install.host->QueueAnswer("Transfer QB points to KV Score?", "yes");
-    install.host->drive = [&](Screen& screen) {
-      if (auto* rosters = dynamic_cast<LoadRoster*>(&screen)) {
-        rosters->grid1.SetActiveRow(1);
-        return install.host->Press(screen, "LoadButton");
-      }
+    install.Open("QBtoKV", [&](Screen& screen) {
+      if (PickRoster<LoadRoster>(*install.host, screen, 1)) return;
       auto& transfer = dynamic_cast<QBtoKV&>(screen);
       install.host->Press(screen, "DestButton");
       captions = transfer.TransferButton.caption();
@@ -180,8 +175,7 @@ class QbToKvTest : public testing::Test {
       EXPECT_EQ(transfer.TransferButton.visible(), report.empty());
       transfer.RoundList.Select(0);
       EXPECT_TRUE(transfer.TransferButton.visible());
-    };
-    install.host->Operate([&] { OpenScreen(install.state(), *install.host, "QBtoKV", ""); });
+    });
   }
 
   // Puts a score into the expected history of a golfer's place, from 1.
@@ -202,11 +196,6 @@ class QbToKvTest : public testing::Test {
     EXPECT_TRUE(install.folder.Read("qbdata/X0001.Q9G") == entries_before);
     EXPECT_EQ(install.folder.Read("kvdata/CLUB.KV5")[153], '\1');
     EXPECT_FALSE(install.folder.Exists("qbdata/X0000.Q9C"));
-  }
-  std::string LastMessage() {
-    const auto message = std::find_if(install.events().rbegin(), install.events().rend(),
-                                      [](const auto& e) { return e.starts_with("message"); });
-    return message == install.events().rend() ? "" : *message;
   }
 
   TestInstall install;
@@ -254,20 +243,14 @@ TEST_F(QbToKvTest, AnEntryByteForByte) {
     roster_before.replace(kGolfer + kRecordOfHalf, 9, half);
     ExpectFiles({1});
     EXPECT_EQ(install.host->faults().size(), c.setting.date ? 0 : 1);
-    EXPECT_EQ(LastMessage(), "message [Notice] 1 Scores transferred. -> OK");
+    EXPECT_EQ(install.LastMessage(), "message [Notice] 1 Scores transferred. -> OK");
   }
 }
 
 TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
-  const std::vector<Player> kPlayers = {{11},
-                                        {12, true},
-                                        {11},
-                                        {12, false, 18},
-                                        {99},
-                                        {0},
-                                        {11, false, 0, true},
-                                        {77, false, 0, true}};
-  Prepare({}, kPlayers);
+  const Player plays{11}, lady_plays{12, true}, incomplete{12, false, 18}, unknown{99}, nobody{0};
+  const Player sent{11, false, 0, true}, unknown_and_sent{77, false, 0, true};
+  Prepare({}, {plays, lady_plays, plays, incomplete, unknown, nobody, sent, unknown_and_sent});
   Run({});
   const Score man{2, 4, 60.3f, 130, 1, 72, 72, 0, 9};
   const Score lady{2, 4, 61.3f, 131, 1, 72, 72, 0, 9};
@@ -310,23 +293,18 @@ TEST_F(QbToKvTest, Refusals) {
     install.host->QueueAnswer("Continue", "No");
     Run(c.setting);
     ExpectFiles({});
-    EXPECT_EQ(LastMessage(), c.message);
+    EXPECT_EQ(install.LastMessage(), c.message);
   }
 }
 
 // No score twice, none flagged that is in no history, and no history ahead of its golfer; a golfer
 // may be ahead of his history, by the score that was being written.
 TEST_F(QbToKvTest, EachFileOperationFailsOnce) {
-  bool failed = true;
-  for (int nth = 1; failed; ++nth) {
-    SCOPED_TRACE(nth);
+  ForEachFault([&](int nth) {
     Prepare({}, {{11}, {12, true}});
     install.platform->Fail({.error = ErrorNumber::kDiskFull, .nth = nth});
-    try {
-      Run({});
-    } catch (const ClickEnded&) {
-    }
-    failed = install.platform->Failed();
+    ClickErrorOf([&] { Run({}); });
+    const bool failed = install.platform->Failed();
     const std::string roster = install.folder.Read("kvdata/CLUB.KVG");
     const std::string history = install.folder.Read("kvdata/CLUB.KVS");
     const std::string entries = install.folder.Read("qbdata/X0001.Q9G");
@@ -339,9 +317,9 @@ TEST_F(QbToKvTest, EachFileOperationFailsOnce) {
       const int counted = Int16At(roster, (i + 1) * kGolfer + kCounters) - int{kOldCounter};
       EXPECT_TRUE(counted == posted || (counted == 1 && !flagged));
     }
-    ASSERT_LT(nth, 500);
-  }
-  EXPECT_EQ(LastMessage(), "message [Notice] 2 Scores transferred. -> OK");
+    return failed;
+  });
+  EXPECT_EQ(install.LastMessage(), "message [Notice] 2 Scores transferred. -> OK");
 }
 
 }  // namespace

@@ -22,17 +22,6 @@ std::string Golfer(int id, const std::string& first, const std::string& last) {
   return bytes;
 }
 
-std::string NewGolfer() {
-  std::string bytes(kGolferBytes, '\0');
-  for (const auto& [from, to] :
-       {std::pair{16, 43}, {44, 424}, {429, 441}, {449, 599}, {671, 1867}}) {
-    std::fill(bytes.begin() + from, bytes.begin() + to, ' ');
-  }
-  bytes[424] = 'A';
-  for (const std::size_t date : {599u, 607u, 655u}) Put(bytes, date, {45425.0});  // 13 May 2024
-  return bytes;
-}
-
 std::string Key(const std::string& record, std::size_t last, std::size_t last_width,
                 std::size_t first, std::size_t first_width) {
   return UpperCase(std::string(Trim(record.substr(last, last_width))) +
@@ -72,7 +61,7 @@ struct Outcome {
     if (c.golfers.empty()) states[0].clear();
     for (std::size_t r = kFirstGolfer; r <= states[0].size() / kGolferBytes; ++r) {
       const std::string golfer = RecordAt(states[0], r, kGolferBytes);
-      const int id = LoadLittleEndian<std::int32_t>(golfer.data() + 4);
+      const int id = Int32At(golfer, 4);
       keys.push_back(id >= 1 ? Key(golfer, 27, 16, 16, 11) : "");
       if (id >= 1) ids.push_back(id);
     }
@@ -95,11 +84,11 @@ struct Outcome {
       ++updated;
     } else {
       while (r <= quenby.size() / kGolferBytes) {
-        const int id = LoadLittleEndian<std::int32_t>(quenby.data() + (r - 1) * kGolferBytes + 4);
+        const int id = Int32At(quenby, (r - 1) * kGolferBytes + 4);
         if (id < 1 && id != -1) break;
         ++r;
       }
-      golfer = NewGolfer();
+      golfer = BlankGolfer(45425);  // 13 May 2024
       ids.push_back(NextID(ids));
       Put(golfer, 4, {ids.back()});
       Put16(golfer, 8, {c.in_roster});
@@ -115,12 +104,11 @@ struct Outcome {
     for (std::size_t line = 0; line < 3; ++line) copy(44 + 30 * line, 30, 38 + 30 * line, 30);
     copy(284, 20, 384, 12);
     copy(304, 20, 396, 12);
-    float handicap =
-        LoadLittleEndian<float>(from.data() + 1266 + 4 * static_cast<std::size_t>(c.event));
+    float handicap = SingleAt(from, 1266 + 4 * static_cast<std::size_t>(c.event));
     if (c.doubled) handicap = static_cast<float>(std::round(handicap * 100.0) / 100 * 2);
     Put(golfer, 441, {0.0f, handicap});
-    quenby.resize(std::max(quenby.size(), r * kGolferBytes), '\0');
-    states.push_back(quenby.replace((r - 1) * kGolferBytes, kGolferBytes, golfer));
+    PutRecord(quenby, r, golfer);
+    states.push_back(quenby);
   }
 
   std::string log() const {
@@ -215,11 +203,9 @@ TEST(ZDtoQBTest, EachFileOperationFailsOnceAndIsTriedAgainOrGivenUp) {
   const Case c = Cases()[0];
   const Outcome outcome(c);
   for (const std::string answer : {"Retry", "Cancel"}) {
+    SCOPED_TRACE(answer);
     int asked = 0;
-    bool failed = true;
-    for (int nth = 1; failed; ++nth) {
-      SCOPED_TRACE(answer + std::to_string(nth));
-      ASSERT_LT(nth, 500);
+    ForEachFault([&](int nth) {
       TestInstall install;
       WriteInstall(install, c);
       install.host->QueueAnswer("Message", answer);
@@ -227,7 +213,7 @@ TEST(ZDtoQBTest, EachFileOperationFailsOnceAndIsTriedAgainOrGivenUp) {
       install.platform->Fail(
           {.error = full ? ErrorNumber::kDiskFull : ErrorNumber::kPathAccess, .nth = nth});
       Transfer(install);
-      failed = install.platform->Failed();
+      const bool failed = install.platform->Failed();
       const bool told =
           Told(install,
                std::string("message [Message] ") +
@@ -238,7 +224,8 @@ TEST(ZDtoQBTest, EachFileOperationFailsOnceAndIsTriedAgainOrGivenUp) {
       const std::string left = install.folder.Read("qbdata/QBGOLFER.Q9D");
       EXPECT_NE(std::find(states.begin(), states.end(), left), states.end());
       EXPECT_TRUE(!told || answer == "Cancel" || left == states.back());
-    }
+      return failed;
+    });
     EXPECT_GT(asked, 10);
   }
 }
@@ -252,7 +239,7 @@ TEST(ZDtoQBTest, TheManagerOfRostersDeletesThroughThisScreen) {
   Put16(golfer, 8, {1, 0, 0, 0});
   install.folder.Write("qbdata/QBGOLFER.Q9D", golfer);
   install.host->QueueAnswer("DELETE Roster?", "YES");
-  install.host->drive = [&](Screen& screen) {
+  install.Open("ZDtoQB", [&](Screen& screen) {
     if (auto* manager = dynamic_cast<LoadRosters*>(&screen)) {
       manager->grid1.SetActiveRow(2);
       install.host->Press(screen, "DeleteButton");
@@ -262,10 +249,8 @@ TEST(ZDtoQBTest, TheManagerOfRostersDeletesThroughThisScreen) {
       EXPECT_EQ(dynamic_cast<ZDtoQB&>(screen).TournamentRoster.text(),
                 "Show ALL Rosters" + std::string(25, ' ') + "000");
     }
-  };
-  OpenScreen(install.state(), *install.host, "ZDtoQB", "");
-  EXPECT_EQ(LoadLittleEndian<std::int32_t>(install.folder.Read("qbdata/QBGOLFER.Q9D").data() + 4),
-            -1);
+  });
+  EXPECT_EQ(Int32At(install.folder.Read("qbdata/QBGOLFER.Q9D"), 4), -1);
 }
 
 }  // namespace

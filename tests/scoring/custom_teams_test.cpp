@@ -1,26 +1,21 @@
 // Report layouts: their files, their builder, and the ranking of teams under them.
 
-#include <gtest/gtest.h>
-
 #include <numeric>
 
 #include "scoring/custom_balls.h"
 #include "scoring/screens/team_layout_builder.h"
 #include "scoring/screens/team_layout_list.h"
-#include "stores/quenby/program_class.h"
-#include "support/test_host.h"
+#include "support/quenby_test.h"
 
 namespace golf {
 namespace {
 
-class CustomTeamsTest : public testing::Test {
+class CustomTeamsTest : public QuenbyTest {
  protected:
   CustomTeamsTest() {
-    install.host->clock = [] { return DateFromCivil({2024, 5, 13}); };
-    state.StoreDataPath = state.QBDataPath;
-    state.Program().OpenMasterFile();
-    state.Program().SetActiveTournament(1);
-    state.Program().SaveMasterRecord();
+    program.OpenMasterFile();
+    program.SetActiveTournament(1);
+    program.SaveMasterRecord();
   }
 
   // Opens the builder and works on it once its timer has fired.
@@ -40,14 +35,6 @@ class CustomTeamsTest : public testing::Test {
         events.begin(), events.end(), std::string(),
         [](const std::string& all, const std::string& one) { return all + one + "\n"; });
   }
-  std::string Read(const std::string& name) { return install.folder.Read("qbdata/" + name); }
-  void Write(const std::string& name, const std::string& bytes) {
-    install.folder.Write("qbdata/" + name, bytes);
-    state.files.Synchronize();
-  }
-
-  TestInstall install;
-  SharedState& state = install.state();
 };
 
 TEST_F(CustomTeamsTest, ANewLayoutIsSavedByteForByte) {
@@ -165,10 +152,10 @@ TEST_F(CustomTeamsTest, RanksTeams) {
   CustomBalls balls(layout);
   const int scores[] = {5, 0, 4, 5, 6};  // on hole 18; the second team has not played
   balls.XBallInitializeTeamGrid(5);
-  for (int team = 1; team <= 5; ++team) {
-    if (scores[team - 1] == 0) continue;
+  for (int t = 1; t <= 5; ++t) {
+    if (scores[t - 1] == 0) continue;
     for (const BallTable table : {BallTable::kGross, BallTable::kGrossPoints}) {
-      balls.Team(team).At(table, 1, HoleColumn(18)).value = scores[team - 1];
+      balls.Team(t).At(table, 1, HoleColumn(18)).value = scores[t - 1];
     }
   }
   balls.PopulateTeamGridwithManualData(5, BallTable::kGross, {std::vector<int>(120, 3)});
@@ -181,7 +168,7 @@ TEST_F(CustomTeamsTest, RanksTeams) {
   const auto places = [&](const RankingOrder& order, int option, int block) {
     balls.XBallSortTeamStandings(state, order, option, {"B", "A", "A", "A", "B"});
     std::string all;
-    for (int team = 1; team <= 5; ++team) all += std::to_string(balls.position(team, 4, block));
+    for (int t = 1; t <= 5; ++t) all += std::to_string(balls.position(t, 4, block));
     return all;
   };
   EXPECT_EQ(places({}, 1, 1), "34231");

@@ -16,10 +16,9 @@ std::string Missing(TestInstall& install, const std::string& name) {
 
 // Opens the menu, presses a button and leaves by Close.
 Events PressOnMenu(TestInstall& install, const std::string& button) {
-  install.host->drive = [&](Screen& screen) {
+  install.Open("TransferMenu", [&](Screen& screen) {
     if (screen.name() == "TransferMenu") install.host->Press(screen, button);
-  };
-  OpenScreen(install.state(), *install.host, "TransferMenu", "");
+  });
   return install.events();
 }
 

@@ -53,7 +53,9 @@ TEST_F(EntriesTest, AnEntryBringsItsGolfer) {
   EXPECT_TRUE(player.GetRecord(1, true));
   EXPECT_EQ(player.NameLast(), "Last11");
   EXPECT_EQ(player.RecordNumber(), "011");
-  for (const int record : {0, -1}) EXPECT_FALSE(player.GetRecord(record, true));
+  for (const int record : {0, -1}) {
+    for (const bool entry : {true, false}) EXPECT_FALSE(player.GetRecord(record, entry));
+  }
   EXPECT_EQ(player.TourRosterRecordPointer(), 11);
   for (const auto& [record, held] : {std::pair{2, "000"}, {3, "-004"}}) {
     EXPECT_TRUE(player.GetRecord(record, true));

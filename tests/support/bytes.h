@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
+#include <utility>
 
 #include "core/little_endian.h"
 
@@ -23,14 +25,60 @@ inline void Put16(std::string& bytes, std::size_t at, std::initializer_list<int>
   }
 }
 
+// Puts 16-bit numbers here and there.
+inline void PutCells(std::string& bytes,
+                     std::initializer_list<std::pair<std::size_t, int>> offsets_and_values) {
+  for (const auto& [at, value] : offsets_and_values) Put16(bytes, at, {value});
+}
+
 // Puts a text, with blanks up to its width.
 inline void PutText(std::string& bytes, std::size_t at, std::size_t width,
                     const std::string& text = "") {
   bytes.replace(at, width, width, ' ').replace(at, text.size(), text);
 }
 
+// A record of a file, from 1; zeros where the file ends.
+inline std::string RecordAt(const std::string& file, std::size_t record, std::size_t length) {
+  std::string bytes = file.substr(std::min((record - 1) * length, file.size()), length);
+  bytes.resize(length, '\0');
+  return bytes;
+}
+// Puts a record there, with zeros up to it where the file ended.
+inline void PutRecord(std::string& file, std::size_t record, const std::string& bytes) {
+  file.resize(std::max(file.size(), record * bytes.size()), '\0');
+  file.replace((record - 1) * bytes.size(), bytes.size(), bytes);
+}
+
+// The file of an index: 16-bit numbers.
+inline std::string Index(std::initializer_list<int> numbers) {
+  std::string bytes(2 * numbers.size(), '\0');
+  Put16(bytes, 0, numbers);
+  return bytes;
+}
+
 inline int Int16At(const std::string& bytes, std::size_t at) {
   return LoadLittleEndian<std::int16_t>(bytes.data() + at);
+}
+
+inline std::int32_t Int32At(const std::string& bytes, std::size_t at) {
+  return LoadLittleEndian<std::int32_t>(bytes.data() + at);
+}
+inline float SingleAt(const std::string& bytes, std::size_t at) {
+  return LoadLittleEndian<float>(bytes.data() + at);
+}
+
+// A golfer's record of Quenby as it is made.
+inline std::string BlankGolfer(double now) {
+  std::string bytes(1867, '\0');
+  PutText(bytes, 16, 27);
+  PutText(bytes, 44, 381);
+  bytes[424] = 'A';
+  PutText(bytes, 429, 12);
+  PutText(bytes, 449, 150);
+  Put(bytes, 599, {now, now});
+  Put(bytes, 655, {now});
+  PutText(bytes, 671, 1196);
+  return bytes;
 }
 
 // Bytes of which neighbours differ, none of them 0 or a blank.

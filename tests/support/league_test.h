@@ -33,24 +33,18 @@ inline std::string LeaguePlayer(int id, const std::string& first, const std::str
   return bytes;
 }
 
-inline std::string RecordAt(const std::string& file, std::size_t record, std::size_t length) {
-  return file.substr((record - 1) * length, length);
-}
-
 // The operator's way from the menu: what the screen's log says after its run, whether or not that
 // ended with an error.
 template <class AnyScreen>
 std::string TransferFromMenu(TestInstall& install, const char* button) {
   std::string log;
-  install.host->drive = [&](Screen& screen) {
-    if (screen.name() == "TransferMenu") return install.host->Press(screen, button);
-    install.host->Press(screen, "TransferButton");
-    log = dynamic_cast<AnyScreen&>(screen).Message.text();
-  };
-  try {
-    OpenScreen(install.state(), *install.host, "TransferMenu", "");
-  } catch (const ClickEnded&) {
-  }
+  ClickErrorOf([&] {
+    install.Open("TransferMenu", [&](Screen& screen) {
+      if (screen.name() == "TransferMenu") return install.host->Press(screen, button);
+      install.host->Press(screen, "TransferButton");
+      log = dynamic_cast<AnyScreen&>(screen).Message.text();
+    });
+  });
   return log;
 }
 

@@ -1,5 +1,9 @@
 #include "support/test_host.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
 namespace golf {
 
 void RecordingListener::OnMessage(const Box& box, BoxButton answer) {
@@ -41,6 +45,27 @@ void TestInstall::Restart() {
   host = std::make_unique<HeadlessHost>(state(), Application::Screens(), listener);
   host->clock = [] { return DateFromCivil({2024, 5, 13}); };
   listener.events.clear();
+}
+
+void TestInstall::Open(const char* screen, std::function<void(Screen&)> drive, const char* word) {
+  host->drive = std::move(drive);
+  host->Operate([&] { OpenScreen(state(), *host, screen, word); });
+}
+
+std::string TestInstall::LastMessage() const {
+  const auto& events = listener.events;
+  const auto message = std::find_if(events.rbegin(), events.rend(),
+                                    [](const auto& e) { return e.starts_with("message"); });
+  return message == events.rend() ? "" : *message;
+}
+
+void ForEachFault(const std::function<bool(int)>& run) {
+  constexpr int kMost = 500;  // a run has fewer calls
+  for (int nth = 1; nth < kMost; ++nth) {
+    SCOPED_TRACE(nth);
+    if (!run(nth)) return;
+  }
+  ADD_FAILURE() << "the faults do not end";
 }
 
 }  // namespace golf

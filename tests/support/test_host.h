@@ -1,11 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/application.h"
 #include "forms/headless_host.h"
+#include "support/error_of.h"
 #include "support/failing_platform.h"
 #include "support/temp_folder.h"
 
@@ -42,6 +45,10 @@ class TestInstall {
 
   // Starts the program anew on the same folder.
   void Restart();
+  // Opens a screen. `drive` works each one that comes up, until none is left.
+  void Open(const char* screen, std::function<void(Screen&)> drive, const char* word = "");
+  // The last box that was answered; empty with none.
+  std::string LastMessage() const;
 
   SharedState& state() { return application->state(); }
   std::vector<std::string>& events() { return listener.events; }
@@ -55,5 +62,31 @@ class TestInstall {
  private:
   std::unique_ptr<Platform> real_;
 };
+
+// The number of the error that ends a click of `action`; 0 if none does.
+template <class Action>
+int ClickErrorOf(Action&& action) {
+  return ErrorOf([&] {
+    try {
+      action();
+    } catch (const ClickEnded& ended) {
+      throw ended.error;
+    }
+  });
+}
+
+// Lets each call to the system fail in a run of its own: `run(n)` asks for the fault of the n-th,
+// and says whether it has come.
+void ForEachFault(const std::function<bool(int)>& run);
+
+// The operator's choice from a list of rosters; false on any other screen.
+template <class Picker>
+bool PickRoster(HeadlessHost& host, Screen& screen, int row) {
+  auto* picker = dynamic_cast<Picker*>(&screen);
+  if (picker == nullptr) return false;
+  picker->grid1.SetActiveRow(row);
+  host.Press(screen, "LoadButton");
+  return true;
+}
 
 }  // namespace golf
