@@ -279,21 +279,18 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
 }
 
 TEST_F(QbToKvTest, Refusals) {
-  const struct {
-    Setting setting;
-    std::string message;
-  } kCases[] = {
+  const std::pair<Setting, std::string> kCases[] = {
       {{.holes = 9}, "message [Continue] Transfers 9 hole scores to an 18 hole roster? -> No"},
       {{.roster_holes = 9},
        "message [Can not contine] You have selected an 9 hole Handicap Roster for a 18 hole "
        "tournament. -> OK"},
   };
-  for (const auto& c : kCases) {
-    Prepare(c.setting, {{11}});
+  for (const auto& [setting, message] : kCases) {
+    Prepare(setting, {{11}});
     install.host->QueueAnswer("Continue", "No");
-    Run(c.setting);
+    Run(setting);
     ExpectFiles({});
-    EXPECT_EQ(install.LastMessage(), c.message);
+    EXPECT_EQ(install.LastMessage(), message);
   }
 }
 
