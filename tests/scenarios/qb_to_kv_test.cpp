@@ -182,7 +182,7 @@ class QbToKvTest : public testing::Test {
   void Post(std::size_t place, const std::string& bytes) {
     std::string history = bytes + history_before.substr((place - 1) * kHistory, kHistory - kScore);
     history_before.replace((place - 1) * kHistory, kHistory, history);
-    for (const std::size_t counter : {0, 1, 3}) {
+    for (const std::size_t counter : {0u, 1u, 3u}) {
       const std::size_t at = (place - 1) * kGolfer + kCounters + 2 * counter;
       Put16(roster_before, at, {Int16At(roster_before, at) + 1});
     }
