@@ -74,8 +74,8 @@ TEST(Record, IsReadWithoutKnowingItsLayout) {
 TEST(Record, AnIndexOutsideItsBoundsIsError9) {
   Record<Sample> record;
   for (const auto& [i, j] : {std::pair{0, 0}, {3, 0}, {1, -1}, {1, 3}}) {
-    EXPECT_EQ(ErrorOf([&] { record.Get<"Columns">(i, j); }), 9) << i << "," << j;
-    EXPECT_EQ(ErrorOf([&] { record.Set<"Rows">({i, j}, 1); }), 9) << i << "," << j;
+    EXPECT_EQ(ErrorOf([&, i = i, j = j] { record.Get<"Columns">(i, j); }), 9) << i << "," << j;
+    EXPECT_EQ(ErrorOf([&, i = i, j = j] { record.Set<"Rows">({i, j}, 1); }), 9) << i << "," << j;
   }
   EXPECT_EQ(ErrorOf([&] { record.Set<"Rows">({1}, 1); }), 9);
   EXPECT_EQ(ErrorOf([&] { record.Set<"Lines">({1}, ""); }), 9);

@@ -76,14 +76,6 @@ struct PlainHole {
     if (Both(1, false) < gross_first || selection == "N") return;
     Both(0, false);
   }
-
-  TeamBalls::Sum Sum(int table) const {
-    TeamBalls::Sum sum;
-    for (std::size_t i = 0; i < cards.size(); ++i) {
-      if (selected[table][i + 1]) sum = sum.value_or(0) + cards[i].values[table];
-    }
-    return sum;
-  }
 };
 
 std::string AnyCode(const std::vector<LayoutChoice>& choices) {
@@ -123,13 +115,16 @@ RC_GTEST_PROP(CustomBalls, CountTheSameBallsAsTheirSteps, ()) {
   plain.Work(layout.BallSelectionOption, layout.BallSelection);
   const int total = SumColumn((hole - 1) / 18 + 1, 3);
   for (int table = 0; table < 4; ++table) {
-    RC_ASSERT(engine.Team(2).SumAt(kBallTables[table], column) == plain.Sum(table));
-    RC_ASSERT(engine.Team(2).SumAt(kBallTables[table], total) == plain.Sum(table));
-    RC_ASSERT(!engine.Team(1).SumAt(kBallTables[table], column));
+    TeamBalls::Sum sum;
     for (int golfer = 1; golfer <= golfers; ++golfer) {
+      const Card& card = plain.cards[static_cast<std::size_t>(golfer) - 1];
+      if (plain.selected[table][golfer]) sum = sum.value_or(0) + card.values[table];
       RC_ASSERT(engine.Team(2).At(kBallTables[table], golfer, column).selected ==
                 plain.selected[table][golfer]);
     }
+    RC_ASSERT(engine.Team(2).SumAt(kBallTables[table], column) == sum);
+    RC_ASSERT(engine.Team(2).SumAt(kBallTables[table], total) == sum);
+    RC_ASSERT(!engine.Team(1).SumAt(kBallTables[table], column));
   }
 }
 

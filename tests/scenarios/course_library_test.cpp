@@ -107,9 +107,7 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
   const std::string par =
       "message [You have entered an incorrect value.] Par must be between 1 and 6 -> OK\n";
   const struct {
-    const char* control;
-    const char* text;
-    const char* shown;
+    const char *control, *text, *shown;
     std::string told;  // nothing: the tee is taken
     bool required = false;
   } kCases[] = {

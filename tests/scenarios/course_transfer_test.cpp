@@ -108,9 +108,7 @@ void ExpectOutcome(const TestInstall& install, const Outcome& outcome) {
 
 struct Library {
   const char* what;
-  std::string kelvane;
-  std::string quenby;
-  std::string index18;
+  std::string kelvane, quenby, index18;
 };
 
 std::vector<Library> Libraries() {

@@ -22,9 +22,7 @@ std::string Golfer(int status, int id, const std::string& last, float handicap, 
 
 struct Case {
   const char* what;
-  std::string golfers;
-  std::string players;
-  std::string substitutes;
+  std::string golfers, players, substitutes;
   int last_substitute = 8;
   std::string percent = "80";
   int used_percent = 80;

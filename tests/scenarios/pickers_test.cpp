@@ -137,10 +137,7 @@ TEST_F(PickersTest, QuenbyRostersAreKept) {
 
 // The two ticks, both rosters, the third tick, and the first two cells of the grid.
 TEST_F(PickersTest, DamagedSettingsAreSurvived) {
-  const struct {
-    const char* file;
-    const char* shown;
-  } kCases[] = {
+  const std::pair<const char*, const char*> kCases[] = {
       {"", "00|0 00"},
       {"1\r\n0\r\n\"to\"\r\n\"from\"\r\n1\r\n\"1\"\r\n\"0\"\r\n", "10to|from1 10"},
       {"1\n1\n\"to\"", "11to|0 00"},
@@ -148,16 +145,16 @@ TEST_F(PickersTest, DamagedSettingsAreSurvived) {
       {"\"1\"\r\n1\r\nbare\r\n\r\n99999999999999\r\n1\r\n\"1", "01|0 00"},
       {"1\r\n\"no end", "10|0 00"},
   };
-  for (const auto& c : kCases) {
-    install.folder.Write("qbdata/KVtoQB.DAT", c.file);
+  for (const auto& [file, shown] : kCases) {
+    install.folder.Write("qbdata/KVtoQB.DAT", file);
     install.Restart();
-    With<KVtoQB>("KVtoQB", [&](KVtoQB& screen) {
+    With<KVtoQB>("KVtoQB", [&, shown = shown](KVtoQB& screen) {
       const auto tick = [](bool on) { return std::string(on ? "1" : "0"); };
       EXPECT_EQ(tick(screen.Convert9Hcpto18Hcp.value()) + tick(screen.Convert18Hcpto9Hcp.value()) +
                     screen.TournamentRoster.text() + "|" + screen.HandicapRoster.text() +
                     tick(screen.MarkedtoPrint.value()) + " " + screen.grid1.text(2, 2) +
                     screen.grid1.text(2, 3),
-                c.shown);
+                shown);
     });
   }
 }

@@ -182,7 +182,7 @@ class QbToKvTest : public testing::Test {
   void Post(std::size_t place, const std::string& bytes) {
     std::string history = bytes + history_before.substr((place - 1) * kHistory, kHistory - kScore);
     history_before.replace((place - 1) * kHistory, kHistory, history);
-    for (const std::size_t counter : {0, 1, 3}) {
+    for (const std::size_t counter : {0u, 1u, 3u}) {
       const std::size_t at = (place - 1) * kGolfer + kCounters + 2 * counter;
       Put16(roster_before, at, {Int16At(roster_before, at) + 1});
     }
@@ -279,21 +279,18 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
 }
 
 TEST_F(QbToKvTest, Refusals) {
-  const struct {
-    Setting setting;
-    std::string message;
-  } kCases[] = {
+  const std::pair<Setting, std::string> kCases[] = {
       {{.holes = 9}, "message [Continue] Transfers 9 hole scores to an 18 hole roster? -> No"},
       {{.roster_holes = 9},
        "message [Can not contine] You have selected an 9 hole Handicap Roster for a 18 hole "
        "tournament. -> OK"},
   };
-  for (const auto& c : kCases) {
-    Prepare(c.setting, {{11}});
+  for (const auto& [setting, message] : kCases) {
+    Prepare(setting, {{11}});
     install.host->QueueAnswer("Continue", "No");
-    Run(c.setting);
+    Run(setting);
     ExpectFiles({});
-    EXPECT_EQ(install.LastMessage(), c.message);
+    EXPECT_EQ(install.LastMessage(), message);
   }
 }
 

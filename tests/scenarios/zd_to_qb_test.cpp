@@ -43,8 +43,7 @@ int NextID(std::vector<int> ids) {
 struct Case {
   const char* what;
   std::string golfers;  // from record 10 on
-  std::string players;
-  std::string substitutes;
+  std::string players, substitutes;
   int last_substitute = 7;
   int factor = 3;
   std::string roster = "Club" + std::string(25, ' ') + "007";

@@ -66,9 +66,7 @@ TEST_F(CustomTeamsTest, NamesAndTextsThatAreRefused) {
     WriteReportLayout(state.files, state.QBDataPath + name + ".TR", layout);
   }
   const struct {
-    const char* name;
-    const char* description;
-    const char* told;
+    const char *name, *description, *told;
   } kCases[] = {{" ", "", "You did not enter a name"},
                 {"(system)", "", "permanent system report"},
                 {"a/b", "", "cannot hold any of"},

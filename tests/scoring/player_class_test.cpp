@@ -29,11 +29,8 @@ class PlayerClassTest : public testing::Test {
 
 TEST_F(PlayerClassTest, HandicapsOutOfTheOrdinary) {
   const struct {
-    float handicap;
-    float adjustment;
-    const char* gross;
-    const char* plus_form;
-    const char* value_form;
+    float handicap, adjustment;
+    const char *gross, *plus_form, *value_form;
     int strokes;
   } kCases[] = {
       {12.49999F, 0, "13", "13", "13", 13},

@@ -58,8 +58,7 @@ TEST_F(TeamClassTest, BestBallsOfAHole) {
   const struct {
     std::vector<Golfer> golfers;
     int balls;
-    const char* gross;
-    const char* net;
+    const char *gross, *net;
     const char* points;  // gross
     const char* pair;
   } kCases[] = {
@@ -96,8 +95,7 @@ TEST_F(TeamClassTest, SumsAndHandicaps) {
   const struct {
     int option;
     bool decimals;
-    const char* handicap;
-    const char* quota;
+    const char *handicap, *quota;
   } kCases[] = {{1, true, "12.50", "47.00"}, {2, true, "6.25", "47.00"}, {3, false, "13", "47"}};
   for (const auto& c : kCases) {
     scored.control.Set<"TeamHandicapOption">(static_cast<std::int16_t>(c.option));

@@ -50,21 +50,18 @@ TEST(TransferMenuTest, ChecksBothFoldersBeforeATransferOpens) {
 }
 
 TEST(TransferMenuTest, CloseStartsTheCaller) {
-  const struct {
-    const char* word;
-    Events expected;
-  } kCases[] = {{"ZD", {"start ZD.EXE|", "end"}},
-                {"QB", {"start QB.EXE|", "end"}},
-                {"KV", {"start KVM.EXE|", "end"}},
-                {"zd", {"end"}},
-                {"ZD ", {"end"}},
-                {"", {"end"}}};
-  for (const auto& c : kCases) {
+  const std::pair<const char*, Events> kCases[] = {{"ZD", {"start ZD.EXE|", "end"}},
+                                                   {"QB", {"start QB.EXE|", "end"}},
+                                                   {"KV", {"start KVM.EXE|", "end"}},
+                                                   {"zd", {"end"}},
+                                                   {"ZD ", {"end"}},
+                                                   {"", {"end"}}};
+  for (const auto& [word, events] : kCases) {
     TestInstall install;
-    install.state().CommandLine = c.word;
-    Events expected = c.expected;
+    install.state().CommandLine = word;
+    Events expected = events;
     expected.insert(expected.begin(), "open TransferMenu");
-    EXPECT_EQ(PressOnMenu(install, "ExitButton"), expected) << c.word;
+    EXPECT_EQ(PressOnMenu(install, "ExitButton"), expected) << word;
   }
 }
 

@@ -31,18 +31,13 @@ class CourseTest : public testing::Test {
 TEST_F(CourseTest, CoursesWithoutARecord) {
   OpenQuenby();
   Append("Any", 18);
-  const struct {
-    int number;
-    const char* name;
-    int holes;
-  } kCases[] = {{0, "(Away course)", 18},
-                {-1, "(Away course)", 9},
-                {-2, "**Invalid Course**", 18},
-                {2, "**Invalid Course**", 18}};
-  for (const auto& c : kCases) {
-    course().GetRecord(c.number);
-    EXPECT_EQ(course().Name(), c.name) << c.number;
-    EXPECT_EQ(course().HoleNumFlag(), c.holes) << c.number;
+  for (const auto& [number, name, holes] : {std::tuple{0, "(Away course)", 18},
+                                            {-1, "(Away course)", 9},
+                                            {-2, "**Invalid Course**", 18},
+                                            {2, "**Invalid Course**", 18}}) {
+    course().GetRecord(number);
+    EXPECT_EQ(course().Name(), name) << number;
+    EXPECT_EQ(course().HoleNumFlag(), holes) << number;
     EXPECT_EQ(course().CurrentRecord(), 0);
     EXPECT_EQ(course().activeflag(), 0);
     ASSERT_EQ(course().TeeNumberofTees(), 1);
@@ -141,17 +136,15 @@ TEST_F(CourseTest, StrayIndexesShowWhatTheyCan) {
   OpenQuenby();
   Append("One", 18);
   Append("Two", 18);
-  const struct {
-    std::string index;
-    std::vector<std::string> entries;
-  } kCases[] = {{"", {}},
-                {"\x05", {}},
-                {Index({-3, 1}), {}},
-                {Index({9, 2, 1}), {"Two 2", "One 1"}},
-                {Index({1, 2, 1}), {"Two 2"}},
-                {Index({3, 7, -1, 2}), {" 7", " 0", "Two 2"}}};
-  for (const auto& c : kCases) {
-    install.folder.Write("qbdata/18CRSQB.INX", c.index);
+  const std::pair<std::string, std::vector<std::string>> kCases[] = {
+      {"", {}},
+      {"\x05", {}},
+      {Index({-3, 1}), {}},
+      {Index({9, 2, 1}), {"Two 2", "One 1"}},
+      {Index({1, 2, 1}), {"Two 2"}},
+      {Index({3, 7, -1, 2}), {" 7", " 0", "Two 2"}}};
+  for (const auto& [index, expected] : kCases) {
+    install.folder.Write("qbdata/18CRSQB.INX", index);
     install.state().files.Synchronize();
     course().UpdateAllCourseLists();
     std::vector<std::string> entries;
@@ -161,7 +154,7 @@ TEST_F(CourseTest, StrayIndexesShowWhatTheyCan) {
       entries.push_back(std::string(TrimRight(entry.substr(0, 75))) + " " +
                         std::to_string(std::stoi(entry.substr(75))));
     }
-    EXPECT_EQ(entries, c.entries);
+    EXPECT_EQ(entries, expected);
   }
 }
 

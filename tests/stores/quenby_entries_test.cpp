@@ -162,30 +162,26 @@ TEST_F(EntriesTest, GettersMend) {
   Write("QBGOLFER.Q9D", golfers);
   tournament.SetNumTeesMenPlay(2);
   tournament.SetNumTeesLadiesPlay(4);
-  const struct {
-    int golfer, stored, read;
-  } groups[] = {{1, 0, 1}, {1, 2, 2}, {1, 3, 1}, {3, 4, 4}, {3, 5, 1}, {3, -1, 1}};
-  for (const auto& row : groups) {
-    std::string entry = Entry(row.golfer);
-    Put16(entry, 161, {row.stored});
+  const std::array<int, 3> groups[] = {{1, 0, 1}, {1, 2, 2}, {1, 3, 1},
+                                       {3, 4, 4}, {3, 5, 1}, {3, -1, 1}};
+  for (const auto& [golfer, stored, read] : groups) {
+    std::string entry = Entry(golfer);
+    Put16(entry, 161, {stored});
     Load(entry);
-    EXPECT_EQ(player.TourGroupTee(7), row.read) << row.golfer << ": " << row.stored;
-    Put16(entry, 161, {row.read});
-    EXPECT_EQ(Saved(), entry) << row.golfer << ": " << row.stored;
+    EXPECT_EQ(player.TourGroupTee(7), read) << golfer << ": " << stored;
+    Put16(entry, 161, {read});
+    EXPECT_EQ(Saved(), entry) << golfer << ": " << stored;
   }
-  const struct {
-    int flights;
-    char stored;
-    const char* read;
-  } flights[] = {{3, '@', "A"},  {3, 'C', "C"},  {3, 'D', "A"},
-                 {26, 'Z', "Z"}, {99, '[', "A"}, {26, '\xC4', "A"}};
-  for (const auto& row : flights) {
+  const std::tuple<int, char, const char*> flights[] = {{3, '@', "A"},  {3, 'C', "C"},
+                                                        {3, 'D', "A"},  {26, 'Z', "Z"},
+                                                        {99, '[', "A"}, {26, '\xC4', "A"}};
+  for (const auto& [count, stored, read] : flights) {
     std::string entry = Entry(1);
-    entry[142] = row.stored;
+    entry[142] = stored;
     Load(entry);
-    tournament.SetNumFlights(row.flights);
-    EXPECT_EQ(player.TourFlight(), row.read) << row.stored;
-    EXPECT_EQ(Saved().substr(142, 1), row.read) << row.stored;
+    tournament.SetNumFlights(count);
+    EXPECT_EQ(player.TourFlight(), read) << stored;
+    EXPECT_EQ(Saved().substr(142, 1), read) << stored;
   }
 }
 
