@@ -23,7 +23,7 @@ class SampleTeams {
   void HeadColumns();
   // Those of golfers whom a team of the layout does not have.
   void HideColumns();
-  // The scores made up from here on follow from the seed alone.
+  // The same seed makes up the same scores.
   void SetSeed(std::uint32_t seed) { random_ = seed; }
   // Makes up other scores and works them out.
   void Generate();
