@@ -161,7 +161,7 @@ int main(int argc, char** argv) {
   const std::string word = argc == 3 ? argv[1] : "";
   if (word == "--to-zandel") return BareToZandel(argv[2]), 0;
   if (word == "--to-quenby") return BareToQuenby(argv[2]), 0;
-  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 15, 5);
+  const int rounds = RoundsAsked(argc, argv, 15);
   const ScratchFolder scratch("bench-league-golfers");
   const auto pristine = scratch.path() / "pristine";
   MakeInstall(pristine);

@@ -71,7 +71,7 @@ std::vector<Measured> MeasureResults(const ScratchFolder& scratch, int players, 
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
+  const int rounds = RoundsAsked(argc, argv);
   const ScratchFolder scratch("bench-player-results");
   const auto small = MeasureResults(scratch, 2000, rounds);
   const auto large = MeasureResults(scratch, 8000, rounds);

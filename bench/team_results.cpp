@@ -94,7 +94,7 @@ void MeasureBestBalls(const fs::path& install, int rounds) {
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
+  const int rounds = RoundsAsked(argc, argv);
   const ScratchFolder scratch("bench-team-results");
   const auto few = MeasureResults(scratch, 50, rounds);
   const auto many = MeasureResults(scratch, kManyTeams, rounds);

@@ -85,6 +85,10 @@ void Print(const std::string& title, const std::vector<Contender>& contenders,
   }
 }
 
+int RoundsAsked(int argc, char** argv, int if_none) {
+  return std::max(argc > 1 ? std::atoi(argv[1]) : if_none, 5);
+}
+
 std::vector<double> RaceBareLoop(int argc, char** argv, void (*bare_loop)(const fs::path&),
                                  const std::vector<BareLoopRace>& races) {
   std::vector<double> seconds;
@@ -92,7 +96,7 @@ std::vector<double> RaceBareLoop(int argc, char** argv, void (*bare_loop)(const 
     bare_loop(argv[2]);
     return seconds;
   }
-  const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 7, 5);
+  const int rounds = RoundsAsked(argc, argv);
   const ScratchFolder scratch("bench");
   const fs::path pristine = scratch.path() / "pristine";
   for (const BareLoopRace& race : races) {

@@ -30,6 +30,9 @@ std::vector<Measured> Race(const std::filesystem::path& pristine, const std::fil
 void Print(const std::string& title, const std::vector<Contender>& contenders,
            const std::vector<Measured>& medians, std::size_t base);
 
+// How many rounds a benchmark's argument asks for, 5 at least.
+int RoundsAsked(int argc, char** argv, int if_none = 7);
+
 // A command of the program beside the same work as a bare loop.
 struct BareLoopRace {
   std::string title;

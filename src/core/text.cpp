@@ -80,6 +80,10 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
   return a.size() == b.size() && CompareIgnoringCase(a, b) == 0;
 }
 
+bool FitsFileName(std::string_view text) {
+  return text.find_first_of("\\/:*?\"<>|\r\n") == std::string_view::npos;
+}
+
 bool IsBlankText(std::string_view text) { return CompareIgnoringCase(text, "!") < 0; }
 
 std::string FitText(std::string_view text, std::size_t width) {

@@ -24,6 +24,9 @@ int CompareIgnoringCase(std::string_view a, std::string_view b);
 
 // True where a text field holds nothing: it compares below "!".
 bool IsBlankText(std::string_view text);
+// Whether the name of a file may hold these characters, on every system that we know.
+bool FitsFileName(std::string_view text);
+inline constexpr const char* kNotInFileNames = "\\ / : * ? \" < > |";  // as people read it
 
 // `text` cut at `width` characters, or filled with blanks up to it.
 std::string FitText(std::string_view text, std::size_t width);

@@ -63,6 +63,14 @@ bool IsConsidered(const ReportLayout& layout, int hole, Kind kind, int golfer) {
   return false;
 }
 
+BallMark MarkOf(const ReportLayout& layout, int hole, int golfer) {
+  const bool gross = IsConsidered(layout, hole, Kind::kGross, golfer);
+  const bool net = IsConsidered(layout, hole, Kind::kNet, golfer);
+  if (gross && net) return BallMark::kEither;
+  if (gross || net) return gross ? BallMark::kGross : BallMark::kNet;
+  return BallMark::kNone;
+}
+
 void ClearMarks(TeamBalls& team, bool points) {
   for (const Kind kind : kGrossFirst) {
     for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
@@ -210,22 +218,20 @@ void CustomBalls::PopulateTeamGridwithManualData(int team, BallTable table,
 }
 
 void CustomBalls::XBallConsiderWhichScores(bool points, const HoleSpan& holes) {
-  for (TeamBalls& team : teams_) {
-    ClearMarks(team, points);
-    ForEachHole(holes, [&](int hole) { MarkHole(team, points, hole); });
-  }
+  for (TeamBalls& team : teams_) ClearMarks(team, points);
+  ForEachHole(holes, [&](int hole) {
+    for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
+      MarkBalls(points, hole, golfer, MarkOf(layout_, hole, golfer));
+    }
+  });
 }
 
-void CustomBalls::MarkHole(TeamBalls& team, bool points, int hole) const {
-  for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
-    const bool gross = IsConsidered(layout_, hole, Kind::kGross, golfer);
-    const bool net = IsConsidered(layout_, hole, Kind::kNet, golfer);
-    const BallMark mark = gross && net ? BallMark::kEither
-                          : gross      ? BallMark::kGross
-                          : net        ? BallMark::kNet
-                                       : BallMark::kNone;
+// Those of a golfer's place in all teams.
+void CustomBalls::MarkBalls(bool points, int hole, int golfer, BallMark mark) {
+  const int column = HoleColumn(hole);
+  for (TeamBalls& team : teams_) {
     for (const Kind kind : kGrossFirst) {
-      Ball& ball = team.At(points ? PointsOf(kind) : ScoresOf(kind), golfer, HoleColumn(hole));
+      Ball& ball = team.At(points ? PointsOf(kind) : ScoresOf(kind), golfer, column);
       if (ball.value) ball.mark = mark;
     }
   }
@@ -327,7 +333,8 @@ std::array<std::string, 4> CustomBalls::TiebreakKeys(
   const int before = (round - 1) * kHoles + (round_type == kNine ? 0 : kNine);
   const auto score = [&](int hole) { return balls.Score(HoleColumn(before + hole)).value_or(0); };
   const std::int32_t total = balls.Score(SumColumn(round, 3)).value_or(0);
-  std::string last = FormatNumber(total, "0000");
+  constexpr std::string_view kTotal = "0000";
+  std::string last = FormatNumber(total, kTotal);
   constexpr std::pair<int, std::string_view> kLast[] = {
       {9, "000"}, {6, "000"}, {3, "00"}, {1, "00"}};
   for (const auto& [count, pattern] : kLast) {
@@ -341,9 +348,7 @@ std::array<std::string, 4> CustomBalls::TiebreakKeys(
     if (hole > first && hole <= first + kNine) by_strokes.push_back(hole - first);
   }
   const auto key = [&](const std::vector<int>& holes) {
-    std::string text = FormatNumber(total, "0000");
-    for (const int hole : holes) text += "," + FormatNumber(score(hole), "00");
-    return text;
+    return HoleByHoleKey(total, holes, score, kTotal);
   };
   return {last, key(by_strokes), key(HolesForward(kNine)), key(HolesBackward(kNine))};
 }

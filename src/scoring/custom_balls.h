@@ -64,7 +64,7 @@ class CustomBalls {
                                           const std::vector<int>& holes_by_strokes) const;
 
  private:
-  void MarkHole(TeamBalls& team, bool points, int hole) const;
+  void MarkBalls(bool points, int hole, int golfer, BallMark mark);
   void CountHole(TeamBalls& team, int hole) const;
   static void AddBlocks(TeamBalls& team);
   void FillStandings(Grid& grid, bool points, int column,

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <numeric>
 #include <span>
-#include <string_view>
 
 #include "core/number_text.h"
+#include "scoring/checked_sums.h"
 #include "scoring/round_results.h"
 
 namespace golf {
@@ -41,7 +41,7 @@ std::string LastHolesKey(int round_type, std::int32_t total, const ScoreOfHole& 
   const auto parts = round_type == 9 ? std::span<const LastHoles>(kOfNine) : kOfEighteen;
   for (const LastHoles& part : parts) {
     std::int32_t figure = 0;
-    for (int hole = part.first; hole <= part.last; ++hole) figure += score(hole);
+    for (int hole = part.first; hole <= part.last; ++hole) figure = AddWhole(figure, score(hole));
     if (handicap) figure = RoundToInt32(figure - (*handicap * part.share + kShareNudge));
     key += "," + FormatNumber(figure, part.pattern);
   }
@@ -49,8 +49,8 @@ std::string LastHolesKey(int round_type, std::int32_t total, const ScoreOfHole& 
 }
 
 std::string HoleByHoleKey(std::int32_t total, const std::vector<int>& holes,
-                          const ScoreOfHole& score) {
-  std::string key = FormatNumber(total, kThreeDigits);
+                          const ScoreOfHole& score, std::string_view total_pattern) {
+  std::string key = FormatNumber(total, total_pattern);
   for (const int hole : holes) key += "," + FormatNumber(score(hole), kTwoDigits);
   return key;
 }

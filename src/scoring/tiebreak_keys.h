@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace golf {
@@ -19,9 +20,9 @@ using ScoreOfHole = std::function<std::int32_t(int hole)>;
 std::string LastHolesKey(int round_type, std::int32_t total, const ScoreOfHole& score,
                          std::optional<float> handicap = {});
 
-// The total, then the scores of the holes in the order given.
+// The total in its pattern, then the scores of the holes in the order given.
 std::string HoleByHoleKey(std::int32_t total, const std::vector<int>& holes,
-                          const ScoreOfHole& score);
+                          const ScoreOfHole& score, std::string_view total_pattern = "000");
 
 // Holes 1 to `round_type`, and back.
 std::vector<int> HolesForward(int round_type);

@@ -376,8 +376,9 @@ bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
     return true;
   };
   if (name.empty()) return refuse("You did not enter a name for your Report.");
-  if (name.find_first_of("\\/:*?\"<>|\r\n") != std::string::npos) {
-    return refuse("A report name cannot hold any of the characters \\ / : * ? \" < > |");
+  if (!FitsFileName(name)) {
+    return refuse(std::string("A report name cannot hold any of the characters ") +
+                  kNotInFileNames);
   }
   const bool another = !EqualIgnoringCase(name, file_name_);
   if (!another || !state().files.FileExists(state().StoreDataPath + name + extension_ + "1")) {

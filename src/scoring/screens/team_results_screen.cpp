@@ -296,9 +296,10 @@ void TeamResults::SaveAsCsv() {
                           .text = "Name of the file, in the folder " + state().ProgramPath,
                           .default_answer = "Team results.csv"});
   if (name.empty()) return;
-  if (name.find_first_of("\\/:*?\"<>|") != std::string::npos) {
-    host().Ask(Box{.title = "Notice",
-                   .text = "A file name cannot hold any of the characters \\ / : * ? \" < > |"});
+  if (!FitsFileName(name)) {
+    host().Ask(Box{
+        .title = "Notice",
+        .text = std::string("A file name cannot hold any of the characters ") + kNotInFileNames});
     return;
   }
   constexpr std::string_view kEnding = ".csv";

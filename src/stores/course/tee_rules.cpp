@@ -71,6 +71,8 @@ HoleRange HolesPlayed(int hole_num_flag) {
   return {};
 }
 
+int HolesRated(int hole_num_flag) { return std::abs(hole_num_flag) == 9 ? 9 : kCourseHoles; }
+
 std::string RatingText(double value, std::string_view pattern) {
   const double taken = LeadingNumber(FormatNumber(value, "0.0000"));
   return FormatNumber(std::clamp(taken, 0.0, kHighestRating), pattern);
@@ -127,7 +129,7 @@ std::vector<TeeFault> HoleFaults(const HoleValues& pars, const HoleValues& handi
 std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee) {
   const Record<CourseLayout>& stored = course.Stored();
   const HoleRange holes = HolesPlayed(course.HoleNumFlag());
-  const int rated = std::abs(course.HoleNumFlag()) == 9 ? 9 : kCourseHoles;
+  const int rated = HolesRated(course.HoleNumFlag());
   std::vector<TeeFault> faults;
   const auto add = [&faults](std::optional<TeeFault> fault) {
     if (fault) faults.push_back(std::move(*fault));

@@ -30,6 +30,8 @@ struct HoleRange {
 };
 // By the HoleNumFlag of the course.
 HoleRange HolesPlayed(int hole_num_flag);
+// For how many holes a course is rated: 9 or 18.
+int HolesRated(int hole_num_flag);
 
 // What is entered for the 18 holes, hole 1 first.
 using HoleValues = std::array<double, kCourseHoles>;

@@ -198,15 +198,15 @@ void CourseTee::LeaveTeeName() {
   if (FTeeNameAbv.text().empty()) FTeeNameAbv.SetText(FTeeName.text().substr(0, 1));
 }
 
-HoleRange CourseTee::Range() const {
+int CourseTee::HoleNumFlag() const {
   const double holes = LeadingNumber(FHoles.caption());
-  return HolesPlayed(static_cast<int>(FHoles.caption() == "9B" ? -holes : holes));
+  return static_cast<int>(FHoles.caption() == "9B" ? -holes : holes);
 }
 
 std::vector<TeeFault> CourseTee::FaultsOfHoles() const {
   const CourseClass& course = state().Course();
-  return HoleFaults(ValuesOf(FPar), ValuesOf(FHandicap), Range(), course.RequirePars,
-                    course.RequireHoleHandicaps);
+  return HoleFaults(ValuesOf(FPar), ValuesOf(FHandicap), HolesPlayed(HoleNumFlag()),
+                    course.RequirePars, course.RequireHoleHandicaps);
 }
 
 std::vector<std::pair<Control*, TeeFault>> CourseTee::Faults() {
@@ -214,7 +214,7 @@ std::vector<std::pair<Control*, TeeFault>> CourseTee::Faults() {
   const auto add = [&faults](Control& control, std::optional<TeeFault> fault) {
     if (fault) faults.emplace_back(&control, std::move(*fault));
   };
-  const int holes = LeadingNumber(FHoles.caption()) == 9 ? 9 : kCourseHoles;
+  const int holes = HolesRated(HoleNumFlag());
   for (TextBox* box : std::initializer_list<TextBox*>{&FTeeName, &FTeeNameAbv}) {
     add(*box, NameFault(box->text(), box->text()));
   }
@@ -272,7 +272,7 @@ bool CourseTee::NameAccepted() {
 }
 
 bool CourseTee::RatingsAccepted() {
-  const int holes = LeadingNumber(FHoles.caption()) == 9 ? 9 : kCourseHoles;
+  const int holes = HolesRated(HoleNumFlag());
   if (FMensRating.RatingValid(holes, 0) && FLadiesRating.RatingValid(holes, 1)) return true;
   if (state().Course().RequireRatingandSlope) return false;
   const BoxButton answer = host().Ask(Box{.title = "Enter rating?",
@@ -296,7 +296,7 @@ bool CourseTee::HolesAccepted() {
 
 void CourseTee::ShowStrokeSequence() {
   std::size_t n = 0;
-  for (const int hole : StrokeSequence(ValuesOf(FHandicap), Range())) {
+  for (const int hole : StrokeSequence(ValuesOf(FHandicap), HolesPlayed(HoleNumFlag()))) {
     FSequence[n++].SetCaption(std::to_string(hole));
   }
 }

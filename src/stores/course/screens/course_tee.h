@@ -93,7 +93,7 @@ class CourseTee : public Screen {
   void ShowStrokeSequence();
   void CopyBackNineToFront();
   void Cancel();
-  HoleRange Range() const;
+  int HoleNumFlag() const;  // by FHoles
   std::vector<TeeFault> FaultsOfHoles() const;
 };
 
