@@ -57,6 +57,29 @@ void AddKindKeys(Json& event, const Control& control) {
   }
 }
 
+// The library escapes the control characters below U+0020 only. A terminal obeys U+007F to U+009F,
+// too. They stand within texts alone.
+std::string WithoutControls(const std::string& json) {
+  constexpr char kDelete = '\x7F';
+  constexpr char kLead = '\xC2';  // of U+0080 to U+00BF in UTF-8
+  std::string escaped;
+  escaped.reserve(json.size());
+  const auto escape = [&escaped](char last) {
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    const auto code = static_cast<unsigned char>(last);
+    escaped.append("\\u00").append(1, kDigits[code >> 4]).append(1, kDigits[code & 15]);
+  };
+  for (std::size_t i = 0; i < json.size(); ++i) {
+    const bool control = json[i] == kLead && static_cast<unsigned char>(json[i + 1]) < 0xA0;
+    if (control || json[i] == kDelete) {
+      escape(json[control ? ++i : i]);
+    } else {
+      escaped += json[i];
+    }
+  }
+  return escaped;
+}
+
 }  // namespace
 
 Json JsonSingle(float value) {
@@ -69,7 +92,8 @@ Json JsonSingle(float value) {
 }
 
 void WriteJsonLine(const Json& object) {
-  std::cout << object.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
+  std::cout << WithoutControls(object.dump(-1, ' ', false, Json::error_handler_t::replace))
+            << std::endl;
 }
 
 Json DescribeControl(const Screen& screen, const Control& control) {

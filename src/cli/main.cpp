@@ -1,3 +1,7 @@
 #include "cli/command_line.h"
+#include "core/platform.h"
 
-int main(int argc, char** argv) { return golf::RunCommandLine(argc, argv); }
+int main(int argc, char** argv) {
+  golf::TakeStandardStreams();
+  return golf::RunCommandLine(argc, argv);
+}

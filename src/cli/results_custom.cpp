@@ -8,6 +8,7 @@
 #include "cli/results_command.h"
 #include "cli/results_teams.h"
 #include "core/code_page.h"
+#include "core/file_name.h"
 #include "scoring/standings_table.h"
 #include "scoring/tournament_class.h"
 
@@ -27,6 +28,9 @@ ReportLayout ReadLayout(ResultsRun& run) {
   std::string problem;
   const std::string path =
       run.state.StoreDataPath + TextFromUtf8(run.request.layout) + std::string(kLayoutExtension);
+  if (!FitsFileName(TextFromUtf8(run.request.layout))) {
+    throw Refusal("There is no layout " + run.request.layout + ".\n" + LayoutsThereAre(run.state));
+  }
   if (!ReadReportLayout(run.state.files, path, layout, problem)) {
     throw Refusal(PlainText(problem) + "\n" + LayoutsThereAre(run.state));
   }

@@ -15,6 +15,7 @@ class EmptyFile : public PlatformFile {
   std::size_t ReadAt(std::int64_t, std::span<char>) override { return 0; }
   void WriteAt(ChangePass, std::int64_t, std::string_view, std::size_t&) override {}
   void Truncate(ChangePass, std::int64_t) override {}
+  void Close() override {}
   std::int64_t Length() override { return 0; }
   FileIdentity Identity() const override { return {}; }
 };
@@ -100,6 +101,7 @@ void ChangeGate::ReplaceText(const std::string& path, std::string_view text) {
   std::size_t written = 0;
   file->WriteAt(ChangePass(), 0, text, written);
   file->Truncate(ChangePass(), static_cast<std::int64_t>(text.size()));
+  file->Close();
 }
 
 void ChangeGate::Settle() {

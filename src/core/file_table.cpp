@@ -1,6 +1,7 @@
 #include "core/file_table.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 #include "core/number_text.h"
@@ -50,11 +51,21 @@ void FileTable::Close(int number) {
   const auto closing = std::move(file->second);
   files_.erase(file);
   gate_.Settle();
+  closing->Close();
 }
 
 void FileTable::CloseAll() {
   const auto closing = std::exchange(files_, {});
   gate_.Settle();
+  std::exception_ptr lost;
+  for (const auto& [number, file] : closing) {
+    try {
+      file->Close();
+    } catch (const NumberedError&) {
+      if (!lost) lost = std::current_exception();
+    }
+  }
+  if (lost) std::rethrow_exception(lost);
 }
 
 std::int64_t FileTable::Length(int number) { return At(number).Length(); }

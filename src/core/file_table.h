@@ -29,7 +29,8 @@ class FileTable {
   // created empty. A file that has this number is closed first.
   void Open(int number, const std::string& path, std::size_t record_length,
             FileAccess access = FileAccess::kReadWriteShared);
-  // A number that is not open is left alone.
+  // A number that is not open is left alone. Errors as those of a write, where writes may be lost;
+  // the files are closed all the same.
   void Close(int number);
   void CloseAll();
 

@@ -20,7 +20,8 @@ namespace golf {
 //
 // Every call fails with a NumberedError: 70 where another program holds the file, 61 disk full, 75
 // access refused, 76 no such folder, 53 no such file, 67 too many open files, 57 other faults of a
-// device.
+// device. Error 75 also where a path leads back up a folder (".."), and where a folder, a pipe or a
+// device stands in the place of a file: none of them is ever waited for.
 
 // Lets its holder change files. Only the ChangeGate can make one, so that no change of a file goes
 // past it.
@@ -55,6 +56,9 @@ class PlatformFile {
   virtual void Truncate(ChangePass pass, std::int64_t length) = 0;
   virtual std::int64_t Length() = 0;
   virtual FileIdentity Identity() const = 0;
+  // Ends the use of the file. An error tells that bytes written before may not have reached it; the
+  // file is closed all the same. A file that is destroyed open is closed in silence.
+  virtual void Close() = 0;
 };
 
 // Held while it lives. The system lets it go when the process ends in whatever way.
@@ -89,6 +93,12 @@ class Platform {
   virtual char Separator() const = 0;
   virtual RegionalForms Regional() const = 0;
 };
+
+// Puts something harmless into the place of each standard stream that the process was started
+// without, as some schedulers start programs. Otherwise the next file to be opened would take that
+// place, and what is printed would be written into it. Reading and writing such a stream fails as
+// before. A program calls this before anything else.
+void TakeStandardStreams();
 
 // The platform of this system over the install in `utf8_folder`, or, where that is empty, in the
 // folder of the running program. Error 76 if the folder is not there or is none.

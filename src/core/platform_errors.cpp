@@ -19,11 +19,13 @@ constexpr Meaning kMeanings[] = {
     {ErrorNumber::kPathAccess, "Access to %1 is refused."},
     {ErrorNumber::kPathAccess, "%1 lies on a disk that may only be read."},
     {ErrorNumber::kPathAccess, "%1 is a folder."},
+    {ErrorNumber::kPathAccess, "%1 is no file but a pipe or a device, or leads out of its folder."},
     {ErrorNumber::kPathAccess, "%1 is there already."},
     {ErrorNumber::kPathNotFound, "The folder of %1 is not there."},
     {ErrorNumber::kFileNotFound, "%1 is not there."},
     {ErrorNumber::kFileNotFound, "%1 is not there: its name is too long."},
     {ErrorNumber::kTooManyFiles, "Too many files are open: %1 could not be opened."},
+    {ErrorNumber::kDeviceFault, "%1 would have taken the place of a standard stream."},
 };
 
 }  // namespace

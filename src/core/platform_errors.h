@@ -15,11 +15,13 @@ enum class PlatformFault {
   kRefused,
   kReadOnlyDisk,
   kIsFolder,
+  kIsNoFile,
   kIsThere,
   kNoFolder,
   kNoFile,
   kNameTooLong,
   kTooManyFiles,
+  kIsStandardStream,
 };
 
 // The error of a fault with a file; `path` is text, as everywhere below.

@@ -12,6 +12,7 @@
 #include <cctype>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <optional>
 #include <utility>
@@ -57,6 +58,9 @@ constexpr ErrnoMeaning kMeanings[] = {
   throw DeviceFault(path, std::strerror(code));
 }
 
+// A pipe or a device that stands in the place of a file is not waited for.
+constexpr int kOpenFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
 class Descriptor {
  public:
   explicit Descriptor(int number) : number_(number) {}
@@ -67,6 +71,11 @@ class Descriptor {
     if (number_ >= 0) close(number_);
   }
   int get() const { return number_; }
+  // The number is free afterwards, whatever the system says; a signal is no failure.
+  void Close(const std::string& native) {
+    const int code = close(std::exchange(number_, -1)) == 0 ? 0 : errno;
+    if (code != 0 && code != EINTR) FailWith(code, native);
+  }
 
  private:
   int number_;
@@ -112,6 +121,8 @@ class PosixFile : public PlatformFile {
   std::int64_t Length() override { return Status().st_size; }
 
   FileIdentity Identity() const override { return identity_; }
+
+  void Close() override { descriptor_.Close(native_); }
 
  private:
   struct stat Status() const {
@@ -219,8 +230,9 @@ class PosixPlatform : public Platform {
 
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override {
     const std::string native = Resolve(path);
+    RefuseNoFile(native);
     Descriptor descriptor(OpenShared(native, access));
-    if (IsFolder(native)) FailWith(EISDIR, native);
+    CheckOpened(descriptor, native);
     if (flock(descriptor.get(), LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
       FailWith(errno, native);
     }
@@ -229,8 +241,10 @@ class PosixPlatform : public Platform {
 
   void Create(ChangePass, const std::string& path) override {
     const std::string native = Resolve(path);
-    const Descriptor made(open(native.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666));
+    Descriptor made(open(native.c_str(), O_WRONLY | O_CREAT | kOpenFlags, 0666));
     if (made.get() < 0) FailWith(errno, native);
+    CheckOpened(made, native);
+    made.Close(native);
   }
 
   void CreateFolder(ChangePass, const std::string& path) override {
@@ -308,13 +322,34 @@ class PosixPlatform : public Platform {
  private:
   static int OpenShared(const std::string& native, FileAccess access) {
     int number = -1;
-    if (access != FileAccess::kReadOnly) number = open(native.c_str(), O_RDWR | O_CLOEXEC);
+    if (access != FileAccess::kReadOnly) number = open(native.c_str(), O_RDWR | kOpenFlags);
     const bool refused = number < 0 && (errno == EACCES || errno == EROFS || errno == EPERM);
     if (access == FileAccess::kReadOnly || (access == FileAccess::kDefault && refused)) {
-      number = open(native.c_str(), O_RDONLY | O_CLOEXEC);
+      number = open(native.c_str(), O_RDONLY | kOpenFlags);
     }
     if (number < 0) FailWith(errno, native);
     return number;
+  }
+
+  // Opening a device may do something by itself.
+  static void RefuseNoFile(const std::string& native) {
+    struct stat status {};
+    if (stat(native.c_str(), &status) == 0) CheckMode(status.st_mode, native);
+  }
+
+  static void CheckMode(mode_t mode, const std::string& native) {
+    if (S_ISDIR(mode)) FailWith(EISDIR, native);
+    if (!S_ISREG(mode)) throw PlatformError(PlatformFault::kIsNoFile, TextFromUtf8(native));
+  }
+
+  // Something else may have come into the place of the file meanwhile.
+  static void CheckOpened(const Descriptor& descriptor, const std::string& native) {
+    if (descriptor.get() <= STDERR_FILENO) {
+      throw PlatformError(PlatformFault::kIsStandardStream, TextFromUtf8(native));
+    }
+    struct stat status {};
+    if (fstat(descriptor.get(), &status) != 0) FailWith(errno, native);
+    CheckMode(status.st_mode, native);
   }
 
   // The system's path for a text path: each name below the root as it is spelt on the disk, a name
@@ -326,6 +361,7 @@ class PosixPlatform : public Platform {
     while (!rest.empty()) {
       const std::size_t end = std::min(rest.find('/'), rest.size());
       const std::string_view name = rest.substr(0, end);
+      if (name == "..") throw PlatformError(PlatformFault::kIsNoFile, path);
       const auto found = FindEntry(native, name);
       const bool last = end == rest.size();
       if (!last && !(found && IsFolder(native + *found))) {
@@ -360,6 +396,16 @@ std::string Absolute(const std::string& native) {
 }
 
 }  // namespace
+
+// Each is opened the wrong way round, so that using it fails as using a closed one does. The system
+// gives the lowest number that is free.
+void TakeStandardStreams() {
+  for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (fcntl(number, F_GETFD) >= 0 || errno != EBADF) continue;
+    if (open("/dev/null", number == STDIN_FILENO ? O_WRONLY : O_RDONLY) != number)
+      _exit(EXIT_FAILURE);
+  }
+}
 
 std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
   std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is an error of the write, not the end

@@ -128,6 +128,11 @@ class Handle {
   }
   bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
   HANDLE get() const { return handle_; }
+  void Close(const std::wstring& native) {
+    if (!CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE))) {
+      FailWith(GetLastError(), native);
+    }
+  }
 
  private:
   HANDLE handle_;
@@ -136,6 +141,19 @@ class Handle {
 Handle OpenHandle(const std::wstring& native, DWORD access, DWORD sharing, DWORD disposition,
                   DWORD flags = FILE_ATTRIBUTE_NORMAL) {
   return Handle(CreateFileW(native.c_str(), access, sharing, nullptr, disposition, flags, nullptr));
+}
+
+constexpr DWORD kStandardStreams[] = {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE};
+
+void CheckOpened(const Handle& handle, const std::wstring& native) {
+  for (const DWORD stream : kStandardStreams) {
+    if (GetStdHandle(stream) == handle.get()) {
+      throw PlatformError(PlatformFault::kIsStandardStream, TextFromWide(Plain(native)));
+    }
+  }
+  if (GetFileType(handle.get()) != FILE_TYPE_DISK) {
+    throw PlatformError(PlatformFault::kIsNoFile, TextFromWide(Plain(native)));
+  }
 }
 
 class WindowsFile : public PlatformFile {
@@ -193,6 +211,8 @@ class WindowsFile : public PlatformFile {
   }
 
   FileIdentity Identity() const override { return identity_; }
+
+  void Close() override { handle_.Close(native_); }
 
  private:
   static OVERLAPPED Place(std::int64_t offset, std::size_t done) {
@@ -258,13 +278,16 @@ class WindowsPlatform : public Platform {
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override {
     std::wstring native = Resolve(path);
     Handle handle = OpenShared(native, access);
+    CheckOpened(handle, native);
     return std::make_unique<WindowsFile>(std::move(handle), std::move(native));
   }
 
   void Create(ChangePass, const std::string& path) override {
     const std::wstring native = Resolve(path);
-    const Handle made = OpenHandle(native, GENERIC_WRITE, kShared, OPEN_ALWAYS);
+    Handle made = OpenHandle(native, GENERIC_WRITE, kShared, OPEN_ALWAYS);
     if (!made.IsOpen()) FailWith(GetLastError(), native);
+    CheckOpened(made, native);
+    made.Close(native);
   }
 
   void CreateFolder(ChangePass, const std::string& path) override {
@@ -354,7 +377,18 @@ class WindowsPlatform : public Platform {
 
   std::wstring Resolve(const std::string& path) const {
     if (path.compare(0, root_.size(), root_) != 0) return Native(WideFromText(path));
-    return Native(native_root_ + WideFromText(std::string_view(path).substr(root_.size())));
+    const std::string_view rest = std::string_view(path).substr(root_.size());
+    if (LeadsUp(rest)) throw PlatformError(PlatformFault::kIsNoFile, path);
+    return Native(native_root_ + WideFromText(rest));
+  }
+
+  static bool LeadsUp(std::string_view path) {
+    while (true) {
+      const std::size_t end = path.find_first_of("\\/");
+      if (path.substr(0, end) == "..") return true;
+      if (end == std::string_view::npos) return false;
+      path.remove_prefix(end + 1);
+    }
   }
 
   std::wstring InFolder(const std::string& folder, std::wstring_view name) const {
@@ -385,6 +419,19 @@ std::wstring Absolute(const std::wstring& path) {
 }
 
 }  // namespace
+
+// A program with windows has no streams unless it was given some. The handles stay open as long as
+// the process lives.
+void TakeStandardStreams() {
+  for (const DWORD stream : kStandardStreams) {
+    const HANDLE handle = GetStdHandle(stream);
+    const bool usable = handle != nullptr && handle != INVALID_HANDLE_VALUE &&
+                        (GetFileType(handle) != FILE_TYPE_UNKNOWN || GetLastError() == NO_ERROR);
+    if (usable) continue;
+    const DWORD access = stream == STD_INPUT_HANDLE ? GENERIC_WRITE : GENERIC_READ;
+    SetStdHandle(stream, CreateFileW(L"NUL", access, kShared, nullptr, OPEN_EXISTING, 0, nullptr));
+  }
+}
 
 std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
   std::wstring folder =

@@ -62,15 +62,25 @@ void RecordFile::FillWindow(std::int64_t offset, std::size_t size) {
   window_held_ = 0;
   try {
     window_held_ = file_->ReadAt(offset, window_);
-  } catch (const NumberedError&) {
+  } catch (const NumberedError& error) {
     ForgetWindow();
-    throw;
+    throw ReadError(error);
   }
 }
 
 void RecordFile::Write(std::int64_t record, std::string_view bytes) {
   Check(record, bytes.size());
+  written_ = true;
   gate_.WriteRecord(*file_, path_, record, record_length_, bytes);
+}
+
+// Of a file that was only read nothing can be lost.
+void RecordFile::Close() {
+  try {
+    file_->Close();
+  } catch (const NumberedError&) {
+    if (written_) throw;
+  }
 }
 
 void RecordFile::ForgetWindow() {

@@ -24,11 +24,15 @@ class RecordFile {
   std::int64_t Length();
 
   // Reads the start of a record, as many bytes as `into` holds; zeros stand for what lies behind
-  // the end of the file. Error 63 for a record below 1, 59 if `into` is longer than a record.
+  // the end of the file. Error 63 for a record below 1, 59 if `into` is longer than a record;
+  // ReadError where the system does not give the bytes.
   void Read(std::int64_t record, std::span<char> into);
 
   // Writes the start of a record; behind the end the file grows. Errors as for Read.
   void Write(std::int64_t record, std::string_view bytes);
+
+  // Ends the use of the file. Raises an error where bytes that were written may be lost.
+  void Close();
 
   void ForgetWindow();
   // Changes whenever the window was forgotten: what was read under one generation is as fresh as
@@ -50,6 +54,7 @@ class RecordFile {
   std::int64_t next_offset_ = -1;  // where a read would follow the last one
   std::size_t ahead_ = 0;          // bytes to read at the next one that does
   std::uint64_t generation_ = 0;
+  bool written_ = false;
 };
 
 }  // namespace golf

@@ -53,6 +53,24 @@ unsigned char UpperCode(char c) {
   return static_cast<unsigned char>(kUpper[static_cast<unsigned char>(c)]);
 }
 
+// A sign and digits, with a point or a comma among them at most.
+bool IsSignedNumber(std::string_view text) {
+  text.remove_prefix(1);
+  const std::size_t point = std::min(text.find_first_of(".,"), text.size());
+  const auto are_digits = [](std::string_view part) {
+    return part.find_first_not_of("0123456789") == std::string_view::npos;
+  };
+  return are_digits(text.substr(0, point)) &&
+         are_digits(text.substr(std::min(point + 1, text.size()))) &&
+         text.find_first_of("0123456789") != std::string_view::npos;
+}
+
+bool LooksLikeFormula(std::string_view text) {
+  if (text.empty()) return false;
+  if (text[0] == '=' || text[0] == '@') return true;
+  return (text[0] == '+' || text[0] == '-') && !IsSignedNumber(text);
+}
+
 }  // namespace
 
 std::string UpperCase(std::string_view text) { return Mapped(text, kUpper); }
@@ -68,6 +86,11 @@ std::string_view Trim(std::string_view text) {
   return cut.empty() ? cut : cut.substr(cut.find_first_not_of(' '));
 }
 
+std::string FullName(std::string_view first, std::string_view last) {
+  const std::string name = std::string(Trim(first)) + ' ' + std::string(Trim(last));
+  return std::string(Trim(name));
+}
+
 int CompareIgnoringCase(std::string_view a, std::string_view b) {
   const std::size_t shared = std::min(a.size(), b.size());
   for (std::size_t i = 0; i < shared; ++i) {
@@ -78,10 +101,6 @@ int CompareIgnoringCase(std::string_view a, std::string_view b) {
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
   return a.size() == b.size() && CompareIgnoringCase(a, b) == 0;
-}
-
-bool FitsFileName(std::string_view text) {
-  return text.find_first_of("\\/:*?\"<>|\r\n") == std::string_view::npos;
 }
 
 bool IsBlankText(std::string_view text) { return CompareIgnoringCase(text, "!") < 0; }
@@ -132,7 +151,10 @@ std::string CsvValue(std::string_view text) {
 
 std::string CsvLine(const std::vector<std::string>& values) {
   std::string line;
-  for (std::size_t i = 0; i < values.size(); ++i) line += (i > 0 ? "," : "") + CsvValue(values[i]);
+  for (const std::string& value : values) {
+    if (&value != &values.front()) line += ',';
+    line += CsvValue(LooksLikeFormula(value) ? "'" + value : value);
+  }
   return line;
 }
 

@@ -17,6 +17,9 @@ std::string LowerCase(std::string_view text);
 std::string_view Trim(std::string_view text);
 std::string_view TrimRight(std::string_view text);
 
+// "First Last", both trimmed; one of them alone where the other is blank.
+std::string FullName(std::string_view first, std::string_view last);
+
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
 // Below 0, 0 or above 0, by the 1252 codes of the texts in capitals.
@@ -24,9 +27,6 @@ int CompareIgnoringCase(std::string_view a, std::string_view b);
 
 // True where a text field holds nothing: it compares below "!".
 bool IsBlankText(std::string_view text);
-// Whether the name of a file may hold these characters, on every system that we know.
-bool FitsFileName(std::string_view text);
-inline constexpr const char* kNotInFileNames = "\\ / : * ? \" < > |";  // as people read it
 
 // `text` cut at `width` characters, or filled with blanks up to it.
 std::string FitText(std::string_view text, std::size_t width);
@@ -34,9 +34,10 @@ std::string FitText(std::string_view text, std::size_t width);
 // The last `count` characters, all of a shorter text.
 std::string_view LastCharacters(std::string_view text, std::size_t count);
 
-// A value of a line of CSV, in quotes where it needs them, and a line without its end. UTF-8 is
-// taken as well.
+// A value of a line of CSV, in quotes where it needs them. UTF-8 is taken as well.
 std::string CsvValue(std::string_view text);
+// A line of CSV for a spreadsheet, without its end. A text that a spreadsheet would take for a
+// formula (it begins with "=", "+", "-" or "@" and is no number) gets an apostrophe in front.
 std::string CsvLine(const std::vector<std::string>& values);
 
 enum class ReplaceMode : int { kDigitsToMarks = 1, kIgnoringCase = 2, kExact = 3 };

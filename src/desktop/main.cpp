@@ -1,3 +1,17 @@
+#include "core/platform.h"
 #include "desktop/desktop_app.h"
 
-wxIMPLEMENT_APP(golf::DesktopApp);
+wxIMPLEMENT_APP_NO_MAIN(golf::DesktopApp);
+
+// The toolkit's own main opens the display first.
+#ifdef __WXMSW__
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, wxCmdLineArgType, int show) {
+  golf::TakeStandardStreams();
+  return wxEntry(instance, before, nullptr, show);
+}
+#else
+int main(int argc, char** argv) {
+  golf::TakeStandardStreams();
+  return wxEntry(argc, argv);
+}
+#endif

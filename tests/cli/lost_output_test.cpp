@@ -34,6 +34,25 @@ TEST_F(LostOutputTest, IsToldAndLeavesNothingHalfDone) {
   EXPECT_EQ(Shell("diff -r i expected"), 0);
 }
 
+// Nothing that is printed gets into a data file, whichever streams are missing.
+TEST_F(LostOutputTest, ClosedStreamsAreNoDataFiles) {
+  const std::string golfers = " --json golfers-kv-to-qb --roster CLUB18 --to 1 --update-tournament";
+  const std::string now = GOLF_CLI " --now '2026-05-13 12:00:00' --install ";
+  ASSERT_EQ(Shell("cp -r i expected && " + now + "expected" + golfers + " >/dev/null"), 0);
+  for (const std::string closed : {">&-", "2>&-", "<&-", "<&- >&- 2>&-"}) {
+    SCOPED_TRACE(closed);
+    const bool lost = closed.find(" >&-") != std::string::npos || closed == ">&-";
+    EXPECT_EQ(Shell("rm -rf x && cp -r i x && " + now + "x" + golfers + " >/dev/null " + closed),
+              lost ? 3 : 0);
+    EXPECT_EQ(Shell("diff -r x expected"), 0);
+  }
+  EXPECT_EQ(
+      Shell("cp -r i y && echo 'x' >y/kvdata/bad.kvg && printf 'open LoadRosters\\nshow\\n' | " +
+            now + "y script - >&- 2>&-"),
+      3);
+  EXPECT_EQ(Shell("rm y/kvdata/bad.kvg && diff -r i y"), 0);
+}
+
 TEST_F(LostOutputTest, AFileThatMayNotGrowIsADiskFull) {
   EXPECT_EQ(Shell("rm i/qbdata/qbcrs.dat && (ulimit -f 20; " GOLF_CLI
                   " --install i courses-kv-to-qb 2>problems)"),

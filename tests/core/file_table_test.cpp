@@ -53,6 +53,26 @@ TEST_F(FileTableTest, NumbersThatAreNotOpenAreError52) {
   EXPECT_EQ(ErrorOf([&] { files.Length(1); }), 52);
 }
 
+// A file that was only read has lost nothing when closing it fails.
+TEST_F(FileTableTest, AnErrorOfClosingIsToldLikeOneOfAWrite) {
+  for (const bool written : {true, false}) {
+    for (const bool all : {true, false}) {
+      folder.Write("a.dat", "abc");
+      files.Open(1, At("a.dat"), 3);
+      files.Open(2, At("b.dat"), 3);
+      Read(1, 1, 3);
+      if (written) files.WriteBytes(1, 1, "def");
+      platform.Fail({.only = Operation::kClose, .name = "a.dat"});
+      EXPECT_EQ(ErrorOf([&] { all ? files.CloseAll() : files.Close(1); }), written ? 57 : 0);
+      EXPECT_TRUE(platform.Failed());
+      EXPECT_EQ(ErrorOf([&] { files.Length(1); }), 52);
+      EXPECT_EQ(ErrorOf([&] { files.Length(2); }), all ? 52 : 0);
+    }
+  }
+  platform.Fail({.only = Operation::kClose, .name = "new.txt"});
+  EXPECT_EQ(ErrorOf([&] { files.gate().ReplaceText(At("new.txt"), "x"); }), 57);
+}
+
 TEST_F(FileTableTest, AllSpellingsReachOneFile) {
   folder.Write("KVData/Caf\u00E9.KV5", "abcdef");
   files.Open(1, At("kvdata/CAF\xC9.kv5"), 3);

@@ -28,6 +28,37 @@ TEST_F(PlatformPosixTest, AFullDiskIsError61AndLeavesNoTornRecord) {
   EXPECT_EQ(folder.Read("a.dat"), "abcdefgh");
 }
 
+// None of them is waited for.
+TEST_F(PlatformPosixTest, WhatIsNoFileIsError75) {
+  ASSERT_EQ(mkfifo(folder.Path("pipe.dat").c_str(), 0666), 0);
+  ASSERT_EQ(symlink("/dev/zero", folder.Path("device.dat").c_str()), 0);
+  folder.MakeFolder("sub");
+  folder.Write("a.dat", "");
+  for (const char* name : {"pipe.dat", "device.dat", "sub", "sub/../a.dat", "../x.dat"}) {
+    for (const FileAccess access :
+         {FileAccess::kReadWriteShared, FileAccess::kDefault, FileAccess::kReadOnly}) {
+      EXPECT_EQ(ErrorOf([&] { files.Open(1, At(name), 4, access); }), 75) << name;
+    }
+  }
+}
+
+// A process that was started without them gives their places away to whatever is opened first.
+TEST_F(PlatformPosixTest, NoDataFileGetsThePlaceOfAStandardStream) {
+  folder.Write("a.dat", "abcd");
+  const pid_t child = fork();
+  if (child == 0) {
+    close(STDERR_FILENO);
+    const bool refused = ErrorOf([&] { files.Open(1, At("a.dat"), 4); }) == 57;
+    TakeStandardStreams();
+    const bool fails = write(STDERR_FILENO, "x", 1) < 0;
+    const bool opens = ErrorOf([&] { files.Open(1, At("a.dat"), 4); }) == 0;
+    _exit(refused && fails && opens ? 0 : 1);
+  }
+  int status = -1;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+}
+
 TEST(PlatformPosix, TheRootIsAFolder) { EXPECT_EQ(MakePlatform("/")->ProgramFolder(), "/"); }
 
 TEST_F(PlatformPosixTest, OfNamesThatDifferInCaseOneIsMeant) {

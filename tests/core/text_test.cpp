@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/code_page.h"
+#include "core/file_name.h"
 #include "support/error_of.h"
 
 namespace golf {
@@ -33,6 +34,47 @@ TEST(Text, BlanksAndWidths) {
   EXPECT_EQ(FitText("abc", 2), "ab");
   EXPECT_EQ(LastCharacters("name  00012", 5), "00012");
   EXPECT_EQ(LastCharacters("12", 5), "12");
+}
+
+TEST(Text, ASpreadsheetTakesNoTextForAFormula) {
+  const std::pair<const char*, const char*> kCells[] = {{"=1+1", "'=1+1"},
+                                                        {"@x", "'@x"},
+                                                        {"+1", "+1"},
+                                                        {"-12.5", "-12.5"},
+                                                        {"-1,5", "\"-1,5\""},
+                                                        {"-", "'-"},
+                                                        {"+A1", "'+A1"},
+                                                        {"-1-2", "'-1-2"},
+                                                        {"+1.2.3", "'+1.2.3"},
+                                                        {"1=2", "1=2"},
+                                                        {"=\"a\"", "\"'=\"\"a\"\"\""},
+                                                        {"", ""}};
+  for (const auto& [cell, written] : kCells) {
+    EXPECT_EQ(CsvLine({cell, "x"}), std::string(written) + ",x");
+  }
+}
+
+TEST(FileName, OneRuleForAllSystems) {
+  const std::string characters = "cannot hold any of the characters \\ / : * ? \" < > |";
+  const auto device = [](const std::string& name) {
+    return "cannot be " + name + ", which Windows keeps for a device";
+  };
+  const std::pair<const char*, std::string> kNames[] = {{"Club 18", ""},
+                                                        {"\xC9t\xE9.99", ""},
+                                                        {"CONTRACT", ""},
+                                                        {"COM", ""},
+                                                        {"LPT10", ""},
+                                                        {"..", ""},
+                                                        {"../../evil", characters},
+                                                        {"a:b", characters},
+                                                        {"x*", characters},
+                                                        {"a\nb", characters},
+                                                        {"con", device("CON")},
+                                                        {"Nul .txt", device("NUL")},
+                                                        {"com1", device("COM1")},
+                                                        {"LPT\xB2", device("LPT\xB2")},
+                                                        {"conin$.x", device("CONIN$")}};
+  for (const auto& [name, fault] : kNames) EXPECT_EQ(FileNameFault(name), fault) << name;
 }
 
 TEST(Text, ReplaceText) {

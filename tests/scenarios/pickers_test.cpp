@@ -29,6 +29,24 @@ std::string Column(const Grid& grid, int column) {
   return texts;
 }
 
+TEST_F(PickersTest, ANewRosterStaysInItsFolder) {
+  install.host->QueueAnswer("New Roster", "Yes", true);
+  With<LoadRoster>("LoadRoster", [&](LoadRoster& picker) {
+    Press(picker, "NewButton");
+    for (const std::string name : {"../../evil", "a:b", "x*", "con", "Lpt1.old"}) {
+      picker.NewRosterName.SetText(name);
+      Press(picker, "OK2Button");
+      const bool device = name.find_first_of("/:*") == std::string::npos;
+      EXPECT_NE(install.LastMessage().find(device ? "A roster name cannot be "
+                                                  : "A roster name cannot hold any of the "
+                                                    "characters \\ / : * ? \" < > | -> OK"),
+                std::string::npos)
+          << name;
+    }
+    EXPECT_EQ(Column(picker.grid1, 2), "");
+  });
+}
+
 TEST_F(PickersTest, KelvaneRostersAreMadePickedAndDeleted) {
   for (const char* name : {"old.kv5", "OLD.KVG", "old.kvs", "old.KVX", "cut.KV5"}) {
     install.folder.Write(std::string("kvdata/") + name, "x");

@@ -42,6 +42,12 @@ class FailingPlatform::File : public PlatformFile {
 
   FileIdentity Identity() const override { return real_->Identity(); }
 
+  // A file is closed also where that fails.
+  void Close() override {
+    real_->Close();
+    platform_.Pass(Operation::kClose, path_);
+  }
+
  private:
   FailingPlatform& platform_;
   std::string path_;

@@ -21,6 +21,7 @@ enum class Operation {
   kWrite,
   kTruncate,
   kLength,
+  kClose,
   kList,
   kLock,
   kStart,

@@ -34,6 +34,7 @@ class MemoryPlatform::File : public PlatformFile {
     bytes_->resize(static_cast<std::size_t>(length));
   }
   std::int64_t Length() override { return static_cast<std::int64_t>(bytes_->size()); }
+  void Close() override {}
   FileIdentity Identity() const override { return {1, reinterpret_cast<std::uintptr_t>(&*bytes_)}; }
 
  private:

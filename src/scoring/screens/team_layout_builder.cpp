@@ -4,6 +4,7 @@
 #include <map>
 #include <utility>
 
+#include "core/file_name.h"
 #include "core/number_text.h"
 #include "core/text.h"
 #include "stores/quenby/program_class.h"
@@ -376,10 +377,8 @@ bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
     return true;
   };
   if (name.empty()) return refuse("You did not enter a name for your Report.");
-  if (!FitsFileName(name)) {
-    return refuse(std::string("A report name cannot hold any of the characters ") +
-                  kNotInFileNames);
-  }
+  const std::string fault = FileNameFault(name);
+  if (!fault.empty()) return refuse("A report name " + fault);
   const bool another = !EqualIgnoringCase(name, file_name_);
   if (!another || !state().files.FileExists(state().StoreDataPath + name + extension_ + "1")) {
     return false;

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "core/file_name.h"
 #include "core/number_text.h"
 #include "core/text.h"
 #include "scoring/open_tournament.h"
@@ -296,10 +297,9 @@ void TeamResults::SaveAsCsv() {
                           .text = "Name of the file, in the folder " + state().ProgramPath,
                           .default_answer = "Team results.csv"});
   if (name.empty()) return;
-  if (!FitsFileName(name)) {
-    host().Ask(Box{
-        .title = "Notice",
-        .text = std::string("A file name cannot hold any of the characters ") + kNotInFileNames});
+  const std::string fault = FileNameFault(name);
+  if (!fault.empty()) {
+    host().Ask(Box{.title = "Notice", .text = "A file name " + fault});
     return;
   }
   constexpr std::string_view kEnding = ".csv";

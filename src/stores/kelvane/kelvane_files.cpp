@@ -1,5 +1,8 @@
 #include "stores/kelvane/kelvane_files.h"
 
+#include "core/file_name.h"
+#include "core/text.h"
+
 namespace golf {
 namespace {
 
@@ -64,8 +67,7 @@ void LoadKVSystemFile(SharedState& state) {
 }
 
 bool OpenKVRoster(SharedState& state, std::string_view roster_name) {
-  // A search would take these for others.
-  if (roster_name.find_first_of("*?") != std::string_view::npos) return false;
+  if (!FitsFileName(roster_name)) return false;
   const std::string base = state.KVDataPath + std::string(roster_name);
   FileTable& files = state.files;
   if (!files.FileExists(base + ".kv5")) return false;
@@ -101,6 +103,11 @@ void BuildBlankKVHeader(SharedState& state, std::uint8_t holes) {
   NameFields<"MiscTextName">(header, "Misc Text", 20);
   NameFields<"MiscDateName">(header, "Misc Date", 5);
   NameFields<"MiscCurrName">(header, "Misc Curr", 5);
+}
+
+std::string KVGolferName(const Record<KelvaneGolferLayout>& golfer) {
+  const std::string name = FullName(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">());
+  return name.empty() ? "Golfer #" + std::to_string(golfer.Get<"IDNum">()) : name;
 }
 
 std::int32_t KVGolferPlaces(SharedState& state) {

@@ -35,6 +35,9 @@ inline bool IsGolfer(const Record<KelvaneGolferLayout>& golfer) {
   return golfer.Get<"Status">() >= 1;
 }
 
+// "Ann Smith", or "Golfer #12" by his ID where he has no name.
+std::string KVGolferName(const Record<KelvaneGolferLayout>& golfer);
+
 // Golfer places of the open roster.
 std::int32_t KVGolferPlaces(SharedState& state);
 

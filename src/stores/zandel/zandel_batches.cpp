@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/file_name.h"
 #include "core/number_text.h"
 #include "core/text.h"
 #include "stores/zandel/zandel_files.h"
@@ -44,7 +45,7 @@ std::string BatchHeading(const std::string& item) {
 std::optional<ScoreBatches> LoadScoreBatches(SharedState& state, std::string_view chosen) {
   CloseLeague(state);
   const std::string base = LeagueBase(chosen);
-  if (LeadingNumber(base) == 0) return std::nullopt;
+  if (LeadingNumber(base) == 0 || !FitsFileName(base)) return std::nullopt;
   OpenLeague(state, base);
   const int events = state.Zandel().control.Get<"EventCount">();
   const int current = state.Zandel().control.Get<"CurrentEvent">();

@@ -34,7 +34,8 @@ struct ScoreBatches {
 };
 
 // Closes the league files, opens those of the league chosen from the list and reads its batches.
-// Nothing, with the files closed, if its base is no number above 0. Errors as FileTable.
+// Nothing, with the files closed, if its base is no number above 0 or no name of a file. Errors as
+// FileTable.
 std::optional<ScoreBatches> LoadScoreBatches(SharedState& state, std::string_view chosen);
 
 }  // namespace golf

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/file_name.h"
+#include "core/numbered_error.h"
 #include "core/text.h"
 
 namespace golf {
@@ -29,6 +31,11 @@ constexpr LeagueFile kLeagueFiles[] = {
 };
 
 void OpenFilesTo(SharedState& state, std::string_view base, int last) {
+  const std::string fault = FileNameFault(base);
+  if (!fault.empty()) {
+    throw NumberedError(ErrorNumber::kPathAccess,
+                        "There is no league " + std::string(base) + ": its name " + fault + ".");
+  }
   for (const LeagueFile& file : kLeagueFiles) {
     if (file.number > last) break;
     const std::string_view name = file.of_league ? base.substr(0, kLeagueLength) : base;
@@ -52,9 +59,7 @@ std::string LeagueBase(std::string_view chosen) {
 }
 
 bool LeagueExists(SharedState& state, std::string_view base) {
-  // A search would take these for others.
-  if (base.size() != kBaseLength || base.find_first_of("*?") != std::string_view::npos)
-    return false;
+  if (base.size() != kBaseLength || !FitsFileName(base)) return false;
   return state.files.FileExists(state.ZDDataPath + std::string(base) + kControlExtension);
 }
 
@@ -64,6 +69,11 @@ void OpenLeagueGolfers(SharedState& state, std::string_view base) {
 
 void OpenLeague(SharedState& state, std::string_view base) {
   OpenFilesTo(state, base, kLeagueEventFile);
+}
+
+std::string LeagueGolferName(const Record<LeaguePlayerLayout>& player) {
+  const std::string name = FullName(player.Get<"FirstName">(), player.Get<"LastName">());
+  return name.empty() ? "Golfer #" + std::to_string(player.Get<"GolferID">()) : name;
 }
 
 void CloseLeague(SharedState& state) {

@@ -30,9 +30,13 @@ std::string LeagueBase(std::string_view chosen);
 bool LeagueExists(SharedState& state, std::string_view base);
 
 // Opens the files of a division with its golfers (control file, players, substitutes), or all five,
-// and reads the control record. What is not there comes into being empty.
+// and reads the control record. What is not there comes into being empty. Error 75 for a base that
+// cannot be the name of a file.
 void OpenLeagueGolfers(SharedState& state, std::string_view base);
 void OpenLeague(SharedState& state, std::string_view base);
+
+// "Ann Smith", or "Golfer #12" by his ID where he has no name.
+std::string LeagueGolferName(const Record<LeaguePlayerLayout>& player);
 
 // Closes the files that OpenLeague opens.
 void CloseLeague(SharedState& state);

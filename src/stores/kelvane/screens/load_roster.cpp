@@ -1,5 +1,6 @@
 #include "stores/kelvane/screens/load_roster.h"
 
+#include "core/file_name.h"
 #include "core/general_routines.h"
 #include "core/resume_next.h"
 #include "core/text.h"
@@ -126,6 +127,11 @@ void LoadRoster::MakeNew() {
   const std::string& name = NewRosterName.text();
   if (name.empty()) {
     host().Ask(Box{.title = "Notice", .text = "You did not enter a name for your roster."});
+    return;
+  }
+  const std::string fault = FileNameFault(name);
+  if (!fault.empty()) {
+    host().Ask(Box{.title = "Notice", .text = "A roster name " + fault});
     return;
   }
   const std::string path = state().KVDataPath + name + ".kv5";
