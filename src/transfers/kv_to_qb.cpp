@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "core/number_text.h"
+#include "core/take_records.h"
 #include "core/text.h"
 #include "scoring/player_class.h"
 #include "scoring/tournament_class.h"
@@ -31,13 +34,22 @@ void TellNotice(ScreenHost& host, std::string text) {
 // found. An ID of 0 finds the first record without a golfer.
 class QuenbyGolfers {
  public:
-  explicit QuenbyGolfers(std::int32_t length) : places(length) {
-    first_.reserve(static_cast<std::size_t>(length));
+  QuenbyGolfers(TournamentPlayers& player, std::int32_t length) : places(length) {
+    unread_ = TakeRecords(kFirstGolferRecord, length, [&](std::int32_t record) {
+      player.GetRecord(record, false);
+      places.Tell(record, player.StoredID());
+      const auto first = first_.emplace(std::max(player.StoredID(), 0), record).first;
+      first->second = std::min(first->second, record);
+    });
   }
 
-  void Note(std::int32_t record, std::int32_t stored_id) {
-    places.Tell(record, stored_id);
-    first_.emplace(std::max(stored_id, 0), record);
+  // Error where a golfer who was not found may stand in a record that cannot be read. To add him
+  // anew could make two of him.
+  void CheckAllRead() const {
+    if (unread_.empty()) return;
+    throw ReadError({ErrorNumber::kDeviceFault,
+                     "Record " + std::to_string(unread_.front()) +
+                         " of Quenby's golfer file cannot be read, and he may stand there."});
   }
   // 0 if there is none.
   std::int32_t Find(std::int32_t id) const {
@@ -49,6 +61,7 @@ class QuenbyGolfers {
 
  private:
   std::unordered_map<std::int32_t, std::int32_t> first_;
+  std::vector<std::int32_t> unread_;
 };
 
 }  // namespace
@@ -195,19 +208,18 @@ void KVtoQB::CopyGolfers(std::int32_t length) {
     host().SetPointer(Pointer::kNormal);
     host().TellFault(fault);
   });
+  const auto read = [this](auto&& statement, auto&& who) {
+    const bool done = ReadOrLeaveOut(host(), statement, who);
+    if (!done) host().SetPointer(Pointer::kNormal);
+    return done;
+  };
   FileTable& files = state().files;
   TournamentPlayers& player = state().Player();
   auto& golfer = state().Kelvane().golfer;
   const GolferToQbChoice choice = Choice();
   const double destination = QuenbyRosterNumber(TournamentRoster.text());
 
-  QuenbyGolfers quenby(length);
-  for (std::int32_t record = kFirstGolferRecord; record <= length; ++record) {
-    next([&] {
-      player.GetRecord(record, false);
-      quenby.Note(record, player.StoredID());
-    });
-  }
+  QuenbyGolfers quenby(player, length);
 
   // A golfer without an ID leaves his record free, even one that was not before.
   const auto save = [&](std::int32_t record) {
@@ -219,7 +231,9 @@ void KVtoQB::CopyGolfers(std::int32_t length) {
   std::int32_t places = 0;
   next([&] { places = KVGolferPlaces(state()); });
   for (std::int32_t place = 1; place <= places; ++place) {
-    next([&] { files.Read(kKelvaneGolferFile, place, golfer); });
+    const bool there = read([&] { files.Read(kKelvaneGolferFile, place, golfer); },
+                            [&] { return "The golfer at place " + std::to_string(place); });
+    if (!there) continue;
     const bool wanted = !MarkedtoPrint.value() || golfer.Get<"MarkedToPrint">() != 0;
     if (!wanted || golfer.Get<"Status">() < 1) continue;
     Working.SetCaption("Transferring: " + std::to_string(counts.updated + counts.added) + " " +
@@ -227,15 +241,22 @@ void KVtoQB::CopyGolfers(std::int32_t length) {
     host().RepaintNow(Working);
     host().Tell({place, places, Working.caption()});
     const std::int32_t found = quenby.Find(golfer.Get<"IDNum">());
+    const auto prepare = [&] {
+      if (found > 0) {
+        player.GetRecord(found, false);
+      } else {
+        quenby.CheckAllRead();
+        player.BlankPlayerRecord();
+      }
+    };
+    if (!read(prepare, [&] { return KVGolferName(golfer); })) continue;
     if (found > 0) {
-      next([&] { player.GetRecord(found, false); });
       CopyGolferToQb(state(), choice, next);
       next([&] { player.SetRosters(3, destination); });
       next([&] { save(found); });
       ++counts.updated;
     } else {
       const std::int32_t free = quenby.places.First();
-      next([&] { player.BlankPlayerRecord(); });
       CopyGolferToQb(state(), choice, next);
       next([&] { player.SetRosters(3, destination); });
       ++counts.added;
@@ -292,8 +313,10 @@ void KVtoQB::UpdateTournament(std::int32_t number) {
   player.TourOpenTournamentFile(number);
   const std::int32_t entries = player.TourFileLength();
   for (std::int32_t entry = 1; entry <= entries; ++entry) {
-    player.GetRecord(entry, true);
-    if (player.TourRosterRecordPointer() <= 0) continue;
+    const bool read = ReadOrLeaveOut(
+        host(), [&] { player.GetRecord(entry, true); },
+        [&] { return "Entry " + std::to_string(entry) + " of the tournament"; });
+    if (!read || player.TourRosterRecordPointer() <= 0) continue;
     for (int round = 1; round <= kRounds; ++round) {
       player.SetTourIndex(round, LeadingNumber(player.IndexValue()));
       player.SetTourGrossHandicap(round, LeadingNumber(player.HandicapValue(true)));

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <vector>
 
 #include "core/number_text.h"
+#include "core/take_records.h"
 #include "core/text.h"
 #include "shell/settings_file.h"
 #include "stores/kelvane/kelvane_files.h"
@@ -59,25 +61,36 @@ struct KVtoZD::League {
   RecordsById players;      // a search begins at record 1
   RecordsById substitutes;  // a search begins at the last one and goes down
   int scores = 0;           // that the players have for the current event
+  // Records that cannot be read. Whose they are is not known.
+  std::vector<std::int32_t> unread_players;
+  std::vector<std::int32_t> unread_substitutes;
 
   // Error 9 where there are players and no such event.
   explicit League(SharedState& state) {
     const auto& control = state.Zandel().control;
     auto& player = state.Zandel().player;
     FileTable& files = state.files;
-    const auto length = files.RecordCount<LeaguePlayerLayout>(kLeaguePlayerFile);
-    for (std::int32_t record = 1; record <= length; ++record) {
-      files.Read(kLeaguePlayerFile, record, player);
-      if (player.Get<"EventScore">(control.Get<"CurrentEvent">()) > 0) ++scores;
-      players.emplace(player.Get<"GolferID">(), record);
-    }
+    const auto take = [&](int file, std::int32_t first, std::int32_t last, auto&& keep) {
+      return TakeRecords(first, last, [&](std::int32_t record) {
+        files.Read(file, record, player);
+        keep(player.Get<"GolferID">(), record);
+      });
+    };
+    unread_players =
+        take(kLeaguePlayerFile, 1, files.RecordCount<LeaguePlayerLayout>(kLeaguePlayerFile),
+             [&](std::int32_t id, std::int32_t record) {
+               if (player.Get<"EventScore">(control.Get<"CurrentEvent">()) > 0) ++scores;
+               const auto first = players.emplace(id, record).first;
+               first->second = std::min(first->second, record);
+             });
     const auto last =
         std::min<std::int32_t>(control.Get<"LastSubRecord">(),
                                files.RecordCount<LeaguePlayerLayout>(kLeagueSubstituteFile));
-    for (std::int32_t record = kFirstSubstitute; record <= last; ++record) {
-      files.Read(kLeagueSubstituteFile, record, player);
-      substitutes.insert_or_assign(player.Get<"GolferID">(), record);
-    }
+    unread_substitutes = take(kLeagueSubstituteFile, kFirstSubstitute, last,
+                              [&](std::int32_t id, std::int32_t record) {
+                                std::int32_t& latest = substitutes[id];
+                                latest = std::max(latest, record);
+                              });
   }
 };
 
@@ -170,6 +183,7 @@ void KVtoZD::Transfer() {
     if (!ScoresMayStand(league.scores)) return state().files.CloseAll();
     league = League(state());  // others may have worked on it meanwhile
   }
+  TellUnread(league);
   std::string log = SourcePath.caption();
   log.append(kLineEnd).append("<< TRANSFERED TO >>").append(kLineEnd);
   log.append(DestLabel.caption().substr(0, kLeagueInLog)).append(kLineEnd).append(kLineEnd);
@@ -177,6 +191,18 @@ void KVtoZD::Transfer() {
   state().files.CloseAll();
   host().TellCount("transferred", transferred);
   Report(std::move(log), transferred);
+}
+
+// Whoever stands there is left out.
+void KVtoZD::TellUnread(const League& league) {
+  const auto tell = [this](const std::vector<std::int32_t>& records, const char* whose) {
+    for (const std::int32_t record : records) {
+      host().TellFault(LeftOut("Record " + std::to_string(record) + " of the league's " + whose,
+                               {ErrorNumber::kDeviceFault, "It cannot be read."}));
+    }
+  };
+  tell(league.unread_players, "players");
+  tell(league.unread_substitutes, "substitutes");
 }
 
 bool KVtoZD::ScoresMayStand(int scores) {
@@ -214,7 +240,10 @@ std::int16_t KVtoZD::CopyGolfers(const League& league, std::string& log) {
   const auto update = [&](int file, const RecordsById& records) {
     const auto found = records.find(golfer.Get<"IDNum">());
     if (found == records.end()) return;
-    files.Read(file, found->second, player);
+    const bool read = ReadOrLeaveOut(
+        host(), [&] { files.Read(file, found->second, player); },
+        [&] { return KVGolferName(golfer); });
+    if (!read) return;
     CopyGolferToZd(state(), rule);
     files.Write(file, found->second, player);
     log.append(golfer.Get<"NameFirst">()).append(golfer.Get<"NameLast">());
@@ -223,8 +252,10 @@ std::int16_t KVtoZD::CopyGolfers(const League& league, std::string& log) {
   };
   const std::int32_t places = KVGolferPlaces(state());
   for (std::int32_t place = 1; place <= places; ++place) {
-    files.Read(kKelvaneGolferFile, place, golfer);
-    if (golfer.Get<"Status">() < 1 || golfer.Get<"IDNum">() < 1) continue;
+    const bool read = ReadOrLeaveOut(
+        host(), [&] { files.Read(kKelvaneGolferFile, place, golfer); },
+        [&] { return "The golfer at place " + std::to_string(place); });
+    if (!read || golfer.Get<"Status">() < 1 || golfer.Get<"IDNum">() < 1) continue;
     Working.SetCaption("SEARCHING for " + golfer.Get<"NameLast">());
     WorkingCount.SetCaption(std::to_string(place));
     host().RepaintNow(Working);

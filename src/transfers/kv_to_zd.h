@@ -57,6 +57,7 @@ class KVtoZD : public Screen {
   void Transfer();
   // A whole number from 10 to 100, which the box then shows.
   int Percent();
+  void TellUnread(const League& league);
   bool ScoresMayStand(int scores);
   // The number of golfers transferred; adds a line to the log for each.
   std::int16_t CopyGolfers(const League& league, std::string& log);

@@ -97,7 +97,7 @@ std::vector<Control*> QBtoKV::Remembered() {
 }
 
 void QBtoKV::OnLoad() {
-  const ResumeNext silently(nullptr);
+  const ResumeNext silently = ResumeNextButReads(nullptr);
   state().StoreDataPath = state().QBDataPath;
   ReadSettings(state(), *this, Remembered());
   TieEvents();  // the lists had nothing in them to choose from until now
@@ -121,12 +121,23 @@ void QBtoKV::TieEvents() {
   const auto offering = [this](void (QBtoKV::*choose)()) {
     return [this, choose] {
       TransferButton.SetVisible(true);
-      (this->*choose)();
+      Match([this, choose] { (this->*choose)(); });
     };
   };
   TournamentList.on_click = offering(&QBtoKV::ChooseTournament);
   RoundList.on_click = offering(&QBtoKV::ChooseRound);
   CourseCombo.on_click = offering(&QBtoKV::ChooseCourse);
+}
+
+// Where a record that matching needs cannot be read, there is no course to transfer to: the one
+// that stood there before is not the round's.
+void QBtoKV::Match(const std::function<void()>& choose) {
+  try {
+    choose();
+  } catch (const ReadError&) {
+    CourseCombo.Clear();
+    throw;
+  }
 }
 
 std::int32_t QBtoKV::TournamentOf(const std::string& item) {
@@ -194,7 +205,7 @@ void QBtoKV::ReadTournament() {
 void QBtoKV::ChooseTournament() {
   selected_round_ = 1;
   TransferButton.SetCaption("Transfer scores");
-  const ResumeNext silently(nullptr);
+  const ResumeNext silently = ResumeNextButReads(nullptr);
   silently(
       [&] { state().Tournament().OpenTournamentControlFile(TournamentOf(TournamentList.text())); });
   silently([&] { state().Tournament().GetRecord(); });
@@ -267,7 +278,7 @@ void QBtoKV::ChooseCourse() {
 }
 
 void QBtoKV::MatchTees() {
-  const ResumeNext next(
+  const ResumeNext next = ResumeNextButReads(
       [this](const NumberedError&) { Tell(host(), "Problem", "Selected Course has NO TEES!"); });
   next([&] { PointCourseAt(kKelvane, state().KVDataPath); });
   next([&] { state().Course().GetRecord(CourseOf(CourseCombo.text())); });
@@ -299,8 +310,10 @@ void QBtoKV::FindRoster() {
   host().ShowModal(picker);
   TransferButton.SetVisible(true);
   HandicapRoster.SetText(state().KVRosterName);
-  FillCourseCombo();
-  if (TournamentList.index() >= 0) ChooseTournament();
+  Match([this] {
+    FillCourseCombo();
+    if (TournamentList.index() >= 0) ChooseTournament();
+  });
 }
 
 void QBtoKV::AskForPoints() {
@@ -327,7 +340,8 @@ void QBtoKV::Transfer() {
   if (CourseCombo.index() < 0) {
     return Tell(host(), "Info", "You must select a course to transfer to.");
   }
-  const ResumeNext next([this](const NumberedError& fault) {
+  // Without the records that all players have in common nobody can be posted: the run ends.
+  const ResumeNext next = ResumeNextButReads([this](const NumberedError& fault) {
     host().SetPointer(Pointer::kNormal);
     host().TellFault(fault);
   });
@@ -376,7 +390,6 @@ bool QBtoKV::OpenRoster(const ResumeNext& next) {
   return opened;
 }
 
-// Nothing is written over a header that could not be read.
 void QBtoKV::MarkRoster() {
   auto& header = state().Kelvane().header;
   state().files.Read(kKelvaneHeaderFile, 1, header);
@@ -419,13 +432,11 @@ void QBtoKV::PostScores(const TournamentScoreChoice& choice, const ResumeNext& n
   TransferButton.SetVisible(false);
   Message.SetText("");
   host().SetPointer(Pointer::kBusy);
-  TournamentScorePosting posting(state(), host(), choice, next);
+  TournamentScorePosting posting(state(), host(), choice);
   std::int32_t records = 0;
   next([&] { records = player.TourFileLength(); });
   for (std::int32_t record = 1; record <= records; ++record) {
-    bool exists = false;  // nor does a player who could not be read
-    next([&] { exists = player.GetRecord(record, true) && player.TourPlayerExists(); });
-    if (exists) posting.Take(record);
+    posting.Take(record);
     Working.SetCaption(NumberText(record) + " " + player.NameLF());
     host().RepaintNow(Working);
     host().Tell({record, records, Working.caption()});

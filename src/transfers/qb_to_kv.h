@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -84,6 +85,7 @@ class QBtoKV : public Screen {
 
   std::vector<Control*> Remembered();
   void TieEvents();
+  void Match(const std::function<void()>& choose);
 
   void FillCourseCombo();
   void FillTournamentList();

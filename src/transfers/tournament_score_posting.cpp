@@ -18,27 +18,54 @@ constexpr double kHighestNoScore = 20;  // a total up to here is not the score o
 }  // namespace
 
 TournamentScorePosting::TournamentScorePosting(SharedState& state, ScreenHost& host,
-                                               const TournamentScoreChoice& choice,
-                                               const ResumeNext& next)
-    : state_(state), host_(host), choice_(choice), next_(next), golfers_(state) {}
+                                               const TournamentScoreChoice& choice)
+    : state_(state),
+      host_(host),
+      choice_(choice),
+      next_([this](const NumberedError& fault) { TellFault(fault); }),
+      figure_(ResumeNextButReads([this](const NumberedError& fault) { TellFault(fault); })),
+      golfers_(state) {}
 
 void TournamentScorePosting::Take(std::int32_t record) {
+  if (!IsRead(record)) return;
   bool wanted = false;
   next_([&] { wanted = IsToBePosted(); });
-  if (!wanted) return;
-  next_([&] { CountUp(counts_.transferred); });
-  BlankKVScore(state_);
-  if (!choice_.join_nines) FillEntry();
-  bool posted = false;
-  next_([&] {
-    choice_.join_nines ? PostHalf() : PostEntry();
-    posted = true;
-  });
-  if (!posted) return;
+  if (!wanted || !IsPosted()) return;
   next_([&] {
     state_.Player().SetTourScoreTransferredtoKV(choice_.round, true);
     state_.Player().SaveRecord(record, true);
   });
+}
+
+// With the entry and its player in hand. An entry without a player is none.
+bool TournamentScorePosting::IsRead(std::int32_t record) {
+  PlayerClass& player = state_.Player();
+  name_ = "Entry " + std::to_string(record) + " of the tournament";
+  bool exists = false;
+  next_([&] { exists = player.GetRecord(record, true) && player.TourPlayerExists(); });
+  if (exists) name_ = player.NameLF();
+  return exists;
+}
+
+// A score whose figures or history cannot be read is not transferred.
+bool TournamentScorePosting::IsPosted() {
+  next_([&] { CountUp(counts_.transferred); });
+  BlankKVScore(state_);
+  return next_([&] {
+    try {
+      if (!choice_.join_nines) FillEntry();
+      choice_.join_nines ? PostHalf() : PostEntry();
+    } catch (const ReadError&) {
+      --counts_.transferred;
+      throw;
+    }
+  });
+}
+
+void TournamentScorePosting::TellFault(const NumberedError& fault) {
+  const bool left_out = dynamic_cast<const ReadError*>(&fault) != nullptr;
+  host_.SetPointer(Pointer::kNormal);
+  host_.TellFault(left_out ? LeftOut(name_, fault) : fault);
 }
 
 // With the golfer in hand afterwards.
@@ -102,21 +129,22 @@ void TournamentScorePosting::FillEntry() {
   PlayerClass& player = state_.Player();
   auto& entry = state_.Kelvane().score;
   const int round = choice_.round;
-  next_([&] { entry.Set<"CourseNumber">(RoundToInt16(choice_.course)); });
-  next_([&] { SetTee(); });
-  next_([&] { SetDate(); });
-  next_([&] {
+  figure_([&] { entry.Set<"CourseNumber">(RoundToInt16(choice_.course)); });
+  figure_([&] { SetTee(); });
+  figure_([&] { SetDate(); });
+  figure_([&] {
     entry.Set<"Rating">(CheckedSingle(LeadingNumber(player.TourCourseTeePlayedRating(round))));
   });
-  next_([&] { entry.Set<"Slope">(KVByte(LeadingNumber(player.TourCourseTeePlayedSlope(round)))); });
-  next_([&] { FillHoles(); });
-  next_([&] { entry.Set<"Gross">(KVByte(player.TourScoreGrossValue(kWholeRound, round))); });
-  next_([&] { entry.Set<"Adjusted">(KVByte(AdjustedScore())); });
+  figure_(
+      [&] { entry.Set<"Slope">(KVByte(LeadingNumber(player.TourCourseTeePlayedSlope(round)))); });
+  figure_([&] { FillHoles(); });
+  figure_([&] { entry.Set<"Gross">(KVByte(player.TourScoreGrossValue(kWholeRound, round))); });
+  figure_([&] { entry.Set<"Adjusted">(KVByte(AdjustedScore())); });
   if (choice_.as_tournament) entry.Set<"ScoreType">(kKelvaneTournamentScore);
-  next_([&] { entry.Set<"Putts">(KVByte(player.TourPutts(round))); });
-  next_([&] { entry.Set<"Fairways">(KVByte(player.TourFairways(round))); });
-  next_([&] { entry.Set<"Greens">(KVByte(player.TourGreens(round))); });
-  next_([&] {
+  figure_([&] { entry.Set<"Putts">(KVByte(player.TourPutts(round))); });
+  figure_([&] { entry.Set<"Fairways">(KVByte(player.TourFairways(round))); });
+  figure_([&] { entry.Set<"Greens">(KVByte(player.TourGreens(round))); });
+  figure_([&] {
     const double handicap = LeadingNumber(player.TourGrossHandicap(false, round));
     entry.Set<"HandicapPlayed">(RoundToInt16(handicap));
   });
@@ -154,7 +182,7 @@ void TournamentScorePosting::FillHoles() {
 // Points are worth the same on every course.
 void TournamentScorePosting::FillPoints() {
   auto& entry = state_.Kelvane().score;
-  next_([&] {
+  figure_([&] {
     const std::string points = state_.Player().TourPointsGross(kWholeRound, choice_.round);
     entry.Set<"Adjusted">(KVByte(LeadingNumber(points)));
   });
@@ -185,7 +213,7 @@ void TournamentScorePosting::PostHalf() {
   }
   JoinKVHalves(state_, half);
   if (choice_.points) entry.Set<"Rating">(0);
-  next_([&] { SetDate(); });
+  figure_([&] { SetDate(); });
   const double handicap = LeadingNumber(player.TourGrossHandicap(false, round));
   entry.Set<"HandicapPlayed">(RoundToInt16(2 * handicap));
   PostEntry();

@@ -24,8 +24,9 @@ struct TournamentScoreChoice {
 
 // Posts the scores of a tournament's round into the histories of the open roster, one player after
 // the other. The tournament and its players are open in the shared objects. A fault while a player
-// is looked at, in a half, or while an entry is posted leaves him, without the mark that his score
-// has been transferred; any other one only leaves what it hit as it was.
+// is looked at, in a half, or while an entry is posted leaves him out, without the mark that his
+// score has been transferred. So does every read that fails. Any other fault only leaves the figure
+// that it hit as it was.
 class TournamentScorePosting {
  public:
   struct Counts {
@@ -35,11 +36,9 @@ class TournamentScorePosting {
     std::int16_t not_found = 0;
   };
 
-  // `next` runs the statements that are carried over.
-  TournamentScorePosting(SharedState& state, ScreenHost& host, const TournamentScoreChoice& choice,
-                         const ResumeNext& next);
+  TournamentScorePosting(SharedState& state, ScreenHost& host, const TournamentScoreChoice& choice);
 
-  // The player in hand, who was read from this record of the tournament's file.
+  // Reads the player in this record of the tournament's file, and posts his score.
   void Take(std::int32_t record);
 
   const Counts& counts() const { return counts_; }
@@ -47,11 +46,14 @@ class TournamentScorePosting {
   const std::string& log() const { return log_; }
 
  private:
+  bool IsRead(std::int32_t record);
   bool IsToBePosted();
+  bool IsPosted();
   bool IsWantedAgain();
   bool IsComplete();
   double AdjustedScore();
   void Log(const std::string& reason);
+  void TellFault(const NumberedError& fault);
 
   void FillEntry();
   void FillHoles();
@@ -64,11 +66,13 @@ class TournamentScorePosting {
   SharedState& state_;
   ScreenHost& host_;
   const TournamentScoreChoice& choice_;
-  const ResumeNext& next_;
+  ResumeNext next_;    // tells a fault in the player's name
+  ResumeNext figure_;  // the same for one figure of an entry, but for a read that fails
   KelvaneGolferIndex golfers_;
   std::int32_t place_ = 0;  // of the player among the roster's golfers
   Counts counts_;
   std::string log_;
+  std::string name_;  // of the player in hand
 };
 
 }  // namespace golf

@@ -48,4 +48,8 @@ CopyingLook::~CopyingLook() {
 
 void CountUp(std::int16_t& counter) { counter = CheckedInt16(counter + 1); }
 
+NumberedError LeftOut(const std::string& who, const NumberedError& why) {
+  return {static_cast<ErrorNumber>(why.number()), who + " was left out: " + why.description()};
+}
+
 }  // namespace golf

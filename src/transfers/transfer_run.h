@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <string>
 #include <vector>
 
 #include "core/shared_state.h"
@@ -34,5 +35,22 @@ class CopyingLook {
 
 // A count of 16 bits, one higher. Error 6 above 32767.
 void CountUp(std::int16_t& counter);
+
+// The fault of somebody whom a run leaves out, since a record of his cannot be read. `who` begins a
+// sentence, such as "Ann Smith" or "The golfer at place 7".
+NumberedError LeftOut(const std::string& who, const NumberedError& why);
+
+// Reads for a run that leaves out whom it cannot read: a failed read is told as the fault of
+// `who()`, and the result is false. Any other error goes on.
+template <class Statement, class Who>
+bool ReadOrLeaveOut(ScreenHost& host, Statement&& statement, Who&& who) {
+  try {
+    statement();
+    return true;
+  } catch (const ReadError& error) {
+    host.TellFault(LeftOut(who(), error));
+    return false;
+  }
+}
 
 }  // namespace golf

@@ -1,6 +1,7 @@
 #include "transfers/zd_to_kv.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "core/text.h"
 #include "shell/remembered_settings.h"
@@ -26,9 +27,7 @@ bool Has18Holes(SharedState& state) { return state.Kelvane().header.Get<"Holes">
 // An error that a golfer's records bring, with his name.
 NumberedError WithName(const NumberedError& error, ErrorNumber number,
                        const Record<LeaguePlayerLayout>& player) {
-  const std::string first = player.Get<"FirstName">();
-  const std::string last = player.Get<"LastName">();
-  return {number, "The scores of " + std::string(Trim(first)) + " " + std::string(Trim(last)) +
+  return {number, "The scores of " + LeagueGolferName(player) +
                       " cannot be transferred: " + error.description()};
 }
 
@@ -175,17 +174,31 @@ bool ZDtoKV::PostAll(Run& run) {
 
 bool ZDtoKV::PostGolfer(Run& run, int file, std::int32_t record) {
   auto& player = state().Zandel().player;
-  state().files.Read(file, record, player);
+  FileTable& files = state().files;
+  const bool read = ReadOrLeaveOut(
+      host(), [&] { files.Read(file, record, player); },
+      [&] { return "Record " + std::to_string(record) + " of the league"; });
+  ++run.done;
+  if (!read) return true;
   Working.SetCaption("SEARCHING for " + player.Get<"FirstName">());
   host().RepaintNow(Working);
-  host().Tell({++run.done, run.total, Working.caption()});
+  host().Tell({run.done, run.total, Working.caption()});
   const std::int32_t id = player.Get<"GolferID">();
   if (id <= 0) return true;
-  for (const std::int32_t place : run.golfers.PlacesOf(id)) {
-    state().files.Read(kKelvaneGolferFile, place, state().Kelvane().golfer);
-    if (!PostScoresOf(run, place)) return false;
+  const auto name = [&] { return LeagueGolferName(player); };
+  std::vector<std::int32_t> places;
+  ReadOrLeaveOut(
+      host(), [&] { places = run.golfers.PlacesOf(id); }, name);
+  bool goes_on = true;
+  const auto post = [&](std::int32_t place) {
+    files.Read(kKelvaneGolferFile, place, state().Kelvane().golfer);
+    goes_on = PostScoresOf(run, place);
+  };
+  for (auto place = places.begin(); goes_on && place != places.end(); ++place) {
+    ReadOrLeaveOut(
+        host(), [&] { post(*place); }, name);
   }
-  return true;
+  return goes_on;
 }
 
 bool ZDtoKV::PostScoresOf(Run& run, std::int32_t place) {

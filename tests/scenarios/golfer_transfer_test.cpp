@@ -265,6 +265,96 @@ TEST_F(GolferTransferTest, EachFileOperationFailsOnce) {
   EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == outcome.file);
 }
 
+// Golfers whom Quenby has and others, in turn.
+std::string MixedGolfers() {
+  std::string golfers;
+  for (int id = 1; id <= 16; ++id) {
+    golfers += Golfer(100 + id, "Mixed " + std::to_string(id), static_cast<float>(id), 2);
+  }
+  return golfers;
+}
+std::string EverySecondPlayer() {
+  std::string file;
+  for (int i = 1; i <= 9; ++i) file += Player(0);
+  for (int id = 2; id <= 16; id += 2) file += Player(100 + id) + Player(0);
+  return file;
+}
+
+// Nobody gets anything of another golfer, whatever read fails; whoever is left out is told of, and
+// comes with the next run.
+TEST_F(GolferTransferTest, EachReadFailsOnce) {
+  const std::string before = EverySecondPlayer();
+  const Outcome outcome = Expected(MixedGolfers(), before, {});
+  const auto records = [this] { return install.folder.Read("qbdata/QBGOLFER.Q9D"); };
+  ForEachFault([&](int nth) {
+    Prepare(MixedGolfers(), before, {});
+    install.Restart();
+    install.platform->Fail({.nth = nth, .only = Operation::kRead});
+    const int error = ClickErrorOf([&] { Run({}); });
+    const bool failed = install.platform->Failed();
+    EXPECT_EQ(StrangeRecords(records(), kTo, before, outcome.file), "");
+    EXPECT_TRUE(error != 0 || install.host->run_ended_by() || !install.host->faults().empty() ||
+                records() == outcome.file);
+    install.Restart();
+    Run({});
+    EXPECT_EQ(RecordsOf(records(), kTo), RecordsOf(outcome.file, kTo));
+    return failed;
+  });
+}
+
+// A record that can never be read: its golfer is left out by name, and so is everybody who may
+// stand there.
+TEST_F(GolferTransferTest, AReadThatAlwaysFailsLeavesOutByName) {
+  Prepare(MixedGolfers(), EverySecondPlayer(), {});
+  install.Restart();
+  install.platform->Fail(
+      {.nth = 3, .only = Operation::kRead, .name = "QBGOLFER.Q9D", .stays = true});
+  Run({});
+  EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == EverySecondPlayer());
+  ASSERT_EQ(install.host->faults().size(), 16u);
+  EXPECT_TRUE(
+      install.host->faults()[0].description().starts_with("Ann Mixed 1 was left out: Record "));
+}
+
+TEST_F(GolferTransferTest, EachReadOfATournamentUpdateFailsOnce) {
+  std::string golfers;
+  for (int i = 1; i <= 9; ++i) golfers += Player(0);
+  std::string master(1042, '\0'), entries, updated;
+  Put(master, FieldOf<MasterLayout, "ActiveTournament">().offset, {std::int32_t{7}});
+  for (int i = 0; i < 4; ++i) {
+    golfers += Player(50 + i);
+    std::string entry = Pattern(kEntry);
+    Put16(entry, FieldOf<TournamentPlayerLayout, "TourRosterRecordPointer">().offset, {10 + i});
+    entries += entry;
+    for (std::size_t round = 0; round < 7; ++round) {
+      Put(entry, FieldOf<TournamentPlayerLayout, "TourIndex">().offset + 4 * round,
+          {1.0f + static_cast<float>(i)});
+      Put(entry, FieldOf<TournamentPlayerLayout, "TourGrossHandicap">().offset + 4 * round, {9.0f});
+    }
+    updated += entry;
+  }
+  std::string kelvane;
+  for (int i = 0; i < 4; ++i) kelvane += Golfer(50 + i, "Entered", 1.0f + static_cast<float>(i), 9);
+  const auto left = [this] { return install.folder.Read("qbdata/X0007.Q9G"); };
+  std::size_t told = 0;
+  ForEachFault([&](int nth) {
+    Prepare(kelvane, golfers, {});
+    install.folder.Write("qbdata/QBMASTER.Q9D", master);
+    install.folder.Write("qbdata/X0007.Q9G", entries);
+    install.Restart();
+    install.host->QueueAnswer("Update Handicaps?", "yes", true);
+    install.platform->Fail({.nth = nth, .only = Operation::kRead, .name = "X0007.Q9G"});
+    Run({});
+    const bool failed = install.platform->Failed();
+    told += install.host->faults().size();
+    EXPECT_EQ(StrangeRecords(left(), kEntry, entries, updated), "");
+    EXPECT_TRUE(install.LastMessage().ends_with("' handicaps updated. -> OK"));
+    EXPECT_TRUE(failed || left() == updated);
+    return failed;
+  });
+  EXPECT_GT(told, 0u);
+}
+
 TEST_F(GolferTransferTest, RefusalsAndHeldFiles) {
   const std::string select = "message [Notice] You must select a ";
   const std::string before = " roster before you can transfer golfers. -> OK";

@@ -319,5 +319,45 @@ TEST_F(QbToKvTest, EachFileOperationFailsOnce) {
   EXPECT_EQ(install.LastMessage(), "message [Notice] 2 Scores transferred. -> OK");
 }
 
+// A player whose records cannot be read is left out and told of; nobody gets anything of another
+// one, and the next run posts what is missing.
+TEST_F(QbToKvTest, EachReadFailsOnce) {
+  const std::vector<Player> players = {{11}, {12, true}};
+  Prepare({}, players);
+  Run({});
+  const std::string golfers = install.folder.Read("kvdata/CLUB.KVG");
+  const std::string histories = install.folder.Read("kvdata/CLUB.KVS");
+  const std::string entries = install.folder.Read("qbdata/X0001.Q9G");
+  std::size_t left_out = 0;
+  ForEachFault([&](int nth) {
+    Prepare({}, players);
+    install.platform->Fail({.nth = nth, .only = Operation::kRead});
+    const int error = ClickErrorOf([&] { Run({}); });
+    const bool failed = install.platform->Failed();
+    EXPECT_EQ(
+        StrangeRecords(install.folder.Read("kvdata/CLUB.KVG"), kGolfer, roster_before, golfers),
+        "");
+    EXPECT_EQ(
+        StrangeRecords(install.folder.Read("kvdata/CLUB.KVS"), kHistory, history_before, histories),
+        "");
+    EXPECT_EQ(StrangeRecords(install.folder.Read("qbdata/X0001.Q9G"), kEntryLength, entries_before,
+                             entries),
+              "");
+    const auto& faults = install.host->faults();
+    left_out += faults.size();
+    EXPECT_TRUE(error != 0 || !faults.empty() ||
+                install.folder.Read("kvdata/CLUB.KVS") == histories || report.empty());
+    install.platform->Heal();
+    install.Restart();
+    install.state().Now = [] { return kNow; };
+    Run({});
+    EXPECT_TRUE(install.folder.Read("kvdata/CLUB.KVG") == golfers);
+    EXPECT_TRUE(install.folder.Read("kvdata/CLUB.KVS") == histories);
+    EXPECT_TRUE(install.folder.Read("qbdata/X0001.Q9G") == entries);
+    return failed;
+  });
+  EXPECT_GT(left_out, 3u);
+}
+
 }  // namespace
 }  // namespace golf

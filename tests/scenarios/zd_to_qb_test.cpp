@@ -229,6 +229,31 @@ TEST(ZDtoQBTest, EachFileOperationFailsOnceAndIsTriedAgainOrGivenUp) {
   }
 }
 
+// After a failed read that was given up the next run brings everybody, each once.
+TEST(ZDtoQBTest, EachReadFailsOnceAndTheNextRunBringsTheRest) {
+  const Case c{"different names",
+               Golfer(50, "Al", "Able") + Golfer(52, "B", "Be"),
+               LeaguePlayer(1, "Al", "Able", 5) + LeaguePlayer(2, "New", "Guest", 6) +
+                   LeaguePlayer(3, "B", "Be", 7),
+               "",
+               8,
+               3};
+  const Outcome outcome(c);
+  ForEachFault([&](int nth) {
+    TestInstall install;
+    WriteInstall(install, c);
+    install.platform->Fail({.nth = nth, .only = Operation::kRead});
+    Transfer(install);
+    const bool failed = install.platform->Failed();
+    WriteInstall(install, {"", "", c.players, "", 8, 3});
+    install.Restart();
+    Transfer(install);
+    EXPECT_EQ(RecordsOf(install.folder.Read("qbdata/QBGOLFER.Q9D"), kGolferBytes),
+              RecordsOf(outcome.states.back(), kGolferBytes));
+    return failed;
+  });
+}
+
 TEST(ZDtoQBTest, TheManagerOfRostersDeletesThroughThisScreen) {
   TestInstall install;
   std::string roster = Pattern(413);

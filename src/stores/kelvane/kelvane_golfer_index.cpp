@@ -1,19 +1,19 @@
 #include "stores/kelvane/kelvane_golfer_index.h"
 
 #include <algorithm>
+#include <string>
 
+#include "core/take_records.h"
 #include "stores/kelvane/kelvane_files.h"
 
 namespace golf {
 
 void KelvaneGolferIndex::Read() {
-  golfers_.clear();
   Record<KelvaneGolferLayout> golfer;
-  const std::int32_t places = KVGolferPlaces(state_);
-  for (std::int32_t place = 1; place <= places; ++place) {
+  unread_ = TakeRecords(1, KVGolferPlaces(state_), [&](std::int32_t place) {
     state_.files.Read(kKelvaneGolferFile, place, golfer);
     if (IsGolfer(golfer)) golfers_.push_back({golfer.Get<"IDNum">(), place});
-  }
+  });
   std::sort(golfers_.begin(), golfers_.end());
   read_ = true;
 }
@@ -23,6 +23,11 @@ std::vector<std::int32_t> KelvaneGolferIndex::PlacesOf(std::int32_t id) {
   std::vector<std::int32_t> places;
   auto golfer = std::lower_bound(golfers_.begin(), golfers_.end(), Golfer{id, 0});
   for (; golfer != golfers_.end() && golfer->id == id; ++golfer) places.push_back(golfer->place);
+  if (places.empty() && !unread_.empty()) {
+    throw ReadError({ErrorNumber::kDeviceFault, "Place " + std::to_string(unread_.front()) +
+                                                    " of the roster cannot be read, and the golfer "
+                                                    "may stand there."});
+  }
   return places;
 }
 

@@ -14,8 +14,9 @@ class KelvaneGolferIndex {
  public:
   explicit KelvaneGolferIndex(SharedState& state) : state_(state) {}
 
-  // All places with a golfer of this ID, ascending. The first look-up reads the file, and the next
-  // one does after a failure; raises the errors of FileTable.
+  // All places with a golfer of this ID, ascending. The first look-up reads the file. Raises the
+  // errors of FileTable; ReadError where there is none but a place that cannot be read, where the
+  // golfer may stand.
   std::vector<std::int32_t> PlacesOf(std::int32_t id);
 
   // The first of them, with that golfer read into the golfer buffer; 0 if there is none.
@@ -34,6 +35,7 @@ class KelvaneGolferIndex {
   SharedState& state_;
   bool read_ = false;
   std::vector<Golfer> golfers_;  // in their own order
+  std::vector<std::int32_t> unread_;
 };
 
 }  // namespace golf

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+#include "core/numbered_error.h"
+
+namespace golf {
+
+// Calls `take(record)` for the records `first` to `last` in their order, which reads each of them.
+// One that cannot be read is tried once more in the end. Gives those that still could not be read,
+// ascending. Any error but ReadError goes on.
+template <class Take>
+std::vector<std::int32_t> TakeRecords(std::int32_t first, std::int32_t last, Take&& take) {
+  std::vector<std::int32_t> unread;
+  const auto try_to_take = [&](std::int32_t record) {
+    try {
+      take(record);
+    } catch (const ReadError&) {
+      unread.push_back(record);
+    }
+  };
+  for (std::int32_t record = first; record <= last; ++record) try_to_take(record);
+  for (const std::int32_t record : std::exchange(unread, {})) try_to_take(record);
+  return unread;
+}
+
+}  // namespace golf
