@@ -26,7 +26,9 @@ class CourseLinks {
     Record<KelvaneCourseLayout> course;
     for (std::int64_t record = 1; record <= count; ++record) {
       files.Read(number, record, course);
-      links_.emplace_back(course.Get<"KVCourseNum">(), record);
+      const std::int16_t kelvane_number = course.Get<"KVCourseNum">();
+      if (kelvane_number > 0)
+        links_.emplace_back(kelvane_number, record);  // the others link to none
     }
     std::sort(links_.begin(), links_.end());
   }

@@ -17,6 +17,14 @@ int SlopeOf(const CourseClass& course, int tee, int sex) {
   return RoundToInt16(LeadingNumber(course.slope(tee, sex)));
 }
 
+// A course without a tee in use matches none.
+bool HasTee(const Record<CourseLayout>& course) {
+  for (int tee = 1; tee <= kShownTees; ++tee) {
+    if (course.Get<"ActiveTees">(tee) != 0) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 const PlayedTee& LeagueCourseMatch::Find(std::int32_t league_course, int tee, int sex) {
@@ -59,7 +67,7 @@ const std::vector<std::int32_t>& LeagueCourseMatch::KelvaneCoursesNamed(const st
     const std::int32_t length = kelvane.CourseFileLength();
     for (std::int32_t number = 1; number <= length; ++number) {
       state_.files.Read(kelvane.CourseFileNumber(), number, course);
-      by_name[UpperCase(Trim(course.Get<"Name">()))].push_back(number);
+      if (HasTee(course)) by_name[UpperCase(Trim(course.Get<"Name">()))].push_back(number);
     }
     by_name_ = std::move(by_name);
   }

@@ -223,17 +223,12 @@ void CourseClass::SetIndex(double value) { index_.Set<"Index">(RoundToInt16(valu
 
 std::vector<std::int32_t> CourseClass::ActiveCoursesByName() {
   const std::int32_t length = CourseFileLength();
-  std::vector<std::int32_t> records(static_cast<std::size_t>(length));
-  for (std::int32_t record = 1; record <= length; ++record) {
-    records[static_cast<std::size_t>(record) - 1] = record;
-  }
   // The digests stand for a GetRecord of each record; the last one stays current.
-  digests_.Read(course_file_, length, records);
+  std::vector<std::int32_t> records = digests_.ReadActive(course_file_, length);
   if (length > 0) GetRecord(length);
   std::vector<std::pair<std::string, std::int32_t>> named;
   for (const std::int32_t record : records) {
-    const CourseDigest& course = *digests_.Find(record);
-    if (course.activeflag != 0) named.emplace_back(UpperCase(Trim(course.Name())), record);
+    named.emplace_back(UpperCase(Trim(digests_.Find(record)->Name())), record);
   }
   std::sort(named.begin(), named.end());  // equal names by their numbers: in file order
   records.clear();

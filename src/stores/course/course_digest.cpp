@@ -28,27 +28,44 @@ CourseDigest DigestOf(const std::array<char, kHeadLength>& head) {
 
 }  // namespace
 
-void CourseDigests::Read(int file_number, std::int32_t length, std::vector<std::int32_t> records) {
+void CourseDigests::Follow(int file_number) {
   const std::uint64_t generation = files_.Generation(file_number);
   if (file_number != file_number_ || generation != generation_) digests_.clear();
   file_number_ = file_number;
   generation_ = generation;
-  digests_.resize(static_cast<std::size_t>(length) + 1);
+}
+
+CourseDigest CourseDigests::ReadDigest(std::int32_t record) {
+  std::array<char, kHeadLength> head{};
+  files_.ReadBytes(file_number_, record, head);
+  return DigestOf(head);
+}
+
+void CourseDigests::Read(int file_number, std::int32_t length, std::vector<std::int32_t> records) {
+  Follow(file_number);
   std::sort(records.begin(), records.end());
   for (const std::int32_t record : records) {
-    if (record < 1 || record > length) continue;
-    auto& digest = digests_[static_cast<std::size_t>(record)];
-    if (digest) continue;
-    std::array<char, kHeadLength> head{};
-    files_.ReadBytes(file_number, record, head);
-    digest = DigestOf(head);
+    if (record < 1 || record > length || digests_.contains(record)) continue;
+    digests_.emplace(record, ReadDigest(record));
   }
 }
 
+std::vector<std::int32_t> CourseDigests::ReadActive(int file_number, std::int32_t length) {
+  Follow(file_number);
+  std::vector<std::int32_t> active;
+  for (std::int32_t record = 1; record <= length; ++record) {
+    const CourseDigest* held = Find(record);
+    const CourseDigest digest = held != nullptr ? *held : ReadDigest(record);
+    if (digest.activeflag == 0) continue;
+    digests_.emplace(record, digest);
+    active.push_back(record);
+  }
+  return active;
+}
+
 const CourseDigest* CourseDigests::Find(std::int32_t record) const {
-  const bool held = record >= 1 && record < static_cast<std::int64_t>(digests_.size());
-  const auto at = static_cast<std::size_t>(held ? record : 0);
-  return held && digests_[at] ? &*digests_[at] : nullptr;
+  const auto digest = digests_.find(record);
+  return digest == digests_.end() ? nullptr : &digest->second;
 }
 
 }  // namespace golf

@@ -2,8 +2,8 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "core/file_table.h"
@@ -31,12 +31,18 @@ class CourseDigests {
   // file, which holds `length` of them, is passed over.
   void Read(int file_number, std::int32_t length, std::vector<std::int32_t> records);
 
-  // The digest of a record that was read; null for a number that is no record.
+  // Goes over the whole file and gives the records in use, ascending; their digests are there then.
+  std::vector<std::int32_t> ReadActive(int file_number, std::int32_t length);
+
+  // The digest of a record that was read; null for any other number.
   const CourseDigest* Find(std::int32_t record) const;
 
  private:
+  void Follow(int file_number);
+  CourseDigest ReadDigest(std::int32_t record);
+
   FileTable& files_;
-  std::vector<std::optional<CourseDigest>> digests_;
+  std::unordered_map<std::int32_t, CourseDigest> digests_;  // by record
   int file_number_ = 0;
   std::uint64_t generation_ = 0;
 };

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <set>
+#include <vector>
 
 namespace golf {
 
@@ -17,11 +18,12 @@ class FreeGolferPlaces {
   // Tells what stands in a record, as it was read or has now been written.
   void Tell(std::int32_t record, std::int32_t id);
   // The first free record; behind the file if there is none.
-  std::int32_t First() const;
+  std::int32_t First();
 
  private:
   std::int32_t length_;
-  std::set<std::int32_t> free_;
+  std::vector<bool> free_;  // by record; a file may have millions of free ones
+  std::size_t lowest_ = 0;  // no free record lies below it
 };
 
 }  // namespace golf

@@ -126,7 +126,9 @@ std::int32_t TournamentPlayers::TourIndex1stPlayerOnTeam(int team, OptionalRound
 }
 
 std::int32_t TournamentPlayers::TourIndexPlayerbyTeam(std::int32_t i, OptionalRound round) const {
-  return ElementOf(OfRound(players_by_team_, RoundOr(round)), i);
+  const std::vector<std::int32_t>& players = OfRound(players_by_team_, RoundOr(round));
+  if (i < 0 || i > index_length_) FailIndex();
+  return i < static_cast<std::int32_t>(players.size()) ? players[static_cast<std::size_t>(i)] : 0;
 }
 
 void TournamentPlayers::RefreshIndex() {
@@ -137,10 +139,11 @@ void TournamentPlayers::IndexPlayersByTeam() {
   TournamentControl& tournament = state().TournamentRecord();
   const int teams = std::stoi(tournament.NumTeams());
   const std::int32_t length = TourFileLength();
-  for (auto& table : players_by_team_) table.assign(static_cast<std::size_t>(length) + 1, 0);
+  for (auto& table : players_by_team_) table.clear();
   for (auto& table : first_on_team_) table.assign(static_cast<std::size_t>(teams) + 1, 0);
   const int rounds = std::stoi(tournament.NumRounds());
   for (int round = 1; round <= rounds; ++round) IndexRound(round, teams, length);
+  index_length_ = length;
   index_stale_ = false;
 }
 
@@ -161,6 +164,7 @@ std::int32_t TournamentPlayers::SortedEntries(int round, int teams, std::int32_t
 
 void TournamentPlayers::IndexRound(int round, int teams, std::int32_t length) {
   index_count_ = SortedEntries(round, teams, length);
+  OfRound(players_by_team_, round).assign(static_cast<std::size_t>(index_count_) + 1, 0);
   int team_before = -1;
   for (std::int32_t place = 1; place <= index_count_; ++place) {
     const std::int32_t record = ElementOf(records_, place - 1);

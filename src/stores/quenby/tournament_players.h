@@ -120,7 +120,8 @@ class TournamentPlayers : public RosterPlayers {
   std::int32_t entry_held_ = 0;
   bool index_stale_ = true;
   std::int32_t index_count_ = 0;
-  // By round; places count from 1, and 0 stands for nobody.
+  std::int32_t index_length_ = -1;  // the highest place that may be asked for
+  // By round; places count from 1, and 0 stands for nobody. A list ends with its last golfer.
   std::array<std::vector<std::int32_t>, kRounds> players_by_team_;
   std::array<std::vector<std::int32_t>, kRounds> first_on_team_;
   std::vector<float> keys_;
