@@ -29,7 +29,11 @@ ExitCode RunGolfersKvToZd(const Options& options, const GolfersKvToZdRequest& re
     }
   };
   return RunTransferCommand(
-      options, {.name = "golfers-kv-to-zd", .screen = "KVtoZD", .work = work, .log = "Message"});
+      options, {.name = "golfers-kv-to-zd",
+                .screen = "KVtoZD",
+                .work = work,
+                .log = "Message",
+                .cancelled_by = CancellingAnswer{"Question", BoxButton::kNo, "--even-if-scored"}});
 }
 
 }  // namespace golf

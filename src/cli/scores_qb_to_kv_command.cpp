@@ -66,7 +66,9 @@ ExitCode RunScoresQbToKv(const Options& options, const ScoresQbToKvRequest& requ
                                       .screen = "QBtoKV",
                                       .work = work,
                                       .carries_on = true,
-                                      .log = "Message"});
+                                      .log = "Message",
+                                      .cancelled_by = CancellingAnswer{"Continue", BoxButton::kNo,
+                                                                       "--nine-into-eighteen"}});
 }
 
 }  // namespace golf

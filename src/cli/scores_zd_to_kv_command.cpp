@@ -44,7 +44,11 @@ ExitCode RunScoresZdToKv(const Options& options, const ScoresZdToKvRequest& requ
     }
   };
   return RunTransferCommand(
-      options, {.name = "scores-zd-to-kv", .screen = "ZDtoKV", .work = work, .log = "Message"});
+      options, {.name = "scores-zd-to-kv",
+                .screen = "ZDtoKV",
+                .work = work,
+                .log = "Message",
+                .cancelled_by = CancellingAnswer{"Cancel Transfer?", BoxButton::kYes, "--again"}});
 }
 
 }  // namespace golf

@@ -79,16 +79,31 @@ std::optional<ExitCode> Work(Application& application, HeadlessHost& host, Repor
   return std::nullopt;
 }
 
-ExitCode ExitCodeAfterRun(const HeadlessHost& host) {
+bool IsCancelled(const HeadlessHost& host, const TransferCommand& command) {
+  return command.cancelled_by &&
+         host.AnswerTo(command.cancelled_by->title) == command.cancelled_by->answer;
+}
+
+ExitCode ExitCodeAfterRun(const HeadlessHost& host, bool cancelled) {
   if (!host.faults().empty()) return ExitCodeOfFaults(host.faults());
   if (host.run_ended_by()) return ExitCodeOf(*host.run_ended_by());
-  return host.counts().empty() ? ExitCode::kRefused : ExitCode::kDone;
+  return cancelled || host.counts().empty() ? ExitCode::kRefused : ExitCode::kDone;
+}
+
+void TellCancelled(const HeadlessHost& host, const CancellingAnswer& question) {
+  std::string text = "The transfer was cancelled: \"" + std::string(question.title) +
+                     "\" was answered " + std::string(NameOf(question.answer)) + ". The option " +
+                     std::string(question.option) + " answers otherwise.\n";
+  std::int64_t done = 0;
+  for (const auto& [name, count] : host.counts()) done += count;
+  text += done == 0 ? "Nothing was transferred." : std::to_string(done) + " transferred before.";
+  TellProblem(text);
 }
 
 void WriteResult(const TransferCommand& command, const HeadlessHost& host) {
   Json result = {{"event", "result"}, {"transfer", command.name}};
   for (const auto& [name, count] : host.counts()) result[name] = count;
-  if (command.carries_on) result["faults"] = host.faults().size();
+  if (command.carries_on || !host.faults().empty()) result["faults"] = host.faults().size();
   WriteJsonLine(result);
 }
 
@@ -104,8 +119,10 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   host.clock = ClockOf(options);
   const auto failed = Work(*application, host, report, command);
   bar.Clear();
-  const ExitCode code = failed ? *failed : ExitCodeAfterRun(host);
+  const bool cancelled = IsCancelled(host, command);
+  const ExitCode code = failed ? *failed : ExitCodeAfterRun(host, cancelled);
   if (host.run_ended_by()) TellProblem(host.run_ended_by()->Report());
+  if (cancelled) TellCancelled(host, *command.cancelled_by);
   TellFaultCount(host.faults().size());
   if (options.json) {
     if (!host.counts().empty() && !failed) WriteResult(command, host);

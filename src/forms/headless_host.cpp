@@ -124,8 +124,14 @@ BoxButton HeadlessHost::ShowBox(const Box& box) {
     if (!button) NoteBadAnswer(box.title, *queued);
     answer = button.value_or(answer);
   }
+  answered_[box.title] = answer;
   listener_.OnMessage(box, answer);
   return answer;
+}
+
+std::optional<BoxButton> HeadlessHost::AnswerTo(std::string_view title) const {
+  const auto answered = answered_.find(title);
+  return answered == answered_.end() ? std::nullopt : std::optional(answered->second);
 }
 
 std::string HeadlessHost::ShowInputBox(const InputBox& box) {

@@ -60,6 +60,9 @@ class HeadlessHost : public HostBase {
   // pressed.
   bool Leave(Screen& screen);
 
+  // The last answer to a box with this title; nothing if none came.
+  std::optional<BoxButton> AnswerTo(std::string_view title) const;
+
   // What is wrong with an answer that was queued for one box, if it did not fit it; empty with
   // none. Such a box took its default, so that a run does not stop halfway.
   const std::string& bad_answer() const { return bad_answer_; }
@@ -102,6 +105,7 @@ class HeadlessHost : public HostBase {
   std::string taken_;
   bool answer_stands_ = false;  // the last one that was taken
   std::string bad_answer_;
+  std::map<std::string, BoxButton, std::less<>> answered_;  // by title
   std::string copied_;
 };
 

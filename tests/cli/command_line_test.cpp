@@ -84,6 +84,7 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
       {zd + "0x2 --roster CLUB18", 2, "0x2"},
       {zd + "2 --roster nine9", 1, "9 hole"},
       {zd + "2 --roster club18", 0, "...9 scores"},
+      {zd + "2 --roster club18", 1, "The option --again answers otherwise.\nNothing was"},
       {zd + "2 --roster club18 --again no", 0, "...0 scores"},
       {zd + "2 --roster club18 --again yes", 0, "83 - Ruth Farrow"},
       {qb + "3 --roster club18", 1, "has 2."},
@@ -186,6 +187,17 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   EXPECT_EQ(calder["TourCoursePlayedNumber"], 2);
   EXPECT_FALSE(folder.Exists("i/qbdata/X0001.Q9T"));
   EXPECT_EQ(folder.Read("i/qbdata/X0001.Q9G"), entries);
+}
+
+// What a spreadsheet or a terminal would obey, in the names of golfers.
+TEST_F(CommandLineTest, NamesAreNoCommands) {
+  std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
+  golfers.replace(golfers.find("Calder"), 6, "=\x7F+\x81 1");
+  folder.Write("i/qbdata/QBGOLFER.Q9D", golfers);
+  const std::string results = "--install i results players --tournament 1";
+  EXPECT_NE(Run(results + " --csv").out.find("\n\"'=?+? 1, "), std::string::npos);
+  EXPECT_NE(Run(results + " --json").out.find(R"("NameLF":"=\u007f+\u0081 1, )"),
+            std::string::npos);
 }
 
 TEST_F(CommandLineTest, ResultsOfTeams) {
