@@ -80,12 +80,11 @@ void LoadRosters::LoadList() {
   for (int column = 0; column <= grid1.columns(); ++column) grid1.SetText(column, 1, "");
   grid1.SetText(kNumberColumn, 1, "-1");
   grid1.SetText(kNameColumn, 1, "(Show ALL Rosters)");
-  grid1.SetRows(length + 1);
   int row = 1;
   for (std::int32_t roster = 1; roster <= length; ++roster) {
     program.GetRosterRecord(roster);
     if (!program.IsRosterActive()) continue;
-    ++row;
+    grid1.SetRows(++row);
     grid1.SetText(kNumberColumn, row, std::to_string(roster));
     grid1.SetText(kNameColumn, row, program.ClubName());
     for (int line = 1; line <= 3; ++line) {
@@ -93,7 +92,6 @@ void LoadRosters::LoadList() {
     }
     grid1.SetText(kPhoneColumn, row, program.ClubPhone());
   }
-  grid1.SetRows(row);
   GridSorter sorter(state());
   sorter.SetGridToSort(grid1);
   sorter.Sort({SortKey{kNameColumn}});
