@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "app/application.h"
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "whole_process.h"
 

@@ -16,7 +16,7 @@
 #include "app/application.h"
 #include "scored_install.h"
 #include "scoring/open_tournament.h"
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 #include "whole_process.h"
 
 namespace golf::bench {

@@ -6,7 +6,7 @@
 #include "cli/plain_text.h"
 #include "core/number_text.h"
 #include "core/text.h"
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "stores/quenby/program_class.h"

@@ -5,8 +5,8 @@
 #include "cli/commands.h"
 #include "core/code_page.h"
 #include "core/text.h"
-#include "stores/kelvane/screens/load_roster.h"
-#include "stores/quenby/screens/load_rosters.h"
+#include "screens/rosters/load_roster.h"
+#include "screens/rosters/load_rosters.h"
 #include "stores/zandel/zandel_files.h"
 
 namespace golf {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "forms/headless_host.h"
-#include "stores/zandel/screens/league_picker.h"
+#include "screens/rosters/league_picker.h"
 
 namespace golf {
 

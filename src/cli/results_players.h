@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/json_text.h"
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 
 namespace golf {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "cli/problems.h"
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 #include "scoring/tournament_class.h"
 
 namespace golf {

@@ -5,7 +5,7 @@
 #include "cli/json_text.h"
 #include "cli/results_command.h"
 #include "scoring/standings_table.h"
-#include "scoring/team_class.h"
+#include "scoring/team/team_class.h"
 
 namespace golf {
 

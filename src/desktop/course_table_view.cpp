@@ -2,7 +2,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "stores/course/screens/course_table.h"
+#include "screens/courses/course_table.h"
 
 namespace golf {
 namespace {

@@ -4,7 +4,7 @@
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "desktop/wx_text.h"
-#include "stores/course/screens/course_tee.h"
+#include "screens/courses/course_tee.h"
 
 namespace golf {
 namespace {

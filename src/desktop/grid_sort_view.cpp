@@ -1,7 +1,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "scoring/screens/grid_sort_screen.h"
+#include "screens/results/grid_sort_screen.h"
 
 namespace golf {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/screen_panel.h"
-#include "stores/zandel/screens/league_picker.h"
+#include "screens/rosters/league_picker.h"
 
 namespace golf {
 

@@ -2,7 +2,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "stores/kelvane/screens/load_roster.h"
+#include "screens/rosters/load_roster.h"
 
 namespace golf {
 namespace {

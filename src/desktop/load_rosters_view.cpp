@@ -2,7 +2,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "stores/quenby/screens/load_rosters.h"
+#include "screens/rosters/load_rosters.h"
 
 namespace golf {
 namespace {

@@ -3,7 +3,7 @@
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "desktop/wx_text.h"
-#include "scoring/screens/team_layout_builder.h"
+#include "screens/results/team_layout_builder.h"
 
 namespace golf {
 namespace {

@@ -1,7 +1,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "scoring/screens/team_layout_list.h"
+#include "screens/results/team_layout_list.h"
 
 namespace golf {
 

@@ -2,7 +2,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "scoring/screens/team_results_screen.h"
+#include "screens/results/team_results_screen.h"
 
 namespace golf {
 namespace {

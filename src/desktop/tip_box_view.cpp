@@ -6,7 +6,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "shell/tip_box.h"
+#include "screens/tip_box.h"
 
 namespace golf {
 namespace {

@@ -3,7 +3,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "shell/transfer_menu.h"
+#include "screens/transfer_menu.h"
 
 namespace golf {
 namespace {

@@ -1,7 +1,7 @@
 #include "scoring/open_tournament.h"
 
-#include "scoring/player_class.h"
-#include "scoring/team_class.h"
+#include "scoring/player/player_class.h"
+#include "scoring/team/team_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/course/course_class.h"
 

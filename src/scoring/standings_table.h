@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "scoring/custom_standings.h"
-#include "scoring/team_class.h"
+#include "scoring/layouts/custom_standings.h"
+#include "scoring/team/team_class.h"
 
 namespace golf {
 

@@ -1,7 +1,7 @@
 #include "scoring/tournament_class.h"
 
 #include "core/number_text.h"
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 
 namespace golf {
 

@@ -2,7 +2,7 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 #include "stores/kelvane/kelvane_buffers.h"
 
 namespace golf {

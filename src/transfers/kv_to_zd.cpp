@@ -7,9 +7,9 @@
 #include "core/number_text.h"
 #include "core/take_records.h"
 #include "core/text.h"
-#include "shell/settings_file.h"
+#include "screens/rosters/load_roster.h"
+#include "screens/settings_file.h"
 #include "stores/kelvane/kelvane_files.h"
-#include "stores/kelvane/screens/load_roster.h"
 #include "stores/zandel/zandel_files.h"
 #include "transfers/transfer_run.h"
 

@@ -6,7 +6,7 @@
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
-#include "stores/zandel/screens/league_picker.h"
+#include "screens/rosters/league_picker.h"
 
 namespace golf {
 

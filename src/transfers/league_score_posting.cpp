@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/text.h"
-#include "shell/tip_box.h"
+#include "screens/tip_box.h"
 #include "stores/kelvane/kelvane_halves.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "stores/zandel/zandel_buffers.h"

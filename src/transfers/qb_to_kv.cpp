@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "core/number_text.h"
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 #include "scoring/tournament_class.h"
-#include "shell/remembered_settings.h"
+#include "screens/remembered_settings.h"
 #include "stores/course/course_class.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "transfers/common_beginning.h"

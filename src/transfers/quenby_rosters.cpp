@@ -4,8 +4,8 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
+#include "screens/rosters/load_rosters.h"
 #include "stores/quenby/program_class.h"
-#include "stores/quenby/screens/load_rosters.h"
 
 namespace golf {
 namespace {

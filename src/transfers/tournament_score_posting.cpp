@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "core/number_text.h"
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/kelvane/kelvane_halves.h"
 #include "stores/kelvane/kelvane_scores.h"

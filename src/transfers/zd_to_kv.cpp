@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "core/text.h"
-#include "shell/remembered_settings.h"
+#include "screens/remembered_settings.h"
+#include "screens/rosters/load_roster.h"
 #include "stores/course/course_class.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "stores/kelvane/kelvane_golfer_index.h"
-#include "stores/kelvane/screens/load_roster.h"
 #include "stores/zandel/zandel_batches.h"
 #include "stores/zandel/zandel_files.h"
 #include "transfers/league_batch.h"

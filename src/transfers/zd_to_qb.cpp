@@ -6,8 +6,8 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
-#include "scoring/player_class.h"
-#include "shell/remembered_settings.h"
+#include "scoring/player/player_class.h"
+#include "screens/remembered_settings.h"
 #include "stores/quenby/free_golfer_places.h"
 #include "stores/zandel/zandel_files.h"
 #include "transfers/quenby_rosters.h"

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <tuple>
 
-#include "scoring/custom_balls.h"
+#include "scoring/layouts/custom_balls.h"
 
 namespace golf {
 namespace {

@@ -8,8 +8,8 @@
 #include <random>
 
 #include "app/application.h"
-#include "scoring/player_class.h"
-#include "scoring/team_class.h"
+#include "scoring/player/player_class.h"
+#include "scoring/team/team_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/quenby/program_class.h"
 #include "support/memory_platform.h"

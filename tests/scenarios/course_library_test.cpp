@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "app/tools.h"
-#include "stores/course/screens/course_form.h"
-#include "stores/course/screens/course_table.h"
-#include "stores/course/screens/course_tee.h"
+#include "screens/courses/course_form.h"
+#include "screens/courses/course_table.h"
+#include "screens/courses/course_tee.h"
 #include "support/bytes.h"
 #include "support/test_host.h"
 

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <numeric>
 
-#include "stores/kelvane/screens/load_roster.h"
+#include "screens/rosters/load_roster.h"
+#include "screens/rosters/load_rosters.h"
 #include "stores/quenby/program_class.h"
-#include "stores/quenby/screens/load_rosters.h"
 #include "support/bytes.h"
 #include "support/test_host.h"
 #include "transfers/kv_to_qb.h"

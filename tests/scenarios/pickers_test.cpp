@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "stores/kelvane/screens/load_roster.h"
-#include "stores/quenby/screens/load_rosters.h"
+#include "screens/rosters/load_roster.h"
+#include "screens/rosters/load_rosters.h"
 #include "support/bytes.h"
 #include "support/test_host.h"
 #include "transfers/kv_to_qb.h"

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
+#include "screens/rosters/load_roster.h"
 #include "stores/kelvane/kelvane_layouts.h"
-#include "stores/kelvane/screens/load_roster.h"
 #include "support/bytes.h"
 #include "support/scored_round.h"
 #include "support/test_host.h"

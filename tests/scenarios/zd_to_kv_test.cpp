@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "screens/rosters/load_roster.h"
 #include "stores/course/course_layout.h"
-#include "stores/kelvane/screens/load_roster.h"
 #include "support/league_test.h"
 
 namespace golf {

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "stores/quenby/screens/load_rosters.h"
+#include "screens/rosters/load_rosters.h"
 #include "support/league_test.h"
 
 namespace golf {

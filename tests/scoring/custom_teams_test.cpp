@@ -2,9 +2,9 @@
 
 #include <numeric>
 
-#include "scoring/custom_balls.h"
-#include "scoring/screens/team_layout_builder.h"
-#include "scoring/screens/team_layout_list.h"
+#include "scoring/layouts/custom_balls.h"
+#include "screens/results/team_layout_builder.h"
+#include "screens/results/team_layout_list.h"
 #include "support/quenby_test.h"
 
 namespace golf {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "scoring/screens/grid_sort_screen.h"
+#include "screens/results/grid_sort_screen.h"
 #include "support/error_of.h"
 #include "support/test_host.h"
 

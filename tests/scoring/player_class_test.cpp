@@ -1,4 +1,4 @@
-#include "scoring/player_class.h"
+#include "scoring/player/player_class.h"
 
 #include <gtest/gtest.h>
 

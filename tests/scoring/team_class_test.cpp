@@ -1,4 +1,4 @@
-#include "scoring/team_class.h"
+#include "scoring/team/team_class.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "shell/tip_box.h"
+#include "screens/tip_box.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "shell/transfer_menu.h"
+#include "screens/transfer_menu.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "scoring/player_class.h"
-#include "scoring/team_class.h"
+#include "scoring/player/player_class.h"
+#include "scoring/team/team_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/quenby/program_class.h"
 #include "support/bytes.h"

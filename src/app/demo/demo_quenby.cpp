@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "app/demo/demo_golfers.h"
-#include "scoring/player_class.h"
-#include "scoring/report_layout.h"
+#include "scoring/layouts/report_layout.h"
+#include "scoring/player/player_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/quenby/program_class.h"
 

@@ -1,0 +1,356 @@
+#include "scoring/layouts/custom_balls.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/number_text.h"
+#include "core/numbered_error.h"
+#include "scoring/checked_sums.h"
+#include "scoring/grid_sort.h"
+#include "scoring/tiebreak_keys.h"
+
+namespace golf {
+namespace {
+
+// The columns of the grid in which teams are ranked.
+constexpr int kTeamColumn = 0;
+constexpr int kFlightColumn = 1;
+constexpr int kResultColumn = 2;
+
+constexpr std::int32_t kNoBall = 1000;  // no ball that is so far from 0 counts
+
+// What a code of a layout asks for: the low or high balls, or the one of a number.
+struct BallCode {
+  char letter = 'N';
+  int count = 0;  // none but for the letters below
+};
+
+BallCode ParseBallCode(std::string_view code) {
+  constexpr std::string_view kLetters = "LHX";
+  constexpr std::string_view kCounts = "123456789ABC";
+  if (code.size() < 2 || kLetters.find(code[0]) == std::string_view::npos) return {};
+  const std::size_t count = kCounts.find(code.back());
+  if (count == std::string_view::npos) return {};
+  return {code[0], static_cast<int>(count) + 1};
+}
+
+enum class Kind { kGross, kNet };
+using Order = std::array<Kind, 2>;
+constexpr Order kGrossFirst = {Kind::kGross, Kind::kNet};
+constexpr Order kNetFirst = {Kind::kNet, Kind::kGross};
+
+BallTable ScoresOf(Kind kind) { return kind == Kind::kGross ? BallTable::kGross : BallTable::kNet; }
+BallTable PointsOf(Kind kind) {
+  return kind == Kind::kGross ? BallTable::kGrossPoints : BallTable::kNetPoints;
+}
+const std::string& CodeOf(const PlaceCodes& place, Kind kind) {
+  return kind == Kind::kGross ? place.GrossScoresToUse : place.NetScoresToUse;
+}
+
+bool Allows(BallMark mark, Kind kind) {
+  return mark == BallMark::kEither ||
+         mark == (kind == Kind::kGross ? BallMark::kGross : BallMark::kNet);
+}
+
+// Whether a golfer's balls of a kind may count on a hole: he is in the list of a place that takes
+// such balls.
+bool IsConsidered(const ReportLayout& layout, int hole, Kind kind, int golfer) {
+  for (int place = 0; place < kLayoutPlaces; ++place) {
+    const PlaceCodes& codes = layout.At(hole, place);
+    const bool listed = codes.ConsiderPlayers.find(std::to_string(golfer)) != std::string::npos;
+    if (listed && ParseBallCode(CodeOf(codes, kind)).count > 0) return true;
+  }
+  return false;
+}
+
+BallMark MarkOf(const ReportLayout& layout, int hole, int golfer) {
+  const bool gross = IsConsidered(layout, hole, Kind::kGross, golfer);
+  const bool net = IsConsidered(layout, hole, Kind::kNet, golfer);
+  if (gross && net) return BallMark::kEither;
+  if (gross || net) return gross ? BallMark::kGross : BallMark::kNet;
+  return BallMark::kNone;
+}
+
+void ClearMarks(TeamBalls& team, bool points) {
+  for (const Kind kind : kGrossFirst) {
+    for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
+      for (int column = 1; column <= kTableColumns; ++column) {
+        team.At(points ? PointsOf(kind) : ScoresOf(kind), golfer, column).mark = BallMark::kNone;
+      }
+    }
+  }
+}
+
+// One team's hole, while its balls are picked.
+class HolePicker {
+ public:
+  HolePicker(TeamBalls& team, const ReportLayout& layout, int hole)
+      : team_(team), layout_(layout), hole_(hole), column_(HoleColumn(hole)) {}
+
+  // Picks the balls of both kinds in this order, after taking back all that was picked before. A
+  // golfer's ball of one kind keeps out his ball of the other, unless the same one may be used. The
+  // sum of what counts.
+  std::int32_t Pick(const Order& order, bool same_ball) {
+    ClearPicks();
+    std::int32_t sum = 0;
+    used_.fill(false);
+    for (const Kind kind : order) {
+      if (same_ball) used_.fill(false);
+      for (int place = 0; place < kLayoutPlaces; ++place) {
+        sum = AddWhole(sum, PickPlace(kind, ParseBallCode(CodeOf(layout_.At(hole_, place), kind))));
+      }
+    }
+    return sum;
+  }
+
+ private:
+  void ClearPicks() {
+    for (const BallTable table : kBallTables) {
+      for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
+        team_.At(table, golfer, column_).selected = false;
+      }
+    }
+  }
+
+  std::int32_t PickPlace(Kind kind, const BallCode& code) {
+    std::int32_t sum = 0;
+    for (int pick = 1; pick <= code.count; ++pick) {
+      const int golfer = BestGolfer(kind, code.letter);
+      if (golfer == 0) break;
+      Used(golfer) = true;
+      // Of a numbered ball the better ones only use up their golfers.
+      if (code.letter == 'X' && pick != code.count) continue;
+      Ball& ball = team_.At(ScoresOf(kind), golfer, column_);
+      ball.selected = team_.At(PointsOf(kind), golfer, column_).selected = true;
+      sum = AddWhole(sum, *ball.value);
+    }
+    return sum;
+  }
+
+  // The best ball is the lowest one, or the highest where high balls are asked for; of equal ones
+  // the first golfer's. 0 for none.
+  int BestGolfer(Kind kind, char letter) {
+    int best = 0;
+    for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
+      const Ball& ball = team_.At(ScoresOf(kind), golfer, column_);
+      if (!ball.value || !Allows(ball.mark, kind) || Used(golfer)) continue;
+      if (letter == 'H' ? *ball.value <= -kNoBall : *ball.value >= kNoBall) continue;
+      if (best == 0 || IsBetter(kind, letter, golfer, best)) best = golfer;
+    }
+    return best;
+  }
+
+  // Between equal net balls the strokes decide: fewer for a low ball, more for a high one.
+  bool IsBetter(Kind kind, char letter, int golfer, int than) {
+    const std::int32_t value = *team_.At(ScoresOf(kind), golfer, column_).value;
+    const std::int32_t other = *team_.At(ScoresOf(kind), than, column_).value;
+    if (value != other) return letter == 'H' ? value > other : value < other;
+    if (kind == Kind::kGross || letter == 'X') return false;
+    const std::int32_t strokes = Strokes(golfer);
+    return letter == 'H' ? strokes > Strokes(than) : strokes < Strokes(than);
+  }
+
+  std::int32_t Strokes(int golfer) {
+    const auto gross = team_.At(BallTable::kGross, golfer, column_).value;
+    return gross.value_or(0) - *team_.At(BallTable::kNet, golfer, column_).value;
+  }
+
+  bool& Used(int golfer) { return used_[static_cast<std::size_t>(golfer) - 1]; }
+
+  TeamBalls& team_;
+  const ReportLayout& layout_;
+  int hole_;
+  int column_;
+  std::array<bool, kMostGolfersWithBalls> used_{};
+};
+
+template <class Action>
+void ForEachHole(const HoleSpan& holes, Action action) {
+  const int first = holes.hole.value_or(holes.first_block * kHoles - kHoles + 1);
+  const int last = holes.hole.value_or(holes.last_block * kHoles);
+  for (int hole = std::max(first, 1); hole <= std::min(last, kLayoutHoles); ++hole) action(hole);
+}
+
+}  // namespace
+
+TeamBalls::Sum AddSums(const TeamBalls::Sum& a, const TeamBalls::Sum& b) {
+  if (!a || !b) return a ? a : b;
+  return AddWhole(*a, *b);
+}
+
+TeamBalls::Sum TeamBalls::Score(int column) const {
+  return AddSums(SumAt(BallTable::kGross, column), SumAt(BallTable::kNet, column));
+}
+
+TeamBalls::Sum TeamBalls::Points(int column) const {
+  return AddSums(SumAt(BallTable::kGrossPoints, column), SumAt(BallTable::kNetPoints, column));
+}
+
+void CustomBalls::XBallInitializeTeamGrid(int teams) {
+  SetTables(std::vector<TeamBalls>(static_cast<std::size_t>(teams)));
+}
+
+void CustomBalls::SetTables(std::vector<TeamBalls> teams) {
+  teams_ = std::move(teams);
+  positions_.assign(teams_.size(), {});
+}
+
+const TeamBalls& CustomBalls::Team(int team) const {
+  if (team < 1 || team > teams()) {
+    throw NumberedError(ErrorNumber::kSubscript, "The tables have no such team.");
+  }
+  return teams_[static_cast<std::size_t>(team) - 1];
+}
+
+TeamBalls& CustomBalls::Team(int team) {
+  return const_cast<TeamBalls&>(std::as_const(*this).Team(team));
+}
+
+void CustomBalls::PopulateTeamGridwithManualData(int team, BallTable table,
+                                                 const std::vector<std::vector<int>>& values) {
+  TeamBalls& balls = Team(team);
+  for (std::size_t i = 0; i < std::min<std::size_t>(values.size(), kMostGolfersWithBalls); ++i) {
+    for (std::size_t j = 0; j < std::min<std::size_t>(values[i].size(), kLayoutHoles); ++j) {
+      balls.At(table, static_cast<int>(i) + 1, HoleColumn(static_cast<int>(j) + 1)).value =
+          values[i][j];
+    }
+  }
+}
+
+void CustomBalls::XBallConsiderWhichScores(bool points, const HoleSpan& holes) {
+  for (TeamBalls& team : teams_) ClearMarks(team, points);
+  ForEachHole(holes, [&](int hole) {
+    for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
+      MarkBalls(points, hole, golfer, MarkOf(layout_, hole, golfer));
+    }
+  });
+}
+
+// Those of a golfer's place in all teams.
+void CustomBalls::MarkBalls(bool points, int hole, int golfer, BallMark mark) {
+  const int column = HoleColumn(hole);
+  for (TeamBalls& team : teams_) {
+    for (const Kind kind : kGrossFirst) {
+      Ball& ball = team.At(points ? PointsOf(kind) : ScoresOf(kind), golfer, column);
+      if (ball.value) ball.mark = mark;
+    }
+  }
+}
+
+void CustomBalls::XBallCalculateTeamScore(const HoleSpan& holes) {
+  for (TeamBalls& team : teams_) {
+    ForEachHole(holes, [&](int hole) { CountHole(team, hole); });
+    AddBlocks(team);
+  }
+}
+
+void CustomBalls::CountHole(TeamBalls& team, int hole) const {
+  const bool same_ball = layout_.BallSelectionOption == "S";
+  HolePicker picker(team, layout_, hole);
+  if (!same_ball && layout_.BallSelection == "B") {
+    const std::int32_t gross_first = picker.Pick(kGrossFirst, false);
+    if (gross_first <= picker.Pick(kNetFirst, false)) picker.Pick(kGrossFirst, false);
+  } else {
+    picker.Pick(layout_.BallSelection == "N" ? kNetFirst : kGrossFirst, same_ball);
+  }
+  const int column = HoleColumn(hole);
+  for (const BallTable table : kBallTables) {
+    TeamBalls::Sum& sum = team.SumAt(table, column);
+    sum.reset();
+    for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
+      const Ball& ball = team.At(table, golfer, column);
+      if (ball.selected) sum = AddSums(sum, ball.value);
+    }
+  }
+}
+
+void CustomBalls::AddBlocks(TeamBalls& team) {
+  for (const BallTable table : kBallTables) {
+    TeamBalls::Sum running;
+    for (int block = 1; block <= kBlocks; ++block) {
+      std::array<TeamBalls::Sum, 2> nines;
+      for (int hole = 1; hole <= kHoles; ++hole) {
+        TeamBalls::Sum& nine = nines[hole > 9 ? 1 : 0];
+        nine = AddSums(nine, team.SumAt(table, HoleColumn((block - 1) * kHoles + hole)));
+      }
+      const TeamBalls::Sum total = AddSums(nines[0], nines[1]);
+      running = AddSums(running, total);
+      team.SumAt(table, SumColumn(block, 1)) = nines[0];
+      team.SumAt(table, SumColumn(block, 2)) = nines[1];
+      team.SumAt(table, SumColumn(block, 3)) = total;
+      team.SumAt(table, SumColumn(block, 4)) = running;
+    }
+  }
+}
+
+void CustomBalls::FillStandings(Grid& grid, bool points, int column,
+                                const std::vector<std::string>& flights) const {
+  for (int row = 1; row <= teams(); ++row) {
+    const TeamBalls::Sum value = points ? Team(row).Points(column) : Team(row).Score(column);
+    grid.SetText(kTeamColumn, row, std::to_string(row));
+    grid.SetText(kFlightColumn, row, flights.at(static_cast<std::size_t>(row) - 1));
+    grid.SetText(kResultColumn, row, value ? std::to_string(*value) : "");
+  }
+}
+
+void CustomBalls::XBallSortTeamStandings(const SharedState& state, const RankingOrder& order,
+                                         int position_option,
+                                         const std::vector<std::string>& flights) {
+  constexpr int kDense = 1;  // of the tournament's two ways to number places
+  Grid grid("tgrid", kResultColumn);
+  grid.SetSortKind(kResultColumn, SortKind::kValue);
+  grid.SetRows(teams());
+  GridSorter sorter(state);
+  sorter.SetGridToSort(grid);
+  const SortKey result{kResultColumn,
+                       order.points ? SortOrder::kDescending : SortOrder::kAscending};
+  const SortKey first = order.by_flight ? SortKey{kFlightColumn, SortOrder::kAscending} : result;
+  for (int block = 1; block <= kBlocks; ++block) {
+    for (int sum = 1; sum <= kSumsOfBlock; ++sum) {
+      FillStandings(grid, order.points, SumColumn(block, sum), flights);
+      sorter.Sort({first, result, result});
+      sorter.CalculatePositions(1, teams(),
+                                order.by_flight ? PositionMode::kGroups : PositionMode::kOneKey);
+      for (int row = 1; row <= teams(); ++row) {
+        const auto team = static_cast<std::size_t>(std::stoi(grid.text(kTeamColumn, row)));
+        positions_[team - 1][sum][block] = position_option == kDense
+                                               ? sorter.PositionNumber122334(row)
+                                               : sorter.PositionNumber122446(row);
+      }
+    }
+  }
+}
+
+int CustomBalls::position(int row, int column, int block) const {
+  Team(row);
+  return positions_[static_cast<std::size_t>(row) - 1][column][block];
+}
+
+std::array<std::string, 4> CustomBalls::TiebreakKeys(
+    int team, int round, int round_type, const std::vector<int>& holes_by_strokes) const {
+  constexpr int kNine = 9;
+  const TeamBalls& balls = Team(team);
+  const int before = (round - 1) * kHoles + (round_type == kNine ? 0 : kNine);
+  const auto score = [&](int hole) { return balls.Score(HoleColumn(before + hole)).value_or(0); };
+  const std::int32_t total = balls.Score(SumColumn(round, 3)).value_or(0);
+  constexpr std::string_view kTotal = "0000";
+  std::string last = FormatNumber(total, kTotal);
+  constexpr std::pair<int, std::string_view> kLast[] = {
+      {9, "000"}, {6, "000"}, {3, "00"}, {1, "00"}};
+  for (const auto& [count, pattern] : kLast) {
+    std::int32_t sum = 0;
+    for (int hole = kNine - count + 1; hole <= kNine; ++hole) sum = AddWhole(sum, score(hole));
+    last += "," + FormatNumber(sum, pattern);
+  }
+  std::vector<int> by_strokes;  // those of the nine
+  const int first = round_type == kNine ? 0 : kNine;
+  for (const int hole : holes_by_strokes) {
+    if (hole > first && hole <= first + kNine) by_strokes.push_back(hole - first);
+  }
+  const auto key = [&](const std::vector<int>& holes) {
+    return HoleByHoleKey(total, holes, score, kTotal);
+  };
+  return {last, key(by_strokes), key(HolesForward(kNine)), key(HolesBackward(kNine))};
+}
+
+}  // namespace golf

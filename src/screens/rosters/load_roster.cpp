@@ -1,0 +1,197 @@
+#include "screens/rosters/load_roster.h"
+
+#include "core/file_name.h"
+#include "core/general_routines.h"
+#include "core/resume_next.h"
+#include "core/text.h"
+#include "stores/kelvane/kelvane_files.h"
+
+namespace golf {
+namespace {
+
+constexpr int kListedFile = 99;
+constexpr std::string_view kExtension = ".KV5";
+constexpr int kTypeColumn = 1;
+constexpr int kNameColumn = 2;
+
+// The holes of a roster, 0 where its header cannot be read. The header is in the buffer then.
+int HolesOf(SharedState& state, const std::string& file_name) {
+  auto& header = state.Kelvane().header;
+  header = {};
+  const ResumeNext anyway(nullptr);
+  anyway([&] {
+    state.files.Open(kListedFile, state.KVDataPath + file_name, KelvaneHeaderLayout::kLength);
+    state.files.Read(kListedFile, 1, header);
+  });
+  state.files.Close(kListedFile);
+  return header.Get<"Holes">();
+}
+
+}  // namespace
+
+LoadRoster::LoadRoster(const ScreenContext& context) : Screen("LoadRoster", context) {
+  SetCaption("Rosters");
+  Add({&Label1, &DataPathLabel, &grid1, &LoadButton, &NewButton, &DeleteButton, &RepairButton,
+       &CancelButton, &NewRosterFrame});
+  AddInto(NewRosterFrame, {&InputTitle, &NameLabel, &NewRosterName, &OK2Button, &Cancel2Button});
+  grid1.SetHeading(kTypeColumn, "Type");
+  grid1.SetHeading(kNameColumn, "  Roster Name");
+  grid1.SetHidden(0, true);
+  for (int column = 0; column <= grid1.columns(); ++column) grid1.LockColumn(column, true);
+  RepairButton.SetVisible(false);
+  ShowNewRosterFrame(false);
+  NewRosterName.key_filter = [](char key) { return FilterKey(key, kKeyAllowsBlank); };
+  grid1.on_double_click = [this] { Pick(); };
+  LoadButton.on_click = [this] { Pick(); };
+  NewButton.on_click = [this] { AskForNew(); };
+  DeleteButton.on_click = [this] { AskToDelete(); };
+  CancelButton.on_click = [this] { host().Unload(*this); };
+  OK2Button.on_click = [this] { MakeNew(); };
+  Cancel2Button.on_click = [this] { ShowNewRosterFrame(false); };
+}
+
+void LoadRoster::OnLoad() {
+  DataPathLabel.SetCaption(state().KVDataPath);
+  FillList();
+}
+
+void LoadRoster::OnActivate() {
+  if (!OpensOnly()) return;
+  NewButton.SetVisible(false);
+  DeleteButton.SetVisible(false);
+}
+
+Button* LoadRoster::PanelLeaveButton() {
+  return NewRosterFrame.visible() ? &Cancel2Button : nullptr;
+}
+
+void LoadRoster::FillList() {
+  const auto names = state().files.FilesLike(state().KVDataPath, "*" + std::string(kExtension));
+  grid1.SetRepainting(false);
+  grid1.SetRows(0);
+  grid1.SetRows(static_cast<int>(names.size()));
+  int row = 0;
+  for (const std::string& file_name : names) {
+    const std::string name = UpperCase(file_name);
+    ++row;
+    grid1.SetText(kTypeColumn, row, std::to_string(HolesOf(state(), name)) + " hole");
+    grid1.SetText(kNameColumn, row, name.substr(0, name.size() - kExtension.size()));
+  }
+  grid1.SetRepainting(true);
+}
+
+std::string LoadRoster::SelectedName() const {
+  return grid1.active_row() == 0 ? std::string() : grid1.text(kNameColumn, grid1.active_row());
+}
+
+void LoadRoster::Pick() {
+  const std::string name = SelectedName();
+  if (IsBlankText(name)) {
+    const bool none = grid1.active_row() == 0;
+    host().Ask(Box{.title = "Load Roster",
+                   .text = none ? "Select Roster to Load." : "Select a roster to load"});
+    return;
+  }
+  state().KVRosterName = name;
+  LoadKVSystemFile(state());
+  state().Kelvane().system.Set<"RosterName">(name);
+  CloseKVFiles(state());
+  host().Unload(*this);
+}
+
+void LoadRoster::AskForNew() {
+  const BoxButton answer = host().Ask(Box{.title = "New Roster",
+                                          .text = "Start a new roster?",
+                                          .buttons = {BoxButton::kYes, BoxButton::kNo},
+                                          .default_button = 1});
+  if (answer != BoxButton::kYes) return;
+  NewRosterName.SetText("");
+  ShowNewRosterFrame(true);
+  MoveFocus(&NewRosterName);
+}
+
+void LoadRoster::ShowNewRosterFrame(bool shown) {
+  NewRosterFrame.SetVisible(shown);
+  grid1.SetVisible(!shown);
+  LoadButton.SetVisible(!shown);
+  CancelButton.SetVisible(!shown);
+  NewButton.SetVisible(!shown && !OpensOnly());
+  DeleteButton.SetVisible(!shown && !OpensOnly());
+  LoadButton.SetDefault(!shown);
+  CancelButton.SetCancel(!shown);
+  OK2Button.SetDefault(shown);
+  Cancel2Button.SetCancel(shown);
+}
+
+void LoadRoster::MakeNew() {
+  const std::string& name = NewRosterName.text();
+  if (name.empty()) {
+    host().Ask(Box{.title = "Notice", .text = "You did not enter a name for your roster."});
+    return;
+  }
+  const std::string fault = FileNameFault(name);
+  if (!fault.empty()) {
+    host().Ask(Box{.title = "Notice", .text = "A roster name " + fault});
+    return;
+  }
+  const std::string path = state().KVDataPath + name + ".kv5";
+  if (state().files.FileExists(path)) {
+    host().Ask(Box{.title = "Can't Replace Roster",
+                   .text = "First DELETE roster " + name + "\rif you what to replace it."});
+    return;
+  }
+  const std::string kind =
+      host().Ask(InputBox{.title = "What kind of roster?",
+                          .text = "Type '18' if you are using this roster to calculate 18 hole "
+                                  "handicaps.\rType '9' if you are using this roster to calculate "
+                                  "9 hole handicaps.",
+                          .default_answer = "18"});
+  if (kind != "18" && kind != "9") {
+    host().Ask(Box{.title = "Message", .text = "Invalid type roster.  Cannot create."});
+    return;
+  }
+  state().KVRosterName = name;
+  CloseKVFiles(state());
+  state().files.Open(kKelvaneHeaderFile, path, KelvaneHeaderLayout::kLength);
+  BuildBlankKVHeader(state(), kind == "9" ? 9 : 18);
+  state().files.Write(kKelvaneHeaderFile, 1, state().Kelvane().header);
+  ShowNewRosterFrame(false);
+  FillList();
+  for (int row = 1; row <= grid1.rows(); ++row) {
+    if (EqualIgnoringCase(grid1.text(kNameColumn, row), name)) grid1.SetActiveRow(row);
+  }
+}
+
+void LoadRoster::AskToDelete() {
+  const std::string name = SelectedName();
+  if (grid1.active_row() == 0) {
+    host().Ask(Box{.title = "DELETE Roster", .text = "Select roster to delete."});
+    return;
+  }
+  const std::string answer =
+      host().Ask(InputBox{.title = "DELETE Roster?",
+                          .text = "Type 'YES' to DELETE roster - '" + name + "'.",
+                          .default_answer = "NO"});
+  if (MeansYes(answer)) Delete(name);
+}
+
+void LoadRoster::Delete(const std::string& name) {
+  const bool current = EqualIgnoringCase(name, state().KVRosterName);
+  if (current) {
+    const BoxButton sure =
+        host().Ask(Box{.title = "Delete roster?",
+                       .text = "Your are currently viewing this roster.  Are you sure you want to "
+                               "delete it?",
+                       .buttons = {BoxButton::kYes, BoxButton::kNo},
+                       .default_button = 1});
+    if (sure != BoxButton::kYes) return;
+  }
+  CloseKVFiles(state());
+  for (const char* extension : {".kvg", ".kvx", ".kvs", ".kv5"}) {
+    state().files.DeleteFile(state().KVDataPath + name + extension);
+  }
+  FillList();
+  if (current) CancelButton.Click();
+}
+
+}  // namespace golf

@@ -1,0 +1,238 @@
+#include "screens/rosters/load_rosters.h"
+
+#include <utility>
+
+#include "core/number_text.h"
+#include "core/resume_next.h"
+#include "core/text.h"
+#include "scoring/grid_sort.h"
+#include "scoring/player/player_class.h"
+#include "stores/quenby/program_class.h"
+
+namespace golf {
+namespace {
+
+constexpr int kNumberColumn = 0;
+constexpr int kNameColumn = 1;
+constexpr int kAddressColumns[] = {2, 3, 4};
+constexpr int kPhoneColumn = 5;
+constexpr int kMemberships = 3;
+
+}  // namespace
+
+LoadRosters::LoadRosters(const ScreenContext& context) : Screen("LoadRosters", context) {
+  SetCaption("Rosters");
+  Add({&DataPathLabel, &FilterLabel, &grid1, &ButtonFrame});
+  AddInto(ButtonFrame, {&LoadButton, &NewButton, &EditButton, &DeleteButton, &RepairButton, &Help,
+                        &CancelButton});
+  Add({&AddEditRosterFrame});
+  for (std::size_t i = 0; i < Text1.size(); ++i) {
+    AddInto(AddEditRosterFrame, {&FieldName[i], &Text1[i]});
+  }
+  AddInto(AddEditRosterFrame, {&AddEditRosterOK, &AddRosterCancel, &EditRosterCancel});
+  for (std::size_t i = 0; i < FieldName.size(); ++i) {
+    grid1.SetHeading(kNameColumn + static_cast<int>(i), FieldName[i].caption());
+  }
+  grid1.SetHidden(kNumberColumn, true);
+  for (int column = 0; column <= grid1.columns(); ++column) grid1.LockColumn(column, true);
+  RepairButton.SetVisible(false);
+  LeavePanel();
+
+  grid1.on_row_change = [this] { ShowRowButtons(); };
+  grid1.on_double_click = [this] { Pick(); };
+  LoadButton.on_click = [this] { Pick(); };
+  NewButton.on_click = [this] { BeginNew(); };
+  EditButton.on_click = [this] { BeginEdit(); };
+  DeleteButton.on_click = [this] { AskToDelete(); };
+  Help.on_click = [this] {
+    host().Ask(Box{.title = "Rosters",
+                   .text = "Pick the roster that the golfers are to join and press Load Roster.\r"
+                           "\"(Show ALL Rosters)\" puts them on no roster.",
+                   .icon = BoxIcon::kInformation});
+  };
+  CancelButton.on_click = [this] { host().Hide(*this); };
+  AddEditRosterOK.on_click = [this] { Store(); };
+  AddRosterCancel.on_click = [this] { CancelNew(); };
+  EditRosterCancel.on_click = [this] { CancelEdit(); };
+}
+
+void LoadRosters::OnActivate() {
+  // Deleting a roster needs the golfers.
+  if (DeleteButton.enabled() && !state().Player().IsRosterFileOpen()) {
+    const ResumeNext without([this](const NumberedError&) { DeleteButton.SetEnabled(false); });
+    without([this] { state().Player().OpenRosterFile(); });
+  }
+  DataPathLabel.SetCaption(state().StoreDataPath);
+  LeavePanel();
+  LoadList();
+}
+
+Button* LoadRosters::PanelLeaveButton() {
+  if (!AddEditRosterFrame.visible()) return nullptr;
+  return AddRosterCancel.visible() ? &AddRosterCancel : &EditRosterCancel;
+}
+
+void LoadRosters::LoadList() {
+  ProgramClass& program = state().Program();
+  const std::int32_t length = program.RosterListFileLength();
+  grid1.SetRepainting(false);
+  grid1.SetRows(1);
+  for (int column = 0; column <= grid1.columns(); ++column) grid1.SetText(column, 1, "");
+  grid1.SetText(kNumberColumn, 1, "-1");
+  grid1.SetText(kNameColumn, 1, "(Show ALL Rosters)");
+  int row = 1;
+  for (std::int32_t roster = 1; roster <= length; ++roster) {
+    program.GetRosterRecord(roster);
+    if (!program.IsRosterActive()) continue;
+    grid1.SetRows(++row);
+    grid1.SetText(kNumberColumn, row, std::to_string(roster));
+    grid1.SetText(kNameColumn, row, program.ClubName());
+    for (int line = 1; line <= 3; ++line) {
+      grid1.SetText(kAddressColumns[line - 1], row, program.ClubAddress(line));
+    }
+    grid1.SetText(kPhoneColumn, row, program.ClubPhone());
+  }
+  GridSorter sorter(state());
+  sorter.SetGridToSort(grid1);
+  sorter.Sort({SortKey{kNameColumn}});
+  grid1.SetRepainting(true);
+  grid1.SetActiveRow(1);  // runs ShowRowButtons
+}
+
+void LoadRosters::ShowRowButtons() {
+  // The entry of all rosters is the first row, but for names that sort ahead of it.
+  const bool is_roster = grid1.active_row() > 1 && RosterInHand() > 0;
+  EditButton.SetVisible(is_roster);
+  DeleteButton.SetVisible(is_roster);
+}
+
+std::int32_t LoadRosters::RosterInHand() const {
+  return RoundToInt32(LeadingNumber(grid1.text(kNumberColumn, grid1.active_row())));
+}
+
+void LoadRosters::Pick() {
+  state().Program().SetActiveRoster(RosterInHand());
+  host().Hide(*this);
+}
+
+std::int32_t LoadRosters::FreeRosterNumber() {
+  ProgramClass& program = state().Program();
+  const std::int32_t length = program.RosterListFileLength();
+  for (std::int32_t roster = 1; roster <= length; ++roster) {
+    program.GetRosterRecord(roster);
+    if (!program.IsRosterActive()) return roster;
+  }
+  return length + 1;
+}
+
+void LoadRosters::BeginNew() {
+  const BoxButton answer = host().Ask(Box{.title = "New Roster",
+                                          .text = "Start a new roster?",
+                                          .buttons = {BoxButton::kYes, BoxButton::kNo},
+                                          .default_button = 1});
+  if (answer != BoxButton::kYes) return;
+  const std::int32_t roster = FreeRosterNumber();
+  grid1.SetRows(grid1.rows() + 1);
+  grid1.SetText(kNumberColumn, grid1.rows(), std::to_string(roster));
+  grid1.SetActiveRow(grid1.rows());
+  for (TextBox& text : Text1) text.SetText("");
+  EnterPanel(AddRosterCancel);
+}
+
+void LoadRosters::BeginEdit() {
+  for (std::size_t i = 0; i < Text1.size(); ++i) {
+    Text1[i].SetText(grid1.text(kNameColumn + static_cast<int>(i), grid1.active_row()));
+  }
+  EnterPanel(EditRosterCancel);
+}
+
+// The panel's buttons are the only ways out of it; the row in hand must not change under it.
+void LoadRosters::EnterPanel(Button& cancel) {
+  ButtonFrame.SetVisible(false);
+  grid1.SetEnabled(false);
+  AddEditRosterFrame.SetVisible(true);
+  LoadButton.SetDefault(false);
+  CancelButton.SetCancel(false);
+  AddEditRosterOK.SetDefault(true);
+  for (Button* button : {&AddRosterCancel, &EditRosterCancel}) {
+    button->SetVisible(button == &cancel);
+    button->SetCancel(button == &cancel);
+  }
+  MoveFocus(&Text1[0]);
+}
+
+void LoadRosters::LeavePanel() {
+  AddEditRosterFrame.SetVisible(false);
+  AddEditRosterOK.SetDefault(false);
+  for (Button* button : {&AddRosterCancel, &EditRosterCancel}) button->SetCancel(false);
+  LoadButton.SetDefault(true);
+  CancelButton.SetCancel(true);
+  grid1.SetEnabled(true);
+  ButtonFrame.SetVisible(true);
+}
+
+void LoadRosters::Store() {
+  if (Trim(Text1[0].text()).empty()) {
+    host().Ask(Box{.title = "Notice", .text = "You did not enter a name for your roster."});
+    return;
+  }
+  LeavePanel();
+  ProgramClass& program = state().Program();
+  const std::int32_t roster = RosterInHand();
+  program.GetRosterRecord(roster);
+  program.SetIsRosterActive(true);
+  program.SetClubName(Text1[0].text());
+  for (int line = 1; line <= 3; ++line) {
+    program.SetClubAddress(line, Text1[static_cast<std::size_t>(line)].text());
+  }
+  program.SetClubPhone(Text1[4].text());
+  program.SaveRosterRecord(roster);
+  LoadList();
+}
+
+void LoadRosters::CancelNew() {
+  LeavePanel();
+  grid1.SetRows(grid1.rows() - 1);
+  grid1.SetActiveRow(grid1.rows());
+  MoveFocus(&grid1);
+}
+
+void LoadRosters::CancelEdit() {
+  LeavePanel();
+  MoveFocus(&grid1);
+}
+
+void LoadRosters::AskToDelete() {
+  ProgramClass& program = state().Program();
+  const std::int32_t roster = RosterInHand();
+  program.GetRosterRecord(roster);
+  const std::string answer =
+      host().Ask(InputBox{.title = "DELETE Roster?",
+                          .text = "Type 'YES' to DELETE roster - '" + program.ClubName() +
+                                  "'.\r\rAll players in this roster will be deleted.",
+                          .default_answer = "NO"});
+  if (MeansYes(answer)) {
+    program.DeleteRosterRecord(roster);
+    TakeGolfersOut(roster);
+  }
+  LoadList();
+}
+
+// A golfer who is then on no roster is gone for good.
+void LoadRosters::TakeGolfersOut(std::int32_t roster) {
+  TournamentPlayers& player = state().Player();
+  const std::int32_t length = player.RosterFileLength();
+  for (std::int32_t record = 1; record <= length; ++record) {
+    player.GetRecord(record, false);
+    for (int slot = 1; slot <= kMemberships; ++slot) {
+      if (player.Rosters(slot) != roster) continue;
+      player.SetRosters(slot, 0);
+      if (player.Rosters(1) <= 0 && player.Rosters(2) <= 0 && player.Rosters(3) <= 0) {
+        player.SetIDNum(kNeverAgain);
+      }
+      player.SaveRecord(record, false);
+    }
+  }
+}
+
+}  // namespace golf

@@ -1,0 +1,116 @@
+#include "screens/transfer_menu.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "core/resume_next.h"
+
+namespace golf {
+namespace {
+
+// A sibling as the menu speaks of it: its name, where its data lie, and how to start it again.
+struct Sibling {
+  std::string_view name;
+  std::string SharedState::*folder;
+  std::string_view word;  // on the command line
+  std::string_view program;
+};
+
+constexpr Sibling kKelvane{"Kelvane", &SharedState::KVDataPath, "KV", "KVM.EXE"};
+constexpr Sibling kQuenby{"Quenby", &SharedState::QBDataPath, "QB", "QB.EXE"};
+constexpr Sibling kZandel{"Zandel", &SharedState::ZDDataPath, "ZD", "ZD.EXE"};
+
+constexpr const Sibling* kSiblings[] = {&kZandel, &kQuenby, &kKelvane};
+
+struct TransferEntry {
+  Button TransferMenu::*button;
+  std::string_view screen;
+  const Sibling* first;
+  const Sibling* second;
+};
+
+constexpr TransferEntry kTransfers[] = {
+    {&TransferMenu::KVCoursestoQBButton, "KVCoursestoQB", &kKelvane, &kQuenby},
+    {&TransferMenu::KVtoQBButton, "KVtoQB", &kKelvane, &kQuenby},
+    {&TransferMenu::KVtoZDButton, "KVtoZD", &kKelvane, &kZandel},
+    {&TransferMenu::ZDtoQBButton, "ZDtoQB", &kZandel, &kQuenby},
+    {&TransferMenu::QBtoKVButton, "QBtoKV", &kKelvane, &kQuenby},
+    {&TransferMenu::ZDtoKVButton, "ZDtoKV", &kZandel, &kKelvane},
+};
+
+bool CheckProgram(SharedState& state, ScreenHost& host, const Sibling& sibling) {
+  if (state.files.platform().FolderExists(state.*sibling.folder)) return true;
+  host.Ask(Box{.title = "Notice",
+               .text = "Cannot transfer data because the " + std::string(sibling.name) +
+                       " program is not installed in the '" + state.ProgramPath + "' folder",
+               .icon = BoxIcon::kInformation});
+  return false;
+}
+
+void ShowTransfer(ScreenHost& host, std::string_view screen_name, std::string_view tag) {
+  if (!host.HasScreen(screen_name)) {
+    host.Ask(Box{.title = "Notice",
+                 .text = "This transfer is not a part of this version yet.",
+                 .icon = BoxIcon::kInformation});
+    return;
+  }
+  Screen& screen = host.Load(screen_name);
+  if (!tag.empty()) screen.SetTag(std::string(tag));
+  host.ShowModal(screen);
+}
+
+}  // namespace
+
+void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_name,
+                  std::string_view tag) {
+  bool installed = true;
+  for (const TransferEntry& transfer : kTransfers) {
+    if (transfer.screen != screen_name) continue;
+    // Both are checked, also when the first fails.
+    for (const Sibling* sibling : {transfer.first, transfer.second}) {
+      if (!CheckProgram(state, host, *sibling)) installed = false;
+    }
+  }
+  if (installed) ShowTransfer(host, screen_name, tag);
+}
+
+TransferMenu::TransferMenu(const ScreenContext& context) : Screen("TransferMenu", context) {
+  SetCaption("Transfer Menu");
+  Add({&SSTab1, &Label1[0], &Label1[1], &Label1[2]});
+  for (Label& label : Label1) SSTab1.Hold(label, 0);
+  for (const TransferEntry& transfer : kTransfers) {
+    Button& button = this->*transfer.button;
+    Add({&button});
+    SSTab1.Hold(button, 0);
+    button.on_click = [this, &transfer] { OpenTransfer(state(), host(), transfer.screen); };
+  }
+  Add({&PriorTransfer, &ExitButton});
+  ExitButton.SetCancel(true);
+  PriorTransfer.on_click = [this] { StartPriorTransfer(); };
+  ExitButton.on_click = [this] { Exit(); };
+}
+
+void TransferMenu::StartPriorTransfer() {
+  try {
+    host().StartProgram(state().ProgramPath + "PRIORXFR.EXE", state().CommandLine);
+  } catch (const NumberedError&) {
+    host().Ask(Box{.title = "", .text = "Transfer program not available."});
+    return;
+  }
+  state().InitSharedObjects();
+  host().EndProcess();
+}
+
+void TransferMenu::Exit() {
+  const ResumeNext anyway(nullptr);
+  anyway([this] { state().InitSharedObjects(); });
+  for (const Sibling* sibling : kSiblings) {
+    if (state().CommandLine != sibling->word) continue;
+    anyway([&] { host().StartProgram(state().ProgramPath + std::string(sibling->program), ""); });
+  }
+  anyway([this] { state().InitSharedObjects(); });
+  host().EndProcess();
+}
+
+}  // namespace golf
