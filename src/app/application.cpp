@@ -21,16 +21,16 @@
 #include "screens/rosters/load_rosters.h"
 #include "screens/tip_box.h"
 #include "screens/transfer_menu.h"
+#include "screens/transfers/kv_courses_to_qb.h"
+#include "screens/transfers/kv_to_qb.h"
+#include "screens/transfers/kv_to_zd.h"
+#include "screens/transfers/qb_to_kv.h"
+#include "screens/transfers/zd_to_kv.h"
+#include "screens/transfers/zd_to_qb.h"
 #include "stores/course/course_class.h"
 #include "stores/kelvane/kelvane_buffers.h"
 #include "stores/quenby/program_class.h"
 #include "stores/zandel/zandel_buffers.h"
-#include "transfers/kv_courses_to_qb.h"
-#include "transfers/kv_to_qb.h"
-#include "transfers/kv_to_zd.h"
-#include "transfers/qb_to_kv.h"
-#include "transfers/zd_to_kv.h"
-#include "transfers/zd_to_qb.h"
 
 namespace golf {
 namespace {

@@ -109,11 +109,11 @@ struct Arguments {
   std::string demo_folder;
   ListRequest list;
   DumpRequest dump;
-  GolfersKvToQbRequest golfers_kv_to_qb;
-  GolfersKvToZdRequest golfers_kv_to_zd;
-  GolfersZdToQbRequest golfers_zd_to_qb;
-  ScoresQbToKvRequest scores_qb_to_kv;
-  ScoresZdToKvRequest scores_zd_to_kv;
+  GolfersKvToQbArguments golfers_kv_to_qb;
+  GolfersKvToZdArguments golfers_kv_to_zd;
+  GolfersZdToQbArguments golfers_zd_to_qb;
+  ScoresQbToKvArguments scores_qb_to_kv;
+  ScoresZdToKvArguments scores_zd_to_kv;
   ResultsRequest results;
   CourseRequest course;
   std::string script;
@@ -140,7 +140,7 @@ void AddLeague(CLI::App& command, std::string& league) {
       ->type_name("BASE");
 }
 
-void AddGolfersKvToQb(CLI::App& app, const Options& options, GolfersKvToQbRequest& request,
+void AddGolfersKvToQb(CLI::App& app, const Options& options, GolfersKvToQbArguments& request,
                       Command& chosen) {
   CLI::App* command =
       AddCommand(app, "golfers-kv-to-qb", "Transfer the golfers of a roster, Kelvane to Quenby",
@@ -181,7 +181,7 @@ void AddCourse(CLI::App& app, const Options& options, CourseRequest& request, Co
   for (CLI::App* command : {show, check}) AddLibrary(*command, request.library);
 }
 
-void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdRequest& request,
+void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdArguments& request,
                       Command& chosen) {
   CLI::App* command =
       AddCommand(app, "golfers-kv-to-zd",
@@ -202,7 +202,7 @@ void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdReques
                     "Also where the league's current event has scores already");
 }
 
-void AddGolfersZdToQb(CLI::App& app, const Options& options, GolfersZdToQbRequest& request,
+void AddGolfersZdToQb(CLI::App& app, const Options& options, GolfersZdToQbArguments& request,
                       Command& chosen) {
   CLI::App* command =
       AddCommand(app, "golfers-zd-to-qb", "Transfer the golfers of a league, Zandel to Quenby",
@@ -214,7 +214,7 @@ void AddGolfersZdToQb(CLI::App& app, const Options& options, GolfersZdToQbReques
   command->add_flag("--subs", request.substitutes, "The league's substitutes as well");
 }
 
-void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvRequest& request,
+void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvArguments& request,
                      Command& chosen) {
   CLI::App* command = AddCommand(
       app, "scores-qb-to-kv", "Transfer the scores of a tournament's round, Quenby to Kelvane",
@@ -238,7 +238,7 @@ void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvRequest&
                     "Join the scores of 9 holes by two for a roster of 18 holes");
 }
 
-void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvRequest& request,
+void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvArguments& request,
                      Command& chosen) {
   CLI::App* command =
       AddCommand(app, "scores-zd-to-kv", "Transfer scores of a league, Zandel to Kelvane",

@@ -56,7 +56,7 @@ ExitCode RunCourseCheck(const Options& options, const CourseRequest& request);
 
 ExitCode RunCoursesKvToQb(const Options& options);
 
-struct GolfersKvToQbRequest {
+struct GolfersKvToQbArguments {
   std::string roster;  // Kelvane's, by name
   int to = 0;          // Quenby's, by number; 0 for all rosters
   bool marked_only = false;
@@ -65,26 +65,26 @@ struct GolfersKvToQbRequest {
   std::vector<std::string> items;  // optional ones, by name or by row
   bool update_tournament = false;
 };
-ExitCode RunGolfersKvToQb(const Options& options, const GolfersKvToQbRequest& request);
+ExitCode RunGolfersKvToQb(const Options& options, const GolfersKvToQbArguments& request);
 
-struct GolfersKvToZdRequest {
+struct GolfersKvToZdArguments {
   std::string roster;  // Kelvane's, by name
   std::string league;  // Zandel's, by base
   std::optional<int> percent;
   int holes = 18;  // that the league's handicaps are for: 9 or 18
   bool even_if_scored = false;
 };
-ExitCode RunGolfersKvToZd(const Options& options, const GolfersKvToZdRequest& request);
+ExitCode RunGolfersKvToZd(const Options& options, const GolfersKvToZdArguments& request);
 
-struct GolfersZdToQbRequest {
+struct GolfersZdToQbArguments {
   std::string league;  // Zandel's, by base
   int to = 0;          // Quenby's roster, by number; 0 for all rosters
   bool doubled = false;
   bool substitutes = false;
 };
-ExitCode RunGolfersZdToQb(const Options& options, const GolfersZdToQbRequest& request);
+ExitCode RunGolfersZdToQb(const Options& options, const GolfersZdToQbArguments& request);
 
-struct ScoresQbToKvRequest {
+struct ScoresQbToKvArguments {
   std::int32_t tournament = 0;
   int round = 1;
   std::string roster;                  // Kelvane's, by name
@@ -94,15 +94,15 @@ struct ScoresQbToKvRequest {
   std::string again = "no";  // "yes" or "no": scores that have been transferred before
   bool nine_into_eighteen = false;
 };
-ExitCode RunScoresQbToKv(const Options& options, const ScoresQbToKvRequest& request);
+ExitCode RunScoresQbToKv(const Options& options, const ScoresQbToKvArguments& request);
 
-struct ScoresZdToKvRequest {
+struct ScoresZdToKvArguments {
   std::string league;  // Zandel's, by base
   int batch = 0;       // by code
   std::string roster;  // Kelvane's, by name
   std::string again;   // "yes" or "no"; empty: as the boxes offer
 };
-ExitCode RunScoresZdToKv(const Options& options, const ScoresZdToKvRequest& request);
+ExitCode RunScoresZdToKv(const Options& options, const ScoresZdToKvArguments& request);
 
 ExitCode RunScript(const Options& options, const std::string& file, bool start_programs);
 

@@ -5,7 +5,7 @@
 #include "cli/transfer_command.h"
 #include "core/code_page.h"
 #include "core/text.h"
-#include "transfers/kv_to_qb.h"
+#include "screens/transfers/kv_to_qb.h"
 
 namespace golf {
 namespace {
@@ -33,7 +33,7 @@ void TickItem(HeadlessHost& host, KVtoQB& screen, const std::string& item_utf8) 
   host.Operate(screen, [&] { screen.grid1.Enter(KVtoQB::kTickColumn, row, "1"); });
 }
 
-void Work(HeadlessHost& host, KVtoQB& screen, const GolfersKvToQbRequest& request) {
+void Work(HeadlessHost& host, KVtoQB& screen, const GolfersKvToQbArguments& request) {
   host.Press(screen, "SourceButton");
   host.Press(screen, "DestButton");
   if (request.marked_only) Tick(host, screen, screen.MarkedtoPrint, "");
@@ -52,7 +52,7 @@ void Work(HeadlessHost& host, KVtoQB& screen, const GolfersKvToQbRequest& reques
 
 }  // namespace
 
-ExitCode RunGolfersKvToQb(const Options& options, const GolfersKvToQbRequest& request) {
+ExitCode RunGolfersKvToQb(const Options& options, const GolfersKvToQbArguments& request) {
   const auto work = [&request](HeadlessHost& host, Screen& screen) {
     if (screen.name() == "LoadRoster") {
       PickKelvaneRoster(host, screen, TextFromUtf8(request.roster));

@@ -2,12 +2,12 @@
 #include "cli/picker_presses.h"
 #include "cli/transfer_command.h"
 #include "core/code_page.h"
-#include "transfers/kv_to_zd.h"
+#include "screens/transfers/kv_to_zd.h"
 
 namespace golf {
 namespace {
 
-void Work(HeadlessHost& host, KVtoZD& screen, const GolfersKvToZdRequest& request) {
+void Work(HeadlessHost& host, KVtoZD& screen, const GolfersKvToZdArguments& request) {
   PickLeague(host, screen, "FindZDButton", screen.picker, TextFromUtf8(request.league));
   host.Press(screen, "FindKVMButton");
   host.Operate(screen, [&] {
@@ -20,7 +20,7 @@ void Work(HeadlessHost& host, KVtoZD& screen, const GolfersKvToZdRequest& reques
 
 }  // namespace
 
-ExitCode RunGolfersKvToZd(const Options& options, const GolfersKvToZdRequest& request) {
+ExitCode RunGolfersKvToZd(const Options& options, const GolfersKvToZdArguments& request) {
   const auto work = [&request](HeadlessHost& host, Screen& screen) {
     if (screen.name() == "LoadRoster") {
       PickKelvaneRoster(host, screen, TextFromUtf8(request.roster));

@@ -2,12 +2,12 @@
 #include "cli/picker_presses.h"
 #include "cli/transfer_command.h"
 #include "core/code_page.h"
-#include "transfers/zd_to_qb.h"
+#include "screens/transfers/zd_to_qb.h"
 
 namespace golf {
 namespace {
 
-void Work(HeadlessHost& host, ZDtoQB& screen, const GolfersZdToQbRequest& request) {
+void Work(HeadlessHost& host, ZDtoQB& screen, const GolfersZdToQbArguments& request) {
   PickLeague(host, screen, "SourceButton", screen.picker, TextFromUtf8(request.league));
   host.Press(screen, "DestButton");
   host.Operate(screen, [&] {
@@ -19,7 +19,7 @@ void Work(HeadlessHost& host, ZDtoQB& screen, const GolfersZdToQbRequest& reques
 
 }  // namespace
 
-ExitCode RunGolfersZdToQb(const Options& options, const GolfersZdToQbRequest& request) {
+ExitCode RunGolfersZdToQb(const Options& options, const GolfersZdToQbArguments& request) {
   const auto work = [&request](HeadlessHost& host, Screen& screen) {
     if (screen.name() == "LoadRosters") {
       PickQuenbyRoster(host, screen, request.to);

@@ -2,7 +2,7 @@
 #include "cli/picker_presses.h"
 #include "cli/transfer_command.h"
 #include "core/code_page.h"
-#include "transfers/qb_to_kv.h"
+#include "screens/transfers/qb_to_kv.h"
 
 namespace golf {
 namespace {
@@ -30,7 +30,7 @@ void ChooseRound(HeadlessHost& host, QBtoKV& screen, int round) {
   if (listed) host.Operate(screen, [&] { screen.RoundList.Select(round - 1); });
 }
 
-void Work(HeadlessHost& host, QBtoKV& screen, const ScoresQbToKvRequest& request) {
+void Work(HeadlessHost& host, QBtoKV& screen, const ScoresQbToKvArguments& request) {
   host.Press(screen, "DestButton");
   if (!ChooseNumber(host, screen, screen.TournamentList, QBtoKV::TournamentOf,
                     request.tournament)) {
@@ -54,7 +54,7 @@ void Work(HeadlessHost& host, QBtoKV& screen, const ScoresQbToKvRequest& request
 
 }  // namespace
 
-ExitCode RunScoresQbToKv(const Options& options, const ScoresQbToKvRequest& request) {
+ExitCode RunScoresQbToKv(const Options& options, const ScoresQbToKvArguments& request) {
   const auto work = [&request](HeadlessHost& host, Screen& screen) {
     if (screen.name() == "LoadRoster") {
       PickKelvaneRoster(host, screen, TextFromUtf8(request.roster));

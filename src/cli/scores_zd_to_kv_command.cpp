@@ -4,13 +4,13 @@
 #include "cli/picker_presses.h"
 #include "cli/transfer_command.h"
 #include "core/code_page.h"
+#include "screens/transfers/zd_to_kv.h"
 #include "stores/zandel/zandel_batches.h"
-#include "transfers/zd_to_kv.h"
 
 namespace golf {
 namespace {
 
-void PickBatch(HeadlessHost& host, ZDtoKV& screen, const ScoresZdToKvRequest& request) {
+void PickBatch(HeadlessHost& host, ZDtoKV& screen, const ScoresZdToKvArguments& request) {
   const auto& items = screen.EventList.items();
   const auto item = std::find_if(items.begin(), items.end(), [&](const std::string& listed) {
     return BatchCode(listed) == request.batch;
@@ -22,7 +22,7 @@ void PickBatch(HeadlessHost& host, ZDtoKV& screen, const ScoresZdToKvRequest& re
   host.Operate(screen, [&] { screen.EventList.Select(static_cast<int>(item - items.begin())); });
 }
 
-void Work(HeadlessHost& host, ZDtoKV& screen, const ScoresZdToKvRequest& request) {
+void Work(HeadlessHost& host, ZDtoKV& screen, const ScoresZdToKvArguments& request) {
   PickLeague(host, screen, "SourceButton", screen.picker, TextFromUtf8(request.league));
   PickBatch(host, screen, request);
   host.Press(screen, "DestButton");
@@ -35,7 +35,7 @@ void Work(HeadlessHost& host, ZDtoKV& screen, const ScoresZdToKvRequest& request
 
 }  // namespace
 
-ExitCode RunScoresZdToKv(const Options& options, const ScoresZdToKvRequest& request) {
+ExitCode RunScoresZdToKv(const Options& options, const ScoresZdToKvArguments& request) {
   const auto work = [&request](HeadlessHost& host, Screen& screen) {
     if (screen.name() == "LoadRoster") {
       PickKelvaneRoster(host, screen, TextFromUtf8(request.roster));

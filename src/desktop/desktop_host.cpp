@@ -187,11 +187,7 @@ void DesktopHost::PaintNow() {
   painted_ = std::chrono::steady_clock::now();
 }
 
-void DesktopHost::RepaintNow(const Control&) {
-  if (PaintIsDue()) PaintNow();
-}
-
-void DesktopHost::Tell(const Progress& progress) {
+void DesktopHost::Report(const Progress& progress) {
   told_ = progress;
   told_.doing = {};
   if (PaintIsDue()) PaintNow();

@@ -25,9 +25,8 @@ class DesktopHost : public HostBase {
 
   void Beep() override;
   void SetPointer(Pointer pointer) override;
-  void RepaintNow(const Control& control) override;
   void BeginRun() override;
-  void Tell(const Progress& progress) override;
+  void Report(const Progress& progress) override;
   void EndRun() override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
   DateValue Now() override { return clock(); }

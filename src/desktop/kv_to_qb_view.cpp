@@ -2,7 +2,7 @@
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "transfers/kv_to_qb.h"
+#include "screens/transfers/kv_to_qb.h"
 
 namespace golf {
 

@@ -2,7 +2,7 @@
 #include "desktop/league_panel.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "transfers/kv_to_zd.h"
+#include "screens/transfers/kv_to_zd.h"
 
 namespace golf {
 namespace {

@@ -2,7 +2,7 @@
 #include "desktop/log_buttons.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "transfers/qb_to_kv.h"
+#include "screens/transfers/qb_to_kv.h"
 
 namespace golf {
 namespace {

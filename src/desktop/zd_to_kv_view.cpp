@@ -2,8 +2,8 @@
 #include "desktop/league_panel.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
+#include "screens/transfers/zd_to_kv.h"
 #include "stores/zandel/zandel_batches.h"
-#include "transfers/zd_to_kv.h"
 
 namespace golf {
 namespace {

@@ -2,7 +2,7 @@
 #include "desktop/league_panel.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
-#include "transfers/zd_to_qb.h"
+#include "screens/transfers/zd_to_qb.h"
 
 namespace golf {
 namespace {

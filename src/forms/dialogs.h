@@ -1,30 +1,19 @@
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
+
+#include "core/box.h"
 
 namespace golf {
 
-// A message box, an input box and a font choice as data: every host can show them.
-
-enum class BoxIcon { kNone, kInformation, kQuestion, kStop, kWarning };
-enum class BoxButton { kOk, kCancel, kYes, kNo, kRetry };
+// The names of a message box's parts, and an input box and a font choice as data.
 
 // "none", "information", ...
 std::string_view NameOf(BoxIcon icon);
 // "OK", "Cancel", "Yes", ...
 std::string_view NameOf(BoxButton button);
-
-struct Box {
-  std::string title;
-  std::string text;
-  BoxIcon icon = BoxIcon::kNone;
-  std::vector<BoxButton> buttons = {BoxButton::kOk};
-  std::size_t default_button = 0;  // the first one where none is named
-};
 
 // The button of a box with this name, in any case; nothing if the box does not have it.
 std::optional<BoxButton> ButtonNamed(const Box& box, std::string_view name);

@@ -55,8 +55,8 @@ bool HeadlessHost::Leave(Screen& screen) {
   return pressed;
 }
 
-void HeadlessHost::TellFault(const NumberedError& fault) {
-  HostBase::TellFault(fault);
+void HeadlessHost::NoteFault(const NumberedError& fault) {
+  HostBase::NoteFault(fault);
   listener_.OnFault(fault);
 }
 

@@ -70,9 +70,8 @@ class HeadlessHost : public HostBase {
   void Show(Screen& screen) override;
   void Beep() override { listener_.OnBeep(); }
   void SetPointer(Pointer) override {}
-  void RepaintNow(const Control&) override {}
-  void Tell(const Progress& progress) override { listener_.OnProgress(progress); }
-  void TellFault(const NumberedError& fault) override;
+  void Report(const Progress& progress) override { listener_.OnProgress(progress); }
+  void NoteFault(const NumberedError& fault) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
   DateValue Now() override { return clock(); }
   void EndProcess() override;

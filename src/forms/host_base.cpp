@@ -161,7 +161,7 @@ Font HostBase::ChooseFont(std::string_view title, const Font& current) {
   return ShowFontChoice(title, current);
 }
 
-void HostBase::TellCount(std::string_view name, std::int64_t count) {
+void HostBase::NoteCount(std::string_view name, std::int64_t count) {
   counts_.emplace_back(name, count);
 }
 

@@ -47,9 +47,9 @@ class HostBase : public ScreenHost {
 
   void BeginRun() override { in_run_ = true; }
   void EndRun() override { in_run_ = false; }
-  void TellCount(std::string_view name, std::int64_t count) override;
-  void TellFault(const NumberedError& fault) override { faults_.push_back(fault); }
-  void TellRunEnded(const NumberedError& error) override { run_ended_by_ = error; }
+  void NoteCount(std::string_view name, std::int64_t count) override;
+  void NoteFault(const NumberedError& fault) override { faults_.push_back(fault); }
+  void NoteRunEnded(const NumberedError& error) override { run_ended_by_ = error; }
   void EndProcess() override { ended_ = true; }
   std::uint32_t Seed() override;
 

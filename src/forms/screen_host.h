@@ -6,19 +6,13 @@
 
 #include "core/date_value.h"
 #include "core/numbered_error.h"
+#include "core/progress.h"
 #include "forms/dialogs.h"
 #include "forms/screen.h"
 
 namespace golf {
 
 enum class Pointer { kNormal, kBusy };
-
-// How far a run has come: `done` of `total`, and what it is at.
-struct Progress {
-  std::int64_t done = 0;
-  std::int64_t total = 0;
-  std::string_view doing;
-};
 
 // All that a screen may ask of the world. Errors of the screens that it opens travel through it.
 class ScreenHost {
@@ -45,20 +39,19 @@ class ScreenHost {
 
   virtual void Beep() = 0;
   virtual void SetPointer(Pointer pointer) = 0;
-  // Paints what a control shows now, although an event is still running.
-  virtual void RepaintNow(const Control& control) = 0;
 
   // From BeginRun to EndRun the host takes no input; only painting goes on.
   virtual void BeginRun() = 0;
-  virtual void Tell(const Progress& progress) = 0;
+  // Shows how far the run is, and whatever else has changed on its screen.
+  virtual void Report(const Progress& progress) = 0;
   virtual void EndRun() = 0;
   // A count of the run's result, by the name that scripts know.
-  virtual void TellCount(std::string_view name, std::int64_t count) = 0;
+  virtual void NoteCount(std::string_view name, std::int64_t count) = 0;
   // A fault that a run carries on over.
-  virtual void TellFault(const NumberedError& fault) = 0;
+  virtual void NoteFault(const NumberedError& fault) = 0;
 
   // The error that ended a run, where the screen itself tells the operator of it.
-  virtual void TellRunEnded(const NumberedError& error) = 0;
+  virtual void NoteRunEnded(const NumberedError& error) = 0;
 
   // Starts a program with its arguments and does not wait. Fails where it cannot be started.
   virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/number_text.h"
+#include "scoring/places.h"
 
 namespace golf {
 namespace {
@@ -37,10 +38,10 @@ StandingsRow CustomRow(const CustomStanding& standing) {
 
 void AddPlaces(std::vector<StandingsRow>& rows) {
   SortByRank(rows);
-  std::size_t place = 0;
+  const Places places = NumberPlaces(
+      rows.size(), [&](std::size_t a, std::size_t b) { return rows[a].rank == rows[b].rank; });
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    if (i == 0 || rows[i].rank != rows[i - 1].rank) place = i + 1;
-    rows[i].cells.push_back(rows[i].rank ? std::to_string(place) : "");
+    rows[i].cells.push_back(rows[i].rank ? std::to_string(places.competition[i]) : "");
   }
 }
 

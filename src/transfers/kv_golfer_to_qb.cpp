@@ -2,13 +2,11 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
-#include "scoring/player/player_class.h"
-#include "stores/kelvane/kelvane_buffers.h"
 
 namespace golf {
 namespace {
 
-using Player = TournamentPlayers;
+using Player = RosterPlayers;
 
 using CopyStep = void (*)(Player&, KelvaneBuffers&);
 
@@ -116,9 +114,8 @@ void Convert(Player& player, double factor, const ResumeNext& next) {
 
 }  // namespace
 
-void CopyGolferToQb(SharedState& state, const GolferToQbChoice& choice, const ResumeNext& next) {
-  Player& to = state.Player();
-  KelvaneBuffers& from = state.Kelvane();
+void CopyGolferToQb(KelvaneBuffers& from, const GolferToQbChoice& choice, RosterPlayers& to,
+                    const ResumeNext& next) {
   for (const CopyStep step : kAlways) next([&] { step(to, from); });
   if (choice.halve_handicap) Convert(to, 0.5, next);
   if (choice.double_handicap) Convert(to, 2.0, next);

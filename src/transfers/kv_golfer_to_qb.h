@@ -3,7 +3,8 @@
 #include <array>
 
 #include "core/resume_next.h"
-#include "core/shared_state.h"
+#include "stores/kelvane/kelvane_buffers.h"
+#include "stores/quenby/roster_players.h"
 
 namespace golf {
 
@@ -16,8 +17,10 @@ struct GolferToQbChoice {
   std::array<bool, kRows + 1> item{};
 };
 
-// Copies the golfer in the Kelvane buffer into the shared player's: what is not copied stays as it
-// was. Each value set is a statement of the run.
-void CopyGolferToQb(SharedState& state, const GolferToQbChoice& choice, const ResumeNext& next);
+// Copies the golfer of `from`, by the roster header of `from`, into the player in the buffer of
+// `to`. What is not copied stays as it was. The handicap's text comes back trimmed in `from`. Each
+// value set is a statement of the run.
+void CopyGolferToQb(KelvaneBuffers& from, const GolferToQbChoice& choice, RosterPlayers& to,
+                    const ResumeNext& next);
 
 }  // namespace golf

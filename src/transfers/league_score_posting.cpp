@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/text.h"
-#include "screens/tip_box.h"
 #include "stores/kelvane/kelvane_halves.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "stores/zandel/zandel_buffers.h"
@@ -17,11 +16,10 @@ constexpr int kRefusalsToCancel = 3;  // in a row
 
 }  // namespace
 
-LeagueScorePosting::LeagueScorePosting(SharedState& state, ScreenHost& host, TextBox& log)
+LeagueScorePosting::LeagueScorePosting(SharedState& state, RunHost& host, LeagueScoreReport& report)
     : state_(state),
       host_(host),
-      log_box_(log),
-      log_(log.text()),
+      report_(report),
       halves_(state.Kelvane().header.Get<"Holes">() == 18 &&
               state.Zandel().control.Get<"LeagueHoles">() == 9) {}
 
@@ -58,15 +56,12 @@ bool LeagueScorePosting::IsInHistory(const LeagueScore& score) const {
 }
 
 bool LeagueScorePosting::WantsItAgain(const LeagueScore& score) {
-  ShowLog();
-  TipBox& box = SharedTipBox(host_);
-  box.SetMessageType(TipBox::kLastingQuestion);
-  box.SetMessageTitle("Re-transfer score?");
-  box.SetMessageText("A score (" + std::to_string(score.score) + ") with the same date (" +
-                     FormatDay(score.date, "mm/dd/yy") +
-                     ") has already been transfered to the Kelvane. Do you want to transfer this "
-                     "score again?");
-  return box.ResultReturned() == "YES";
+  return host_.AskAgain("Re-transfer score?",
+                        "A score (" + std::to_string(score.score) + ") with the same date (" +
+                            FormatDay(score.date, "mm/dd/yy") +
+                            ") has already been transfered to the Kelvane. Do you want to transfer "
+                            "this score again?",
+                        report_.log);
 }
 
 bool LeagueScorePosting::WantsToCancel() {
@@ -110,10 +105,10 @@ void LeagueScorePosting::PostHalf(std::int32_t place, const LeagueScore& score) 
 
 void LeagueScorePosting::Log(int score) {
   const auto& player = state_.Zandel().player;
-  log_ += std::to_string(score) + " - ";
-  log_.append(Trim(player.Get<"FirstName">())).append(" ");
-  log_.append(player.Get<"LastName">()).append("\r\n");
-  ++count_;
+  report_.log += std::to_string(score) + " - ";
+  report_.log.append(Trim(player.Get<"FirstName">())).append(" ");
+  report_.log.append(player.Get<"LastName">()).append("\r\n");
+  ++report_.transferred;
 }
 
 }  // namespace golf

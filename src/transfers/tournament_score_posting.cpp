@@ -7,7 +7,6 @@
 #include "scoring/tournament_class.h"
 #include "stores/kelvane/kelvane_halves.h"
 #include "stores/kelvane/kelvane_scores.h"
-#include "transfers/transfer_run.h"
 
 namespace golf {
 namespace {
@@ -17,14 +16,16 @@ constexpr double kHighestNoScore = 20;  // a total up to here is not the score o
 
 }  // namespace
 
-TournamentScorePosting::TournamentScorePosting(SharedState& state, ScreenHost& host,
-                                               const TournamentScoreChoice& choice)
+TournamentScorePosting::TournamentScorePosting(SharedState& state, RunHost& host,
+                                               const TournamentScoreChoice& choice,
+                                               TournamentScoreReport& report)
     : state_(state),
       host_(host),
       choice_(choice),
-      next_([this](const NumberedError& fault) { TellFault(fault); }),
-      figure_(ResumeNextButReads([this](const NumberedError& fault) { TellFault(fault); })),
-      golfers_(state) {}
+      next_([this](const NumberedError& fault) { NoteFault(fault); }),
+      figure_(ResumeNextButReads([this](const NumberedError& fault) { NoteFault(fault); })),
+      golfers_(state),
+      report_(report) {}
 
 void TournamentScorePosting::Take(std::int32_t record) {
   if (!IsRead(record)) return;
@@ -49,41 +50,43 @@ bool TournamentScorePosting::IsRead(std::int32_t record) {
 
 // A score whose figures or history cannot be read is not transferred.
 bool TournamentScorePosting::IsPosted() {
-  next_([&] { CountUp(counts_.transferred); });
+  next_([&] { CountUp(report_.transferred); });
   BlankKVScore(state_);
   return next_([&] {
     try {
       if (!choice_.join_nines) FillEntry();
       choice_.join_nines ? PostHalf() : PostEntry();
     } catch (const ReadError&) {
-      --counts_.transferred;
+      --report_.transferred;
       throw;
     }
   });
 }
 
-void TournamentScorePosting::TellFault(const NumberedError& fault) {
-  const bool left_out = dynamic_cast<const ReadError*>(&fault) != nullptr;
-  host_.SetPointer(Pointer::kNormal);
-  host_.TellFault(left_out ? LeftOut(name_, fault) : fault);
+void TournamentScorePosting::NoteFault(const NumberedError& fault) {
+  if (dynamic_cast<const ReadError*>(&fault) != nullptr) {
+    LeaveOut(host_, report_, name_, fault);
+  } else {
+    host_.NoteFault(fault);
+  }
 }
 
 // With the golfer in hand afterwards.
 bool TournamentScorePosting::IsToBePosted() {
   if (!IsWantedAgain()) {
-    CountUp(counts_.already);
+    CountUp(report_.already);
     return false;
   }
   if (!IsComplete()) {
     Log(" (Round" + NumberText(choice_.round) + " not complete)");
-    CountUp(counts_.to_transfer);
+    CountUp(report_.to_transfer);
     return false;
   }
   place_ = golfers_.Find(RoundToInt32(LeadingNumber(state_.Player().IDNum())));
   if (place_ == 0) {
     Log(" (No ID# match found)");
-    CountUp(counts_.to_transfer);
-    CountUp(counts_.not_found);
+    CountUp(report_.to_transfer);
+    CountUp(report_.not_found);
     return false;
   }
   return AdjustedScore() > 0;
@@ -121,7 +124,7 @@ double TournamentScorePosting::AdjustedScore() {
 }
 
 void TournamentScorePosting::Log(const std::string& reason) {
-  log_ += state_.Player().NameLF() + reason + "\r\n";
+  report_.log += state_.Player().NameLF() + reason + "\r\n";
 }
 
 // Each figure by itself: one that does not fit leaves only its own place empty.

@@ -6,12 +6,12 @@
 
 #include "core/resume_next.h"
 #include "core/shared_state.h"
-#include "forms/screen_host.h"
 #include "stores/kelvane/kelvane_golfer_index.h"
+#include "transfers/run.h"
 
 namespace golf {
 
-// What the operator has chosen for a run.
+// How the scores of a round are posted.
 struct TournamentScoreChoice {
   int round = 1;
   std::int32_t course = 0;  // its number in Kelvane's library; 0 an away course
@@ -22,6 +22,13 @@ struct TournamentScoreChoice {
   bool join_nines = false;  // a round of nine holes is half of an entry
 };
 
+struct TournamentScoreReport : RunReport {
+  std::int16_t transferred = 0;
+  std::int16_t already = 0;      // transferred by an earlier run
+  std::int16_t to_transfer = 0;  // with a reason in the log
+  std::int16_t not_found = 0;
+};
+
 // Posts the scores of a tournament's round into the histories of the open roster, one player after
 // the other. The tournament and its players are open in the shared objects. A fault while a player
 // is looked at, in a half, or while an entry is posted leaves him out, without the mark that his
@@ -29,21 +36,11 @@ struct TournamentScoreChoice {
 // that it hit as it was.
 class TournamentScorePosting {
  public:
-  struct Counts {
-    std::int16_t transferred = 0;
-    std::int16_t already = 0;      // transferred by an earlier run
-    std::int16_t to_transfer = 0;  // with a reason in the log
-    std::int16_t not_found = 0;
-  };
-
-  TournamentScorePosting(SharedState& state, ScreenHost& host, const TournamentScoreChoice& choice);
+  TournamentScorePosting(SharedState& state, RunHost& host, const TournamentScoreChoice& choice,
+                         TournamentScoreReport& report);
 
   // Reads the player in this record of the tournament's file, and posts his score.
   void Take(std::int32_t record);
-
-  const Counts& counts() const { return counts_; }
-  // A line for each score that is still to be transferred.
-  const std::string& log() const { return log_; }
 
  private:
   bool IsRead(std::int32_t record);
@@ -53,7 +50,7 @@ class TournamentScorePosting {
   bool IsComplete();
   double AdjustedScore();
   void Log(const std::string& reason);
-  void TellFault(const NumberedError& fault);
+  void NoteFault(const NumberedError& fault);
 
   void FillEntry();
   void FillHoles();
@@ -64,15 +61,14 @@ class TournamentScorePosting {
   void PostHalf();
 
   SharedState& state_;
-  ScreenHost& host_;
+  RunHost& host_;
   const TournamentScoreChoice& choice_;
   ResumeNext next_;    // tells a fault in the player's name
   ResumeNext figure_;  // the same for one figure of an entry, but for a read that fails
   KelvaneGolferIndex golfers_;
-  std::int32_t place_ = 0;  // of the player among the roster's golfers
-  Counts counts_;
-  std::string log_;
-  std::string name_;  // of the player in hand
+  std::int32_t place_ = 0;         // of the player among the roster's golfers
+  TournamentScoreReport& report_;  // its log has a line for each score that is still to transfer
+  std::string name_;               // of the player in hand
 };
 
 }  // namespace golf

@@ -17,11 +17,11 @@
 #include "screens/courses/course_tee.h"
 #include "screens/rosters/load_roster.h"
 #include "screens/tip_box.h"
+#include "screens/transfers/kv_to_qb.h"
 #include "stores/course/course_layout.h"
 #include "support/bytes.h"
 #include "support/error_of.h"
 #include "support/test_host.h"
-#include "transfers/kv_to_qb.h"
 
 namespace golf {
 namespace {
@@ -32,8 +32,8 @@ class TestHost : public DesktopHost {
   using DesktopHost::DesktopHost;
   using DesktopHost::PaintNow;
 
-  void Tell(const Progress& progress) override {
-    DesktopHost::Tell(progress);
+  void Report(const Progress& progress) override {
+    DesktopHost::Report(progress);
     if (on_progress) on_progress(progress);
   }
   std::function<void(const Progress&)> on_progress;

@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <map>
 
+#include "screens/transfers/kv_courses_to_qb.h"
 #include "support/bytes.h"
 #include "support/test_host.h"
-#include "transfers/kv_courses_to_qb.h"
 
 namespace golf {
 namespace {

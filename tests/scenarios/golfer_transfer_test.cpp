@@ -6,10 +6,10 @@
 
 #include "screens/rosters/load_roster.h"
 #include "screens/rosters/load_rosters.h"
+#include "screens/transfers/kv_to_qb.h"
 #include "stores/quenby/program_class.h"
 #include "support/bytes.h"
 #include "support/test_host.h"
-#include "transfers/kv_to_qb.h"
 
 namespace golf {
 namespace {

@@ -1,4 +1,4 @@
-#include "transfers/kv_to_zd.h"
+#include "screens/transfers/kv_to_zd.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "transfers/qb_to_kv.h"
+#include "screens/transfers/qb_to_kv.h"
 
 #include <gtest/gtest.h>
 

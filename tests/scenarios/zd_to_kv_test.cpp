@@ -1,4 +1,4 @@
-#include "transfers/zd_to_kv.h"
+#include "screens/transfers/zd_to_kv.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "transfers/zd_to_qb.h"
+#include "screens/transfers/zd_to_qb.h"
 
 #include <gtest/gtest.h>
 

@@ -164,7 +164,7 @@ TEST_F(CustomTeamsTest, RanksTeams) {
   EXPECT_EQ(balls.TiebreakKeys(1, 1, 18, {18, 9, 10})[0], "0005,005,005,05,05");
   EXPECT_EQ(balls.TiebreakKeys(1, 1, 18, {18, 9, 10})[1], "0005,05,00");
   const auto places = [&](const RankingOrder& order, int option, int block) {
-    balls.XBallSortTeamStandings(state, order, option, {"B", "A", "A", "A", "B"});
+    balls.XBallSortTeamStandings(order, option, {"B", "A", "A", "A", "B"});
     std::string all;
     for (int t = 1; t <= 5; ++t) all += std::to_string(balls.position(t, 4, block));
     return all;

@@ -1,4 +1,4 @@
-#include "scoring/grid_sort.h"
+#include "forms/grid_sort.h"
 
 #include <gtest/gtest.h>
 

@@ -5,17 +5,13 @@
 
 #include "core/number_text.h"
 #include "core/numbered_error.h"
+#include "core/text.h"
 #include "scoring/checked_sums.h"
-#include "scoring/grid_sort.h"
+#include "scoring/places.h"
 #include "scoring/tiebreak_keys.h"
 
 namespace golf {
 namespace {
-
-// The columns of the grid in which teams are ranked.
-constexpr int kTeamColumn = 0;
-constexpr int kFlightColumn = 1;
-constexpr int kResultColumn = 2;
 
 constexpr std::int32_t kNoBall = 1000;  // no ball that is so far from 0 counts
 
@@ -283,41 +279,46 @@ void CustomBalls::AddBlocks(TeamBalls& team) {
   }
 }
 
-void CustomBalls::FillStandings(Grid& grid, bool points, int column,
-                                const std::vector<std::string>& flights) const {
-  for (int row = 1; row <= teams(); ++row) {
-    const TeamBalls::Sum value = points ? Team(row).Points(column) : Team(row).Score(column);
-    grid.SetText(kTeamColumn, row, std::to_string(row));
-    grid.SetText(kFlightColumn, row, flights.at(static_cast<std::size_t>(row) - 1));
-    grid.SetText(kResultColumn, row, value ? std::to_string(*value) : "");
+void CustomBalls::XBallSortTeamStandings(const RankingOrder& order, int position_option,
+                                         const std::vector<std::string>& flights) {
+  for (int block = 1; block <= kBlocks; ++block) {
+    for (int sum = 1; sum <= kSumsOfBlock; ++sum) {
+      RankTeams(order, position_option, flights, block, sum);
+    }
   }
 }
 
-void CustomBalls::XBallSortTeamStandings(const SharedState& state, const RankingOrder& order,
-                                         int position_option,
-                                         const std::vector<std::string>& flights) {
+// Teams that tie in everything stay in their order.
+void CustomBalls::RankTeams(const RankingOrder& order, int position_option,
+                            const std::vector<std::string>& flights, int block, int sum) {
   constexpr int kDense = 1;  // of the tournament's two ways to number places
-  Grid grid("tgrid", kResultColumn);
-  grid.SetSortKind(kResultColumn, SortKind::kValue);
-  grid.SetRows(teams());
-  GridSorter sorter(state);
-  sorter.SetGridToSort(grid);
-  const SortKey result{kResultColumn,
-                       order.points ? SortOrder::kDescending : SortOrder::kAscending};
-  const SortKey first = order.by_flight ? SortKey{kFlightColumn, SortOrder::kAscending} : result;
-  for (int block = 1; block <= kBlocks; ++block) {
-    for (int sum = 1; sum <= kSumsOfBlock; ++sum) {
-      FillStandings(grid, order.points, SumColumn(block, sum), flights);
-      sorter.Sort({first, result, result});
-      sorter.CalculatePositions(1, teams(),
-                                order.by_flight ? PositionMode::kGroups : PositionMode::kOneKey);
-      for (int row = 1; row <= teams(); ++row) {
-        const auto team = static_cast<std::size_t>(std::stoi(grid.text(kTeamColumn, row)));
-        positions_[team - 1][sum][block] = position_option == kDense
-                                               ? sorter.PositionNumber122334(row)
-                                               : sorter.PositionNumber122446(row);
-      }
-    }
+  struct Row {
+    std::string flight;
+    TeamBalls::Sum result;
+    std::size_t team;  // from 0
+  };
+  const int column = SumColumn(block, sum);
+  std::vector<Row> rows;
+  for (std::size_t team = 0; team < teams_.size(); ++team) {
+    const TeamBalls& balls = teams_[team];
+    rows.push_back({order.by_flight ? UpperCase(flights.at(team)) : std::string(),
+                    order.points ? balls.Points(column) : balls.Score(column), team});
+  }
+  std::stable_sort(rows.begin(), rows.end(), [&](const Row& a, const Row& b) {
+    if (a.flight != b.flight) return a.flight < b.flight;
+    if (!a.result || !b.result) return a.result.has_value() && !b.result;
+    return order.points ? *a.result > *b.result : *a.result < *b.result;
+  });
+  const auto same_flight = [&](std::size_t a, std::size_t b) {
+    return rows[a].flight == rows[b].flight;
+  };
+  const auto tie = [&](std::size_t a, std::size_t b) {
+    return same_flight(a, b) && rows[a].result == rows[b].result;
+  };
+  const Places places = NumberPlaces(rows.size(), tie, same_flight);
+  const std::vector<int>& numbered = position_option == kDense ? places.dense : places.competition;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    positions_[rows[i].team][sum][block] = numbered[i];
   }
 }
 

@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "core/shared_state.h"
-#include "forms/grid.h"
 #include "scoring/layouts/ball_tables.h"
 
 namespace golf {
@@ -52,8 +50,8 @@ class CustomBalls {
 
   // Ranks the teams in each block's four columns. `position_option` 1 numbers places 1, 2, 2, 3,
   // and 2 numbers them 1, 2, 2, 4. `flights` holds a text for each team.
-  void XBallSortTeamStandings(const SharedState& state, const RankingOrder& order,
-                              int position_option, const std::vector<std::string>& flights);
+  void XBallSortTeamStandings(const RankingOrder& order, int position_option,
+                              const std::vector<std::string>& flights);
   // The place of a team (`row`) in that ranking; columns 1 to 4, blocks 1 to 5.
   int position(int row, int column, int block) const;
 
@@ -67,14 +65,14 @@ class CustomBalls {
   void MarkBalls(bool points, int hole, int golfer, BallMark mark);
   void CountHole(TeamBalls& team, int hole) const;
   static void AddBlocks(TeamBalls& team);
-  void FillStandings(Grid& grid, bool points, int column,
-                     const std::vector<std::string>& flights) const;
+  void RankTeams(const RankingOrder& order, int position_option,
+                 const std::vector<std::string>& flights, int block, int sum);
 
-  using Places = Indexed<Indexed<int, 1, kBlocks>, 1, kSumsOfBlock>;
+  using PlacesOfTeam = Indexed<Indexed<int, 1, kBlocks>, 1, kSumsOfBlock>;
 
   const ReportLayout& layout_;
   std::vector<TeamBalls> teams_;
-  std::vector<Places> positions_;
+  std::vector<PlacesOfTeam> positions_;
 };
 
 }  // namespace golf

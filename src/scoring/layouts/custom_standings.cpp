@@ -71,8 +71,7 @@ void CustomStandings::Rank(std::vector<CustomStanding>& standings, bool points,
                            CustomStanding::Places CustomStanding::*places) {
   std::vector<std::string> flights;
   for (const CustomStanding& standing : standings) flights.push_back(standing.Flight);
-  balls_.XBallSortTeamStandings(state_, {.points = points}, state_.Tournament().PositionOption(),
-                                flights);
+  balls_.XBallSortTeamStandings({.points = points}, state_.Tournament().PositionOption(), flights);
   for (std::size_t i = 0; i < standings.size(); ++i) {
     for (int block = 1; block <= rounds_; ++block) {
       auto& of_block = (standings[i].*places).emplace_back();

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "core/shared_state.h"
 #include "scoring/layouts/custom_balls.h"
 
 namespace golf {

@@ -267,7 +267,7 @@ void CourseTee::Finish() {
 bool CourseTee::NameAccepted() {
   const auto fault = NameFault(FTeeName.text(), FTeeNameAbv.text());
   TextBox& empty = Trim(FTeeName.text()).empty() ? FTeeName : FTeeNameAbv;
-  if (fault) TellFault(*this, host(), empty, *fault);
+  if (fault) ShowFault(*this, host(), empty, *fault);
   return !fault;
 }
 
@@ -290,7 +290,7 @@ bool CourseTee::HolesAccepted() {
   if (faults.empty()) return true;
   const TeeFault& first = faults.front();
   auto& boxes = first.field == TeeField::kPar ? FPar : FHandicap;
-  TellFault(*this, host(), boxes[static_cast<std::size_t>(first.hole) - 1], first);
+  ShowFault(*this, host(), boxes[static_cast<std::size_t>(first.hole) - 1], first);
   return false;
 }
 

@@ -15,7 +15,7 @@ bool IsDigitKey(char key) { return (key >= '0' && key <= '9') || key == kBackspa
 
 }  // namespace
 
-void TellFault(Screen& screen, ScreenHost& host, Control& control, const TeeFault& fault) {
+void ShowFault(Screen& screen, ScreenHost& host, Control& control, const TeeFault& fault) {
   control.SetNote(fault.text);
   host.Ask(Box{.title = fault.title, .text = fault.text});
   if (control.IsShown()) screen.MoveFocus(&control);
@@ -49,7 +49,7 @@ void RatingBox::SetDecimalPlaces(int places) {
 
 bool RatingBox::RatingValid(int holes, int group) {
   const auto fault = RatingFault(RatingValue(), holes, group);
-  if (fault) TellFault(screen_, context_.host, *this, *fault);
+  if (fault) ShowFault(screen_, context_.host, *this, *fault);
   return !fault;
 }
 
@@ -72,7 +72,7 @@ void SlopeBox::SetSlopeValue(double value) {
 
 bool SlopeBox::SlopeValid() {
   const auto fault = SlopeFault(SlopeValue());
-  if (fault) TellFault(screen_, context_.host, *this, *fault);
+  if (fault) ShowFault(screen_, context_.host, *this, *fault);
   return !fault;
 }
 

@@ -54,6 +54,6 @@ class SlopeBox : public TextBox {
 
 // Tells a fault of an entry: in a box, and beside the control, which takes the focus if it is
 // seen.
-void TellFault(Screen& screen, ScreenHost& host, Control& control, const TeeFault& fault);
+void ShowFault(Screen& screen, ScreenHost& host, Control& control, const TeeFault& fault);
 
 }  // namespace golf

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "forms/grid_sort.h"
 #include "forms/screen_host.h"
-#include "scoring/grid_sort.h"
 
 namespace golf {
 

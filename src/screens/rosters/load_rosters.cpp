@@ -5,7 +5,7 @@
 #include "core/number_text.h"
 #include "core/resume_next.h"
 #include "core/text.h"
-#include "scoring/grid_sort.h"
+#include "forms/grid_sort.h"
 #include "scoring/player/player_class.h"
 #include "stores/quenby/program_class.h"
 

@@ -6,7 +6,7 @@
 
 namespace golf {
 
-void FreeGolferPlaces::Tell(std::int32_t record, std::int32_t id) {
+void FreeGolferPlaces::Note(std::int32_t record, std::int32_t id) {
   length_ = std::max(length_, record);
   if (record < kFirstGolferRecord) return;
   const auto at = static_cast<std::size_t>(record);

@@ -1,20 +1,16 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
-#include <optional>
 #include <string>
 
-#include "core/resume_next.h"
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
-#include "transfers/kv_golfer_to_qb.h"
+#include "transfers/golfers_kv_to_qb.h"
 
 namespace golf {
 
-// Copies the golfers of a Kelvane roster into Quenby's golfer file and onto one of its rosters. A
-// golfer whom Quenby has by ID number is updated, any other is added. From the moment the files are
-// open the run carries on over faults.
+// Where the operator chooses a Kelvane roster, a Quenby roster and what of the golfers is copied,
+// and starts the transfer. Afterwards he may have the active tournament updated.
 class KVtoQB : public Screen {
  public:
   explicit KVtoQB(const ScreenContext& context);
@@ -47,11 +43,6 @@ class KVtoQB : public Screen {
   static constexpr int kQuenbyItemColumn = 3;
 
  private:
-  struct Counts {
-    std::int32_t updated = 0;
-    std::int32_t added = 0;
-  };
-
   std::array<Control*, 6> Remembered();
   void SetUpGrid();
   void FillItemGrid();
@@ -59,15 +50,12 @@ class KVtoQB : public Screen {
   void FindSource();
   void FindDestination();
 
-  void Transfer();
-  // The records of Quenby's golfer file; nothing if the files could not be opened, which the
-  // operator has been told.
-  std::optional<std::int32_t> OpenFiles();
-  void CopyGolfers(std::int32_t length);
-  void Report(const Counts& counts);
-  void AskTournamentUpdate();
-  void UpdateTournament(std::int32_t number);
   GolferToQbChoice Choice() const;
+  void Transfer();
+  bool CopyGolfers(const GolfersKvToQbRequest& request, GolfersKvToQbReport& report);
+  void ShowReport(const std::string& log);
+  void ShowNotice(std::string text);
+  void AskTournamentUpdate();
 };
 
 }  // namespace golf

@@ -1,19 +1,17 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string>
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
 #include "screens/rosters/league_picker.h"
+#include "transfers/scores_zd_to_kv.h"
 
 namespace golf {
 
-// Posts the scores of a league's event, or a batch of its scores apart from events, into the
-// histories of a Kelvane roster. Golfers are matched by their IDs. The league does not change: what
-// has been posted before is told from the history. The league's files stay open with the list of
-// its events.
+// Where the operator chooses a league, one of its batches of scores and a Kelvane roster, and
+// starts the transfer of the scores. The league's files stay open with the list of its batches.
 class ZDtoKV : public Screen {
  public:
   explicit ZDtoKV(const ScreenContext& context);
@@ -41,22 +39,13 @@ class ZDtoKV : public Screen {
   LeaguePicker picker;
 
  private:
-  struct Run;
-
   std::array<Control*, 5> Remembered();
   void TakeLeague(std::string league);
   void LoadEventList();
   void FindDestination();
 
   void Transfer();
-  void OpenCourseLibraries();
-  // The number of scores posted.
-  std::int32_t PostScores();
-  // These give false once the operator has cancelled the transfer.
-  bool PostAll(Run& run);
-  bool PostGolfer(Run& run, int file, std::int32_t record);
-  bool PostScoresOf(Run& run, std::int32_t place);
-  void Report(std::int32_t count);
+  void PostScores(ScoresZdToKvReport& report);
 
   std::string listed_league_;  // whose files are open with the list; empty with none
 };

@@ -1,4 +1,4 @@
-#include "scoring/grid_sort.h"
+#include "forms/grid_sort.h"
 
 #include <algorithm>
 #include <iterator>
@@ -51,30 +51,15 @@ void GridSorter::CalculatePositions(int first_row, int last_row, PositionMode mo
     if (mode == PositionMode::kOneKey) return group_of(row);
     return group_of(row) + grid.text(ColumnSorted(1), row);
   };
-  std::string key = key_of(first_row);
-  std::string group = group_of(first_row);
-  const auto count = static_cast<std::size_t>(last_row - first_row) + 1;
-  dense_.resize(count);
-  competition_.resize(count);
-  int dense = 1;
-  int competition = 1;
-  int sequence = 0;
-  for (std::size_t n = 0; n < count; ++n) {
-    const int row = first_row + static_cast<int>(n);
-    ++sequence;
-    std::string row_key = key_of(row);
-    if (!EqualIgnoringCase(row_key, key)) {
-      if (mode == PositionMode::kGroups && !EqualIgnoringCase(group_of(row), group)) {
-        sequence = 1;
-        group = group_of(row);
-      }
-      competition = sequence;
-      ++dense;
-      key = std::move(row_key);
-    }
-    dense_[n] = dense;
-    competition_[n] = competition;
-  }
+  const auto row_of = [&](std::size_t n) { return first_row + static_cast<int>(n); };
+  const auto tie = [&](std::size_t a, std::size_t b) {
+    return EqualIgnoringCase(key_of(row_of(a)), key_of(row_of(b)));
+  };
+  const auto same_group = [&](std::size_t a, std::size_t b) {
+    return mode != PositionMode::kGroups ||
+           EqualIgnoringCase(group_of(row_of(a)), group_of(row_of(b)));
+  };
+  places_ = NumberPlaces(static_cast<std::size_t>(last_row - first_row) + 1, tie, same_group);
 }
 
 int GridSorter::At(const std::vector<int>& places, int n) {

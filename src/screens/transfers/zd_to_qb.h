@@ -1,8 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
-#include <functional>
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
@@ -10,9 +8,8 @@
 
 namespace golf {
 
-// Brings the golfers of a league, and its substitutes if that is wanted, into Quenby's golfer file.
-// A golfer whom Quenby has by name is updated, any other joins the roster chosen. An operation on
-// a file that fails is tried again as long as the operator wants.
+// Where the operator chooses a league and a Quenby roster, and starts the transfer of the league's
+// golfers.
 class ZDtoQB : public Screen {
  public:
   explicit ZDtoQB(const ScreenContext& context);
@@ -43,26 +40,9 @@ class ZDtoQB : public Screen {
   LeaguePicker picker;
 
  private:
-  struct Counts {
-    std::int16_t updated = 0;
-    std::int16_t added = 0;
-  };
-  struct Run;
-
   std::array<Control*, 6> Remembered();
   // False if the operator was told what is missing.
   bool Transfer();
-  // These give false once the operator has given up on an operation.
-  bool CopyGolfers(Counts& counts);
-  bool ReadQuenby(Run& run);
-  bool CopyRecords(Run& run, int file, std::int32_t first, std::int32_t last);
-  bool CopyGolfer(Run& run);
-  bool Update(Run& run, std::int32_t record);
-  bool AddNew(Run& run);
-  void CopyFields();
-  // Runs an operation, again as long as a disk error comes and the operator wants to go on.
-  bool Try(const std::function<void()>& operation);
-  void Report(const Counts& counts);
 };
 
 }  // namespace golf

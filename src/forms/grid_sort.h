@@ -6,6 +6,7 @@
 
 #include "core/shared_state.h"
 #include "forms/grid.h"
+#include "scoring/places.h"
 
 namespace golf {
 
@@ -45,8 +46,8 @@ class GridSorter {
   void CalculatePositions(int first_row, int last_row, PositionMode mode);
   // The place of the n-th of those rows, from 1: without and with gaps behind a tie. 0 for a row
   // that was not counted.
-  int PositionNumber122334(int n) const { return At(dense_, n); }
-  int PositionNumber122446(int n) const { return At(competition_, n); }
+  int PositionNumber122334(int n) const { return At(places_.dense, n); }
+  int PositionNumber122446(int n) const { return At(places_.competition, n); }
 
  private:
   const SortKey& Key(int i) const;
@@ -56,8 +57,7 @@ class GridSorter {
   Grid* grid_ = nullptr;
   int last_row_ = 0;
   SortKeys keys_{};
-  std::vector<int> dense_;
-  std::vector<int> competition_;
+  Places places_;
 };
 
 }  // namespace golf

@@ -6,17 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "core/resume_next.h"
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
-#include "transfers/tournament_score_posting.h"
+#include "transfers/scores_qb_to_kv.h"
 
 namespace golf {
 
-// Posts the scores of a tournament's round into the histories of a Kelvane roster, for the golfers
-// whom both have by ID number. The operator sees the course and the tees of the round beside those
-// of Kelvane's library that their names fit best, and may choose others. A run carries on over
-// faults.
+// Where the operator chooses a tournament's round and a Kelvane roster, and starts the transfer of
+// the scores. He sees the course and the tees of the round beside those of Kelvane's library that
+// their names fit best, and may choose others.
 class QBtoKV : public Screen {
  public:
   static constexpr int kTees = 5;
@@ -106,13 +104,8 @@ class QBtoKV : public Screen {
 
   void Transfer();
   TournamentScoreChoice Choice();
-  bool IsBackNine(std::int32_t course, const ResumeNext& next);
-  bool OpenRoster(const ResumeNext& next);
-  void MarkRoster();
-  void OpenTournamentFiles(const ResumeNext& next);
-  bool HolesFit(TournamentScoreChoice& choice);
-  void PostScores(const TournamentScoreChoice& choice, const ResumeNext& next);
-  void Report(const TournamentScorePosting& posting);
+  void ShowReport(const ScoresQbToKvReport& report);
+  void ShowBox(std::string title, std::string text);
 
   int selected_round_ = 1;
   bool round_list_ready_ = false;  // the operator's choices in RoundList count

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string>
 
 #include "core/shared_state.h"
@@ -10,8 +9,8 @@
 
 namespace golf {
 
-// Carries names, addresses and handicaps of a Kelvane roster's golfers into the records that the
-// same golfers have in a league, for its current event. Nobody is added to the league.
+// Where the operator chooses a Kelvane roster, a league and what its handicaps are for, and starts
+// the transfer of golfers to the league.
 class KVtoZD : public Screen {
  public:
   explicit KVtoZD(const ScreenContext& context);
@@ -47,21 +46,14 @@ class KVtoZD : public Screen {
   LeaguePicker picker;
 
  private:
-  struct League;
-
   std::string SettingsPath() const;
   void ReadOwnSettings();
   void FindSource();
   void SelectHandicap(std::size_t type);
 
   void Transfer();
-  // A whole number from 10 to 100, which the box then shows.
-  int Percent();
-  void TellUnread(const League& league);
-  bool ScoresMayStand(int scores);
-  // The number of golfers transferred; adds a line to the log for each.
-  std::int16_t CopyGolfers(const League& league, std::string& log);
-  void Report(std::string log, std::int16_t transferred);
+  // A whole number from 10 to 100, which the box shows once the copying begins.
+  int Percent() const;
 };
 
 }  // namespace golf

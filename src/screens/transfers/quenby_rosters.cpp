@@ -1,4 +1,4 @@
-#include "transfers/quenby_rosters.h"
+#include "screens/transfers/quenby_rosters.h"
 
 #include <algorithm>
 

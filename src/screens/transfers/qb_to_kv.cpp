@@ -1,4 +1,4 @@
-#include "transfers/qb_to_kv.h"
+#include "screens/transfers/qb_to_kv.h"
 
 #include <algorithm>
 #include <utility>
@@ -7,33 +7,26 @@
 #include "scoring/player/player_class.h"
 #include "scoring/tournament_class.h"
 #include "screens/remembered_settings.h"
+#include "screens/transfers/screen_run.h"
 #include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "transfers/common_beginning.h"
-#include "transfers/transfer_run.h"
 
 namespace golf {
 namespace {
 
 constexpr std::size_t kCourseKey = 5;
 constexpr std::size_t kTeeKey = 2;  // with its abbreviation
-constexpr int kBackNine = -9;
 constexpr int kEighteen = 18;
-constexpr int kNine = 9;
 
 constexpr const char* kKelvane = "KV";
 constexpr const char* kQuenby = "QB";
-
-void Tell(ScreenHost& host, std::string title, std::string text) {
-  host.Ask(Box{.title = std::move(title), .text = std::move(text)});
-}
 
 std::string WithoutKey(const std::string& item, std::size_t key) {
   return std::string(
       Trim(std::string_view(item).substr(0, item.size() - std::min(item.size(), key))));
 }
-
-std::string CountLine(std::int16_t count, const char* what) { return std::to_string(count) + what; }
 
 // Where the list is empty there is nothing to choose.
 void SelectTee(ComboBox& list, const std::string& tee) {
@@ -279,7 +272,7 @@ void QBtoKV::ChooseCourse() {
 
 void QBtoKV::MatchTees() {
   const ResumeNext next = ResumeNextButReads(
-      [this](const NumberedError&) { Tell(host(), "Problem", "Selected Course has NO TEES!"); });
+      [this](const NumberedError&) { ShowBox("Problem", "Selected Course has NO TEES!"); });
   next([&] { PointCourseAt(kKelvane, state().KVDataPath); });
   next([&] { state().Course().GetRecord(CourseOf(CourseCombo.text())); });
   next([&] { GetTees(); });
@@ -333,27 +326,50 @@ void QBtoKV::ShowCaption() {
 
 void QBtoKV::Transfer() {
   if (IsBlankText(HandicapRoster.text()) || IsBlankText(TournamentList.text())) {
-    return Tell(host(), "Info",
-                "You must select both source and destination rosters before you can transfer "
-                "golfers.");
+    return ShowBox("Info",
+                   "You must select both source and destination rosters before you can transfer "
+                   "golfers.");
   }
   if (CourseCombo.index() < 0) {
-    return Tell(host(), "Info", "You must select a course to transfer to.");
+    return ShowBox("Info", "You must select a course to transfer to.");
   }
-  // Without the records that all players have in common nobody can be posted: the run ends.
-  const ResumeNext next = ResumeNextButReads([this](const NumberedError& fault) {
-    host().SetPointer(Pointer::kNormal);
-    host().TellFault(fault);
-  });
-  TournamentScoreChoice choice = Choice();
-  choice.back_nine = IsBackNine(choice.course, next);
-  if (!OpenRoster(next)) {
-    next([&] { OpenAgain(); });  // what the operator chooses next goes by the tournament
-    return Tell(host(), "Notice", "Cannot open Handicap Roster.");
+  ScoresQbToKvReport report;
+  {
+    ScreenRun run(host(), {.working = &Working, .begin = [this] {
+                             TransferButton.SetVisible(false);
+                             Message.SetText("");
+                           }});
+    Run(state(), run,
+        {.roster = HandicapRoster.text(),
+         .tournament = TournamentOf(TournamentList.text()),
+         .choice = Choice()},
+        report);
   }
-  next([&] { MarkRoster(); });
-  OpenTournamentFiles(next);
-  if (HolesFit(choice)) PostScores(choice, next);
+  if (report.end == RunEnd::kNoRoster) {
+    // What the operator chooses next goes by the tournament.
+    const ResumeNext next([this](const NumberedError& fault) { host().NoteFault(fault); });
+    next([&] { OpenAgain(); });
+    return ShowBox("Notice", "Cannot open Handicap Roster.");
+  }
+  if (!report.course_played.empty()) QBCourse.SetCaption(report.course_played);
+  if (report.end == RunEnd::kDone) ShowReport(report);
+}
+
+void QBtoKV::ShowReport(const ScoresQbToKvReport& report) {
+  Message.SetText(report.log);
+  host().NoteCount("transferred", report.transferred);
+  host().NoteCount("alreadyTransferred", report.already);
+  host().NoteCount("toTransfer", report.to_transfer);
+  host().NoteCount("notFound", report.not_found);
+  if (report.not_found > 0) {
+    host().Beep();
+    ShowBox("Notice", std::to_string(report.not_found) + " golfers were NOT found.");
+  }
+  ShowBox("Notice", std::to_string(report.transferred) + " Scores transferred.");
+}
+
+void QBtoKV::ShowBox(std::string title, std::string text) {
+  host().Ask(Box{.title = std::move(title), .text = std::move(text)});
 }
 
 TournamentScoreChoice QBtoKV::Choice() {
@@ -367,100 +383,6 @@ TournamentScoreChoice QBtoKV::Choice() {
   choice.as_tournament = TCheck.value();
   choice.points = TCheck2.value();
   return choice;
-}
-
-bool QBtoKV::IsBackNine(std::int32_t number, const ResumeNext& next) {
-  state().CourseDataPath = state().KVDataPath;
-  CourseClass course(state());
-  course.SetActiveProgram(kKelvane);
-  // The library is open even where its indexes are not.
-  next([&] { course.OpenCourseFile(); });
-  bool back_nine = false;
-  next([&] {
-    course.GetRecord(number);
-    back_nine = course.HoleNumFlag() == kBackNine;
-  });
-  return back_nine;
-}
-
-bool QBtoKV::OpenRoster(const ResumeNext& next) {
-  next([&] { state().InitSharedObjects(); });
-  bool opened = false;
-  next([&] { opened = OpenKVRoster(state(), HandicapRoster.text()); });
-  return opened;
-}
-
-void QBtoKV::MarkRoster() {
-  auto& header = state().Kelvane().header;
-  state().files.Read(kKelvaneHeaderFile, 1, header);
-  header.Set<"Setting153">(1);
-  state().files.Write(kKelvaneHeaderFile, 1, header);
-}
-
-void QBtoKV::OpenTournamentFiles(const ResumeNext& next) {
-  const std::int32_t number = TournamentOf(TournamentList.text());
-  next([&] { state().Tournament().OpenTournamentControlFile(number); });
-  next([&] { state().Tournament().GetRecord(); });
-  next([&] { state().Player().OpenRosterFile(); });
-  next([&] { state().Player().TourOpenTournamentFile(number); });
-  next([&] { PointCourseAt(kQuenby, state().QBDataPath); });
-  next([&] { QBCourse.SetCaption(state().Tournament().CourseNamePlayed(selected_round_)); });
-}
-
-bool QBtoKV::HolesFit(TournamentScoreChoice& choice) {
-  const int holes = state().Kelvane().header.Get<"Holes">();
-  const int played = state().Tournament().RoundType();
-  if (holes == played) return true;
-  if (played == kNine) {
-    choice.join_nines =
-        host().Ask(Box{.title = "Continue",
-                       .text = "Transfers 9 hole scores to an 18 hole roster?",
-                       .buttons = {BoxButton::kYes, BoxButton::kNo}}) == BoxButton::kYes;
-    return choice.join_nines;
-  }
-  host().Beep();
-  host().Ask(Box{.title = "Can not contine",
-                 .text = "You have selected an " + std::to_string(holes) +
-                         " hole Handicap Roster for a " + std::to_string(played) +
-                         " hole tournament.",
-                 .icon = BoxIcon::kStop});
-  return false;
-}
-
-void QBtoKV::PostScores(const TournamentScoreChoice& choice, const ResumeNext& next) {
-  PlayerClass& player = state().Player();
-  TransferButton.SetVisible(false);
-  Message.SetText("");
-  host().SetPointer(Pointer::kBusy);
-  TournamentScorePosting posting(state(), host(), choice);
-  std::int32_t records = 0;
-  next([&] { records = player.TourFileLength(); });
-  for (std::int32_t record = 1; record <= records; ++record) {
-    posting.Take(record);
-    Working.SetCaption(NumberText(record) + " " + player.NameLF());
-    host().RepaintNow(Working);
-    host().Tell({record, records, Working.caption()});
-  }
-  Report(posting);
-}
-
-void QBtoKV::Report(const TournamentScorePosting& posting) {
-  const auto& [transferred, already, to_transfer, not_found] = posting.counts();
-  std::string report;
-  if (to_transfer > 0) report += CountLine(to_transfer, " Scores TO transfer.\r\n");
-  if (already > 0) report += CountLine(already, " Scores already transferred.\r\n");
-  Message.SetText(report + CountLine(transferred, " Scores transferred.\r\n") + posting.log());
-  Working.SetCaption("");
-  host().SetPointer(Pointer::kNormal);
-  host().TellCount("transferred", transferred);
-  host().TellCount("alreadyTransferred", already);
-  host().TellCount("toTransfer", to_transfer);
-  host().TellCount("notFound", not_found);
-  if (not_found > 0) {
-    host().Beep();
-    Tell(host(), "Notice", CountLine(not_found, " golfers were NOT found."));
-  }
-  Tell(host(), "Notice", CountLine(transferred, " Scores transferred."));
 }
 
 }  // namespace golf

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace golf {
+
+// A message box as data: a run can ask with it, and every host can show it.
+
+enum class BoxIcon { kNone, kInformation, kQuestion, kStop, kWarning };
+enum class BoxButton { kOk, kCancel, kYes, kNo, kRetry };
+
+struct Box {
+  std::string title;
+  std::string text;
+  BoxIcon icon = BoxIcon::kNone;
+  std::vector<BoxButton> buttons = {BoxButton::kOk};
+  std::size_t default_button = 0;  // the first one where none is named
+};
+
+}  // namespace golf

@@ -1,0 +1,42 @@
+#include "screens/transfers/kv_courses_to_qb.h"
+
+#include "core/number_text.h"
+#include "screens/transfers/screen_run.h"
+#include "transfers/courses_kv_to_qb.h"
+
+namespace golf {
+
+KVCoursestoQB::KVCoursestoQB(const ScreenContext& context) : Screen("KVCoursestoQB", context) {
+  SetCaption("Transfer COURSES from Kelvane to Quenby");
+  Add({&Label1, &TransferLabel, &TransferCourses, &CancelButton});
+  TransferCourses.SetDefault(true);
+  CancelButton.SetCancel(true);
+  TransferCourses.on_click = [this] {
+    RunTransfer(*this, state(), host(), [this] { Transfer(); });
+  };
+  CancelButton.on_click = [this] { host().Unload(*this); };
+}
+
+void KVCoursestoQB::OnLoad() {
+  Label1.SetCaption(
+      "Click the button below to copy (update) courses from the Kelvane's course library to the "
+      "Quenby's course library.");
+}
+
+void KVCoursestoQB::Transfer() {
+  CoursesKvToQbReport report;
+  {
+    ScreenRun run(host(), {.working = &TransferLabel});
+    Run(state(), run, {}, report);
+  }
+  host().NoteCount("added", report.added);
+  host().NoteCount("updated", report.updated);
+  host().Ask(Box{.title = "Course transfer complete.",
+                 .text = "Number of courses ADDED:" + NumberText(report.added) +
+                         "\rNumber of courses UPDATED:" + NumberText(report.updated) + "\r",
+                 .icon = BoxIcon::kInformation});
+  RebuildQuenbyCourseIndexes(state());
+  host().Unload(*this);
+}
+
+}  // namespace golf

@@ -1,0 +1,128 @@
+#include "screens/transfers/kv_to_zd.h"
+
+#include <algorithm>
+
+#include "core/number_text.h"
+#include "core/text.h"
+#include "screens/rosters/load_roster.h"
+#include "screens/settings_file.h"
+#include "screens/transfers/screen_run.h"
+#include "stores/zandel/zandel_files.h"
+#include "transfers/golfers_kv_to_zd.h"
+
+namespace golf {
+namespace {
+
+constexpr int kLeastPercent = 10;
+constexpr int kMostPercent = 100;
+
+}  // namespace
+
+KVtoZD::KVtoZD(const ScreenContext& context)
+    : Screen("KVtoZD", context),
+      picker(context.state, *this,
+             {.panel = "Frame2",
+              .tag = "DEST",
+              .label = "Select the DESTINATION League",
+              .main = Frame1,
+              .finder = FindZDButton,
+              .leave = CancelButton,
+              .take = [this](std::string league) { DestLabel.SetCaption(std::move(league)); }}) {
+  SetCaption("Transfer GOLFERS from Kelvane to Zandel");
+  Add({&Frame1, &picker.Panel});
+  AddInto(Frame1, {&FindKVMButton,   &SourcePath,   &FindZDButton, &DestLabel, &HandicapType[0],
+                   &HandicapType[1], &HandicapPrct, &Label1[0],    &Label1[1], &Label1[2],
+                   &Label1[3],       &Label1[4],    &Label1[5],    &Label1[6], &Label1[7],
+                   &TransferButton,  &CancelButton, &Message,      &Working,   &WorkingCount});
+  AddInto(picker.Panel, picker.Controls());
+  Message.SetReadOnly(true);
+  HandicapType[1].SetValue(true);
+  for (std::size_t type = 0; type < HandicapType.size(); ++type) {
+    HandicapType[type].on_click = [this, type] { SelectHandicap(type); };
+  }
+  FindKVMButton.on_click = [this] { FindSource(); };
+  TransferButton.on_click = [this] { RunTransfer(*this, state(), host(), [this] { Transfer(); }); };
+  CancelButton.on_click = [this] { host().Unload(*this); };
+}
+
+void KVtoZD::OnLoad() {
+  picker.Fill();
+  ReadOwnSettings();
+}
+
+void KVtoZD::OnUnload() {
+  SettingsWriter to;
+  to.Text(SourcePath.caption());
+  to.Text(DestLabel.caption());
+  to.Word(HandicapType[0].value() ? "True" : "False");
+  to.Text(HandicapPrct.text());
+  WriteSettingsFile(state(), SettingsPath(), to);
+}
+
+// Beside the program, unlike the settings of other screens.
+std::string KVtoZD::SettingsPath() const { return state().ProgramPath + "KVtoZD.DAT"; }
+
+void KVtoZD::ReadOwnSettings() {
+  SettingsReader from = ReadSettingsFile(state(), SettingsPath());
+  if (const auto roster = from.Text()) {
+    state().KVRosterName = *roster;
+    SourcePath.SetCaption(*roster);
+  }
+  if (const auto league = from.Text()) DestLabel.SetCaption(*league);
+  // It is written as a word but read as a number, which a word is not: the screen always comes up
+  // with handicaps of 18 holes, as operators are used to.
+  if (const auto nine = from.Word()) SelectHandicap(LeadingNumber(*nine) == 0 ? 1 : 0);
+  if (const auto percent = from.Text()) HandicapPrct.SetText(*percent);
+}
+
+void KVtoZD::FindSource() {
+  auto& rosters = dynamic_cast<LoadRoster&>(host().Load("LoadRoster"));
+  rosters.SetTag("OPENONLY");
+  host().ShowModal(rosters);
+  SourcePath.SetCaption(state().KVRosterName);
+}
+
+void KVtoZD::SelectHandicap(std::size_t type) {
+  HandicapType[type].SetValue(true);
+  HandicapType[1 - type].SetValue(false);
+}
+
+void KVtoZD::Transfer() {
+  if (IsBlankText(SourcePath.caption()) || IsBlankText(DestLabel.caption())) {
+    host().Ask(Box{.title = "Info",
+                   .text = "You must select both source roster and destination league before you "
+                           "can transfer golfers.",
+                   .icon = BoxIcon::kInformation});
+    return;
+  }
+  GolfersKvToZdReport report;
+  {
+    ScreenRun run(host(), {.working = &Working,
+                           .count = &WorkingCount,
+                           .hidden = &TransferButton,
+                           .begin = [this] { HandicapPrct.SetText(std::to_string(Percent())); }});
+    Run(state(), run,
+        {.roster = SourcePath.caption(),
+         .league = LeagueBase(DestLabel.caption()),
+         .league_text = DestLabel.caption(),
+         .percent = Percent(),
+         .halved = HandicapType[0].value()},
+        report);
+  }
+  if (report.end == RunEnd::kRefused) return;
+  if (report.end == RunEnd::kNoRoster) {
+    host().Ask(Box{.title = "Notice", .text = "Cannot open the Kelvane roster"});
+  } else {
+    host().NoteCount("transferred", report.transferred);
+  }
+  Message.SetText(report.log + std::to_string(report.transferred) + " golfers transferred.");
+}
+
+// What is outside the range stands for all of it.
+int KVtoZD::Percent() const {
+  const double entered = std::clamp(LeadingNumber(HandicapPrct.text()), 0.0, 1000.0);
+  const int percent = RoundToInt16(entered);
+  return percent < kLeastPercent || percent > kMostPercent ? kMostPercent : percent;
+}
+
+}  // namespace golf

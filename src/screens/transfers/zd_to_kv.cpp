@@ -1,0 +1,111 @@
+#include "screens/transfers/zd_to_kv.h"
+
+#include "core/text.h"
+#include "screens/remembered_settings.h"
+#include "screens/rosters/load_roster.h"
+#include "screens/transfers/screen_run.h"
+#include "stores/zandel/zandel_batches.h"
+#include "transfers/scores_zd_to_kv.h"
+
+namespace golf {
+
+ZDtoKV::ZDtoKV(const ScreenContext& context)
+    : Screen("ZDtoKV", context),
+      picker(context.state, *this,
+             {.panel = "Frame1",
+              .tag = "SOURCE",
+              .label = "Select the SOURCE League",
+              .main = Frame2,
+              .finder = SourceButton,
+              .leave = ExitButton,
+              .take = [this](std::string league) { TakeLeague(std::move(league)); },
+              .pick_gives_escape_back = false}) {
+  SetCaption("Transfer Zandel Scores to Kelvane");
+  Add({&Frame2, &picker.Panel});
+  AddInto(Frame2,
+          {&SourceButton, &LeagueRoster, &EventList, &DestButton, &HandicapRoster, &TransferButton,
+           &ExitButton, &Message, &Working, &Label1[0], &Label1[1], &Label1[2]});
+  AddInto(picker.Panel, picker.Controls());
+  Message.SetReadOnly(true);
+  EventList.on_click = [this] { TransferButton.SetVisible(true); };
+  DestButton.on_click = [this] { FindDestination(); };
+  TransferButton.on_click = [this] { RunTransfer(*this, state(), host(), [this] { Transfer(); }); };
+  ExitButton.on_click = [this] { host().Unload(*this); };
+}
+
+std::array<Control*, 5> ZDtoKV::Remembered() {
+  return {&LeagueRoster, &EventList, &HandicapRoster, &Message, &picker.LeagueList};
+}
+
+void ZDtoKV::OnLoad() {
+  state().StoreDataPath = state().ZDDataPath;
+  picker.Fill();
+  ReadSettings(state(), *this, Remembered());
+  LoadEventList();
+  Message.SetText("");
+  MoveFocus(&SourceButton);
+}
+
+void ZDtoKV::OnUnload() { WriteSettings(state(), *this, Remembered()); }
+
+// The list on the screen stays, and with it the batch chosen.
+void ZDtoKV::OpenAgain() { LoadScoreBatches(state(), listed_league_); }
+
+void ZDtoKV::TakeLeague(std::string league) {
+  LeagueRoster.SetText(std::move(league));
+  LoadEventList();
+  MoveFocus(&TransferButton);
+}
+
+void ZDtoKV::LoadEventList() {
+  listed_league_.clear();
+  const auto batches = LoadScoreBatches(state(), LeagueRoster.text());
+  if (!batches) return;
+  listed_league_ = LeagueRoster.text();
+  EventList.Clear();
+  for (const ScoreBatch& batch : batches->list) EventList.AddItem(batch.Item());
+  EventList.Select(batches->selected);
+}
+
+void ZDtoKV::FindDestination() {
+  auto& rosters = dynamic_cast<LoadRoster&>(host().Load("LoadRoster"));
+  rosters.SetTag("OPENONLY");
+  host().ShowModal(rosters);
+  HandicapRoster.SetText(state().KVRosterName);
+  TransferButton.SetVisible(true);
+}
+
+void ZDtoKV::Transfer() {
+  if (IsBlankText(HandicapRoster.text()) || IsBlankText(LeagueRoster.text())) {
+    host().Ask(Box{.title = "Info",
+                   .text = "You must select both source league and destination roster before you "
+                           "can transfer scores."});
+    return;
+  }
+  ScoresZdToKvReport report;
+  PostScores(report);
+  if (report.end == RunEnd::kRefused) return;
+  host().NoteCount("transferred", report.transferred);
+  host().Ask(Box{
+      .title = "Notice",
+      .text = "Transfer Complete..." + std::to_string(report.transferred) + " scores transfered."});
+  TransferButton.SetVisible(false);
+}
+
+// The log shows what was posted, also before an error.
+void ZDtoKV::PostScores(ScoresZdToKvReport& report) {
+  const auto show_log = [&] {
+    if (!report.log.empty()) Message.SetText(report.log);
+  };
+  ScreenRun run(host(), {.working = &Working, .log = &Message});
+  try {
+    Run(state(), run, {.roster = HandicapRoster.text(), .batch = BatchCode(EventList.text())},
+        report);
+  } catch (const NumberedError&) {
+    show_log();
+    throw;
+  }
+  show_log();
+}
+
+}  // namespace golf

@@ -1,0 +1,103 @@
+#include "transfers/courses_kv_to_qb.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/number_text.h"
+#include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
+
+namespace golf {
+namespace {
+
+constexpr int kSource = 10;
+constexpr int kDestination = 11;
+
+// The Quenby records that carry a Kelvane number, as the file stood before the run. A search for a
+// number gives all of them in file order, as a walk over the whole file would, at the cost of a
+// look-up.
+class CourseLinks {
+ public:
+  using Link = std::pair<std::int16_t, std::int64_t>;  // Kelvane number, Quenby record
+
+  void Read(FileTable& files, int number, std::int64_t count) {
+    Record<KelvaneCourseLayout> course;
+    for (std::int64_t record = 1; record <= count; ++record) {
+      files.Read(number, record, course);
+      const std::int16_t kelvane_number = course.Get<"KVCourseNum">();
+      if (kelvane_number > 0)
+        links_.emplace_back(kelvane_number, record);  // the others link to none
+    }
+    std::sort(links_.begin(), links_.end());
+  }
+
+  std::pair<std::vector<Link>::const_iterator, std::vector<Link>::const_iterator> Find(
+      std::int16_t kelvane_number) const {
+    return std::equal_range(links_.begin(), links_.end(), Link(kelvane_number, 0),
+                            [](const Link& a, const Link& b) { return a.first < b.first; });
+  }
+
+ private:
+  std::vector<Link> links_;
+};
+
+// Records of the two files that are open, by the rounded lengths: a torn record of more than a half
+// counts.
+void CopyCourses(FileTable& files, RunHost& host, const CourseLinks& links,
+                 std::int64_t quenby_count, CoursesKvToQbReport& report) {
+  const std::int64_t kelvane_count = files.CountRounded(kSource, KelvaneCourseLayout::kLength);
+  Record<KelvaneCourseLayout> course;
+  for (std::int64_t source = 1; source <= kelvane_count; ++source) {
+    files.Read(kSource, source, course);
+    const std::int16_t kelvane_number = CheckedInt16(source);
+    course.Set<"KVCourseNum">(kelvane_number);
+    // A course that is not in use is copied as well, so that numbers stay linked, but it is neither
+    // shown nor counted as an update.
+    const bool in_use = (course.Get<"activeflag">() & 1) != 0;
+    host.Report({source, kelvane_count, in_use ? course.Get<"Name">() : std::string()});
+    const auto [first, last] = links.Find(kelvane_number);
+    for (auto link = first; link != last; ++link) {
+      if (in_use) CountUp(report.updated);
+      files.Write(kDestination, link->second, course);
+    }
+    if (first == last) {
+      CountUp(report.added);
+      files.Write(kDestination, quenby_count + report.added, course);
+    }
+  }
+}
+
+}  // namespace
+
+void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest&,
+         CoursesKvToQbReport& report) {
+  constexpr std::size_t kLength = KelvaneCourseLayout::kLength;
+  FileTable& files = state.files;
+  const JoinedWrites joined(files);
+  const std::string quenby_library = state.QBDataPath + "qbcrs.dat";
+
+  files.Open(kSource, quenby_library, kLength);
+  const std::int64_t quenby_count = files.CountRounded(kSource, kLength);
+  CourseLinks links;
+  links.Read(files, kSource, quenby_count);
+  files.Close(kSource);
+
+  files.Open(kSource, state.KVDataPath + "kvcrs.dat", kLength);
+  files.Open(kDestination, quenby_library, kLength);
+  host.Begin();
+  CopyCourses(files, host, links, quenby_count, report);
+  state.InitSharedObjects();
+  report.end = RunEnd::kDone;
+}
+
+void RebuildQuenbyCourseIndexes(SharedState& state) {
+  const JoinedWrites joined(state.files);
+  OpenCourseLibrary(state, *FindCourseLibrary("QB"));
+  CourseClass& course = state.Course();
+  course.RebuildCourseIndexes(course.ActiveCoursesByName());
+  state.InitSharedObjects();
+}
+
+}  // namespace golf

@@ -1,0 +1,146 @@
+#include "transfers/golfers_kv_to_qb.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <vector>
+
+#include "core/take_records.h"
+#include "scoring/player/player_class.h"
+#include "stores/kelvane/kelvane_files.h"
+#include "stores/quenby/free_golfer_places.h"
+
+namespace golf {
+namespace {
+
+// Quenby's golfers as the file stood before the run: where an ID is found first, as a walk from the
+// first record would find it, and where golfers can be added. Golfers added in the run are not
+// found. An ID of 0 finds the first record without a golfer.
+class QuenbyGolfers {
+ public:
+  QuenbyGolfers(TournamentPlayers& player, std::int32_t length) : places(length) {
+    unread_ = TakeRecords(kFirstGolferRecord, length, [&](std::int32_t record) {
+      player.GetRecord(record, false);
+      places.Note(record, player.StoredID());
+      const auto first = first_.emplace(std::max(player.StoredID(), 0), record).first;
+      first->second = std::min(first->second, record);
+    });
+  }
+
+  // Error where a golfer who was not found may stand in a record that cannot be read. To add him
+  // anew could make two of him.
+  void CheckAllRead() const {
+    if (unread_.empty()) return;
+    throw ReadError({ErrorNumber::kDeviceFault,
+                     "Record " + std::to_string(unread_.front()) +
+                         " of Quenby's golfer file cannot be read, and he may stand there."});
+  }
+  // 0 if there is none.
+  std::int32_t Find(std::int32_t id) const {
+    const auto found = first_.find(id);
+    return found == first_.end() ? 0 : found->second;
+  }
+
+  FreeGolferPlaces places;
+
+ private:
+  std::unordered_map<std::int32_t, std::int32_t> first_;
+  std::vector<std::int32_t> unread_;
+};
+
+// The loop over the golfers of the open roster.
+class GolferCopy {
+ public:
+  GolferCopy(SharedState& state, RunHost& host, const GolfersKvToQbRequest& request,
+             GolfersKvToQbReport& report, std::int32_t length)
+      : state_(state),
+        host_(host),
+        request_(request),
+        report_(report),
+        next_([&host](const NumberedError& fault) { host.NoteFault(fault); }),
+        quenby_(state.Player(), length) {}
+
+  void CopyAll() {
+    std::int32_t places = 0;
+    next_([&] { places = KVGolferPlaces(state_); });
+    for (std::int32_t place = 1; place <= places; ++place) {
+      if (IsWanted(place)) Copy(place, places);
+    }
+  }
+
+ private:
+  const Record<KelvaneGolferLayout>& Golfer() const { return state_.Kelvane().golfer; }
+
+  bool IsWanted(std::int32_t place) {
+    const bool read = ReadOrLeaveOut(
+        host_, report_,
+        [&] { state_.files.Read(kKelvaneGolferFile, place, state_.Kelvane().golfer); },
+        [&] { return "The golfer at place " + std::to_string(place); });
+    if (!read || (request_.marked_only && Golfer().Get<"MarkedToPrint">() == 0)) return false;
+    return IsGolfer(Golfer());
+  }
+
+  void Copy(std::int32_t place, std::int32_t places) {
+    host_.Report({place, places,
+                  "Transferring: " + std::to_string(report_.updated + report_.added) + " " +
+                      Golfer().Get<"NameLast">()});
+    const std::int32_t found = quenby_.Find(Golfer().Get<"IDNum">());
+    const std::int32_t record = found > 0 ? found : quenby_.places.First();
+    const bool prepared = ReadOrLeaveOut(
+        host_, report_, [&] { Prepare(found); }, [&] { return KVGolferName(Golfer()); });
+    if (!prepared) return;
+    CopyGolferToQb(state_.Kelvane(), request_.choice, state_.Player(), next_);
+    next_([&] { state_.Player().SetRosters(3, request_.destination); });
+    ++(found > 0 ? report_.updated : report_.added);
+    next_([&] { Save(record); });
+  }
+
+  // The player who is to be changed in the buffer: the one in a record, or a blank one for 0.
+  void Prepare(std::int32_t record) {
+    if (record > 0) {
+      state_.Player().GetRecord(record, false);
+    } else {
+      quenby_.CheckAllRead();
+      state_.Player().BlankPlayerRecord();
+    }
+  }
+
+  // A golfer without an ID leaves his record free, even one that was not before.
+  void Save(std::int32_t record) {
+    state_.Player().SaveRecord(record, false);
+    quenby_.places.Note(record, state_.Player().StoredID());
+  }
+
+  SharedState& state_;
+  RunHost& host_;
+  const GolfersKvToQbRequest& request_;
+  GolfersKvToQbReport& report_;
+  ResumeNext next_;
+  QuenbyGolfers quenby_;
+};
+
+std::string Log(const GolfersKvToQbRequest& request, const GolfersKvToQbReport& report) {
+  std::string log = request.roster + " TRANSFERED:";
+  log.append(kReportLineEnd);
+  log.append(std::to_string(report.updated) + " golfers updated.").append(kReportLineEnd);
+  log.append(std::to_string(report.added) + " new golfers added.").append(kReportLineEnd);
+  return log.append(30, '=').append(kReportLineEnd);
+}
+
+}  // namespace
+
+void Run(SharedState& state, RunHost& host, const GolfersKvToQbRequest& request,
+         GolfersKvToQbReport& report) {
+  if (!OpenKVRoster(state, request.roster)) {
+    report.end = RunEnd::kNoRoster;
+    return;
+  }
+  host.Begin();
+  state.files.Read(kKelvaneHeaderFile, 1, state.Kelvane().header);
+  state.Player().OpenRosterFile();
+  const std::int32_t length = state.Player().RosterFileLength();
+  GolferCopy(state, host, request, report, length).CopyAll();
+  report.log = Log(request, report);
+  report.end = RunEnd::kDone;
+}
+
+}  // namespace golf

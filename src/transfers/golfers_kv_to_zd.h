@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/shared_state.h"
+#include "transfers/run.h"
+
+namespace golf {
+
+// Carries names, addresses and handicaps of a Kelvane roster's golfers into the records that the
+// same golfers have in a league, for its current event. Nobody is added to the league.
+struct GolfersKvToZdRequest {
+  std::string roster;       // Kelvane's, without folder or extension
+  std::string league;       // its base
+  std::string league_text;  // as the log names it
+  int percent = 100;        // of the handicap, 10 to 100
+  bool halved = false;      // for rounds of 9 holes
+};
+
+struct GolfersKvToZdReport : RunReport {
+  std::int16_t transferred = 0;  // league records; a golfer may have two
+};
+
+// Asks first where the current event has scores already. Whoever cannot be read is left out; any
+// other error ends the run. Error 9 for a current event outside 1 to 50.
+void Run(SharedState& state, RunHost& host, const GolfersKvToZdRequest& request,
+         GolfersKvToZdReport& report);
+
+}  // namespace golf

@@ -1,0 +1,204 @@
+#include "transfers/golfers_zd_to_qb.h"
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <unordered_map>
+
+#include "core/number_text.h"
+#include "core/text.h"
+#include "scoring/player/player_class.h"
+#include "stores/quenby/free_golfer_places.h"
+#include "stores/zandel/zandel_files.h"
+
+namespace golf {
+namespace {
+
+constexpr std::int32_t kHighestID = 99999;
+
+// Errors of a disk, about which the operator may be able to do something.
+constexpr int kDiskErrors[] = {57, 61, 70, 71, 75, 76};
+constexpr int kDiskFull = 61;
+
+bool IsOfDisk(const NumberedError& error) {
+  return std::find(std::begin(kDiskErrors), std::end(kDiskErrors), error.number()) !=
+         std::end(kDiskErrors);
+}
+
+// What a golfer is known by in both programs.
+std::string NameKey(std::string_view last, std::string_view first) {
+  return UpperCase(std::string(Trim(last)) + std::string(Trim(first)));
+}
+
+// The fields of a league's golfer that Quenby has as well. His index is always 0 there.
+void CopyGolferToQuenby(const Record<LeaguePlayerLayout>& from, int event, bool doubled,
+                        RosterPlayers& to) {
+  to.SetNameLast(from.Get<"LastName">());
+  to.SetNameFirst(from.Get<"FirstName">());
+  to.Setsex(from.Get<"Sex">() == 1 ? "F" : "M");
+  to.SetAddressHomeLine(1, from.Get<"AddressLine1">());
+  to.SetAddressHomeLine(2, from.Get<"AddressLine2">());
+  to.SetAddressHomeLine(3, from.Get<"AddressLine3">());
+  to.SetPhoneHome(from.Get<"PhoneHome">());
+  to.SetPhoneWork(from.Get<"PhoneWork">());
+  to.SetIndex(0);
+  to.SetHandicap(from.Get<"EventHandicap">(event));
+  if (doubled) to.SetHandicap(2 * LeadingNumber(to.HandicapValue(true)));
+}
+
+// The loop over the golfers of the open league. Members that give false end the run: the operator
+// has given up on an operation.
+class GolferCopy {
+ public:
+  GolferCopy(SharedState& state, RunHost& host, const GolfersZdToQbRequest& request,
+             GolfersZdToQbReport& report, std::int32_t length)
+      : state_(state),
+        host_(host),
+        request_(request),
+        report_(report),
+        length_(length),
+        places_(length) {}
+
+  bool CopyAll() {
+    const auto& control = state_.Zandel().control;
+    std::int32_t players = control.Get<"PlayerFactor1">() * control.Get<"PlayerFactor2">();
+    std::int32_t last_substitute = request_.substitutes ? control.Get<"LastSubRecord">() : 0;
+    // Behind the end of a file stands nobody.
+    const auto limit = [this](std::int32_t& last, int file) {
+      last = std::min(last, state_.files.RecordCount<LeaguePlayerLayout>(file));
+    };
+    if (!ReadQuenby() || !Try([&] { limit(players, kLeaguePlayerFile); }) ||
+        !Try([&] { limit(last_substitute, kLeagueSubstituteFile); })) {
+      return false;
+    }
+    total_ = std::max(players, 0) + std::max(last_substitute - kFirstSubstitute + 1, 0);
+    return CopyRecords(kLeaguePlayerFile, 1, players) &&
+           CopyRecords(kLeagueSubstituteFile, kFirstSubstitute, last_substitute);
+  }
+
+ private:
+  // Runs an operation, again as long as a disk error comes and the operator wants to go on.
+  bool Try(const std::function<void()>& operation) {
+    for (;;) {
+      try {
+        operation();
+        return true;
+      } catch (const NumberedError& error) {
+        if (!IsOfDisk(error)) throw;
+        if (WantsRetry(error)) continue;
+        report_.given_up = error;
+        return false;
+      }
+    }
+  }
+
+  bool WantsRetry(const NumberedError& error) {
+    host_.Beep();
+    const Box box{.title = "Message",
+                  .text = error.number() == kDiskFull
+                              ? "DISK IS FULL - You may need to delete nonessential"
+                              : "DISK ERROR" + NumberText(error.number()),
+                  .buttons = {BoxButton::kRetry, BoxButton::kCancel},
+                  .default_button = 1};
+    return host_.Ask(box) == BoxButton::kRetry;
+  }
+
+  bool ReadQuenby() {
+    TournamentPlayers& player = state_.Player();
+    IdNumberList& ids = state_.id_numbers;
+    ids.Run(IdNumberList::kSize, length_);
+    for (std::int32_t record = kFirstGolferRecord; record <= length_; ++record) {
+      if (!Try([&] { player.GetRecord(record, false); })) return false;
+      places_.Note(record, player.StoredID());
+      if (!player.PlayerExists()) continue;
+      ids.Run(IdNumberList::kAppend, player.StoredID());
+      by_name_.emplace(NameKey(player.NameLast(), player.NameFirst()), record);
+    }
+    return true;
+  }
+
+  bool CopyRecords(int file, std::int32_t first, std::int32_t last) {
+    auto& golfer = state_.Zandel().player;
+    for (std::int32_t record = first; record <= last; ++record) {
+      if (!Try([&] { state_.files.Read(file, record, golfer); })) return false;
+      ++done_;
+      if (!Copy(golfer)) return false;
+    }
+    return true;
+  }
+
+  bool Copy(const Record<LeaguePlayerLayout>& golfer) {
+    const std::string last_name = golfer.Get<"LastName">();
+    const std::string first_name = golfer.Get<"FirstName">();
+    if (CompareIgnoringCase(Trim(last_name), " ") <= 0) return true;
+    host_.Report(
+        {done_, total_,
+         "Transfering: " + std::string(Trim(first_name)) + " " + std::string(Trim(last_name))});
+    const auto found = by_name_.find(NameKey(last_name, first_name));
+    return found == by_name_.end() ? AddNew(golfer) : Update(golfer, found->second);
+  }
+
+  bool Update(const Record<LeaguePlayerLayout>& golfer, std::int32_t record) {
+    TournamentPlayers& player = state_.Player();
+    if (!Try([&] { player.GetRecord(record, false); })) return false;
+    CopyGolferToQuenby(golfer, Event(), request_.doubled, player);
+    if (!Try([&] { player.SaveRecord(record, false); })) return false;
+    CountUp(report_.updated);
+    return true;
+  }
+
+  bool AddNew(const Record<LeaguePlayerLayout>& golfer) {
+    TournamentPlayers& player = state_.Player();
+    IdNumberList& ids = state_.id_numbers;
+    const std::int32_t record = places_.First();
+    const std::int32_t id = ids.Run(IdNumberList::kNextFree, kHighestID);
+    player.BlankPlayerRecord();
+    player.SetIDNum(id);
+    ids.Run(IdNumberList::kAppend, id);
+    player.SetRosters(3, request_.destination);
+    CopyGolferToQuenby(golfer, Event(), request_.doubled, player);
+    CountUp(report_.added);
+    if (!Try([&] { player.SaveRecord(record, false); })) return false;
+    places_.Note(record, id);
+    return true;
+  }
+
+  int Event() const { return state_.Zandel().control.Get<"CurrentEvent">(); }
+
+  SharedState& state_;
+  RunHost& host_;
+  const GolfersZdToQbRequest& request_;
+  GolfersZdToQbReport& report_;
+  // Quenby's golfers as they stood before the run; one whom it adds is not found. A name leads to
+  // the first record that has it, as a walk over all records would.
+  std::int32_t length_;
+  std::unordered_map<std::string, std::int32_t> by_name_;
+  FreeGolferPlaces places_;
+  std::int64_t done_ = 0;
+  std::int64_t total_ = 0;
+};
+
+std::string Log(const GolfersZdToQbReport& report) {
+  std::string log = " Transfered";
+  log.append(kReportLineEnd);
+  log.append(std::to_string(report.updated) + " golfers updated.").append(kReportLineEnd);
+  log.append(std::to_string(report.added) + " new golfers added.").append(kReportLineEnd);
+  return log.append(30, '=').append(kReportLineEnd);
+}
+
+}  // namespace
+
+void Run(SharedState& state, RunHost& host, const GolfersZdToQbRequest& request,
+         GolfersZdToQbReport& report) {
+  state.InitSharedObjects();
+  OpenLeagueGolfers(state, request.league);
+  host.Begin();
+  state.Player().OpenRosterFile();
+  const std::int32_t length = state.Player().RosterFileLength();
+  GolferCopy(state, host, request, report, length).CopyAll();
+  state.InitSharedObjects();
+  report.log = Log(report);
+  report.end = RunEnd::kDone;
+}
+
+}  // namespace golf

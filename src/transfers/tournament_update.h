@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/shared_state.h"
+#include "transfers/run.h"
+
+namespace golf {
+
+// Puts the handicaps and indexes of Quenby's golfers into all seven rounds of a tournament that
+// they are entered for.
+struct TournamentUpdateRequest {
+  std::int32_t tournament = 0;
+};
+
+using TournamentUpdateReport = RunReport;
+
+// Leaves out an entry that cannot be read; stops at any other error. The tournament's control file
+// is open in the shared Tournament. The files stay open.
+void Run(SharedState& state, RunHost& host, const TournamentUpdateRequest& request,
+         TournamentUpdateReport& report);
+
+}  // namespace golf
