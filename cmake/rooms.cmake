@@ -1,7 +1,10 @@
 # What all targets of the project have in common, and one way to make the library of a room.
 
 add_library(golf_options INTERFACE)
-target_compile_options(golf_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_compile_options(golf_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(GOLF_WARNINGS_ARE_ERRORS)
+  target_compile_options(golf_options INTERFACE -Werror)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # This release warns falsely where strings are joined (GCC bug 105651).
   target_compile_options(golf_options INTERFACE -Wno-restrict)
@@ -21,9 +24,18 @@ if(WIN32)
   target_compile_options(golf_options INTERFACE -Wno-maybe-uninitialized)
 endif()
 
-# golf_room(NAME SOURCES... USES targets...): the static library golf_NAME.
+# golf_room(NAME SOURCES... USES targets... HEADERS headers...): the static library golf_NAME. The
+# standard headers are compiled once for all rooms; a room that names heavy headers of its own
+# compiles those once for itself.
+set(standard_headers <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <string>
+                     <string_view> <utility> <vector>)
 function(golf_room name)
-  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES;HEADERS" ${ARGN})
   add_library(golf_${name} STATIC ${ROOM_SOURCES})
   target_link_libraries(golf_${name} PUBLIC golf_options ${ROOM_USES})
+  if(name STREQUAL "core" OR ROOM_HEADERS)
+    target_precompile_headers(golf_${name} PRIVATE ${standard_headers} ${ROOM_HEADERS})
+  else()
+    target_precompile_headers(golf_${name} REUSE_FROM golf_core)
+  endif()
 endfunction()

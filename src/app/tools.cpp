@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "screens/courses/course_table.h"
 #include "stores/course/course_class.h"
 #include "stores/course/course_library.h"
 
@@ -11,7 +12,7 @@ namespace {
 constexpr const char* kCourseLibrary = "Course library";
 
 void ShowOpenLibrary(SharedState& state, ScreenHost& host) {
-  host.ShowModal(host.Load("CourseTable"));
+  host.ShowModal(Load<CourseTable>(host));
   state.Course().CloseCourseFile();
 }
 

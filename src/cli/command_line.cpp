@@ -2,10 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <charconv>
 #include <functional>
 #include <iostream>
-#include <limits>
 
 #include "cli/commands.h"
 #include "cli/console.h"
@@ -13,6 +11,7 @@
 #include "cli/problems.h"
 #include "cli/script_line.h"
 #include "core/code_page.h"
+#include "core/number_text.h"
 
 namespace golf {
 namespace {
@@ -84,14 +83,11 @@ template <class Number>
 CLI::Option* AddNumber(CLI::App& command, const std::string& name, Number& number,
                        const std::string& help) {
   const auto read = [&number, name](const std::string& text) {
-    std::int64_t value = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    const bool whole = result.ec == std::errc() && result.ptr == text.data() + text.size();
-    if (!whole || value < std::numeric_limits<std::int32_t>::min() ||
-        value > std::numeric_limits<std::int32_t>::max()) {
+    const auto value = ReadWholeNumber(text);
+    if (!value || *value != static_cast<std::int32_t>(*value)) {
       throw CLI::ValidationError(name, "\"" + text + "\" is no whole number");
     }
-    number = static_cast<std::int32_t>(value);
+    number = static_cast<std::int32_t>(*value);
   };
   return command.add_option_function<std::string>(name, read, help)->type_name("N");
 }

@@ -1,9 +1,9 @@
-#include <charconv>
 
 #include "cli/commands.h"
 #include "cli/picker_presses.h"
 #include "cli/transfer_command.h"
 #include "core/code_page.h"
+#include "core/number_text.h"
 #include "core/text.h"
 #include "screens/transfers/kv_to_qb.h"
 
@@ -15,10 +15,10 @@ constexpr int kFirstOptionalRow = 2;
 // The row of an optional item by its number or by its name on either side; 0 if there is none.
 int RowOfItem(const Grid& grid, const std::string& item) {
   if (item.empty()) return 0;
-  int number = 0;
-  const auto read = std::from_chars(item.data(), item.data() + item.size(), number);
-  const bool whole = read.ec == std::errc() && read.ptr == item.data() + item.size();
-  if (whole && number >= kFirstOptionalRow && number <= grid.rows()) return number;
+  const auto number = ReadWholeNumber(item);
+  if (number && *number >= kFirstOptionalRow && *number <= grid.rows()) {
+    return static_cast<int>(*number);
+  }
   for (int row = kFirstOptionalRow; row <= grid.rows(); ++row) {
     for (const int column : {KVtoQB::kItemColumn, KVtoQB::kQuenbyItemColumn}) {
       if (EqualIgnoringCase(grid.text(column, row), item)) return row;

@@ -53,15 +53,15 @@ void AddTournament(SharedState& state, std::int32_t number, ListWriter& out) {
   state.Player().TourOpenTournamentFile(number);
   const std::int32_t players = tournament.NumPlayersInTournament();
   const std::string date = holds_record ? tournament.DateofRound(1) : "";
-  const std::string rounds = tournament.NumRounds();
+  const int rounds = tournament.RoundCount();
   const std::string name = holds_record ? tournament.Name() : "";
-  out.Add(
-      {{"number", number},
-       {"name", JsonText(name)},
-       {"date", JsonText(date)},
-       {"rounds", std::stoi(rounds)},
-       {"players", players}},
-      {std::to_string(number), PlainCell(name), PlainCell(date), rounds, std::to_string(players)});
+  out.Add({{"number", number},
+           {"name", JsonText(name)},
+           {"date", JsonText(date)},
+           {"rounds", rounds},
+           {"players", players}},
+          {std::to_string(number), PlainCell(name), PlainCell(date), std::to_string(rounds),
+           std::to_string(players)});
 }
 
 }  // namespace

@@ -33,10 +33,10 @@ void OpenForReading(SharedState& state, std::int32_t tournament) {
 
 // In memory: the round is not saved.
 void MakeActive(TournamentClass& tournament, int round) {
-  const std::string rounds = tournament.NumRounds();
-  if (round < 1 || round > std::stoi(rounds)) {
-    throw Refusal("There is no round " + std::to_string(round) + "; the tournament has " + rounds +
-                  ".");
+  const int rounds = tournament.RoundCount();
+  if (round < 1 || round > rounds) {
+    throw Refusal("There is no round " + std::to_string(round) + "; the tournament has " +
+                  std::to_string(rounds) + ".");
   }
   tournament.SetActiveRound(round);
 }

@@ -75,7 +75,7 @@ void ShowCustom(ResultsRun& run) {
     for (const auto& [team, object] : objects) WriteJsonLine(object);
     return;
   }
-  StandingsTable table = CustomTable(worked_out, std::stoi(run.state.Tournament().NumRounds()));
+  StandingsTable table = CustomTable(worked_out, run.state.Tournament().RoundCount());
   WriteStandings(run.form, std::move(table));
 }
 

@@ -28,7 +28,7 @@ void WriteJson(ResultsRun& run, int team) {
 }  // namespace
 
 void ForEachTeam(ResultsRun& run, const std::function<void(int team)>& action) {
-  const int teams = std::stoi(run.state.Tournament().NumTeams());
+  const int teams = run.state.Tournament().TeamCount();
   for (int team = 1; team <= teams; ++team) {
     if (run.state.Team1().GetRecord(team)) {
       action(team);

@@ -1,7 +1,6 @@
 #include "cli/script_runner.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "app/application.h"
 #include "core/number_text.h"
@@ -13,12 +12,11 @@ namespace {
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 int WholeNumber(const std::string& word) {
-  int number = 0;
-  const auto read = std::from_chars(word.data(), word.data() + word.size(), number);
-  if (read.ec != std::errc() || read.ptr != word.data() + word.size()) {
+  const auto number = ReadWholeNumber(word);
+  if (!number || *number != static_cast<int>(*number)) {
     throw ScriptError("\"" + word + "\" is no whole number.");
   }
-  return number;
+  return static_cast<int>(*number);
 }
 
 bool OnOrOff(const std::string& word) {

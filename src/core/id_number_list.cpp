@@ -2,40 +2,25 @@
 
 namespace golf {
 
-std::int32_t IdNumberList::Run(int operation, std::int32_t value) {
-  switch (operation) {
-    case kSize:
-      held_.clear();
-      Rewind();
-      return 0;  // the list grows as it is filled
-    case kAppend:
-      Append(value);
-      return 0;
-    case kAppendNew:
-      if (Run(kFind, value) == 0) Append(value);
-      return 0;
-    case kForget:
-      Forget(value);
-      return 0;
-    case kFind:
-      return held_.contains(value) ? -1 : 0;
-    case kNextFree:
-      return NextFree(value);
-    default:
-      return 0;
-  }
+void IdNumberList::Clear() {
+  held_.clear();
+  Rewind();
 }
 
-void IdNumberList::Append(std::int32_t value) {
-  const auto held = held_.try_emplace(held_.end(), value, 0);
+void IdNumberList::AppendNew(std::int32_t id) {
+  if (!Contains(id)) Append(id);
+}
+
+void IdNumberList::Append(std::int32_t id) {
+  const auto held = held_.try_emplace(held_.end(), id, 0);
   ++held->second;
-  if (value < 1 || value >= next_) return;
+  if (id < 1 || id >= next_) return;
   ++passed_;
   if (held == held_.upper_bound(0) && held->second == 1) Rewind();  // all is counted from it
 }
 
-void IdNumberList::Forget(std::int32_t value) {
-  const auto held = held_.find(value);
+void IdNumberList::Forget(std::int32_t id) {
+  const auto held = held_.find(id);
   if (held == held_.end()) return;
   if (--held->second == 0) held_.erase(held);
   ++held_[0];

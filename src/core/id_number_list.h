@@ -8,22 +8,17 @@ namespace golf {
 // IDs in use, and the next free one among them.
 class IdNumberList {
  public:
-  // What the code of an operation means.
-  static constexpr int kSize = 0;       // room for `value` IDs, none in the list
-  static constexpr int kAppend = 1;     // adds the value
-  static constexpr int kAppendNew = 2;  // adds the value unless it is there
-  static constexpr int kForget = 3;     // the first entry with the value becomes 0
-  static constexpr int kFind = 10;      // -1 if the value is in the list, else 0
-  static constexpr int kNextFree = 11;  // the next free ID, at most `value`, else 1
-
-  // Any other code does nothing; where nothing is said the result is 0.
-  std::int32_t Run(int operation, std::int32_t value);
+  void Clear();
+  void Append(std::int32_t id);
+  void AppendNew(std::int32_t id);  // unless it is there
+  // The first entry with this ID becomes 0.
+  void Forget(std::int32_t id);
+  bool Contains(std::int32_t id) const { return held_.contains(id); }
+  // The lowest free ID above the lowest one in use; 1 where it would be above `highest`.
+  std::int32_t NextFree(std::int32_t highest);
 
  private:
-  void Append(std::int32_t value);
-  void Forget(std::int32_t value);
   void Rewind();
-  std::int32_t NextFree(std::int32_t highest);
 
   // How often each ID is in the list: answers as a walk over the sorted entries would.
   std::map<std::int32_t, int> held_;

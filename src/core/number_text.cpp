@@ -202,6 +202,14 @@ bool ReadLeadingNumber(std::string_view text, double& value) {
   return true;
 }
 
+std::optional<std::int64_t> ReadWholeNumber(std::string_view text) {
+  std::int64_t value = 0;
+  const char* end = text.data() + text.size();
+  const auto read = std::from_chars(text.data(), end, value);
+  const bool whole = read.ec == std::errc() && read.ptr == end;
+  return whole ? std::optional(value) : std::nullopt;
+}
+
 std::string NumberText(std::int64_t value) {
   std::string text = value < 0 ? "" : " ";
   return text += std::to_string(value);

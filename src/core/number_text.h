@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,10 @@ std::string FormatNumber(std::int64_t value, std::string_view pattern);
 inline std::string FormatNumber(int value, std::string_view pattern) {
   return FormatNumber(std::int64_t{value}, pattern);
 }
+
+// The text as a whole number: an optional minus and digits, nothing else. Nothing where it is none,
+// or one beyond 64 bits.
+std::optional<std::int64_t> ReadWholeNumber(std::string_view text);
 
 // The two forms in which handicaps are shown, with two decimals or none. One below zero is better
 // than par: the plus form shows it with a plus sign, the signed form with its minus.

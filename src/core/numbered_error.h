@@ -18,8 +18,9 @@ enum class ErrorNumber : int {
   kBadRecordNumber = 63,
   kTooManyFiles = 67,
   kPermissionDenied = 70,  // another program holds the file
-  kPathAccess = 75,        // access refused, or a read-only file or folder
-  kPathNotFound = 76,      // a folder on the way is not there
+  kDiskNotReady = 71,
+  kPathAccess = 75,    // access refused, or a read-only file or folder
+  kPathNotFound = 76,  // a folder on the way is not there
 };
 
 // A failure with its number. `description` is a full sentence for the operator and names the file

@@ -1,4 +1,3 @@
-#include <dirent.h>
 #include <fcntl.h>
 #include <langinfo.h>
 #include <locale.h>
@@ -14,6 +13,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <optional>
 #include <utility>
 
@@ -26,6 +26,8 @@ extern char** environ;
 
 namespace golf {
 namespace {
+
+namespace fs = std::filesystem;
 
 struct ErrnoMeaning {
   int code;
@@ -144,22 +146,14 @@ class PosixRunLock : public RunLock {
   Descriptor folder_;  // the system's lock on it goes with it
 };
 
-struct CloseFolder {
-  void operator()(DIR* folder) const { closedir(folder); }
-};
-
-std::unique_ptr<DIR, CloseFolder> OpenFolder(const std::string& native) {
-  return std::unique_ptr<DIR, CloseFolder>(opendir(native.c_str()));
-}
-
 // The entry of a folder that has this name in whatever case; of several the first by its bytes, so
 // that all spellings reach the same one.
 std::optional<std::string> FindEntry(const std::string& folder, std::string_view name) {
-  const auto entries = OpenFolder(folder);
-  if (!entries) return std::nullopt;
   std::optional<std::string> found;
-  while (const dirent* entry = readdir(entries.get())) {
-    const std::string candidate = entry->d_name;
+  std::error_code error;
+  fs::directory_iterator entry(folder, error);
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    const std::string candidate = entry->path().filename();
     if (EqualIgnoringCase(TextFromUtf8(candidate), name) && (!found || candidate < *found)) {
       found = candidate;
     }
@@ -168,8 +162,8 @@ std::optional<std::string> FindEntry(const std::string& folder, std::string_view
 }
 
 bool IsFolder(const std::string& native) {
-  struct stat status {};
-  return stat(native.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+  std::error_code error;
+  return fs::is_directory(native, error);
 }
 
 // A started program meets the signals that we ignore as any other program does.
@@ -267,16 +261,17 @@ class PosixPlatform : public Platform {
 
   std::vector<std::string> FileNames(const std::string& folder) override {
     const std::string native = Resolve(folder);
-    const auto entries = OpenFolder(native);
-    if (!entries) FailWith(errno == ENOENT ? ENOTDIR : errno, native);
     std::vector<std::string> names;
-    while (const dirent* entry = readdir(entries.get())) {
-      struct stat status {};
-      const std::string name = entry->d_name;
-      const bool normal =
-          stat((native + "/" + name).c_str(), &status) == 0 && S_ISREG(status.st_mode);
-      if (normal) names.push_back(TextFromUtf8(name));
+    std::error_code error;
+    fs::directory_iterator entry(native, error);
+    if (error) FailWith(error.value() == ENOENT ? ENOTDIR : error.value(), native);
+    for (; entry != fs::directory_iterator(); entry.increment(error)) {
+      std::error_code unknown;
+      if (entry->is_regular_file(unknown)) {
+        names.push_back(TextFromUtf8(entry->path().filename().native()));
+      }
     }
+    if (error) FailWith(error.value(), native);
     return names;
   }
 
@@ -380,19 +375,17 @@ class PosixPlatform : public Platform {
 };
 
 std::string OwnFolder() {
-  std::array<char, 4096> buffer{};
-  const ssize_t length = readlink("/proc/self/exe", buffer.data(), buffer.size());
-  if (length <= 0) FailWith(errno, "the program's own folder");
-  const std::string path(buffer.data(), static_cast<std::size_t>(length));
-  return path.substr(0, path.rfind('/') + 1);
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  if (error) FailWith(error.value(), "the program's own folder");
+  return program.parent_path();
 }
 
 std::string Absolute(const std::string& native) {
-  if (native.starts_with('/')) return native;
-  std::array<char, 4096> buffer{};
-  if (getcwd(buffer.data(), buffer.size()) == nullptr) FailWith(errno, native);
-  const std::string current = buffer.data();
-  return native == "." ? current : current + (current.ends_with('/') ? "" : "/") + native;
+  std::error_code error;
+  const fs::path absolute = native == "." ? fs::current_path(error) : fs::absolute(native, error);
+  if (error) FailWith(error.value(), native);
+  return absolute;
 }
 
 }  // namespace

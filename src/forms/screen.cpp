@@ -1,8 +1,8 @@
 #include "forms/screen.h"
 
-#include <charconv>
 #include <utility>
 
+#include "core/number_text.h"
 #include "core/text.h"
 
 namespace golf {
@@ -53,11 +53,12 @@ Control* Screen::FindControl(std::string_view name) const {
   const std::size_t open = name.rfind('(');
   if (open == std::string_view::npos || !name.ends_with(')')) return nullptr;
   const std::string_view digits = name.substr(open + 1, name.size() - open - 2);
-  int before = 0;
-  const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), before);
-  if (read.ec != std::errc() || read.ptr != digits.data() + digits.size()) return nullptr;
+  std::optional<std::int64_t> before = ReadWholeNumber(digits);
+  if (!before) return nullptr;
   for (Control* control : controls_) {
-    if (EqualIgnoringCase(control->name(), name.substr(0, open)) && before-- == 0) return control;
+    if (EqualIgnoringCase(control->name(), name.substr(0, open)) && (*before)-- == 0) {
+      return control;
+    }
   }
   return nullptr;
 }

@@ -64,4 +64,10 @@ class ScreenHost {
   virtual void EndProcess() = 0;
 };
 
+// The loaded screen of a class, as ScreenHost::Load gives it by its name.
+template <class AnyScreen>
+AnyScreen& Load(ScreenHost& host) {
+  return dynamic_cast<AnyScreen&>(host.Load(AnyScreen::kName));
+}
+
 }  // namespace golf

@@ -3,14 +3,13 @@
 #include "scoring/player/player_class.h"
 #include "scoring/team/team_class.h"
 #include "scoring/tournament_class.h"
-#include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
 
 namespace golf {
 
 void OpenTournament(SharedState& state, std::int32_t tournament) {
-  state.CourseDataPath = state.StoreDataPath = state.QBDataPath;
-  state.Course().SetActiveProgram("QB");
-  state.Course().OpenCourseFile();
+  state.StoreDataPath = state.QBDataPath;
+  OpenCourseLibrary(state, kQuenbyCourses);
   state.Player().OpenRosterFile();
   state.Player().TourOpenTournamentFile(tournament);
   state.Team1().OpenTeamFile(tournament);

@@ -1,8 +1,8 @@
 #include "screens/settings_file.h"
 
 #include <algorithm>
-#include <charconv>
 
+#include "core/number_text.h"
 #include "core/resume_next.h"
 
 namespace golf {
@@ -15,11 +15,9 @@ constexpr std::string_view kLineEnd = "\r\n";
 std::optional<int> SettingsReader::Number() {
   const auto word = Word();
   if (!word) return std::nullopt;
-  int value = 0;
-  const char* end = word->data() + word->size();
-  const auto read = std::from_chars(word->data(), end, value);
-  const bool whole = read.ec == std::errc() && read.ptr == end;
-  return whole ? std::optional(value) : std::nullopt;
+  const auto number = ReadWholeNumber(*word);
+  if (!number || *number != static_cast<int>(*number)) return std::nullopt;
+  return static_cast<int>(*number);
 }
 
 std::optional<std::string> SettingsReader::Text() {

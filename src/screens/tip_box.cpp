@@ -46,7 +46,7 @@ const TipKind* KindOf(int type) {
 
 }  // namespace
 
-TipBox::TipBox(const ScreenContext& context) : Screen("TipBox", context) {
+TipBox::TipBox(const ScreenContext& context) : Screen(kName, context) {
   Add({&Title, &Message, &ShowMessage, &OKButton, &YesButton, &NoButton, &Picture1, &Image1[0],
        &Image1[1]});
   for (Label& image : Image1) image.SetParent(Picture1);
@@ -122,6 +122,6 @@ void TipBox::Answer(std::string answer) {
   host().Hide(*this);
 }
 
-TipBox& SharedTipBox(ScreenHost& host) { return dynamic_cast<TipBox&>(host.Load("TipBox")); }
+TipBox& SharedTipBox(ScreenHost& host) { return Load<TipBox>(host); }
 
 }  // namespace golf

@@ -14,6 +14,8 @@ namespace golf {
 // unloaded: SharedTipBox.
 class TipBox : public Screen {
  public:
+  static constexpr const char* kName = "TipBox";
+
   // Types with a meaning of their own. Any other one sets the text and shows nothing.
   static constexpr int kModelessNoButton = -1;  // the caller hides it
   static constexpr int kModelessNotice = 0;

@@ -75,7 +75,7 @@ void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_
   if (installed) ShowTransfer(host, screen_name, tag);
 }
 
-TransferMenu::TransferMenu(const ScreenContext& context) : Screen("TransferMenu", context) {
+TransferMenu::TransferMenu(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("Transfer Menu");
   Add({&SSTab1, &Label1[0], &Label1[1], &Label1[2]});
   for (Label& label : Label1) SSTab1.Hold(label, 0);

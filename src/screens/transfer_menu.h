@@ -12,6 +12,8 @@ namespace golf {
 // Close, which starts the sibling that has called.
 class TransferMenu : public Screen {
  public:
+  static constexpr const char* kName = "TransferMenu";
+
   explicit TransferMenu(const ScreenContext& context);
 
   Button* LeaveButton() override { return &ExitButton; }

@@ -94,7 +94,7 @@ void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest&,
 
 void RebuildQuenbyCourseIndexes(SharedState& state) {
   const JoinedWrites joined(state.files);
-  OpenCourseLibrary(state, *FindCourseLibrary("QB"));
+  OpenCourseLibrary(state, kQuenbyCourses);
   CourseClass& course = state.Course();
   course.RebuildCourseIndexes(course.ActiveCoursesByName());
   state.InitSharedObjects();

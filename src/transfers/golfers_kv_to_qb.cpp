@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "core/take_records.h"
-#include "scoring/player/player_class.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "stores/quenby/free_golfer_places.h"
+#include "stores/quenby/tournament_players.h"
 
 namespace golf {
 namespace {
@@ -57,7 +57,7 @@ class GolferCopy {
         request_(request),
         report_(report),
         next_([&host](const NumberedError& fault) { host.NoteFault(fault); }),
-        quenby_(state.Player(), length) {}
+        quenby_(state.PlayerRecords(), length) {}
 
   void CopyAll() {
     std::int32_t places = 0;
@@ -88,8 +88,8 @@ class GolferCopy {
     const bool prepared = ReadOrLeaveOut(
         host_, report_, [&] { Prepare(found); }, [&] { return KVGolferName(Golfer()); });
     if (!prepared) return;
-    CopyGolferToQb(state_.Kelvane(), request_.choice, state_.Player(), next_);
-    next_([&] { state_.Player().SetRosters(3, request_.destination); });
+    CopyGolferToQb(state_.Kelvane(), request_.choice, state_.PlayerRecords(), next_);
+    next_([&] { state_.PlayerRecords().SetRosters(3, request_.destination); });
     ++(found > 0 ? report_.updated : report_.added);
     next_([&] { Save(record); });
   }
@@ -97,17 +97,17 @@ class GolferCopy {
   // The player who is to be changed in the buffer: the one in a record, or a blank one for 0.
   void Prepare(std::int32_t record) {
     if (record > 0) {
-      state_.Player().GetRecord(record, false);
+      state_.PlayerRecords().GetRecord(record, false);
     } else {
       quenby_.CheckAllRead();
-      state_.Player().BlankPlayerRecord();
+      state_.PlayerRecords().BlankPlayerRecord();
     }
   }
 
   // A golfer without an ID leaves his record free, even one that was not before.
   void Save(std::int32_t record) {
-    state_.Player().SaveRecord(record, false);
-    quenby_.places.Note(record, state_.Player().StoredID());
+    state_.PlayerRecords().SaveRecord(record, false);
+    quenby_.places.Note(record, state_.PlayerRecords().StoredID());
   }
 
   SharedState& state_;
@@ -136,8 +136,8 @@ void Run(SharedState& state, RunHost& host, const GolfersKvToQbRequest& request,
   }
   host.Begin();
   state.files.Read(kKelvaneHeaderFile, 1, state.Kelvane().header);
-  state.Player().OpenRosterFile();
-  const std::int32_t length = state.Player().RosterFileLength();
+  state.PlayerRecords().OpenRosterFile();
+  const std::int32_t length = state.PlayerRecords().RosterFileLength();
   GolferCopy(state, host, request, report, length).CopyAll();
   report.log = Log(request, report);
   report.end = RunEnd::kDone;

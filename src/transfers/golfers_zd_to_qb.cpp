@@ -7,8 +7,8 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
-#include "scoring/player/player_class.h"
 #include "stores/quenby/free_golfer_places.h"
+#include "stores/quenby/tournament_players.h"
 #include "stores/zandel/zandel_files.h"
 
 namespace golf {
@@ -17,12 +17,13 @@ namespace {
 constexpr std::int32_t kHighestID = 99999;
 
 // Errors of a disk, about which the operator may be able to do something.
-constexpr int kDiskErrors[] = {57, 61, 70, 71, 75, 76};
-constexpr int kDiskFull = 61;
+constexpr ErrorNumber kDiskErrors[] = {ErrorNumber::kDeviceFault,      ErrorNumber::kDiskFull,
+                                       ErrorNumber::kPermissionDenied, ErrorNumber::kDiskNotReady,
+                                       ErrorNumber::kPathAccess,       ErrorNumber::kPathNotFound};
 
 bool IsOfDisk(const NumberedError& error) {
-  return std::find(std::begin(kDiskErrors), std::end(kDiskErrors), error.number()) !=
-         std::end(kDiskErrors);
+  return std::any_of(std::begin(kDiskErrors), std::end(kDiskErrors),
+                     [&](ErrorNumber number) { return error.Is(number); });
 }
 
 // What a golfer is known by in both programs.
@@ -95,7 +96,7 @@ class GolferCopy {
   bool WantsRetry(const NumberedError& error) {
     host_.Beep();
     const Box box{.title = "Message",
-                  .text = error.number() == kDiskFull
+                  .text = error.Is(ErrorNumber::kDiskFull)
                               ? "DISK IS FULL - You may need to delete nonessential"
                               : "DISK ERROR" + NumberText(error.number()),
                   .buttons = {BoxButton::kRetry, BoxButton::kCancel},
@@ -104,14 +105,14 @@ class GolferCopy {
   }
 
   bool ReadQuenby() {
-    TournamentPlayers& player = state_.Player();
+    TournamentPlayers& player = state_.PlayerRecords();
     IdNumberList& ids = state_.id_numbers;
-    ids.Run(IdNumberList::kSize, length_);
+    ids.Clear();
     for (std::int32_t record = kFirstGolferRecord; record <= length_; ++record) {
       if (!Try([&] { player.GetRecord(record, false); })) return false;
       places_.Note(record, player.StoredID());
       if (!player.PlayerExists()) continue;
-      ids.Run(IdNumberList::kAppend, player.StoredID());
+      ids.Append(player.StoredID());
       by_name_.emplace(NameKey(player.NameLast(), player.NameFirst()), record);
     }
     return true;
@@ -139,7 +140,7 @@ class GolferCopy {
   }
 
   bool Update(const Record<LeaguePlayerLayout>& golfer, std::int32_t record) {
-    TournamentPlayers& player = state_.Player();
+    TournamentPlayers& player = state_.PlayerRecords();
     if (!Try([&] { player.GetRecord(record, false); })) return false;
     CopyGolferToQuenby(golfer, Event(), request_.doubled, player);
     if (!Try([&] { player.SaveRecord(record, false); })) return false;
@@ -148,13 +149,13 @@ class GolferCopy {
   }
 
   bool AddNew(const Record<LeaguePlayerLayout>& golfer) {
-    TournamentPlayers& player = state_.Player();
+    TournamentPlayers& player = state_.PlayerRecords();
     IdNumberList& ids = state_.id_numbers;
     const std::int32_t record = places_.First();
-    const std::int32_t id = ids.Run(IdNumberList::kNextFree, kHighestID);
+    const std::int32_t id = ids.NextFree(kHighestID);
     player.BlankPlayerRecord();
     player.SetIDNum(id);
-    ids.Run(IdNumberList::kAppend, id);
+    ids.Append(id);
     player.SetRosters(3, request_.destination);
     CopyGolferToQuenby(golfer, Event(), request_.doubled, player);
     CountUp(report_.added);
@@ -193,8 +194,8 @@ void Run(SharedState& state, RunHost& host, const GolfersZdToQbRequest& request,
   state.InitSharedObjects();
   OpenLeagueGolfers(state, request.league);
   host.Begin();
-  state.Player().OpenRosterFile();
-  const std::int32_t length = state.Player().RosterFileLength();
+  state.PlayerRecords().OpenRosterFile();
+  const std::int32_t length = state.PlayerRecords().RosterFileLength();
   GolferCopy(state, host, request, report, length).CopyAll();
   state.InitSharedObjects();
   report.log = Log(report);

@@ -56,7 +56,7 @@ std::vector<LeagueScore> LeagueBatch::EventScore() {
   const TeamCourse& course = CourseOfTeam(team);
   const int sex = player.Get<"Sex">();
   const int tee = course.tees[sex == 1 ? 1 : 0];
-  const PlayedTee& played = courses_.Find(course.course, tee, sex);
+  const KelvaneTee& played = courses_.Find(course.course, tee, sex);
   return {{played, EventDate(), player.Get<"EventPostScore">(event_)}};
 }
 

@@ -11,7 +11,7 @@ namespace golf {
 
 // A score of a league golfer for his history in Kelvane.
 struct LeagueScore {
-  PlayedTee played;
+  KelvaneTee played;
   DateValue date = 0;
   int score = 0;
 };

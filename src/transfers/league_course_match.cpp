@@ -27,24 +27,24 @@ bool HasTee(const Record<CourseLayout>& course) {
 
 }  // namespace
 
-const PlayedTee& LeagueCourseMatch::Find(std::int32_t league_course, int tee, int sex) {
+const KelvaneTee& LeagueCourseMatch::Find(std::int32_t league_course, int tee, int sex) {
   const std::tuple key(league_course, tee, sex);
   const auto found = found_.find(key);
   if (found != found_.end()) return found->second;
   return found_.emplace(key, Match(league_course, tee, sex)).first->second;
 }
 
-PlayedTee LeagueCourseMatch::Match(std::int32_t league_course, int tee, int sex) {
+KelvaneTee LeagueCourseMatch::Match(std::int32_t league_course, int tee, int sex) {
   CourseClass& league = state_.SpareCourse();
   league.GetRecord(league_course);
-  PlayedTee played{0, tee_without_course_, RatingOf(league, tee, sex), SlopeOf(league, tee, sex)};
+  KelvaneTee played{0, tee_without_course_, RatingOf(league, tee, sex), SlopeOf(league, tee, sex)};
   FindInKelvane(league.Name(), league.TeeName(tee), sex, played);
   return played;
 }
 
 // The last course and tee that match win.
 void LeagueCourseMatch::FindInKelvane(const std::string& course, const std::string& tee, int sex,
-                                      PlayedTee& played) {
+                                      KelvaneTee& played) {
   CourseClass& kelvane = state_.Course();
   for (const std::int32_t number : KelvaneCoursesNamed(course)) {
     kelvane.GetRecord(number);

@@ -42,7 +42,7 @@ bool LeagueScorePosting::Post(std::int32_t place, const LeagueScore& score) {
 bool LeagueScorePosting::IsInHistory(const LeagueScore& score) const {
   const KelvaneBuffers& kelvane = state_.Kelvane();
   const auto& history = kelvane.history;
-  const PlayedTee& played = score.played;
+  const KelvaneTee& played = score.played;
   const int entries = std::min<int>(kelvane.golfer.Get<"ScoreCounter">(1), kKelvaneScores);
   for (int i = 1; i <= entries; ++i) {
     if (history.Get<"Date">(i) == score.date && history.Get<"Adjusted">(i) == score.score &&

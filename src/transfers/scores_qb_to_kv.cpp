@@ -15,11 +15,9 @@ constexpr int kBackNine = -9;
 constexpr int kNine = 9;
 
 bool IsBackNine(SharedState& state, std::int32_t number, const ResumeNext& next) {
-  state.CourseDataPath = state.KVDataPath;
   CourseClass course(state);
-  course.SetActiveProgram("KV");
   // The library is open even where its indexes are not.
-  next([&] { course.OpenCourseFile(); });
+  next([&] { OpenCourseLibrary(state, course, kKelvaneCourses); });
   bool back_nine = false;
   next([&] {
     course.GetRecord(number);
@@ -49,7 +47,7 @@ void OpenTournamentFiles(SharedState& state, const ScoresQbToKvRequest& request,
   next([&] { state.Tournament().GetRecord(); });
   next([&] { state.Player().OpenRosterFile(); });
   next([&] { state.Player().TourOpenTournamentFile(request.tournament); });
-  next([&] { OpenCourseLibrary(state, *FindCourseLibrary("QB")); });
+  next([&] { OpenCourseLibrary(state, kQuenbyCourses); });
   next([&] { report.course_played = state.Tournament().CourseNamePlayed(request.choice.round); });
 }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "stores/kelvane/kelvane_golfer_index.h"
 #include "stores/zandel/zandel_files.h"
@@ -23,16 +24,6 @@ NumberedError WithName(const NumberedError& error, ErrorNumber number,
                        const Record<LeaguePlayerLayout>& player) {
   return {number, "The scores of " + LeagueGolferName(player) +
                       " cannot be transferred: " + error.description()};
-}
-
-void OpenCourseLibraries(SharedState& state) {
-  const auto open = [&](CourseClass& course, const std::string& folder, const char* program) {
-    state.CourseDataPath = folder;
-    course.SetActiveProgram(program);
-    course.OpenCourseFile();
-  };
-  open(state.Course(), state.KVDataPath, "KV");
-  open(state.SpareCourse(), state.ZDDataPath, "ZD");
 }
 
 // The loop over the golfers of the open league. Members that give false end it: the operator has
@@ -139,7 +130,8 @@ void Run(SharedState& state, RunHost& host, const ScoresZdToKvRequest& request,
   state.files.Write(kKelvaneHeaderFile, 1, header);
   report.log = "===Scores Transfered===";
   report.log.append(kReportLineEnd);
-  OpenCourseLibraries(state);
+  OpenCourseLibrary(state, state.Course(), kKelvaneCourses);
+  OpenCourseLibrary(state, state.SpareCourse(), kZandelCourses);
   host.Begin();
   ScorePosting(state, host, request.batch, report).PostAll();
   report.end = RunEnd::kDone;

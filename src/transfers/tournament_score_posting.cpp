@@ -1,5 +1,6 @@
 #include "transfers/tournament_score_posting.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/number_text.h"
@@ -82,7 +83,7 @@ bool TournamentScorePosting::IsToBePosted() {
     CountUp(report_.to_transfer);
     return false;
   }
-  place_ = golfers_.Find(RoundToInt32(LeadingNumber(state_.Player().IDNum())));
+  place_ = golfers_.Find(std::max(state_.Player().StoredID(), 0));
   if (place_ == 0) {
     Log(" (No ID# match found)");
     CountUp(report_.to_transfer);
@@ -96,7 +97,7 @@ bool TournamentScorePosting::IsToBePosted() {
 bool TournamentScorePosting::IsWantedAgain() {
   PlayerClass& player = state_.Player();
   if (!player.TourScoreTransferredtoKV(choice_.round)) return true;
-  if (golfers_.Find(RoundToInt32(LeadingNumber(player.IDNum()))) == 0) return false;
+  if (golfers_.Find(std::max(player.StoredID(), 0)) == 0) return false;
   const Box box{.title = "Transfer again?",
                 .text = "The score for '" + player.NameLF() + "' (round #" +
                         std::to_string(choice_.round) +
@@ -120,7 +121,7 @@ bool TournamentScorePosting::IsComplete() {
 }
 
 double TournamentScorePosting::AdjustedScore() {
-  return LeadingNumber(state_.Player().TourScoreAdjusted(choice_.round));
+  return state_.Player().Results(choice_.round).adjusted;
 }
 
 void TournamentScorePosting::Log(const std::string& reason) {
@@ -186,8 +187,7 @@ void TournamentScorePosting::FillHoles() {
 void TournamentScorePosting::FillPoints() {
   auto& entry = state_.Kelvane().score;
   figure_([&] {
-    const std::string points = state_.Player().TourPointsGross(kWholeRound, choice_.round);
-    entry.Set<"Adjusted">(KVByte(LeadingNumber(points)));
+    entry.Set<"Adjusted">(KVByte(state_.Player().Results(choice_.round).gross_points[kWholeRound]));
   });
   entry.Set<"CourseNumber">(0);
   entry.Set<"TeeNumber">(0);
@@ -212,7 +212,7 @@ void TournamentScorePosting::PostHalf() {
   }
   auto& entry = state_.Kelvane().score;
   if (choice_.points) {
-    half.score = LeadingNumber(player.TourPointsGross(kWholeRound, round));
+    half.score = player.Results(round).gross_points[kWholeRound];
   }
   JoinKVHalves(state_, half);
   if (choice_.points) entry.Set<"Rating">(0);

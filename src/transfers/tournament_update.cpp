@@ -1,8 +1,8 @@
 #include "transfers/tournament_update.h"
 
 #include "core/number_text.h"
-#include "scoring/player/player_class.h"
-#include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
+#include "stores/quenby/tournament_players.h"
 
 namespace golf {
 namespace {
@@ -19,9 +19,8 @@ void UpdateEntry(TournamentPlayers& player, std::int32_t entry) {
 
 void Run(SharedState& state, RunHost& host, const TournamentUpdateRequest& request,
          TournamentUpdateReport& report) {
-  state.CourseDataPath = state.QBDataPath;
-  state.Course().OpenCourseFile();
-  TournamentPlayers& player = state.Player();
+  OpenCourseLibrary(state, kQuenbyCourses);
+  TournamentPlayers& player = state.PlayerRecords();
   player.OpenRosterFile();
   player.TourOpenTournamentFile(request.tournament);
   const std::int32_t entries = player.TourFileLength();

@@ -96,30 +96,55 @@ TEST(GeneralRoutines, ShellSort) {
   }
 }
 
-TEST(IdNumberList, Codes) {
+TEST(IdNumberList, FreeIds) {
   constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+  struct Call {
+    enum { kAppend, kAppendNew, kForget, kContains, kNextFree, kClear } what;
+    std::int32_t value = 0;
+    std::int32_t result = 0;
+  };
+  const auto run = [](IdNumberList& list, const Call& call) -> std::int32_t {
+    if (call.what == Call::kAppend) list.Append(call.value);
+    if (call.what == Call::kAppendNew) list.AppendNew(call.value);
+    if (call.what == Call::kForget) list.Forget(call.value);
+    if (call.what == Call::kClear) list.Clear();
+    if (call.what == Call::kContains) return list.Contains(call.value) ? 1 : 0;
+    return call.what == Call::kNextFree ? list.NextFree(call.value) : 0;
+  };
+  const auto free = [](std::int32_t highest, std::int32_t id) {
+    return Call{Call::kNextFree, highest, id};
+  };
   const struct {
     Ints ids;
-    std::vector<std::array<std::int32_t, 3>> calls;  // code, value, result
+    std::vector<Call> calls;
   } rows[] = {
-      {{}, {{10, 0, 0}, {11, 99, 1}}},
-      {{7, 3, 4}, {{11, 99, 5}, {11, 5, 5}, {11, 4, 1}, {10, 7, -1}, {10, 5, 0}}},
-      {{3, 4, 5}, {{11, 5, 1}, {11, 6, 6}}},
-      {{0, 8, -3, 7}, {{11, 99, 9}}},
-      {{3, 3, 5}, {{11, 99, 6}}},  // an ID that stands twice raises the offset as well
-      {{3, 3, 6}, {{11, 99, 5}}},
-      {{kMost}, {{11, kMost, 1}}},
-      {{3, 4, 5, 6}, {{3, 4, 0}, {10, 4, 0}, {10, 0, -1}, {11, 99, 4}, {1, 4, 0}, {11, 99, 7}}},
-      {{3}, {{2, 3, 0}, {3, 3, 0}, {10, 3, 0}}},
-      {{3}, {{1, 3, 0}, {3, 3, 0}, {10, 3, -1}, {3, 8, 0}, {10, 0, -1}}},
-      {{3, 4}, {{4, 9, 0}, {12, 9, 0}, {10, 9, 0}, {0, kMost, 0}, {10, 3, 0}, {11, 99, 1}}}};
+      {{}, {{Call::kContains, 0, 0}, free(99, 1)}},
+      {{7, 3, 4},
+       {free(99, 5), free(5, 5), free(4, 1), {Call::kContains, 7, 1}, {Call::kContains, 5, 0}}},
+      {{3, 4, 5}, {free(5, 1), free(6, 6)}},
+      {{0, 8, -3, 7}, {free(99, 9)}},
+      {{3, 3, 5}, {free(99, 6)}},  // an ID that stands twice raises the offset as well
+      {{3, 3, 6}, {free(99, 5)}},
+      {{kMost}, {free(kMost, 1)}},
+      {{3, 4, 5, 6},
+       {{Call::kForget, 4},
+        {Call::kContains, 4, 0},
+        {Call::kContains, 0, 1},
+        free(99, 4),
+        {Call::kAppend, 4},
+        free(99, 7)}},
+      {{3}, {{Call::kAppendNew, 3}, {Call::kForget, 3}, {Call::kContains, 3, 0}}},
+      {{3},
+       {{Call::kAppend, 3},
+        {Call::kForget, 3},
+        {Call::kContains, 3, 1},
+        {Call::kForget, 8},
+        {Call::kContains, 0, 1}}},
+      {{3, 4}, {{Call::kContains, 9, 0}, {Call::kClear}, {Call::kContains, 3, 0}, free(99, 1)}}};
   for (const auto& row : rows) {
     IdNumberList list;
-    list.Run(0, -1);
-    for (const std::int32_t id : row.ids) EXPECT_EQ(list.Run(1, id), 0);
-    for (const auto& [code, value, result] : row.calls) {
-      EXPECT_EQ(list.Run(code, value), result) << "code " << code << ", value " << value;
-    }
+    for (const std::int32_t id : row.ids) list.Append(id);
+    for (const Call& call : row.calls) EXPECT_EQ(run(list, call), call.result) << call.value;
   }
 }
 

@@ -191,7 +191,7 @@ TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
   user.Press("ActiveTee");
   user.Press("FPar");
   user.Type("FPar", '4');
-  auto& tee = dynamic_cast<CourseTee&>(host.Load("CourseTee"));
+  auto& tee = Load<CourseTee>(host);
   user.When(
       "the next hole", [&] { return tee.focus() == &tee.FPar[1]; },
       [&] { EXPECT_NE(tee.FParOut.caption(), "0"); });
@@ -252,7 +252,7 @@ TEST_F(DesktopTest, TransfersGolfers) {
   user.Press("SourceButton");
   user.When(
       "the picker", [&] { return host.IsShown("LoadRoster"); },
-      [&] { dynamic_cast<LoadRoster&>(host.Load("LoadRoster")).grid1.SetActiveRow(1); });
+      [&] { Load<LoadRoster>(host).grid1.SetActiveRow(1); });
   user.Press("LoadButton");
   user.Press("DestButton");
   user.Press("LoadButton");
@@ -266,8 +266,7 @@ TEST_F(DesktopTest, TransfersGolfers) {
         grid.SetFocus();
       });
   user.Type("grid1", WXK_SPACE);
-  user.Await("the tick",
-             [&] { return dynamic_cast<KVtoQB&>(host.Load("KVtoQB")).grid1.text(2, 2) == "1"; });
+  user.Await("the tick", [&] { return Load<KVtoQB>(host).grid1.text(2, 2) == "1"; });
   user.Press("TransferButton");
   ExpectMessage("CLUB TRANSFERED:\n0 golfers updated.\n1 new golfers added.\n" + wxString('=', 30) +
                 "\n");

@@ -93,9 +93,9 @@ void WalkKelvane(SharedState& state) {
     AddKVScore(state);
     const std::int32_t found = KelvaneGolferIndex(state).Find(id);
     Need(found == 0 || buffers.golfer.Get<"Status">() >= 1);
-    state.id_numbers.Run(IdNumberList::kAppendNew, id);
+    state.id_numbers.AppendNew(id);
   }
-  Need(state.id_numbers.Run(IdNumberList::kNextFree, 1000) > 0);
+  Need(state.id_numbers.NextFree(1000) > 0);
 }
 
 void WalkProgram(SharedState& state) {

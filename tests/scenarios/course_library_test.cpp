@@ -9,6 +9,7 @@
 #include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
 #include "support/bytes.h"
+#include "support/same_file.h"
 #include "support/test_host.h"
 
 namespace golf {
@@ -156,7 +157,8 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
           EXPECT_EQ(Told(), c.told);
           EXPECT_EQ(host().IsShown(tee), !c.told.empty());
         });
-    EXPECT_TRUE(Read("qbcrs.dat") == Course("Dunes"));  // it was left by Cancel
+    EXPECT_TRUE(
+        SameFile("qbcrs.dat", Read("qbcrs.dat"), Course("Dunes")));  // it was left by Cancel
   }
 }
 
@@ -223,7 +225,7 @@ TEST_F(CourseLibraryTest, ANewBackNineIsStoredTwice) {
     Put16(expected, std::exchange(at, at + 12), {hole});
   }
   PutCells(expected, {{516, 1368}, {528, 1368}, {768, 12}, {780, 12}});
-  EXPECT_TRUE(Read("qbcrs.dat") == expected);
+  EXPECT_TRUE(SameFile("qbcrs.dat", Read("qbcrs.dat"), expected));
   EXPECT_EQ(Read("9CRSQB.INX") + Read("18CRSQB.INX") + Read("ALLCRSQB.INX"),
             Index({1, 1}) + Index({0}) + Index({1, 1}));
 }
@@ -283,7 +285,7 @@ TEST_F(CourseLibraryTest, CoursesOfKelvaneAreWarnedOfAndKeepTheirBytes) {
   PutText(courses[1], 94, 17, "Elm");
   PutText(courses[1], 175, 7, "Gold");
   Put16(courses[0], 0, {0});
-  EXPECT_TRUE(Read("qbcrs.dat") == written());
+  EXPECT_TRUE(SameFile("qbcrs.dat", Read("qbcrs.dat"), written()));
   EXPECT_EQ(Read("18CRSQB.INX") + Read("ALLCRSQB.INX"), Index({1, 2}) + Index({1, 2}));
 }
 
@@ -298,7 +300,7 @@ TEST_F(CourseLibraryTest, AFlatLadiesSlopeEndsTheClickAndLosesNothing) {
     EXPECT_TRUE(host().IsShown(form));
     EXPECT_EQ(form.FCity.text(), "Elm");
   });
-  EXPECT_TRUE(Read("qbcrs.dat") == course);
+  EXPECT_TRUE(SameFile("qbcrs.dat", Read("qbcrs.dat"), course));
 }
 
 TEST_F(CourseLibraryTest, ANumberWithoutRoomLeavesTheRecordAndTheEntriesAsTheyAre) {
@@ -326,7 +328,7 @@ TEST_F(CourseLibraryTest, ANumberWithoutRoomLeavesTheRecordAndTheEntriesAsTheyAr
   std::string expected = Course("Dunes");
   PutCells(expected, {{314, 100}, {542, 5}, {758, 37}, {782, 73}});
   PutCells(expected, {{506, 942}, {530, 1968}});  // 942.5 and 1968.5 go to the even neighbour
-  EXPECT_TRUE(Read("qbcrs.dat") == expected);
+  EXPECT_TRUE(SameFile("qbcrs.dat", Read("qbcrs.dat"), expected));
 }
 
 TEST_F(CourseLibraryTest, ASiblingsOwnLibraryIsOpenedOnRequestUnlessItIsHeld) {

@@ -7,6 +7,7 @@
 
 #include "screens/transfers/kv_courses_to_qb.h"
 #include "support/bytes.h"
+#include "support/same_file.h"
 #include "support/test_host.h"
 
 namespace golf {
@@ -100,7 +101,7 @@ void RunTransfer(TestInstall& install) {
 }
 
 void ExpectOutcome(const TestInstall& install, const Outcome& outcome) {
-  EXPECT_EQ(install.folder.Read("qbdata/qbcrs.dat") == outcome.library, true) << "library differs";
+  EXPECT_TRUE(Holds(install.folder, "qbdata/qbcrs.dat", outcome.library)) << "library differs";
   EXPECT_EQ(install.folder.Read("qbdata/9CRSQB.INX"), outcome.index9);
   EXPECT_EQ(install.folder.Read("qbdata/18CRSQB.INX"), outcome.index18);
   EXPECT_EQ(install.folder.Read("qbdata/ALLCRSQB.INX"), outcome.index_all);
@@ -155,7 +156,7 @@ TEST(CourseTransferTest, FilesByteForByte) {
     EXPECT_EQ(install.host->counts()[0].second, outcome.added);
     EXPECT_EQ(install.host->counts()[1].second, outcome.updated);
     const char* source = library.kelvane.empty() ? "kvdata/kvcrs.dat" : "kvdata/KVCRS.DAT";
-    EXPECT_EQ(install.folder.Read(source) == library.kelvane, true);
+    EXPECT_TRUE(Holds(install.folder, source, library.kelvane));
   }
 }
 
@@ -173,14 +174,14 @@ TEST(CourseTransferTest, EachFileOperationFailsOnceAndNothingIsLost) {
       EXPECT_EQ(install.events().back(), "error 61");
     }
     const bool failed = install.platform->Failed();
-    EXPECT_EQ(install.folder.Read("kvdata/kvcrs.dat") == kelvane, true);
+    EXPECT_TRUE(Holds(install.folder, "kvdata/kvcrs.dat", kelvane));
     const std::string left = install.folder.Read("qbdata/qbcrs.dat");
     EXPECT_EQ(left.size() % kLength, 0u);
     EXPECT_EQ(GetRecord(left, 1) == Course("Own"), true);
     // The next run puts everything right.
     install.Restart();
     RunTransfer(install);
-    EXPECT_EQ(install.folder.Read("qbdata/qbcrs.dat") == outcome.library, true);
+    EXPECT_TRUE(Holds(install.folder, "qbdata/qbcrs.dat", outcome.library));
     EXPECT_EQ(install.folder.Read("qbdata/ALLCRSQB.INX"), outcome.index_all);
     return failed;
   });

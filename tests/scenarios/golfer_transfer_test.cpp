@@ -9,6 +9,7 @@
 #include "screens/transfers/kv_to_qb.h"
 #include "stores/quenby/program_class.h"
 #include "support/bytes.h"
+#include "support/same_file.h"
 #include "support/test_host.h"
 
 namespace golf {
@@ -208,8 +209,8 @@ TEST_F(GolferTransferTest, FilesByteForByte) {
     install.Restart();
     Run(c.choice);
     const Outcome outcome = Expected(SomeGolfers(), c.quenby, c.choice);
-    EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == outcome.file);
-    EXPECT_TRUE(install.folder.Read("kvdata/club.kvg") == SomeGolfers());
+    EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", outcome.file));
+    EXPECT_TRUE(Holds(install.folder, "kvdata/club.kvg", SomeGolfers()));
     EXPECT_EQ(install.events().at(6), Report(outcome));
   }
   // What the last run leaves for the next.
@@ -235,7 +236,7 @@ TEST_F(GolferTransferTest, UpdatesTheActiveTournament) {
     Put(entry, FieldOf<TournamentPlayerLayout, "TourIndex">().offset + 4 * round, {-2.3f});
     Put(entry, FieldOf<TournamentPlayerLayout, "TourGrossHandicap">().offset + 4 * round, {3.0f});
   }
-  EXPECT_TRUE(install.folder.Read("qbdata/X0007.Q9G") == entry + free);
+  EXPECT_TRUE(Holds(install.folder, "qbdata/X0007.Q9G", entry + free));
   EXPECT_FALSE(install.folder.Exists("kvdata/kvcrs.dat"));
   EXPECT_TRUE(install.events().at(8).ends_with("' handicaps updated. -> OK"));
 }
@@ -251,8 +252,8 @@ TEST_F(GolferTransferTest, EachFileOperationFailsOnce) {
     const int error = ClickErrorOf([&] { Run({}); });
     EXPECT_TRUE(error == 0 || error == 61 || error == 70) << error;
     const bool failed = install.platform->Failed();
-    EXPECT_TRUE(install.folder.Read("kvdata/club.kvg") == SomeGolfers());
-    EXPECT_TRUE(install.folder.Read("kvdata/club.kv5") == Header(18));
+    EXPECT_TRUE(Holds(install.folder, "kvdata/club.kvg", SomeGolfers()));
+    EXPECT_TRUE(Holds(install.folder, "kvdata/club.kv5", Header(18)));
     const std::string left = install.folder.Read("qbdata/QBGOLFER.Q9D");
     EXPECT_TRUE(left.size() % kTo == 0 || left.size() == SomePlayers().size());
     const bool told = install.host->faults().size() + install.host->run_ended_by().has_value() > 0;
@@ -262,7 +263,7 @@ TEST_F(GolferTransferTest, EachFileOperationFailsOnce) {
     EXPECT_TRUE(told || said);
     return failed;
   });
-  EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == outcome.file);
+  EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", outcome.file));
 }
 
 // Golfers whom Quenby has and others, in turn.
@@ -310,7 +311,7 @@ TEST_F(GolferTransferTest, AReadThatAlwaysFailsLeavesOutByName) {
   install.platform->Fail(
       {.nth = 3, .only = Operation::kRead, .name = "QBGOLFER.Q9D", .stays = true});
   Run({});
-  EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == EverySecondPlayer());
+  EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", EverySecondPlayer()));
   ASSERT_EQ(install.host->faults().size(), 16u);
   EXPECT_TRUE(
       install.host->faults()[0].description().starts_with("Ann Mixed 1 was left out: Record "));
@@ -389,7 +390,7 @@ TEST_F(GolferTransferTest, RefusalsAndHeldFiles) {
       EXPECT_EQ(install.events().at(1).substr(0, c.event.size()), c.event);
       EXPECT_EQ(transfer.TransferButton.visible(), c.button);
     });
-    EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == SomePlayers());
+    EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", SomePlayers()));
   }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/league_test.h"
+#include "support/same_file.h"
 
 namespace golf {
 namespace {
@@ -94,8 +95,8 @@ std::string Transfer(TestInstall& install) {
 
 void ExpectLeague(const TestInstall& install, const std::string& players,
                   const std::string& substitutes) {
-  EXPECT_TRUE(install.folder.Read("zddata/00011.ZP8") == players);
-  EXPECT_TRUE(install.folder.Read("zddata/0001.ZS8") == substitutes);
+  EXPECT_TRUE(Holds(install.folder, "zddata/00011.ZP8", players));
+  EXPECT_TRUE(Holds(install.folder, "zddata/0001.ZS8", substitutes));
 }
 
 std::vector<Case> Cases() {
@@ -127,7 +128,7 @@ TEST(KVtoZDTest, FilesAndLogByteForByte) {
     const Outcome outcome(c);
     EXPECT_EQ(Transfer(install), outcome.log);
     ExpectLeague(install, outcome.players, outcome.substitutes);
-    EXPECT_TRUE(install.folder.Read("kvdata/CLUB.kvg") == c.golfers);
+    EXPECT_TRUE(Holds(install.folder, "kvdata/CLUB.kvg", c.golfers));
     EXPECT_EQ(install.folder.Read("KVtoZD.DAT"), "\"CLUB\"\r\n\"" + kLeague + "\"\r\n" +
                                                      (c.nine ? "True" : "False") + "\r\n\"" +
                                                      std::to_string(c.used_percent) + "\"\r\n");

@@ -6,6 +6,7 @@
 #include "screens/rosters/load_rosters.h"
 #include "screens/transfers/kv_to_qb.h"
 #include "support/bytes.h"
+#include "support/same_file.h"
 #include "support/test_host.h"
 
 namespace golf {
@@ -149,7 +150,7 @@ TEST_F(PickersTest, QuenbyRostersAreKept) {
   Put16(golfers, 8, {1, 0, 0});
   Put(golfers, 1867 + 4, {std::int32_t{-1}});
   Put16(golfers, 1867 + 8, {0, 0, 0});
-  EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == golfers);
+  EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", golfers));
   EXPECT_EQ(install.folder.Read("qbdata/QBROSTER.Q9D").size(), 3 * 413u);
 }
 

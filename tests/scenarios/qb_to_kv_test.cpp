@@ -7,6 +7,7 @@
 #include "screens/rosters/load_roster.h"
 #include "stores/kelvane/kelvane_layouts.h"
 #include "support/bytes.h"
+#include "support/same_file.h"
 #include "support/scored_round.h"
 #include "support/test_host.h"
 
@@ -191,9 +192,9 @@ class QbToKvTest : public testing::Test {
     for (const std::size_t entry : flagged) {
       entries_before[(entry - 1) * kEntryLength + kFlags + 2] = 3;
     }
-    EXPECT_TRUE(install.folder.Read("kvdata/CLUB.KVG") == roster_before);
-    EXPECT_TRUE(install.folder.Read("kvdata/CLUB.KVS") == history_before);
-    EXPECT_TRUE(install.folder.Read("qbdata/X0001.Q9G") == entries_before);
+    EXPECT_TRUE(Holds(install.folder, "kvdata/CLUB.KVG", roster_before));
+    EXPECT_TRUE(Holds(install.folder, "kvdata/CLUB.KVS", history_before));
+    EXPECT_TRUE(Holds(install.folder, "qbdata/X0001.Q9G", entries_before));
     EXPECT_EQ(install.folder.Read("kvdata/CLUB.KV5")[153], '\1');
     EXPECT_FALSE(install.folder.Exists("qbdata/X0000.Q9C"));
   }
@@ -351,9 +352,9 @@ TEST_F(QbToKvTest, EachReadFailsOnce) {
     install.Restart();
     install.state().Now = [] { return kNow; };
     Run({});
-    EXPECT_TRUE(install.folder.Read("kvdata/CLUB.KVG") == golfers);
-    EXPECT_TRUE(install.folder.Read("kvdata/CLUB.KVS") == histories);
-    EXPECT_TRUE(install.folder.Read("qbdata/X0001.Q9G") == entries);
+    EXPECT_TRUE(Holds(install.folder, "kvdata/CLUB.KVG", golfers));
+    EXPECT_TRUE(Holds(install.folder, "kvdata/CLUB.KVS", histories));
+    EXPECT_TRUE(Holds(install.folder, "qbdata/X0001.Q9G", entries));
     return failed;
   });
   EXPECT_GT(left_out, 3u);

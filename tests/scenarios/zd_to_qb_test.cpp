@@ -6,6 +6,7 @@
 
 #include "screens/rosters/load_rosters.h"
 #include "support/league_test.h"
+#include "support/same_file.h"
 
 namespace golf {
 namespace {
@@ -165,9 +166,9 @@ TEST(ZDtoQBTest, FilesAndReportByteForByte) {
     WriteInstall(install, c);
     const Outcome outcome(c);
     EXPECT_EQ(Transfer(install), outcome.log());
-    EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == outcome.states.back());
-    EXPECT_TRUE(install.folder.Read("zddata/00011.ZP8") == c.players);
-    EXPECT_TRUE(install.folder.Read("zddata/0001.ZS8") == c.substitutes);
+    EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", outcome.states.back()));
+    EXPECT_TRUE(Holds(install.folder, "zddata/00011.ZP8", c.players));
+    EXPECT_TRUE(Holds(install.folder, "zddata/0001.ZS8", c.substitutes));
     EXPECT_EQ(install.events(),
               std::vector<std::string>({"open TransferMenu", "open ZDtoQB", "beep",
                                         "message [Message] " +
@@ -193,7 +194,7 @@ TEST(ZDtoQBTest, BadInputChangesNothing) {
     install.folder.Write(c.file, c.bytes);
     Transfer(install);
     EXPECT_TRUE(Told(install, c.event)) << c.event;
-    EXPECT_TRUE(install.folder.Read("qbdata/QBGOLFER.Q9D") == Outcome(usual).states[0]);
+    EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", Outcome(usual).states[0]));
   }
 }
 

@@ -9,7 +9,7 @@
 namespace golf {
 
 CustomStandings::CustomStandings(SharedState& state, const ReportLayout& layout)
-    : state_(state), rounds_(std::stoi(state.Tournament().NumRounds())), balls_(layout) {}
+    : state_(state), rounds_(state.Tournament().RoundCount()), balls_(layout) {}
 
 void CustomStandings::AddTeam() {
   TeamClass& team = state_.Team1();

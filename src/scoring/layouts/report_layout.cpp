@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "core/number_text.h"
 #include "core/text.h"
 
 namespace golf {
@@ -57,8 +58,9 @@ class LayoutReader {
     std::string text;
     NumberText(text);
     if (!problem_.empty()) return *this;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size()) Fail("a whole number");
+    const auto number = ReadWholeNumber(text);
+    if (!number || *number != static_cast<int>(*number)) return Fail("a whole number");
+    value = static_cast<int>(*number);
     return *this;
   }
 

@@ -11,7 +11,7 @@ namespace golf {
 // All 18 places, in a round of nine holes too.
 std::vector<int> TeamClass::HolesByStrokes(OptionalRound round) {
   TournamentClass& tournament = state().Tournament();
-  const int group = std::stoi(tournament.NumTeesMenPlay()) < 1 ? 1 : 0;
+  const int group = tournament.TeeCount(0) < 1 ? 1 : 0;
   const int tee = tournament.TeeNumberPlayed(group, 1, round);
   CourseClass& course = state().Course();
   course.GetRecord(tournament.CourseNumberPlayed(round));

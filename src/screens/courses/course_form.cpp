@@ -41,7 +41,7 @@ bool IsAbove(const std::string& number, double limit) { return LeadingNumber(num
 
 }  // namespace
 
-CourseForm::CourseForm(const ScreenContext& context) : Screen("CourseForm", context) {
+CourseForm::CourseForm(const ScreenContext& context) : Screen(kName, context) {
   Add({&FCourseNum});
   for (const CourseText& text : kTexts) Add({&(this->*text.box)});
   Add({&HolesFrame});
@@ -158,7 +158,7 @@ void CourseForm::ShowEditCaption() {
 }
 
 void CourseForm::EditTee() {
-  const auto screen = host().Load("CourseTee").shared_from_this();
+  const auto screen = Load<CourseTee>(host()).shared_from_this();
   auto& tee_screen = dynamic_cast<CourseTee&>(*screen);
   tee_screen_used_ = true;
   tee_ = grid1.active_row();
@@ -234,7 +234,7 @@ void CourseForm::Cancel() {
 }
 
 void CourseForm::OnUnload() {
-  if (tee_screen_used_) host().Unload(host().Load("CourseTee"));
+  if (tee_screen_used_) host().Unload(Load<CourseTee>(host()));
 }
 
 }  // namespace golf

@@ -16,6 +16,8 @@ class CourseTee;
 // tag "OK" or "CANCEL", and its opener saves.
 class CourseForm : public Screen {
  public:
+  static constexpr const char* kName = "CourseForm";
+
   explicit CourseForm(const ScreenContext& context);
 
   // For a course without a record, and for the current one. Each empties or fills the controls.

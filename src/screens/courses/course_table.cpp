@@ -20,7 +20,7 @@ constexpr int kKelvaneColumn = 3;
 
 }  // namespace
 
-CourseTable::CourseTable(const ScreenContext& context) : Screen("CourseTable", context) {
+CourseTable::CourseTable(const ScreenContext& context) : Screen(kName, context) {
   Add({&CourseGrid, &AddCourseButton, &EditCourseButton, &DeleteCourseButton, &CloseButton, &Help});
   CourseGrid.SetHeading(kNameColumn, "Course Name");
   CourseGrid.SetHeading(kHolesColumn, "# of holes");
@@ -122,7 +122,7 @@ void CourseTable::AddCourse() {
   CourseClass& course = state().Course();
   course.BuildBlankRecord();
   form_used_ = true;
-  auto& form = dynamic_cast<CourseForm&>(host().Load("CourseForm"));
+  auto& form = Load<CourseForm>(host());
   const auto alive = form.shared_from_this();
   form.BeginAdd();
   if (!FormAccepted(form)) return;
@@ -139,7 +139,7 @@ void CourseTable::EditCourse() {
   course.GetRecord(record);
   if (kelvane_installed_ && course.KVCourseNum() > 0 && WarnedOff("edit")) return;
   form_used_ = true;
-  auto& form = dynamic_cast<CourseForm&>(host().Load("CourseForm"));
+  auto& form = Load<CourseForm>(host());
   const auto alive = form.shared_from_this();
   form.BeginEdit(record);
   if (FormAccepted(form)) {
@@ -178,7 +178,7 @@ void CourseTable::Close() {
 }
 
 void CourseTable::OnUnload() {
-  if (form_used_) host().Unload(host().Load("CourseForm"));
+  if (form_used_) host().Unload(Load<CourseForm>(host()));
 }
 
 }  // namespace golf

@@ -12,6 +12,8 @@ namespace golf {
 // the shared Course object, which is open. Closing rewrites the library's indexes.
 class CourseTable : public Screen {
  public:
+  static constexpr const char* kName = "CourseTable";
+
   explicit CourseTable(const ScreenContext& context);
 
   void OnLoad() override;

@@ -37,7 +37,7 @@ void ShowSums(const HoleControls<TextBox>& boxes, Label& out, Label& in, Label& 
 
 }  // namespace
 
-CourseTee::CourseTee(const ScreenContext& context) : Screen("CourseTee", context) {
+CourseTee::CourseTee(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("Edit Tee");
   for (int number = 1; number <= kLastFirstHole; ++number) {
     FrontHoleNumber.AddItem(std::to_string(number));

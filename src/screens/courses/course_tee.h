@@ -17,6 +17,8 @@ using HoleControls = std::array<AnyControl, kCourseHoles>;
 // starts Timer1 and shows it; it hides with the tag "OK" or "CANCEL". Nothing is written here.
 class CourseTee : public Screen {
  public:
+  static constexpr const char* kName = "CourseTee";
+
   explicit CourseTee(const ScreenContext& context);
 
   // The frames that FHoles asks for. Before the window is made: it has the size of what is seen.

@@ -43,8 +43,7 @@ GridSort::Options GridSort::MakeOptions(const char* name) {
   return {OptionButton(name, kAscending), OptionButton(name, kDescending)};
 }
 
-GridSort::GridSort(const ScreenContext& context)
-    : Screen("GridSort", context), sorter_(context.state) {
+GridSort::GridSort(const ScreenContext& context) : Screen(kName, context), sorter_(context.state) {
   SetCaption("Sort by...");
   for (ComboBox& list : SortList) Add({&list});
   for (Label& label : SortLabel) Add({&label});
@@ -145,8 +144,6 @@ std::string GridSort::HowSortedDescription() const {
   return text.empty() ? kNoSort : text;
 }
 
-GridSort& SharedGridSort(ScreenHost& host) {
-  return dynamic_cast<GridSort&>(host.Load("GridSort"));
-}
+GridSort& SharedGridSort(ScreenHost& host) { return Load<GridSort>(host); }
 
 }  // namespace golf

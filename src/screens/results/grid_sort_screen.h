@@ -22,6 +22,8 @@ using NamedSortKeys = std::array<NamedSortKey, 3>;
 // SharedGridSort.
 class GridSort : public Screen {
  public:
+  static constexpr const char* kName = "GridSort";
+
   explicit GridSort(const ScreenContext& context);
 
   // Grid, last row and places, as with any sort by code. Set the grid before each use: it is one of

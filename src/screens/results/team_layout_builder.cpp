@@ -74,7 +74,7 @@ std::string PlaceCodes::*XReportsCustomTeamResults::FieldOf(Code code) {
 }
 
 XReportsCustomTeamResults::XReportsCustomTeamResults(const ScreenContext& context)
-    : Screen("XReportsCustomTeamResults", context), grid1("grid1", SampleTeams::kLastColumn) {
+    : Screen(kName, context), grid1("grid1", SampleTeams::kLastColumn) {
   SetCaption("Team Results Report Layout Builder");
   AddControls();
   for (const int holes : HoleNumberChoices()) HoleNumberUsedList.AddItem(std::to_string(holes));

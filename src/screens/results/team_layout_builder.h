@@ -16,6 +16,8 @@ namespace golf {
 // get for it.
 class XReportsCustomTeamResults : public Screen {
  public:
+  static constexpr const char* kName = "XReportsCustomTeamResults";
+
   static constexpr int kShow = 0;
   static constexpr int kEdit = 1;
   static constexpr int kNew = 2;

@@ -10,7 +10,7 @@ void OpenTeamLayoutBuilder(SharedState& state, ScreenHost& host, const std::stri
   state.StoreDataPath = state.QBDataPath;
   state.Program().OpenMasterFile();
   state.Program().GetMasterRecord();
-  auto& builder = dynamic_cast<XReportsCustomTeamResults&>(host.Load("XReportsCustomTeamResults"));
+  auto& builder = Load<XReportsCustomTeamResults>(host);
   builder.SetAction(name.empty() ? XReportsCustomTeamResults::kNew
                                  : XReportsCustomTeamResults::kEdit);
   builder.SetReportFileName(name);
@@ -18,7 +18,7 @@ void OpenTeamLayoutBuilder(SharedState& state, ScreenHost& host, const std::stri
   state.Program().CloseMasterFile();
 }
 
-TeamLayouts::TeamLayouts(const ScreenContext& context) : Screen("TeamLayouts", context) {
+TeamLayouts::TeamLayouts(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("Team results layouts");
   Add({&ListLabel, &LayoutList, &EditButton, &NewButton, &ExitButton});
   EditButton.SetDefault(true);

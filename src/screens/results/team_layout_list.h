@@ -13,6 +13,8 @@ void OpenTeamLayoutBuilder(SharedState& state, ScreenHost& host, const std::stri
 // The team report layouts of the Quenby folder, from which the operator chooses one to build on.
 class TeamLayouts : public Screen {
  public:
+  static constexpr const char* kName = "TeamLayouts";
+
   explicit TeamLayouts(const ScreenContext& context);
 
   void OnLoad() override { LoadList(); }

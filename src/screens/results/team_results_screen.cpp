@@ -42,9 +42,7 @@ std::string OnLines(std::string heading) {
 }  // namespace
 
 TeamResults::TeamResults(const ScreenContext& context)
-    : Screen("TeamResults", context),
-      grid1("grid1", kStandingsColumns),
-      grid2("grid2", kCardColumns) {
+    : Screen(kName, context), grid1("grid1", kStandingsColumns), grid2("grid2", kCardColumns) {
   SetCaption("Team results");
   Add({&TournamentLabel, &LayoutLabel, &LayoutList, &RoundLabel, &RoundList, &grid1, &SortedLabel,
        &CardLabel, &grid2, &SortButton, &CopyButton, &SaveButton, &ExitButton});
@@ -92,7 +90,7 @@ void TeamResults::Begin() {
     LayoutList.AddItem(name);
   }
   LayoutList.Select(0);
-  const int rounds = std::stoi(tournament.NumRounds());
+  const int rounds = tournament.RoundCount();
   for (int round = 1; round <= rounds; ++round) RoundList.AddItem(std::to_string(round));
   RoundList.Select(std::clamp(tournament.RoundOr({}), 1, rounds) - 1);
   loading_ = false;
@@ -143,13 +141,13 @@ void TeamResults::LoadStandings() {
   teams_.clear();
   std::vector<StandingsRow> totals;
   std::string problems;
-  const int teams = std::stoi(tournament.NumTeams());
+  const int teams = tournament.TeamCount();
   for (int team = 1; team <= teams; ++team) {
     const std::string problem = AddTeam(team, totals);
     if (!problem.empty()) problems += "\rTeam " + std::to_string(team) + ": " + problem;
   }
   const auto worked_out = standings_->WorkOut();
-  ShowStandings(by_layout ? CustomTable(worked_out, std::stoi(tournament.NumRounds()))
+  ShowStandings(by_layout ? CustomTable(worked_out, tournament.RoundCount())
                           : TeamTotalsTable(std::move(totals)));
   if (!problems.empty()) {
     host().Ask(Box{.title = "Notice",

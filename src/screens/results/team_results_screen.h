@@ -16,6 +16,8 @@ namespace golf {
 // read.
 class TeamResults : public Screen {
  public:
+  static constexpr const char* kName = "TeamResults";
+
   explicit TeamResults(const ScreenContext& context);
 
   void OnActivate() override;

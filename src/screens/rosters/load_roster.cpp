@@ -29,7 +29,7 @@ int HolesOf(SharedState& state, const std::string& file_name) {
 
 }  // namespace
 
-LoadRoster::LoadRoster(const ScreenContext& context) : Screen("LoadRoster", context) {
+LoadRoster::LoadRoster(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("Rosters");
   Add({&Label1, &DataPathLabel, &grid1, &LoadButton, &NewButton, &DeleteButton, &RepairButton,
        &CancelButton, &NewRosterFrame});
@@ -97,6 +97,13 @@ void LoadRoster::Pick() {
   state().Kelvane().system.Set<"RosterName">(name);
   CloseKVFiles(state());
   host().Unload(*this);
+}
+
+const std::string& AskForKelvaneRoster(SharedState& state, ScreenHost& host) {
+  LoadRoster& picker = Load<LoadRoster>(host);
+  picker.SetTag("OPENONLY");
+  host.ShowModal(picker);
+  return state.KVRosterName;
 }
 
 void LoadRoster::AskForNew() {

@@ -12,6 +12,8 @@ namespace golf {
 // "OPENONLY" rosters can only be picked.
 class LoadRoster : public Screen {
  public:
+  static constexpr const char* kName = "LoadRoster";
+
   explicit LoadRoster(const ScreenContext& context);
 
   void OnLoad() override;
@@ -46,5 +48,9 @@ class LoadRoster : public Screen {
   void Delete(const std::string& name);
   bool OpensOnly() const { return tag() == "OPENONLY"; }
 };
+
+// Lets the operator pick a Kelvane roster, nothing more. Gives KVRosterName, which keeps its old
+// value if he picks none.
+const std::string& AskForKelvaneRoster(SharedState& state, ScreenHost& host);
 
 }  // namespace golf

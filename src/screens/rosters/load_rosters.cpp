@@ -20,7 +20,7 @@ constexpr int kMemberships = 3;
 
 }  // namespace
 
-LoadRosters::LoadRosters(const ScreenContext& context) : Screen("LoadRosters", context) {
+LoadRosters::LoadRosters(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("Rosters");
   Add({&DataPathLabel, &FilterLabel, &grid1, &ButtonFrame});
   AddInto(ButtonFrame, {&LoadButton, &NewButton, &EditButton, &DeleteButton, &RepairButton, &Help,

@@ -14,6 +14,8 @@ namespace golf {
 // DeleteButton.
 class LoadRosters : public Screen {
  public:
+  static constexpr const char* kName = "LoadRosters";
+
   explicit LoadRosters(const ScreenContext& context);
 
   void OnActivate() override;

@@ -6,7 +6,7 @@
 
 namespace golf {
 
-KVCoursestoQB::KVCoursestoQB(const ScreenContext& context) : Screen("KVCoursestoQB", context) {
+KVCoursestoQB::KVCoursestoQB(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("Transfer COURSES from Kelvane to Quenby");
   Add({&Label1, &TransferLabel, &TransferCourses, &CancelButton});
   TransferCourses.SetDefault(true);

@@ -9,6 +9,8 @@ namespace golf {
 // written anew.
 class KVCoursestoQB : public Screen {
  public:
+  static constexpr const char* kName = "KVCoursestoQB";
+
   explicit KVCoursestoQB(const ScreenContext& context);
 
   void OnLoad() override;

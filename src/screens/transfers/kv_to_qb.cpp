@@ -17,7 +17,7 @@
 
 namespace golf {
 
-KVtoQB::KVtoQB(const ScreenContext& context) : Screen("KVtoQB", context) {
+KVtoQB::KVtoQB(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("Transfer GOLFERS from Kelvane to Quenby");
   Add({&Label1[0], &HandicapRoster, &SourceButton, &Label1[1], &TournamentRoster, &DestButton,
        &MarkedtoPrint, &Convert18Hcpto9Hcp, &Convert9Hcpto18Hcp, &grid1, &Label1[2], &Working,
@@ -95,11 +95,7 @@ void KVtoQB::FillItemGrid() {
 }
 
 void KVtoQB::FindSource() {
-  auto& picker = dynamic_cast<LoadRoster&>(host().Load("LoadRoster"));
-  picker.SetTag("OPENONLY");
-  picker.NewButton.SetVisible(false);
-  host().ShowModal(picker);
-  HandicapRoster.SetText(state().KVRosterName);
+  HandicapRoster.SetText(AskForKelvaneRoster(state(), host()));
   FillItemGrid();
 }
 

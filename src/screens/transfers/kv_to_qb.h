@@ -13,6 +13,8 @@ namespace golf {
 // and starts the transfer. Afterwards he may have the active tournament updated.
 class KVtoQB : public Screen {
  public:
+  static constexpr const char* kName = "KVtoQB";
+
   explicit KVtoQB(const ScreenContext& context);
 
   void OnLoad() override;

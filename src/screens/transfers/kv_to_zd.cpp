@@ -19,7 +19,7 @@ constexpr int kMostPercent = 100;
 }  // namespace
 
 KVtoZD::KVtoZD(const ScreenContext& context)
-    : Screen("KVtoZD", context),
+    : Screen(kName, context),
       picker(context.state, *this,
              {.panel = "Frame2",
               .tag = "DEST",
@@ -75,12 +75,7 @@ void KVtoZD::ReadOwnSettings() {
   if (const auto percent = from.Text()) HandicapPrct.SetText(*percent);
 }
 
-void KVtoZD::FindSource() {
-  auto& rosters = dynamic_cast<LoadRoster&>(host().Load("LoadRoster"));
-  rosters.SetTag("OPENONLY");
-  host().ShowModal(rosters);
-  SourcePath.SetCaption(state().KVRosterName);
-}
+void KVtoZD::FindSource() { SourcePath.SetCaption(AskForKelvaneRoster(state(), host())); }
 
 void KVtoZD::SelectHandicap(std::size_t type) {
   HandicapType[type].SetValue(true);

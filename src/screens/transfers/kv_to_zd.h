@@ -13,6 +13,8 @@ namespace golf {
 // the transfer of golfers to the league.
 class KVtoZD : public Screen {
  public:
+  static constexpr const char* kName = "KVtoZD";
+
   explicit KVtoZD(const ScreenContext& context);
 
   void OnLoad() override;

@@ -7,6 +7,7 @@
 #include "scoring/player/player_class.h"
 #include "scoring/tournament_class.h"
 #include "screens/remembered_settings.h"
+#include "screens/rosters/load_roster.h"
 #include "screens/transfers/screen_run.h"
 #include "stores/course/course_class.h"
 #include "stores/course/course_library.h"
@@ -19,9 +20,6 @@ namespace {
 constexpr std::size_t kCourseKey = 5;
 constexpr std::size_t kTeeKey = 2;  // with its abbreviation
 constexpr int kEighteen = 18;
-
-constexpr const char* kKelvane = "KV";
-constexpr const char* kQuenby = "QB";
 
 std::string WithoutKey(const std::string& item, std::size_t key) {
   return std::string(
@@ -43,7 +41,7 @@ std::uint8_t TeeOf(const ComboBox& list) {
 
 }  // namespace
 
-QBtoKV::QBtoKV(const ScreenContext& context) : Screen("QBtoKV", context) {
+QBtoKV::QBtoKV(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("Transfer Quenby to Kelvane");
   Add({&Label1[0], &TournamentList, &RoundList, &DestButton, &HandicapRoster, &QBCourse, &Label1[1],
        &CourseCombo});
@@ -74,8 +72,7 @@ std::array<QBtoKV::Sex, 2> QBtoKV::Sexes() {
 }
 
 std::size_t QBtoKV::TeesPlayed(const Sex& sex) {
-  TournamentClass& tournament = state().Tournament();
-  return std::stoul(sex.group == 0 ? tournament.NumTeesMenPlay() : tournament.NumTeesLadiesPlay());
+  return static_cast<std::size_t>(state().Tournament().TeeCount(sex.group));
 }
 
 // The log comes last: a golfer's name with a quote in it ends the reading there.
@@ -149,12 +146,6 @@ std::string QBtoKV::CourseHeading(const std::string& item) { return WithoutKey(i
 
 std::string QBtoKV::TeeHeading(const std::string& item) { return WithoutKey(item, kTeeKey); }
 
-void QBtoKV::PointCourseAt(const char* program, const std::string& folder) {
-  state().CourseDataPath = folder;
-  state().Course().SetActiveProgram(program);
-  state().Course().OpenCourseFile();
-}
-
 void QBtoKV::FillCourseCombo() {
   state().InitSharedObjects();
   bool opened = false;
@@ -162,7 +153,7 @@ void QBtoKV::FillCourseCombo() {
   silently([&] { opened = OpenKVRoster(state(), HandicapRoster.text()); });
   auto& header = state().Kelvane().header;
   if (opened) state().files.Read(kKelvaneHeaderFile, 1, header);
-  PointCourseAt(kKelvane, state().KVDataPath);
+  OpenCourseLibrary(state(), kKelvaneCourses);
   CourseCombo.Clear();
   const CourseClass& course = state().Course();
   const auto fill = [&](std::int32_t count, auto entry) {
@@ -192,7 +183,7 @@ void QBtoKV::FillTournamentList() {
 void QBtoKV::ReadTournament() {
   state().Tournament().OpenTournamentControlFile(TournamentOf(TournamentList.text()));
   state().Tournament().GetRecord();
-  PointCourseAt(kQuenby, state().QBDataPath);
+  OpenCourseLibrary(state(), kQuenbyCourses);
 }
 
 void QBtoKV::ChooseTournament() {
@@ -202,14 +193,14 @@ void QBtoKV::ChooseTournament() {
   silently(
       [&] { state().Tournament().OpenTournamentControlFile(TournamentOf(TournamentList.text())); });
   silently([&] { state().Tournament().GetRecord(); });
-  silently([&] { PointCourseAt(kQuenby, state().QBDataPath); });
+  silently([&] { OpenCourseLibrary(state(), kQuenbyCourses); });
   FillRoundList();
   silently([&] { ShowTees(); });
   silently([&] { MatchCourse(); });
 }
 
 void QBtoKV::FillRoundList() {
-  const int rounds = std::stoi(state().Tournament().NumRounds());
+  const int rounds = state().Tournament().RoundCount();
   round_list_ready_ = false;
   RoundList.SetVisible(rounds > 1);
   if (rounds > 1) {
@@ -224,7 +215,7 @@ void QBtoKV::FillRoundList() {
 
 void QBtoKV::ChooseRound() {
   if (round_list_ready_) {
-    PointCourseAt(kQuenby, state().QBDataPath);
+    OpenCourseLibrary(state(), kQuenbyCourses);
     selected_round_ = RoundList.index() + 1;
     ShowTees();
     MatchCourse();
@@ -273,7 +264,7 @@ void QBtoKV::ChooseCourse() {
 void QBtoKV::MatchTees() {
   const ResumeNext next = ResumeNextButReads(
       [this](const NumberedError&) { ShowBox("Problem", "Selected Course has NO TEES!"); });
-  next([&] { PointCourseAt(kKelvane, state().KVDataPath); });
+  next([&] { OpenCourseLibrary(state(), kKelvaneCourses); });
   next([&] { state().Course().GetRecord(CourseOf(CourseCombo.text())); });
   next([&] { GetTees(); });
   for (const Sex& sex : Sexes()) {
@@ -298,11 +289,9 @@ void QBtoKV::GetTees() {
 }
 
 void QBtoKV::FindRoster() {
-  Screen& picker = host().Load("LoadRoster");
-  picker.SetTag("OPENONLY");
-  host().ShowModal(picker);
+  const std::string& roster = AskForKelvaneRoster(state(), host());
   TransferButton.SetVisible(true);
-  HandicapRoster.SetText(state().KVRosterName);
+  HandicapRoster.SetText(roster);
   Match([this] {
     FillCourseCombo();
     if (TournamentList.index() >= 0) ChooseTournament();

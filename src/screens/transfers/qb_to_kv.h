@@ -17,6 +17,8 @@ namespace golf {
 // their names fit best, and may choose others.
 class QBtoKV : public Screen {
  public:
+  static constexpr const char* kName = "QBtoKV";
+
   static constexpr int kTees = 5;
   using Labels = std::array<Label, kTees>;
   using Combos = std::array<ComboBox, kTees>;
@@ -87,7 +89,6 @@ class QBtoKV : public Screen {
 
   void FillCourseCombo();
   void FillTournamentList();
-  void PointCourseAt(const char* program, const std::string& folder);
   void ReadTournament();
   void ChooseTournament();
   void FillRoundList();

@@ -28,7 +28,7 @@ void OpenQuenbyRosters(SharedState& state) {
 }
 
 std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_delete) {
-  auto& picker = dynamic_cast<LoadRosters&>(host.Load("LoadRosters"));
+  auto& picker = Load<LoadRosters>(host);
   picker.DeleteButton.SetEnabled(may_delete);
   host.ShowModal(picker);
   host.Unload(picker);  // the next opener decides anew what can be done

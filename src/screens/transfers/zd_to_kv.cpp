@@ -10,7 +10,7 @@
 namespace golf {
 
 ZDtoKV::ZDtoKV(const ScreenContext& context)
-    : Screen("ZDtoKV", context),
+    : Screen(kName, context),
       picker(context.state, *this,
              {.panel = "Frame1",
               .tag = "SOURCE",
@@ -68,10 +68,7 @@ void ZDtoKV::LoadEventList() {
 }
 
 void ZDtoKV::FindDestination() {
-  auto& rosters = dynamic_cast<LoadRoster&>(host().Load("LoadRoster"));
-  rosters.SetTag("OPENONLY");
-  host().ShowModal(rosters);
-  HandicapRoster.SetText(state().KVRosterName);
+  HandicapRoster.SetText(AskForKelvaneRoster(state(), host()));
   TransferButton.SetVisible(true);
 }
 

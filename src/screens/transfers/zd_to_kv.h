@@ -14,6 +14,8 @@ namespace golf {
 // starts the transfer of the scores. The league's files stay open with the list of its batches.
 class ZDtoKV : public Screen {
  public:
+  static constexpr const char* kName = "ZDtoKV";
+
   explicit ZDtoKV(const ScreenContext& context);
 
   void OnLoad() override;

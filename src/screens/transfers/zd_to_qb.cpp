@@ -16,7 +16,7 @@ constexpr std::size_t kBaseLength = 5;
 }  // namespace
 
 ZDtoQB::ZDtoQB(const ScreenContext& context)
-    : Screen("ZDtoQB", context),
+    : Screen(kName, context),
       picker(context.state, *this,
              {.panel = "Frame1",
               .tag = "SOURCE",

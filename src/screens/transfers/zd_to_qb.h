@@ -12,6 +12,8 @@ namespace golf {
 // golfers.
 class ZDtoQB : public Screen {
  public:
+  static constexpr const char* kName = "ZDtoQB";
+
   explicit ZDtoQB(const ScreenContext& context);
 
   void OnLoad() override;

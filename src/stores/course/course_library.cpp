@@ -21,8 +21,11 @@ std::string CourseFilePath(const SharedState& state, const CourseLibrary& librar
 }
 
 void OpenCourseLibrary(SharedState& state, const CourseLibrary& library) {
+  OpenCourseLibrary(state, state.Course(), library);
+}
+
+void OpenCourseLibrary(SharedState& state, CourseClass& course, const CourseLibrary& library) {
   state.CourseDataPath = state.*library.folder;
-  CourseClass& course = state.Course();
   course.SetActiveProgram(std::string(library.program));
   course.OpenCourseFile();
 }

@@ -20,6 +20,10 @@ inline constexpr std::array<CourseLibrary, 3> kCourseLibraries{
      {"QB", "Quenby", &SharedState::QBDataPath},
      {"ZD", "Zandel", &SharedState::ZDDataPath}}};
 
+inline constexpr const CourseLibrary& kKelvaneCourses = kCourseLibraries[0];
+inline constexpr const CourseLibrary& kQuenbyCourses = kCourseLibraries[1];
+inline constexpr const CourseLibrary& kZandelCourses = kCourseLibraries[2];
+
 // The library of this program, in any case; null if there is none.
 const CourseLibrary* FindCourseLibrary(std::string_view program);
 
@@ -27,7 +31,9 @@ const CourseLibrary* FindCourseLibrary(std::string_view program);
 std::string CourseFileName(std::string_view program);
 std::string CourseFilePath(const SharedState& state, const CourseLibrary& library);
 
-// Points the shared Course object at the library and opens it. Errors as CourseClass.
+// Points a course object, or the shared Course, at the library and opens it. CourseDataPath is the
+// library's folder then. Errors as CourseClass.
+void OpenCourseLibrary(SharedState& state, CourseClass& course, const CourseLibrary& library);
 void OpenCourseLibrary(SharedState& state, const CourseLibrary& library);
 
 // "18", "9F" for the front nine and "9B" for the back nine.

@@ -72,7 +72,7 @@ void TeamRecords::SetToRecalculate() {
 }
 
 void TeamRecords::ForEachGolfer(int round, const std::function<bool(std::int32_t record)>& action) {
-  if (number_ < 1 || number_ > std::stoi(state_.TournamentRecord().NumTeams())) return;
+  if (number_ < 1 || number_ > state_.TournamentRecord().TeamCount()) return;
   if (round < 1 || round > kRounds) return;
   TournamentPlayers& player = state_.PlayerRecords();
   const std::int32_t count = player.TourIndexNumberofPlayersInIndex();

@@ -146,9 +146,12 @@ void TournamentControl::SetNumTeams(double value) {
   SetInt16<"NumTeams">(LimitNumber(value, 1, kMostTeams));
 }
 
-int TournamentControl::NumTeeGroups() {
-  return std::max({std::stoi(NumTeesMenPlay()), std::stoi(NumTeesLadiesPlay()), 1});
+int TournamentControl::TeeCount(int group) {
+  return group == 0 ? Mended<"NumTeesMenPlay">(0, kTeeGroups)
+                    : Mended<"NumTeesLadiesPlay">(0, kTeeGroups);
 }
+
+int TournamentControl::NumTeeGroups() { return std::max({TeeCount(0), TeeCount(1), 1}); }
 
 std::int16_t TournamentControl::RoundType() {
   const int type = record_.Get<"RoundType">();

@@ -60,6 +60,11 @@ class TournamentControl {
   void SetNumTeesMenPlay(double value) { SetInt16<"NumTeesMenPlay">(value); }
   std::string NumTeesLadiesPlay() { return MendedText<"NumTeesLadiesPlay">(0, kTeeGroups); }
   void SetNumTeesLadiesPlay(double value) { SetInt16<"NumTeesLadiesPlay">(value); }
+  // The same as numbers.
+  int RoundCount() { return Mended<"NumRounds">(1, 5); }
+  int TeamCount() { return Mended<"NumTeams">(1, kMostTeams); }
+  int FlightCount() { return Mended<"NumFlights">(1, kMostFlights); }
+  int TeeCount(int group);  // 0 men, 1 ladies
   // The larger of the two, at least 1.
   int NumTeeGroups();
 
@@ -182,7 +187,11 @@ class TournamentControl {
   void MakeTeams(std::int32_t tournament);
 
   template <FieldName kName>
-  std::string MendedText(int low, int high);
+  int Mended(int low, int high);
+  template <FieldName kName>
+  std::string MendedText(int low, int high) {
+    return std::to_string(Mended<kName>(low, high));
+  }
   template <FieldName kName>
   std::int16_t MendedOption(int low, int high);
   template <FieldName kName>
@@ -205,11 +214,11 @@ class TournamentControl {
 };
 
 template <FieldName kName>
-std::string TournamentControl::MendedText(int low, int high) {
+int TournamentControl::Mended(int low, int high) {
   double value = record_.Get<kName>();
   const std::int32_t mended = LimitNumber(value, low, high);
   record_.Set<kName>(static_cast<std::int16_t>(mended));
-  return std::to_string(mended);
+  return mended;
 }
 
 // A value outside the range becomes `low`.

@@ -74,7 +74,7 @@ void TournamentPlayers::SetTourScoreTransferredtoKV(int round, bool value) {
 std::string TournamentPlayers::TourFlight(OptionalRound round) {
   const int of = RoundOr(round);
   const int flight = static_cast<unsigned char>(entry_.Get<"TourFlight">(of)[0]);
-  const int last = 64 + std::stoi(state().TournamentRecord().NumFlights());
+  const int last = 64 + state().TournamentRecord().FlightCount();
   if (flight < 'A' || flight > last) entry_.Set<"TourFlight">({of}, "A");
   return entry_.Get<"TourFlight">(of);
 }
@@ -85,8 +85,7 @@ void TournamentPlayers::SetTourFlight(OptionalRound round, std::string_view valu
 std::int16_t TournamentPlayers::TourGroupTee(OptionalRound round) {
   const int of = RoundOr(round);
   TournamentControl& tournament = state().TournamentRecord();
-  const int groups =
-      std::stoi(sex() == "F" ? tournament.NumTeesLadiesPlay() : tournament.NumTeesMenPlay());
+  const int groups = tournament.TeeCount(sex() == "F" ? 1 : 0);
   const int group = entry_.Get<"TourGroupTee">(of);
   if (group < 1 || group > groups) entry_.Set<"TourGroupTee">({of}, 1);
   return entry_.Get<"TourGroupTee">(of);

@@ -137,11 +137,11 @@ void TournamentPlayers::RefreshIndex() {
 
 void TournamentPlayers::IndexPlayersByTeam() {
   TournamentControl& tournament = state().TournamentRecord();
-  const int teams = std::stoi(tournament.NumTeams());
+  const int teams = tournament.TeamCount();
   const std::int32_t length = TourFileLength();
   for (auto& table : players_by_team_) table.clear();
   for (auto& table : first_on_team_) table.assign(static_cast<std::size_t>(teams) + 1, 0);
-  const int rounds = std::stoi(tournament.NumRounds());
+  const int rounds = tournament.RoundCount();
   for (int round = 1; round <= rounds; ++round) IndexRound(round, teams, length);
   index_length_ = length;
   index_stale_ = false;
