@@ -238,7 +238,7 @@ TEST_F(DesktopTest, AQuestionIsAnsweredByEnterAndRemembered) {
   EXPECT_EQ(answers, std::vector<std::string>({"NO", "YES", "YES"}));
 }
 
-// Both pickers, a tick in the grid by the keyboard, the run, and the report.
+// Both pickers, ticks in the grid by the mouse and the keyboard, the run, and the report.
 TEST_F(DesktopTest, TransfersGolfers) {
   std::string golfer(2804, ' ');
   Put16(golfer, 0, {1});
@@ -259,15 +259,21 @@ TEST_F(DesktopTest, TransfersGolfers) {
   user.When(
       "the grid",
       [&] { return !host.IsShown("LoadRosters") && Operator::Find("grid1")->IsEnabled(); },
-      [] {
-        auto& grid = dynamic_cast<wxGrid&>(*Operator::Find("grid1"));
-        EXPECT_EQ(grid.GetNumberRows(), 16);
-        grid.SetGridCursor(1, 1);
-        grid.SetFocus();
-      });
+      [] { EXPECT_EQ(dynamic_cast<wxGrid&>(*Operator::Find("grid1")).GetNumberRows(), 16); });
+  const auto await_ticks = [&](const std::string& ticks) {
+    user.Await("the ticks " + ticks, [&, ticks] {
+      const Grid& grid = dynamic_cast<KVtoQB&>(host.Load("KVtoQB")).grid1;
+      return grid.text(2, 1) + grid.text(2, 2) + grid.text(2, 3) == ticks;
+    });
+  };
+  user.PressCell("grid1", 2, 1);
+  await_ticks("101");
+  for (const int key : {WXK_UP, WXK_LEFT, WXK_SPACE}) user.Type("grid1", key);
+  await_ticks("111");
+  user.PressCell("grid1", 0, 1);  // always ticked
   user.Type("grid1", WXK_SPACE);
-  user.Await("the tick",
-             [&] { return dynamic_cast<KVtoQB&>(host.Load("KVtoQB")).grid1.text(2, 2) == "1"; });
+  user.PressCell("grid1", 2, 1);
+  await_ticks("110");
   user.Press("TransferButton");
   ExpectMessage("CLUB TRANSFERED:\n0 golfers updated.\n1 new golfers added.\n" + wxString('=', 30) +
                 "\n");

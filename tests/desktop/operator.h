@@ -29,6 +29,8 @@ class Operator : private wxTimer, private wxModalDialogHook {
   }
   // Clicks the widget of this name once it can be seen and used.
   void Press(const std::string& name);
+  // The same for a cell of a grid.
+  void PressCell(const std::string& name, int row, int column);
   // Waits for a message box, expects its title and text, and answers it by a key.
   void Answer(const std::string& title, const std::string& text, int key = WXK_RETURN);
   // Types a key once a widget of this name can be seen and used.
@@ -39,13 +41,14 @@ class Operator : private wxTimer, private wxModalDialogHook {
   // At once, wherever the widget is.
   void ClickNow(const std::string& name);
   void TypeNow(int key) { simulator_.Char(key); }
+  bool SeesBox() const { return !dialogs_.empty() && dialogs_.back() != nullptr; }
 
   // Runs the program until it ends; all steps must be done then.
   void RunProgram();
   // Lets events come until the condition holds.
   void RunUntil(const std::string& what, std::function<bool()> condition);
 
-  // The widget of this name; null if no window shows one.
+  // The widget of this name in the newest window that shows one; null if none does.
   static wxWindow* Find(const std::string& name);
 
  private:
@@ -58,8 +61,10 @@ class Operator : private wxTimer, private wxModalDialogHook {
   void Notify() override;
   int Enter(wxDialog* dialog) override;
   void Exit(wxDialog* dialog) override;
-  bool PointAt(const std::string& name);
-  void MoveOver(const wxWindow& widget);
+  bool PointAt(wxWindow* widget, const wxPoint& place);
+  void MoveTo(const wxWindow& widget, const wxPoint& place);
+  void Click();
+  void AwaitEndOfBox(const std::string& title);
 
   std::deque<Step> steps_;
   std::vector<wxDialog*> dialogs_;
