@@ -16,6 +16,7 @@
 #include "desktop/operator.h"
 #include "shell/tip_box.h"
 #include "stores/course/course_layout.h"
+#include "stores/course/screens/course_table.h"
 #include "stores/course/screens/course_tee.h"
 #include "stores/kelvane/screens/load_roster.h"
 #include "support/bytes.h"
@@ -186,6 +187,11 @@ TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
           "kvcrs.dat\n\nWhat you change in it is changed for Kelvane as well. Close Kelvane "
           "before you go on.\n\nOpen it?");
   user.Do([&] { host.Operate([&] { OpenScreen(state(), host, "CourseTable", "KV"); }); });
+  user.Type("CourseGrid", WXK_DELETE);
+  user.AnswerInput("DELETE COURSE?", "NO", "YES");
+  user.Await("one course", [&] {
+    return dynamic_cast<CourseTable&>(host.Load("CourseTable")).CourseGrid.rows() == 1;
+  });
   user.Press("EditCourseButton");
   user.Press("EditTeeButton");
   user.Press("ActiveTee");

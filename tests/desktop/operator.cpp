@@ -5,6 +5,8 @@
 #include <wx/evtloop.h>
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
+#include <wx/textctrl.h>
+#include <wx/textdlg.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,7 +26,18 @@ wxPoint Middle(const wxWindow* widget) {
 
 bool CanBeUsed(const wxWindow* widget) { return widget != nullptr && widget->IsEnabled(); }
 
-bool IsBox(wxDialog* dialog) { return dynamic_cast<wxMessageDialog*>(dialog) != nullptr; }
+// The entry of an input box; null in any other dialog.
+wxTextCtrl* EntryOf(wxDialog* dialog) {
+  if (dynamic_cast<wxTextEntryDialog*>(dialog) == nullptr) return nullptr;
+  for (wxWindow* child : dialog->GetChildren()) {
+    if (auto* entry = dynamic_cast<wxTextCtrl*>(child)) return entry;
+  }
+  return nullptr;
+}
+
+bool IsBox(wxDialog* dialog) {
+  return dynamic_cast<wxMessageDialog*>(dialog) != nullptr || EntryOf(dialog) != nullptr;
+}
 
 }  // namespace
 
@@ -100,6 +113,29 @@ void Operator::Answer(const std::string& title, const std::string& text, int key
         EXPECT_EQ(box.GetTitle().utf8_string(), title);
         EXPECT_EQ(box.GetMessage().utf8_string(), text);
         TypeNow(key);
+      });
+  AwaitEndOfBox(title);
+}
+
+void Operator::AnswerInput(const std::string& title, const std::string& before,
+                           const std::string& typed) {
+  When(
+      "input box " + title,
+      [this] {
+        const wxTextCtrl* entry = SeesBox() ? EntryOf(dialogs_.back()) : nullptr;
+        return entry != nullptr && entry->HasFocus();
+      },
+      [=, this] {
+        EXPECT_EQ(dialogs_.back()->GetTitle().utf8_string(), title);
+        EXPECT_EQ(EntryOf(dialogs_.back())->GetValue().utf8_string(), before);
+        simulator_.Text(typed.c_str());
+      });
+  When(
+      "the answer " + typed,
+      [=, this] { return EntryOf(dialogs_.back())->GetValue().Contains(typed); },
+      [=, this] {
+        EXPECT_EQ(EntryOf(dialogs_.back())->GetValue().utf8_string(), typed);
+        TypeNow(WXK_RETURN);
       });
   AwaitEndOfBox(title);
 }

@@ -33,6 +33,9 @@ class Operator : private wxTimer, private wxModalDialogHook {
   void PressCell(const std::string& name, int row, int column);
   // Waits for a message box, expects its title and text, and answers it by a key.
   void Answer(const std::string& title, const std::string& text, int key = WXK_RETURN);
+  // Waits for an input box, expects its title and the answer that stands in it, types another one,
+  // expects that it has taken the place of the first, and presses Enter.
+  void AnswerInput(const std::string& title, const std::string& before, const std::string& typed);
   // Types a key once a widget of this name can be seen and used.
   void Type(const std::string& name, int key);
   // Runs code that may show windows, as an event of its own.
