@@ -131,7 +131,8 @@ wxArrayString ControlTable::Choices(int control_column) const {
 }
 
 void ControlTable::Enter(int row, int column, std::string text) {
-  binding_.Operate([&] { control_.Enter(ControlColumn(column), row + 1, std::move(text)); });
+  binding_.Operate(control_,
+                   [&] { control_.Enter(ControlColumn(column), row + 1, std::move(text)); });
 }
 
 void ControlTable::ChooseColumns() {

@@ -3,6 +3,7 @@
 #include <wx/settings.h>
 
 #include <algorithm>
+#include <string>
 
 #include "desktop/control_table.h"
 
@@ -107,8 +108,14 @@ class GridView : public wxGrid {
     // A move along the row has unmarked it.
     const bool marks_row = marks_ == GridMarks::kRows && !showing_;
     if (marks_row && !IsInSelection(row - 1, 0)) SelectRow(row - 1);
-    if (showing_ || row == control_.active_row() || row > control_.rows()) return;
-    binding_.Operate([this, row] { control_.SetActiveRow(row); });
+    if (!showing_) Activate(row);
+  }
+
+  // The rows may have changed by then.
+  void Activate(int row) {
+    binding_.OperateSoon(control_, [this, row] {
+      if (row != control_.active_row() && row <= control_.rows()) control_.SetActiveRow(row);
+    });
   }
 
   void OnFocus(wxFocusEvent& event) {
@@ -133,7 +140,7 @@ class GridView : public wxGrid {
   void OnDoubleClick(wxGridEvent& event) {
     if (table_->TurnTick(event.GetRow(), event.GetCol())) return;  // each click counts
     if (!control_.on_double_click) return event.Skip();
-    binding_.Operate([this] { control_.on_double_click(); });
+    binding_.OperateSoon(control_, control_.on_double_click);
   }
 
   // A row is marked as a whole: there are no cells to go along.
@@ -164,7 +171,7 @@ class GridView : public wxGrid {
   // The keys that the screen knows; all others move about in the grid.
   void OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
-    if (MarksFirstRow(key)) return binding_.Operate([this] { control_.SetActiveRow(1); });
+    if (MarksFirstRow(key)) return Activate(1);
     if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // would unmark the active row
     if (key == WXK_TAB && marks_ == GridMarks::kRows) return LeaveByTab(event.ShiftDown());
     const bool turns = key == WXK_SPACE && !event.HasAnyModifiers() && !IsCellEditControlShown();
@@ -174,9 +181,16 @@ class GridView : public wxGrid {
                        : key == WXK_DELETE                          ? "Delete"
                                                                     : nullptr;
     if (name == nullptr || IsCellEditControlShown()) return event.Skip();
-    bool taken = false;
-    if (control_.on_key) binding_.Operate([&] { taken = control_.on_key(name); });
-    if (!taken && !binding_.OperateKey(name)) event.Skip();
+    if (control_.on_key) return TakeKeySoon(name);
+    if (!binding_.OperateKeySoon(name)) event.Skip();
+  }
+
+  // Whether the control takes a key turns out when it is too late for the toolkit to go on with it.
+  void TakeKeySoon(const std::string& name) {
+    binding_.OperateSoon(control_, [this, name] {
+      if (control_.on_key(name) || binding_.OperateKeySoon(name)) return;
+      if (name == "Enter") MoveCursorDown(false);
+    });
   }
 
   Binding& binding_;

@@ -53,6 +53,7 @@ class DesktopTest : public testing::Test {
       course.Set<"Name">(name);
       course.Set<"activeflag">(static_cast<std::int16_t>(active));
       course.Set<"HoleNumFlag">(18);
+      course.Set<"TeeName">({1}, "White");
       courses += course.Bytes();
     }
     install.folder.Write("kvdata/kvcrs.dat", courses);
@@ -195,9 +196,26 @@ TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
   user.Press("EditCourseButton");
   user.Press("EditTeeButton");
   user.Press("ActiveTee");
+  auto& tee = dynamic_cast<CourseTee&>(host.Load("CourseTee"));
+  user.Press("FMensRating");
+  user.When(
+      "the rating", [&] { return tee.focus() == &tee.FMensRating; },
+      [&] {
+        for (const char key : {'7', '1', '\t', '1', '1', '3', '\t'}) user.TypeNow(key);
+      });
+  user.When(
+      "the next field", [&] { return tee.focus() == &tee.FLadiesRating; },
+      [&] {
+        EXPECT_EQ(tee.FMensRating.text(), "71.0");
+        EXPECT_EQ(tee.FMensSlope.text(), "113");
+      });
+  user.Press("FTeeName");
+  user.Type("FTeeName", 'x');
+  user.Press("FPar");
+  user.AnswerInput("Change tee name?", "No", "YES");
+  user.Await("the new name", [&] { return tee.FTeeName.text() != "White"; });
   user.Press("FPar");
   user.Type("FPar", '4');
-  auto& tee = dynamic_cast<CourseTee&>(host.Load("CourseTee"));
   user.When(
       "the next hole", [&] { return tee.focus() == &tee.FPar[1]; },
       [&] { EXPECT_NE(tee.FParOut.caption(), "0"); });

@@ -43,10 +43,14 @@ bool IsBox(wxDialog* dialog) {
 
 Operator::Operator() : deadline_(std::chrono::steady_clock::now() + kPatience) {
   Register();
+  wxEvtHandler::AddFilter(this);
   Start(kTick);
 }
 
-Operator::~Operator() { Unregister(); }
+Operator::~Operator() {
+  wxEvtHandler::RemoveFilter(this);
+  Unregister();
+}
 
 wxWindow* Operator::Find(const std::string& name) {
   for (auto node = wxTopLevelWindows.GetLast(); node != nullptr; node = node->GetPrevious()) {
@@ -84,6 +88,7 @@ void Operator::MoveTo(const wxWindow& widget, const wxPoint& place) {
 
 void Operator::Click() {
   target_ = nullptr;
+  watching_ = true;
   simulator_.MouseClick();
 }
 
@@ -146,7 +151,11 @@ void Operator::AwaitEndOfBox(const std::string& title) {
 
 void Operator::Type(const std::string& name, int key) {
   When(
-      "type into " + name, [name] { return CanBeUsed(Find(name)); }, [this, key] { TypeNow(key); });
+      "type into " + name, [name] { return CanBeUsed(Find(name)); },
+      [this, key] {
+        watching_ = true;
+        TypeNow(key);
+      });
 }
 
 void Operator::Do(std::function<void()> action) {
@@ -186,10 +195,27 @@ void Operator::Notify() {
 
 // A screen's dialog stands as null between the boxes.
 int Operator::Enter(wxDialog* dialog) {
+  EXPECT_FALSE(in_input_) << "a key or the focus opens " << dialog->GetTitle();
+  watching_ = false;
   dialogs_.push_back(IsBox(dialog) ? dialog : nullptr);
   return wxID_NONE;
 }
 
 void Operator::Exit(wxDialog*) { dialogs_.pop_back(); }
+
+// What is put off runs when the toolkit is done with the event, and this is put off first. The
+// press of a button is an event of its own, also by a key.
+int Operator::FilterEvent(wxEvent& event) {
+  const wxEventType type = event.GetEventType();
+  if (type == wxEVT_BUTTON) watching_ = in_input_ = false;
+  for (const wxEventType input :
+       {wxEventType(wxEVT_CHAR_HOOK), wxEventType(wxEVT_KEY_DOWN), wxEventType(wxEVT_CHAR),
+        wxEventType(wxEVT_SET_FOCUS), wxEventType(wxEVT_KILL_FOCUS)}) {
+    if (type != input || !watching_ || in_input_) continue;
+    in_input_ = true;
+    CallAfter([this] { in_input_ = false; });
+  }
+  return Event_Skip;
+}
 
 }  // namespace golf

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <wx/eventfilter.h>
 #include <wx/modalhook.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
@@ -16,8 +17,9 @@ namespace golf {
 
 // The operator before a real display: a list of steps, each of which waits until it can be done.
 // Mouse and keyboard are those of the window system. Where a step cannot be done in time the whole
-// test program ends, for no window can be left in an orderly way then.
-class Operator : private wxTimer, private wxModalDialogHook {
+// test program ends, for no window can be left in an orderly way then. A window that a step opens
+// before the program has returned from a key or a change of the focus is a failure of the test.
+class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilter {
  public:
   Operator();
   ~Operator() override;
@@ -64,6 +66,7 @@ class Operator : private wxTimer, private wxModalDialogHook {
   void Notify() override;
   int Enter(wxDialog* dialog) override;
   void Exit(wxDialog* dialog) override;
+  int FilterEvent(wxEvent& event) override;
   bool PointAt(wxWindow* widget, const wxPoint& place);
   void MoveTo(const wxWindow& widget, const wxPoint& place);
   void Click();
@@ -74,6 +77,8 @@ class Operator : private wxTimer, private wxModalDialogHook {
   const wxWindow* target_ = nullptr;  // where the pointer is to go
   bool felt_ = false;
   int nudge_ = 0;
+  bool watching_ = false;  // from a key or a click to what it opens
+  bool in_input_ = false;  // the program handles a key or a change of the focus
   wxUIActionSimulator simulator_;
   std::chrono::steady_clock::time_point deadline_;
 };
