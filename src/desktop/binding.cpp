@@ -1,5 +1,7 @@
 #include "desktop/binding.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "desktop/wx_text.h"
@@ -21,6 +23,8 @@ bool TakesInput(const Control& control) {
   return control.kind() != ControlKind::kLabel && control.kind() != ControlKind::kFrame;
 }
 
+bool CanHaveFocus(const Control& control) { return TakesInput(control) && control.IsReachable(); }
+
 }  // namespace
 
 void Binding::Tie(Control& control, wxWindow& widget, std::function<void()> show) {
@@ -28,28 +32,44 @@ void Binding::Tie(Control& control, wxWindow& widget, std::function<void()> show
   Tied& tied = ties_.emplace_back(Tied{&control, &widget, std::move(show), true});
   changed_ = true;
   control.Observe([this, &tied] { Mark(tied); });
-  FollowFocus(control, widget);
+  if (TakesInput(control)) FollowFocus(control, widget);
 }
 
 void Binding::FollowFocus(Control& control, wxWindow& widget) {
   widget.Bind(wxEVT_SET_FOCUS, [this, &control](wxFocusEvent& event) {
     event.Skip();
-    if (held_ || screen_ == nullptr) return;
-    shown_focus_ = &control;
-    Operate([this, &control] { screen_->MoveFocus(&control); });
+    // Where the toolkit itself puts the focus when a widget goes is not the operator's choice.
+    if (held_ || showing_ > 0) return;
+    if (std::exchange(shown_focus_, &control) == &control) return;
+    OperateSoon(control, [this, &control] { screen_->MoveFocus(&control); });
   });
 }
 
-void Binding::Operate(const std::function<void()>& event) {
-  if (screen_ == nullptr || host_.ended()) return;
-  host_.Operate(*screen_, event);
-  Refresh();
+void Binding::Operate(const Control& control, const Event& event) {
+  RunWaiting();
+  Run(control, event);
 }
 
-bool Binding::OperateKey(std::string_view key) {
-  bool taken = false;
-  Operate([&] { taken = screen_->OnKey(key); });
-  return taken;
+void Binding::OperateSoon(const Control& control, Event event) {
+  if (held_ || screen_ == nullptr) return;
+  waiting_.Add([this, &control, event = std::move(event)] { Run(control, event); });
+}
+
+bool Binding::OperateKeySoon(std::string_view key) {
+  if (held_ || screen_ == nullptr) return false;
+  const Button* button = screen_->ButtonOfKey(key);
+  if (button != nullptr) OperateSoon(*button, [button] { button->Click(); });
+  return button != nullptr;
+}
+
+// What the widget of a refused event shows is not what the control holds.
+void Binding::Run(const Control& control, const Event& event) {
+  if (screen_ == nullptr || host_.ended()) return;
+  for (Tied& tied : ties_) {
+    if (tied.control == &control && !control.IsReachable()) Mark(tied);
+  }
+  host_.Operate(*screen_, control, event);
+  Refresh();
 }
 
 void Binding::Mark(Tied& tied) {
@@ -59,17 +79,20 @@ void Binding::Mark(Tied& tied) {
 
 void Binding::Refresh() {
   if (screen_ == nullptr) return;
-  if (std::exchange(changed_, false)) {
-    bool rearranged = false;
-    for (Tied& tied : ties_) {
-      if (std::exchange(tied.changed, false)) tied.show();
-      // All of them, since one control can take others with it.
-      if (ShowState(tied)) rearranged = true;
-    }
-    for (const auto& show : shows_also_) show();
-    if (rearranged && on_rearranged) on_rearranged();
-  }
+  const wxRecursionGuard showing(showing_);
+  if (std::exchange(changed_, false)) ShowChanges();
   ShowFocus();
+}
+
+void Binding::ShowChanges() {
+  bool rearranged = false;
+  for (Tied& tied : ties_) {
+    if (std::exchange(tied.changed, false)) tied.show();
+    // All of them, since one control can take others with it.
+    if (ShowState(tied)) rearranged = true;
+  }
+  for (const auto& show : shows_also_) show();
+  if (rearranged && on_rearranged) on_rearranged();
 }
 
 bool Binding::ShowState(const Tied& tied) {
@@ -78,20 +101,61 @@ bool Binding::ShowState(const Tied& tied) {
   return tied.widget->Show(IsVisibleOnItsPage(*tied.control));
 }
 
+// Not while something waits: the operator may have moved the focus since.
 void Binding::ShowFocus() {
-  if (held_ || shown_focus_ == screen_->focus()) return;
-  shown_focus_ = screen_->focus();
-  for (const Tied& tied : ties_) {
-    if (tied.control == shown_focus_) tied.widget->SetFocus();
+  if (held_ || !waiting_.IsEmpty()) return;
+  const Tied* place = PlaceOfFocus();
+  if (place == nullptr) return;
+  if (place->control != shown_focus_) GiveFocus(*place);
+  if (place->control == screen_->focus()) return;
+  OperateSoon(*place->control, [this] {
+    if (const Tied* now = PlaceOfFocus()) screen_->MoveFocus(now->control);
+  });
+}
+
+void Binding::GiveFocus(const Tied& tied) {
+  shown_focus_ = tied.control;
+  tied.widget->SetFocus();
+}
+
+// Null where the screen has put it nowhere.
+const Binding::Tied* Binding::PlaceOfFocus() {
+  const auto place = std::find_if(ties_.cbegin(), ties_.cend(), [this](const Tied& tied) {
+    return tied.control == screen_->focus();
+  });
+  if (place == ties_.cend()) return nullptr;
+  return CanHaveFocus(*place->control) ? &*place : PlaceInsteadOf(place);
+}
+
+// For a control that has the focus and is gone: the nearest one before it, all the way round, among
+// those that do the least harm. Null if there is none.
+const Binding::Tied* Binding::PlaceInsteadOf(std::list<Tied>::const_iterator lost) {
+  const Tied* best = nullptr;
+  const auto before = [this](auto at) {
+    return std::prev(at == ties_.cbegin() ? ties_.cend() : at);
+  };
+  for (auto at = before(lost); at != lost; at = before(at)) {
+    if (!CanHaveFocus(*at->control)) continue;
+    if (best == nullptr || Harm(*at->control) < Harm(*best->control)) best = &*at;
   }
+  return best;
+}
+
+// What one Enter or Space too many would do in a control.
+int Binding::Harm(const Control& control) {
+  if (control.kind() != ControlKind::kButton) return 0;
+  const bool leaves = &control == screen_->LeaveButton() || &control == screen_->PanelLeaveButton();
+  return leaves ? 2 : 1;
 }
 
 // The toolkit's own choice would follow the places of the widgets, not their order.
 void Binding::BeginFocus() {
   if (screen_ == nullptr || screen_->focus() != nullptr) return;
-  for (const Tied& tied : ties_) {
-    if (tied.widget->CanAcceptFocus()) return tied.widget->SetFocus();
-  }
+  const auto first = std::find_if(ties_.begin(), ties_.end(),
+                                  [](const Tied& tied) { return CanHaveFocus(*tied.control); });
+  if (first == ties_.end()) return;
+  screen_->MoveFocus(first->control);
+  GiveFocus(*first);
 }
 
 void Binding::HoldInput(bool held) {
@@ -106,6 +170,7 @@ void Binding::Release() {
   for (const Tied& tied : ties_) tied.control->Observe(nullptr);
   ties_.clear();
   shows_also_.clear();
+  waiting_.Clear();
   screen_ = nullptr;
 }
 

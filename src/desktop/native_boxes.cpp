@@ -2,6 +2,7 @@
 
 #include <wx/fontdlg.h>
 #include <wx/msgdlg.h>
+#include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
 #include <algorithm>
@@ -43,6 +44,19 @@ bool Has(const Box& box, BoxButton button) {
   return std::find(box.buttons.begin(), box.buttons.end(), button) != box.buttons.end();
 }
 
+// With its answer selected, so that what is typed takes its place. The toolkit puts the answer into
+// the entry once more when the dialog comes up, and with it the cursor in front of it.
+class InputDialog : public wxTextEntryDialog {
+ public:
+  using wxTextEntryDialog::wxTextEntryDialog;
+
+  bool TransferDataToWindow() override {
+    const bool done = wxTextEntryDialog::TransferDataToWindow();
+    m_textctrl->SelectAll();
+    return done;
+  }
+};
+
 }  // namespace
 
 BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
@@ -59,7 +73,7 @@ BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
 }
 
 std::string ShowInputDialog(wxWindow* parent, const InputBox& box) {
-  wxTextEntryDialog dialog(parent, WxText(box.text), WxText(box.title), WxText(box.default_answer));
+  InputDialog dialog(parent, WxText(box.text), WxText(box.title), WxText(box.default_answer));
   return dialog.ShowModal() == wxID_OK ? TextFromWx(dialog.GetValue()) : std::string();
 }
 

@@ -16,7 +16,7 @@ class RunningTimer : public wxTimer {
     Follow();
   }
   void Notify() override {
-    if (control_.on_timer) binding_.Operate(control_.on_timer);
+    if (control_.on_timer) binding_.Operate(control_, control_.on_timer);
   }
 
  private:
@@ -95,7 +95,7 @@ void ScreenPanel::Detach() {
 void ScreenPanel::OnClose(wxCloseEvent& event) {
   if (event.CanVeto()) event.Veto();
   const auto press = [this](Button* button) {
-    if (button != nullptr) binding_.Operate([button] { button->Click(); });
+    if (button != nullptr) binding_.Operate(*button, [button] { button->Click(); });
   };
   if (screen_ != nullptr) press(screen_->PanelLeaveButton());
   if (screen_ != nullptr) press(screen_->LeaveButton());
@@ -103,8 +103,9 @@ void ScreenPanel::OnClose(wxCloseEvent& event) {
 
 // In an open menu Escape closes the menu and not the screen.
 void ScreenPanel::OnCharHook(wxKeyEvent& event) {
+  binding_.RunWaiting();
   const bool leaves = event.GetKeyCode() == WXK_ESCAPE && !menu_is_open_;
-  if (!leaves || !binding_.OperateKey("Escape")) event.Skip();
+  if (!leaves || !binding_.OperateKeySoon("Escape")) event.Skip();
 }
 
 }  // namespace golf

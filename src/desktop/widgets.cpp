@@ -27,7 +27,8 @@ void TieList(Binding& binding, List& control, Widget& widget, wxEventTypeTag<wxC
     widget.SetSelection(control.index());
   });
   widget.Bind(chosen, [&binding, &control](wxCommandEvent& event) {
-    binding.Operate([&control, &event] { control.Select(event.GetSelection()); });
+    const int index = event.GetSelection();
+    binding.OperateSoon(control, [&control, index] { control.Select(index); });
   });
 }
 
@@ -57,7 +58,7 @@ wxButton* MakeButton(Binding& binding, wxWindow* parent, Button& control) {
     if (control.is_default()) button->SetDefault();
   });
   button->Bind(wxEVT_BUTTON, [&binding, &control](wxCommandEvent&) {
-    binding.Operate([&control] { control.Click(); });
+    binding.Operate(control, [&control] { control.Click(); });
   });
   return button;
 }
@@ -69,7 +70,7 @@ wxCheckBox* MakeCheckBox(Binding& binding, wxWindow* parent, CheckBox& control) 
     box->SetValue(control.value());
   });
   box->Bind(wxEVT_CHECKBOX, [&binding, &control](wxCommandEvent& event) {
-    binding.Operate([&control, &event] { control.Choose(event.IsChecked()); });
+    binding.Operate(control, [&control, &event] { control.Choose(event.IsChecked()); });
   });
   return box;
 }
@@ -79,7 +80,7 @@ wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& cont
                                    wxDefaultSize, style);
   binding.Tie(control, *button, [button, &control] { button->SetValue(control.value()); });
   button->Bind(wxEVT_RADIOBUTTON, [&binding, &control](wxCommandEvent&) {
-    binding.Operate([&control] { control.Choose(true); });
+    binding.Operate(control, [&control] { control.Choose(true); });
   });
   return button;
 }
@@ -87,21 +88,16 @@ wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& cont
 wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown) {
   auto* list = new wxListBox(parent, wxID_ANY);
   TieList(binding, control, *list, wxEVT_LISTBOX, shown);
-  // What the screen does comes when the toolkit is done with the key or click, or a button that
-  // gets the focus would be pressed by it as well. One key can come as both events.
-  const auto soon = [list, &binding, &control](std::function<void()> event) {
-    list->CallAfter([&binding, &control, event = std::move(event)] {
-      if (control.IsShown()) binding.Operate(event);
-    });
-  };
-  list->Bind(wxEVT_LISTBOX_DCLICK, [soon, &control](wxCommandEvent&) {
-    if (control.on_double_click) soon(control.on_double_click);
+  // Soon also for the button that gets the focus then: the same key would press it. One key can
+  // come as both events, of which the second one finds the list gone.
+  list->Bind(wxEVT_LISTBOX_DCLICK, [&binding, &control](wxCommandEvent&) {
+    if (control.on_double_click) binding.OperateSoon(control, control.on_double_click);
   });
-  list->Bind(wxEVT_CHAR_HOOK, [soon, &control](wxKeyEvent& event) {
+  list->Bind(wxEVT_CHAR_HOOK, [&binding, &control](wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
     if (!enter || !control.on_key) return event.Skip();
-    soon([&control] { control.on_key("Enter"); });
+    binding.OperateSoon(control, [&control] { control.on_key("Enter"); });
   });
   return list;
 }
@@ -142,7 +138,7 @@ void SelectOnFocus(const Binding& binding, Entry& entry, const TextBox& control)
 template <class Entry>
 void FollowText(Binding& binding, TextBox& control, Entry& entry) {
   entry.Bind(wxEVT_TEXT, [&binding, &control](wxCommandEvent& event) {
-    binding.Operate([&control, &event] { control.Enter(TextFromWx(event.GetString())); });
+    binding.Operate(control, [&] { control.Enter(TextFromWx(event.GetString())); });
   });
 }
 
@@ -199,7 +195,7 @@ wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control
   });
   FollowText(binding, control, *combo);
   combo->Bind(wxEVT_COMBOBOX, [&binding, &control](wxCommandEvent& event) {
-    binding.Operate([&control, &event] { control.Select(event.GetSelection()); });
+    binding.Operate(control, [&control, &event] { control.Select(event.GetSelection()); });
   });
   return combo;
 }
@@ -237,7 +233,7 @@ wxNotebook* MakeTab(Binding& binding, wxWindow* parent, Tab& control) {
     book->ChangeSelection(static_cast<std::size_t>(control.page()));
   });
   book->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, [&binding, &control](wxBookCtrlEvent& event) {
-    binding.Operate([&control, &event] { control.Choose(event.GetSelection()); });
+    binding.Operate(control, [&control, &event] { control.Choose(event.GetSelection()); });
   });
   return book;
 }

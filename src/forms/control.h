@@ -46,6 +46,8 @@ class Control {
   // With everything that holds it.
   bool IsShown() const { return visible_ && (parent_ == nullptr || parent_->ShowsInside(*this)); }
   bool IsUsable() const { return enabled_ && (parent_ == nullptr || parent_->IsUsable()); }
+  // Whether the operator can do anything with it, by whatever means.
+  bool IsReachable() const { return IsShown() && IsUsable(); }
 
   const std::string& tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }

@@ -35,7 +35,7 @@ const std::string* HeadlessHost::NextAnswer(std::string_view title) {
 void HeadlessHost::Press(Screen& screen, std::string_view name) {
   Operate(screen, [&] {
     auto* button = dynamic_cast<Button*>(screen.FindControl(name));
-    if (button == nullptr || !button->IsShown() || !button->IsUsable()) {
+    if (button == nullptr || !button->IsReachable()) {
       throw NumberedError(ErrorNumber::kBadCall, "The button " + std::string(name) + " of " +
                                                      screen.name() + " cannot be pressed.");
     }
@@ -46,9 +46,11 @@ void HeadlessHost::Press(Screen& screen, std::string_view name) {
 bool HeadlessHost::Leave(Screen& screen) {
   bool pressed = false;
   const auto press = [&](const Button* button) {
-    if (button == nullptr || !IsShown(screen) || !button->IsShown() || !button->IsUsable()) return;
-    pressed = true;
-    Operate(screen, [button] { button->Click(); });
+    if (button == nullptr || !IsShown(screen)) return;
+    Operate(screen, *button, [&] {
+      pressed = true;
+      button->Click();
+    });
   };
   press(screen.PanelLeaveButton());
   press(screen.LeaveButton());

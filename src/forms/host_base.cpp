@@ -34,6 +34,10 @@ void HostBase::Operate(Screen& screen, const std::function<void()>& event) {
   Operate(event);
 }
 
+void HostBase::Operate(Screen& screen, const Control& control, const std::function<void()>& event) {
+  if (control.IsReachable()) Operate(screen, event);
+}
+
 void HostBase::Operate(const std::function<void()>& event) {
   if (in_run_) return;
   try {

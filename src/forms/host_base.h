@@ -28,6 +28,8 @@ class HostBase : public ScreenHost {
   // nothing in it takes ends it and goes to ErrorEndsClick. In a run nothing is taken in.
   void Operate(const std::function<void()>& event);
   void Operate(Screen& screen, const std::function<void()>& event);
+  // The same for an event of one control: nothing happens where the operator cannot reach it.
+  void Operate(Screen& screen, const Control& control, const std::function<void()>& event);
 
   // The screen in front, messages apart; null with none.
   Screen* Top() const;

@@ -8,10 +8,9 @@
 namespace golf {
 namespace {
 
-Button* AsUsableButton(Control* control) {
-  const bool usable =
-      control->kind() == ControlKind::kButton && control->IsShown() && control->IsUsable();
-  return usable ? static_cast<Button*>(control) : nullptr;
+const Button* AsReachableButton(const Control* control) {
+  const bool reachable = control->kind() == ControlKind::kButton && control->IsReachable();
+  return reachable ? static_cast<const Button*>(control) : nullptr;
 }
 
 }  // namespace
@@ -63,25 +62,30 @@ Control* Screen::FindControl(std::string_view name) const {
   return nullptr;
 }
 
-bool Screen::OnKey(std::string_view key) {
+const Button* Screen::ButtonOfKey(std::string_view key) const {
   constexpr std::string_view kAlt = "ALT+";
   const std::string pressed = UpperCase(key);
-  for (Control* control : controls_) {
-    Button* button = AsUsableButton(control);
+  for (const Control* control : controls_) {
+    const Button* button = AsReachableButton(control);
     if (button == nullptr) continue;
     const bool mnemonic = pressed.size() == kAlt.size() + 1 && pressed.starts_with(kAlt) &&
                           MnemonicOf(button->caption()) == pressed.back();
     if (mnemonic || (button->is_default() && pressed == "ENTER") ||
         (button->is_cancel() && pressed == "ESCAPE")) {
-      button->Click();
-      return true;
+      return button;
     }
   }
-  return false;
+  return nullptr;
+}
+
+bool Screen::OnKey(std::string_view key) {
+  const Button* button = ButtonOfKey(key);
+  if (button != nullptr) button->Click();
+  return button != nullptr;
 }
 
 void Screen::MoveFocus(Control* control) {
-  if (control == focus_) return;
+  if (control == focus_ || (control != nullptr && !control->IsReachable())) return;
   Control* left = std::exchange(focus_, control);
   if (left != nullptr && left->on_leave) left->on_leave();
   if (focus_ == control && control != nullptr && control->on_enter) control->on_enter();

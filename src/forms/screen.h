@@ -62,8 +62,11 @@ class Screen : public std::enable_shared_from_this<Screen> {
   // After a run of this screen has ended with an error and all files were closed: opens again what
   // OnLoad opens.
   virtual void OpenAgain() {}
-  // A key that no control has taken, such as "Insert" or "Alt+N". True if the screen takes it.
-  virtual bool OnKey(std::string_view key);
+  // A key that no control has taken, such as "Escape" or "Alt+N": the button that it presses, null
+  // with none.
+  const Button* ButtonOfKey(std::string_view key) const;
+  // Presses that button. False with none.
+  bool OnKey(std::string_view key);
 
   // The button that leaves the screen, and the one that leaves its open panel; null with none.
   virtual Button* LeaveButton() = 0;
@@ -72,7 +75,8 @@ class Screen : public std::enable_shared_from_this<Screen> {
   // Set for a screen that is a box.
   virtual const TipView* Tip() const { return nullptr; }
 
-  // Where typed keys go; null with no control. Moving it tells the controls left and entered.
+  // Where typed keys go; null with no control. Moving it tells the controls left and entered. A
+  // control that cannot be reached does not get it, but may keep it.
   Control* focus() const { return focus_; }
   void MoveFocus(Control* control);
 

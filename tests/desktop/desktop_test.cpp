@@ -14,6 +14,7 @@
 #include "desktop/desktop_host.h"
 #include "desktop/invocation.h"
 #include "desktop/operator.h"
+#include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
 #include "screens/rosters/load_roster.h"
 #include "screens/tip_box.h"
@@ -52,6 +53,7 @@ class DesktopTest : public testing::Test {
       course.Set<"Name">(name);
       course.Set<"activeflag">(static_cast<std::int16_t>(active));
       course.Set<"HoleNumFlag">(18);
+      course.Set<"TeeName">({1}, "White");
       courses += course.Bytes();
     }
     install.folder.Write("kvdata/kvcrs.dat", courses);
@@ -186,12 +188,34 @@ TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
           "kvcrs.dat\n\nWhat you change in it is changed for Kelvane as well. Close Kelvane "
           "before you go on.\n\nOpen it?");
   user.Do([&] { host.Operate([&] { OpenScreen(state(), host, "CourseTable", "KV"); }); });
+  user.Type("CourseGrid", WXK_DELETE);
+  user.AnswerInput("DELETE COURSE?", "NO", "YES");
+  user.Await("one course", [&] {
+    return dynamic_cast<CourseTable&>(host.Load("CourseTable")).CourseGrid.rows() == 1;
+  });
   user.Press("EditCourseButton");
   user.Press("EditTeeButton");
   user.Press("ActiveTee");
+  auto& tee = dynamic_cast<CourseTee&>(host.Load("CourseTee"));
+  user.Press("FMensRating");
+  user.When(
+      "the rating", [&] { return tee.focus() == &tee.FMensRating; },
+      [&] {
+        for (const char key : {'7', '1', '\t', '1', '1', '3', '\t'}) user.TypeNow(key);
+      });
+  user.When(
+      "the next field", [&] { return tee.focus() == &tee.FLadiesRating; },
+      [&] {
+        EXPECT_EQ(tee.FMensRating.text(), "71.0");
+        EXPECT_EQ(tee.FMensSlope.text(), "113");
+      });
+  user.Press("FTeeName");
+  user.Type("FTeeName", 'x');
+  user.Press("FPar");
+  user.AnswerInput("Change tee name?", "No", "YES");
+  user.Await("the new name", [&] { return tee.FTeeName.text() != "White"; });
   user.Press("FPar");
   user.Type("FPar", '4');
-  auto& tee = Load<CourseTee>(host);
   user.When(
       "the next hole", [&] { return tee.focus() == &tee.FPar[1]; },
       [&] { EXPECT_NE(tee.FParOut.caption(), "0"); });
@@ -238,7 +262,7 @@ TEST_F(DesktopTest, AQuestionIsAnsweredByEnterAndRemembered) {
   EXPECT_EQ(answers, std::vector<std::string>({"NO", "YES", "YES"}));
 }
 
-// Both pickers, a tick in the grid by the keyboard, the run, and the report.
+// Both pickers, ticks in the grid by the mouse and the keyboard, the run, and the report.
 TEST_F(DesktopTest, TransfersGolfers) {
   std::string golfer(2804, ' ');
   Put16(golfer, 0, {1});
@@ -259,14 +283,21 @@ TEST_F(DesktopTest, TransfersGolfers) {
   user.When(
       "the grid",
       [&] { return !host.IsShown("LoadRosters") && Operator::Find("grid1")->IsEnabled(); },
-      [] {
-        auto& grid = dynamic_cast<wxGrid&>(*Operator::Find("grid1"));
-        EXPECT_EQ(grid.GetNumberRows(), 16);
-        grid.SetGridCursor(1, 1);
-        grid.SetFocus();
-      });
+      [] { EXPECT_EQ(dynamic_cast<wxGrid&>(*Operator::Find("grid1")).GetNumberRows(), 16); });
+  const auto await_ticks = [&](const std::string& ticks) {
+    user.Await("the ticks " + ticks, [&, ticks] {
+      const Grid& grid = dynamic_cast<KVtoQB&>(host.Load("KVtoQB")).grid1;
+      return grid.text(2, 1) + grid.text(2, 2) + grid.text(2, 3) == ticks;
+    });
+  };
+  user.PressCell("grid1", 2, 1);
+  await_ticks("101");
+  for (const int key : {WXK_UP, WXK_LEFT, WXK_SPACE}) user.Type("grid1", key);
+  await_ticks("111");
+  user.PressCell("grid1", 0, 1);  // always ticked
   user.Type("grid1", WXK_SPACE);
-  user.Await("the tick", [&] { return Load<KVtoQB>(host).grid1.text(2, 2) == "1"; });
+  user.PressCell("grid1", 2, 1);
+  await_ticks("110");
   user.Press("TransferButton");
   ExpectMessage("CLUB TRANSFERED:\n0 golfers updated.\n1 new golfers added.\n" + wxString('=', 30) +
                 "\n");

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/evtloop.h>
+#include <wx/grid.h>
 #include <wx/msgdlg.h>
+#include <wx/textctrl.h>
+#include <wx/textdlg.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -14,19 +17,44 @@ namespace {
 constexpr int kTick = 5;                       // milliseconds
 constexpr std::chrono::seconds kPatience{60};  // for a slow machine, with sanitizers
 
+wxPoint Middle(const wxRect& place) {
+  return {place.x + place.width / 2, place.y + place.height / 2};
+}
+wxPoint Middle(const wxWindow* widget) {
+  return widget == nullptr ? wxPoint() : Middle(wxRect(widget->GetSize()));
+}
+
+bool CanBeUsed(const wxWindow* widget) { return widget != nullptr && widget->IsEnabled(); }
+
+// The entry of an input box; null in any other dialog.
+wxTextCtrl* EntryOf(wxDialog* dialog) {
+  if (dynamic_cast<wxTextEntryDialog*>(dialog) == nullptr) return nullptr;
+  for (wxWindow* child : dialog->GetChildren()) {
+    if (auto* entry = dynamic_cast<wxTextCtrl*>(child)) return entry;
+  }
+  return nullptr;
+}
+
+bool IsBox(wxDialog* dialog) {
+  return dynamic_cast<wxMessageDialog*>(dialog) != nullptr || EntryOf(dialog) != nullptr;
+}
+
 }  // namespace
 
 Operator::Operator() : deadline_(std::chrono::steady_clock::now() + kPatience) {
   Register();
+  wxEvtHandler::AddFilter(this);
   Start(kTick);
 }
 
-Operator::~Operator() { Unregister(); }
+Operator::~Operator() {
+  wxEvtHandler::RemoveFilter(this);
+  Unregister();
+}
 
 wxWindow* Operator::Find(const std::string& name) {
-  for (wxWindow* window : wxTopLevelWindows) {
-    if (!window->IsShown()) continue;
-    wxWindow* found = wxWindow::FindWindowByName(name, window);
+  for (auto node = wxTopLevelWindows.GetLast(); node != nullptr; node = node->GetPrevious()) {
+    wxWindow* found = wxWindow::FindWindowByName(name, node->GetData());
     if (found != nullptr && found->IsShownOnScreen()) return found;
   }
   return nullptr;
@@ -38,9 +66,8 @@ void Operator::When(std::string what, std::function<bool()> condition,
 }
 
 // The window system has the widget on the display once it feels the pointer.
-bool Operator::PointAt(const std::string& name) {
-  wxWindow* widget = Find(name);
-  if (widget == nullptr || !widget->IsEnabled()) return false;
+bool Operator::PointAt(wxWindow* widget, const wxPoint& place) {
+  if (!CanBeUsed(widget)) return false;
   if (target_ != widget) {
     target_ = widget;
     felt_ = false;
@@ -49,46 +76,86 @@ bool Operator::PointAt(const std::string& name) {
       felt_ = true;
     });
   }
-  if (!felt_) MoveOver(*widget);
+  if (!felt_) MoveTo(*widget, place);
   return felt_;
 }
 
 // Never twice to the same point, which the window system would not tell.
-void Operator::MoveOver(const wxWindow& widget) {
+void Operator::MoveTo(const wxWindow& widget, const wxPoint& place) {
   nudge_ = 1 - nudge_;
-  const wxSize size = widget.GetSize();
-  simulator_.MouseMove(widget.ClientToScreen(wxPoint(size.x / 2 + nudge_, size.y / 2)));
+  simulator_.MouseMove(widget.ClientToScreen(place + wxPoint(nudge_, 0)));
+}
+
+void Operator::Click() {
+  target_ = nullptr;
+  watching_ = true;
+  simulator_.MouseClick();
 }
 
 void Operator::Press(const std::string& name) {
   When(
-      "press " + name, [this, name] { return PointAt(name); },
-      [this] {
-        target_ = nullptr;
-        simulator_.MouseClick();
-      });
+      "press " + name, [this, name] { return PointAt(Find(name), Middle(Find(name))); },
+      [this] { Click(); });
+}
+
+void Operator::PressCell(const std::string& name, int row, int column) {
+  When(
+      "press a cell of " + name,
+      [this, name, row, column] {
+        auto* grid = dynamic_cast<wxGrid*>(Find(name));
+        return grid != nullptr &&
+               PointAt(grid->GetGridWindow(),
+                       grid->CalcScrolledPosition(Middle(grid->CellToRect(row, column))));
+      },
+      [this] { Click(); });
 }
 
 void Operator::Answer(const std::string& title, const std::string& text, int key) {
   When(
-      "box " + title, [this] { return !dialogs_.empty() && dialogs_.back() != nullptr; },
+      "box " + title, [this] { return SeesBox(); },
       [=, this] {
         const auto& box = dynamic_cast<wxMessageDialog&>(*dialogs_.back());
         EXPECT_EQ(box.GetTitle().utf8_string(), title);
         EXPECT_EQ(box.GetMessage().utf8_string(), text);
         TypeNow(key);
       });
-  Await("end of box " + title, [this] { return dialogs_.empty() || dialogs_.back() == nullptr; });
+  AwaitEndOfBox(title);
+}
+
+void Operator::AnswerInput(const std::string& title, const std::string& before,
+                           const std::string& typed) {
+  When(
+      "input box " + title,
+      [this] {
+        const wxTextCtrl* entry = SeesBox() ? EntryOf(dialogs_.back()) : nullptr;
+        return entry != nullptr && entry->HasFocus();
+      },
+      [=, this] {
+        EXPECT_EQ(dialogs_.back()->GetTitle().utf8_string(), title);
+        EXPECT_EQ(EntryOf(dialogs_.back())->GetValue().utf8_string(), before);
+        simulator_.Text(typed.c_str());
+      });
+  When(
+      "the answer " + typed,
+      [=, this] { return EntryOf(dialogs_.back())->GetValue().Contains(typed); },
+      [=, this] {
+        EXPECT_EQ(EntryOf(dialogs_.back())->GetValue().utf8_string(), typed);
+        TypeNow(WXK_RETURN);
+      });
+  AwaitEndOfBox(title);
+}
+
+void Operator::AwaitEndOfBox(const std::string& title) {
+  Await("end of box " + title, [this] { return !SeesBox(); });
 }
 
 void Operator::Type(const std::string& name, int key) {
   When(
-      "type into " + name,
-      [name] {
-        const wxWindow* widget = Find(name);
-        return widget != nullptr && widget->IsEnabled();
-      },
-      [this, key] { TypeNow(key); });
+      "type into " + name, [name] { return CanBeUsed(Find(name)); },
+      [this, key] {
+        watching_ = true;
+        TypeNow(key);
+      });
 }
 
 void Operator::Do(std::function<void()> action) {
@@ -99,7 +166,7 @@ void Operator::Do(std::function<void()> action) {
 void Operator::ClickNow(const std::string& name) {
   const wxWindow* widget = Find(name);
   ASSERT_NE(widget, nullptr) << name;
-  MoveOver(*widget);
+  MoveTo(*widget, Middle(widget));
   simulator_.MouseClick();
 }
 
@@ -128,10 +195,27 @@ void Operator::Notify() {
 
 // A screen's dialog stands as null between the boxes.
 int Operator::Enter(wxDialog* dialog) {
-  dialogs_.push_back(dynamic_cast<wxMessageDialog*>(dialog));
+  EXPECT_FALSE(in_input_) << "a key or the focus opens " << dialog->GetTitle();
+  watching_ = false;
+  dialogs_.push_back(IsBox(dialog) ? dialog : nullptr);
   return wxID_NONE;
 }
 
 void Operator::Exit(wxDialog*) { dialogs_.pop_back(); }
+
+// What is put off runs when the toolkit is done with the event, and this is put off first. The
+// press of a button is an event of its own, also by a key.
+int Operator::FilterEvent(wxEvent& event) {
+  const wxEventType type = event.GetEventType();
+  if (type == wxEVT_BUTTON) watching_ = in_input_ = false;
+  for (const wxEventType input :
+       {wxEventType(wxEVT_CHAR_HOOK), wxEventType(wxEVT_KEY_DOWN), wxEventType(wxEVT_CHAR),
+        wxEventType(wxEVT_SET_FOCUS), wxEventType(wxEVT_KILL_FOCUS)}) {
+    if (type != input || !watching_ || in_input_) continue;
+    in_input_ = true;
+    CallAfter([this] { in_input_ = false; });
+  }
+  return Event_Skip;
+}
 
 }  // namespace golf

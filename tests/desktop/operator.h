@@ -1,5 +1,6 @@
 #pragma once
 
+#include <wx/eventfilter.h>
 #include <wx/modalhook.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
@@ -16,8 +17,9 @@ namespace golf {
 
 // The operator before a real display: a list of steps, each of which waits until it can be done.
 // Mouse and keyboard are those of the window system. Where a step cannot be done in time the whole
-// test program ends, for no window can be left in an orderly way then.
-class Operator : private wxTimer, private wxModalDialogHook {
+// test program ends, for no window can be left in an orderly way then. A window that a step opens
+// before the program has returned from a key or a change of the focus is a failure of the test.
+class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilter {
  public:
   Operator();
   ~Operator() override;
@@ -29,8 +31,13 @@ class Operator : private wxTimer, private wxModalDialogHook {
   }
   // Clicks the widget of this name once it can be seen and used.
   void Press(const std::string& name);
+  // The same for a cell of a grid.
+  void PressCell(const std::string& name, int row, int column);
   // Waits for a message box, expects its title and text, and answers it by a key.
   void Answer(const std::string& title, const std::string& text, int key = WXK_RETURN);
+  // Waits for an input box, expects its title and the answer that stands in it, types another one,
+  // expects that it has taken the place of the first, and presses Enter.
+  void AnswerInput(const std::string& title, const std::string& before, const std::string& typed);
   // Types a key once a widget of this name can be seen and used.
   void Type(const std::string& name, int key);
   // Runs code that may show windows, as an event of its own.
@@ -39,13 +46,14 @@ class Operator : private wxTimer, private wxModalDialogHook {
   // At once, wherever the widget is.
   void ClickNow(const std::string& name);
   void TypeNow(int key) { simulator_.Char(key); }
+  bool SeesBox() const { return !dialogs_.empty() && dialogs_.back() != nullptr; }
 
   // Runs the program until it ends; all steps must be done then.
   void RunProgram();
   // Lets events come until the condition holds.
   void RunUntil(const std::string& what, std::function<bool()> condition);
 
-  // The widget of this name; null if no window shows one.
+  // The widget of this name in the newest window that shows one; null if none does.
   static wxWindow* Find(const std::string& name);
 
  private:
@@ -58,14 +66,19 @@ class Operator : private wxTimer, private wxModalDialogHook {
   void Notify() override;
   int Enter(wxDialog* dialog) override;
   void Exit(wxDialog* dialog) override;
-  bool PointAt(const std::string& name);
-  void MoveOver(const wxWindow& widget);
+  int FilterEvent(wxEvent& event) override;
+  bool PointAt(wxWindow* widget, const wxPoint& place);
+  void MoveTo(const wxWindow& widget, const wxPoint& place);
+  void Click();
+  void AwaitEndOfBox(const std::string& title);
 
   std::deque<Step> steps_;
   std::vector<wxDialog*> dialogs_;
   const wxWindow* target_ = nullptr;  // where the pointer is to go
   bool felt_ = false;
   int nudge_ = 0;
+  bool watching_ = false;  // from a key or a click to what it opens
+  bool in_input_ = false;  // the program handles a key or a change of the focus
   wxUIActionSimulator simulator_;
   std::chrono::steady_clock::time_point deadline_;
 };

@@ -54,9 +54,37 @@ TEST(ControlsTest, NamesKeysAndFocus) {
   EXPECT_TRUE(screen.OnKey("Alt+f"));
   EXPECT_TRUE(screen.OnKey("Enter"));
   EXPECT_FALSE(screen.OnKey("Escape"));
+  screen.Pages.Choose(1);
   screen.MoveFocus(&screen.Name);
   screen.MoveFocus(&screen.Find);
   EXPECT_EQ(screen.pressed, "find ok left ");
+}
+
+// Hidden by itself or by its frame, or disabled: nothing gets to it. The focus that it has stays.
+TEST(ControlsTest, WhatCannotBeReachedHasNoEvents) {
+  TestInstall install;
+  const auto screen = std::make_shared<Sampler>(ScreenContext{install.state(), *install.host});
+  screen->Pages.Choose(1);
+  const auto reached = [&](TextBox& box) {
+    screen->MoveFocus(&screen->Find);
+    screen->MoveFocus(&box);
+    bool ran = false;
+    install.host->Operate(*screen, box, [&] { ran = true; });
+    EXPECT_EQ(screen->focus() == &box, ran);
+    return ran;
+  };
+  EXPECT_TRUE(reached(screen->Name));
+  for (Control* control : std::initializer_list<Control*>{&screen->Name, &screen->Panel}) {
+    control->SetVisible(false);
+    EXPECT_FALSE(reached(screen->Name));
+    control->SetVisible(true);
+    control->SetEnabled(false);
+    EXPECT_FALSE(reached(screen->Name));
+    control->SetEnabled(true);
+  }
+  screen->MoveFocus(&screen->Name);
+  screen->Panel.SetVisible(false);
+  EXPECT_EQ(screen->focus(), &screen->Name);
 }
 
 TEST(ControlsTest, GridCellsLocksAndEvents) {

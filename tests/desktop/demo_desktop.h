@@ -1,0 +1,64 @@
+#pragma once
+
+#include <wx/toplevel.h>
+
+#include <string>
+
+#include "app/application.h"
+#include "app/demo/demo_install.h"
+#include "desktop/desktop_host.h"
+#include "screens/tip_box.h"
+#include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
+#include "stores/quenby/program_class.h"
+#include "support/test_host.h"
+
+namespace golf {
+
+// Answers boxes itself, and lets the test have the windows painted.
+class BoxlessHost : public DesktopHost {
+ public:
+  using DesktopHost::DesktopHost;
+  using DesktopHost::PaintNow;
+
+ protected:
+  BoxButton ShowBox(const Box& box) override { return box.buttons.front(); }
+  std::string ShowInputBox(const InputBox& box) override { return box.default_answer; }
+};
+
+// What an opener has in hand when it opens a screen.
+inline void Prepare(SharedState& state) {
+  state.StoreDataPath = state.QBDataPath;
+  state.Program().OpenMasterFile();
+  state.Program().GetMasterRecord();
+  state.Program().OpenRosterListFile();
+  OpenCourseLibrary(state, *FindCourseLibrary("KV"));
+  state.Course().GetRecord(1);
+}
+
+// The desktop program on the demonstration install.
+template <class Host>
+struct Demo {
+  Demo() {
+    MakeDemoInstall(install.state());
+    install.host.reset();
+    install.state().Now = [this] { return host.Now(); };
+  }
+
+  // Shows a screen alone; its window.
+  wxTopLevelWindow& Show(const std::string& name) {
+    Prepare(install.state());
+    Screen& screen = host.Load(name);
+    if (auto* tip = dynamic_cast<TipBox*>(&screen)) {
+      tip->SetMessageType(TipBox::kModelessNotice);
+      tip->SetMessageText("Text");
+    }
+    host.Show(screen);
+    return dynamic_cast<wxTopLevelWindow&>(*wxTopLevelWindows.GetLast()->GetData());
+  }
+
+  TestInstall install{false};
+  Host host{install.state(), Application::Screens(), Views()};
+};
+
+}  // namespace golf

@@ -1,0 +1,274 @@
+// Every control of every screen, by the events of its own widget: they get through where the
+// operator can reach the control, and nowhere else.
+
+#include <gtest/gtest.h>
+#include <wx/app.h>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "desktop/demo_desktop.h"
+#include "desktop/grid_widget.h"
+#include "desktop/widgets.h"
+
+namespace golf {
+namespace {
+
+using Controls = std::vector<Control*>;
+
+// What an operator can do to a widget, as the toolkit tells it.
+struct Deed {
+  std::string what;
+  std::function<void()> done;
+};
+
+template <class Event>
+void Send(wxWindow& widget, Event event) {
+  event.SetEventObject(&widget);
+  widget.HandleWindowEvent(event);
+  wxTheApp->ProcessPendingEvents();
+}
+
+// With the first item, or a text.
+void SendCommand(wxWindow& widget, const wxEventTypeTag<wxCommandEvent>& type) {
+  wxCommandEvent event(type, widget.GetId());
+  event.SetString("typed");
+  Send(widget, event);
+}
+
+void SendKey(wxWindow& widget, const wxEventTypeTag<wxKeyEvent>& type, int key) {
+  wxKeyEvent event(type);
+  event.m_keyCode = key;
+  Send(widget, event);
+}
+
+void AddCellDeeds(wxGrid& grid, std::vector<Deed>& deeds) {
+  const auto cell = [&grid](const wxEventTypeTag<wxGridEvent>& type, int row) {
+    Send(grid, wxGridEvent(grid.GetId(), type, &grid, row, 0));
+  };
+  deeds.push_back({"row", [cell] { cell(wxEVT_GRID_SELECT_CELL, 1); }});
+  deeds.push_back({"double click", [cell] { cell(wxEVT_GRID_CELL_LEFT_DCLICK, 0); }});
+  deeds.push_back({"text", [&grid] { grid.GetTable()->SetValue(0, 0, "typed"); }});
+  for (int column = 0; column < grid.GetNumberCols(); ++column) {
+    if (grid.GetTable()->GetTypeName(1, column) != wxGRID_VALUE_BOOL) continue;
+    deeds.push_back(
+        {"tick", [&grid, column] {
+           Send(grid, wxGridEvent(grid.GetId(), wxEVT_GRID_CELL_LEFT_CLICK, &grid, 1, column));
+         }});
+  }
+  for (const int key : {WXK_RETURN, WXK_INSERT, WXK_DELETE}) {
+    deeds.push_back(
+        {"key " + std::to_string(key), [&grid, key] { SendKey(grid, wxEVT_KEY_DOWN, key); }});
+  }
+}
+
+std::vector<Deed> DeedsOf(wxWindow& widget) {
+  std::vector<Deed> deeds = {{"focus", [&widget] { Send(widget, wxFocusEvent(wxEVT_SET_FOCUS)); }}};
+  const auto add = [&](const char* what, const wxEventTypeTag<wxCommandEvent>& type) {
+    deeds.push_back({what, [&widget, &type] { SendCommand(widget, type); }});
+  };
+  if (dynamic_cast<wxButton*>(&widget) != nullptr) {
+    wxWindow& window = *wxGetTopLevelParent(&widget);
+    add("click", wxEVT_BUTTON);
+    deeds.push_back({"Escape", [&window] { SendKey(window, wxEVT_CHAR_HOOK, WXK_ESCAPE); }});
+  }
+  if (dynamic_cast<wxCheckBox*>(&widget) != nullptr) add("tick", wxEVT_CHECKBOX);
+  if (dynamic_cast<wxRadioButton*>(&widget) != nullptr) add("click", wxEVT_RADIOBUTTON);
+  if (dynamic_cast<wxListBox*>(&widget) != nullptr) {
+    add("choice", wxEVT_LISTBOX);
+    add("double click", wxEVT_LISTBOX_DCLICK);
+    deeds.push_back({"Enter", [&widget] { SendKey(widget, wxEVT_CHAR_HOOK, WXK_RETURN); }});
+  }
+  if (dynamic_cast<wxComboBox*>(&widget) != nullptr) {  // which may be a choice as well
+    add("choice", wxEVT_COMBOBOX);
+  } else if (dynamic_cast<wxChoice*>(&widget) != nullptr) {
+    add("choice", wxEVT_CHOICE);
+  }
+  if (dynamic_cast<wxTextEntry*>(&widget) != nullptr) add("text", wxEVT_TEXT);
+  if (dynamic_cast<wxNotebook*>(&widget) != nullptr) {
+    deeds.push_back({"page", [&widget] {
+                       Send(widget,
+                            wxBookCtrlEvent(wxEVT_NOTEBOOK_PAGE_CHANGED, widget.GetId(), 0));
+                     }});
+  }
+  if (auto* grid = dynamic_cast<wxGrid*>(&widget)) AddCellDeeds(*grid, deeds);
+  return deeds;
+}
+
+// The control itself, or what holds it and all that holds that.
+const Control& OutermostHolder(const Control& control) {
+  return control.parent() == nullptr ? control : OutermostHolder(*control.parent());
+}
+
+// A screen whose events do nothing but count.
+class CountingScreen {
+ public:
+  CountingScreen(Screen& screen, BoxlessHost& host) : screen_(screen), host_(host) {
+    for (Control* control : screen.controls()) {
+      Count(*control);
+      named_[control->name()].push_back(control);
+    }
+  }
+
+  void TryAll(wxWindow& window) {
+    for (const auto& [name, controls] : named_) {
+      if (!TakesInput(*controls.front())) continue;
+      SCOPED_TRACE(screen_.name() + " " + name);
+      Try(controls, WidgetsNamed(window, name));
+    }
+  }
+  int tried() const { return tried_; }
+
+ private:
+  template <class Event>
+  void Tie(Event& event) {
+    event = [this](auto&&...) { ++ran_; };
+  }
+
+  void Count(Control& control) {
+    Tie(control.on_enter);
+    Tie(control.on_leave);
+    control.on_key = [this](std::string_view) { return ++ran_ > 0; };
+    if (auto* button = dynamic_cast<Button*>(&control)) Tie(button->on_click);
+    if (auto* toggle = dynamic_cast<Toggle*>(&control)) Tie(toggle->on_click);
+    if (auto* text = dynamic_cast<TextBox*>(&control)) Tie(text->on_change);
+    if (auto* tab = dynamic_cast<Tab*>(&control)) Tie(tab->on_click);
+    if (auto* list = dynamic_cast<List*>(&control)) {
+      Tie(list->on_click);
+      Tie(list->on_double_click);
+      list->AddItem("the last");
+    }
+    if (auto* grid = dynamic_cast<Grid*>(&control)) {
+      Tie(grid->on_row_change);
+      Tie(grid->on_double_click);
+      Tie(grid->on_change);
+      grid->SetRows(std::max(grid->rows(), 2));
+    }
+  }
+
+  static bool TakesInput(const Control& control) {
+    constexpr ControlKind kPassive[] = {ControlKind::kLabel, ControlKind::kFrame,
+                                        ControlKind::kTimer};
+    return std::find(std::begin(kPassive), std::end(kPassive), control.kind()) ==
+           std::end(kPassive);
+  }
+
+  static std::vector<wxWindow*> WidgetsNamed(wxWindow& window, const std::string& name) {
+    std::vector<wxWindow*> widgets;
+    for (wxWindow* child : window.GetChildren()) {
+      if (child->GetName() == name) widgets.push_back(child);
+      const auto below = WidgetsNamed(*child, name);
+      widgets.insert(widgets.end(), below.begin(), below.end());
+    }
+    return widgets;
+  }
+
+  // Makes a control reachable, and all that holds it.
+  static void Reach(Control& control) {
+    if (control.parent() != nullptr) Reach(*control.parent());
+    control.SetVisible(true);
+    control.SetEnabled(true);
+    auto* tab = dynamic_cast<Tab*>(control.parent());
+    for (int page = 0; !control.IsShown(); ++page) ASSERT_TRUE(tab->Choose(page));
+  }
+  static void Reach(const Controls& controls) {
+    for (Control* control : controls) Reach(*control);
+  }
+
+  // Where the focus can stay while these come and go.
+  Control& Elsewhere(const Controls& controls) {
+    const auto stays = [&](const auto& named) {
+      const Control& other = *named.second.front();
+      return TakesInput(other) &&
+             std::none_of(controls.begin(), controls.end(), [&](auto* control) {
+               return &OutermostHolder(other) == &OutermostHolder(*control);
+             });
+    };
+    return *std::find_if(named_.begin(), named_.end(), stays)->second.front();
+  }
+
+  // A deed that would leave everything as it is has no event.
+  void Blank() {
+    for (Control* control : screen_.controls()) {
+      if (auto* text = dynamic_cast<TextBox*>(control)) text->SetText("");
+      auto* grid = dynamic_cast<Grid*>(control);
+      if (grid == nullptr) continue;
+      grid->SetActiveRow(1);
+      for (int column = 0; column <= grid->columns(); ++column) grid->SetText(column, 1, "");
+    }
+  }
+
+  // True if the deed has run something, or has moved the focus.
+  bool GetsThrough(const Deed& deed, Control& elsewhere) {
+    Blank();
+    Reach(elsewhere);
+    screen_.MoveFocus(&elsewhere);
+    host_.PaintNow();
+    ran_ = 0;
+    deed.done();
+    return ran_ > 0 || screen_.focus() != &elsewhere;
+  }
+
+  // Escape presses these and no others.
+  void GiveEscapeTo(const Controls& controls) {
+    for (Control* control : screen_.controls()) {
+      auto* button = dynamic_cast<Button*>(control);
+      const bool given = std::find(controls.begin(), controls.end(), control) != controls.end();
+      if (button != nullptr) button->SetCancel(given);
+    }
+  }
+
+  void Try(const Controls& controls, const std::vector<wxWindow*>& widgets) {
+    GiveEscapeTo(controls);
+    Control& elsewhere = Elsewhere(controls);
+    Reach(elsewhere);
+    const bool leaves = controls.front() == screen_.LeaveButton() && !screen_.PanelLeaveButton();
+    for (wxWindow* widget : widgets) {
+      std::vector<Deed> deeds = DeedsOf(*widget);
+      if (leaves) deeds.push_back({"close", [widget] { wxGetTopLevelParent(widget)->Close(); }});
+      for (const Deed& deed : deeds) {
+        SCOPED_TRACE(deed.what);
+        Try(deed, controls, elsewhere);
+      }
+    }
+  }
+
+  void Try(const Deed& deed, const Controls& controls, Control& elsewhere) {
+    Reach(controls);
+    EXPECT_TRUE(GetsThrough(deed, elsewhere));
+    ++tried_;
+    Controls holders;
+    for (const Control* control : controls) {
+      if (control->parent() != nullptr) holders.push_back(control->parent());
+    }
+    for (const Controls& gone : {controls, holders}) {
+      for (void (Control::*set)(bool) : {&Control::SetVisible, &Control::SetEnabled}) {
+        for (Control* control : gone) (control->*set)(false);
+        EXPECT_EQ(GetsThrough(deed, elsewhere), gone.empty());
+        Reach(controls);
+      }
+    }
+  }
+
+  Screen& screen_;
+  BoxlessHost& host_;
+  std::map<std::string, Controls> named_;
+  int ran_ = 0;
+  int tried_ = 0;
+};
+
+TEST(ReachTest, OnlyWhatCanBeReachedHasEvents) {
+  for (const auto& view : Views()) {
+    Demo<BoxlessHost> demo;
+    wxTopLevelWindow& window = demo.Show(view.first);
+    CountingScreen counting(demo.host.Load(view.first), demo.host);
+    counting.TryAll(window);
+    EXPECT_GE(counting.tried(), 6) << view.first;
+  }
+}
+
+}  // namespace
+}  // namespace golf
