@@ -56,6 +56,21 @@ void Yield(long categories) {
   if (wxEventLoopBase* loop = wxEventLoopBase::GetActive()) loop->YieldFor(categories);
 }
 
+// A line for each of the first faults, and how many more there are.
+std::string FaultsText(const std::vector<NumberedError>& faults) {
+  constexpr std::size_t kMostShown = 10;
+  std::string text = faults.size() == 1 ? "The transfer has carried on over a fault:"
+                                        : "The transfer has carried on over " +
+                                              std::to_string(faults.size()) + " faults:";
+  for (std::size_t i = 0; i < std::min(faults.size(), kMostShown); ++i) {
+    text += "\n" + faults[i].description();
+  }
+  if (faults.size() > kMostShown) {
+    text += "\nand " + std::to_string(faults.size() - kMostShown) + " more";
+  }
+  return text;
+}
+
 // The pointer is not busy as long as this lives. Not every system has the toolkit's own class for
 // it.
 class PlainPointer {
@@ -200,6 +215,7 @@ void DesktopHost::SetInRun(bool in_run) {
 void DesktopHost::BeginRun() {
   HostBase::BeginRun();
   told_ = {};
+  faults_before_ = faults().size();
   busy_in_run_.emplace();
   SetInRun(true);
   PaintNow();
@@ -210,6 +226,16 @@ void DesktopHost::EndRun() {
   HostBase::EndRun();
   SetInRun(false);
   busy_in_run_.reset();
+  if (faults().size() > faults_before_) ShowFaultsSoon();
+}
+
+// Behind the run's own boxes. The screen of the run may be gone then, but the menu is not.
+void DesktopHost::ShowFaultsSoon() {
+  std::vector<NumberedError> noted(faults().begin() + static_cast<std::ptrdiff_t>(faults_before_),
+                                   faults().end());
+  windows_.front().panel->window().CallAfter([this, noted = std::move(noted)] {
+    ShowBox({.title = "Faults", .text = FaultsText(noted), .icon = BoxIcon::kWarning});
+  });
 }
 
 // Painting leaves the keys and clicks of the operator waiting. While the run still holds input off

@@ -309,6 +309,24 @@ TEST_F(DesktopTest, TransfersGolfers) {
   EXPECT_EQ(quenby[9 * 1867 + 424], 'C');
 }
 
+// Whom a run has left out is shown behind its report.
+TEST_F(DesktopTest, FaultsThatARunCarriedOnOverAreShown) {
+  std::string golfer(2804, ' ');
+  Put16(golfer, 0, {1});
+  install.folder.Write("kvdata/club.kv5", std::string(781, ' '));
+  install.folder.Write("kvdata/club.kvg", golfer);
+  install.folder.Write("qbdata/KVtoQB.DAT", "0\r\n0\r\n\"Members 001\"\r\n\"club\"\r\n");
+  install.platform->Fail({.only = Operation::kRead, .name = "club.kvg"});
+  user.Press("KVtoQBButton");
+  user.Press("TransferButton");
+  user.Press("OKButton");
+  user.Answer("Faults",
+              "The transfer has carried on over a fault:\nThe golfer at place 1 was left out: " +
+                  state().KVDataPath + "club.kvg failed on purpose.");
+  user.Press("ExitButton");
+  user.RunProgram();
+}
+
 TEST(DesktopHostTest, AScreenWithoutAViewIsAnErrorToTell) {
   TestInstall install;
   install.host.reset();
