@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -117,15 +121,43 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
             std::string::npos);
 }
 
+// Every file of the install, by its path.
+std::map<std::string, std::string> AllFiles(const TempFolder& folder) {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path("i"))) {
+    if (!entry.is_regular_file()) continue;
+    std::ifstream file(entry.path(), std::ios::binary);
+    files[entry.path().string()].assign(std::istreambuf_iterator<char>(file), {});
+  }
+  return files;
+}
+
 TEST_F(CommandLineTest, ReadingChangesNothing) {
-  std::filesystem::remove(folder.Path("i/zddata/9CRSZD.INX"));
+  for (const char* made_by_looking : {"i/zddata/9CRSZD.INX", "i/qbdata/X0001.Q9T"}) {
+    std::filesystem::remove(folder.Path(made_by_looking));
+  }
+  const auto before = AllFiles(folder);
+  for (const std::string words :
+       {"list rosters", "list courses", "list courses --library qb", "list courses --library zd",
+        "list qb-rosters", "list tournaments", "list leagues", "list events --league 00011",
+        "course show 1", "course check --library zd", "results players --tournament 1",
+        "results teams --tournament 1 --round 2",
+        "results custom --tournament 1 --layout \"Two best nets\"", "dump kvdata/kvcrs.dat",
+        "dump qbdata/QBGOLFER.Q9D --csv"}) {
+    for (const char* form : {"", " --json"}) {
+      EXPECT_EQ(Run("--install i " + words + form).code, 0) << words;
+      EXPECT_TRUE(AllFiles(folder) == before) << words;
+    }
+  }
+}
+
+TEST_F(CommandLineTest, ListsCourses) {
   const auto listed = JsonLines(Run("--install i list courses --library zd --json").out);
   ASSERT_EQ(listed.size(), 2u);
   EXPECT_EQ(listed[1],
             nlohmann::json::parse(R"({"number":2,"name":"Millpond Short Nine","holes":"9F","link":0,
               "tees":[{"number":1,"name":"Yellow","abbreviation":"Y"},
                       {"number":2,"name":"Red","abbreviation":"R"}]})"));
-  EXPECT_FALSE(folder.Exists("i/zddata/9CRSZD.INX"));
 }
 
 TEST_F(CommandLineTest, ListsLeaguesAndWhatTheyHaveToPost) {
@@ -177,7 +209,6 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   EXPECT_EQ(lines[0],
             nlohmann::json::parse(R"({"record":1,"NameLF":"Bergstrom, Anna","error":9})"));
   const auto& calder = lines[1];
-  EXPECT_EQ(calder.size(), 48u);
   EXPECT_EQ(calder["TourScoreNet"].size(), 21u);
   EXPECT_EQ(calder["TourScoreNet"][20], "69");
   EXPECT_EQ(calder["TourHoleStrokes"].size(), 18u);
@@ -204,7 +235,6 @@ TEST_F(CommandLineTest, ResultsOfTeams) {
   const std::string results = "--install i --json results ";
   const auto teams = JsonLines(Run(results + "teams --tournament 1 --round 2").out);
   ASSERT_EQ(teams.size(), 3u);
-  EXPECT_EQ(teams[0].size(), 51u);
   EXPECT_EQ(teams[0]["NameofPlayersOnTeam"][1], "Bergstrom, Anna");
   EXPECT_EQ(teams[0]["BestBallNet"]["2"][20], "128");
   EXPECT_EQ(teams[0]["BestTotalXofYGross"]["4"].size(), 3u);

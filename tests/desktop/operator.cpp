@@ -15,7 +15,7 @@ namespace golf {
 namespace {
 
 constexpr int kTick = 5;                       // milliseconds
-constexpr std::chrono::seconds kPatience{60};  // for a slow machine, with sanitizers
+constexpr std::chrono::seconds kPatience{60};  // with one step, on a slow machine with sanitizers
 
 wxPoint Middle(const wxRect& place) {
   return {place.x + place.width / 2, place.y + place.height / 2};
@@ -190,6 +190,7 @@ void Operator::Notify() {
   if (steps_.empty() || !steps_.front().condition()) return;
   const Step step = std::move(steps_.front());
   steps_.pop_front();
+  deadline_ = std::chrono::steady_clock::now() + kPatience;  // of the next step
   step.action();
 }
 

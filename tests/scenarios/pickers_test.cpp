@@ -145,8 +145,7 @@ TEST_F(PickersTest, QuenbyRostersAreKept) {
     Press(manager, "AddEditRosterOK");
     EXPECT_EQ(Column(manager.grid1, 1), "(Show ALL Rosters);Zebra;Zz;");
   });
-  EXPECT_EQ(install.events()[2],
-            "message [Notice] You did not enter a name for your roster. -> OK");
+  EXPECT_TRUE(Told(install, "message [Notice] You did not enter a name for your roster. -> OK"));
   Put16(golfers, 8, {1, 0, 0});
   Put(golfers, 1867 + 4, {std::int32_t{-1}});
   Put16(golfers, 1867 + 8, {0, 0, 0});

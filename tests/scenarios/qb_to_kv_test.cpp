@@ -263,11 +263,11 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
             "2 Scores TO transfer.\r\n2 Scores already transferred.\r\n3 Scores transferred.\r\n"
             "Player 4, A (Round 2 not complete)\r\nPlayer 5, A (No ID# match found)\r\n");
   EXPECT_EQ(captions, "Transfer round #1 scores, Transfer round #2 scores");
-  const auto& events = install.events();
-  EXPECT_EQ(events.at(3),
-            "message [Transfer again?] The score for 'Player 7, A' (round #2) has already been "
-            "transferred.  Do you want to transfer it again? -> No");
-  EXPECT_EQ(events.at(5), "message [Notice] 1 golfers were NOT found. -> OK");
+  EXPECT_TRUE(
+      Told(install,
+           "message [Transfer again?] The score for 'Player 7, A' (round #2) has already been "
+           "transferred.  Do you want to transfer it again? -> No"));
+  EXPECT_TRUE(Told(install, "message [Notice] 1 golfers were NOT found. -> OK"));
 
   install.host->QueueAnswer("Transfer again?", "Yes");
   Run({});  // the first one goes again

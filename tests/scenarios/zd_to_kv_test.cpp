@@ -321,7 +321,7 @@ TEST_F(ZDtoKVTest, RefusalsAndBadInput) {
     install.folder.Write(settings, "\"00011\"\r\n3\r\n\"CLUB\"\r\n");
     install.folder.Write(c.file, c.bytes);
     TransferFromMenu<ZDtoKV>(install, "ZDtoKVButton");
-    EXPECT_TRUE(install.events().at(2).starts_with(c.event));
+    EXPECT_TRUE(ToldBeginning(install, c.event));
     ExpectRoster(SomeRoster());
   }
 }

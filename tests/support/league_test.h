@@ -48,11 +48,6 @@ std::string TransferFromMenu(TestInstall& install, const char* button) {
   return log;
 }
 
-inline bool Told(const TestInstall& install, const std::string& event) {
-  const auto& events = install.listener.events;
-  return std::find(events.begin(), events.end(), event) != events.end();
-}
-
 // Files that a run refuses, and the event that tells of it.
 struct BadInput {
   const char* file;

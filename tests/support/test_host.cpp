@@ -59,6 +59,17 @@ std::string TestInstall::LastMessage() const {
   return message == events.rend() ? "" : *message;
 }
 
+bool Told(const TestInstall& install, const std::string& event) {
+  const auto& events = install.listener.events;
+  return std::find(events.begin(), events.end(), event) != events.end();
+}
+
+bool ToldBeginning(const TestInstall& install, const std::string& beginning) {
+  const auto& events = install.listener.events;
+  return std::any_of(events.begin(), events.end(),
+                     [&](const std::string& event) { return event.starts_with(beginning); });
+}
+
 void ForEachFault(const std::function<bool(int)>& run) {
   constexpr int kMost = 500;  // a run has fewer calls
   for (int nth = 1; nth < kMost; ++nth) {

@@ -63,6 +63,10 @@ class TestInstall {
   std::unique_ptr<Platform> real_;
 };
 
+// Whether an event came, as RecordingListener writes it down; or one that begins so.
+bool Told(const TestInstall& install, const std::string& event);
+bool ToldBeginning(const TestInstall& install, const std::string& beginning);
+
 // The number of the error that ends a click of `action`; 0 if none does.
 template <class Action>
 int ClickErrorOf(Action&& action) {
