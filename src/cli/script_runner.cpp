@@ -37,9 +37,9 @@ bool TakesFocus(const Control& control) {
 // check box a tick for any number but 0.
 std::string CellText(const Grid& grid, int column, const std::string& text) {
   if (grid.cell_type(column) == CellType::kCheckBox) {
-    double number = 0;
-    if (!ReadLeadingNumber(text, number)) throw ScriptError("\"" + text + "\" is no tick.");
-    return number != 0 ? "1" : "0";
+    const auto number = ReadLeadingNumber(text);
+    if (!number) throw ScriptError("\"" + text + "\" is no tick.");
+    return *number != 0 ? "1" : "0";
   }
   if (grid.cell_type(column) != CellType::kDropDown) return text;
   for (const DropDownItem& item : grid.items(column)) {

@@ -166,9 +166,9 @@ std::string FormatDay(DateValue date, std::string_view date_format) {
   return FormatPicture(CivilFromDate(std::trunc(date)), picture);
 }
 
-bool ParseDay(std::string_view text, std::string_view date_format, DateValue& date) {
+std::optional<DateValue> ParseDay(std::string_view text, std::string_view date_format) {
   constexpr std::string_view kElements = "dmy";
-  if (date_format.empty()) return false;
+  if (date_format.empty()) return std::nullopt;
   CivilTime civil;
   text = Trim(text);
   while (!date_format.empty()) {
@@ -176,14 +176,13 @@ bool ParseDay(std::string_view text, std::string_view date_format, DateValue& da
     const bool element = kElements.find(kind) != std::string_view::npos;
     const std::size_t taken =
         element ? ReadDatePart(text, kind, civil) : std::size_t{text.starts_with(kind)};
-    if (taken == 0) return false;
+    if (taken == 0) return std::nullopt;
     text.remove_prefix(taken);
     date_format.remove_prefix(
         element ? std::min(date_format.find_first_not_of(kind), date_format.size()) : 1);
   }
-  if (!text.empty() || !(year(civil.year) / civil.month / civil.day).ok()) return false;
-  date = DateFromCivil(civil);
-  return true;
+  if (!text.empty() || !(year(civil.year) / civil.month / civil.day).ok()) return std::nullopt;
+  return DateFromCivil(civil);
 }
 
 }  // namespace golf

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,8 +38,8 @@ bool IsDate(DateValue date);
 std::string FormatDay(DateValue date, std::string_view date_format);
 
 // Reads a day that is written in a date format: blanks around it, a day or month of one digit and a
-// year of four are taken too, and a year of two lies in 1930 to 2029. False, and `date` as it was,
-// where the text has another form or names no day.
-bool ParseDay(std::string_view text, std::string_view date_format, DateValue& date);
+// year of four are taken too, and a year of two lies in 1930 to 2029. Nothing where the text has
+// another form or names no day.
+std::optional<DateValue> ParseDay(std::string_view text, std::string_view date_format);
 
 }  // namespace golf

@@ -182,24 +182,21 @@ Int RoundTo(double value) {
 
 }  // namespace
 
-double LeadingNumber(std::string_view text) {
-  double value = 0;
-  ReadLeadingNumber(text, value);
-  return value;
-}
+double LeadingNumber(std::string_view text) { return ReadLeadingNumber(text).value_or(0); }
 
-bool ReadLeadingNumber(std::string_view text, double& value) {
+std::optional<double> ReadLeadingNumber(std::string_view text) {
   const std::size_t start = text.find_first_not_of(' ');
-  if (start == std::string_view::npos) return false;
+  if (start == std::string_view::npos) return std::nullopt;
   text.remove_prefix(start);
   const bool negative = text[0] == '-';
   if (negative || text[0] == '+') text.remove_prefix(1);
-  if (text.empty() || !(text[0] == '.' || (text[0] >= '0' && text[0] <= '9'))) return false;
+  const bool begins = !text.empty() && (text[0] == '.' || (text[0] >= '0' && text[0] <= '9'));
   double magnitude = 0;
-  const auto read = std::from_chars(text.data(), text.data() + text.size(), magnitude);
-  if (read.ec != std::errc()) return false;
-  value = negative ? -magnitude : magnitude;
-  return true;
+  if (!begins ||
+      std::from_chars(text.data(), text.data() + text.size(), magnitude).ec != std::errc()) {
+    return std::nullopt;
+  }
+  return negative ? -magnitude : magnitude;
 }
 
 std::optional<std::int64_t> ReadWholeNumber(std::string_view text) {

@@ -10,8 +10,8 @@ namespace golf {
 // The number at the start of a text: blanks before it are passed over, anything behind it is left
 // alone. 0 where there is none, or where it is too large for a double.
 double LeadingNumber(std::string_view text);
-// The same for a caller that must tell no number from 0: false, and `value` as it was.
-bool ReadLeadingNumber(std::string_view text, double& value);
+// The same for a caller that must tell no number from 0.
+std::optional<double> ReadLeadingNumber(std::string_view text);
 
 // The platform's number-to-text form: a blank stands before a number that is not negative.
 std::string NumberText(std::int64_t value);

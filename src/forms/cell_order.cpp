@@ -12,8 +12,10 @@ CellRank RankOf(std::string_view text, SortKind kind, std::string_view date_form
   CellRank rank;
   const bool plus = kind == SortKind::kPlusBelowZero && text.find('+') != std::string_view::npos;
   if (kind != SortKind::kText) {
-    rank.has_value = ParseDay(text, date_format, rank.value) || ReadLeadingNumber(text, rank.value);
-    if (plus) rank.value = -std::abs(rank.value);
+    const auto day = ParseDay(text, date_format);
+    const auto value = day ? day : ReadLeadingNumber(text);
+    rank.has_value = value.has_value();
+    rank.value = plus ? -std::abs(value.value_or(0)) : value.value_or(0);
   }
   if (!rank.has_value) rank.text = (plus ? "-" : "") + UpperCase(text);
   return rank;

@@ -160,7 +160,7 @@ std::string HostBase::Ask(const InputBox& box) {
   return ShowInputBox(box);
 }
 
-Font HostBase::ChooseFont(std::string_view title, const Font& current) {
+Font HostBase::AskForFont(std::string_view title, const Font& current) {
   state_.files.Synchronize();
   return ShowFontChoice(title, current);
 }

@@ -45,7 +45,7 @@ class HostBase : public ScreenHost {
 
   BoxButton Ask(const Box& box) override;
   std::string Ask(const InputBox& box) override;
-  Font ChooseFont(std::string_view title, const Font& current) override;
+  Font AskForFont(std::string_view title, const Font& current) override;
 
   void BeginRun() override { in_run_ = true; }
   void EndRun() override { in_run_ = false; }

@@ -35,7 +35,7 @@ class ScreenHost {
 
   virtual BoxButton Ask(const Box& box) = 0;
   virtual std::string Ask(const InputBox& box) = 0;
-  virtual Font ChooseFont(std::string_view title, const Font& current) = 0;
+  virtual Font AskForFont(std::string_view title, const Font& current) = 0;
 
   virtual void Beep() = 0;
   virtual void SetPointer(Pointer pointer) = 0;

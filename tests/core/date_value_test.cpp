@@ -56,8 +56,8 @@ TEST(DateValue, DaysAreReadInADateFormat) {
       {"", "", ""},
   };
   for (const auto& [text, format, expected] : rows) {
-    DateValue day = 0;
-    EXPECT_EQ(ParseDay(text, format, day) ? FormatDay(day, "yyyy-mm-dd") : "", expected) << text;
+    const auto day = ParseDay(text, format);
+    EXPECT_EQ(day ? FormatDay(*day, "yyyy-mm-dd") : "", expected) << text;
   }
 }
 

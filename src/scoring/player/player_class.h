@@ -21,7 +21,9 @@ namespace golf {
 // place, or where a number is needed that is none. After an error the round is still to be worked
 // out. Files raise the errors of FileTable.
 //
-// Most members make the course of the round current in the shared course object.
+// Most members make the course of the round current in the shared course object, which must be on
+// Quenby's library. A handicap or an index is in strokes, below 0 for a plus golfer; ratings are in
+// strokes, slopes from 55 to 155.
 class PlayerClass : public TournamentPlayers {
  public:
   using TournamentPlayers::TournamentPlayers;

@@ -422,7 +422,7 @@ void XReportsCustomTeamResults::ChooseFontOf(std::size_t i) {
                      .size = RoundToInt16(std::clamp(LeadingNumber(font.size), 1.0, 999.0)),
                      .bold = (font.style & ReportFont::kBold) != 0,
                      .italic = (font.style & ReportFont::kItalic) != 0};
-  const Font chosen = host().ChooseFont("Font", current);
+  const Font chosen = host().AskForFont("Font", current);
   if (chosen == current || !FitsReportLayout(chosen.name)) return;
   font.name = chosen.name;
   font.size = std::to_string(chosen.size);
