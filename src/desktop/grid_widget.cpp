@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+#include "core/while_set.h"
 #include "desktop/control_table.h"
 
 namespace golf {
@@ -44,13 +45,12 @@ class GridView : public wxGrid {
   }
 
   void Follow() {
-    showing_ = true;
+    const WhileSet showing(showing_);
     const bool resized = table_->CatchUp();
     if (resized || !measured_) Measure();
     ColourSelection(HasFocus());
     ShowActiveRow();
     ForceRefresh();
-    showing_ = false;
   }
 
   // The size at which so many rows and all columns are seen.

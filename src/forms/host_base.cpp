@@ -4,23 +4,9 @@
 #include <cmath>
 #include <utility>
 
+#include "core/while_set.h"
+
 namespace golf {
-namespace {
-
-// A screen that a run puts before the operator takes his input, as a box does.
-class InputTaken {
- public:
-  explicit InputTaken(bool& in_run) : in_run_(in_run), before_(std::exchange(in_run, false)) {}
-  InputTaken(const InputTaken&) = delete;
-  InputTaken& operator=(const InputTaken&) = delete;
-  ~InputTaken() { in_run_ = before_; }
-
- private:
-  bool& in_run_;
-  bool before_;
-};
-
-}  // namespace
 
 HostBase::HostBase(SharedState& state, ScreenCatalogue catalogue)
     : state_(state), catalogue_(std::move(catalogue)) {
@@ -118,7 +104,7 @@ void HostBase::ShowModal(Screen& screen) {
   }
   BringUp(screen);
   if (!IsShown(screen)) return;
-  const InputTaken taken(in_run_);
+  const WhileSet takes_input(in_run_, false);  // as a box does
   RunModal(screen);
 }
 

@@ -7,6 +7,7 @@
 #include "core/file_name.h"
 #include "core/number_text.h"
 #include "core/text.h"
+#include "core/while_set.h"
 #include "scoring/open_tournament.h"
 #include "scoring/player/player_class.h"
 #include "scoring/team/team_class.h"
@@ -82,9 +83,14 @@ void TeamResults::OnActivate() {
 void TeamResults::Begin() {
   unchanged_.emplace(state().files.gate());
   if (!OpenActiveTournament()) return host().Unload(*this);
+  TournamentLabel.SetCaption(state().Tournament().Name());
+  FillLists();
+  LoadStandings();
+}
+
+void TeamResults::FillLists() {
+  const WhileSet loading(loading_);
   TournamentClass& tournament = state().Tournament();
-  TournamentLabel.SetCaption(tournament.Name());
-  loading_ = true;
   LayoutList.AddItem(kTotals);
   for (const std::string& name : ListReportLayouts(state().files, state().StoreDataPath)) {
     LayoutList.AddItem(name);
@@ -93,8 +99,6 @@ void TeamResults::Begin() {
   const int rounds = tournament.RoundCount();
   for (int round = 1; round <= rounds; ++round) RoundList.AddItem(std::to_string(round));
   RoundList.Select(std::clamp(tournament.RoundOr({}), 1, rounds) - 1);
-  loading_ = false;
-  LoadStandings();
 }
 
 // A control file that is not there would come into being.
@@ -128,9 +132,8 @@ void TeamResults::TakeLayout() {
     return;
   }
   host().Ask(Box{.title = "Notice", .text = problem, .icon = BoxIcon::kStop});
-  loading_ = true;
+  const WhileSet loading(loading_);
   LayoutList.Select(0);
-  loading_ = false;
 }
 
 void TeamResults::LoadStandings() {

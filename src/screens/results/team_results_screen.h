@@ -40,6 +40,7 @@ class TeamResults : public Screen {
 
  private:
   void Begin();
+  void FillLists();
   bool OpenActiveTournament();
   void TakeLayout();
   void LoadStandings();
