@@ -23,21 +23,20 @@ std::string LayoutsThereAre(SharedState& state) {
   return "Layouts: " + (names.empty() ? "none" : names) + ".";
 }
 
-ReportLayout ReadLayout(ResultsRun& run) {
-  ReportLayout layout;
-  std::string problem;
-  const std::string path =
-      run.state.StoreDataPath + TextFromUtf8(run.request.layout) + std::string(kLayoutExtension);
+ReportLayout LayoutOf(ResultsRun& run) {
   if (!FitsFileName(TextFromUtf8(run.request.layout))) {
     throw Refusal("There is no layout " + run.request.layout + ".\n" + LayoutsThereAre(run.state));
   }
-  if (!ReadReportLayout(run.state.files, path, layout, problem)) {
-    throw Refusal(PlainText(problem) + "\n" + LayoutsThereAre(run.state));
+  const std::string path =
+      run.state.StoreDataPath + TextFromUtf8(run.request.layout) + std::string(kLayoutExtension);
+  ReadLayout read = ReadReportLayout(run.state.files, path);
+  if (!read.layout) {
+    throw Refusal(PlainText(read.problem) + "\n" + LayoutsThereAre(run.state));
   }
-  if (const int replaced = LimitToChoices(layout)) {
+  if (const int replaced = LimitToChoices(*read.layout)) {
     TellProblem(UnknownCodesText(replaced));
   }
-  return layout;
+  return *std::move(read.layout);
 }
 
 Json SumsAsJson(const CustomStanding::Sums& sums) {
@@ -58,7 +57,7 @@ Json StandingAsJson(const CustomStanding& standing) {
 }  // namespace
 
 void ShowCustom(ResultsRun& run) {
-  const ReportLayout layout = ReadLayout(run);
+  const ReportLayout layout = LayoutOf(run);
   CustomStandings standings(run.state, layout);
   std::map<int, Json> objects;  // by team
   ForEachTeam(run, [&](int team) {

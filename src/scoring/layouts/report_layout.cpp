@@ -201,24 +201,21 @@ std::string SecondFile(const ReportLayout& layout) {
 
 }  // namespace
 
-bool ReadReportLayout(FileTable& files, const std::string& path, ReportLayout& layout,
-                      std::string& problem) {
-  ReportLayout read;
+ReadLayout ReadReportLayout(FileTable& files, const std::string& path) {
+  ReportLayout layout;
+  // Gives the problem of one file; empty without any.
   const auto read_file = [&](char number, void (*values)(LayoutReader&, ReportLayout&)) {
     const std::string file = path + number;
-    const std::size_t name = file.find_last_of("/\\") + 1;
-    if (!files.FileExists(file)) {
-      problem = "There is no file " + file.substr(name) + ".";
-      return false;
-    }
-    LayoutReader reader(files.ReadText(file), file.substr(name));
-    values(reader, read);
-    problem = reader.problem();
-    return problem.empty();
+    const std::string name = file.substr(file.find_last_of("/\\") + 1);
+    if (!files.FileExists(file)) return "There is no file " + name + ".";
+    LayoutReader reader(files.ReadText(file), name);
+    values(reader, layout);
+    return reader.problem();
   };
-  if (!read_file('1', ReadFirstFile) || !read_file('2', ReadSecondFile)) return false;
-  layout = std::move(read);
-  return true;
+  std::string problem = read_file('1', ReadFirstFile);
+  if (problem.empty()) problem = read_file('2', ReadSecondFile);
+  if (!problem.empty()) return {std::nullopt, problem};
+  return {std::move(layout), ""};
 }
 
 void WriteReportLayout(FileTable& files, const std::string& path, const ReportLayout& layout) {

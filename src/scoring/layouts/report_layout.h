@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -77,11 +78,15 @@ void CopyForward(ReportLayout& layout);
 
 inline constexpr std::string_view kLayoutExtension = ".TR";
 
-// The layout in two files: `path`, which ends in the extension, and behind it "1" and "2". Where
-// they are no layout, `problem` says why and `layout` is as it was: false. Raises the errors of
-// FileTable.
-bool ReadReportLayout(FileTable& files, const std::string& path, ReportLayout& layout,
-                      std::string& problem);
+// A layout that was read, or why there is none.
+struct ReadLayout {
+  std::optional<ReportLayout> layout;
+  std::string problem;  // a sentence for the operator; empty with a layout
+};
+
+// The layout in two files: `path`, which ends in the extension, and behind it "1" and "2". Both
+// raise the errors of FileTable.
+ReadLayout ReadReportLayout(FileTable& files, const std::string& path);
 void WriteReportLayout(FileTable& files, const std::string& path, const ReportLayout& layout);
 // Whether a text can stand in these files: they have no way to write a quote or the end of a line.
 bool FitsReportLayout(std::string_view text);

@@ -205,15 +205,14 @@ void XReportsCustomTeamResults::MakeNewLayout() {
 }
 
 bool XReportsCustomTeamResults::LoadLayout() {
-  std::string problem;
-  ReportLayout layout;
-  const std::string path = state().StoreDataPath + file_name_ + extension_;
-  if (!ReadReportLayout(state().files, path, layout, problem)) {
-    host().Ask(Box{.title = "Notice", .text = problem, .icon = BoxIcon::kStop});
+  ReadLayout read =
+      ReadReportLayout(state().files, state().StoreDataPath + file_name_ + extension_);
+  if (!read.layout) {
+    host().Ask(Box{.title = "Notice", .text = read.problem, .icon = BoxIcon::kStop});
     return false;
   }
-  const int replaced = LimitToChoices(layout);
-  layout_ = std::move(layout);
+  const int replaced = LimitToChoices(*read.layout);
+  layout_ = *std::move(read.layout);
   if (replaced > 0) {
     host().Ask(
         Box{.title = "Notice", .text = UnknownCodesText(replaced), .icon = BoxIcon::kWarning});

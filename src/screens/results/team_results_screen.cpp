@@ -124,14 +124,14 @@ bool TeamResults::OpenActiveTournament() {
 void TeamResults::TakeLayout() {
   layout_ = {};
   if (LayoutList.index() <= 0) return;
-  std::string problem;
-  const std::string path =
-      state().StoreDataPath + LayoutList.text() + std::string(kLayoutExtension);
-  if (ReadReportLayout(state().files, path, layout_, problem)) {
+  ReadLayout read = ReadReportLayout(
+      state().files, state().StoreDataPath + LayoutList.text() + std::string(kLayoutExtension));
+  if (read.layout) {
+    layout_ = *std::move(read.layout);
     LimitToChoices(layout_);
     return;
   }
-  host().Ask(Box{.title = "Notice", .text = problem, .icon = BoxIcon::kStop});
+  host().Ask(Box{.title = "Notice", .text = read.problem, .icon = BoxIcon::kStop});
   const WhileSet loading(loading_);
   LayoutList.Select(0);
 }
