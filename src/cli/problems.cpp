@@ -9,6 +9,16 @@ namespace golf {
 
 void TellProblem(std::string_view text) { std::cerr << PlainText(text) << std::endl; }
 
+std::optional<NumberedError> CloseFiles(FileTable& files) {
+  try {
+    files.CloseAll();
+    return std::nullopt;
+  } catch (const NumberedError& error) {
+    TellProblem(error.Report());
+    return error;
+  }
+}
+
 void TellFaultCount(std::size_t count) {
   if (count == 0) return;
   TellProblem(std::to_string(count) + (count == 1 ? " fault." : " faults."));

@@ -46,7 +46,9 @@ ExitCode RunScript(const Options& options, const std::string& file, bool start_p
     CodeAfterScript(host);
     return ExitCodeOf(ended.error);
   }
-  return CodeAfterScript(host);
+  const auto lost = CloseFiles(application->state().files);
+  const ExitCode code = CodeAfterScript(host);
+  return lost ? ExitCodeOf(*lost) : code;
 }
 
 }  // namespace golf

@@ -120,7 +120,10 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   const auto failed = Work(*application, host, report, command);
   bar.Clear();
   const bool cancelled = IsCancelled(host, command);
-  const ExitCode code = failed ? *failed : ExitCodeAfterRun(host, cancelled);
+  const auto lost = CloseFiles(application->state().files);
+  const ExitCode code = failed ? *failed
+                        : lost ? ExitCodeOf(*lost)
+                               : ExitCodeAfterRun(host, cancelled);
   if (host.run_ended_by()) TellProblem(host.run_ended_by()->Report());
   if (cancelled) TellCancelled(host, *command.cancelled_by);
   TellFaultCount(host.faults().size());

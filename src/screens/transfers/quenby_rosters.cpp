@@ -18,10 +18,15 @@ constexpr std::size_t kBlanksBeforeNumber = 25;
 void OpenQuenbyRosters(SharedState& state) {
   ProgramClass& program = state.Program();
   if (!program.OpenMasterFile()) {
+    const std::string master = state.StoreDataPath + "QBMASTER.Q9D";
+    // What is no file has an error of its own.
+    if (!state.files.FileExists(master)) {
+      state.files.platform().Open(master, FileAccess::kReadWriteShared);
+    }
     throw NumberedError(ErrorNumber::kPermissionDenied,
-                        state.StoreDataPath +
-                            "QBMASTER.Q9D cannot be opened: another program holds it, or it "
-                            "may not be written to.");
+                        master +
+                            " cannot be opened: another program holds it, or it may not be "
+                            "written to.");
   }
   program.OpenRosterListFile();
   program.GetMasterRecord();
