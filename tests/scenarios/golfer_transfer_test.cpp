@@ -186,7 +186,7 @@ std::string SomeGolfers() {
 std::string SomePlayers() {
   std::string file;
   for (int i = 1; i <= 9; ++i) file += Player(i == 3 ? 12 : 0);
-  return file + Player(99) + Player(12, 2) + Player(-1) + Player(0) + Player(11, 7) + Player(-5) +
+  return file + Player(-5) + Player(12, 2) + Player(-1) + Player(0) + Player(11, 7) + Player(99) +
          Player(11) + std::string(100, 'y');
 }
 

@@ -15,9 +15,8 @@ namespace {
 class PickersTest : public testing::Test {
  protected:
   template <class AnyScreen>
-  void With(const char* name, const std::function<void(AnyScreen&)>& work, const char* word = "") {
-    install.Open(
-        name, [&](Screen& screen) { work(dynamic_cast<AnyScreen&>(screen)); }, word);
+  void With(const char* name, const std::function<void(AnyScreen&)>& work) {
+    install.Open(name, [&](Screen& screen) { work(dynamic_cast<AnyScreen&>(screen)); });
   }
   void Press(Screen& screen, const char* button) { install.host->Press(screen, button); }
 
@@ -70,13 +69,16 @@ TEST_F(PickersTest, KelvaneRostersAreMadePickedAndDeleted) {
     Press(picker, "OK2Button");
     install.host->QueueAnswer("What kind of roster?", "9");
     Press(picker, "OK2Button");
+    Press(picker, "NewButton");
+    picker.NewRosterName.SetText("Full");
+    Press(picker, "OK2Button");
     EXPECT_EQ(picker.grid1.active_row(), 2);
-    EXPECT_EQ(Column(picker.grid1, 1), "0 hole;9 hole;0 hole;");
-    picker.grid1.SetActiveRow(3);
+    EXPECT_EQ(Column(picker.grid1, 1), "0 hole;18 hole;9 hole;0 hole;");
+    picker.grid1.SetActiveRow(4);
     Press(picker, "DeleteButton");  // the answer was NO
     install.host->QueueAnswer("DELETE Roster?", "y", true);
     Press(picker, "DeleteButton");
-    EXPECT_EQ(Column(picker.grid1, 2), "CUT;NINES;");
+    EXPECT_EQ(Column(picker.grid1, 2), "CUT;FULL;NINES;");
     picker.grid1.SetActiveRow(2);
     Press(picker, "DeleteButton");  // the one in hand: asked again, and the answer was No
     picker.grid1.SetActiveRow(1);
@@ -90,19 +92,14 @@ TEST_F(PickersTest, KelvaneRostersAreMadePickedAndDeleted) {
   }
   EXPECT_EQ(titles,
             "[Load Roster][DELETE Roster][New Roster][New Roster][Notice][Can't Replace Roster]"
-            "[What kind of roster?][Message][What kind of roster?][DELETE Roster?][DELETE Roster?]"
-            "[DELETE Roster?][Delete roster?]");
+            "[What kind of roster?][Message][What kind of roster?][New Roster]"
+            "[What kind of roster?][DELETE Roster?][DELETE Roster?][DELETE Roster?]"
+            "[Delete roster?]");
   for (const char* name : {"old.kv5", "OLD.KVG", "old.kvs", "old.KVX"}) {
     EXPECT_FALSE(install.folder.Exists(std::string("kvdata/") + name)) << name;
   }
   EXPECT_EQ(install.folder.Read("kvdata/Nines.kv5").size(), 781u);
   EXPECT_EQ(install.folder.Read("kvdata/Nines.kv5")[152], 9);
-  With<LoadRoster>(
-      "LoadRoster",
-      [](LoadRoster& picker) {
-        EXPECT_FALSE(picker.NewButton.IsShown() || picker.DeleteButton.IsShown());
-      },
-      "OPENONLY");
 }
 
 TEST_F(PickersTest, QuenbyRostersAreKept) {
@@ -122,10 +119,12 @@ TEST_F(PickersTest, QuenbyRostersAreKept) {
       if (manager.ButtonFrame.visible()) Press(manager, "NewButton");
       EXPECT_FALSE(manager.LoadButton.IsShown() || manager.grid1.IsUsable());
       manager.Text1[0].SetText(name);
-      manager.Text1[4].SetText("555");
+      for (const int line : {3, 4}) manager.Text1[line].SetText(std::to_string(line) + name);
       Press(manager, "AddEditRosterOK");
     }
     EXPECT_EQ(Column(manager.grid1, 0), "-1;2;3;1;");
+    EXPECT_EQ(Column(manager.grid1, 4) + Column(manager.grid1, 5),
+              ";3alpha;3Mid;3Zebra;;4alpha;4Mid;4Zebra;");
     Press(manager, "NewButton");
     Press(manager, "AddRosterCancel");
     EXPECT_EQ(manager.grid1.rows(), 4);
@@ -140,7 +139,7 @@ TEST_F(PickersTest, QuenbyRostersAreKept) {
     Press(manager, "AddRosterCancel");
     manager.grid1.SetActiveRow(2);
     Press(manager, "EditButton");
-    EXPECT_EQ(manager.Text1[0].text(), "Mid");
+    EXPECT_EQ(manager.Text1[0].text() + manager.Text1[4].text(), "Mid4Mid");
     manager.Text1[0].SetText("Zz");
     Press(manager, "AddEditRosterOK");
     EXPECT_EQ(Column(manager.grid1, 1), "(Show ALL Rosters);Zebra;Zz;");

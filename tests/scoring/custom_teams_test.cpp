@@ -145,8 +145,8 @@ TEST_F(CustomTeamsTest, ChoicesOfTheLists) {
 
 TEST_F(CustomTeamsTest, RanksTeams) {
   ReportLayout layout;
-  layout.At(18, 0) = {"12345678", "L1", "NONE"};
-  layout.At(19, 0) = {"12345678", "L1", "NONE"};
+  layout.At(18, 0) = {"10", "L1", "NONE"};  // of the golfers 1 and 10
+  layout.At(19, 0) = {"10", "L12", "NONE"};
   CustomBalls balls(layout);
   const int scores[] = {5, 0, 4, 5, 6};  // on hole 18; the second team has not played
   balls.XBallInitializeTeamGrid(5);
@@ -156,10 +156,10 @@ TEST_F(CustomTeamsTest, RanksTeams) {
       balls.Team(t).At(table, 1, HoleColumn(18)).value = scores[t - 1];
     }
   }
-  balls.PopulateTeamGridwithManualData(5, BallTable::kGross, {std::vector<int>(120, 3)});
+  balls.PopulateTeamGridwithManualData(5, BallTable::kGross, std::vector(10, std::vector(120, 3)));
   balls.XBallConsiderWhichScores(false, {});
   balls.XBallCalculateTeamScore({});
-  EXPECT_EQ(balls.Team(5).Score(SumColumn(2, 4)), 3 + 3);
+  EXPECT_EQ(balls.Team(5).Score(SumColumn(2, 4)), 3 + 6);
   EXPECT_EQ(balls.Team(1).Score(SumColumn(1, 1)), std::nullopt);
   EXPECT_EQ(balls.TiebreakKeys(1, 1, 18, {18, 9, 10})[0], "0005,005,005,05,05");
   EXPECT_EQ(balls.TiebreakKeys(1, 1, 18, {18, 9, 10})[1], "0005,05,00");
@@ -175,10 +175,12 @@ TEST_F(CustomTeamsTest, RanksTeams) {
   EXPECT_EQ(places({.by_flight = true}, 2, 1), "23121");
   EXPECT_EQ(HoleColumn(91) + HoleColumn(0), 0);
   const auto mark = [&](int hole) {
-    return balls.Team(5).At(BallTable::kGross, 1, HoleColumn(hole)).mark;
+    return balls.Team(5).At(BallTable::kGross, 10, HoleColumn(hole)).mark;
   };
-  balls.XBallConsiderWhichScores(false, {.hole = 19});
-  EXPECT_TRUE(mark(18) == BallMark::kNone && mark(19) == BallMark::kGross);
+  balls.XBallConsiderWhichScores(false, {.hole = 18});
+  EXPECT_TRUE(mark(18) == BallMark::kGross && mark(19) == BallMark::kNone);
+  balls.XBallCalculateTeamScore({});
+  EXPECT_EQ(balls.Team(5).Score(SumColumn(2, 4)), 3);
 }
 
 }  // namespace

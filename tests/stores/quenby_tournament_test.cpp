@@ -61,6 +61,17 @@ TEST_F(TournamentTest, GettersMend) {
   }
 }
 
+TEST(TournamentOfFileTest, NumbersHaveFourToNineDigits) {
+  const std::pair<const char*, int> rows[] = {
+      {"x0000.q9c", 0},        {"X999999999.Q9C", 999999999},
+      {"X1000000000.Q9C", -1}, {"X012.Q9C", -1},
+      {"X00012.Q9C", -1},      {"X-001.Q9C", -1},
+      {"X0012.Q9T", -1},       {"", -1}};
+  for (const auto& [name, number] : rows) {
+    EXPECT_EQ(TournamentOfFile(name).value_or(-1), number) << name;
+  }
+}
+
 TEST_F(TournamentTest, DatesOfRounds) {
   Load(ZeroControl());
   state.DateFormat = "dd.mm.yy";
