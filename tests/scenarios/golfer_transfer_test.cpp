@@ -228,7 +228,7 @@ TEST_F(GolferTransferTest, UpdatesTheActiveTournament) {
   std::string entry = Pattern(kEntry), free = Pattern(kEntry);
   Put16(entry, FieldOf<TournamentPlayerLayout, "TourRosterRecordPointer">().offset, {10});
   Put16(free, FieldOf<TournamentPlayerLayout, "TourRosterRecordPointer">().offset, {0});
-  install.folder.Write("qbdata/X0007.Q9G", entry + free);
+  install.folder.Write("qbdata/X0007.Q9G", entry + free + entry);
   install.Restart();
   install.host->QueueAnswer("Update Handicaps?", "yEsterday");
   Run({});
@@ -236,7 +236,7 @@ TEST_F(GolferTransferTest, UpdatesTheActiveTournament) {
     Put(entry, FieldOf<TournamentPlayerLayout, "TourIndex">().offset + 4 * round, {-2.3f});
     Put(entry, FieldOf<TournamentPlayerLayout, "TourGrossHandicap">().offset + 4 * round, {3.0f});
   }
-  EXPECT_TRUE(Holds(install.folder, "qbdata/X0007.Q9G", entry + free));
+  EXPECT_TRUE(Holds(install.folder, "qbdata/X0007.Q9G", entry + free + entry));
   EXPECT_FALSE(install.folder.Exists("kvdata/kvcrs.dat"));
   EXPECT_TRUE(install.LastMessage().ends_with("' handicaps updated. -> OK"));
 }

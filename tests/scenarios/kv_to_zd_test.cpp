@@ -102,7 +102,7 @@ void ExpectLeague(const TestInstall& install, const std::string& players,
 std::vector<Case> Cases() {
   const std::string golfers = Golfer(1, 7, "Sixteen letters!", 10.0f, 2) + Golfer(0, 8, "Free", 1) +
                               Golfer(1, 0, "Nobody", 1) + Golfer(5, 9, "Plus", -2.5f) +
-                              Golfer(1, 9, "Again", 33.3f) + Golfer(1, 77, "Elsewhere", 3);
+                              Golfer(1, 77, "Elsewhere", 3) + Golfer(1, 9, "Again", 33.3f);
   const std::string players = LeaguePlayer(0, "", "") + LeaguePlayer(9, "a", "b") +
                               LeaguePlayer(7, "c", "d") + LeaguePlayer(9, "e", "f") +
                               LeaguePlayer(8, "g", "h");

@@ -49,16 +49,16 @@ TEST_F(CourseTest, CoursesWithoutARecord) {
 TEST_F(CourseTest, TeeListsHoldTheActiveTeesUpToFive) {
   OpenQuenby();
   course().BuildBlankRecord();
-  for (const int tee : {1, 3, 6}) course().SetActiveTees(tee, true);
-  course().SetTeeName(3, "Championship");
-  course().SetTeeNameAbv(3, "\xE9x");
-  course().SetRating(3, 0, 71.25);
-  course().Setslope(3, 0, 1250);
+  for (const int tee : {1, 5, 6}) course().SetActiveTees(tee, true);
+  course().SetTeeName(5, "Championship");
+  course().SetTeeNameAbv(5, "\xE9x");
+  course().SetRating(5, 0, 71.25);
+  course().Setslope(5, 0, 1250);
   course().SaveRecord(1);
   course().GetRecord(1);
   EXPECT_EQ(course().TeeNumberofTees(), 2);
   EXPECT_EQ(course().TeeMensTees(2), "Champio  71.3/1250" + std::string(61, ' ') + "\xC9");
-  EXPECT_EQ(course().TeeLadiesTees(2), "Champio  00.0/113" + std::string(61, ' ') + "\xC9" + "3");
+  EXPECT_EQ(course().TeeLadiesTees(2), "Champio  00.0/113" + std::string(61, ' ') + "\xC9" + "5");
   EXPECT_EQ(course().TeeAllTees(3), std::string(80, ' '));
   EXPECT_EQ(ErrorOf([&] { course().TeeAllTees(6); }), 9);
 }
