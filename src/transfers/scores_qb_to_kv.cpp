@@ -18,8 +18,12 @@ bool IsBackNine(SharedState& state, std::int32_t number, const ResumeNext& next)
   CourseClass course(state);
   // The library is open even where its indexes are not.
   next([&] { OpenCourseLibrary(state, course, kKelvaneCourses); });
-  next([&] { course.GetRecord(number); });
-  return course.HoleNumFlag() == kBackNine;
+  bool back_nine = false;
+  next([&] {
+    course.GetRecord(number);
+    back_nine = course.HoleNumFlag() == kBackNine;
+  });
+  return back_nine;
 }
 
 bool OpenRoster(SharedState& state, const std::string& roster, const ResumeNext& next) {
