@@ -146,6 +146,11 @@ class PosixRunLock : public RunLock {
   Descriptor folder_;  // the system's lock on it goes with it
 };
 
+std::string NameOf(const fs::directory_entry& entry) {
+  const std::string& path = entry.path().native();
+  return path.substr(path.rfind('/') + 1);
+}
+
 // The entry of a folder that has this name in whatever case; of several the first by its bytes, so
 // that all spellings reach the same one.
 std::optional<std::string> FindEntry(const std::string& folder, std::string_view name) {
@@ -153,7 +158,7 @@ std::optional<std::string> FindEntry(const std::string& folder, std::string_view
   std::error_code error;
   fs::directory_iterator entry(folder, error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    const std::string candidate = entry->path().filename();
+    const std::string candidate = NameOf(*entry);
     if (EqualIgnoringCase(TextFromUtf8(candidate), name) && (!found || candidate < *found)) {
       found = candidate;
     }
@@ -268,7 +273,7 @@ class PosixPlatform : public Platform {
     for (; entry != fs::directory_iterator(); entry.increment(error)) {
       std::error_code unknown;
       if (entry->is_regular_file(unknown)) {
-        names.push_back(TextFromUtf8(entry->path().filename().native()));
+        names.push_back(TextFromUtf8(NameOf(*entry)));
       }
     }
     if (error) FailWith(error.value(), native);

@@ -55,8 +55,9 @@ void ScreenRun::Report(const Progress& progress) {
     look_.working->SetCaption(std::string(progress.doing));
   }
   if (look_.count != nullptr) look_.count->SetCaption(std::to_string(progress.done));
-  const std::string shown = look_.working != nullptr ? look_.working->caption() : std::string();
-  host_.Report({progress.done, progress.total, shown});
+  const bool shown = look_.working != nullptr;
+  host_.Report({progress.done, progress.total,
+                shown ? std::string_view(look_.working->caption()) : std::string_view()});
 }
 
 // A run that carries on does not look busy any more, as operators are used to.

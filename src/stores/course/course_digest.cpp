@@ -13,6 +13,7 @@ constexpr Field kActive = FieldOf<CourseLayout, "activeflag">();
 constexpr Field kHoles = FieldOf<CourseLayout, "HoleNumFlag">();
 constexpr Field kName = FieldOf<CourseLayout, "Name">();
 constexpr Field kLink = FieldOf<CourseLayout, "KVCourseNum">();
+constexpr std::int32_t kMostCourses = 32767;  // that an index can name
 constexpr std::size_t kHeadLength = kLink.offset + kLink.width;
 static_assert(kActive.offset < kHeadLength && kHoles.offset < kHeadLength &&
               kName.offset + kName.width < kHeadLength);
@@ -44,6 +45,7 @@ CourseDigest CourseDigests::ReadDigest(std::int32_t record) {
 void CourseDigests::Read(int file_number, std::int32_t length, std::vector<std::int32_t> records) {
   Follow(file_number);
   std::sort(records.begin(), records.end());
+  digests_.reserve(records.size());
   for (const std::int32_t record : records) {
     if (record < 1 || record > length || digests_.contains(record)) continue;
     digests_.emplace(record, ReadDigest(record));
@@ -52,6 +54,7 @@ void CourseDigests::Read(int file_number, std::int32_t length, std::vector<std::
 
 std::vector<std::int32_t> CourseDigests::ReadActive(int file_number, std::int32_t length) {
   Follow(file_number);
+  digests_.reserve(static_cast<std::size_t>(std::min(length, kMostCourses)));
   std::vector<std::int32_t> active;
   for (std::int32_t record = 1; record <= length; ++record) {
     const CourseDigest* held = Find(record);
