@@ -13,8 +13,8 @@
 
 #include "app/application.h"
 #include "scored_install.h"
-#include "scoring/open_tournament.h"
 #include "scoring/layouts/report_layout.h"
+#include "scoring/open_tournament.h"
 #include "scoring/team/team_class.h"
 #include "whole_process.h"
 

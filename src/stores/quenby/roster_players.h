@@ -105,8 +105,8 @@ class RosterPlayers {
   std::string PreferredTime() const;  // "Early", "Middle", "Late" or "None"
   void SetPreferredTime(std::string_view value);
 
-  // In strokes; below 0 for a plus golfer. As text with a plus sign, and with a minus sign, for what
-  // lies below 0.
+  // In strokes; below 0 for a plus golfer. As text with a plus sign, and with a minus sign, for
+  // what lies below 0.
   std::string Index() const;
   std::string IndexValue() const;
   void SetIndex(double value) { player_.Set<"Index">(CheckedSingle(value)); }
