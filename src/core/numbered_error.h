@@ -44,8 +44,8 @@ class NumberedError : public std::exception {
   std::string description_;
 };
 
-// The bytes of a record could not be read: the buffer holds those of another record, or none. A run
-// leaves out whom the record belongs to, and never saves the buffer.
+// The system could not read a record. The buffer then holds the bytes of another record, or none. A
+// run leaves out the golfer whose record it is, and never saves the buffer.
 class ReadError : public NumberedError {
  public:
   explicit ReadError(const NumberedError& cause) : NumberedError(cause) {}

@@ -342,7 +342,8 @@ class PosixPlatform : public Platform {
     if (!S_ISREG(mode)) throw PlatformError(PlatformFault::kIsNoFile, TextFromUtf8(native));
   }
 
-  // Something else may have come into the place of the file meanwhile.
+  // Checks the file again after opening, since another file can have replaced it after the first
+  // check.
   static void CheckOpened(const Descriptor& descriptor, const std::string& native) {
     if (descriptor.get() <= STDERR_FILENO) {
       throw PlatformError(PlatformFault::kIsStandardStream, TextFromUtf8(native));
@@ -395,8 +396,8 @@ std::string Absolute(const std::string& native) {
 
 }  // namespace
 
-// Each is opened the wrong way round, so that using it fails as using a closed one does. The system
-// gives the lowest number that is free.
+// Each closed stream is opened again: input only for writing, output only for reading. Using it
+// then fails, as using a closed stream does. The system assigns the lowest free number.
 void TakeStandardStreams() {
   for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
     if (fcntl(number, F_GETFD) >= 0 || errno != EBADF) continue;

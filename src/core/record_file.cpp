@@ -74,7 +74,7 @@ void RecordFile::Write(std::int64_t record, std::string_view bytes) {
   gate_.WriteRecord(*file_, path_, record, record_length_, bytes);
 }
 
-// Of a file that was only read nothing can be lost.
+// An error in closing a file that was only read is ignored, since no data can be lost.
 void RecordFile::Close() {
   try {
     file_->Close();

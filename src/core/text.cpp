@@ -91,6 +91,11 @@ std::string FullName(std::string_view first, std::string_view last) {
   return std::string(Trim(name));
 }
 
+std::string GolferTitle(std::string_view first, std::string_view last, std::int64_t id) {
+  const std::string name = FullName(first, last);
+  return name.empty() ? "Golfer #" + std::to_string(id) : name;
+}
+
 int CompareIgnoringCase(std::string_view a, std::string_view b) {
   const std::size_t shared = std::min(a.size(), b.size());
   for (std::size_t i = 0; i < shared; ++i) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,8 @@ std::string_view TrimRight(std::string_view text);
 
 // "First Last", both trimmed; one of them alone where the other is blank.
 std::string FullName(std::string_view first, std::string_view last);
+// The full name, or "Golfer #12" for a golfer without a name whose ID number is 12.
+std::string GolferTitle(std::string_view first, std::string_view last, std::int64_t id);
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 

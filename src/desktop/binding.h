@@ -17,8 +17,8 @@ namespace golf {
 // Ties the widgets of one window to the controls of its screen. A control that changes is marked
 // and shown at the next Refresh, so that a run may change it as often as it likes. What the
 // operator does goes through Operate; what comes from a control that is hidden or disabled is
-// refused there, whatever the toolkit made of it. Release cuts all ties: a screen may live longer
-// than its window, and a window, for a moment, longer than its screen.
+// refused there, whatever the toolkit made of it. Release unties all widgets, since a screen
+// can outlive its window and a window can briefly outlive its screen.
 class Binding {
  public:
   using Event = std::function<void()>;

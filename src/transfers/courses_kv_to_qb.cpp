@@ -15,9 +15,8 @@ namespace {
 constexpr int kSource = 10;
 constexpr int kDestination = 11;
 
-// The Quenby records that carry a Kelvane number, as the file stood before the run. A search for a
-// number gives all of them in file order, as a walk over the whole file would, at the cost of a
-// look-up.
+// An index of Quenby's course records by Kelvane number, made before the run changes the file. A
+// search returns the records in file order without reading the file again.
 class CourseLinks {
  public:
   using Link = std::pair<std::int16_t, std::int64_t>;  // Kelvane number, Quenby record

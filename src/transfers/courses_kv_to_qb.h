@@ -7,9 +7,10 @@
 
 namespace golf {
 
-// Copies the whole Kelvane course library into the Quenby one. A course that was copied before is
-// overwritten in place, found by the Kelvane number that it carries; any other is appended. A
-// deleted course is copied as well, so that numbers stay linked.
+// This transfer copies the whole Kelvane course library into Quenby's. Each Quenby course carries
+// the number of the Kelvane course that it was copied from. A course that was copied before is
+// overwritten in place. Any other course is appended. Deleted courses are copied too, so that the
+// numbers stay linked.
 struct CoursesKvToQbRequest {};
 
 struct CoursesKvToQbReport : RunReport {
@@ -17,8 +18,8 @@ struct CoursesKvToQbReport : RunReport {
   std::int16_t updated = 0;  // courses in use that were overwritten
 };
 
-// Stops at the first error. The progress tells the name of a course in use. All files are closed
-// and the shared objects are new in the end.
+// Stops at the first error. The progress tells the name of a course in use. At its
+// end the run closes all files and makes the shared objects anew.
 void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest& request,
          CoursesKvToQbReport& report);
 

@@ -121,9 +121,7 @@ class GolferCopy {
 std::string Log(const GolfersKvToQbRequest& request, const GolfersKvToQbReport& report) {
   std::string log = request.roster + " TRANSFERED:";
   log.append(kReportLineEnd);
-  log.append(std::to_string(report.updated) + " golfers updated.").append(kReportLineEnd);
-  log.append(std::to_string(report.added) + " new golfers added.").append(kReportLineEnd);
-  return log.append(30, '=').append(kReportLineEnd);
+  return log + GolferCountLines(report.updated, report.added);
 }
 
 }  // namespace

@@ -9,8 +9,9 @@
 
 namespace golf {
 
-// Copies the golfers of a Kelvane roster into Quenby's golfer file and onto one of its rosters. A
-// golfer whom Quenby has by ID number is updated, any other is added.
+// This transfer copies the golfers of a Kelvane roster into Quenby's golfer file and onto one of
+// Quenby's rosters. A golfer whose ID number Quenby already has is updated. Any other golfer is
+// added.
 struct GolfersKvToQbRequest {
   std::string roster;      // Kelvane's, without folder or extension
   double destination = 0;  // the number of Quenby's roster; 0 for none
@@ -23,8 +24,9 @@ struct GolfersKvToQbReport : RunReport {
   std::int32_t added = 0;
 };
 
-// Raises the errors of opening the files. From then on it carries on over faults: what could not be
-// set or saved is left as it was, and whoever cannot be read is left out. The files stay open.
+// Raises the errors of opening the files. Once they are open, the run continues after a fault. A
+// value that cannot be set or saved stays as it was. A golfer who cannot be read is left out. The
+// files stay open.
 void Run(SharedState& state, RunHost& host, const GolfersKvToQbRequest& request,
          GolfersKvToQbReport& report);
 

@@ -14,8 +14,8 @@ namespace {
 
 constexpr std::size_t kLeagueInLog = 30;  // characters
 
-// Records of a league by the ID that ties a golfer to Kelvane. No ID changes in a run, so one pass
-// over a file finds what a search for each golfer would.
+// The record number of each league golfer by Kelvane ID number. No ID number changes during a run,
+// so each file is searched only once.
 using RecordsById = std::unordered_map<std::int32_t, std::int32_t>;
 
 // How Kelvane's handicap becomes that of the league.

@@ -8,8 +8,8 @@
 
 namespace golf {
 
-// Carries names, addresses and handicaps of a Kelvane roster's golfers into the records that the
-// same golfers have in a league, for its current event. Nobody is added to the league.
+// This transfer copies names, addresses and handicaps from a Kelvane roster to the same golfers'
+// records in a league, for its current event. It adds no golfers to the league.
 struct GolfersKvToZdRequest {
   std::string roster;       // Kelvane's, without folder or extension
   std::string league;       // its base
@@ -22,7 +22,7 @@ struct GolfersKvToZdReport : RunReport {
   std::int16_t transferred = 0;  // league records; a golfer may have two
 };
 
-// Asks first where the current event has scores already. Whoever cannot be read is left out; any
+// Asks first if the current event already has scores. A golfer who cannot be read is left out. Any
 // other error ends the run. Error 9 for a current event outside 1 to 50.
 void Run(SharedState& state, RunHost& host, const GolfersKvToZdRequest& request,
          GolfersKvToZdReport& report);

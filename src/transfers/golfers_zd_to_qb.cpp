@@ -64,7 +64,7 @@ class GolferCopy {
     const auto& control = state_.Zandel().control;
     std::int32_t players = control.Get<"PlayerFactor1">() * control.Get<"PlayerFactor2">();
     std::int32_t last_substitute = request_.substitutes ? control.Get<"LastSubRecord">() : 0;
-    // Behind the end of a file stands nobody.
+    // No golfers are stored beyond the end of a file.
     const auto limit = [this](std::int32_t& last, int file) {
       last = std::min(last, state_.files.RecordCount<LeaguePlayerLayout>(file));
     };
@@ -182,9 +182,7 @@ class GolferCopy {
 std::string Log(const GolfersZdToQbReport& report) {
   std::string log = " Transfered";
   log.append(kReportLineEnd);
-  log.append(std::to_string(report.updated) + " golfers updated.").append(kReportLineEnd);
-  log.append(std::to_string(report.added) + " new golfers added.").append(kReportLineEnd);
-  return log.append(30, '=').append(kReportLineEnd);
+  return log + GolferCountLines(report.updated, report.added);
 }
 
 }  // namespace

@@ -9,8 +9,9 @@
 
 namespace golf {
 
-// Brings the golfers of a league, and its substitutes if that is wanted, into Quenby's golfer file.
-// A golfer whom Quenby has by name is updated, any other joins the roster chosen.
+// This transfer copies the golfers of a league, and its substitutes on request, into Quenby's
+// golfer file. A golfer whose name Quenby already has is updated. Any other golfer is added to the
+// chosen roster.
 struct GolfersZdToQbRequest {
   std::string league;      // its base
   double destination = 0;  // the number of Quenby's roster; 0 for none
@@ -24,9 +25,9 @@ struct GolfersZdToQbReport : RunReport {
   std::optional<NumberedError> given_up;  // on which the operator ended the run
 };
 
-// Asks whether an operation on a file that fails is to be tried again; otherwise the run ends there
-// and reports what was done. Any other error ends it, such as error 9 for a current event outside 1
-// to 50. All files are closed and the shared objects are new in the end.
+// Asks whether to retry a file operation that failed. Without a retry the run ends, and its
+// report says what was done. Any other error ends the run too, such as error 9 for a current event
+// outside 1 to 50. At its end the run closes all files and makes the shared objects anew.
 void Run(SharedState& state, RunHost& host, const GolfersZdToQbRequest& request,
          GolfersZdToQbReport& report);
 

@@ -12,4 +12,11 @@ void LeaveOut(RunHost& host, RunReport& report, const std::string& who, const Nu
       {static_cast<ErrorNumber>(why.number()), who + " was left out: " + why.description()});
 }
 
+std::string GolferCountLines(std::int32_t updated, std::int32_t added) {
+  std::string lines = std::to_string(updated) + " golfers updated.";
+  lines.append(kReportLineEnd);
+  lines.append(std::to_string(added) + " new golfers added.").append(kReportLineEnd);
+  return lines.append(30, '=').append(kReportLineEnd);
+}
+
 }  // namespace golf

@@ -76,4 +76,8 @@ bool ReadOrLeaveOut(RunHost& host, RunReport& report, Statement&& statement, Who
 
 inline constexpr std::string_view kReportLineEnd = "\r\n";
 
+// Returns the last lines of a report on golfers: how many were updated, how many were added, a
+// rule.
+std::string GolferCountLines(std::int32_t updated, std::int32_t added);
+
 }  // namespace golf

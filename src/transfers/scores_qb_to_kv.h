@@ -9,13 +9,13 @@
 
 namespace golf {
 
-// Posts the scores of a tournament's round into the histories of a Kelvane roster, for the golfers
-// whom both have by ID number.
+// This transfer posts the scores of a tournament round to the score histories of a Kelvane roster.
+// It posts the scores of each golfer whose ID number both have.
 struct ScoresQbToKvRequest {
   std::string roster;  // Kelvane's, without folder or extension
   std::int32_t tournament = 0;
-  TournamentScoreChoice
-      choice;  // whether nines are joined and the course is a back nine is found out
+  // The run itself sets whether nines are joined and whether the course is a back nine.
+  TournamentScoreChoice choice;
 };
 
 struct ScoresQbToKvReport : TournamentScoreReport {

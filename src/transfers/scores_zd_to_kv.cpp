@@ -42,7 +42,7 @@ class ScorePosting {
   bool PostAll() {
     FileTable& files = state_.files;
     const auto players = files.RecordCount<LeaguePlayerLayout>(kLeaguePlayerFile);
-    // Behind the end of the file stands nobody.
+    // No golfers are stored beyond the end of the file.
     const auto last_substitute =
         std::min<std::int32_t>(state_.Zandel().control.Get<"LastSubRecord">(),
                                files.RecordCount<LeaguePlayerLayout>(kLeagueSubstituteFile));

@@ -8,9 +8,9 @@
 
 namespace golf {
 
-// Posts the scores of a league's event, or a batch of its scores apart from events, into the
-// histories of a Kelvane roster. Golfers are matched by their IDs. The league does not change: what
-// has been posted before is told from the history.
+// This transfer posts league scores to the score histories of a Kelvane roster. It posts the scores
+// of one event, or one of the batches that belong to no event. It matches golfers by their ID
+// numbers. The league files do not change: the score history shows which scores were posted before.
 struct ScoresZdToKvRequest {
   std::string roster;  // Kelvane's, without folder or extension
   int batch = 0;       // 1 to 50 an event, 500 more for the scores before it

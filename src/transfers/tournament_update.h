@@ -7,8 +7,8 @@
 
 namespace golf {
 
-// Puts the handicaps and indexes of Quenby's golfers into all seven rounds of a tournament that
-// they are entered for.
+// This run copies the handicaps and indexes of Quenby's golfers to their entries in a tournament,
+// for all seven rounds.
 struct TournamentUpdateRequest {
   std::int32_t tournament = 0;
 };

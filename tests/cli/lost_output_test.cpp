@@ -34,7 +34,7 @@ TEST_F(LostOutputTest, IsToldAndLeavesNothingHalfDone) {
   EXPECT_EQ(Shell("diff -r i expected"), 0);
 }
 
-// Nothing that is printed gets into a data file, whichever streams are missing.
+// Printed text never ends up in a data file, whichever standard streams are closed.
 TEST_F(LostOutputTest, ClosedStreamsAreNoDataFiles) {
   const std::string golfers = " --json golfers-kv-to-qb --roster CLUB18 --to 1 --update-tournament";
   const std::string now = GOLF_CLI " --now '2026-05-13 12:00:00' --install ";

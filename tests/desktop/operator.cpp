@@ -26,7 +26,7 @@ wxPoint Middle(const wxWindow* widget) {
 
 bool CanBeUsed(const wxWindow* widget) { return widget != nullptr && widget->IsEnabled(); }
 
-// The entry of an input box; null in any other dialog.
+// Returns the text control of an input box, or null for any other dialog.
 wxTextCtrl* EntryOf(wxDialog* dialog) {
   if (dynamic_cast<wxTextEntryDialog*>(dialog) == nullptr) return nullptr;
   for (wxWindow* child : dialog->GetChildren()) {

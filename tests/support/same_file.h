@@ -9,9 +9,9 @@
 
 namespace golf {
 
-// Whether a sibling's file holds just these bytes. Where it does not, the failure tells the first
-// differences: record, field, what is there and what is expected. The layout goes by the file's
-// name.
+// Checks that a sibling's file holds exactly the expected bytes. The failure message shows the
+// first differences: record, field, actual value and expected value. The file's name determines its
+// record layout.
 testing::AssertionResult SameFile(std::string_view file_name, const std::string& bytes,
                                   const std::string& expected);
 

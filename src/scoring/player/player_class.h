@@ -22,8 +22,8 @@ namespace golf {
 // out. Files raise the errors of FileTable.
 //
 // Most members make the course of the round current in the shared course object, which must be on
-// Quenby's library. A handicap or an index is in strokes, below 0 for a plus golfer; ratings are in
-// strokes, slopes from 55 to 155.
+// Quenby's library. Handicaps and indexes are in strokes and below 0 for a plus golfer. Ratings are
+// in strokes, slopes from 55 to 155.
 class PlayerClass : public TournamentPlayers {
  public:
   using TournamentPlayers::TournamentPlayers;

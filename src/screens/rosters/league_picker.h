@@ -23,7 +23,7 @@ struct LeaguePickerUse {
   bool pick_gives_escape_back = true;
 };
 
-// Where the operator picks one of Zandel's leagues: a panel that comes up in place of the main one.
+// The panel on which the operator picks one of Zandel's leagues. It replaces the main panel.
 // The screen that owns it adds the panel and, into it, the picker's controls.
 class LeaguePicker {
  public:

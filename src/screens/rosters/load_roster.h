@@ -7,7 +7,7 @@
 
 namespace golf {
 
-// Where the operator picks a Kelvane roster, makes a new one, or deletes one. The pick is in
+// The screen on which the operator picks, makes or deletes a Kelvane roster. The pick is in
 // KVRosterName of the shared state, which keeps its old value if there is none. With the tag
 // "OPENONLY" rosters can only be picked.
 class LoadRoster : public Screen {

@@ -8,10 +8,10 @@
 
 namespace golf {
 
-// Where the operator picks a Quenby roster and keeps the list of them. The roster list of the
-// shared program object is open. The pick is its ActiveRoster, -1 for all rosters, which keeps its
-// old value if there is none. The screen hides when it is left; whoever opened it may have disabled
-// DeleteButton.
+// The screen on which the operator picks a Quenby roster and edits the list of rosters. The roster
+// list of the shared program object is open. The pick is its ActiveRoster, -1 for all rosters,
+// which keeps its old value if there is none. The screen hides when it is left; whoever opened it
+// may have disabled DeleteButton.
 class LoadRosters : public Screen {
  public:
   static constexpr const char* kName = "LoadRosters";

@@ -9,8 +9,9 @@
 
 namespace golf {
 
-// Where the operator chooses a Kelvane roster, a Quenby roster and what of the golfers is copied,
-// and starts the transfer. Afterwards he may have the active tournament updated.
+// The screen on which the operator copies golfers from Kelvane to Quenby. The operator chooses a
+// Kelvane roster, a Quenby roster and the data to copy. After the transfer the screen offers to
+// update the active tournament.
 class KVtoQB : public Screen {
  public:
   static constexpr const char* kName = "KVtoQB";

@@ -113,7 +113,7 @@ void KVtoZD::Transfer() {
   Message.SetText(report.log + std::to_string(report.transferred) + " golfers transferred.");
 }
 
-// What is outside the range stands for all of it.
+// A percentage outside the range counts as the highest.
 int KVtoZD::Percent() const {
   const double entered = std::clamp(LeadingNumber(HandicapPrct.text()), 0.0, 1000.0);
   const int percent = RoundToInt16(entered);

@@ -9,8 +9,8 @@
 
 namespace golf {
 
-// Where the operator chooses a Kelvane roster, a league and what its handicaps are for, and starts
-// the transfer of golfers to the league.
+// The screen on which the operator updates the golfers of a league from a Kelvane roster. The
+// operator chooses the roster, the league and how its handicaps are calculated.
 class KVtoZD : public Screen {
  public:
   static constexpr const char* kName = "KVtoZD";

@@ -12,9 +12,9 @@
 
 namespace golf {
 
-// Where the operator chooses a tournament's round and a Kelvane roster, and starts the transfer of
-// the scores. He sees the course and the tees of the round beside those of Kelvane's library that
-// their names fit best, and may choose others.
+// The screen on which the operator posts the scores of a tournament round to a Kelvane roster. It
+// shows the course and the tees of the round beside those of Kelvane's library that
+// their names fit best. The operator may choose others.
 class QBtoKV : public Screen {
  public:
   static constexpr const char* kName = "QBtoKV";

@@ -19,7 +19,7 @@ void OpenQuenbyRosters(SharedState& state) {
   ProgramClass& program = state.Program();
   if (!program.OpenMasterFile()) {
     const std::string master = state.StoreDataPath + "QBMASTER.Q9D";
-    // What is no file has an error of its own.
+    // A folder or device of that name raises its own error in Open.
     if (!state.files.FileExists(master)) {
       state.files.platform().Open(master, FileAccess::kReadWriteShared);
     }

@@ -8,8 +8,7 @@
 
 namespace golf {
 
-// Where the operator chooses a league and a Quenby roster, and starts the transfer of the league's
-// golfers.
+// The screen on which the operator copies the golfers of a league into a Quenby roster.
 class ZDtoQB : public Screen {
  public:
   static constexpr const char* kName = "ZDtoQB";

@@ -106,8 +106,7 @@ void BuildBlankKVHeader(SharedState& state, std::uint8_t holes) {
 }
 
 std::string KVGolferName(const Record<KelvaneGolferLayout>& golfer) {
-  const std::string name = FullName(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">());
-  return name.empty() ? "Golfer #" + std::to_string(golfer.Get<"IDNum">()) : name;
+  return GolferTitle(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">(), golfer.Get<"IDNum">());
 }
 
 std::int32_t KVGolferPlaces(SharedState& state) {

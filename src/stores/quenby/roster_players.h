@@ -105,8 +105,8 @@ class RosterPlayers {
   std::string PreferredTime() const;  // "Early", "Middle", "Late" or "None"
   void SetPreferredTime(std::string_view value);
 
-  // In strokes; below 0 for a plus golfer. As text with a plus sign, and with a minus sign, for
-  // what lies below 0.
+  // The handicap index in strokes. The index of a plus golfer is below 0: Index() shows it with a
+  // plus sign, IndexValue() with a minus sign.
   std::string Index() const;
   std::string IndexValue() const;
   void SetIndex(double value) { player_.Set<"Index">(CheckedSingle(value)); }

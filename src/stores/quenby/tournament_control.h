@@ -20,8 +20,8 @@ std::string TournamentFileName(std::int32_t tournament, std::string_view extensi
 // The tournament of a control file by its name; nothing for a file that is no tournament's.
 std::optional<std::int32_t> TournamentOfFile(std::string_view name);
 
-// The control record of a tournament, one file at a time in StoreDataPath: the first storey of the
-// tournament, under its statistics. Where a getter is said to mend, it brings the stored value into
+// The control record of a tournament, one file at a time in StoreDataPath. It is the base of the
+// tournament's other classes. Where a getter is said to mend, it brings the stored value into
 // its range in the buffer, and the next save writes it. An index outside its bounds is error 9, a
 // number too large for its field error 6.
 class TournamentControl {
@@ -48,19 +48,19 @@ class TournamentControl {
   void SetName(std::string_view value);
 
   // As decimal text; these mend: rounds 1 to 5, teams 1 to 200, flights 1 to 26, tees 0 to 5.
-  std::string NumRounds() { return MendedText<"NumRounds">(1, 5); }
+  std::string NumRounds() { return std::to_string(RoundCount()); }
   void SetNumRounds(double value) { SetInt16<"NumRounds">(value); }
-  std::string NumTeams() { return MendedText<"NumTeams">(1, kMostTeams); }
+  std::string NumTeams() { return std::to_string(TeamCount()); }
   void SetNumTeams(double value);
-  std::string NumFlights() { return MendedText<"NumFlights">(1, kMostFlights); }
+  std::string NumFlights() { return std::to_string(FlightCount()); }
   void SetNumFlights(double value) { SetInt16<"NumFlights">(value); }
-  std::string NumTeamFlights() { return MendedText<"NumTeamFlights">(1, kMostFlights); }
+  std::string NumTeamFlights() { return std::to_string(Mended<"NumTeamFlights">(1, kMostFlights)); }
   void SetNumTeamFlights(double value) { SetInt16<"NumTeamFlights">(value); }
-  std::string NumTeesMenPlay() { return MendedText<"NumTeesMenPlay">(0, kTeeGroups); }
+  std::string NumTeesMenPlay() { return std::to_string(TeeCount(0)); }
   void SetNumTeesMenPlay(double value) { SetInt16<"NumTeesMenPlay">(value); }
-  std::string NumTeesLadiesPlay() { return MendedText<"NumTeesLadiesPlay">(0, kTeeGroups); }
+  std::string NumTeesLadiesPlay() { return std::to_string(TeeCount(1)); }
   void SetNumTeesLadiesPlay(double value) { SetInt16<"NumTeesLadiesPlay">(value); }
-  // The same as numbers.
+  // These return the same values as numbers, and mend too.
   int RoundCount() { return Mended<"NumRounds">(1, 5); }
   int TeamCount() { return Mended<"NumTeams">(1, kMostTeams); }
   int FlightCount() { return Mended<"NumFlights">(1, kMostFlights); }
@@ -188,10 +188,6 @@ class TournamentControl {
 
   template <FieldName kName>
   int Mended(int low, int high);
-  template <FieldName kName>
-  std::string MendedText(int low, int high) {
-    return std::to_string(Mended<kName>(low, high));
-  }
   template <FieldName kName>
   std::int16_t MendedOption(int low, int high);
   template <FieldName kName>

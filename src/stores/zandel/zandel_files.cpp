@@ -72,8 +72,7 @@ void OpenLeague(SharedState& state, std::string_view base) {
 }
 
 std::string LeagueGolferName(const Record<LeaguePlayerLayout>& player) {
-  const std::string name = FullName(player.Get<"FirstName">(), player.Get<"LastName">());
-  return name.empty() ? "Golfer #" + std::to_string(player.Get<"GolferID">()) : name;
+  return GolferTitle(player.Get<"FirstName">(), player.Get<"LastName">(), player.Get<"GolferID">());
 }
 
 void CloseLeague(SharedState& state) {
