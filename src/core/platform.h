@@ -24,10 +24,11 @@ namespace golf {
 // device stands in the place of a file: none of them is ever waited for.
 
 // Lets its holder change files. Only the ChangeGate can make one, so that no change of a file goes
-// past it.
+// past it, and the HistoryGate, through which held changes are committed.
 class ChangePass {
  private:
   friend class ChangeGate;
+  friend class HistoryGate;
   ChangePass() = default;
 };
 
@@ -35,6 +36,7 @@ enum class FileAccess {
   kReadWriteShared,  // fails with 70 where another program holds the file exclusively
   kDefault,          // as above, but a file that may only be read is opened for reading
   kReadOnly,         // shared, nothing can be written
+  kAlone,            // fails with 70 where anybody else has the file open, in whatever way
 };
 
 // Tells two open files apart, whatever names they were opened by.
@@ -54,7 +56,12 @@ class PlatformFile {
   virtual void WriteAt(ChangePass pass, std::int64_t offset, std::string_view bytes,
                        std::size_t& written) = 0;
   virtual void Truncate(ChangePass pass, std::int64_t length) = 0;
+  // Returns when the bytes written so far, and the length, are on the disk. After an error nothing is
+  // known of bytes that were written since the last Sync: write them again before the next one.
+  virtual void Sync(ChangePass pass) = 0;
   virtual std::int64_t Length() = 0;
+  // False for a file that could be opened for reading only.
+  virtual bool IsWritable() const = 0;
   virtual FileIdentity Identity() const = 0;
   // Ends the use of the file. An error tells that bytes written before may not have reached it; the
   // file is closed all the same. A file that is destroyed open is closed in silence.
@@ -76,6 +83,13 @@ class Platform {
   virtual void Create(ChangePass pass, const std::string& path) = 0;
   virtual void CreateFolder(ChangePass pass, const std::string& path) = 0;
   virtual void Delete(ChangePass pass, const std::string& path) = 0;
+  // Gives a file another path on the same disk, in one step. A file that is there already is
+  // replaced.
+  virtual void Rename(ChangePass pass, const std::string& from, const std::string& to) = 0;
+  // Returns when the names that were created, changed and deleted in a folder are on the disk.
+  virtual void SyncFolder(ChangePass pass, const std::string& folder) = 0;
+  // Makes an empty file outside the install, for this process alone. It is gone when it is closed.
+  virtual std::unique_ptr<PlatformFile> OpenScratch() = 0;
 
   virtual bool FolderExists(const std::string& path) = 0;
   // The names of the normal files in a folder, in no order.
