@@ -8,9 +8,10 @@
 namespace golf {
 
 // The files of a Kelvane roster, and Kelvane's system file. A field named "Setting" with a number
-// is for Kelvane's own use. It gets its default in a new roster and is otherwise left unchanged. A
-// table by sex has index 0 for men and 1 for ladies. Handicaps, indexes and ratings are in strokes.
-// A negative handicap or index is a plus one.
+// is for Kelvane's own use. It gets its default in a new roster and is otherwise left unchanged.
+// Only Setting153 of the header becomes 1 when scores are posted. A table by sex has index 0 for
+// men and 1 for ladies. Handicaps, indexes and ratings are in strokes. A negative handicap or index
+// is a plus one.
 
 inline constexpr int kKelvaneScores = 300;
 inline constexpr std::size_t kKelvaneScoreLength = 49;
