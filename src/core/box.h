@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// A message box as data: a run can ask with it, and every host can show it.
+// A message box as data. A run asks with it and every host can show it.
 
 enum class BoxIcon { kNone, kInformation, kQuestion, kStop, kWarning };
 enum class BoxButton { kOk, kCancel, kYes, kNo, kRetry };
@@ -16,7 +16,7 @@ struct Box {
   std::string text;
   BoxIcon icon = BoxIcon::kNone;
   std::vector<BoxButton> buttons = {BoxButton::kOk};
-  std::size_t default_button = 0;  // the first one where none is named
+  std::size_t default_button = 0;  // index into `buttons`
 };
 
 }  // namespace golf

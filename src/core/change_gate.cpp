@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kMostKept = std::size_t{128} << 10;
 
-// What a reading command sees in place of a file that is not there.
+// Stands in for a missing file while changes are refused.
 class EmptyFile : public PlatformFile {
  public:
   std::size_t ReadAt(std::int64_t, std::span<char>) override { return 0; }
@@ -26,7 +26,7 @@ std::string ReadPart(PlatformFile& file, std::int64_t offset, std::size_t size) 
   return bytes;
 }
 
-// Empty where there is no file.
+// Returns the bytes of the file, none if it cannot be read.
 std::string WholeFile(Platform& platform, const std::string& path) {
   try {
     const auto file = platform.Open(path, FileAccess::kReadOnly);
@@ -52,7 +52,7 @@ std::unique_ptr<PlatformFile> ChangeGate::Open(const std::string& path, FileAcce
 
 void ChangeGate::WriteRecord(PlatformFile& file, const std::string& path, std::int64_t record,
                              std::size_t record_length, std::string_view bytes) {
-  if (refuses_) return;  // what a read has mended stays so in memory
+  if (refuses_) return;  // values that a read corrected stay corrected in memory only
   const std::int64_t offset = (record - 1) * static_cast<std::int64_t>(record_length);
   if (observer_) {
     const auto old_bytes = [&] {
@@ -68,7 +68,7 @@ void ChangeGate::WriteRecord(PlatformFile& file, const std::string& path, std::i
   const FileIdentity identity = file.Identity();
   if (!Follows(identity, offset, record_length, bytes.size())) {
     Settle();
-    kept_.bytes.clear();  // its room is used again
+    kept_.bytes.clear();  // the capacity is used again
     kept_.file = &file;
     kept_.identity = identity;
     kept_.offset = offset;
@@ -97,7 +97,7 @@ void ChangeGate::ReplaceText(const std::string& path, std::string_view text) {
     platform_.Create(ChangePass(), path);
     file = platform_.Open(path, FileAccess::kReadWriteShared);
   }
-  // Cut last: a disk that is full leaves what is there of the old text.
+  // Truncates last, so that a full disk leaves the rest of the old text in place.
   std::size_t written = 0;
   file->WriteAt(ChangePass(), 0, text, written);
   file->Truncate(ChangePass(), static_cast<std::int64_t>(text.size()));
@@ -134,14 +134,14 @@ void ChangeGate::WriteThrough(PlatformFile& file, std::int64_t offset, std::size
   try {
     file.WriteAt(ChangePass(), offset, bytes, written);
   } catch (const NumberedError&) {
-    // A disk that filled up inside a new record leaves its torn start at the end of the file: cut
-    // it off, so that the file ends with the last record that was written whole.
+    // A disk that fills up inside a new record leaves an incomplete record at the end of the file.
+    // It is cut off, so that the file ends with the last whole record.
     const std::int64_t reached = offset + static_cast<std::int64_t>(written);
     const auto torn = static_cast<std::int64_t>(written % record_length);
     try {
       if (torn != 0 && file.Length() == reached) file.Truncate(ChangePass(), reached - torn);
     } catch (const NumberedError&) {
-      // The first error is the one to tell.
+      // The caller gets the first error.
     }
     throw;
   }

@@ -10,55 +10,61 @@
 
 namespace golf {
 
-// One change of one file, as it is about to be made.
+// One change of one file, before it is made.
 struct FileChange {
   enum class Kind { kWriteRecord, kCreateFile, kCreateFolder, kDelete, kReplaceText };
 
   Kind kind;
   std::string path;
-  std::int64_t record = 0;     // from 1; 0 where the change is no record
+  std::int64_t record = 0;     // from 1; 0 if the change is not to a record
   std::string_view new_bytes;  // valid during the call
-  // Reads what stands in that place now; shorter where the file ends there.
+  // Reads the bytes that the change replaces: those of the record, or of the whole file. Returns
+  // fewer where the file ends earlier and none where there is no file. Valid during the call.
   std::function<std::string()> old_bytes;
 };
 
-// The one place through which every change of a file goes.
+// Makes every change of a file. No other code can, since none can make a ChangePass.
 class ChangeGate {
  public:
   using Observer = std::function<void(const FileChange&)>;
 
   explicit ChangeGate(Platform& platform) : platform_(platform) {}
 
-  // Told of each change before it is made. One observer at most; an empty one ends it.
+  // Sets the observer, which is called before each change. There is at most one. An empty one ends
+  // the observation.
   void Observe(Observer observer) { observer_ = std::move(observer); }
 
-  // While changes are refused a record that is written stays as it is, any other change is error
-  // 75, and a file that is not there opens as an empty one that comes into being nowhere.
+  // While changes are refused, WriteRecord writes nothing and raises no error. Any other change
+  // raises error 75. A missing file that is not opened kReadOnly opens as an empty one, and is not
+  // created.
   void RefuseChanges(bool refuse = true) { refuses_ = refuse; }
 
-  // Opens a file; one that is not there is created empty first, unless it is only to be read.
+  // Opens a file. A missing one is created empty first; for kReadOnly it raises error 53.
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access);
 
-  // Writes the bytes of a record; `record_length` is the file's. While writes are joined they may
-  // be kept back and reach the system later, in their order.
+  // Writes `bytes` at the start of a record, numbered from 1, of a file with records of
+  // `record_length` bytes. While writes are joined, they may be kept back and reach the system
+  // later, in their order.
   void WriteRecord(PlatformFile& file, const std::string& path, std::int64_t record,
                    std::size_t record_length, std::string_view bytes);
 
   void Delete(const std::string& path);
   void CreateFolder(const std::string& path);
-  // The file holds just `text` afterwards, whether it was there or not. It is never emptied first.
+  // Makes `text` the whole content of the file. A missing file is created. An existing one is never
+  // emptied first.
   void ReplaceText(const std::string& path, std::string_view text);
 
-  // Joining is for runs that stop at their first error. Ending it writes nothing by itself.
+  // Turns the joining of writes on or off, for runs that stop at their first error. Turning it off
+  // writes nothing by itself.
   void JoinWrites(bool join) { joins_ = join; }
 
-  // Hands every write kept back to the system. After an error nothing is kept any more.
+  // Hands every write kept back to the system. After an error no write is kept back any more.
   void Settle();
-  // The same if any of them is for this file.
+  // Does the same, but only if the writes kept back are for this file.
   void Settle(const FileIdentity& identity);
 
  private:
-  // Writes to neighbouring records of one file.
+  // Writes to consecutive records of one file that are kept back.
   struct KeptWrites {
     PlatformFile* file = nullptr;
     FileIdentity identity;
@@ -80,7 +86,7 @@ class ChangeGate {
   bool refuses_ = false;
 };
 
-// Refuses changes as long as it lives.
+// Refuses changes during its lifetime.
 class RefusedChanges {
  public:
   explicit RefusedChanges(ChangeGate& gate) : gate_(gate) { gate_.RefuseChanges(); }

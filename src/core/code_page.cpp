@@ -7,7 +7,7 @@
 namespace golf {
 namespace {
 
-// Code points of the bytes 0x80 to 0x9F; all others stand for themselves.
+// Code points of the bytes 0x80 to 0x9F. Every other byte equals its code point.
 constexpr std::array<char32_t, 32> kHighCodes = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -40,7 +40,7 @@ char ByteOf(char32_t code) {
 
 struct Decoded {
   char32_t code;
-  std::size_t length;  // 0: no UTF-8 here
+  std::size_t length;  // in bytes; 0 if the text is not UTF-8
 };
 
 Decoded Decode(std::string_view text) {

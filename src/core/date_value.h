@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// Days since 30 December 1899, the fraction being the time of day.
+// Days since 30 December 1899. The fraction is the time of day.
 using DateValue = double;
 
 struct CivilTime {
@@ -18,28 +18,32 @@ struct CivilTime {
   int second = 0;
 };
 
-// Whole days plus seconds / 86400, in double precision.
+// Returns the whole days plus seconds / 86400. Before day 0 the fraction is subtracted instead. The
+// parts must form a valid date and time.
 DateValue DateFromCivil(const CivilTime& civil);
 
-// To the nearest second. The value must be a date: finite, in the years 100 to 9999.
+// Converts to the nearest second. IsDate(date) must be true.
 CivilTime CivilFromDate(DateValue date);
 
-// Reads "YYYY-MM-DD HH:MM:SS". False where the text has another form or names no moment.
+// Reads "YYYY-MM-DD HH:MM:SS". Returns false if the text has another form or is not a valid date
+// and time; `moment` may have changed then.
 bool ParseMoment(std::string_view text, CivilTime& moment);
 
-// `civil` in a regional form: d dd ddd dddd M MM MMM MMMM y yy yyyy h hh H HH m mm s ss t tt, text
-// in single quotes, any other character for itself. Names of days and months are English.
+// Returns `civil` in a regional form. A picture holds the elements d dd ddd dddd M MM MMM MMMM y yy
+// yyyy h hh H HH m mm s ss t tt and text in single quotes. Any other character stands for itself.
+// Names of days and months are English.
 std::string FormatPicture(const CivilTime& civil, std::string_view picture);
 
-// Finite, and in the years 100 to 9999.
+// Returns true if the value is finite and lies in the years 100 to 9999.
 bool IsDate(DateValue date);
 
-// The day of `date` in a date format such as "dd.mm.yy"; empty for a value that is no date.
+// Returns the day of `date` in a date format such as "dd.mm.yy", or an empty text if IsDate(date)
+// is false.
 std::string FormatDay(DateValue date, std::string_view date_format);
 
-// Reads a day that is written in a date format: blanks around it, a day or month of one digit and a
-// year of four are taken too, and a year of two lies in 1930 to 2029. Nothing where the text has
-// another form or names no day.
+// Reads a day written in a date format. Blanks around it, a day or month of one digit and a year of
+// four digits are accepted too. A year of two digits lies in 1930 to 2029. Returns no value if the
+// text has another form or is not a valid day.
 std::optional<DateValue> ParseDay(std::string_view text, std::string_view date_format);
 
 }  // namespace golf

@@ -6,8 +6,9 @@
 
 namespace golf {
 
-// What the program does before its first screen: makes the shared objects, finds out how dates and
-// times are written, and sets the folders from the program's own. No folder is tested here.
+// Prepares the program before its first screen: makes the shared objects, detects how dates and
+// times are written, and sets the folders below the program's own. It does not check that the
+// folders exist.
 void PrepareStart(SharedState& state, const RegionalForms& forms, DateValue now);
 
 }  // namespace golf

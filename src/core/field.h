@@ -12,7 +12,7 @@ namespace golf {
 
 enum class FieldType : std::uint8_t {
   kByte,      // unsigned 8-bit
-  kInt16,     // signed, little-endian, as all numbers are
+  kInt16,     // signed; all numbers are little-endian
   kInt32,     // signed
   kSingle,    // IEEE 754, 4 bytes
   kDouble,    // IEEE 754, 8 bytes
@@ -23,7 +23,7 @@ enum class FieldType : std::uint8_t {
 
 struct FieldTypeInfo {
   std::string_view name;
-  std::size_t width;  // bytes of a value; 0 for text, which has a width of its own
+  std::size_t width;  // bytes of one value; 0 for text, since each text field has its own width
 };
 
 constexpr FieldTypeInfo InfoOf(FieldType type) {
@@ -32,14 +32,14 @@ constexpr FieldTypeInfo InfoOf(FieldType type) {
   return kInfos[static_cast<std::size_t>(type)];
 }
 
-// One index of a table: `base` to `base` + `count` - 1.
+// The range of one index of a table: `base` to `base` + `count` - 1.
 struct Dimension {
   int base = 1;
   int count = 1;
 };
 
-// One field of a record: where its bytes lie and what they mean. A field without a name is bytes
-// that mean nothing to us and are kept as they are.
+// One field of a record: where its bytes lie and what they mean. A field without a name covers
+// bytes whose meaning is unknown. They are kept unchanged.
 struct Field {
   static constexpr std::size_t kMaxRank = 3;
 
@@ -56,10 +56,11 @@ struct Field {
     for (std::size_t i = 0; i < rank; ++i) count *= static_cast<std::size_t>(dimensions[i].count);
     return count;
   }
-  // Bytes of all values.
+  // Returns the number of bytes of all values.
   constexpr std::size_t Size() const { return Count() * width; }
 
-  // The same field as a table of which the first index is stored fastest.
+  // Returns this field as a table with the given indexes. The first index varies fastest in the
+  // record.
   template <class... Dimensions>
   constexpr Field By(Dimensions... given) const {
     static_assert(sizeof...(given) <= kMaxRank);
@@ -74,8 +75,8 @@ struct Field {
     return table;
   }
 
-  // The same field in each of several entries that follow each other, `stride` bytes apart: the
-  // entry is the first index.
+  // Returns this field repeated in each of several entries that lie `stride` bytes apart. The entry
+  // becomes the first index.
   constexpr Field InEach(Dimension entries, std::size_t stride) const {
     Field table = *this;
     for (std::size_t i = rank; i > 0; --i) {
@@ -88,8 +89,8 @@ struct Field {
     return table;
   }
 
-  // Where in the record the value with these indexes starts. Error 9 for an index outside its
-  // bounds, or for as many indexes as the field does not have.
+  // Returns the offset in the record of the value with these indexes. Error 9 for an index out of
+  // its range or for a wrong number of indexes.
   constexpr std::size_t OffsetOf(std::span<const int> indexes) const {
     if (indexes.size() != rank) FailSubscript();
     std::size_t at = offset;
@@ -103,7 +104,7 @@ struct Field {
 
   [[noreturn]] void FailSubscript() const;
 
-  // Where the n-th value starts, n from 0, the last index counting fastest.
+  // Returns the offset of the n-th value, n from 0. The last index varies fastest.
   constexpr std::size_t OffsetOfNth(std::size_t n) const {
     std::size_t at = offset;
     for (std::size_t i = rank; i-- > 0;) {
@@ -146,7 +147,7 @@ constexpr Field KeptBytes(std::size_t offset, std::size_t width) {
   return {"", FieldType::kText, offset, width};
 }
 
-// True if the fields cover the record with no gap and no overlap.
+// Returns true if the fields cover a record of `kLength` bytes with no gap and no overlap.
 template <std::size_t kLength>
 constexpr bool FieldsTile(std::span<const Field> fields) {
   std::array<bool, kLength> covered{};
@@ -164,7 +165,7 @@ constexpr bool FieldsTile(std::span<const Field> fields) {
   return size == kLength;
 }
 
-// A layout as data, for whoever walks records without knowing them.
+// A layout as data, for code that handles records of any layout.
 struct LayoutInfo {
   std::string_view name;
   std::size_t length;
@@ -179,10 +180,11 @@ constexpr LayoutInfo InfoOfLayout() {
 
 using FieldValue = std::variant<std::int64_t, float, double, std::string>;
 
-// The value at `offset` of a record's bytes. Currency comes as the stored integer.
+// Returns the value at `offset` in the bytes of a record. A currency is the stored integer, the
+// amount times 10000. A text keeps its blanks.
 FieldValue ReadFieldValue(const Field& field, std::string_view record, std::size_t offset);
 
-// Sets every value of a field: numbers to `number`, which must fit, texts to blanks.
+// Sets every value of a field: numbers to `number`, texts to blanks. `number` must fit the type.
 void FillField(const Field& field, std::span<char> record, double number);
 
 }  // namespace golf

@@ -9,11 +9,12 @@ namespace {
 
 constexpr std::string_view kRefused = "\\/:*?\"<>|";
 
-// Names that Windows takes for devices, whatever extension follows.
+// Names that Windows reserves for devices, with any extension.
 constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$", "CLOCK$"};
-// These have a digit behind them.
+// Device names that end in one digit.
 constexpr std::string_view kNumberedDevices[] = {"COM", "LPT"};
-constexpr std::string_view kDeviceDigits = "0123456789\xB9\xB2\xB3";  // the last three are raised
+// The last three are superscript digits.
+constexpr std::string_view kDeviceDigits = "0123456789\xB9\xB2\xB3";
 
 bool IsRefused(char c) {
   return static_cast<unsigned char>(c) < ' ' || kRefused.find(c) != std::string_view::npos;

@@ -11,8 +11,8 @@
 namespace golf {
 namespace {
 
-// "*.*" finds every name, one without a dot too. A star that has taken too little takes one more;
-// only the last one needs to be tried again.
+// Returns true if the pattern matches the whole name. "*.*" matches every name, with a dot or not.
+// After a mismatch the last star takes one more character; earlier stars need no second try.
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
   if (pattern == "*.*") return true;
   constexpr std::size_t kNone = std::string_view::npos;
@@ -114,7 +114,7 @@ bool FileTable::FileExists(const std::string& path) {
 }
 
 std::string FileTable::ReadText(const std::string& path) {
-  constexpr std::int64_t kMostBytes = 1 << 20;  // more is no text that this program knows
+  constexpr std::int64_t kMostBytes = 1 << 20;  // no text file of this program is longer
   const int number = FreeNumber();
   Open(number, path, kMostBytes, FileAccess::kReadOnly);
   std::string text(static_cast<std::size_t>(std::min(Length(number), kMostBytes)), '\0');
@@ -124,11 +124,11 @@ std::string FileTable::ReadText(const std::string& path) {
 }
 
 void FileTable::DeleteFile(const std::string& path) {
-  gate_.Settle();  // a fault of other writes is not this deletion's
+  gate_.Settle();  // a failed write must raise its error, unlike a failed deletion
   try {
     gate_.Delete(path);
   } catch (const NumberedError&) {
-    // Whoever deletes looks afterwards whether the file is still there.
+    // The caller checks afterwards whether the file still exists.
   }
 }
 

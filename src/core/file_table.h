@@ -13,8 +13,8 @@
 
 namespace golf {
 
-// All files of the process by their numbers. Fixed numbers lie below 256; a free number is given
-// once and never again, so that one left over from a closed file is error 52 and never another
+// Holds all open files of the process by their numbers. Fixed numbers lie below 256. A free number
+// is given out only once. So the number of a closed file raises error 52 and never reaches another
 // file.
 class FileTable {
  public:
@@ -25,20 +25,22 @@ class FileTable {
 
   int FreeNumber() { return next_free_++; }
 
-  // Opens a random-access file of records of `record_length` bytes; one that is not there is
-  // created empty. A file that has this number is closed first.
+  // Opens a random-access file of records of `record_length` bytes. A missing file is created
+  // empty; for kReadOnly it raises error 53. A file already open under this number is closed first.
   void Open(int number, const std::string& path, std::size_t record_length,
             FileAccess access = FileAccess::kReadWriteShared);
-  // A number that is not open is left alone. Errors as those of a write, where writes may be lost;
-  // the files are closed all the same.
+  // Close one file or all. A number that is not open is ignored. The errors of a write are raised
+  // where written data may be lost; the files are closed all the same.
   void Close(int number);
   void CloseAll();
 
-  // Error 52 in all of these if the number is not open.
-  std::int64_t Length(int number);
-  // Whole records; a torn one at the end does not count.
+  // The members from here to Generation raise error 52 if the number is not open.
+
+  std::int64_t Length(int number);  // in bytes
+  // Returns the number of whole records. An incomplete record at the end does not count.
   std::int64_t CountTruncated(int number, std::size_t record_length);
-  // To the nearest whole number, half to even: a torn record of more than a half counts.
+  // Returns the number of records, rounded to the nearest whole number, half to even. An incomplete
+  // record at the end counts if more than half of it is there.
   std::int64_t CountRounded(int number, std::size_t record_length);
 
   template <class Layout>
@@ -46,6 +48,7 @@ class FileTable {
     return static_cast<std::int32_t>(CountTruncated(number, Layout::kLength));
   }
 
+  // Read or write the start of a record, numbered from 1. Errors as for RecordFile.
   template <class Layout>
   void Read(int number, std::int64_t record, Record<Layout>& into) {
     ReadBytes(number, record, into.MutableBytes());
@@ -57,22 +60,24 @@ class FileTable {
   void ReadBytes(int number, std::int64_t record, std::span<char> into);
   void WriteBytes(int number, std::int64_t record, std::string_view from);
 
-  // Changes when a record that was read before may read differently now.
+  // Returns a number that changes when a record read before may now read differently.
   std::uint64_t Generation(int number) { return At(number).generation(); }
 
-  // True if a search for the name finds a normal file; "*" and "?" in its last part stand for any
-  // characters and any one, and a path that ends in a separator for any name.
+  // Returns true if the path finds a normal file, and false on an error. In the last part of the
+  // path "*" stands for any characters and "?" for any one. A path that ends in a separator finds
+  // any name.
   bool FileExists(const std::string& path);
-  // The normal files of a folder that a pattern of such characters finds, sorted by their names in
-  // capitals.
+  // Returns the names of the normal files in a folder that match a pattern of such characters,
+  // sorted by their names in capitals. Error 76 if the folder is missing.
   std::vector<std::string> FilesLike(const std::string& folder, std::string_view pattern);
-  // The whole of a text file; of a longer one the first megabyte.
+  // Returns the content of a text file, at most its first megabyte. Error 53 if the file is
+  // missing.
   std::string ReadText(const std::string& path);
-  // A failure is swallowed, but not one of writes that were still to be made.
+  // Deletes a file. A failed deletion raises no error, but a failed write that was kept back does.
   void DeleteFile(const std::string& path);
 
-  // The point at which anybody may look at the files: hands joined writes to the system and
-  // forgets what was read ahead. Comes at every box and at the end of every click.
+  // Hands joined writes to the system and forgets all bytes read ahead. Another program may change
+  // or look at the files from here on. Called at every box and at the end of every click.
   void Synchronize();
 
  private:
@@ -84,7 +89,8 @@ class FileTable {
   int next_free_ = 256;
 };
 
-// Joins the writes of a run that stops at its first error, as long as it lives.
+// Joins writes during its lifetime, for a run that stops at its first error. Its end writes
+// nothing: writes kept back then reach the system at the next ChangeGate::Settle.
 class JoinedWrites {
  public:
   explicit JoinedWrites(FileTable& files) : gate_(files.gate()) { gate_.JoinWrites(true); }

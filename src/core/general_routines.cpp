@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kRanks = 18;
 
-// From how many strokes left a hole gets 5, 4, 3 and 2 of them.
+// The smallest numbers of remaining strokes for which a hole gets 5, 4, 3 and 2 of them.
 constexpr std::array<int, 4> kThresholds18 = {73, 55, 37, 19};
 constexpr std::array<int, 4> kThresholds9 = {37, 28, 19, 10};
 

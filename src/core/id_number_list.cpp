@@ -16,7 +16,8 @@ void IdNumberList::Append(std::int32_t id) {
   ++held->second;
   if (id < 1 || id >= next_) return;
   ++passed_;
-  if (held == held_.upper_bound(0) && held->second == 1) Rewind();  // all is counted from it
+  // NextFree counts from the lowest ID, so a new lowest one makes it start again.
+  if (held == held_.upper_bound(0) && held->second == 1) Rewind();
 }
 
 void IdNumberList::Forget(std::int32_t id) {
@@ -32,8 +33,8 @@ void IdNumberList::Rewind() {
   passed_ = 0;
 }
 
-// An entry has a gap before it if it is higher than the first one plus the number of entries before
-// it: an ID that is held twice counts twice.
+// An entry has a gap before it if its ID is above the lowest one plus the number of entries before
+// it. An ID that is in the list twice counts twice.
 std::int32_t IdNumberList::NextFree(std::int32_t highest) {
   const auto first = held_.upper_bound(0);
   if (first == held_.end()) return 1;

@@ -5,25 +5,27 @@
 
 namespace golf {
 
-// IDs in use, and the next free one among them.
+// The IDs in use, from which the next free one is found.
 class IdNumberList {
  public:
   void Clear();
   void Append(std::int32_t id);
-  void AppendNew(std::int32_t id);  // unless it is there
-  // The first entry with this ID becomes 0.
+  void AppendNew(std::int32_t id);  // only if the list lacks it
+  // Sets the first entry with this ID to 0.
   void Forget(std::int32_t id);
   bool Contains(std::int32_t id) const { return held_.contains(id); }
-  // The lowest free ID above the lowest one in use; 1 where it would be above `highest`.
+  // Returns the first free ID above the lowest positive one in use. Each entry counts, so an ID
+  // that is in the list twice hides one free ID. Returns 1 if no positive ID is in use, or if the
+  // result would be above `highest`.
   std::int32_t NextFree(std::int32_t highest);
 
  private:
   void Rewind();
 
-  // How often each ID is in the list: answers as a walk over the sorted entries would.
+  // The number of entries of each ID. NextFree returns what a walk over the sorted entries finds.
   std::map<std::int32_t, int> held_;
-  // A walk for a free ID begins where the last one ended: the IDs above 0 and below `next_`, so
-  // many entries, are in use without a gap.
+  // NextFree continues where its last call ended. The `passed_` entries with IDs above 0 and below
+  // `next_` have no gap among them.
   std::int64_t next_ = 1;
   std::int64_t passed_ = 0;
 };

@@ -6,7 +6,8 @@
 
 namespace golf {
 
-// Numbers of the files at any address. The bytes are turned only on a big-endian machine.
+// Load and store the little-endian numbers of the files. The address need not be aligned. Only a
+// big-endian machine reverses the bytes.
 
 template <class T>
 T LoadLittleEndian(const char* at) {

@@ -12,10 +12,11 @@
 namespace golf {
 namespace {
 
-// Lifts a handicap that a single holds a little too low, such as 12.49999, to its next cent.
+// Is added to a handicap before it is rounded, since a float may hold it slightly too low, such as
+// 12.49999 for 12.5.
 constexpr double kHandicapNudge = 0.00001;
 
-// |value| = 0.digits x 10^point, without leading or trailing zeros; no digits for zero.
+// The number 0.digits x 10^point, without leading or trailing zeros. Zero has no digits.
 struct Decimal {
   std::string digits;
   int point = 0;
@@ -55,7 +56,7 @@ Decimal WholeDecimal(std::uint64_t magnitude) {
   return decimal;
 }
 
-// Keeps `places` digits behind the point, rounding half away from zero.
+// Rounds to `places` digits behind the point, half away from zero.
 void RoundTo(Decimal& decimal, int places) {
   const int kept = decimal.point + places;
   if (kept >= static_cast<int>(decimal.digits.size())) return;
@@ -76,22 +77,22 @@ void RoundTo(Decimal& decimal, int places) {
   DropTrailingZeros(decimal);
 }
 
-char DigitAt(const Decimal& decimal, int place) {  // place 0 is the first one before the point
+char DigitAt(const Decimal& decimal, int place) {  // place 0 holds the units
   const int index = decimal.point - 1 - place;
   const bool held = index >= 0 && index < static_cast<int>(decimal.digits.size());
   return held ? decimal.digits[static_cast<std::size_t>(index)] : '0';
 }
 
-// One section of a pattern, taken apart.
+// One section of a pattern, parsed.
 struct Section {
   std::string before;
   std::string behind;
-  int least_whole = 0;   // digits before the point that are always shown
-  int places = 0;        // digits behind the point at most
-  int least_places = 0;  // and at least
+  int least_whole = 0;   // least number of digits before the point
+  int places = 0;        // greatest number of digits behind the point
+  int least_places = 0;  // least number of digits behind the point
   bool point = false;
   bool grouped = false;
-  bool digits = false;  // shows the number at all
+  bool digits = false;  // false for a section that shows text only
 };
 
 void TakeDigit(Section& section, char mark, bool fraction) {

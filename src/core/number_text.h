@@ -7,20 +7,21 @@
 
 namespace golf {
 
-// The number at the start of a text: blanks before it are passed over, anything behind it is left
-// alone. 0 where there is none, or where it is too large for a double.
+// Returns the number at the start of a text. Blanks before it and anything behind it are ignored.
+// Returns 0 if there is no number or it does not fit a double.
 double LeadingNumber(std::string_view text);
-// The same for a caller that must tell no number from 0.
+// Does the same, but returns no value in that case.
 std::optional<double> ReadLeadingNumber(std::string_view text);
 
-// The platform's number-to-text form: a blank stands before a number that is not negative.
+// Returns the number in decimal, with a blank in place of the sign if it is not negative.
 std::string NumberText(std::int64_t value);
 
-// `value` in a format pattern: "0" a digit, "#" a digit if there is one, "." the point, "," groups
-// of three, text in double quotes and any other character stand for themselves. Up to three
-// sections parted by ";" serve positive, negative and zero values; the section goes by the value
-// before it is rounded. Rounds half away from zero on the shortest decimal text that names the
-// value, for a single the shortest among singles. NaN and the infinities give their names.
+// Returns `value` in a format pattern. "0" is a digit, "#" a digit if there is one, "." the decimal
+// point, "," groups of three. Text in double quotes and any other character stand for themselves.
+// Up to three sections separated by ";" apply to positive, negative and zero values. The value
+// before rounding selects the section. The value is rounded half away from zero, from the shortest
+// decimal text that identifies it, for a float the shortest among floats. NaN and the infinities
+// give "NaN", "Infinity" and "-Infinity".
 std::string FormatNumber(double value, std::string_view pattern);
 std::string FormatNumber(float value, std::string_view pattern);
 std::string FormatNumber(std::int64_t value, std::string_view pattern);
@@ -28,21 +29,21 @@ inline std::string FormatNumber(int value, std::string_view pattern) {
   return FormatNumber(std::int64_t{value}, pattern);
 }
 
-// The text as a whole number: an optional minus and digits, nothing else. Nothing where it is none,
-// or one beyond 64 bits.
+// Returns the text as a whole number. The text must be an optional minus and digits, with nothing
+// else. Returns no value if it is not, or if the number exceeds 64 bits.
 std::optional<std::int64_t> ReadWholeNumber(std::string_view text);
 
-// The two forms in which handicaps are shown, with two decimals or none. One below zero is better
-// than par: the plus form shows it with a plus sign, the signed form with its minus.
+// Return a handicap in strokes as text, with two decimals or none. A negative handicap is a plus
+// handicap. The plus form shows it with a plus sign, the signed form with a minus.
 std::string FormatPlusHandicap(double value, bool decimals);
 std::string FormatSignedHandicap(double value, bool decimals);
 
-// Whole numbers by rounding half to even. Error 6 where the result leaves the width, and for NaN.
+// Round to a whole number, half to even. Error 6 if the result does not fit, and for NaN.
 std::int16_t RoundToInt16(double value);
 std::int32_t RoundToInt32(double value);
 
-// Error 6 where the value leaves the width.
+// Convert to a narrower type. Error 6 if the value does not fit.
 std::int16_t CheckedInt16(std::int64_t value);
-float CheckedSingle(double value);  // NaN and the infinities pass
+float CheckedSingle(double value);  // NaN and the infinities are kept
 
 }  // namespace golf

@@ -5,7 +5,7 @@
 
 namespace golf {
 
-// The numbers by which a failure travels from the place where it happens to the handler of a click.
+// The numbers of the errors that can reach the operator.
 enum class ErrorNumber : int {
   kBadCall = 5,
   kOverflow = 6,
@@ -20,11 +20,11 @@ enum class ErrorNumber : int {
   kPermissionDenied = 70,  // another program holds the file
   kDiskNotReady = 71,
   kPathAccess = 75,    // access refused, or a read-only file or folder
-  kPathNotFound = 76,  // a folder on the way is not there
+  kPathNotFound = 76,  // a folder of the path is missing
 };
 
-// A failure with its number. `description` is a full sentence for the operator and names the file
-// where there is one. This is the only exception that a screen or a run may carry on over.
+// A failure with its number. `description` is a full sentence for the operator. It names the file
+// if there is one. A screen or a run may continue only after this kind of exception.
 class NumberedError : public std::exception {
  public:
   NumberedError(ErrorNumber number, std::string description);
@@ -35,7 +35,7 @@ class NumberedError : public std::exception {
   const std::string& description() const { return description_; }
   const char* what() const noexcept override { return description_.c_str(); }
 
-  // The one general form in which an error is told that no handler has taken.
+  // Returns the general message for an error that nothing has handled.
   std::string Report() const;
 
  private:
@@ -44,8 +44,8 @@ class NumberedError : public std::exception {
   std::string description_;
 };
 
-// The system could not read a record. The buffer then holds the bytes of another record, or none. A
-// run leaves out the golfer whose record it is, and never saves the buffer.
+// The system could not read a record. The buffer does not hold that record: it may hold another
+// one. A run leaves out the golfer concerned and never saves the buffer.
 class ReadError : public NumberedError {
  public:
   explicit ReadError(const NumberedError& cause) : NumberedError(cause) {}

@@ -11,20 +11,20 @@
 
 namespace golf {
 
-// The only seam to the operating system. Everything above it is portable and can be tried with a
+// The only interface to the operating system. All other code is portable and can be tested with a
 // platform that fails on purpose.
 //
-// A path is text in code page 1252. It starts with ProgramFolder(), whose own name may hold
-// characters that the code page lacks: the seam keeps it in the system's form. Below it names are
-// found whatever their case.
+// A path is text in code page 1252. It starts with ProgramFolder(). That folder's own name may hold
+// characters that the code page lacks, so the platform keeps it in the system's form. Names below
+// it are found without regard to case.
 //
-// Every call fails with a NumberedError: 70 where another program holds the file, 61 disk full, 75
-// access refused, 76 no such folder, 53 no such file, 67 too many open files, 57 other faults of a
-// device. Error 75 also where a path leads back up a folder (".."), and where a folder, a pipe or a
-// device stands in the place of a file: none of them is ever waited for.
+// A call that fails raises a NumberedError: 70 where another program holds the file, 61 disk full,
+// 75 access refused, 76 no such folder, 53 no such file, 67 too many open files, 57 other faults of
+// a device. Error 75 is also raised for a path that leads up a folder (".."), and where a path for
+// a file names a folder, a pipe or a device. No call waits for a pipe or a device.
 
-// Lets its holder change files. Only the ChangeGate can make one, so that no change of a file goes
-// past it, and the HistoryGate, through which held changes are committed.
+// Permits a change of a file. Only the ChangeGate makes one, and the HistoryGate, through which
+// held changes are committed. So no other code changes a file.
 class ChangePass {
  private:
   friend class ChangeGate;
@@ -33,13 +33,13 @@ class ChangePass {
 };
 
 enum class FileAccess {
-  kReadWriteShared,  // fails with 70 where another program holds the file exclusively
-  kDefault,          // as above, but a file that may only be read is opened for reading
-  kReadOnly,         // shared, nothing can be written
-  kAlone,            // fails with 70 where anybody else has the file open, in whatever way
+  kReadWriteShared,  // raises error 70 where another program holds the file exclusively
+  kDefault,          // the same, but opens a file that may only be read for reading
+  kReadOnly,         // shared; nothing can be written
+  kAlone,            // raises error 70 where anybody else has the file open, in whatever way
 };
 
-// Tells two open files apart, whatever names they were opened by.
+// Identifies an open file, whatever name it was opened by.
 struct FileIdentity {
   std::uint64_t volume = 0;
   std::uint64_t file = 0;
@@ -50,25 +50,28 @@ class PlatformFile {
  public:
   virtual ~PlatformFile() = default;
 
-  // Bytes read: fewer than asked for at the end of the file only.
+  // Reads bytes from `offset` on and returns their number. It is smaller than `into` only at the
+  // end of the file.
   virtual std::size_t ReadAt(std::int64_t offset, std::span<char> into) = 0;
-  // Writes all of `bytes`, or fails; `written` tells how many of them have reached the file.
+  // Writes all of `bytes`, or raises an error. `written` is the number of bytes that reached the
+  // file, also after an error.
   virtual void WriteAt(ChangePass pass, std::int64_t offset, std::string_view bytes,
                        std::size_t& written) = 0;
   virtual void Truncate(ChangePass pass, std::int64_t length) = 0;
-  // Returns when the bytes written so far, and the length, are on the disk. After an error nothing is
-  // known of bytes that were written since the last Sync: write them again before the next one.
+  // Returns when the bytes written so far, and the length, are on the disk. After an error, bytes
+  // that were written since the last Sync may be lost: write them again before the next one.
   virtual void Sync(ChangePass pass) = 0;
-  virtual std::int64_t Length() = 0;
+  virtual std::int64_t Length() = 0;  // in bytes
   // False for a file that could be opened for reading only.
   virtual bool IsWritable() const = 0;
   virtual FileIdentity Identity() const = 0;
-  // Ends the use of the file. An error tells that bytes written before may not have reached it; the
-  // file is closed all the same. A file that is destroyed open is closed in silence.
+  // Closes the file, also if it raises an error. An error means that bytes written before may not
+  // have reached the file. The destructor closes an open file without an error.
   virtual void Close() = 0;
 };
 
-// Held while it lives. The system lets it go when the process ends in whatever way.
+// The lock that LockRun takes, held during the object's lifetime. The system releases it when the
+// process ends, in whatever way.
 class RunLock {
  public:
   virtual ~RunLock() = default;
@@ -79,7 +82,7 @@ class Platform {
   virtual ~Platform() = default;
 
   virtual std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) = 0;
-  // Makes an empty file; one that is there by now is left as it is.
+  // Creates an empty file. A file that exists by now is left as it is.
   virtual void Create(ChangePass pass, const std::string& path) = 0;
   virtual void CreateFolder(ChangePass pass, const std::string& path) = 0;
   virtual void Delete(ChangePass pass, const std::string& path) = 0;
@@ -92,14 +95,15 @@ class Platform {
   virtual std::unique_ptr<PlatformFile> OpenScratch() = 0;
 
   virtual bool FolderExists(const std::string& path) = 0;
-  // The names of the normal files in a folder, in no order.
+  // Returns the names of the normal files in a folder, in no order. A folder, a device, and on
+  // Windows a hidden or system file is not a normal file.
   virtual std::vector<std::string> FileNames(const std::string& folder) = 0;
 
-  // Error 70 where another process holds the lock of this folder. Null where the folder cannot be
-  // locked at all.
+  // Locks a folder for one run. Error 70 if another process holds the lock. Returns null if the
+  // folder cannot be locked at all.
   virtual std::unique_ptr<RunLock> LockRun(const std::string& folder) = 0;
 
-  // Starts a program and does not wait for it. Fails where the system cannot start it.
+  // Starts a program and does not wait for it. Raises an error if the system cannot start it.
   virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;
 
   // Ends in a separator.
@@ -108,14 +112,14 @@ class Platform {
   virtual RegionalForms Regional() const = 0;
 };
 
-// Puts something harmless into the place of each standard stream that the process was started
-// without, as some schedulers start programs. Otherwise the next file to be opened would take that
-// place, and what is printed would be written into it. Reading and writing such a stream fails as
-// before. A program calls this before anything else.
+// Opens the null device for each standard stream that the process was started without, as some
+// schedulers start programs. Otherwise the next file opened would become that stream, and printed
+// text would be written into it. Reading or writing such a stream still fails. A program calls this
+// before anything else.
 void TakeStandardStreams();
 
-// The platform of this system over the install in `utf8_folder`, or, where that is empty, in the
-// folder of the running program. Error 76 if the folder is not there or is none.
+// Makes the platform of this system over the install in `utf8_folder`. An empty `utf8_folder` means
+// the folder of the running program. Error 76 if the folder is missing or is not a folder.
 std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder);
 
 }  // namespace golf

@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// What the seam to the operating system has to tell of a failed call, the same on every system.
+// The reasons for which a call to the operating system fails, the same on every system.
 enum class PlatformFault {
   kHeld,
   kDiskFull,
@@ -24,14 +24,14 @@ enum class PlatformFault {
   kIsStandardStream,
 };
 
-// The error of a fault with a file; `path` is text, as everywhere below.
+// Makes the error for a fault with a file. Here and below, paths are in code page 1252.
 NumberedError PlatformError(PlatformFault fault, const std::string& path);
-// Any other fault, with the system's own words for it.
+// Makes error 57 for any other fault. `reason` is the system's own description.
 NumberedError DeviceFault(const std::string& path, const std::string& reason);
 
-// There is no folder to be the install.
+// Makes error 76: the folder of the install is missing.
 NumberedError NoInstall(const std::string& folder);
-// Another process has the lock of the install.
+// Makes error 70: another process holds the lock of the install.
 NumberedError AnotherRun(const std::string& folder);
 
 }  // namespace golf

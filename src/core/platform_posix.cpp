@@ -60,7 +60,7 @@ constexpr ErrnoMeaning kMeanings[] = {
   throw DeviceFault(path, std::strerror(code));
 }
 
-// A pipe or a device that stands in the place of a file is not waited for.
+// Opening a pipe or a device must not block.
 constexpr int kOpenFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
 class Descriptor {
@@ -73,7 +73,7 @@ class Descriptor {
     if (number_ >= 0) close(number_);
   }
   int get() const { return number_; }
-  // The number is free afterwards, whatever the system says; a signal is no failure.
+  // Frees the descriptor also if the system reports an error. An interrupting signal is no error.
   void Close(const std::string& native) {
     const int code = close(std::exchange(number_, -1)) == 0 ? 0 : errno;
     if (code != 0 && code != EINTR) FailWith(code, native);
@@ -111,7 +111,7 @@ class PosixFile : public PlatformFile {
           pwrite(descriptor_.get(), rest.data(), rest.size(), offset + static_cast<off_t>(written));
       if (count > 0) written += static_cast<std::size_t>(count);
       if (count == 0) FailWith(EIO, native_);
-      // A descriptor that was opened for reading only refuses as a read-only file does.
+      // A write to a descriptor opened for reading only fails with EBADF. It counts as refused.
       if (count < 0 && errno != EINTR) FailWith(errno == EBADF ? EACCES : errno, native_);
     }
   }
@@ -143,7 +143,7 @@ class PosixRunLock : public RunLock {
   explicit PosixRunLock(Descriptor folder) : folder_(std::move(folder)) {}
 
  private:
-  Descriptor folder_;  // the system's lock on it goes with it
+  Descriptor folder_;  // closing it releases the system's lock
 };
 
 std::string NameOf(const fs::directory_entry& entry) {
@@ -151,8 +151,8 @@ std::string NameOf(const fs::directory_entry& entry) {
   return path.substr(path.rfind('/') + 1);
 }
 
-// The entry of a folder that has this name in whatever case; of several the first by its bytes, so
-// that all spellings reach the same one.
+// Returns the entry of a folder that has this name without regard to case. Of several it returns
+// the first in byte order, so that all spellings reach the same entry.
 std::optional<std::string> FindEntry(const std::string& folder, std::string_view name) {
   std::optional<std::string> found;
   std::error_code error;
@@ -171,7 +171,7 @@ bool IsFolder(const std::string& native) {
   return fs::is_directory(native, error);
 }
 
-// A started program meets the signals that we ignore as any other program does.
+// Attributes that reset the signals ignored here to their defaults in a started program.
 class DefaultSignals {
  public:
   DefaultSignals() {
@@ -192,7 +192,7 @@ class DefaultSignals {
   posix_spawnattr_t attributes_{};
 };
 
-// Pictures of the strftime letters that stand in date and time forms.
+// The picture for a strftime letter that occurs in date and time forms.
 struct PictureOf {
   char letter;
   std::string_view picture;
@@ -331,7 +331,8 @@ class PosixPlatform : public Platform {
     return number;
   }
 
-  // Opening a device may do something by itself.
+  // Refuses anything but a regular file before it is opened, since opening a device may have an
+  // effect.
   static void RefuseNoFile(const std::string& native) {
     struct stat status {};
     if (stat(native.c_str(), &status) == 0) CheckMode(status.st_mode, native);
@@ -342,7 +343,7 @@ class PosixPlatform : public Platform {
     if (!S_ISREG(mode)) throw PlatformError(PlatformFault::kIsNoFile, TextFromUtf8(native));
   }
 
-  // Checks the file again after opening, since another file can have replaced it after the first
+  // Checks the file again after opening, since another file may have replaced it after the first
   // check.
   static void CheckOpened(const Descriptor& descriptor, const std::string& native) {
     if (descriptor.get() <= STDERR_FILENO) {
@@ -353,8 +354,8 @@ class PosixPlatform : public Platform {
     CheckMode(status.st_mode, native);
   }
 
-  // The system's path for a text path: each name below the root as it is spelt on the disk, a name
-  // that is not there as it was given. Error 76 where a folder on the way is missing.
+  // Returns the system's path for a text path. Each name below the root is spelt as on the disk; a
+  // missing last name is spelt as given. Error 76 if a folder on the way is missing.
   std::string Resolve(const std::string& path) const {
     if (path.compare(0, root_.size(), root_) != 0) return Utf8FromText(path);
     std::string native = native_root_;
@@ -396,8 +397,8 @@ std::string Absolute(const std::string& native) {
 
 }  // namespace
 
-// Each closed stream is opened again: input only for writing, output only for reading. Using it
-// then fails, as using a closed stream does. The system assigns the lowest free number.
+// Opens each closed stream again: input only for writing, output only for reading. Using it then
+// fails, as using a closed stream does. The system assigns the lowest free number.
 void TakeStandardStreams() {
   for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
     if (fcntl(number, F_GETFD) >= 0 || errno != EBADF) continue;
@@ -407,7 +408,8 @@ void TakeStandardStreams() {
 }
 
 std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
-  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is an error of the write, not the end
+  // A write beyond the file size limit then raises an error and does not end the program.
+  std::signal(SIGXFSZ, SIG_IGN);
   std::string folder = utf8_folder.empty() ? OwnFolder() : Absolute(utf8_folder);
   if (!folder.ends_with('/')) folder += '/';
   if (!IsFolder(folder)) throw NoInstall(TextFromUtf8(utf8_folder));

@@ -13,10 +13,10 @@ namespace golf {
 namespace {
 
 constexpr wchar_t kSeparator = L'\\';
-// Marks a path that the system takes as it stands, of any length.
+// Prefixes of a path that the system takes unchanged and at any length.
 constexpr std::wstring_view kVerbatim = L"\\\\?\\";
 constexpr std::wstring_view kVerbatimShare = L"\\\\?\\UNC\\";
-// A longer path must be verbatim; a folder's leaves room for a short name.
+// A longer path must have such a prefix. A folder's path must leave room for an 8.3 name.
 constexpr std::size_t kLongestPlain = MAX_PATH - 14;
 
 constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE;
@@ -76,13 +76,13 @@ std::string TextFromWide(std::wstring_view wide) {
 
 std::wstring WideFromText(std::string_view text) { return WideFromUtf8(Utf8FromText(text)); }
 
-// The path as people know it.
+// Returns the path without the prefix, as people know it.
 std::wstring Plain(const std::wstring& path) {
   if (path.starts_with(kVerbatimShare)) return L"\\\\" + path.substr(kVerbatimShare.size());
   return path.starts_with(kVerbatim) ? path.substr(kVerbatim.size()) : path;
 }
 
-// The path as the system takes it.
+// Returns the path with backslashes, and with the prefix if it is long.
 std::wstring Native(std::wstring path) {
   std::replace(path.begin(), path.end(), L'/', kSeparator);
   if (path.size() <= kLongestPlain || path.starts_with(kVerbatim)) return path;
@@ -95,7 +95,7 @@ bool IsFolder(const std::wstring& native) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-// The system's own words for an error, without their full stop.
+// Returns the system's description of an error, without its full stop.
 std::string Words(DWORD code) {
   std::array<wchar_t, 512> buffer{};
   const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
@@ -107,7 +107,7 @@ std::string Words(DWORD code) {
 
 [[noreturn]] void FailWith(DWORD code, const std::wstring& native) {
   const std::string path = TextFromWide(Plain(native));
-  // The system says no more of a folder in the place of a file.
+  // The system gives only this code for a folder in place of a file.
   if (code == ERROR_ACCESS_DENIED && IsFolder(native)) {
     throw PlatformError(PlatformFault::kIsFolder, path);
   }
@@ -223,7 +223,7 @@ class WindowsFile : public PlatformFile {
     return place;
   }
 
-  // As much as one call may move.
+  // Returns `size`, at most what one call may transfer.
   static DWORD Part(std::size_t size) {
     return static_cast<DWORD>(std::min<std::size_t>(size, 1u << 30));
   }
@@ -238,7 +238,7 @@ class WindowsRunLock : public RunLock {
   explicit WindowsRunLock(Handle file) : file_(std::move(file)) {}
 
  private:
-  Handle file_;  // the system deletes the file with the last handle to it
+  Handle file_;  // the system deletes the file when the last handle to it closes
 };
 
 struct CloseSearch {
@@ -251,7 +251,7 @@ bool IsNormal(const WIN32_FIND_DATAW& entry) {
                                     FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) == 0;
 }
 
-// Asks the operator for the rights that the program wants.
+// Starts a program that needs more rights. The system asks the operator for them.
 bool StartElevated(const std::wstring& program, const std::wstring& arguments) {
   SHELLEXECUTEINFOW start{};
   start.cbSize = sizeof start;
@@ -310,7 +310,7 @@ class WindowsPlatform : public Platform {
     std::vector<std::string> names;
     DWORD code = GetLastError();
     if (search.get() == INVALID_HANDLE_VALUE) {
-      // A drive may hold nothing at all.
+      // The root of a drive may be empty.
       if (code == ERROR_FILE_NOT_FOUND && FolderExists(folder)) return names;
       FailWith(code == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : code, Resolve(folder));
     }
@@ -359,7 +359,7 @@ class WindowsPlatform : public Platform {
   }
 
  private:
-  // A file that may only be read, or that another program lets be read only, serves for kDefault.
+  // For kDefault it opens a file for reading if it cannot be opened for writing.
   static Handle OpenShared(const std::wstring& native, FileAccess access) {
     const DWORD wanted =
         access == FileAccess::kReadOnly ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
@@ -420,8 +420,8 @@ std::wstring Absolute(const std::wstring& path) {
 
 }  // namespace
 
-// A program with windows has no streams unless it was given some. The handles stay open as long as
-// the process lives.
+// A program with windows has no standard streams unless its caller passed some. The handles stay
+// open until the process ends.
 void TakeStandardStreams() {
   for (const DWORD stream : kStandardStreams) {
     const HANDLE handle = GetStdHandle(stream);

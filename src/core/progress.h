@@ -5,8 +5,8 @@
 
 namespace golf {
 
-// How far a run has come: `done` of `total`, and what it is at. An empty text leaves what was shown
-// before.
+// The progress of a run: `done` of `total` items, and a text that says what the run is doing. An
+// empty text leaves the former text in place.
 struct Progress {
   std::int64_t done = 0;
   std::int64_t total = 0;

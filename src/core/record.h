@@ -28,7 +28,7 @@ struct FieldName {
   constexpr std::string_view View() const { return {characters, kSize - 1}; }
 };
 
-// The field of a layout with this name; a name that the table does not have does not compile.
+// Returns the field of a layout with this name. A name that the layout lacks does not compile.
 template <class Layout, FieldName kName>
 consteval Field FieldOf() {
   for (const Field& field : Layout::kFields) {
@@ -76,9 +76,8 @@ struct ValueOf<FieldType::kText> {
 
 }  // namespace detail
 
-// A record is its bytes: exactly Layout::kLength of them, all 0 at first. A field is read and
-// written in place; no byte changes but those of the field that is set. An index outside a table's
-// bounds is error 9.
+// A record is its Layout::kLength bytes, all 0 at first. A field is read and written in place.
+// Setting a field changes no other byte. An index out of its range raises error 9.
 template <class Layout>
 class Record {
   static_assert(FieldsTile<Layout::kLength>(Layout::kFields),
@@ -87,12 +86,12 @@ class Record {
  public:
   template <FieldName kName>
   using Value = typename detail::ValueOf<FieldOf<Layout, kName>().type>::Type;
-  // What a field is set from.
+  // The type from which a field is set.
   template <FieldName kName>
   using Source =
       std::conditional_t<std::is_same_v<Value<kName>, std::string>, std::string_view, Value<kName>>;
 
-  // The stored value; text with its blanks.
+  // Returns the stored value. A text keeps its blanks.
   template <FieldName kName, class... Indexes>
   Value<kName> Get(Indexes... indexes) const {
     constexpr Field kField = FieldOf<Layout, kName>();
@@ -105,7 +104,7 @@ class Record {
     }
   }
 
-  // Sets a field that is no table. Text is cut at the field's width or filled with blanks.
+  // Sets a field that is not a table. Text is cut at the field's width or filled with blanks.
   template <FieldName kName>
   void Set(Source<kName> value) {
     Set<kName>({}, value);
@@ -125,7 +124,7 @@ class Record {
     }
   }
 
-  // Sets every value of a field, a table or not: numbers to `number`, texts to blanks.
+  // Sets every value of a field, also of a table: numbers to `number`, texts to blanks.
   template <FieldName kName>
   void Fill(double number = 0) {
     FillField(FieldOf<Layout, kName>(), bytes_, number);

@@ -52,7 +52,8 @@ void RecordFile::Read(std::int64_t record, std::span<char> into) {
   next_offset_ = offset + static_cast<std::int64_t>(record_length_);
 }
 
-// A read that follows the last one brings more with it each time; any other one just its own bytes.
+// Reads at least `size` bytes into the window. A read of the next record in sequence reads ahead,
+// each time twice as far as before. Any other read fetches its own bytes only.
 void RecordFile::FillWindow(std::int64_t offset, std::size_t size) {
   gate_.Settle(identity_);
   const bool follows = offset == next_offset_;
@@ -86,7 +87,7 @@ void RecordFile::Close() {
 void RecordFile::ForgetWindow() {
   window_.clear();
   window_held_ = 0;
-  next_offset_ = -1;  // a loop that reads and writes record by record reads just those records
+  next_offset_ = -1;  // so a loop that reads and writes each record does not read ahead
   ++generation_;
 }
 

@@ -10,9 +10,8 @@
 
 namespace golf {
 
-// A random-access file of records of one length, numbered from 1. Records that follow each other
-// are read ahead through a window, which the owner forgets when what stands in the file may have
-// changed.
+// A random-access file of records of one length, numbered from 1. Consecutive records are read
+// ahead through a window. The owner forgets the window when the file may have changed.
 class RecordFile {
  public:
   RecordFile(ChangeGate& gate, std::string path, std::size_t record_length, FileAccess access);
@@ -20,23 +19,26 @@ class RecordFile {
   const std::string& path() const { return path_; }
   const FileIdentity& identity() const { return identity_; }
 
-  // Bytes, as the system tells it now.
+  // Returns the present length in bytes. Writes kept back for this file are written first.
   std::int64_t Length();
 
-  // Reads the start of a record, as many bytes as `into` holds; zeros stand for what lies behind
-  // the end of the file. Error 63 for a record below 1, 59 if `into` is longer than a record;
-  // ReadError where the system does not give the bytes.
+  // Reads the start of a record, as many bytes as `into` holds. Bytes beyond the end of the file
+  // read as zeros. Raises error 63 for a record below 1, error 59 if `into` is longer than a
+  // record, and ReadError if the system cannot read the bytes. Writes kept back for this file are
+  // written first and may raise their error.
   void Read(std::int64_t record, std::span<char> into);
 
-  // Writes the start of a record; behind the end the file grows. Errors as for Read.
+  // Writes the start of a record. A record beyond the end makes the file grow. Raises error 63 for
+  // a record below 1, error 59 if `bytes` is longer than a record, and the system's error for a
+  // failed write.
   void Write(std::int64_t record, std::string_view bytes);
 
-  // Ends the use of the file. Raises an error where bytes that were written may be lost.
+  // Closes the file. Raises an error only if the file was written and bytes may be lost.
   void Close();
 
   void ForgetWindow();
-  // Changes whenever the window was forgotten: what was read under one generation is as fresh as
-  // the window is.
+  // Changes whenever the window is forgotten. A record read under the present generation is as
+  // fresh as the window.
   std::uint64_t generation() const { return generation_; }
 
  private:
@@ -50,9 +52,9 @@ class RecordFile {
   FileIdentity identity_;
   std::vector<char> window_;
   std::int64_t window_offset_ = 0;
-  std::size_t window_held_ = 0;    // bytes of the window that the file had
-  std::int64_t next_offset_ = -1;  // where a read would follow the last one
-  std::size_t ahead_ = 0;          // bytes to read at the next one that does
+  std::size_t window_held_ = 0;    // bytes of the window that the file holds
+  std::int64_t next_offset_ = -1;  // start of the record behind the last one read; -1: none
+  std::size_t ahead_ = 0;          // bytes asked for by the last sequential fill; 0: another fill
   std::uint64_t generation_ = 0;
   bool written_ = false;
 };

@@ -31,7 +31,7 @@ DateForms DetectDateForms(const RegionalForms& forms, DateValue now) {
   try {
     const std::string marks = ReplaceText(FormatPicture(CivilFromDate(now), forms.short_date), "",
                                           "", ReplaceMode::kDigitsToMarks);
-    // As many characters as the first mask has, however long the date is.
+    // Only as many characters are searched as the default mask has, however long the date is.
     const std::string separator = SeparatorOf(marks, found.mask.size());
     found.format = Joined("mm", "dd", "yy", separator);
     found.mask = Joined("##", "##", "##", separator);
@@ -40,7 +40,7 @@ DateForms DetectDateForms(const RegionalForms& forms, DateValue now) {
     if (first == 13) found.format = Joined("dd", "mm", "yy", separator);
     if (first >= 98 || first == 19) found.format = Joined("yy", "mm", "dd", separator);
   } catch (const NumberedError&) {
-    // What stands in `found` is the answer.
+    // `found` holds what was detected before the error.
   }
   return found;
 }

@@ -6,14 +6,14 @@
 
 namespace golf {
 
-// The platform's way to write dates and times, as pictures of FormatPicture.
+// The platform's forms of dates and times, as pictures for FormatPicture.
 struct RegionalForms {
   std::string short_date = "MM/dd/yy";
   std::string long_time = "HH:mm:ss";
-  bool decimal_comma = false;  // how numbers are written
+  bool decimal_comma = false;  // true if numbers are written with a decimal comma
 };
 
-// How dates are shown and typed, found out from the short date form.
+// The forms in which dates are shown and typed.
 struct DateForms {
   std::string format = "mm/dd/yy";
   std::string mask = "##/##/##";
@@ -24,8 +24,8 @@ struct TimeForms {
   std::string mask = "##:##";
 };
 
-// The order of day, month and year, and the separator, read off dates that the platform has
-// written. A fault leaves what was found up to there.
+// Detect the separator, and for dates the order of day, month and year, from a sample written in
+// the platform's form. After an error DetectDateForms returns what it has found so far.
 DateForms DetectDateForms(const RegionalForms& forms, DateValue now);
 TimeForms DetectTimeForms(const RegionalForms& forms);
 

@@ -7,15 +7,15 @@
 
 namespace golf {
 
-// Runs statements of which each may fail: a numbered error is told to the handler and the next
-// statement follows. Anything else is a fault of the program and is not carried over. A handler may
-// throw the error again, for those that are not to be carried over.
+// Runs one statement and passes a NumberedError to the handler, so that the caller continues with
+// its next statement. Any other exception is a fault of the program and is not caught. The handler
+// may throw an error again that must end the run.
 class ResumeNext {
  public:
   explicit ResumeNext(std::function<void(const NumberedError&)> handler)
       : handler_(std::move(handler)) {}
 
-  // False where the statement failed.
+  // Returns false if the statement failed.
   template <class Statement>
   bool operator()(Statement&& statement) const {
     try {
@@ -31,7 +31,7 @@ class ResumeNext {
   std::function<void(const NumberedError&)> handler_;
 };
 
-// The same, but a record that cannot be read is not carried over: what follows would work on
+// Makes a ResumeNext that does not catch a ReadError, since the next statements would work on
 // another record.
 inline ResumeNext ResumeNextButReads(std::function<void(const NumberedError&)> handler) {
   return ResumeNext([handler = std::move(handler)](const NumberedError& error) {

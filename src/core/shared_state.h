@@ -24,8 +24,8 @@ class TournamentPlayers;
 struct KelvaneBuffers;
 struct ZandelBuffers;
 
-// The store objects that all screens work on. This room knows their names only; the composition
-// root makes them.
+// The store objects that all screens share. This room knows only the names of their classes; the
+// composition root makes them.
 struct StoreObjects {
   std::shared_ptr<CourseClass> SpareCourse;
   std::shared_ptr<CourseClass> Course;
@@ -35,28 +35,28 @@ struct StoreObjects {
   std::shared_ptr<TeamClass> Team1;
   std::shared_ptr<TeamClass> Team2;
   std::shared_ptr<ESCClass> ESC;
-  // The storeys of the tournament, the player and the first team that hold their records: the same
-  // objects, for the rooms below their calculation.
+  // The same tournament, player and first team objects by their record classes, for the rooms below
+  // scoring.
   std::shared_ptr<TournamentControl> TournamentRecord;
   std::shared_ptr<TournamentPlayers> PlayerRecords;
   std::shared_ptr<TeamRecords> Team1Records;
-  // Record buffers, which are made once and stay.
+  // Record buffers, which are made once and kept.
   std::shared_ptr<KelvaneBuffers> Kelvane;
   std::shared_ptr<ZandelBuffers> Zandel;
 };
 
-// Puts new objects into the place of the old ones, in the order of the members.
+// Replaces the objects by new ones, in the order of the members.
 using StoreFactory = std::function<void(SharedState&, StoreObjects&)>;
 
-// What every screen and store shares. Made once by the entry and handed down by reference.
+// The state that every screen and store shares. It is made once and passed on by reference.
 class SharedState {
  public:
   SharedState(Platform& platform, StoreFactory factory);
 
   FileTable files;
 
-  // Folders; each ends in a separator. CourseDataPath is where CourseClass opens its library,
-  // StoreDataPath where the Quenby stores open their files; screens set both.
+  // Folders; each ends in a separator. CourseClass opens its library in CourseDataPath, and the
+  // Quenby stores open their files in StoreDataPath. Screens set both.
   std::string ProgramPath;
   std::string KVDataPath;
   std::string QBDataPath;
@@ -64,7 +64,8 @@ class SharedState {
   std::string CourseDataPath;
   std::string StoreDataPath;
 
-  // Whether screens remember what was entered on them. Not where a command's arguments say it all.
+  // True if screens remember what was entered on them. False where a command's arguments set
+  // everything.
   bool remembers_settings = true;
 
   // The Kelvane roster picked last, without folder or extension.
@@ -74,13 +75,15 @@ class SharedState {
   std::string DateMask;
   std::string TimeMask;
   std::string TimeSeparator;
-  // Whether the machine writes numbers with a comma; one that is entered may have either then.
+  // True if the machine writes numbers with a decimal comma. An operator may then enter either
+  // mark.
   bool decimal_comma = false;
 
-  // The word that the calling sibling passed: "ZD", "QB" or "KV" name it, any other nobody.
+  // The word that the calling application passed: "ZD", "QB" or "KV" names the sibling. Any other
+  // word names none.
   std::string CommandLine;
 
-  // Nobody keeps these references across InitSharedObjects.
+  // No caller keeps these references across InitSharedObjects.
   CourseClass& SpareCourse() { return *objects_.SpareCourse; }
   CourseClass& Course() { return *objects_.Course; }
   ProgramClass& Program() { return *objects_.Program; }
@@ -90,8 +93,8 @@ class SharedState {
   TeamClass& Team2() { return *objects_.Team2; }
   ESCClass& ESC() { return *objects_.ESC; }
 
-  // The tournament, the player and the first team once more, as the rooms know them that are below
-  // their calculation.
+  // The same tournament, player and first team by their record classes, for the rooms below
+  // scoring.
   TournamentControl& TournamentRecord() { return *objects_.TournamentRecord; }
   TournamentPlayers& PlayerRecords() { return *objects_.PlayerRecords; }
   TeamRecords& Team1Records() { return *objects_.Team1Records; }
@@ -100,11 +103,11 @@ class SharedState {
   ZandelBuffers& Zandel() { return *objects_.Zandel; }
   IdNumberList id_numbers;
 
-  // The present moment, as the front end gives it.
+  // Returns the present moment. The front end sets it.
   std::function<DateValue()> Now;
 
-  // Closes every file of the process and makes the shared objects anew. If joined writes could not
-  // reach the disk their error is raised after all of that is done.
+  // Closes every file of the process and makes the shared objects anew. If a joined write fails,
+  // its error is raised after all of that is done.
   void InitSharedObjects();
 
  private:

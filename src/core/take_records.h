@@ -8,9 +8,9 @@
 
 namespace golf {
 
-// Calls `take(record)` for the records `first` to `last` in their order, which reads each of them.
-// One that cannot be read is tried once more in the end. Gives those that still could not be read,
-// ascending. Any error but ReadError goes on.
+// Calls `take(record)`, which reads the record, for the records `first` to `last` in order. A
+// record that raises a ReadError is tried once more at the end. Returns the records that failed
+// again, in ascending order. Any other error is passed to the caller.
 template <class Take>
 std::vector<std::int32_t> TakeRecords(std::int32_t first, std::int32_t last, Take&& take) {
   std::vector<std::int32_t> unread;

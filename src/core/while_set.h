@@ -4,7 +4,7 @@
 
 namespace golf {
 
-// Gives a flag another value as long as it lives, and then the one that it had.
+// Sets a flag to a value during its own lifetime, and then restores the former value.
 class WhileSet {
  public:
   explicit WhileSet(bool& flag, bool value = true)

@@ -18,7 +18,7 @@ void CountHole(const PlayedHole& played, const PointTable& points, RoundResults&
   AddToRound(results.net, played.hole, net);
   AddToRound(results.gross_points, played.hole, points[gross_difference]);
   AddToRound(results.net_points, played.hole, points[net_difference]);
-  // The statistics have no sums of the nines.
+  // The statistics have no sums for the nines.
   results.gross_statistics[gross_difference][played.hole] = 1;
   ++results.gross_statistics[gross_difference][kWholeRound];
   results.net_statistics[net_difference][played.hole] = 1;

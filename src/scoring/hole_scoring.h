@@ -6,18 +6,19 @@
 
 namespace golf {
 
-// Points for a hole by its score less par.
+// The points for a hole by its score minus par.
 using PointTable = ByDifference<std::int32_t>;
 
-// A hole that was played.
+// A hole that was played. Score, handicap strokes and par are in strokes.
 struct PlayedHole {
   int hole;  // 1 to 18
   std::int32_t score;
-  std::int32_t strokes;  // given on it
+  std::int32_t strokes;  // the handicap strokes on this hole; -1 for one to give
   std::int32_t par;
 };
 
-// Adds the hole's net score, statistics and points to the round, and to its nine and the total.
+// Sets the hole's net score, points and statistics in `results`. Adds net score and points to the
+// nine and the round, the statistics to the round only.
 void CountHole(const PlayedHole& played, const PointTable& points, RoundResults& results);
 
 }  // namespace golf

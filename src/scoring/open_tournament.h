@@ -6,9 +6,9 @@
 
 namespace golf {
 
-// Opens all that scores are worked out from, in the shared objects: Quenby's courses and golfers,
-// and the control file, the entries and the teams of a tournament, whose control record is read.
-// Points CourseDataPath and StoreDataPath to Quenby's folder. Raises the errors of FileTable.
+// Opens all files from which scores are calculated, in the shared objects: Quenby's courses and
+// golfers, and the control file, entries and teams of a tournament. Reads the control record. Sets
+// CourseDataPath and StoreDataPath to Quenby's folder. Raises the errors of FileTable.
 void OpenTournament(SharedState& state, std::int32_t tournament);
 
 }  // namespace golf

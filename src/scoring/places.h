@@ -5,16 +5,16 @@
 
 namespace golf {
 
-// The places of rows that stand in the order of their results; rows that tie share one.
+// The places of rows that are sorted by their results. Rows that tie share a place.
 struct Places {
   std::vector<int> dense;        // 1, 2, 2, 3
   std::vector<int> competition;  // 1, 2, 2, 4
 };
 
-// Numbers `count` rows, from 0. `tie(a, b)` says whether two rows have the same result: each row is
-// held against the one that began the run of ties before it. With groups, `same_group(a, b)` is
-// asked where results differ, and in a new group the competition places begin again; the dense ones
-// run on.
+// Numbers the places of the rows 0 to `count` - 1. `tie(a, b)` returns true if two rows have the
+// same result. Each row is compared with the first row of the ties before it. `same_group(a, b)` is
+// called where the results differ. In a new group the competition places start again at 1; the
+// dense places continue.
 template <class Tie, class SameGroup>
 Places NumberPlaces(std::size_t count, Tie&& tie, SameGroup&& same_group) {
   Places places;
@@ -40,7 +40,7 @@ Places NumberPlaces(std::size_t count, Tie&& tie, SameGroup&& same_group) {
   return places;
 }
 
-// The same for rows that are all of one group.
+// Does the same for rows of a single group.
 template <class Tie>
 Places NumberPlaces(std::size_t count, Tie&& tie) {
   return NumberPlaces(count, tie, [](std::size_t, std::size_t) { return true; });

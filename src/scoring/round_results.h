@@ -9,15 +9,15 @@
 
 namespace golf {
 
-// What is a text in one case and a bare number in another.
+// A result that is a text in some cases and a number in others.
 using TextOrNumber = std::variant<std::string, std::int32_t>;
 
-// What stands by hole has the sums behind holes 1 to 18.
+// A table by hole has these sums behind the holes 1 to 18.
 inline constexpr int kFirstNine = 19;
 inline constexpr int kSecondNine = 20;
 inline constexpr int kWholeRound = 21;
 
-// The holes that an entry of what stands by hole covers.
+// The holes that an entry of a table by hole covers, `first` and `last` included.
 struct CoveredHoles {
   int first;
   int last;
@@ -34,7 +34,7 @@ constexpr int NineOf(int hole) { return hole > 9 ? kSecondNine : kFirstNine; }
 template <class T>
 using ByHole = Indexed<T, 1, kWholeRound>;
 
-// By score less par; what lies further off counts as the last difference.
+// A table by score minus par, -5 to 5. A larger difference counts as 5, a smaller one as -5.
 inline constexpr int kMostDifference = 5;
 template <class T>
 using ByDifference = Indexed<T, -kMostDifference, kMostDifference>;
@@ -43,15 +43,15 @@ constexpr int LimitedDifference(int score, int par) {
   return std::clamp(score - par, -kMostDifference, kMostDifference);
 }
 
-// What is worked out of one round of one golfer. Singles are kept as singles: the steps in between
-// decide strokes.
+// The calculated results of one golfer's round, in strokes and points. A negative handicap is a
+// plus handicap. Floats stay floats, since the rounding of each step can change a stroke.
 struct RoundResults {
   float gross_handicap = 0;
   float handicap = 0;
   std::int32_t adjusted = 0;
-  ByHole<std::int32_t> gross;  // the sums only: hole scores are in the record
+  ByHole<std::int32_t> gross;  // sums only; the scores of the holes are in the record
   ByHole<std::int32_t> net;
-  float decimal_net = 0;  // of the round
+  float decimal_net = 0;  // for the round
   ByDifference<ByHole<std::int32_t>> gross_statistics;
   ByDifference<ByHole<std::int32_t>> net_statistics;
   ByHole<std::int32_t> gross_points;

@@ -45,7 +45,7 @@ void AddPlaces(std::vector<StandingsRow>& rows) {
   }
 }
 
-// Without a score there is no more to show than who plays.
+// The row of a team without a score shows only number, name, players and handicap.
 StandingsRow TeamTotalsRow(TeamClass& team) {
   StandingsRow row;
   row.cells = {std::to_string(team.TeamNumber()), team.TeamName(), team.NameofPlayersOnTeam(0),

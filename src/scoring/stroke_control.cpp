@@ -15,12 +15,12 @@ constexpr std::int32_t kNoCap = 0;
 constexpr std::int32_t kCustomMaxima = 100;
 constexpr std::int32_t kRunningAllowance = 119;
 
-// The maximum for a handicap below `below` that no row before has taken. The last row of a table
-// takes what is left, also what is no number.
+// The maximum for a handicap below `below` to which no earlier row applies. The last row of a table
+// applies to all remaining handicaps, NaN included.
 struct CapRow {
   float below;
   std::int32_t strokes;
-  bool over_par;  // the strokes count from the hole's par
+  bool over_par;  // true if `strokes` is added to the hole's par
 };
 
 constexpr float kAny = std::numeric_limits<float>::infinity();
@@ -49,7 +49,8 @@ constexpr Scheme kSchemes[] = {{9, kTableOfNine},    {18, kTableOfEighteen},
                                {19, kParPlusOfNine}, {28, kParPlusOfEighteen},
                                {219, kFloorOfSix},   {319, kFloorOverPar}};
 
-// Strokes over par that a hole may keep, for as many holes; then one less.
+// The strokes over par that a capped hole keeps, for the first `holes` capped holes. Every later
+// capped hole keeps one less. If `holes` is 0, every capped hole keeps `over_par`.
 struct Allowance {
   std::int32_t over_par;
   std::int32_t holes;
@@ -98,7 +99,7 @@ void ESCClass::CapByTable() {
   }
 }
 
-// A hole of any other par has the maximum of the hole before it.
+// A hole of any par other than 3 to 6 has the maximum of the hole before it.
 void ESCClass::CapByPar() {
   std::int32_t maximum = 0;
   for (int hole = 1; hole <= kHolesOfRound; ++hole) {

@@ -6,8 +6,8 @@
 
 namespace golf {
 
-// The place from 0 of the item that has the longest beginning in common with a name, in any case:
-// the last of several, and the first item where none has any.
+// Returns the index of the item with the longest common beginning with `name`, without regard to
+// case. Of several it returns the last. If no item shares a character, it returns 0.
 int ItemWithLongestCommonBeginning(const std::vector<std::string>& items, std::string_view name);
 
 }  // namespace golf

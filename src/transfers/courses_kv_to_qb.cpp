@@ -27,7 +27,7 @@ class CourseLinks {
       files.Read(number, record, course);
       const std::int16_t kelvane_number = course.Get<"KVCourseNum">();
       if (kelvane_number > 0)
-        links_.emplace_back(kelvane_number, record);  // the others link to none
+        links_.emplace_back(kelvane_number, record);  // other courses have no link
     }
     std::sort(links_.begin(), links_.end());
   }
@@ -42,8 +42,8 @@ class CourseLinks {
   std::vector<Link> links_;
 };
 
-// Records of the two files that are open, by the rounded lengths: a torn record of more than a half
-// counts.
+// Copies the courses between the two open files. The numbers of records are rounded, so an
+// incomplete record counts if more than half of it is there.
 void CopyCourses(FileTable& files, RunHost& host, const CourseLinks& links,
                  std::int64_t quenby_count, CoursesKvToQbReport& report) {
   const std::int64_t kelvane_count = files.CountRounded(kSource, KelvaneCourseLayout::kLength);
@@ -52,8 +52,8 @@ void CopyCourses(FileTable& files, RunHost& host, const CourseLinks& links,
     files.Read(kSource, source, course);
     const std::int16_t kelvane_number = CheckedInt16(source);
     course.Set<"KVCourseNum">(kelvane_number);
-    // A course that is not in use is copied as well, so that numbers stay linked, but it is neither
-    // shown nor counted as an update.
+    // A course not in use is also copied, so that the numbers stay linked. It is neither shown nor
+    // counted as an update.
     const bool in_use = (course.Get<"activeflag">() & 1) != 0;
     host.Report({source, kelvane_count, in_use ? course.Get<"Name">() : std::string()});
     const auto [first, last] = links.Find(kelvane_number);

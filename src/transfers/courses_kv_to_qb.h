@@ -18,12 +18,12 @@ struct CoursesKvToQbReport : RunReport {
   std::int16_t updated = 0;  // courses in use that were overwritten
 };
 
-// Stops at the first error. The progress tells the name of a course in use. At its
-// end the run closes all files and makes the shared objects anew.
+// Stops at the first error. The progress shows the name of a course in use. At its end the run
+// closes all files and makes the shared objects anew.
 void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest& request,
          CoursesKvToQbReport& report);
 
-// Writes the three indexes of Quenby's library anew, from its courses in use by name.
+// Rebuilds the three indexes of Quenby's library from its courses in use, sorted by name.
 void RebuildQuenbyCourseIndexes(SharedState& state);
 
 }  // namespace golf

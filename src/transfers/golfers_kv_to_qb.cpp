@@ -12,9 +12,9 @@
 namespace golf {
 namespace {
 
-// Quenby's golfers as the file stood before the run: where an ID is found first, as a walk from the
-// first record would find it, and where golfers can be added. Golfers added in the run are not
-// found. An ID of 0 finds the first record without a golfer.
+// Quenby's golfers before the run: the first record of each ID, as a search from the first record
+// finds it, and the free places. Golfers added during the run are not found. An ID of 0 finds the
+// first record without a golfer.
 class QuenbyGolfers {
  public:
   QuenbyGolfers(TournamentPlayers& player, std::int32_t length) : places(length) {
@@ -26,15 +26,15 @@ class QuenbyGolfers {
     });
   }
 
-  // Error where a golfer who was not found may stand in a record that cannot be read. To add him
-  // anew could make two of him.
+  // Raises a ReadError if some record could not be read. A golfer who was not found may be in it,
+  // and adding him could duplicate him.
   void CheckAllRead() const {
     if (unread_.empty()) return;
     throw ReadError({ErrorNumber::kDeviceFault,
                      "Record " + std::to_string(unread_.front()) +
                          " of Quenby's golfer file cannot be read, and he may stand there."});
   }
-  // 0 if there is none.
+  // Returns the first record with this ID, or 0 if there is none.
   std::int32_t Find(std::int32_t id) const {
     const auto found = first_.find(id);
     return found == first_.end() ? 0 : found->second;
@@ -94,7 +94,7 @@ class GolferCopy {
     next_([&] { Save(record); });
   }
 
-  // The player who is to be changed in the buffer: the one in a record, or a blank one for 0.
+  // Puts the player to be changed into the buffer: the one of `record`, or a blank one for 0.
   void Prepare(std::int32_t record) {
     if (record > 0) {
       state_.PlayerRecords().GetRecord(record, false);
@@ -104,7 +104,7 @@ class GolferCopy {
     }
   }
 
-  // A golfer without an ID leaves his record free, even one that was not before.
+  // A golfer without an ID makes his record free, even if it was not free before.
   void Save(std::int32_t record) {
     state_.PlayerRecords().SaveRecord(record, false);
     quenby_.places.Note(record, state_.PlayerRecords().StoredID());

@@ -13,7 +13,7 @@ namespace golf {
 // Quenby's rosters. A golfer whose ID number Quenby already has is updated. Any other golfer is
 // added.
 struct GolfersKvToQbRequest {
-  std::string roster;      // Kelvane's, without folder or extension
+  std::string roster;      // Kelvane's roster, without folder or extension
   double destination = 0;  // the number of Quenby's roster; 0 for none
   bool marked_only = false;
   GolferToQbChoice choice;

@@ -18,7 +18,7 @@ constexpr std::size_t kLeagueInLog = 30;  // characters
 // so each file is searched only once.
 using RecordsById = std::unordered_map<std::int32_t, std::int32_t>;
 
-// How Kelvane's handicap becomes that of the league.
+// Converts Kelvane's handicap to the league's, both in strokes.
 struct HandicapRule {
   int percent;
   bool halved;
@@ -30,8 +30,8 @@ struct HandicapRule {
   }
 };
 
-// Copies a golfer of Kelvane into a league's record, his handicap for one event. What is not copied
-// stays as it was.
+// Copies a Kelvane golfer into a league's record, with his handicap for one event. All other fields
+// stay unchanged.
 void CopyGolferToZd(const Record<KelvaneGolferLayout>& from, const HandicapRule& rule, int event,
                     Record<LeaguePlayerLayout>& to) {
   to.Set<"LastName">(from.Get<"NameLast">());
@@ -46,16 +46,16 @@ void CopyGolferToZd(const Record<KelvaneGolferLayout>& from, const HandicapRule&
   to.Set<"EventHandicap">({event}, rule.Of(from.Get<"Handicap">()));
 }
 
-// The league as it stands before the run.
+// The league's golfers before the run.
 struct League {
-  RecordsById players;      // a search begins at record 1
-  RecordsById substitutes;  // a search begins at the last one and goes down
-  int scores = 0;           // that the players have for the current event
-  // Records that cannot be read. Whose they are is not known.
+  RecordsById players;      // the lowest record of each ID
+  RecordsById substitutes;  // the highest record of each ID
+  int scores = 0;           // number of players with a score for the current event
+  // Records that cannot be read. Their golfers are not known.
   std::vector<std::int32_t> unread_players;
   std::vector<std::int32_t> unread_substitutes;
 
-  // Error 9 where there are players and no such event.
+  // Error 9 if there are players and the current event is outside 1 to 50.
   explicit League(SharedState& state) {
     const auto& control = state.Zandel().control;
     auto& player = state.Zandel().player;
@@ -175,7 +175,7 @@ void Run(SharedState& state, RunHost& host, const GolfersKvToZdRequest& request,
   if (league.scores > 0) {
     const int event = state.Zandel().control.Get<"CurrentEvent">();
     if (!ScoresMayStand(host, league.scores, event)) return state.files.CloseAll();
-    league = League(state);  // others may have worked on it meanwhile
+    league = League(state);  // other programs may have changed it during the question
   }
   LeaveOutUnread(host, report, league.unread_players, "players");
   LeaveOutUnread(host, report, league.unread_substitutes, "substitutes");

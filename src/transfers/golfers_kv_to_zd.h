@@ -11,9 +11,9 @@ namespace golf {
 // This transfer copies names, addresses and handicaps from a Kelvane roster to the same golfers'
 // records in a league, for its current event. It adds no golfers to the league.
 struct GolfersKvToZdRequest {
-  std::string roster;       // Kelvane's, without folder or extension
-  std::string league;       // its base
-  std::string league_text;  // as the log names it
+  std::string roster;       // Kelvane's roster, without folder or extension
+  std::string league;       // the base of the division
+  std::string league_text;  // the name for the log
   int percent = 100;        // of the handicap, 10 to 100
   bool halved = false;      // for rounds of 9 holes
 };

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::int32_t kHighestID = 99999;
 
-// Errors of a disk, about which the operator may be able to do something.
+// Errors of a disk, which the operator may be able to remove.
 constexpr ErrorNumber kDiskErrors[] = {ErrorNumber::kDeviceFault,      ErrorNumber::kDiskFull,
                                        ErrorNumber::kPermissionDenied, ErrorNumber::kDiskNotReady,
                                        ErrorNumber::kPathAccess,       ErrorNumber::kPathNotFound};
@@ -26,12 +26,12 @@ bool IsOfDisk(const NumberedError& error) {
                      [&](ErrorNumber number) { return error.Is(number); });
 }
 
-// What a golfer is known by in both programs.
+// Returns the key by which a golfer is found in both programs.
 std::string NameKey(std::string_view last, std::string_view first) {
   return UpperCase(std::string(Trim(last)) + std::string(Trim(first)));
 }
 
-// The fields of a league's golfer that Quenby has as well. His index is always 0 there.
+// Copies the fields of a league's golfer that Quenby has too. Sets his index to 0.
 void CopyGolferToQuenby(const Record<LeaguePlayerLayout>& from, int event, bool doubled,
                         RosterPlayers& to) {
   to.SetNameLast(from.Get<"LastName">());
@@ -47,8 +47,8 @@ void CopyGolferToQuenby(const Record<LeaguePlayerLayout>& from, int event, bool 
   if (doubled) to.SetHandicap(2 * LeadingNumber(to.HandicapValue(true)));
 }
 
-// The loop over the golfers of the open league. Members that give false end the run: the operator
-// has given up on an operation.
+// The loop over the golfers of the open league. A member that returns false ends the run, because
+// the operator did not retry an operation.
 class GolferCopy {
  public:
   GolferCopy(SharedState& state, RunHost& host, const GolfersZdToQbRequest& request,
@@ -78,7 +78,7 @@ class GolferCopy {
   }
 
  private:
-  // Runs an operation, again as long as a disk error comes and the operator wants to go on.
+  // Runs an operation, and repeats it after a disk error as long as the operator wants a retry.
   bool Try(const std::function<void()>& operation) {
     for (;;) {
       try {
@@ -170,8 +170,8 @@ class GolferCopy {
   RunHost& host_;
   const GolfersZdToQbRequest& request_;
   GolfersZdToQbReport& report_;
-  // Quenby's golfers as they stood before the run; one whom it adds is not found. A name leads to
-  // the first record that has it, as a walk over all records would.
+  // Quenby's golfers before the run. Golfers added by the run are not found. A name finds the first
+  // record that has it, as a search over all records does.
   std::int32_t length_;
   std::unordered_map<std::string, std::int32_t> by_name_;
   FreeGolferPlaces places_;

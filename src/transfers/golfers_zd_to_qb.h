@@ -13,16 +13,16 @@ namespace golf {
 // golfer file. A golfer whose name Quenby already has is updated. Any other golfer is added to the
 // chosen roster.
 struct GolfersZdToQbRequest {
-  std::string league;      // its base
+  std::string league;      // the base of the division
   double destination = 0;  // the number of Quenby's roster; 0 for none
-  bool doubled = false;    // handicaps of 9 holes, for rounds of 18
+  bool doubled = false;    // doubles handicaps of 9 holes, for rounds of 18
   bool substitutes = false;
 };
 
 struct GolfersZdToQbReport : RunReport {
   std::int16_t updated = 0;
   std::int16_t added = 0;
-  std::optional<NumberedError> given_up;  // on which the operator ended the run
+  std::optional<NumberedError> given_up;  // the error on which the operator ended the run
 };
 
 // Asks whether to retry a file operation that failed. Without a retry the run ends, and its

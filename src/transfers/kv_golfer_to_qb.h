@@ -8,18 +8,19 @@
 
 namespace golf {
 
-// What of a Kelvane golfer goes to Quenby beyond the items that always do.
+// The items of a Kelvane golfer that are copied to Quenby in addition to those always copied.
 struct GolferToQbChoice {
-  bool halve_handicap = false;   // of 18 holes, for rounds of 9
-  bool double_handicap = false;  // of 9 holes, for rounds of 18
-  // The optional items, by the rows of the screen's grid; true copies.
+  bool halve_handicap = false;   // halves handicap and index of 18 holes, for rounds of 9
+  bool double_handicap = false;  // doubles handicap and index of 9 holes, for rounds of 18
+  // The optional items by rows of the screen's grid, from row 2 on; true copies the item.
   static constexpr int kRows = 16;
   std::array<bool, kRows + 1> item{};
 };
 
-// Copies the golfer of `from`, by the roster header of `from`, into the player in the buffer of
-// `to`. What is not copied stays as it was. The handicap's text comes back trimmed in `from`. Each
-// value set is a statement of the run.
+// Copies the golfer of `from` into the player in the buffer of `to`. The roster header of `from`
+// says whether the handicap replaces the index. Other fields stay unchanged. HandicapText is
+// trimmed in `from`. Each value is set by one statement of `next`. Halving and doubling make a
+// negative index positive.
 void CopyGolferToQb(KelvaneBuffers& from, const GolferToQbChoice& choice, RosterPlayers& to,
                     const ResumeNext& next);
 

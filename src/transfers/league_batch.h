@@ -13,21 +13,23 @@ namespace golf {
 struct LeagueScore {
   KelvaneTee played;
   DateValue date = 0;
-  int score = 0;
+  int score = 0;  // strokes
 };
 
-// The scores of one batch of the open league: those of an event, or those played before it.
+// The scores of one batch of the open league: those of an event, or the non-event scores before it.
 class LeagueBatch {
  public:
-  // A code of the batch list. Reads the event. Errors as FileTable.
+  // Takes a code of the batch list and reads the event. Raises the errors of FileTable.
   LeagueBatch(SharedState& state, int code, LeagueCourseMatch& courses);
 
-  // Those that the golfer in the league player buffer has in this batch. Error 9 for an event or a
-  // sex that the league's records do not have, 6 where the event has no date.
+  // Returns the scores of this batch for the golfer in the league player buffer. For the score of
+  // an event, error 9 is raised for an event outside 1 to 50 and for a sex outside 0 to 1. Error 6
+  // is raised if the event has no date. Raises the errors of FileTable.
   std::vector<LeagueScore> ScoresOfGolfer();
 
  private:
-  // What a team played at this event. A tee that no course has is replaced by the usual one.
+  // The course and tees of a team at this event. A tee outside 1 to 5 is replaced by tee 2 for men
+  // and tee 3 for ladies.
   struct TeamCourse {
     int course;
     std::array<int, 2> tees;  // men's, ladies'
@@ -42,7 +44,7 @@ class LeagueBatch {
   LeagueCourseMatch& courses_;
   bool is_event_;
   int event_;
-  std::array<std::optional<TeamCourse>, 101> teams_;  // by number, from 1
+  std::array<std::optional<TeamCourse>, 101> teams_;  // by team number, from 1
 };
 
 }  // namespace golf

@@ -7,8 +7,8 @@
 namespace golf {
 namespace {
 
-// Of a tee of the current record, through the text in which a library shows it: two libraries agree
-// where they show the same.
+// Return the rating and slope of a tee of the current record, read from the text that a library
+// shows. So two libraries agree if they show the same.
 float RatingOf(const CourseClass& course, int tee, int sex) {
   return CheckedSingle(LeadingNumber(course.Rating(tee, sex)));
 }
@@ -17,7 +17,7 @@ int SlopeOf(const CourseClass& course, int tee, int sex) {
   return RoundToInt16(LeadingNumber(course.slope(tee, sex)));
 }
 
-// A course without a tee in use matches none.
+// Returns true if the course has a tee in use. A course without one never matches.
 bool HasTee(const Record<CourseLayout>& course) {
   for (int tee = 1; tee <= kShownTees; ++tee) {
     if (course.Get<"ActiveTees">(tee) != 0) return true;
@@ -42,7 +42,7 @@ KelvaneTee LeagueCourseMatch::Match(std::int32_t league_course, int tee, int sex
   return played;
 }
 
-// The last course and tee that match win.
+// Of several matches the last course and tee are taken.
 void LeagueCourseMatch::FindInKelvane(const std::string& course, const std::string& tee, int sex,
                                       KelvaneTee& played) {
   CourseClass& kelvane = state_.Course();

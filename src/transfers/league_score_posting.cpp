@@ -10,9 +10,9 @@
 namespace golf {
 namespace {
 
-constexpr int kNoRound = 20;          // a score up to here,
-constexpr int kNoRoundEither = 200;   // and one from here on
-constexpr int kRefusalsToCancel = 3;  // in a row
+constexpr int kNoRound = 20;          // a score up to this is not a round
+constexpr int kNoRoundEither = 200;   // a score from this on is not a round
+constexpr int kRefusalsToCancel = 3;  // number in a row after which the run asks whether to cancel
 
 }  // namespace
 
@@ -87,7 +87,7 @@ void LeagueScorePosting::PostEntry(std::int32_t place, const LeagueScore& score)
   PostKVScore(state_, place);
 }
 
-// The history comes first: should the golfer's record not follow it, the half still waits.
+// Writes the history first. If the golfer's record then cannot be written, the half still waits.
 void LeagueScorePosting::PostHalf(std::int32_t place, const LeagueScore& score) {
   const NineHoleHalf half{static_cast<double>(score.score), score.played.rating,
                           static_cast<double>(score.played.slope)};

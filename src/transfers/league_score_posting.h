@@ -13,17 +13,18 @@ struct LeagueScoreReport : RunReport {
   std::int32_t transferred = 0;
 };
 
-// Puts league scores into the histories of the open Kelvane roster and keeps the log of it. The
-// operator is asked about a score that a history has already. Raises the errors of FileTable, and
-// error 6, with the golfer untouched, for a number too large for an entry.
+// Posts league scores to the histories of the open Kelvane roster and writes the log. Asks the
+// operator about a score that a history already has, but not about a half. Raises the errors of
+// FileTable. Raises error 6 for a number too large for an entry, and leaves the golfer unchanged
+// then.
 class LeagueScorePosting {
  public:
-  // The report gets a line for each score and their count.
+  // The report gets a log line for each score, and their number.
   LeagueScorePosting(SharedState& state, RunHost& host, LeagueScoreReport& report);
 
-  // Posts a score of the golfer in the league player buffer for the golfer in the Kelvane buffer,
-  // who stands at `place`. What is no round is passed over. False if the operator has cancelled the
-  // transfer.
+  // Posts a score of the golfer in the league player buffer to the golfer in the Kelvane buffer,
+  // who is at `place` of the roster. Ignores a score of 20 strokes or fewer and one of 200 or more.
+  // Returns false if the operator has cancelled the transfer.
   bool Post(std::int32_t place, const LeagueScore& score);
 
  private:
@@ -37,8 +38,8 @@ class LeagueScorePosting {
   SharedState& state_;
   RunHost& host_;
   LeagueScoreReport& report_;
-  bool halves_;       // nine holes played are half of an entry
-  int refusals_ = 0;  // in a row
+  bool halves_;       // true if a round of nine holes is half of an entry
+  int refusals_ = 0;  // number of refusals in a row
 };
 
 }  // namespace golf

@@ -13,36 +13,37 @@
 
 namespace golf {
 
-// All transfers have one shape. A request says what is wanted, in plain values. `Run(state, host,
-// request, report)` does it, and asks through the RunHost what only an operator can decide. The
-// report says what was done; it is filled as the run goes, so that it holds what was done before an
-// error that ends the run. A run knows no control and no screen.
+// All transfers have one shape. A request holds the options as plain values. `Run(state, host,
+// request, report)` makes the transfer and asks the operator through the RunHost. The report says
+// what was done. It is filled during the run, so that it is also valid after an error that ends the
+// run. A run knows no control and no screen.
 
-// What a run may ask of the world.
+// The services that a run uses.
 class RunHost {
  public:
   virtual ~RunHost() = default;
 
-  // The files are open and nothing is left to refuse: the copying begins.
+  // Is called when all checks have passed, before the copying begins. A run may still open files
+  // after it.
   virtual void Begin() = 0;
   virtual void Report(const Progress& progress) = 0;
-  // A fault that the run carries on over.
+  // Reports a fault after which the run continues.
   virtual void NoteFault(const NumberedError& fault) = 0;
   virtual BoxButton Ask(const Box& box) = 0;
-  // A question that comes again and again, such as one for each score; true for Yes. `log` is what
-  // the report says by now.
+  // Asks a question that may come many times, such as one for each score. Returns true for Yes.
+  // `log` is the log of the report so far.
   virtual bool AskAgain(const std::string& title, const std::string& text,
                         const std::string& log) = 0;
   virtual void Beep() = 0;
 };
 
 enum class RunEnd {
-  kRefused,   // the operator was told why, or said no
+  kRefused,   // the operator was told why, or answered no
   kNoRoster,  // the Kelvane roster cannot be opened
   kDone,
 };
 
-// Who or what was left out, and why.
+// A golfer or record that was left out, and the reason.
 struct LeftOutEntry {
   std::string title;  // "Smith, Ann"; "Record 7 of the league's players"
   std::string reason;
@@ -50,19 +51,19 @@ struct LeftOutEntry {
 
 struct RunReport {
   RunEnd end = RunEnd::kRefused;
-  std::string log;  // lines with the line ends of the siblings, CR LF
+  std::string log;  // lines that end in CR LF
   std::vector<LeftOutEntry> left_out;
 };
 
-// Raises a count of 16 bits by one. Error 6 above 32767.
+// Increases a counter by one. Error 6 above 32767.
 void CountUp(std::int16_t& counter);
 
-// Leaves `who` out since a record cannot be read: the report has the entry, and the host the fault
-// with his name.
+// Records that `who` was left out because a record cannot be read. Adds an entry to the report and
+// notes the fault, with the name, at the host.
 void LeaveOut(RunHost& host, RunReport& report, const std::string& who, const NumberedError& why);
 
-// Runs a statement that reads. Where the read fails, `who()` is left out, and the result is false.
-// Any other error goes on.
+// Runs a statement that reads. If it raises a ReadError, leaves out `who()` and returns false. Any
+// other error is passed to the caller.
 template <class Statement, class Who>
 bool ReadOrLeaveOut(RunHost& host, RunReport& report, Statement&& statement, Who&& who) {
   try {

@@ -16,7 +16,7 @@ constexpr int kNine = 9;
 
 bool IsBackNine(SharedState& state, std::int32_t number, const ResumeNext& next) {
   CourseClass course(state);
-  // The library is open even where its indexes are not.
+  // The course file is open even if opening an index failed.
   next([&] { OpenCourseLibrary(state, course, kKelvaneCourses); });
   bool back_nine = false;
   next([&] {
@@ -33,7 +33,7 @@ bool OpenRoster(SharedState& state, const std::string& roster, const ResumeNext&
   return opened;
 }
 
-// Says in the roster's header that scores were posted.
+// Marks in the roster's header that scores were posted.
 void MarkRoster(SharedState& state) {
   auto& header = state.Kelvane().header;
   state.files.Read(kKelvaneHeaderFile, 1, header);
@@ -51,7 +51,8 @@ void OpenTournamentFiles(SharedState& state, const ScoresQbToKvRequest& request,
   next([&] { report.course_played = state.Tournament().CourseNamePlayed(request.choice.round); });
 }
 
-// Nine holes go into a roster of 18 as halves, if the operator wants that.
+// Returns true if the scores can be posted. Nine holes are posted to a roster of 18 as halves if
+// the operator agrees.
 bool HolesFit(SharedState& state, RunHost& host, bool& join_nines) {
   const int holes = state.Kelvane().header.Get<"Holes">();
   const int played = state.Tournament().RoundType();
@@ -87,8 +88,8 @@ std::string CountLine(std::int16_t count, const char* what) {
   return std::to_string(count) + what + std::string(kReportLineEnd);
 }
 
-// The counts come first, those that are 0 left out, and then a line for each score that is still to
-// transfer.
+// Puts the counts in front of the log, which has a line for each score still to transfer. Omits the
+// counts of scores to transfer and already transferred if they are 0.
 void PutCountsFirst(TournamentScoreReport& report) {
   std::string counts;
   if (report.to_transfer > 0) counts += CountLine(report.to_transfer, " Scores TO transfer.");
@@ -100,7 +101,7 @@ void PutCountsFirst(TournamentScoreReport& report) {
 
 void Run(SharedState& state, RunHost& host, const ScoresQbToKvRequest& request,
          ScoresQbToKvReport& report) {
-  // Without the records that all players have in common nobody can be posted: the run ends.
+  // A ReadError here ends the run, since no score can be posted without these records.
   const ResumeNext next =
       ResumeNextButReads([&host](const NumberedError& fault) { host.NoteFault(fault); });
   TournamentScoreChoice choice = request.choice;

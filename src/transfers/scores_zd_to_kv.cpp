@@ -14,20 +14,20 @@
 namespace golf {
 namespace {
 
-constexpr std::uint8_t kTeeIn18Holes = 1;  // of a score without a course
+constexpr std::uint8_t kTeeIn18Holes = 1;  // the tee of a score without a course
 constexpr std::uint8_t kTeeIn9Holes = 2;
 
 bool Has18Holes(SharedState& state) { return state.Kelvane().header.Get<"Holes">() == 18; }
 
-// An error that a golfer's records bring, with his name.
+// Returns an error about a golfer's records with his name.
 NumberedError WithName(const NumberedError& error, ErrorNumber number,
                        const Record<LeaguePlayerLayout>& player) {
   return {number, "The scores of " + LeagueGolferName(player) +
                       " cannot be transferred: " + error.description()};
 }
 
-// The loop over the golfers of the open league. Members that give false end it: the operator has
-// cancelled the transfer.
+// The loop over the golfers of the open league. A member that returns false ends it, because the
+// operator has cancelled the transfer.
 class ScorePosting {
  public:
   ScorePosting(SharedState& state, RunHost& host, int batch, ScoresZdToKvReport& report)
@@ -68,7 +68,7 @@ class ScorePosting {
     return player.Get<"GolferID">() <= 0 || PostGolfer(player);
   }
 
-  // For all golfers of the roster who have his ID.
+  // Posts the player's scores to all golfers of the roster with his ID.
   bool PostGolfer(const Record<LeaguePlayerLayout>& player) {
     const auto name = [&] { return LeagueGolferName(player); };
     std::vector<std::int32_t> places;

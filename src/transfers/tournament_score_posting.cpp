@@ -39,7 +39,7 @@ void TournamentScorePosting::Take(std::int32_t record) {
   });
 }
 
-// With the entry and its player in hand. An entry without a player is none.
+// Reads the entry and its player into the buffers. Returns false for an entry without a player.
 bool TournamentScorePosting::IsRead(std::int32_t record) {
   PlayerClass& player = state_.Player();
   name_ = "Entry " + std::to_string(record) + " of the tournament";
@@ -49,7 +49,7 @@ bool TournamentScorePosting::IsRead(std::int32_t record) {
   return exists;
 }
 
-// A score whose figures or history cannot be read is not transferred.
+// Posts the score. If its figures or the history cannot be read, it does not count as transferred.
 bool TournamentScorePosting::IsPosted() {
   next_([&] { CountUp(report_.transferred); });
   BlankKVScore(state_);
@@ -72,7 +72,7 @@ void TournamentScorePosting::NoteFault(const NumberedError& fault) {
   }
 }
 
-// With the golfer in hand afterwards.
+// Returns true if the score is to be posted. The golfer is in the Kelvane buffer then.
 bool TournamentScorePosting::IsToBePosted() {
   if (!IsWantedAgain()) {
     CountUp(report_.already);
@@ -93,7 +93,7 @@ bool TournamentScorePosting::IsToBePosted() {
   return AdjustedScore() > 0;
 }
 
-// A score that has been transferred before goes again only if the operator says so.
+// A score that was transferred before is transferred again only if the operator agrees.
 bool TournamentScorePosting::IsWantedAgain() {
   PlayerClass& player = state_.Player();
   if (!player.TourScoreTransferredtoKV(choice_.round)) return true;
@@ -110,7 +110,7 @@ bool TournamentScorePosting::IsWantedAgain() {
 
 bool TournamentScorePosting::IsComplete() {
   TournamentClass& tournament = state_.Tournament();
-  if (tournament.ScoreEntryTotal() != 0) {  // there are no points without holes
+  if (tournament.ScoreEntryTotal() != 0) {  // totals without hole scores give no points
     return AdjustedScore() > kHighestNoScore && !choice_.points;
   }
   const int holes = tournament.RoundType();
@@ -128,7 +128,8 @@ void TournamentScorePosting::Log(const std::string& reason) {
   report_.log += state_.Player().NameLF() + reason + "\r\n";
 }
 
-// Each figure by itself: one that does not fit leaves only its own place empty.
+// Fills each figure in its own statement. A figure that does not fit leaves only its own field
+// unchanged.
 void TournamentScorePosting::FillEntry() {
   PlayerClass& player = state_.Player();
   auto& entry = state_.Kelvane().score;
@@ -162,7 +163,7 @@ void TournamentScorePosting::SetTee() {
   state_.Kelvane().score.Set<"TeeNumber">(tees[static_cast<std::size_t>(group) - 1]);
 }
 
-// A day that is none leaves the present moment.
+// An invalid date raises error 5, and the entry keeps the present moment.
 void TournamentScorePosting::SetDate() {
   const DateValue date = state_.Tournament().Stored().Get<"DateofRound">(choice_.round);
   if (!IsDate(date)) {
@@ -172,7 +173,7 @@ void TournamentScorePosting::SetDate() {
   state_.Kelvane().score.Set<"Date">(std::trunc(date));
 }
 
-// On a course that is a back nine, the holes played are Kelvane's 10 to 18.
+// On a back nine course the scores are those of Kelvane's holes 10 to 18.
 void TournamentScorePosting::FillHoles() {
   auto& entry = state_.Kelvane().score;
   const int holes = choice_.back_nine ? kNineHoles : kHoles;
@@ -183,7 +184,7 @@ void TournamentScorePosting::FillHoles() {
   }
 }
 
-// Points are worth the same on every course.
+// Points do not depend on the course, so the entry has no course, tee or rating.
 void TournamentScorePosting::FillPoints() {
   auto& entry = state_.Kelvane().score;
   figure_([&] {
@@ -199,7 +200,7 @@ void TournamentScorePosting::PostEntry() {
   PostKVScore(state_, place_);
 }
 
-// A half that waits is always the adjusted score, also where points are posted.
+// A half that is kept is always the adjusted score, even if points are posted.
 void TournamentScorePosting::PostHalf() {
   PlayerClass& player = state_.Player();
   const int round = choice_.round;

@@ -14,32 +14,32 @@ namespace golf {
 // How the scores of a round are posted.
 struct TournamentScoreChoice {
   int round = 1;
-  std::int32_t course = 0;  // its number in Kelvane's library; 0 an away course
+  std::int32_t course = 0;  // its number in Kelvane's library; 0 for an away course
   bool back_nine = false;
   std::array<std::array<std::uint8_t, 5>, 2> tees{};  // Kelvane's, by sex and tee group; 0 none
   bool as_tournament = false;
-  bool points = false;      // are posted in place of scores
-  bool join_nines = false;  // a round of nine holes is half of an entry
+  bool points = false;      // true posts points instead of scores
+  bool join_nines = false;  // true if a round of nine holes is half of an entry
 };
 
 struct TournamentScoreReport : RunReport {
   std::int16_t transferred = 0;
   std::int16_t already = 0;      // transferred by an earlier run
-  std::int16_t to_transfer = 0;  // with a reason in the log
-  std::int16_t not_found = 0;
+  std::int16_t to_transfer = 0;  // not transferred, with a reason in the log
+  std::int16_t not_found = 0;    // those of them whose ID the roster lacks
 };
 
-// Posts the scores of a tournament's round into the histories of the open roster, one player after
-// the other. The tournament and its players are open in the shared objects. A fault while a player
-// is looked at, in a half, or while an entry is posted leaves him out, without the mark that his
-// score has been transferred. So does every read that fails. Any other fault only leaves the figure
-// that it hit as it was.
+// Posts the scores of a tournament's round to the histories of the open roster, player by player.
+// The tournament and its players must be open in the shared objects. A fault while a player is
+// checked, while a half is posted or while an entry is posted leaves him out, and his score is not
+// marked as transferred. The same holds for every failed read. Any other fault only leaves the
+// figure concerned unchanged.
 class TournamentScorePosting {
  public:
   TournamentScorePosting(SharedState& state, RunHost& host, const TournamentScoreChoice& choice,
                          TournamentScoreReport& report);
 
-  // Reads the player in this record of the tournament's file, and posts his score.
+  // Reads the player of this record of the tournament's file and posts his score.
   void Take(std::int32_t record);
 
  private:
@@ -63,12 +63,12 @@ class TournamentScorePosting {
   SharedState& state_;
   RunHost& host_;
   const TournamentScoreChoice& choice_;
-  ResumeNext next_;    // tells a fault in the player's name
-  ResumeNext figure_;  // the same for one figure of an entry, but for a read that fails
+  ResumeNext next_;    // notes a fault
+  ResumeNext figure_;  // for one figure of an entry: notes a fault, but passes on a ReadError
   KelvaneGolferIndex golfers_;
-  std::int32_t place_ = 0;         // of the player among the roster's golfers
-  TournamentScoreReport& report_;  // its log has a line for each score that is still to transfer
-  std::string name_;               // of the player in hand
+  std::int32_t place_ = 0;         // the player's place in the roster
+  TournamentScoreReport& report_;  // its log has a line for each score still to transfer
+  std::string name_;               // the name of the current player
 };
 
 }  // namespace golf

@@ -10,23 +10,23 @@
 
 namespace golf {
 
-// The balls of teams as tables, for reports that count them by a layout. Five blocks of 18 holes
-// stand one behind the other, a round in each, and hole 19 is the first one of the second block. A
-// block is 22 columns wide: the holes, and the four sums.
+// The balls of teams as tables, for reports that count them by a layout. A table has five blocks of
+// 18 holes, one block a round. Hole 19 is the first hole of the second block. A block has 22
+// columns: the 18 holes and four sums.
 
 inline constexpr int kBlocks = 5;
 inline constexpr int kBlockWidth = 22;
 inline constexpr int kTableColumns = kBlocks * kBlockWidth;
 inline constexpr int kSumsOfBlock = 4;
 
-// 0 for a hole that no block has.
+// Returns the column of a hole 1 to 90, or 0 for any other.
 constexpr int HoleColumn(int hole) {
   if (hole < 1 || hole > kLayoutHoles) return 0;
   const int in_block = (hole - 1) % kHoles + 1;
   return (hole - 1) / kHoles * kBlockWidth + in_block + (in_block > 9 ? 1 : 0);
 }
-// The columns of a block's first nine, second nine, total, and total of all blocks so far, `sum`
-// being 1 to 4.
+// Returns the column of a sum of a block. `sum` is 1 for the first nine, 2 for the second nine, 3
+// for the total and 4 for the running total of all blocks so far.
 constexpr int SumColumn(int block, int sum) {
   constexpr int kInBlock[] = {10, 20, 21, 22};
   return (block - 1) * kBlockWidth + kInBlock[sum - 1];
@@ -36,7 +36,7 @@ enum class BallTable { kGross, kNet, kGrossPoints, kNetPoints };
 inline constexpr BallTable kBallTables[] = {BallTable::kGross, BallTable::kNet,
                                             BallTable::kGrossPoints, BallTable::kNetPoints};
 
-// What a ball may be used as, by the colours of a sheet.
+// How a ball may be used. The values are the colours of a sheet.
 enum class BallMark : std::int32_t {
   kNone = 0xFFFFFF,
   kGross = 65280,
@@ -45,16 +45,16 @@ enum class BallMark : std::int32_t {
 };
 
 struct Ball {
-  std::optional<std::int32_t> value;  // none where the golfer has not played the hole
+  std::optional<std::int32_t> value;  // strokes or points; none for a hole not played
   BallMark mark = BallMark::kNone;
   bool selected = false;
 };
 
-// The four tables of one team: a row for each of ten golfers and one of sums. Error 9 for a golfer
-// or column that is not there.
+// The four tables of one team: a row for each of ten golfers and a row of sums. Error 9 for a
+// golfer outside 1 to 10 or a column outside 1 to 110.
 class TeamBalls {
  public:
-  using Sum = std::optional<std::int32_t>;  // none where no ball counted
+  using Sum = std::optional<std::int32_t>;  // no value if no ball counted
 
   Ball& At(BallTable table, int golfer, int column) {
     return balls_[static_cast<int>(table)][golfer][column];
@@ -67,7 +67,7 @@ class TeamBalls {
     return sums_[static_cast<int>(table)][column];
   }
 
-  // Gross and net together, of scores and of points.
+  // Return the gross and the net sum together, of scores and of points.
   Sum Score(int column) const;
   Sum Points(int column) const;
 
@@ -76,7 +76,8 @@ class TeamBalls {
   Indexed<Indexed<Sum, 1, kTableColumns>, 0, 3> sums_;
 };
 
-// Adds what is there; nothing and nothing is nothing.
+// Adds two sums. A sum without a value counts as 0; two of them give no value. Error 6 if the
+// result does not fit.
 TeamBalls::Sum AddSums(const TeamBalls::Sum& a, const TeamBalls::Sum& b);
 
 }  // namespace golf

@@ -13,12 +13,14 @@
 namespace golf {
 namespace {
 
-constexpr std::int32_t kNoBall = 1000;  // no ball that is so far from 0 counts
+// A low ball must be below this value, a high ball above its negative.
+constexpr std::int32_t kNoBall = 1000;
 
-// What a code of a layout asks for: the low or high balls, or the one of a number.
+// A parsed code of a layout: L the `count` low balls, H the `count` high balls, X the ball of the
+// number `count`.
 struct BallCode {
   char letter = 'N';
-  int count = 0;  // none but for the letters below
+  int count = 0;  // 0 for any other code
 };
 
 BallCode ParseBallCode(std::string_view code) {
@@ -48,8 +50,8 @@ bool Allows(BallMark mark, Kind kind) {
          mark == (kind == Kind::kGross ? BallMark::kGross : BallMark::kNet);
 }
 
-// Whether a golfer's balls of a kind may count on a hole: he is in the list of a place that takes
-// such balls.
+// Returns true if a golfer's balls of a kind may count on a hole: a place that uses such balls
+// lists him.
 bool IsConsidered(const ReportLayout& layout, int hole, Kind kind, int golfer) {
   for (int place = 0; place < kLayoutPlaces; ++place) {
     const PlaceCodes& codes = layout.At(hole, place);
@@ -77,15 +79,15 @@ void ClearMarks(TeamBalls& team, bool points) {
   }
 }
 
-// One team's hole, while its balls are picked.
+// Selects the balls of one team on one hole.
 class HolePicker {
  public:
   HolePicker(TeamBalls& team, const ReportLayout& layout, int hole)
       : team_(team), layout_(layout), hole_(hole), column_(HoleColumn(hole)) {}
 
-  // Picks the balls of both kinds in this order, after taking back all that was picked before. A
-  // golfer's ball of one kind keeps out his ball of the other, unless the same one may be used. The
-  // sum of what counts.
+  // Clears the former selection, selects the balls of both kinds in this order and returns their
+  // sum. A golfer whose ball of one kind is used cannot count with the other kind, unless
+  // `same_ball` is true.
   std::int32_t Pick(const Order& order, bool same_ball) {
     ClearPicks();
     std::int32_t sum = 0;
@@ -114,7 +116,7 @@ class HolePicker {
       const int golfer = BestGolfer(kind, code.letter);
       if (golfer == 0) break;
       Used(golfer) = true;
-      // Of a numbered ball the better ones only use up their golfers.
+      // For a numbered ball, the better balls do not count, but their golfers are used.
       if (code.letter == 'X' && pick != code.count) continue;
       Ball& ball = team_.At(ScoresOf(kind), golfer, column_);
       ball.selected = team_.At(PointsOf(kind), golfer, column_).selected = true;
@@ -123,8 +125,8 @@ class HolePicker {
     return sum;
   }
 
-  // The best ball is the lowest one, or the highest where high balls are asked for; of equal ones
-  // the first golfer's. 0 for none.
+  // Returns the golfer with the best ball, or 0 if there is none. The best ball is the highest for
+  // the letter H, else the lowest. Among equal balls the first golfer's is the best.
   int BestGolfer(Kind kind, char letter) {
     int best = 0;
     for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
@@ -136,7 +138,8 @@ class HolePicker {
     return best;
   }
 
-  // Between equal net balls the strokes decide: fewer for a low ball, more for a high one.
+  // Equal net balls are compared by handicap strokes: fewer are better for a low ball, more for a
+  // high one. Equal numbered balls are not compared further.
   bool IsBetter(Kind kind, char letter, int golfer, int than) {
     const std::int32_t value = *team_.At(ScoresOf(kind), golfer, column_).value;
     const std::int32_t other = *team_.At(ScoresOf(kind), than, column_).value;
@@ -222,7 +225,7 @@ void CustomBalls::XBallConsiderWhichScores(bool points, const HoleSpan& holes) {
   });
 }
 
-// Those of a golfer's place in all teams.
+// Marks the balls of a golfer's position in all teams.
 void CustomBalls::MarkBalls(bool points, int hole, int golfer, BallMark mark) {
   const int column = HoleColumn(hole);
   for (TeamBalls& team : teams_) {
@@ -288,10 +291,10 @@ void CustomBalls::XBallSortTeamStandings(const RankingOrder& order, int position
   }
 }
 
-// Teams that tie in everything stay in their order.
+// Teams that tie stay in their order.
 void CustomBalls::RankTeams(const RankingOrder& order, int position_option,
                             const std::vector<std::string>& flights, int block, int sum) {
-  constexpr int kDense = 1;  // of the tournament's two ways to number places
+  constexpr int kDense = 1;  // the tournament's PositionOption for places 1, 2, 2, 3
   struct Row {
     std::string flight;
     TeamBalls::Sum result;
@@ -343,7 +346,7 @@ std::array<std::string, 4> CustomBalls::TiebreakKeys(
     for (int hole = kNine - count + 1; hole <= kNine; ++hole) sum = AddWhole(sum, score(hole));
     last += "," + FormatNumber(sum, pattern);
   }
-  std::vector<int> by_strokes;  // those of the nine
+  std::vector<int> by_strokes;  // the holes of the nine only
   const int first = round_type == kNine ? 0 : kNine;
   for (const int hole : holes_by_strokes) {
     if (hole > first && hole <= first + kNine) by_strokes.push_back(hole - first);

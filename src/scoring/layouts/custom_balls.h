@@ -9,55 +9,55 @@
 
 namespace golf {
 
-// Holes that are worked on: those of some blocks, or one hole of 1 to 90. A hole that no block has
-// is none at all.
+// The holes to process: those of some blocks, or one hole of 1 to 90. Any other hole is ignored.
 struct HoleSpan {
   int first_block = 1;
   int last_block = kBlocks;
   std::optional<int> hole = {};
 };
 
-// How teams are ranked: by their scores, low first, or by their points, high first, and over all
-// teams or within flights. A team with nothing counted comes behind all others.
+// How teams are ranked: by scores, low first, or by points, high first; over all teams or within
+// flights. A team without a counted ball comes last.
 struct RankingOrder {
   bool points = false;
   bool by_flight = false;
 };
 
-// Counts the balls of teams by a layout, hole by hole, and ranks the teams. Works on tables alone:
-// where the balls come from is another matter. Teams count from 1, error 9 for any other.
+// Counts the balls of teams by a layout, hole by hole, and ranks the teams. It works on tables
+// only. Teams are numbered from 1. Any other team raises error 9.
 class CustomBalls {
  public:
-  // Codes that no list offers count as none.
+  // The layout must outlive the object. Codes that no list offers count no ball.
   explicit CustomBalls(const ReportLayout& layout) : layout_(layout) {}
 
-  // Empty tables.
+  // Makes empty tables for `teams` teams.
   void XBallInitializeTeamGrid(int teams);
-  // A table for each team.
+  // Sets the tables, one element a team.
   void SetTables(std::vector<TeamBalls> teams);
   int teams() const { return static_cast<int>(teams_.size()); }
   TeamBalls& Team(int team);
   const TeamBalls& Team(int team) const;
-  // Puts values into a team's table, by golfer and hole from 1. What has no place is left out.
+  // Puts values into a team's table. `values` is by golfer and by hole, the first element for
+  // golfer 1 and hole 1. Values beyond ten golfers or 90 holes are ignored.
   void PopulateTeamGridwithManualData(int team, BallTable table,
                                       const std::vector<std::vector<int>>& values);
 
-  // Marks the balls that the layout lets count, in the tables of points or in those of scores; what
-  // was marked there before is no longer.
+  // Marks the balls that the layout allows, in the tables of points or in those of scores. All
+  // earlier marks in these tables are cleared.
   void XBallConsiderWhichScores(bool points, const HoleSpan& holes);
-  // Picks the marked balls and adds them up.
+  // Selects balls among the marked ones and adds them up.
   void XBallCalculateTeamScore(const HoleSpan& holes);
 
-  // Ranks the teams in each block's four columns. `position_option` 1 numbers places 1, 2, 2, 3,
-  // and 2 numbers them 1, 2, 2, 4. `flights` holds a text for each team.
+  // Ranks the teams in each of the four sum columns of each block. `position_option` 1 numbers the
+  // places 1, 2, 2, 3, and 2 numbers them 1, 2, 2, 4. `flights` holds a text for each team.
   void XBallSortTeamStandings(const RankingOrder& order, int position_option,
                               const std::vector<std::string>& flights);
-  // The place of a team (`row`) in that ranking; columns 1 to 4, blocks 1 to 5.
+  // Returns the place of a team (`row`) in that ranking. Columns are 1 to 4, blocks 1 to 5.
   int position(int row, int column, int block) const;
 
-  // The four keys that settle ties in the last nine holes of a round: by the last holes, by the
-  // holes in the order of their strokes, from the first hole up, and from the last one down. Rounds
-  // 1 to 5, error 9 for any other; `round_type` 9 or 18.
+  // Returns four keys that break ties by the last nine holes of a round: by the last holes, by the
+  // holes in the order of their handicap strokes, from the first hole up, and from the last hole
+  // down. Rounds are 1 to 5; any other raises error 9. `round_type` is 9 or 18.
   std::array<std::string, 4> TiebreakKeys(int team, int round, int round_type,
                                           const std::vector<int>& holes_by_strokes) const;
 

@@ -59,7 +59,7 @@ void CustomStandings::FillTiebreaks(std::vector<CustomStanding>& standings) cons
   try {
     stroke_order = state_.Team1().HolesByStrokes();
   } catch (const NumberedError&) {
-    // A round without a tee has none, which is no reason to rank nobody.
+    // A round without a tee has no stroke order. The teams are ranked all the same.
   }
   for (std::size_t i = 0; i < standings.size(); ++i) {
     standings[i].tiebreaks =

@@ -8,35 +8,35 @@
 
 namespace golf {
 
-// A team as it stands under a layout. Sums are by block and column, places too; a block beyond the
-// tournament's rounds is left out.
+// The standing of a team under a layout. Sums and places are by block and column. There are as many
+// blocks as the tournament has rounds.
 struct CustomStanding {
   using Sums = std::vector<std::array<TeamBalls::Sum, kSumsOfBlock>>;
   using Places = std::vector<std::array<int, kSumsOfBlock>>;
 
   int TeamNumber = 0;
   std::string TeamName;
-  std::string golfers;  // of the active round, their last names
+  std::string golfers;  // the last names of the golfers of the active round
   std::string Flight;
   Sums Scores;
   Sums Points;
   Places Positions;
   Places PointsPositions;
-  std::array<std::string, 4> tiebreaks;  // of the active round
+  std::array<std::string, 4> tiebreaks;  // of the active round, as CustomBalls::TiebreakKeys
 };
 
-// Teams of the open tournament under a layout.
+// Calculates the standings of the open tournament's teams under a layout.
 class CustomStandings {
  public:
-  // The layout must live as long.
+  // The layout must outlive the object.
   CustomStandings(SharedState& state, const ReportLayout& layout);
 
-  // Takes in the team that the first team object holds. Errors of its calculation travel out, and
-  // it is not taken in then.
+  // Adds the team in the first team object. Raises the errors of TeamClass; the team is not added
+  // then.
   void AddTeam();
-  // Counts the balls and ranks the teams: in the order in which they were taken in.
+  // Counts the balls and ranks the teams. Returns them in the order in which they were added.
   std::vector<CustomStanding> WorkOut();
-  // The tables, after WorkOut.
+  // Returns the tables, valid after WorkOut.
   const CustomBalls& balls() const { return balls_; }
 
  private:

@@ -1,4 +1,4 @@
-// The lists from which a layout's codes are chosen.
+// The lists of choices for a layout's codes.
 
 #include <algorithm>
 #include <utility>
@@ -35,7 +35,8 @@ void AddCombinations(int players, int size, std::vector<LayoutChoice>& choices) 
   }
 }
 
-// The best or the worst balls together: `letter` and as many digits.
+// Adds the choices for the sum of the 2 to `players` best or worst balls. Their code is `letter`
+// and as many digits as balls.
 void AddTotals(int players, char letter, const std::string& words, const std::string& side,
                std::vector<LayoutChoice>& choices) {
   for (int n = 2; n <= players; ++n) {

@@ -10,14 +10,15 @@
 
 namespace golf {
 
-// A custom report of team results: which golfers of a team count on each of five rounds' holes, and
-// how many of their balls. Names of fields are those that the layout's files and screen have.
+// A custom report of team results. Its layout says which golfers of a team count on each hole of
+// five rounds, and how many of their balls. The fields have the names of the layout's files and
+// screen.
 
 inline constexpr int kLayoutHoles = 90;
-inline constexpr int kLayoutPlaces = 2;  // selections that one hole can take
+inline constexpr int kLayoutPlaces = 2;  // selections for one hole
 inline constexpr int kMostLayoutPlayers = 8;
 
-// One selection of a hole, by codes.
+// One selection for a hole, as codes.
 struct PlaceCodes {
   std::string ConsiderPlayers = "0";
   std::string GrossScoresToUse = "NONE";
@@ -29,11 +30,11 @@ struct ReportFont {
   static constexpr int kItalic = 2;
 
   std::string name = "Arial";
-  std::string size = "10";  // points, as it is written
+  std::string size = "10";  // in points, as written in the file
   int style = 0;            // kBold and kItalic; other bits are kept
 };
 
-// A new layout is one in which no ball counts.
+// A layout. No ball counts in a new one.
 struct ReportLayout {
   std::string ReportDescription;
   int HoleNumberUsed = 1;
@@ -44,54 +45,55 @@ struct ReportLayout {
   std::array<ReportFont, 3> fonts;  // header, column headers, body
   int DisplayHGridLines = 0;
   int DisplayVGridLines = 0;
-  std::array<std::string, 5> HeaderText;  // three, and two that nobody shows
+  std::array<std::string, 5> HeaderText;  // three that are shown, two that are not
   std::string ReportNumber;
-  std::array<int, 3> Header{};        // number, page and date shown
-  std::array<std::string, 17> kept;   // for later use
-  std::array<std::string, 2> behind;  // what a later version wrote behind the lines
+  std::array<int, 3> Header{};        // whether number, page and date are shown
+  std::array<std::string, 17> kept;   // unused lines, kept as they are
+  std::array<std::string, 2> behind;  // text behind the known lines of each file, kept as it is
 
-  // Holes 1 to 90, places 0 and 1; error 9 for any other.
+  // Holes are 1 to 90, places 0 and 1. Any other raises error 9.
   const PlaceCodes& At(int hole, int place) const;
   PlaceCodes& At(int hole, int place);
 };
 
-// A choice of a list: what is shown, and its code.
+// A choice of a list: its text and its code.
 struct LayoutChoice {
   std::string text;
   std::string code;
 };
-// The lists for teams of so many players, 1 to 8.
+// Return the lists for teams of `players` players, 1 to 8.
 std::vector<LayoutChoice> PlayerChoices(int players);
 std::vector<LayoutChoice> BallChoices(int players);
 const std::vector<int>& HoleNumberChoices();
-// The place of a code in a list; 0, the first choice, if no choice has it.
+// Returns the index of a code in a list, or 0, the first choice, if no choice has the code.
 std::size_t ChoiceOf(const std::vector<LayoutChoice>& choices, std::string_view code);
 
-// Brings what no list offers to the first choice of its list, as the screen does; how many codes
-// of holes that were.
+// Replaces each value that its list does not offer by the first choice, as the screen does. Returns
+// the number of hole codes replaced.
 int LimitToChoices(ReportLayout& layout);
-// What the operator is told of so many.
+// Returns the message to the operator about `codes` replaced codes.
 std::string UnknownCodesText(int codes);
 
-// The holes behind the first HoleNumberUsed ones repeat them.
+// Copies the selections of the first HoleNumberUsed holes to the following ones, repeatedly up to
+// hole 90.
 void CopyForward(ReportLayout& layout);
 
 inline constexpr std::string_view kLayoutExtension = ".TR";
 
-// A layout that was read, or why there is none.
+// A layout that was read, or the reason for which there is none.
 struct ReadLayout {
   std::optional<ReportLayout> layout;
   std::string problem;  // a sentence for the operator; empty with a layout
 };
 
-// The layout in two files: `path`, which ends in the extension, and behind it "1" and "2". Both
-// raise the errors of FileTable.
+// Read and write a layout. Its two files are named `path`, which ends in the extension, plus "1"
+// and "2". Both functions raise the errors of FileTable.
 ReadLayout ReadReportLayout(FileTable& files, const std::string& path);
 void WriteReportLayout(FileTable& files, const std::string& path, const ReportLayout& layout);
-// Whether a text can stand in these files: they have no way to write a quote or the end of a line.
+// Returns true if the files can hold the text. They cannot hold a quote or a line end.
 bool FitsReportLayout(std::string_view text);
 
-// The names of the layouts in a folder.
+// Returns the names of the layouts in a folder, without extension.
 std::vector<std::string> ListReportLayouts(FileTable& files, const std::string& folder);
 
 }  // namespace golf

@@ -1,4 +1,4 @@
-// What is shown of a round that was worked out.
+// The results of a calculated round as text.
 
 #include "scoring/player/player_class.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kFinished = 99;  // shown as a hole that was not finished
 
-// The format "0" of a whole number.
+// Formats a whole number as the pattern "0" does.
 std::string Shown(std::int32_t value) { return std::to_string(value); }
 
 }  // namespace

@@ -11,57 +11,63 @@
 
 namespace golf {
 
-// What a golfer's entry is worth by the course played and the tournament's options: the third
-// storey of a player. A round is worked out when the first member asks for it, and again after the
-// next read or save of a record; a setter alone brings nothing to be worked out again.
+// Calculates a golfer's results from his entry, the course played and the tournament's options. It
+// is the third storey of a player. A round is calculated when a member first needs it, and again
+// after the next read or save of a record. A setter alone causes no new calculation.
 //
-// A round is 1 to 7, the active one where it is left out; a hole is 1 to 18, or 19 for the first
-// nine, 20 for the second nine and 21 for the round. Error 9 for an index outside its bounds, of
-// which a tee that the tournament does not name (0) is one; error 6 for a figure too large for its
-// place, or where a number is needed that is none. After an error the round is still to be worked
-// out. Files raise the errors of FileTable.
+// A round is 1 to 7. An omitted round is the active one. A hole is 1 to 18, or 19 for the first
+// nine, 20 for the second nine and 21 for the round. Error 9 is raised for an index out of its
+// range, also for a round without a tee (tee 0). Error 6 is raised for a figure too large for its
+// type, and for NaN where a number is needed. After an error the round is calculated again at the
+// next call. Functions on files raise the errors of FileTable.
 //
-// Most members make the course of the round current in the shared course object, which must be on
-// Quenby's library. Handicaps and indexes are in strokes and below 0 for a plus golfer. Ratings are
-// in strokes, slopes from 55 to 155.
+// Most members make the course of the round current in the shared course object, which must have
+// Quenby's library open. Handicaps and indexes are in strokes; negative means plus. Scores and
+// ratings are in strokes, slopes 55 to 155.
 class PlayerClass : public TournamentPlayers {
  public:
   using TournamentPlayers::TournamentPlayers;
 
   void CalculateSetToRecalculate() { recalculate_.fill(true); }
-  // All that is worked out of a round, as numbers.
+  // Returns all calculated results of a round as numbers.
   const RoundResults& Results(OptionalRound round = {});
 
-  // Handicaps as text: plus handicaps with a plus sign, the values with a minus sign.
+  // Return handicaps as text. The members named Value show a plus handicap with a minus sign, the
+  // others with a plus sign.
   std::string TourHandicap(OptionalRound round = {});
   std::string TourHandicapValue(OptionalRound round = {});
   std::string TourHandicapWholeNumber(OptionalRound round = {});
   std::string TourGrossHandicap(bool decimals, OptionalRound round = {});
   std::string TourGrossHandicapValue(bool decimals, OptionalRound round = {});
-  // Where the quota is made from the handicap, it is the active round's whatever round is asked
-  // for.
+  // Returns the quota in points. A quota that comes from the handicap uses the active round's
+  // handicap for every round.
   std::string TourQuota(bool decimals, OptionalRound round = {});
 
-  // Holes 1 to 18, of the round that was worked out last.
+  // Return the handicap strokes and the par of a hole 1 to 18 in the round that was calculated
+  // last, which is not always `round`.
   std::int32_t TourHoleStrokes(int hole, OptionalRound round = {});
   std::int32_t TourHolePar(int hole, OptionalRound round = {});
 
-  // "F" for a hole with 99 or more; the number 0 for the holes of a tournament of totals.
+  // Returns "F" for a hole score of 99 or more. If the tournament has total scores only, returns
+  // the number 0 for a hole.
   TextOrNumber TourScoreGross(int hole, OptionalRound round = {});
   std::int32_t TourScoreGrossValue(int hole, OptionalRound round = {});
   std::string TourScoreNet(int hole, OptionalRound round = {});
   std::string TourScoreAdjusted(OptionalRound round = {});
-  // The score of a hole, as stroke control caps it; of `hole` the whole part counts. Runs stroke
-  // control over the round.
+  // Returns the score of a hole as stroke control caps it. Only the whole part of `hole` counts.
+  // Runs stroke control on the round.
   std::int32_t TourHoleAdjusted(double hole, OptionalRound round = {});
-  // How often the score less par was `difference`, -5 to 5.
+  // Return how often score minus par was `difference`, -5 to 5.
   std::string TourPBEStatsGross(int difference, int hole, OptionalRound round = {});
   std::string TourPBEStatsNet(int difference, int hole, OptionalRound round = {});
   std::string TourPointsGross(int hole, OptionalRound round = {});
   std::string TourPointsNet(int hole, OptionalRound round = {});
-  std::string TourPointsQuotaResults(int part, OptionalRound round = {});  // 1 to 3
+  // Returns the points above the quota: `part` 1 for the first nine, 2 for the second, 3 for the
+  // round.
+  std::string TourPointsQuotaResults(int part, OptionalRound round = {});
 
-  // Sums over rounds; without `from`, of round 1 to the active one.
+  // Return sums over the rounds `from` to `to`. Without `from` they are rounds 1 to the active one;
+  // without `to` the last one is the active round.
   std::string TourTotalGross(OptionalRound from = {}, OptionalRound to = {});
   std::string TourTotalNet(OptionalRound from = {}, OptionalRound to = {});
   std::string TourTotalGrossPoints(OptionalRound from = {}, OptionalRound to = {});
@@ -79,11 +85,12 @@ class PlayerClass : public TournamentPlayers {
   std::string TourCourseTeePlayedName(OptionalRound round = {});
   std::string TourCourseTeePlayedRating(OptionalRound round = {});
   std::string TourCourseTeePlayedSlope(OptionalRound round = {});
-  // Of the golfer's team, which is read into the first team object; "None" without a team.
+  // Return the time and hole of the golfer's team, or "None" without a team. They read the team
+  // into the first team object.
   std::string TourTeeTime(OptionalRound round = {});
   std::string TourTeeStartHole(OptionalRound round = {});
 
-  // Texts that settle a tie where they are sorted.
+  // Return keys that break ties when they are sorted as texts; see tiebreak_keys.h.
   std::string TourGrossTotalTiebreakUSGA(OptionalRound round = {});
   std::string TourNetTotalTiebreakUSGA(OptionalRound round = {});
   std::string TourGrossTotalTiebreakHandicapHole(OptionalRound round = {});
@@ -94,14 +101,14 @@ class PlayerClass : public TournamentPlayers {
   std::string TourNetTotalTiebreak18to1(OptionalRound round = {});
 
  private:
-  // Which tee a golfer plays in a round.
+  // The tee that a golfer plays in a round.
   struct PlayedTee {
     int group;      // 0 men, 1 ladies
     int tee_group;  // 1 to 5
-    int tee;        // of the course
+    int tee;        // the tee number of the course
   };
 
-  // Sums over rounds. What is shown as a handicap is kept as one, in a single.
+  // Sums over rounds.
   struct Totals {
     std::int32_t gross = 0;
     float net = 0;
@@ -145,7 +152,7 @@ class PlayerClass : public TournamentPlayers {
   bool UsesDecimals() const;
 
   Indexed<RoundResults, 1, kRounds> results_;
-  // Of the round that was worked out last.
+  // Of the round that was calculated last.
   Indexed<int, 1, kHoles> hole_strokes_;
   Indexed<int, 1, kHoles> hole_pars_;
   Totals totals_;

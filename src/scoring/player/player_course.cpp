@@ -18,7 +18,7 @@ bool PlayerClass::LoadTeamForRound(int round) {
   return true;
 }
 
-// The golfer's sex may be mended, so it comes first: the tee group goes by it.
+// SexIndice may mend the golfer's sex. It comes first because the tee group depends on it.
 PlayerClass::PlayedTee PlayerClass::TeePlayed(int round) {
   const int group = SexIndice();
   const int tee_group = TourGroupTee(round);

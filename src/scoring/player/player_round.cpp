@@ -1,4 +1,4 @@
-// How a round is worked out from its entry, the course and the tournament's options.
+// Calculates a round from its entry, the course and the tournament's options.
 
 #include <array>
 #include <cmath>
@@ -13,9 +13,9 @@ namespace golf {
 namespace {
 
 constexpr double kStandardSlope = 113;
-constexpr double kIndexNudge = 0.00001;  // lifts a course handicap off the ties
-constexpr double kNineNudge = 0.0001;    // keeps the halves of an odd quota from being equal
-constexpr int kParPlusScheme = 10;       // of stroke control, above the table schemes
+constexpr double kIndexNudge = 0.00001;  // makes a course handicap that ends in .5 round up
+constexpr double kNineNudge = 0.0001;    // makes the two halves of an odd quota differ
+constexpr int kParPlusScheme = 10;       // added to the code of a table scheme of stroke control
 
 PointTable PointsOf(const TournamentControl& tournament) {
   PointTable points;
@@ -31,11 +31,11 @@ void PlayerClass::CalculateRound(int round) {
   RoundResults& results = results_[round];
   bool& stale = recalculate_[static_cast<std::size_t>(round) - 1];
   if (!stale) return;
-  stale = false;  // the members below ask for the round themselves
+  stale = false;  // first, since the calculation calls members that need the round
   try {
     WorkOutRound(round, results);
   } catch (...) {
-    stale = true;  // or the figures of another golfer would stand for this one's
+    stale = true;  // so that no figures of another golfer are used
     throw;
   }
 }
@@ -87,7 +87,7 @@ void PlayerClass::TakeTotals(int round, int tee, RoundResults& results) {
   results.adjusted = control.AdjGross(3);
 }
 
-// Where scores are entered by hole, the holes will add up to the net total.
+// If scores are entered by hole, ScoreHoles adds up the net total later.
 void PlayerClass::TakeNetTotal(int round, RoundResults& results) {
   const double gross = results.gross[kWholeRound];
   if (gross < 1) return;
@@ -121,7 +121,8 @@ void PlayerClass::AllocateStrokes(int round, int tee, int holes) {
   AllocateHoleStrokes(hole_strokes_.span(), ranks, holes, strokes);
 }
 
-// A quota made from the handicap works out the active round, if it is another one.
+// A quota that comes from the handicap makes TourQuota calculate the active round, if it is
+// another.
 void PlayerClass::TakeQuotaResults(int round, RoundResults& results) {
   const double quota = LeadingNumber(TourQuota(UsesDecimals(), round));
   const auto& points = results.gross_points;
@@ -131,8 +132,8 @@ void PlayerClass::TakeQuotaResults(int round, RoundResults& results) {
   quota_results[3] = CheckedSingle(points[kWholeRound] - quota);
 }
 
-// The gross handicap picks the cap, before percent and adjustment. All 18 holes are loaded, in a
-// tournament of nine holes too.
+// The gross handicap, before percentage and adjustment, determines the cap. All 18 holes are set,
+// also in a tournament of nine holes.
 void PlayerClass::RunStrokeControl(int round, int tee) {
   TournamentControl& tournament = state().TournamentRecord();
   ESCClass& control = state().ESC();
@@ -170,7 +171,7 @@ std::string PlayerClass::TourQuota(bool decimals, OptionalRound round) {
   }
 }
 
-// The handicap as it is shown: what is given in strokes goes by that.
+// Returns the handicap as it is shown. Handicap strokes are calculated from the shown value.
 double PlayerClass::HandicapNumber(OptionalRound round) {
   return LeadingNumber(TourHandicapValue(round));
 }

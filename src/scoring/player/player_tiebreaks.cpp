@@ -1,4 +1,4 @@
-// The keys that settle ties between golfers.
+// The keys that break ties between golfers.
 
 #include <vector>
 
@@ -12,7 +12,7 @@ ScoreOfHole PlayerClass::GrossOfHole(int round) {
   return [this, round](int hole) { return TourScoreGrossValue(hole, round); };
 }
 
-// The holes of the round in the order in which they take strokes.
+// Returns the holes of the round in the order in which they get handicap strokes.
 std::vector<int> PlayerClass::HolesByStrokes(int round) {
   const int tee = LoadTeePlayed(round).tee;
   std::vector<int> holes;

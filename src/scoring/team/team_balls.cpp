@@ -12,12 +12,12 @@
 namespace golf {
 namespace {
 
-constexpr double kNoBall = 1000;            // no ball counts that is this high
-constexpr std::int32_t kNoPair = 1001;      // of a pair, a ball this high counts nothing
-constexpr std::int32_t kNoPartner = 10000;  // and one this high is not even its golfer's
+constexpr double kNoBall = 1000;            // a ball this high does not count
+constexpr std::int32_t kNoPair = 1001;      // a ball of a pair this high counts as 0
+constexpr std::int32_t kNoPartner = 10000;  // a ball this high cannot be one of a pair
 
-// The sum of the `balls` lowest values, at least of one; a ball that is missing adds nothing. Each
-// value is one golfer's, so who of two that tie is taken makes no difference.
+// Returns the sum of the `balls` lowest values, at least of one value. If there are fewer values it
+// is the sum of all. Ties make no difference, since each value is one golfer's.
 double SumOfLowest(std::vector<double> values, int balls) {
   const auto count = std::min(values.size(), static_cast<std::size_t>(std::max(balls, 1)));
   const auto end = values.begin() + static_cast<std::ptrdiff_t>(count);
@@ -27,7 +27,7 @@ double SumOfLowest(std::vector<double> values, int balls) {
   return sum;
 }
 
-// What each of the holes gives, added up.
+// Returns the sum of `of_hole` over the holes that `hole` covers.
 template <class OfHole>
 std::string SumOverHoles(int hole, OfHole of_hole) {
   const auto [first, last] = HolesOf(hole);
@@ -36,8 +36,8 @@ std::string SumOverHoles(int hole, OfHole of_hole) {
   return std::to_string(sum);
 }
 
-// The golfer with the lowest score on a hole among those who played it, apart from `without`; 0 for
-// none. Of those who tie the first one.
+// Returns the golfer other than `without` with the lowest score among those who played the hole, or
+// 0 for none. Of golfers who tie it returns the first.
 int LowestGolfer(const HoleTables& tables, const HoleTables::ByGolfer<std::int32_t>& scores,
                  int hole, int without) {
   int lowest = 0;
@@ -49,7 +49,7 @@ int LowestGolfer(const HoleTables& tables, const HoleTables::ByGolfer<std::int32
   return lowest;
 }
 
-// The lowest of the first scores, and the lowest of the second ones that another golfer has.
+// Returns the lowest of the first scores plus the lowest of the second scores of another golfer.
 std::int32_t LowestPair(const HoleTables& tables, const HoleTables::ByGolfer<std::int32_t>& first,
                         const HoleTables::ByGolfer<std::int32_t>& second, int hole) {
   const int one = LowestGolfer(tables, first, hole, 0);
@@ -96,7 +96,7 @@ void TeamClass::PopulateTeamGrid(TeamBalls& balls, int rounds) {
       ++golfer;
       for (int hole = 1; hole <= kHoles; ++hole) {
         const std::int32_t gross = player.TourScoreGrossValue(hole, round);
-        if (gross < 1) continue;  // not played: the cells stay blank
+        if (gross < 1) continue;  // not played
         const RoundResults& results = player.Results(round);
         const int column = HoleColumn((round - 1) * kHoles + hole);
         const auto put = [&](BallTable table, std::int32_t value) {
@@ -126,7 +126,7 @@ std::int32_t TeamClass::LowestBallOnHole(bool gross, int balls, int hole, int ro
 std::int32_t TeamClass::HighestBallOnHole(bool gross, int balls, int hole, int round) {
   const HoleTables& tables = LoadTeamHoleTables(round);
   const auto& points = gross ? tables.gross_points : tables.net_points;
-  std::vector<double> values;  // the other way up
+  std::vector<double> values;  // the negative points, so that the lowest are the best
   for (int golfer = 1; golfer <= tables.golfers; ++golfer) {
     const double value = -1.0 * points[golfer][hole];
     if (tables.gross[golfer][hole] > 0 && value < kNoBall) values.push_back(value);
@@ -134,7 +134,7 @@ std::int32_t TeamClass::HighestBallOnHole(bool gross, int balls, int hole, int r
   return RoundToInt32(-SumOfLowest(std::move(values), balls));
 }
 
-// Both orders are tried: they differ where one golfer has the lowest gross and the lowest net.
+// Tries both orders. They differ if one golfer has the lowest gross and the lowest net.
 std::int32_t TeamClass::LowestGrossNetPairOnHole(int hole, int round) {
   const HoleTables& tables = LoadTeamHoleTables(round);
   return std::min(LowestPair(tables, tables.gross, tables.net, hole),

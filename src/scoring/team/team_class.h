@@ -11,67 +11,72 @@
 
 namespace golf {
 
-// What a team's golfers are worth together: the second storey of a team. The golfers are those of
-// the active round, whatever round is asked for. All members read them into the shared player, and
-// what they give is kept until the next read or save of a team record.
+// Calculates the results of a team from those of its golfers. It is the second storey of a team.
+// The golfers are those of the active round, for every round asked for. A calculation reads them
+// into the shared player. Its results are kept until the next read or save of a team record.
 //
-// A round is 1 to 7, the active one where it is left out; a hole is 1 to 18, or 19 for the first
-// nine, 20 for the second nine and 21 for the round. Errors as for PlayerClass.
+// A round is 1 to 7. An omitted round is the active one. A hole is 1 to 18, or 19 for the first
+// nine, 20 for the second nine and 21 for the round. Scores and handicaps are in strokes; a
+// negative handicap is a plus handicap. Errors as for PlayerClass.
 class TeamClass : public TeamRecords {
  public:
   using TeamRecords::TeamRecords;
 
-  // All that is worked out of a round, as numbers.
+  // Returns all calculated results of a round as numbers.
   const TeamRound& Results(OptionalRound round = {});
 
-  // Whether handicaps and the sums of net scores have decimals.
+  // Returns true if handicaps and the sums of net scores have decimals.
   bool ShowsDecimals() const;
 
   std::string Handicap(OptionalRound round = {});
   std::int32_t ScoreGross(int hole, OptionalRound round = {});
-  // A whole number, or for the sums of a tournament with decimals a single.
+  // Returns a whole number, or for the sums of a tournament with decimals a number with decimals.
   double ScoreNet(int hole, OptionalRound round = {});
   std::int32_t PointsGross(int hole, OptionalRound round = {});
   std::int32_t PointsNet(int hole, OptionalRound round = {});
   std::int32_t Putts(OptionalRound round = {}) { return Results(round).putts; }
   std::int32_t Greens(OptionalRound round = {}) { return Results(round).greens; }
   std::int32_t Fairways(OptionalRound round = {}) { return Results(round).fairways; }
-  std::int64_t Earnings(OptionalRound round = {}) { return Results(round).earnings; }  // x 10000
-  std::string Quota(OptionalRound round = {});
-  std::string QuotaResults(int part, OptionalRound round = {});  // 1 to 3
-  // 0 for all last names, 1 to 8 for a golfer.
+  // Returns the amount times 10000.
+  std::int64_t Earnings(OptionalRound round = {}) { return Results(round).earnings; }
+  std::string Quota(OptionalRound round = {});  // in points
+  // Returns points above the quota: `part` 1 for the first nine, 2 for the second, 3 for the round.
+  std::string QuotaResults(int part, OptionalRound round = {});
+  // Returns all last names for 0, or a golfer's name for 1 to 8.
   std::string NameofPlayersOnTeam(int i, OptionalRound round = {});
 
-  // For a team that plays one ball. The net score is empty as long as nobody has a score.
+  // Return scores for a team that plays one ball. The net score is empty while no golfer has a
+  // score.
   std::string ScrambleGross(int hole, OptionalRound round = {});
   std::string ScrambleNet(int hole, OptionalRound round = {});
 
-  // Sums of round 1 to the active one.
+  // Return sums over the rounds 1 to the active one.
   std::string TotalGross();
   std::string TotalNet();
   std::string TotalNetScramble();
 
-  // The best `balls` scores of different golfers on a hole, or the sum of what each hole gives. A
-  // golfer who has not played a hole never counts, nor does one behind the tenth.
+  // Return the sum of the best `balls` scores of different golfers on a hole; for 19 to 21 the sum
+  // over those holes. Only the first ten golfers count, on holes that they have played.
   std::string BestBallGross(int balls, int hole, OptionalRound round = {});
   std::string BestBallNet(int balls, int hole, OptionalRound round = {});
   std::string BestBallPointsGross(int balls, int hole, OptionalRound round = {});
   std::string BestBallPointsNet(int balls, int hole, OptionalRound round = {});
-  // One gross and one net score of two golfers.
+  // Returns the lowest sum of one golfer's gross and another golfer's net score.
   std::string BestBallGrossNet(int hole, OptionalRound round = {});
-  // The best `x` nines (19, 20) or rounds (21); "0" for a hole.
+  // Return the sum of the best `x` nines (hole 19 or 20) or rounds (hole 21), or "0" for a hole 1
+  // to 18.
   std::string BestTotalXofYGross(int x, int hole, OptionalRound round = {});
   std::string BestTotalXofYNet(int x, int hole, OptionalRound round = {});
 
-  // Puts the balls of the team's first ten golfers into its tables, a block for each round: the
-  // golfers of a block are those of its round.
+  // Puts the balls of the team's first ten golfers into its tables, one block a round. The golfers
+  // of a block are those of its round.
   void PopulateTeamGrid(TeamBalls& balls, int rounds);
 
-  // The 18 holes in the order in which they take strokes, from the first tee group's tee: a team
-  // has none of its own. Makes the course of the round current.
+  // Returns the 18 holes in the order in which they get handicap strokes. Uses the tee of the first
+  // tee group, since a team has no tee of its own. Makes the course of the round current.
   std::vector<int> HolesByStrokes(OptionalRound round = {});
 
-  // Texts that settle a tie where they are sorted.
+  // Return keys that break ties when they are sorted as texts; see tiebreak_keys.h.
   std::string GrossTotalTiebreakUSGA(OptionalRound round = {});
   std::string NetTotalTiebreakUSGA(OptionalRound round = {});
   std::string GrossTotalTiebreakHandicapHole(OptionalRound round = {});
@@ -80,7 +85,7 @@ class TeamClass : public TeamRecords {
   std::string NetTotalTiebreak1to18(OptionalRound round = {});
   std::string GrossTotalTiebreak18to1(OptionalRound round = {});
   std::string NetTotalTiebreak18to1(OptionalRound round = {});
-  // Of the active round.
+  // For the active round.
   std::string GrossScrambleTiebreakUSGA() { return GrossTotalTiebreakUSGA(); }
   std::string GrossScrambleTiebreak1to18() { return GrossTotalTiebreak1to18(); }
   std::string GrossScrambleTiebreak18to1() { return GrossTotalTiebreak18to1(); }

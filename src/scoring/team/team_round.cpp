@@ -1,4 +1,4 @@
-// How a team's round is worked out from its golfers, and the sums over rounds.
+// Calculates a team's round from its golfers, and the sums over rounds.
 
 #include <array>
 
@@ -13,7 +13,7 @@
 namespace golf {
 namespace {
 
-constexpr int kSumTimesPercent = 2;  // a team handicap that is no average
+constexpr int kSumTimesPercent = 2;  // the team handicap is a percentage of the sum, not an average
 
 }  // namespace
 
@@ -76,8 +76,8 @@ void TeamClass::AddHoles(int round, TeamRound& results) {
   }
 }
 
-// Strokes go by the tee of the first golfer with a score, and by the team handicap as it is shown:
-// a plus handicap counts like an ordinary one of its size.
+// The handicap strokes come from the tee of the first golfer with a score and from the team
+// handicap as it is shown. So a plus handicap counts like an ordinary one of its size.
 ByHole<std::int32_t> TeamClass::WorkOutScramble(int round) {
   const TeamRound& results = Results(round);
   PlayerClass& player = state().Player();

@@ -10,12 +10,13 @@
 
 namespace golf {
 
-// Golfers of a team whose balls can count.
+// The number of golfers of a team whose balls can count.
 inline constexpr int kMostGolfersWithBalls = 10;
 
-// What is worked out of one round of one team. Singles are kept as singles, as for a golfer.
+// The calculated results of one team's round, in strokes and points. Floats stay floats, as for a
+// golfer.
 struct TeamRound {
-  // The nines and the total of one of the first ten golfers, by entry 19 to 21; no net where
+  // The nines and the total of one of the first ten golfers, by entry 19 to 21. The net is 0 if
   // nothing was played.
   struct Totals {
     Indexed<std::int32_t, kFirstNine, kWholeRound> gross;
@@ -40,11 +41,12 @@ struct TeamRound {
   std::int64_t earnings = 0;         // the amount times 10000
   std::array<std::string, 9> names;  // all last names, then the first eight golfers
   std::vector<Totals> totals;
-  std::optional<ByHole<std::int32_t>> scramble_net;  // worked out when it is asked for
+  std::optional<ByHole<std::int32_t>> scramble_net;  // calculated when it is first needed
 };
 
-// The balls of a team's first ten golfers, by golfer and hole. What the golfer's own round says is
-// kept apart from the tables: these end with the first golfer who was on another team that round.
+// The balls of a team's first ten golfers, by golfer and hole. `golfer_gross` holds the gross
+// scores of every golfer. The other tables are filled only up to the first golfer who was on
+// another team in that round.
 struct HoleTables {
   template <class T>
   using ByGolfer = Indexed<Indexed<T, 1, 18>, 1, kMostGolfersWithBalls>;

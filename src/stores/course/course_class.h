@@ -12,78 +12,85 @@
 
 namespace golf {
 
-// One course library: the course file and three index files in CourseDataPath, named by
-// ActiveProgram. Holds one course, the current record, with its tee lists, and the lists of
-// courses. A caller sets CourseDataPath and ActiveProgram, then calls OpenCourseFile.
+// One course library: the course file and three index files in CourseDataPath, named after
+// ActiveProgram. The object holds one course, the current record, with its tee lists, and the lists
+// of courses. A caller sets CourseDataPath and ActiveProgram, then calls OpenCourseFile.
 //
-// Every operation on files may raise the numbered errors of FileTable; nothing is caught here. A
-// getter or setter raises error 9 for a tee outside 1 to 6, a hole outside 1 to 18 or a group
-// outside 0 to 1, and a setter error 6 for a number too large for its field. Numbers become whole
-// by rounding half to even. Setters check nothing else and change the current record only.
+// Every operation on files may raise the errors of FileTable. A getter or setter raises error 9 for
+// a tee outside 1 to 6, a hole outside 1 to 18 or a group outside 0 to 1. Group 0 is the men's, 1
+// the ladies'. A setter raises error 6 for a number too large for its field. Numbers are rounded to
+// whole ones half to even, except ratings. Setters check nothing else and change only the current
+// record.
 class CourseClass {
  public:
   explicit CourseClass(SharedState& state) : state_(state), digests_(state.files) {}
   CourseClass(const CourseClass&) = delete;
   CourseClass& operator=(const CourseClass&) = delete;
 
-  // Library files. A missing one comes into being empty.
+  // Library files. A missing one is created empty.
 
   void OpenCourseFile();
   void CloseCourseFile();
   // "9CRS", "18CRS" or "ALLCRS".
   void OpenCourseIndexFile(std::string_view list_name);
-  // Whole records of the open course file.
+  // Returns the number of whole records of the open course file.
   std::int32_t CourseFileLength();
   std::int32_t CourseFileNumber() const { return course_file_; }
 
-  // Replaces the current record.
+  // Copies a course from one open file to another. The current record becomes that course.
   void CopyCourseRecord(std::int32_t from_record, std::int32_t from_file, std::int32_t to_record,
                         std::int32_t to_file);
   void BuildBlankRecord();
-  // Makes a record current and builds its tee lists. 0 is the 18-hole away course, -1 the 9-hole
-  // one, any other number without a record an invalid course; a deleted course comes as it is.
+  // Makes a record current and builds its tee lists. 0 is the 18-hole away course and -1 the 9-hole
+  // one. Any other number without a record is an invalid course. A deleted course is read like any
+  // other.
   void GetRecord(std::int32_t record);
-  // Writes the current record, if there is a record of this number or it is the next new one, and
-  // reads the course lists anew: afterwards the current record and Index hold what the lists read
-  // last.
+  // Writes the current record if the file has a record of this number or it is the next new one,
+  // and else does nothing. It then updates the course lists. Afterwards the current record and
+  // Index hold what the lists read last.
   void SaveRecord(std::int32_t record);
-  // The number behind the current record; 0 after a course without a record.
+  // Returns the number of the course read last by GetRecord; 0 for a course without a record.
   std::int32_t CurrentRecord() const { return current_; }
 
-  // Course lists, as old as the last of these calls.
+  // Course lists. OpenCourseFile, SaveRecord, UpdateAllCourseLists and RebuildCourseIndexes update
+  // them.
 
   void UpdateAllCourseLists();
-  // Writes Index at this record of the open index file.
+  // Writes Index to this record of the open index file.
   void SaveIndexRecord(std::int32_t position);
-  // The records of all active courses, sorted by name in capitals; equal names in file order.
+  // Returns the records of all active courses, sorted by name in capitals. Equal names stay in file
+  // order. The last record of the file becomes current.
   std::vector<std::int32_t> ActiveCoursesByName();
-  // What lists show of a record, as old as the last call above; null where there is none.
+  // Returns the digest of a record as the calls above read it last, or null if none of them read
+  // the record.
   const CourseDigest* FindDigest(std::int32_t record) const { return digests_.Find(record); }
-  // Writes the three index files from the records given, in their order. Files are not cut.
+  // Writes the three index files from these records, in this order, and updates the course lists.
+  // The files are not shortened.
   void RebuildCourseIndexes(const std::vector<std::int32_t>& sorted_records);
 
-  // The last value read from or to be written to an index file.
+  // The value read last from an index file, or to be written to one.
   std::int16_t Index() const { return index_.Get<"Index">(); }
   void SetIndex(double value);
 
   std::int32_t Course9NumberofCourses() const { return courses9_.Count(); }
   std::int32_t Course18NumberofCourses() const { return courses18_.Count(); }
   std::int32_t CourseALLNumberofCourses() const { return courses_all_.Count(); }
-  // Entries of 80 characters, 0 (the away course) to the count, with the course number at the end.
+  // Return an entry of 80 characters with the course number at its end. Entry 0 is the away course.
+  // Error 9 for an `i` outside 0 to the number of courses.
   const std::string& Course9Name(std::int32_t i) const { return courses9_.At(i); }
   const std::string& Course18Name(std::int32_t i) const { return courses18_.At(i); }
   const std::string& CourseALLName(std::int32_t i) const { return courses_all_.At(i); }
 
-  // Tee lists, as old as the last GetRecord.
+  // Tee lists of the course read last by GetRecord.
 
   std::int32_t TeeNumberofTees() const { return tees_.count; }
-  // Entries of 80 characters, 1 to 5, of which the first TeeNumberofTees are filled; the tee number
-  // is the last character.
+  // Return an entry of 80 characters. The tee number is its last character. Only the first
+  // TeeNumberofTees entries are filled. Error 9 for an `i` outside 1 to 5.
   const std::string& TeeMensTees(std::int32_t i) const { return TeeEntry(tees_.lists[0], i); }
   const std::string& TeeLadiesTees(std::int32_t i) const { return TeeEntry(tees_.lists[1], i); }
   const std::string& TeeAllTees(std::int32_t i) const { return TeeEntry(tees_.lists[2], i); }
 
-  // Settings of the course screens. Nothing keeps them and they start as false.
+  // Settings of the course screens, false at first. No file keeps them.
 
   const std::string& ActiveProgram() const { return active_program_; }
   void SetActiveProgram(std::string program) { active_program_ = std::move(program); }
@@ -95,7 +102,7 @@ class CourseClass {
 
   // The current record.
 
-  // As it stands, for whoever calculates with its numbers.
+  // Returns the record itself, for calculations with its numbers.
   const Record<CourseLayout>& Stored() const { return record_; }
 
   std::int16_t activeflag() const { return record_.Get<"activeflag">(); }
@@ -109,7 +116,8 @@ class CourseClass {
   std::int16_t KVCourseNum() const { return record_.Get<"KVCourseNum">(); }
   void SetKVCourseNum(double value);
 
-  // Texts come trimmed. Name is stored as given, the others trimmed; all are cut to their field.
+  // The getters trim. Name is stored as given, the others are stored trimmed. All are cut to the
+  // width of their field.
   std::string Name() const { return Trimmed(record_.Get<"Name">()); }
   void SetName(std::string_view value) { record_.Set<"Name">(value); }
   std::string Address1() const { return Trimmed(record_.Get<"Address1">()); }
@@ -130,7 +138,7 @@ class CourseClass {
   bool ActiveTees(int tee) const { return record_.Get<"ActiveTees">(tee) != 0; }
   void SetActiveTees(int tee, bool active);
 
-  // A tee outside 1 to 6 is taken as 1, and the caller's variable set to it.
+  // A tee outside 1 to 6 counts as 1. The getters also set the caller's variable to 1.
   std::string TeeName(int& tee) const;
   std::string TeeName(int&& tee) const { return TeeName(tee); }
   void SetTeeName(int tee, std::string_view value);
@@ -138,7 +146,9 @@ class CourseClass {
   std::string TeeNameAbv(int&& tee) const { return TeeNameAbv(tee); }
   void SetTeeNameAbv(int tee, std::string_view value);
 
-  // Numbers as text: "0.0" for a rating, "0" for the others.
+  // The getters return text, in the format "0.0" for a rating and "0" for the others. Ratings and
+  // pars are in strokes, hole lengths in the unit of YardsOrMeters(). A hole handicap is 1 to 18, 1
+  // the hardest hole, or 0 for none.
   std::string Rating(int tee, int group) const;
   void SetRating(int tee, int group, double value);
   std::string slope(int tee, int group) const;
@@ -163,16 +173,17 @@ class CourseClass {
   std::int16_t ParTotal(int tee) const { return record_.Get<"ParTotal">(tee); }
   void SetParTotal(int tee, double value);
 
-  // The hole that takes the n-th stroke; a stored value below 1 reads as 1.
+  // Returns the hole that gets the n-th handicap stroke. A stored value below 1 reads as 1.
   std::int16_t StrkSqnc(int tee, int n) const;
   void SetStrkSqnc(int tee, int n, double value);
 
-  // The printed number, two characters. Mends the current record where the stored one is out of
-  // range: 1 to 64 for holes 1 and 10, where a nine starts, and 1 to 72 for the others.
+  // Returns the printed number of a hole, two characters. A stored number out of its range is
+  // replaced by `hole` in the current record. The range is 1 to 64 for holes 1 and 10, where a nine
+  // starts, and 1 to 72 for the others.
   std::string HoleNumber(int tee, int hole);
   void SetHoleNumber(int tee, int hole, double value);
 
-  // "Meters" or "Yards".
+  // The unit of the hole lengths: "Meters", or "Yards" for any other text.
   std::string YardsOrMeters() const;
   void SetYardsOrMeters(std::string_view value);
 
@@ -188,7 +199,7 @@ class CourseClass {
     std::int32_t count = 0;
     std::array<TeeList, 3> lists;  // men's, ladies', all
   };
-  // A course that was read, and the tee lists that were built from it.
+  // A course that was read, with its tee lists.
   struct KeptCourse {
     std::int32_t number;
     Record<CourseLayout> record;
@@ -221,7 +232,7 @@ class CourseClass {
   CourseList courses18_;
   CourseList courses_all_;
   TeeLists tees_;
-  std::vector<KeptCourse> kept_;  // as fresh as the window of the file was in this generation
+  std::vector<KeptCourse> kept_;  // valid for this generation of this file
   std::uint64_t kept_generation_ = 0;
   int kept_file_ = 0;
   std::size_t next_kept_ = 0;

@@ -10,7 +10,7 @@
 
 namespace golf {
 
-// What lists and indexes need to know of a course.
+// The fields of a course that lists and indexes need.
 struct CourseDigest {
   std::int16_t activeflag = 0;
   std::int16_t hole_num_flag = 0;
@@ -20,21 +20,21 @@ struct CourseDigest {
   std::string_view Name() const { return {name.data(), name.size()}; }
 };
 
-// The digests of an open course file. A record is read once, in file order with its neighbours, and
-// again only when the file's read-ahead window was forgotten: so a digest is just as fresh as a
-// read of its record would be.
+// The digests of an open course file. Records are read in file order, each only once until the
+// file's read-ahead window is forgotten. So a digest is as fresh as a read of its record would be.
 class CourseDigests {
  public:
   explicit CourseDigests(FileTable& files) : files_(files) {}
 
-  // Makes sure that the digests of these records are there. A number that is no record of the
-  // file, which holds `length` of them, is passed over.
+  // Reads the digests of these records, as far as they are not held. The file has `length` records.
+  // Numbers outside 1 to `length` are ignored.
   void Read(int file_number, std::int32_t length, std::vector<std::int32_t> records);
 
-  // Goes over the whole file and gives the records in use, ascending; their digests are there then.
+  // Reads the whole file of `length` records. Returns the records of active courses, ascending, and
+  // holds their digests.
   std::vector<std::int32_t> ReadActive(int file_number, std::int32_t length);
 
-  // The digest of a record that was read; null for any other number.
+  // Returns the digest of a record, or null if it is not held.
   const CourseDigest* Find(std::int32_t record) const;
 
  private:

@@ -7,8 +7,9 @@
 
 namespace golf {
 
-// A course, in all three siblings' libraries. A course has six tee slots, of which tee 6 is never
-// shown; group 0 is the men's, 1 the ladies'.
+// The record of a course in all three siblings' libraries. A course has six tee slots; tee 6 is
+// never shown. Group 0 is the men's, 1 the ladies'. Ratings and pars are in strokes. Lengths are in
+// yards, or in metres if YardsOrMeters says so.
 
 inline constexpr std::size_t kCourseRecordLength = 3226;
 inline constexpr int kTeeSlots = 6;
@@ -48,7 +49,7 @@ inline constexpr auto kShared = std::to_array<Field>({
     Int16Field("ParIn", 768).By(kTees),
     Int16Field("ParTotal", 780).By(kTees),
     Int16Field("HoleHandicap", 792).By(kTees, kHoles),  // 1 to 18, 0 none
-    Int16Field("StrkSqnc", 1008).By(kTees, kHoles),     // the hole that takes the n-th stroke
+    Int16Field("StrkSqnc", 1008).By(kTees, kHoles),     // the hole that gets the n-th stroke
     Int16Field("KVCourseNum", 1224),                    // the Kelvane record copied from, 0 none
     Int16Field("HoleNumber", 1226).By(kTees, kHoles),   // printed number, 1 to 72
 });
@@ -70,22 +71,22 @@ constexpr auto WithTail(const std::array<Field, kTailSize>& tail) {
 
 }  // namespace course_fields
 
-// The form in which everything but the course transfer reads a course.
+// The layout that all code but the course transfer uses.
 struct CourseLayout {
   static constexpr std::string_view kName = "course";
   static constexpr std::size_t kLength = kCourseRecordLength;
   static constexpr auto kFields = course_fields::WithTail(course_fields::kQuenbyTail);
 };
 
-// Kelvane's own form: the same bytes, of which none is YardsOrMeters.
+// Kelvane's own layout: the same bytes without YardsOrMeters.
 struct KelvaneCourseLayout {
   static constexpr std::string_view kName = "kelvane course";
   static constexpr std::size_t kLength = kCourseRecordLength;
   static constexpr auto kFields = course_fields::WithTail(course_fields::kKelvaneTail);
 };
 
-// A course index: record 1 holds the number of entries, the next ones course numbers in the order
-// of display. What lies behind them is left over and means nothing.
+// A course index. Record 1 holds the number of entries. The next records hold course numbers in the
+// order of display. Records behind them are remains of a longer list and have no meaning.
 struct CourseIndexLayout {
   static constexpr std::string_view kName = "course index";
   static constexpr std::size_t kLength = 2;

@@ -8,10 +8,10 @@
 
 namespace golf {
 
-// Whose course library it is.
+// The course library of one sibling.
 struct CourseLibrary {
-  std::string_view program;  // as in the names of its files
-  std::string_view sibling;  // as people call it
+  std::string_view program;  // its sign in file names
+  std::string_view sibling;  // its name
   std::string SharedState::*folder;
 };
 
@@ -24,19 +24,19 @@ inline constexpr const CourseLibrary& kKelvaneCourses = kCourseLibraries[0];
 inline constexpr const CourseLibrary& kQuenbyCourses = kCourseLibraries[1];
 inline constexpr const CourseLibrary& kZandelCourses = kCourseLibraries[2];
 
-// The library of this program, in any case; null if there is none.
+// Returns the library of `program` without regard to case, or null if there is none.
 const CourseLibrary* FindCourseLibrary(std::string_view program);
 
 // "kvcrs.dat"
 std::string CourseFileName(std::string_view program);
 std::string CourseFilePath(const SharedState& state, const CourseLibrary& library);
 
-// Points a course object, or the shared Course, at the library and opens it. CourseDataPath is the
-// library's folder then. Errors as CourseClass.
+// Opens the library in `course`, or in the shared Course. Sets CourseDataPath to the library's
+// folder. Raises the errors of CourseClass.
 void OpenCourseLibrary(SharedState& state, CourseClass& course, const CourseLibrary& library);
 void OpenCourseLibrary(SharedState& state, const CourseLibrary& library);
 
-// "18", "9F" for the front nine and "9B" for the back nine.
+// Returns "18", "9F" for the front nine or "9B" for the back nine.
 std::string HolesText(int hole_num_flag);
 
 }  // namespace golf

@@ -10,8 +10,8 @@
 
 namespace golf {
 
-// What may stand in a tee of a course. The screens that take it in and the command that looks a
-// library over share these rules; texts are those that the operator reads.
+// The rules for the values of a tee. The course screens and the command that checks a library share
+// them. The texts of the faults are for the operator.
 
 enum class TeeField { kName, kRating, kSlope, kPar, kHandicap };
 
@@ -23,39 +23,45 @@ struct TeeFault {
   std::string text;
 };
 
-// The holes of a course, both included.
+// The holes of a course, `first` and `last` included.
 struct HoleRange {
   int first = 1;
   int last = kCourseHoles;
 };
-// By the HoleNumFlag of the course.
+// Returns the holes for the HoleNumFlag of a course: 9, -9, or any other value for all 18.
 HoleRange HolesPlayed(int hole_num_flag);
-// For how many holes a course is rated: 9 or 18.
+// Returns the number of holes for which a course is rated: 9 or 18.
 int HolesRated(int hole_num_flag);
 
-// What is entered for the 18 holes, hole 1 first.
+// The values entered for the 18 holes, hole 1 first.
 using HoleValues = std::array<double, kCourseHoles>;
 
-// A rating as it is shown and stored: with four decimals, from 0 to 99.9, in a format pattern.
+// Returns a rating in strokes as it is shown and stored: rounded to four decimals, limited to 0 to
+// 99.9, in a format pattern.
 std::string RatingText(double value, std::string_view pattern);
-// A slope as it is shown and stored: a whole number, half to even, up to 155.
+// Returns a slope as it is shown and stored: rounded to a whole number, half to even, and at most
+// 155.
 int SlopeShown(double value);
 
+// The next functions return no value if there is no fault.
+
+// A name and an abbreviation are both required.
 std::optional<TeeFault> NameFault(std::string_view name, std::string_view abbreviation);
-// `holes` is 18 or 9: a nine is rated from 25 to 45, eighteen holes from 45 to 80.
+// A rating must be 25 to 45 strokes if `holes` is 9, and 45 to 80 strokes for 18.
 std::optional<TeeFault> RatingFault(double rating, int holes, int group);
-// From 55 to 155.
+// A slope must be 55 to 155.
 std::optional<TeeFault> SlopeFault(double slope, int group = 0);
-// Hole by hole. Pars stand from 1 to 6 if they are required. Handicaps stand from 1 to 18, each
-// once; a 0 is a hole without one, if they are not required.
+// Checks hole by hole. A par must be 1 to 6 strokes if pars are required. A hole handicap must be 1
+// to 18 and occur only once. A 0 means no handicap and is valid if handicaps are not required.
 std::vector<TeeFault> HoleFaults(const HoleValues& pars, const HoleValues& handicaps,
                                  HoleRange holes, bool require_pars, bool require_handicaps);
 
-// All faults of a tee of the current course, 1 to 6, in the order in which the screen would find
-// them. What is required is what the course object says.
+// Returns all faults of a tee of the current course, 1 to 6, in the order in which the screen finds
+// them. The settings of the course object say which values are required.
 std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee);
 
-// The holes in rising order of their handicaps; holes of the same handicap in their own order.
+// Returns the holes in ascending order of their handicaps. Holes of the same handicap keep their
+// order.
 std::vector<int> StrokeSequence(const HoleValues& handicaps, HoleRange holes);
 
 }  // namespace golf

@@ -7,15 +7,15 @@ namespace golf {
 
 // The one buffer of the process for each Kelvane record. They outlive InitSharedObjects.
 struct KelvaneBuffers {
-  KelvaneBuffers();  // texts of the header blank, so that names of no roster show as nothing
+  KelvaneBuffers();  // fills the texts of the header with blanks, as without a roster
 
   Record<KelvaneSystemLayout> system;
   Record<KelvaneHeaderLayout> header;
-  Record<KelvaneGolferLayout> golfer;    // the golfer in hand
-  Record<KelvaneHistoryLayout> history;  // and the scores of that golfer
+  Record<KelvaneGolferLayout> golfer;    // the current golfer
+  Record<KelvaneHistoryLayout> history;  // the score history of that golfer
   Record<KelvaneScoreLayout> score;      // the working entry
 
-  // Entries of the history, 1 to 300. Error 9 for any other number.
+  // Read or replace an entry of the history, 1 to 300. Error 9 for any other number.
   Record<KelvaneScoreLayout> Entry(int i) const;
   void SetEntry(int i, const Record<KelvaneScoreLayout>& entry);
 };

@@ -4,21 +4,23 @@
 
 namespace golf {
 
-// A round of nine holes on its way into a roster of 18 holes: half of an entry. The golfer in hand
-// keeps one half until the next one comes; only the buffers change here. Error 6, with nothing
-// changed, for a figure too large for its place; slopes and scores have a byte.
+// A nine-hole round that is posted to a roster of 18 holes. It is half of an entry. The golfer's
+// record keeps one half until the next one comes. These functions change only the buffers, for the
+// current golfer. They raise error 6 and change nothing if a figure does not fit, such as a slope
+// or score outside 0 to 255.
 struct NineHoleHalf {
-  double score;
-  double rating;
+  double score;   // strokes for handicap purposes, or points
+  double rating;  // strokes, for nine holes
   double slope;
 };
 
 bool KVHalfWaits(SharedState& state);
 
-// Makes a half the one that waits.
+// Makes `half` the waiting one.
 void KeepKVHalf(SharedState& state, const NineHoleHalf& half);
 
-// Puts a half and the waiting one together in the working entry; none waits then.
+// Joins `half` and the waiting half in the working entry: sums of the scores and ratings, mean of
+// the slopes. No half waits afterwards.
 void JoinKVHalves(SharedState& state, const NineHoleHalf& half);
 
 }  // namespace golf

@@ -7,9 +7,11 @@
 
 namespace golf {
 
-// The files of a Kelvane roster, and Kelvane's system file. What is called a setting belongs to
-// Kelvane itself: it is given its default in a new roster and otherwise left alone. Sex is the
-// index of two: 0 men, 1 ladies.
+// The files of a Kelvane roster, and Kelvane's system file. A field named "Setting" with a number
+// is for Kelvane's own use. It gets its default in a new roster and is otherwise left unchanged.
+// Only Setting153 of the header becomes 1 when scores are posted. A table by sex has index 0 for
+// men and 1 for ladies. Handicaps, indexes and ratings are in strokes. A negative handicap or index
+// is a plus one.
 
 inline constexpr int kKelvaneScores = 300;
 inline constexpr std::size_t kKelvaneScoreLength = 49;
@@ -24,7 +26,7 @@ struct KelvaneHeaderLayout {
       TextField("Title", 2, 40),
       TextField("Address", 42, 30).By(Dimension{1, 3}),
       TextField("Phone", 132, 20),
-      ByteField("Holes", 152),  // 18: handicaps of 18 holes; any other value of 9
+      ByteField("Holes", 152),  // 18: handicaps for 18 holes; any other value: for 9
       ByteField("Setting153", 153),
       Int32Field("Setting154", 154),
       Int16Field("Setting158", 158),
@@ -41,8 +43,8 @@ struct KelvaneHeaderLayout {
       ByteField("Slope213", 213),
       Int16Field("Setting214", 214),
       Int16Field("Setting216", 216).By(kSexes),
-      DateField("CounterDate", 220).By(Dimension{1, 4}),  // counters 3, 4 and 2 go by 1, 2 and 3
-      ByteField("HandicapMethod", 252),                   // 100 or more: not index-based
+      DateField("CounterDate", 220).By(Dimension{1, 4}),  // dates 1 to 3: of counters 3, 4, 2
+      ByteField("HandicapMethod", 252),                   // 100 or more: not based on the index
       SingleField("Setting253", 253),
       Int16Field("Setting257", 257),
       Int16Field("Setting259", 259),
@@ -70,7 +72,7 @@ struct KelvaneGolferLayout {
   static constexpr std::size_t kLength = 2804;
   static constexpr Dimension kLines{1, 4};
   static constexpr auto kFields = std::to_array<Field>({
-      Int16Field("Status", 0),  // 1 or more: a golfer stands here
+      Int16Field("Status", 0),  // 1 or more: the place holds a golfer
       ByteField("MarkedToPrint", 2),
       ByteField("Reserved3", 3),
       Int32Field("IDNum", 4),
@@ -93,7 +95,7 @@ struct KelvaneGolferLayout {
       ByteField("Setting437", 437),
       SingleField("Value438", 438),
       SingleField("Value442", 442),
-      Int16Field("HalfCourse", 446),  // a half of nine holes that waits for another one
+      Int16Field("HalfCourse", 446),  // this field to HalfScore: a waiting nine-hole half
       ByteField("HalfTee", 448),
       SingleField("HalfRating", 449),
       ByteField("HalfSlope", 453),
@@ -106,7 +108,7 @@ struct KelvaneGolferLayout {
       TextField("MiscText5", 543, 10),
       DateField("MiscDate", 553).By(Dimension{1, 2}),
       CurrencyField("MiscCurrency", 569).By(Dimension{1, 5}),
-      CurrencyField("Value609", 609),  // eight bytes of Kelvane's own
+      CurrencyField("Value609", 609),  // for Kelvane's own use
       CurrencyField("Value617", 617),
       TextField("Text625", 625, 30),
       TextField("Comments", 655, 200),
@@ -125,7 +127,7 @@ inline constexpr auto kScore = std::to_array<Field>({
     DateField("Date", 8),
     ByteField("HoleScore", 16).By(Dimension{1, 18}),
     ByteField("Gross", 34),
-    ByteField("Adjusted", 35),   // for handicap purposes
+    ByteField("Adjusted", 35),   // strokes for handicap purposes
     ByteField("ScoreType", 36),  // 0 plain, 2 tournament, 4 two nines joined
     Int16Field("HandicapPlayed", 37),
     ByteField("Putts", 39),
@@ -150,7 +152,8 @@ struct KelvaneScoreLayout {
   static constexpr auto kFields = kelvane_fields::kScore;
 };
 
-// A record of a ".kvs" file: the history of the golfer with the same record number, newest first.
+// A record of a ".kvs" file: the score history, newest first, of the golfer with the same record
+// number.
 struct KelvaneHistoryLayout {
   static constexpr std::string_view kName = "kelvane history";
   static constexpr std::size_t kLength = kKelvaneScores * kKelvaneScoreLength;

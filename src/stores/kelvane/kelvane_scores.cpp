@@ -10,11 +10,11 @@
 namespace golf {
 namespace {
 
-// A counter of the golfer's scores, and the dates of the header that it goes by.
+// A counter of the golfer's scores, and the date of the header from which it counts.
 struct CounterRule {
   int counter;
-  int date;  // of the header; 0 counts every score
-  bool on_the_day;
+  int date;         // number of the CounterDate; 0 counts every score
+  bool on_the_day;  // true if a score on that date counts too
 };
 
 constexpr CounterRule kCounterRules[] = {{2, 3, true}, {3, 1, false}, {4, 2, false}, {1, 0, false}};
@@ -35,7 +35,8 @@ void CountScore(KelvaneBuffers& buffers) {
   }
 }
 
-// Moves the entries `first` to `last` by one place, back with 1, forward with -1.
+// Moves the entries `first` to `last` by one place: towards the end if `by` is 1, towards the start
+// if it is -1.
 void Shift(KelvaneBuffers& buffers, int first, int last, int by) {
   if (by > 0) {
     for (int i = last; i >= first; --i) buffers.SetEntry(i + 1, buffers.Entry(i));
@@ -44,7 +45,8 @@ void Shift(KelvaneBuffers& buffers, int first, int last, int by) {
   }
 }
 
-// How many entries stand in front of the one at `place` once it is moved.
+// Returns how many entries precede the first other entry that is not newer than the one at `place`.
+// The entry at `place` may be one of them.
 int EntriesInFront(const KelvaneBuffers& buffers, int place) {
   const double date = buffers.history.Get<"Date">(place);
   const int count = std::min<int>(buffers.golfer.Get<"ScoreCounter">(1), kKelvaneScores);

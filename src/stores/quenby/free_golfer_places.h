@@ -6,24 +6,25 @@
 
 namespace golf {
 
-// The places that RosterPlayers::FindAvailableRecordInRosterFile would find one after another, from
-// one pass over the file instead of one for each search: it looks for the first record from 10 on
-// that holds neither a golfer nor the mark of one who is gone for good, and only records that the
-// run itself writes can change that. A record that is not noted is never given away.
+// The free places that repeated calls of RosterPlayers::FindAvailableRecordInRosterFile would find,
+// from one pass over the file. A place is free if it is record 10 or above and holds neither a
+// golfer nor the mark kNeverAgain. The results are the same because only the run itself writes
+// records and it notes each of them. A record that is not noted is never offered.
 class FreeGolferPlaces {
  public:
-  // `length`: the records of the file at the start.
+  // `length` is the number of records of the file at the start.
   explicit FreeGolferPlaces(std::int32_t length) : length_(length) {}
 
-  // Notes what stands in a record, as it was read or has now been written.
+  // Notes the ID of a record that was read or written.
   void Note(std::int32_t record, std::int32_t id);
-  // The first free record; behind the file if there is none.
+  // Returns the first free record, or the record behind the end of the file, at least 10, if there
+  // is none.
   std::int32_t First();
 
  private:
   std::int32_t length_;
-  std::vector<bool> free_;  // by record; a file may have millions of free ones
-  std::size_t lowest_ = 0;  // no free record lies below it
+  std::vector<bool> free_;  // by record; one bit each, for files of millions
+  std::size_t lowest_ = 0;  // no record below it is free
 };
 
 }  // namespace golf

@@ -14,7 +14,7 @@ std::string Trimmed(const std::string& text) { return std::string(Trim(text)); }
 }  // namespace
 
 bool ProgramClass::OpenMasterFile() {
-  state_.files.gate().Settle();  // a fault of other writes is not this file's
+  state_.files.gate().Settle();  // the error of another write must not be caught below
   try {
     if (master_file_ > 0) SaveMasterRecord();
     CloseMasterFile();
@@ -37,9 +37,9 @@ void ProgramClass::SaveMasterRecord() {
   state_.files.gate().Settle();
   try {
     state_.files.Write(master_file_, 1, master_);
-    state_.files.gate().Settle();  // the failure is to be met here
+    state_.files.gate().Settle();  // so that a failure is caught here
   } catch (const NumberedError&) {
-    // The file stays as it was, and nobody is told.
+    // The file keeps its old content.
   }
 }
 

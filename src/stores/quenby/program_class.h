@@ -9,23 +9,23 @@
 
 namespace golf {
 
-// The program master QBMASTER.Q9D and the roster list QBROSTER.Q9D in StoreDataPath: a buffer for
-// the one master record and one for a roster. Getters give texts trimmed; setters cut them to their
-// field. An index outside its bounds is error 9. What is not said to swallow an error raises those
-// of FileTable.
+// The program master QBMASTER.Q9D and the roster list QBROSTER.Q9D in StoreDataPath, with a buffer
+// for the one master record and one for a roster. Getters trim texts; setters cut them to the width
+// of their field. An index out of its range raises error 9, a number too large for its field error
+// 6. Functions on files raise the errors of FileTable unless they say otherwise.
 class ProgramClass {
  public:
   explicit ProgramClass(SharedState& state) : state_(state) {}
   ProgramClass(const ProgramClass&) = delete;
   ProgramClass& operator=(const ProgramClass&) = delete;
 
-  // Writes the master buffer back to a file that is open, then opens the master file. False after
-  // any error.
+  // Opens the master file. If it is open, writes the master buffer to it first. Returns false after
+  // an error of its own; only the error of a write that was kept back is raised.
   bool OpenMasterFile();
   void CloseMasterFile();
-  // An empty file leaves the buffer as it is.
+  // Reads the master record. An empty file leaves the buffer unchanged.
   void GetMasterRecord();
-  // A failure is swallowed.
+  // Writes the master record. A failure of this write raises no error.
   void SaveMasterRecord();
 
   std::int16_t ActiveRoster() const { return master_.Get<"ActiveRoster">(); }
@@ -51,13 +51,13 @@ class ProgramClass {
 
   void OpenRosterListFile();
   void CloseRosterListFile();
-  // Rosters ever made.
+  // Returns the number of roster records, those of deleted rosters included.
   std::int32_t RosterListFileLength();
-  // A number without a record leaves the buffer as it is.
+  // Reads a roster. A number without a record leaves the buffer unchanged.
   void GetRosterRecord(std::int32_t roster);
-  // Any number from 1; behind the end the file grows.
+  // Writes a roster, numbered from 1. A number beyond the end makes the file grow.
   void SaveRosterRecord(std::int32_t roster);
-  // The record stays and is free for another roster.
+  // Marks a roster as deleted. Its record stays and can be used for another roster.
   void DeleteRosterRecord(std::int32_t roster);
 
   bool IsRosterActive() const { return roster_.Get<"IsRosterActive">() != 0; }

@@ -7,7 +7,8 @@
 
 namespace golf {
 
-// Quenby's files apart from its course library. Rounds are 1 to 7, groups 0 men and 1 ladies.
+// Quenby's files except its course library. Rounds are 1 to 7. Group 0 is men, 1 ladies. Scores,
+// handicaps and indexes are in strokes. A negative handicap or index is a plus one.
 
 inline constexpr int kRounds = 7;
 inline constexpr int kHoles = 18;
@@ -85,7 +86,7 @@ struct TournamentLayout {
       SingleField("TeamHandicapPercent", 76),
       Int16Field("PointQuotaOption", 80),
       Int16Field("PointQuotaFromHandicap", 82),
-      Int16Field("PointsGiven", 84).By(Dimension{-5, 11}),  // by score less par
+      Int16Field("PointsGiven", 84).By(Dimension{-5, 11}),  // by score minus par
       Int16Field("PositionOption", 106),
       DateField("DateofRound", 108).By(quenby_fields::kByRound),
       Int16Field("CourseNumberPlayed", 164).By(quenby_fields::kByRound),
@@ -124,7 +125,7 @@ struct PlayerLayout {
   static constexpr auto kFields = std::to_array<Field>({
       Int16Field("PrintPlayer", 0),  // bit 0
       Int16Field("Cart", 2),         // bit 0
-      Int32Field("IDNum", 4),        // 1 or more: a golfer; -1 never used again; else free
+      Int32Field("IDNum", 4),        // 1 or more: a golfer; -1: never used again; else free
       Int16Field("Rosters", 8).By(quenby_fields::kOfFour),
       TextField("NameFirst", 16, 11),
       TextField("NameLast", 27, 16),
@@ -162,7 +163,7 @@ struct TournamentPlayerLayout {
       Int16Field("TourRosterRecordPointer", 0),  // record of QBGOLFER.Q9D; 0 free
       Int16Field("TourTeamOn", 2).By(quenby_fields::kByRound),
       Int16Field("TourTeamPositionIn", 16).By(quenby_fields::kByRound),
-      Int16Field("TourFlags", 30).By(quenby_fields::kByRound),  // bit 0 locked, 1 sent to Kelvane
+      Int16Field("TourFlags", 30).By(quenby_fields::kByRound),  // bit 0 locked; 1 sent to Kelvane
       KeptBytes(44, 14),
       SingleField("TourIndex", 58).By(quenby_fields::kByRound),
       SingleField("TourGrossHandicap", 86).By(quenby_fields::kByRound),

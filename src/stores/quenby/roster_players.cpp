@@ -148,7 +148,7 @@ std::string RosterPlayers::NameLF() const {
   return name.starts_with(',') ? std::string() : name;
 }
 
-// A first name alone has no blank behind it, a last name alone one in front.
+// Without a last name there is no trailing blank. Without a first name there is a leading one.
 std::string RosterPlayers::NameFL() const {
   const std::string last = NameLast();
   return last.empty() ? NameFirst() : NameFirst() + " " + last;

@@ -11,16 +11,16 @@
 
 namespace golf {
 
-// The records before it are never looked at.
+// Records before this one are never used for a golfer.
 inline constexpr std::int16_t kFirstGolferRecord = 10;
-// An ID that keeps its record from being used again.
+// The ID of a record that is never used again.
 inline constexpr std::int32_t kNeverAgain = -1;
 
-// The golfers of all Quenby rosters, QBGOLFER.Q9D in StoreDataPath, one of them in a buffer: the
-// first storey of a player. Getters give texts trimmed; setters trim them and cut them to their
-// field. Where a getter is said to mend, it brings the stored value into its range in the buffer.
-// An index outside its bounds is error 9, a number too large for its field error 6; files raise the
-// errors of FileTable.
+// The golfers of all Quenby rosters, QBGOLFER.Q9D in StoreDataPath, with one golfer in a buffer. It
+// is the first storey of a player. Getters trim texts; setters trim them and cut them to the width
+// of their field. A getter that mends replaces a stored value out of its range, in the buffer only.
+// An index out of its range raises error 9, a number too large for its field error 6. Functions on
+// files raise the errors of FileTable.
 class RosterPlayers {
  public:
   explicit RosterPlayers(SharedState& state) : state_(state) {}
@@ -33,36 +33,40 @@ class RosterPlayers {
   bool IsRosterFileOpen() const { return file_ > 0; }
   std::int32_t RosterFileLength();
   void BlankPlayerRecord();
-  // The first free record from `start` on, which is raised to 10 if it is lower; behind the file if
-  // there is none. The buffer holds the last record read.
+  // Returns the first free record from `start` on. If there is none, returns the record behind the
+  // end of the file, or `start` if that is higher. A lower `start` is set to 10. The buffer holds
+  // the last record read.
   std::int32_t FindAvailableRecordInRosterFile(std::int16_t& start);
-  // The record in the buffer, in the format "000".
+  // Returns the number of the record in the buffer, in the format "000".
   std::string RecordNumber() const;
   bool PlayerExists() const { return player_.Get<"IDNum">() >= 1; }
 
-  // "Y" or anything else.
   bool PrintPlayer() const { return IsFlagged<"PrintPlayer">(); }
+  // "Y" sets the flag, any other text clears it.
   void SetPrintPlayer(std::string_view value);
   int Cart() const { return IsFlagged<"Cart">() ? 1 : 0; }
   void SetCart(bool value) { SetFlag<"Cart">(value); }
   std::string CartString() const { return IsFlagged<"Cart">() ? "Y" : " "; }
 
-  // Empty for a record that holds no golfer.
+  // Returns the ID as text, empty for a record without a golfer.
   std::string IDNum() const;
   void SetIDNum(double value);
   std::int32_t StoredID() const { return player_.Get<"IDNum">(); }
 
-  // Roster numbers, packed to the front; setting one takes it off any other of the first three.
+  // Roster numbers in slots 1 to 4; 0 is none. SetRosters clears the same number in the other slots
+  // 1 to 3, and then moves the slots 1 to 3 up so that no empty slot precedes a used one.
   std::int16_t Rosters(int n) const { return player_.Get<"Rosters">(n); }
   void SetRosters(int n, double value);
-  // 0: the names of all rosters; 1 to 4: the text of one box, with the roster number at its end.
+  // Returns the names of the golfer's rosters in slots 1 to 3 for 0, or for 1 to 4 the text of the
+  // box of that slot, with the roster number at its end. Reads the roster list of the shared
+  // Program.
   std::string RosterNames(int which);
 
   std::string NameFirst() const { return Text<"NameFirst">(); }
   void SetNameFirst(std::string_view value) { SetText<"NameFirst">(value); }
   std::string NameLast() const { return Text<"NameLast">(); }
   void SetNameLast(std::string_view value) { SetText<"NameLast">(value); }
-  // "Last, First"; empty without a last name.
+  // Returns "Last, First", or an empty text without a last name.
   std::string NameLF() const;
   std::string NameFL() const;
 
@@ -100,28 +104,31 @@ class RosterPlayers {
   std::string Flight();  // mends to "A"
   void SetFlight(std::string_view value);
   std::int16_t GroupTee();  // mends to 1
-  // A value outside 1 to 5 becomes 1, for the caller too.
+  // Sets `value` to 1 in place if it is outside 1 to 5.
   void SetGroupTee(double& value);
   std::string PreferredTime() const;  // "Early", "Middle", "Late" or "None"
   void SetPreferredTime(std::string_view value);
 
-  // The handicap index in strokes. The index of a plus golfer is below 0: Index() shows it with a
-  // plus sign, IndexValue() with a minus sign.
+  // The handicap index in strokes. A negative index is a plus index: Index() shows it with a plus
+  // sign, IndexValue() with a minus sign, both with one decimal.
   std::string Index() const;
   std::string IndexValue() const;
   void SetIndex(double value) { player_.Set<"Index">(CheckedSingle(value)); }
+  // The handicap in strokes, as text with two decimals or none. A negative handicap is a plus
+  // handicap: Handicap() shows it with a plus sign, HandicapValue() with a minus sign.
   std::string Handicap(bool decimals) const;
   std::string HandicapValue(bool decimals) const;
   void SetHandicap(double value) { player_.Set<"Handicap">(CheckedSingle(value)); }
 
   DateValue MiscDate(int n) const { return player_.Get<"MiscDate">(n); }
   void SetMiscDate(int n, DateValue value) { player_.Set<"MiscDate">({n}, value); }
-  // In the date format of the shared state; empty for an n other than 1 or 2.
+  // Returns the date in the date format of the shared state, or an empty text for an n other than 1
+  // or 2.
   std::string MiscDateString(int n) const;
   DateValue DueDate() const { return player_.Get<"DueDate">(); }
   void SetDueDate(DateValue value) { player_.Set<"DueDate">(value); }
   std::string DueDateString() const;
-  // Amounts times 10000; as text in the format "0.00".
+  // The setters take the amount times 10000. The getters return it in the format "0.00".
   std::string MiscCurrency(int n) const;
   void SetMiscCurrency(int n, std::int64_t value) { player_.Set<"MiscCurrency">({n}, value); }
   std::string DueAmount() const;
@@ -130,15 +137,15 @@ class RosterPlayers {
  protected:
   SharedState& state() const { return state_; }
 
-  // A golfer's record into the buffer; false with nothing read for a number below 1.
+  // Reads a golfer's record into the buffer. Returns false and reads nothing for a number below 1.
   bool ReadPlayer(std::int32_t record);
   void WritePlayer();
 
-  // Set for all rounds at every read and save, when the buffers may hold something new.
+  // By round: true if the results must be calculated again. Every read and save sets all of them.
   std::array<bool, kRounds> recalculate_{};
 
-  std::int32_t held_ = 0;            // the record in the buffer
-  bool tournament_in_hand_ = false;  // what the last GetRecord or SaveRecord worked on
+  std::int32_t held_ = 0;            // the number of the record in the buffer
+  bool tournament_in_hand_ = false;  // true if the last read or save was for an entry
 
  private:
   template <FieldName kName>
@@ -161,7 +168,7 @@ class RosterPlayers {
   bool IsFlagged() const {
     return (player_.Get<kName>() & 1) != 0;
   }
-  // Clearing the flag clears the bits 9 to 15 as well.
+  // Clearing the flag also clears the bits 9 to 15.
   template <FieldName kName>
   void SetFlag(bool value) {
     const int word = player_.Get<kName>();
@@ -175,11 +182,13 @@ class RosterPlayers {
   Record<PlayerLayout> player_;
 };
 
-// "Early", "Middle" and "Late" for 1 to 3, "None" for any other number, and back (0).
+// Convert between 1, 2, 3 and "Early", "Middle", "Late". Any other number gives "None", any other
+// text 0.
 std::string PreferredTimeName(int number);
 std::int16_t PreferredTimeNumber(std::string_view name);
 
-// An amount times 10000 in whole cents, half away from zero, and in the format "0.00".
+// Convert an amount times 10000 to whole cents, rounded half away from zero, and to text in the
+// format "0.00".
 std::int64_t CurrencyInCents(std::int64_t value);
 std::string FormatCurrency(std::int64_t value);
 

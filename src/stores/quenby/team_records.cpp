@@ -36,7 +36,7 @@ void TeamRecords::DeleteTeamFile(std::int32_t tournament) {
 }
 
 bool TeamRecords::GetRecord(std::int32_t team) {
-  // The last team that a tournament may have is refused.
+  // Team 200 is refused, although a tournament may have 200 teams.
   if (team <= 0 || team >= kMostTeams) return false;
   state_.files.Read(file_, team, record_);
   number_ = static_cast<std::int16_t>(team);

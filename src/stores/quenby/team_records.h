@@ -12,8 +12,9 @@
 
 namespace golf {
 
-// The teams of a tournament, one of its ".Q9T" file in a buffer: the first storey of a team. A
-// round that is left out is the active round of the shared tournament. Errors as RosterPlayers.
+// The teams of a tournament, the ".Q9T" file, with one team in a buffer. It is the first storey of
+// a team. An omitted round is the active round of the shared tournament. "Mends" and errors as for
+// RosterPlayers.
 class TeamRecords {
  public:
   explicit TeamRecords(SharedState& state) : state_(state) {}
@@ -23,28 +24,30 @@ class TeamRecords {
 
   void OpenTeamFile(std::int32_t tournament);
   void CloseTeamFile();
-  // A failure is swallowed.
+  // Deletes the file. A failure raises no error.
   void DeleteTeamFile(std::int32_t tournament);
-  // Teams 1 to 199; false with nothing read for any other number.
+  // Reads a team, 1 to 199. Returns false and reads nothing for any other number.
   bool GetRecord(std::int32_t team);
   void SaveRecord();
   void SaveRecord(std::int32_t team);
   void BlankTeamRecord();
   std::int16_t TeamNumber() const { return number_; }
 
-  // Where the tournament names teams by their players, the last names of the team's golfers in the
-  // active round; the player buffers hold the last of them then.
+  // Returns the team's name. If the tournament names teams by their players, returns the last names
+  // of the team's golfers in the active round, and the player buffers hold another entry
+  // afterwards.
   std::string TeamName();
   void SetTeamName(std::string_view value);
   std::string Sponsor() const;
   void SetSponsor(std::string_view value);
   std::string Flight(OptionalRound round = {});  // mends to "A"
   void SetFlight(OptionalRound round, std::string_view value);
-  // A fraction of a day.
+  // The tee time as a fraction of a day. The setter keeps only the fraction of `value`, without its
+  // sign.
   float TeeTimeValue(OptionalRound round = {}) const;
   void SetTeeTimeValue(OptionalRound round, double value);
   std::string TeeTimeHHMMAMPM(OptionalRound round = {}) const;  // "05:00 pm"
-  std::string TeeStartHole(OptionalRound round = {});           // mends: "01", "10B"
+  std::string TeeStartHole(OptionalRound round = {});           // "01", "10B"; mends
   void SetTeeStartHole(OptionalRound round, std::string_view value);
   std::string Cart1(OptionalRound round = {}) const;
   void SetCart1(OptionalRound round, std::string_view value);
@@ -52,19 +55,19 @@ class TeamRecords {
   void SetCart2(OptionalRound round, std::string_view value);
   std::int16_t CourseNumberPlayed(OptionalRound round = {}) const;
   void SetCourseNumberPlayed(OptionalRound round, double value);
-  // Makes that course current in the shared course object.
+  // Returns the course's name and makes that course current in the shared course object.
   std::string CourseNamePlayed(OptionalRound round = {});
 
  protected:
   SharedState& state() const { return state_; }
   int RoundOr(OptionalRound round) const;
 
-  // Reads the team's golfers in a round into the player buffers, in team order, and calls `action`
-  // with the record number of each entry until it answers false. A team that the tournament does
-  // not count has nobody.
+  // Reads the entries of the team's golfers in a round into the player buffers, in team order.
+  // Calls `action` with the record number of each until it returns false. A team number above the
+  // tournament's number of teams has no golfers.
   void ForEachGolfer(int round, const std::function<bool(std::int32_t record)>& action);
 
-  // Set for all rounds when the buffer may hold something new.
+  // By round: true if the results must be calculated again. Every read and save sets all of them.
   std::array<bool, kRounds> recalculate_{};
   std::array<bool, kRounds> recalculate_holes_{};
 

@@ -12,18 +12,19 @@
 
 namespace golf {
 
-// A round of 1 to 7; left out, the active round of the shared tournament object.
+// A round, 1 to 7. An omitted round is the active round of the shared tournament object.
 using OptionalRound = std::optional<int>;
 
-// The name of a file of a tournament, without folder: "X0012" and the extension.
+// Returns the name of a file of a tournament without its folder: "X0012" and the extension.
 std::string TournamentFileName(std::int32_t tournament, std::string_view extension);
-// The tournament of a control file by its name; nothing for a file that is no tournament's.
+// Returns the tournament whose control file has this name, or no value if it is not the name of a
+// control file.
 std::optional<std::int32_t> TournamentOfFile(std::string_view name);
 
-// The control record of a tournament, one file at a time in StoreDataPath. It is the base of the
-// tournament's other classes. Where a getter is said to mend, it brings the stored value into
-// its range in the buffer, and the next save writes it. An index outside its bounds is error 9, a
-// number too large for its field error 6.
+// The control record of a tournament, one file at a time in StoreDataPath. It is the base of
+// TournamentClass. A getter that mends replaces a stored value out of its range in the buffer, and
+// the next save writes it. An index out of its range raises error 9, a number too large for its
+// field error 6. Functions on files raise the errors of FileTable.
 class TournamentControl {
  public:
   explicit TournamentControl(SharedState& state) : state_(state) {}
@@ -31,15 +32,15 @@ class TournamentControl {
   TournamentControl& operator=(const TournamentControl&) = delete;
   virtual ~TournamentControl() = default;
 
-  // -1 stands for the file of defaults. A missing file comes into being empty.
+  // Opens the control file; -1 is the file of defaults. A missing file is created empty.
   void OpenTournamentControlFile(std::int32_t tournament);
   void CloseTournamentControlFile();
-  // Fills the buffer for a new tournament, makes its team file and opens its control file; writes
-  // no control record.
+  // Fills the buffer for a new tournament, writes its team file and opens its control file. Does
+  // not write the control record.
   void CreateBlankTournament(std::int32_t tournament);
   void DeleteTournamentControlFile(std::int32_t tournament);
-  // An empty file leaves the buffer as it is; a record of an older release is brought up to date in
-  // the buffer.
+  // Reads the control record. An empty file leaves the buffer unchanged. A record of an older
+  // release is brought up to date in the buffer.
   void GetRecord();
   void SaveRecord();
   std::int32_t IDNum() const { return id_; }
@@ -47,7 +48,8 @@ class TournamentControl {
   std::string Name() const;
   void SetName(std::string_view value);
 
-  // As decimal text; these mend: rounds 1 to 5, teams 1 to 200, flights 1 to 26, tees 0 to 5.
+  // These getters return decimal text and mend: rounds 1 to 5, teams 1 to 200, flights 1 to 26,
+  // tees 0 to 5.
   std::string NumRounds() { return std::to_string(RoundCount()); }
   void SetNumRounds(double value) { SetInt16<"NumRounds">(value); }
   std::string NumTeams() { return std::to_string(TeamCount()); }
@@ -65,12 +67,12 @@ class TournamentControl {
   int TeamCount() { return Mended<"NumTeams">(1, kMostTeams); }
   int FlightCount() { return Mended<"NumFlights">(1, kMostFlights); }
   int TeeCount(int group);  // 0 men, 1 ladies
-  // The larger of the two, at least 1.
+  // Returns the larger of the two tee counts, at least 1.
   int NumTeeGroups();
 
   std::int16_t NumPlayersPerTeam() const { return record_.Get<"NumPlayersPerTeam">(); }
   void SetNumPlayersPerTeam(double value) { SetInt16<"NumPlayersPerTeam">(value); }
-  // These mend to the value named first.
+  // These getters mend to the lowest value of their range, RoundType to 18.
   std::int16_t RoundType();  // 18 or 9
   void SetRoundType(double value) { SetInt16<"RoundType">(value); }
   std::int16_t TeamHandicapOption() { return MendedOption<"TeamHandicapOption">(1, 3); }
@@ -86,7 +88,7 @@ class TournamentControl {
   std::int16_t TeamFlightsDeterminedBy() { return MendedOption<"TeamFlightsDeterminedBy">(0, 4); }
   void SetTeamFlightsDeterminedBy(double value) { SetInt16<"TeamFlightsDeterminedBy">(value); }
 
-  // 1 if on, else 0; decimal places 2 if on, else 0.
+  // These getters return 1 if the option is on, else 0. HandicapDecimalPlaces returns 2 or 0.
   int IndextoHandicap() const { return IsOn<"IndextoHandicap">() ? 1 : 0; }
   void SetIndextoHandicap(bool on) { SetFlag<"IndextoHandicap">(on); }
   int HandicapDecimalPlaces() const { return IsOn<"HandicapDecimalPlaces">() ? 2 : 0; }
@@ -98,33 +100,36 @@ class TournamentControl {
   int ShowTeamsonSheet() const { return IsOn<"ShowTeamsonSheet">() ? 1 : 0; }
   void SetShowTeamsonSheet(bool on) { SetFlag<"ShowTeamsonSheet">(on); }
 
-  // Text in the format "0". A value outside 0 to 100 is replaced by 25 and by 36.
+  // The getters return text in the format "0". A set value outside 0 to 100 is replaced by 25
+  // percent for TeamHandicapPercent and by 36 points for PointQuotaFromHandicap.
   std::string TeamHandicapPercent() const;
   void SetTeamHandicapPercent(std::string_view value);
   std::string PointQuotaFromHandicap() const;
   void SetPointQuotaFromHandicap(std::string_view value);
-  std::string PointsGiven(int difference) const;  // by score less par, -5 to 5
+  std::string PointsGiven(int difference) const;  // by score minus par, -5 to 5
   void SetPointsGiven(int difference, double value);
 
-  // In the date format of the shared state; empty for a round outside 1 to 7.
+  // Returns the date in the date format of the shared state, or an empty text for a round outside 1
+  // to 7.
   std::string DateofRound(OptionalRound round = {});
   void SetDateofRound(OptionalRound round, DateValue value);
   std::int16_t CourseNumberPlayed(OptionalRound round = {});
   void SetCourseNumberPlayed(OptionalRound round, double value);
-  // These make that course current in the shared course object.
+  // Return the name, and make that course current in the shared course object.
   std::string CourseNamePlayed(OptionalRound round = {});
   std::string TeeNamePlayed(int group, int n, OptionalRound round = {});
 
   std::int16_t TeeNumberPlayed(int group, int n, OptionalRound round = {});
   void SetTeeNumberPlayed(int group, int n, OptionalRound round, double value);
+  // The percentage of the handicap that counts. A set value above 200 or below 1 becomes 100.
   float TeeHandicapPercent(int group, int n, OptionalRound round = {});
-  // A value above 200 or below 1 becomes 100.
   void SetTeeHandicapPercent(int group, int n, OptionalRound round, double value);
+  // In strokes. The setter takes text.
   float TeeHandicapAdjustment(int group, int n, OptionalRound round = {});
   void SetTeeHandicapAdjustment(int group, int n, OptionalRound round, std::string_view value);
 
   std::string ActiveRound() const;
-  // A value outside 1 to the stored number of rounds becomes 1.
+  // Sets the active round. A value outside 1 to the stored number of rounds becomes 1.
   void SetActiveRound(double value);
   int RoundOr(OptionalRound round) const { return round.value_or(record_.Get<"ActiveRound">()); }
 
@@ -160,10 +165,11 @@ class TournamentControl {
     record_.Set<"TeamSheetColumnSortedHow">({i}, value ? -1 : 0);
   }
 
-  // Text in the format "0.00"; a negative value becomes 0.
+  // The highest handicap of a group, in strokes. The getter returns text in the format "0.00". A
+  // negative value set becomes 0.
   std::string HandicapMax(int group) const;
   void SetHandicapMax(int group, double value);
-  // The pattern of new team names; an empty one becomes "Team #".
+  // The pattern of new team names. An empty one is set to "Team #".
   std::string TeamNamesMat() const;
   void SetTeamNamesMat(std::string_view value);
   std::int32_t PlayerFlightRange(int i) const { return record_.Get<"PlayerFlightRange">(i); }
@@ -171,10 +177,11 @@ class TournamentControl {
   std::int32_t TeamFlightRange(int i) const { return record_.Get<"TeamFlightRange">(i); }
   void SetTeamFlightRange(int i, double value);
 
-  // Live entries of the open player file; its buffers hold the last one read.
+  // Returns the number of live entries of the open player file. The player buffers hold the last
+  // record read.
   std::int32_t NumPlayersInTournament();
 
-  // The record as it stands, for whoever calculates with its numbers; nothing is mended.
+  // Returns the record itself, for calculations with its numbers. Nothing is mended.
   const Record<TournamentLayout>& Stored() const { return record_; }
 
  protected:
@@ -217,7 +224,7 @@ int TournamentControl::Mended(int low, int high) {
   return mended;
 }
 
-// A value outside the range becomes `low`.
+// Replaces a value outside the range by `low`.
 template <FieldName kName>
 std::int16_t TournamentControl::MendedOption(int low, int high) {
   const std::int16_t value = record_.Get<kName>();

@@ -12,7 +12,7 @@ namespace {
 constexpr int kMostPutts = 200;
 constexpr double kMostAdjusted = 250;
 
-// Bits of the flag word; clearing one clears the bits 9 to 15 as well.
+// Bits of the flag word. Clearing one also clears the bits 9 to 15.
 constexpr int kLocked = 1;
 constexpr int kSentToKelvane = 2;
 constexpr int kLowBits = 0x1FF;
@@ -24,7 +24,7 @@ std::int16_t WithFlag(int word, int bit, bool set) {
 }  // namespace
 
 void TournamentPlayers::TourBlankPlayerRecord() {
-  constexpr Field kKept = TournamentPlayerLayout::kFields[4];  // it stays as it is
+  constexpr Field kKept = TournamentPlayerLayout::kFields[4];  // these bytes are kept
   for (const Field& field : TournamentPlayerLayout::kFields) {
     if (field.offset != kKept.offset) FillField(field, entry_.MutableBytes(), 0);
   }

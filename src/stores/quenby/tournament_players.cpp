@@ -16,7 +16,7 @@ namespace {
   throw NumberedError(ErrorNumber::kSubscript, "The index by teams has no such place.");
 }
 
-// The element of a table that counts from 0, or error 9.
+// Returns an element of a table that counts from 0. Error 9 if there is none.
 template <class Vector>
 auto& ElementOf(Vector& table, std::int64_t i) {
   if (i < 0 || i >= static_cast<std::int64_t>(table.size())) FailIndex();
@@ -147,7 +147,7 @@ void TournamentPlayers::IndexPlayersByTeam() {
   index_stale_ = false;
 }
 
-// The records of the live entries, sorted by team and place, are in records_ afterwards.
+// Sorts the records of the live entries by team and place into records_. Returns their number.
 std::int32_t TournamentPlayers::SortedEntries(int round, int teams, std::int32_t length) {
   keys_.clear();
   records_.clear();
@@ -175,7 +175,7 @@ void TournamentPlayers::IndexRound(int round, int teams, std::int32_t length) {
       SaveRecord(record, true);
     }
     const int team = TourTeamOn(round);
-    // Nobody asks for a team below 0.
+    // No caller asks for a team below 0.
     if (team != team_before && team >= 0) ElementOf(OfRound(first_on_team_, round), team) = place;
     team_before = team;
   }

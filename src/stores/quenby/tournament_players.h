@@ -11,44 +11,46 @@
 
 namespace golf {
 
-// The golfers of a tournament, one entry of its ".Q9G" file in a second buffer beside the roster's:
-// the second storey of a player. A round that is left out is the active round of the shared
-// tournament. Errors as RosterPlayers.
+// The golfers of a tournament, the ".Q9G" file, with one entry in a second buffer beside the
+// golfer's. It is the second storey of a player. An omitted round is the active round of the shared
+// tournament. "Mends" and errors as for RosterPlayers.
 class TournamentPlayers : public RosterPlayers {
  public:
   using RosterPlayers::RosterPlayers;
 
   void TourOpenTournamentFile(std::int32_t tournament);
   void TourCloseTournamentFile();
-  // A failure is swallowed.
+  // Deletes the file. A failure raises no error.
   void TourDeleteTournamentFile(std::int32_t tournament);
   std::int32_t TourFileLength();
-  // Live entries; the buffers hold the last record.
+  // Returns the number of live entries. The buffers hold the last record.
   std::int32_t TourNumberofPlayersInTournament();
-  // The first free entry from `start` on, else behind the file, else `start`.
+  // Returns the first free entry from `start` on. If there is none, returns the record behind the
+  // end of the file, or `start` if that is higher.
   std::int32_t TourFindAvailableRecordInFile(std::int32_t start);
-  // The entry points at a golfer within the roster file.
+  // Returns true if the entry refers to a record within the roster file.
   bool TourPlayerExists();
 
-  // With `tournament`, an entry and its golfer; without, a golfer. False with nothing read for a
-  // number below 1.
+  // Reads an entry and its golfer if `tournament` is true, else a golfer. Returns false and reads
+  // nothing for a number below 1.
   bool GetRecord(std::int32_t record, bool tournament);
-  // Writes the buffer that was worked on last, to the record it came from.
+  // Writes the buffer of the last read or save, to the same record or to `record`.
   void SaveRecord();
   void SaveRecord(std::int32_t record);
-  // Writes the buffer asked for. A number given for an entry is held for the golfer as well, until
-  // the next read.
+  // Writes the entry if `tournament` is true, else the golfer. The number of an entry also becomes
+  // the golfer's record number until the next read.
   void SaveRecord(std::int32_t record, bool tournament);
-  void SaveRecord(bool) = delete;  // a flag is no record number
+  void SaveRecord(bool) = delete;  // a flag is not a record number
   void TourBlankPlayerRecord();
 
-  // The entries in the order of teams and places, for each round. The first two bring an index that
-  // is out of date up to date, the third takes it as it is.
+  // The index of each round: the entries in the order of teams and places. The first two functions
+  // rebuild an outdated index; the third uses the index as it is. Places and teams out of range
+  // raise error 9. 0 means no entry.
   std::int32_t TourIndexNumberofPlayersInIndex();
   std::int32_t TourIndex1stPlayerOnTeam(int team, OptionalRound round = {});
   std::int32_t TourIndexPlayerbyTeam(std::int32_t i, OptionalRound round = {}) const;
-  // Rebuilds the index; an entry on a team above NumTeams is taken off it, in the file. The buffers
-  // hold the last record read.
+  // Rebuilds the index. An entry on a team above NumTeams is removed from it, also in the file. The
+  // buffers hold the last record read.
   void IndexPlayersByTeam();
 
   std::int16_t TourRosterRecordPointer() const { return entry_.Get<"TourRosterRecordPointer">(); }
@@ -61,7 +63,7 @@ class TournamentPlayers : public RosterPlayers {
   void SetTourTeamOnInTrial(int trial, double value);
 
   int TourLockFlag(OptionalRound round = {}) const;
-  // "Y" or "1" locks.
+  // "Y" or "1" sets the lock, any other text clears it.
   void SetTourLockFlag(OptionalRound round, std::string_view value);
   bool TourScoreTransferredtoKV(int round) const;
   void SetTourScoreTransferredtoKV(int round, bool value);
@@ -70,6 +72,9 @@ class TournamentPlayers : public RosterPlayers {
   void SetTourFlight(OptionalRound round, std::string_view value);
   std::int16_t TourGroupTee(OptionalRound round = {});  // mends to 1
   void SetTourGroupTee(OptionalRound round, double value);
+  // The handicap index, the gross handicap and the quota of the round: strokes, strokes and points.
+  // A negative index or handicap is a plus one: TourIndex shows it with a plus sign, TourIndexValue
+  // with a minus sign.
   std::string TourIndex(OptionalRound round = {}) const;
   std::string TourIndexValue(OptionalRound round = {}) const;
   void SetTourIndex(OptionalRound round, double value);
@@ -97,12 +102,12 @@ class TournamentPlayers : public RosterPlayers {
   void SetTourGreens(OptionalRound round, double value);
   std::string TourEarnings(OptionalRound round = {}) const;
   void SetTourEarnings(OptionalRound round, std::int64_t value);  // the amount times 10000
-  // At most 250, for the caller too.
+  // Stores strokes. Lowers `value` in place to at most 250.
   void SetTourScoreAdjusted(OptionalRound round, double& value);
-  // Holes 1 to 18, and 21 for a total; any other hole stores nothing.
+  // Stores the strokes of a hole 1 to 18, or the total for 21. Any other hole stores nothing.
   void SetTourScoreGross(int hole, OptionalRound round, double value);
 
-  // The entry as it stands, for whoever calculates with its numbers; nothing is mended.
+  // Returns the entry itself, for calculations with its numbers. Nothing is mended.
   const Record<TournamentPlayerLayout>& StoredEntry() const { return entry_; }
 
  protected:
@@ -120,8 +125,8 @@ class TournamentPlayers : public RosterPlayers {
   std::int32_t entry_held_ = 0;
   bool index_stale_ = true;
   std::int32_t index_count_ = 0;
-  std::int32_t index_length_ = -1;  // the highest place that may be asked for
-  // By round; places count from 1, and 0 stands for nobody. A list ends with its last golfer.
+  std::int32_t index_length_ = -1;  // the highest valid place
+  // By round. Places count from 1; 0 means no entry. A list ends with its last entry.
   std::array<std::vector<std::int32_t>, kRounds> players_by_team_;
   std::array<std::vector<std::int32_t>, kRounds> first_on_team_;
   std::vector<float> keys_;

@@ -10,32 +10,33 @@
 
 namespace golf {
 
-// Above the codes of the events: the scores before event e have e more.
+// The code of the scores before event e is this number plus e.
 inline constexpr int kNonEventCode = 500;
 
-// The scores of a league that are posted together: those of an event, or those that were played
-// before it apart from events.
+// The scores of a league that are posted together: those of an event, or the non-event scores that
+// were played before it.
 struct ScoreBatch {
-  int code;  // the event's number, 500 more for the scores before it; 501 is practice
+  int code;  // the event's number, or 500 more for the scores before it; 501 is practice
   std::string text;
-  std::size_t blanks;  // that push the code out of sight
+  std::size_t blanks;  // between text and code, so that a list does not show the code
 
-  // As a list shows it.
+  // Returns the item for a list: text, blanks and code.
   std::string Item() const;
 };
 
-// The code at the end of such an item, and what of it is meant to be read.
+// Return the code at the end of such an item, and the text in front of it.
 int BatchCode(std::string_view item);
 std::string BatchHeading(const std::string& item);
 
 struct ScoreBatches {
   std::vector<ScoreBatch> list;
-  int selected = 0;  // the place from 0 that is offered: the current event, else practice; -1: none
+  // Index of the batch that is selected first: the current event, or practice. -1: none.
+  int selected = 0;
 };
 
-// Closes the league files, opens those of the league chosen from the list and reads its batches.
-// Nothing, with the files closed, if its base is no number above 0 or no name of a file. Errors as
-// FileTable.
+// Closes the league files, opens those of the league chosen from the list and reads its batches. If
+// the base is not a valid file name or LeadingNumber of it is 0, returns no value and leaves the
+// files closed. Raises the errors of FileTable.
 std::optional<ScoreBatches> LoadScoreBatches(SharedState& state, std::string_view chosen);
 
 }  // namespace golf

@@ -8,7 +8,7 @@ namespace golf {
 // The one buffer of the process for each Zandel record. They outlive InitSharedObjects.
 struct ZandelBuffers {
   Record<LeagueControlLayout> control;
-  Record<LeaguePlayerLayout> player;  // or substitute
+  Record<LeaguePlayerLayout> player;  // a player or a substitute
   Record<LeagueTeamLayout> team;
   Record<LeagueEventLayout> event;
 };

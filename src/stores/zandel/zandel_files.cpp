@@ -14,10 +14,10 @@ constexpr std::size_t kLeagueLength = 4;  // of a base, without its division
 constexpr std::size_t kBlanksBeforeBase = 60;
 constexpr const char* kControlExtension = ".ZL8";
 
-// The files of a league in the order in which they are opened.
+// A file of a league. The table lists them in the order in which they are opened.
 struct LeagueFile {
   int number;
-  bool of_league;  // shared by the divisions
+  bool of_league;  // true for a file that the divisions share
   const char* extension;
   std::size_t record_length;
 };
@@ -97,7 +97,8 @@ std::vector<ListedLeague> ListLeagues(SharedState& state) {
   for (const std::string& name : files.FilesLike(state.ZDDataPath, "0*.ZL8")) {
     const std::string base = name.substr(0, kBaseLength);
     const std::string file = base + kControlExtension;
-    // A name of another length leads to a file that need not be there; looking must not make it.
+    // A name of another length gives the name of a file that may not exist. Listing must not create
+    // it.
     if (!EqualIgnoringCase(name, file) && !LeagueExists(state, base)) continue;
     ReadControlOnce(state, state.ZDDataPath + file);
     const auto& control = state.Zandel().control;

@@ -9,9 +9,9 @@
 
 namespace golf {
 
-// Zandel's league files, opened under fixed numbers and read into the shared buffers. A division is
-// named by its base: four characters for the league, of which the first is "0", and the division's
-// digit. All raise the numbered errors of FileTable.
+// Zandel's league files. They are opened under fixed numbers and read into the shared buffers. A
+// division is named by its base: four characters for the league, the first of them "0", and the
+// division's digit. All functions on files raise the errors of FileTable.
 
 inline constexpr int kLeagueControlFile = 10;
 inline constexpr int kLeaguePlayerFile = 11;
@@ -20,22 +20,22 @@ inline constexpr int kLeagueTeamFile = 13;
 inline constexpr int kLeagueEventFile = 14;
 inline constexpr int kLeagueListFile = 21;  // open only while leagues are listed
 
-// In the file of substitutes the records below are never touched.
+// Records below this one of the file of substitutes are never used.
 inline constexpr int kFirstSubstitute = 6;
 
-// The base at the end of a league as it was chosen from the list.
+// Returns the base at the end of an item chosen from the list of leagues.
 std::string LeagueBase(std::string_view chosen);
 
-// True if `base` is five characters long and a division has it.
+// Returns true if `base` has five characters and a division of this base exists.
 bool LeagueExists(SharedState& state, std::string_view base);
 
-// Opens the files of a division with its golfers (control file, players, substitutes), or all five,
-// and reads the control record. What is not there comes into being empty. Error 75 for a base that
-// cannot be the name of a file.
+// Open the files of a division and read the control record. OpenLeagueGolfers opens the control
+// file, players and substitutes; OpenLeague opens all five. A missing file is created empty. Error
+// 75 for a base that is not a valid file name.
 void OpenLeagueGolfers(SharedState& state, std::string_view base);
 void OpenLeague(SharedState& state, std::string_view base);
 
-// "Ann Smith", or "Golfer #12" by his ID where he has no name.
+// Returns "Ann Smith", or "Golfer #12" for a golfer without a name whose ID is 12.
 std::string LeagueGolferName(const Record<LeaguePlayerLayout>& player);
 
 // Closes the files that OpenLeague opens.
@@ -44,17 +44,17 @@ void CloseLeague(SharedState& state);
 // An entry of the list of leagues.
 struct ListedLeague {
   std::string base;
-  bool whole;  // the league as a whole, for which its division 1 stands; else a division
+  bool whole;  // true for the whole league, which has the base of its division 1
   Record<LeagueControlLayout> control;
 
   std::string Heading() const;
-  // As a list shows it: the heading, blanks that push the key out of sight, the base.
+  // Returns the item for a list: the heading, blanks so that the base is not visible, the base.
   std::string Item() const;
 };
 
-// Closes all files of the process, then reads the leagues of the Zandel folder: for each control
-// file, in the order of the names, the league if it is its division 1, and the division. The
-// control buffer holds the last record that was read.
+// Closes all files of the process, then reads the control files of the Zandel folder in the order
+// of their names. Each gives a division. A division 1 also gives the whole league, in front of it.
+// The control buffer holds the last record read.
 std::vector<ListedLeague> ListLeagues(SharedState& state);
 
 }  // namespace golf

@@ -7,7 +7,8 @@
 
 namespace golf {
 
-// The files of a Zandel league. Events are 1 to 50. What has no name is Zandel's own.
+// The files of a Zandel league. Events are 1 to 50. Bytes without a name are for Zandel's own use.
+// Scores and handicaps are in strokes.
 
 inline constexpr int kLeagueEvents = 50;
 inline constexpr int kNonEventScores = 100;
@@ -25,12 +26,12 @@ struct LeagueControlLayout {
       KeptBytes(0, 2),
       TextField("LeagueName", 2, 40),
       KeptBytes(42, 40),
-      Int16Field("LastSubRecord", 82),  // substitutes stand in records 6 to this one
+      Int16Field("LastSubRecord", 82),  // substitutes use records 6 to this one
       KeptBytes(84, 4),
       Int16Field("PlayerFactor1", 88),  // the product of the two is the number of players
       Int16Field("PlayerFactor2", 90),
       Int16Field("EventCount", 92),
-      Int16Field("CurrentEvent", 94),  // the next one to be played
+      Int16Field("CurrentEvent", 94),  // the next event to be played
       KeptBytes(96, 20),
       KeptBytes(116, 8),
       KeptBytes(124, 8),
@@ -81,10 +82,11 @@ struct LeaguePlayerLayout {
       KeptBytes(1870, 8),
       KeptBytes(1878, 1800),
       KeptBytes(3678, 200),
-      // Scores apart from the events, by slot. Before event 1 they are practice.
+      // Non-event scores by slot. NonEventBefore is the number of the next event. A score before
+      // event 1 is practice.
       ByteField("NonEventBefore", 3878).By(zandel_fields::kBySlot),
       Int16Field("NonEventScore", 3978).By(zandel_fields::kBySlot),
-      Int16Field("NonEventRating10", 4178).By(zandel_fields::kBySlot),  // times ten
+      Int16Field("NonEventRating10", 4178).By(zandel_fields::kBySlot),  // tenths of a stroke
       Int16Field("NonEventSlope", 4378).By(zandel_fields::kBySlot),
       KeptBytes(4578, 16),
       KeptBytes(4594, 450),
@@ -109,7 +111,7 @@ struct LeagueTeamLayout {
       Int16Field("EventCourse", 2300).By(zandel_fields::kByEvent),  // in Zandel's library
       KeptBytes(2400, 800),
       KeptBytes(3200, 200),
-      // By event and column, the column stored fastest: 1 the tee of men, 2 that of ladies.
+      // By event and column. The column varies fastest: 1 the men's tee, 2 the ladies' tee.
       ByteField("EventTee", 3400).By(Dimension{1, 4}).InEach(zandel_fields::kByEvent, 4),
       KeptBytes(3600, 800),
   });
@@ -121,7 +123,7 @@ struct LeagueEventLayout {
   static constexpr std::size_t kLength = 222;
   static constexpr auto kFields = std::to_array<Field>({
       KeptBytes(0, 2),
-      SingleField("EventDate", 2),  // a whole day, counted as in a date
+      SingleField("EventDate", 2),  // a whole number of days since 30 December 1899
       KeptBytes(6, 8),
       KeptBytes(14, 2),
       KeptBytes(16, 6),
