@@ -15,8 +15,10 @@ class EmptyFile : public PlatformFile {
   std::size_t ReadAt(std::int64_t, std::span<char>) override { return 0; }
   void WriteAt(ChangePass, std::int64_t, std::string_view, std::size_t&) override {}
   void Truncate(ChangePass, std::int64_t) override {}
+  void Sync(ChangePass) override {}
   void Close() override {}
   std::int64_t Length() override { return 0; }
+  bool IsWritable() const override { return false; }
   FileIdentity Identity() const override { return {}; }
 };
 

@@ -69,6 +69,10 @@ class Descriptor {
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
   Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
   ~Descriptor() {
     if (number_ >= 0) close(number_);
   }
@@ -83,13 +87,28 @@ class Descriptor {
   int number_;
 };
 
+struct stat StatusOf(const Descriptor& descriptor, const std::string& native) {
+  struct stat status {};
+  if (fstat(descriptor.get(), &status) != 0) FailWith(errno, native);
+  return status;
+}
+
+// The code of the error, or 0. A signal is no failure.
+int SyncWith(int (*sync)(int), const Descriptor& descriptor) {
+  int result = 0;
+  do {
+    result = sync(descriptor.get());
+  } while (result != 0 && errno == EINTR);
+  return result == 0 ? 0 : errno;
+}
+
 class PosixFile : public PlatformFile {
  public:
-  PosixFile(Descriptor descriptor, std::string native)
-      : descriptor_(std::move(descriptor)), native_(std::move(native)) {
-    const struct stat status = Status();
-    identity_ = {status.st_dev, status.st_ino};
-  }
+  PosixFile(Descriptor descriptor, std::string native, bool writable, FileIdentity identity)
+      : descriptor_(std::move(descriptor)),
+        native_(std::move(native)),
+        writable_(writable),
+        identity_(identity) {}
 
   std::size_t ReadAt(std::int64_t offset, std::span<char> into) override {
     std::size_t done = 0;
@@ -120,21 +139,23 @@ class PosixFile : public PlatformFile {
     if (ftruncate(descriptor_.get(), length) != 0) FailWith(errno, native_);
   }
 
-  std::int64_t Length() override { return Status().st_size; }
+  // The length belongs to the data that fdatasync waits for; the times of the file do not.
+  void Sync(ChangePass) override {
+    if (const int code = SyncWith(fdatasync, descriptor_)) FailWith(code, native_);
+  }
+
+  std::int64_t Length() override { return StatusOf(descriptor_, native_).st_size; }
+
+  bool IsWritable() const override { return writable_; }
 
   FileIdentity Identity() const override { return identity_; }
 
   void Close() override { descriptor_.Close(native_); }
 
  private:
-  struct stat Status() const {
-    struct stat status {};
-    if (fstat(descriptor_.get(), &status) != 0) FailWith(errno, native_);
-    return status;
-  }
-
   Descriptor descriptor_;
   std::string native_;
+  bool writable_;
   FileIdentity identity_;
 };
 
@@ -230,12 +251,13 @@ class PosixPlatform : public Platform {
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override {
     const std::string native = Resolve(path);
     RefuseNoFile(native);
-    Descriptor descriptor(OpenShared(native, access));
-    CheckOpened(descriptor, native);
-    if (flock(descriptor.get(), LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    auto [descriptor, writable] = OpenExisting(native, access);
+    const FileIdentity identity = CheckOpened(descriptor, native);
+    const int lock = access == FileAccess::kAlone ? LOCK_EX : LOCK_SH;
+    if (flock(descriptor.get(), lock | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
       FailWith(errno, native);
     }
-    return std::make_unique<PosixFile>(std::move(descriptor), native);
+    return std::make_unique<PosixFile>(std::move(descriptor), native, writable, identity);
   }
 
   void Create(ChangePass, const std::string& path) override {
@@ -254,6 +276,34 @@ class PosixPlatform : public Platform {
   void Delete(ChangePass, const std::string& path) override {
     const std::string native = Resolve(path);
     if (unlink(native.c_str()) != 0) FailWith(errno, native);
+  }
+
+  void Rename(ChangePass, const std::string& from, const std::string& to) override {
+    const std::string old_native = Resolve(from);
+    const std::string new_native = Resolve(to);
+    RefuseNoFile(old_native);
+    RefuseNoFile(new_native);
+    if (rename(old_native.c_str(), new_native.c_str()) != 0) {
+      FailWith(errno, errno == ENOENT ? old_native : new_native);
+    }
+  }
+
+  void SyncFolder(ChangePass, const std::string& folder) override {
+    const std::string native = Resolve(folder);
+    const Descriptor descriptor(open(native.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.get() < 0) FailWith(errno == ENOENT ? ENOTDIR : errno, native);
+    const int code = SyncWith(fsync, descriptor);
+    // EINVAL comes from a file system that cannot sync folders.
+    if (code != 0 && code != EINVAL) FailWith(code, native);
+  }
+
+  std::unique_ptr<PlatformFile> OpenScratch() override {
+    const char* wanted = std::getenv("TMPDIR");
+    const std::string folder = wanted != nullptr && IsFolder(wanted) ? wanted : "/tmp";
+    Descriptor descriptor(open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
+    if (descriptor.get() < 0) descriptor = MakeUnnamed(folder);
+    const FileIdentity identity = CheckOpened(descriptor, folder);
+    return std::make_unique<PosixFile>(std::move(descriptor), folder, true, identity);
   }
 
   bool FolderExists(const std::string& path) override {
@@ -320,15 +370,34 @@ class PosixPlatform : public Platform {
   }
 
  private:
-  static int OpenShared(const std::string& native, FileAccess access) {
-    int number = -1;
-    if (access != FileAccess::kReadOnly) number = open(native.c_str(), O_RDWR | kOpenFlags);
-    const bool refused = number < 0 && (errno == EACCES || errno == EROFS || errno == EPERM);
-    if (access == FileAccess::kReadOnly || (access == FileAccess::kDefault && refused)) {
-      number = open(native.c_str(), O_RDONLY | kOpenFlags);
+  struct Opened {
+    Descriptor descriptor;
+    bool writable;
+  };
+
+  static Opened OpenExisting(const std::string& native, FileAccess access) {
+    int code = 0;
+    if (access != FileAccess::kReadOnly) {
+      Descriptor descriptor(open(native.c_str(), O_RDWR | kOpenFlags));
+      if (descriptor.get() >= 0) return {std::move(descriptor), true};
+      code = errno;
     }
-    if (number < 0) FailWith(errno, native);
-    return number;
+    const bool refused = code == EACCES || code == EROFS || code == EPERM;
+    if (access == FileAccess::kReadOnly || (access == FileAccess::kDefault && refused)) {
+      Descriptor descriptor(open(native.c_str(), O_RDONLY | kOpenFlags));
+      if (descriptor.get() >= 0) return {std::move(descriptor), false};
+      code = errno;
+    }
+    FailWith(code, native);
+  }
+
+  // For file systems without O_TMPFILE.
+  static Descriptor MakeUnnamed(const std::string& folder) {
+    std::string native = folder + "/golf-transfer-XXXXXX";
+    Descriptor made(mkostemp(native.data(), O_CLOEXEC));
+    if (made.get() < 0) FailWith(errno, folder);
+    if (unlink(native.c_str()) != 0) FailWith(errno, native);
+    return made;
   }
 
   // Refuses anything but a regular file before it is opened, since opening a device may have an
@@ -345,13 +414,13 @@ class PosixPlatform : public Platform {
 
   // Checks the file again after opening, since another file may have replaced it after the first
   // check.
-  static void CheckOpened(const Descriptor& descriptor, const std::string& native) {
+  static FileIdentity CheckOpened(const Descriptor& descriptor, const std::string& native) {
     if (descriptor.get() <= STDERR_FILENO) {
       throw PlatformError(PlatformFault::kIsStandardStream, TextFromUtf8(native));
     }
-    struct stat status {};
-    if (fstat(descriptor.get(), &status) != 0) FailWith(errno, native);
+    const struct stat status = StatusOf(descriptor, native);
     CheckMode(status.st_mode, native);
+    return {status.st_dev, status.st_ino};
   }
 
   // Returns the system's path for a text path. Each name below the root is spelt as on the disk; a

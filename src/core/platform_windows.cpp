@@ -158,8 +158,8 @@ void CheckOpened(const Handle& handle, const std::wstring& native) {
 
 class WindowsFile : public PlatformFile {
  public:
-  WindowsFile(Handle handle, std::wstring native)
-      : handle_(std::move(handle)), native_(std::move(native)) {
+  WindowsFile(Handle handle, std::wstring native, bool writable)
+      : handle_(std::move(handle)), native_(std::move(native)), writable_(writable) {
     BY_HANDLE_FILE_INFORMATION information{};
     if (!GetFileInformationByHandle(handle_.get(), &information)) {
       FailWith(GetLastError(), native_);
@@ -204,11 +204,17 @@ class WindowsFile : public PlatformFile {
     }
   }
 
+  void Sync(ChangePass) override {
+    if (!FlushFileBuffers(handle_.get())) FailWith(GetLastError(), native_);
+  }
+
   std::int64_t Length() override {
     LARGE_INTEGER length{};
     if (!GetFileSizeEx(handle_.get(), &length)) FailWith(GetLastError(), native_);
     return length.QuadPart;
   }
+
+  bool IsWritable() const override { return writable_; }
 
   FileIdentity Identity() const override { return identity_; }
 
@@ -230,6 +236,7 @@ class WindowsFile : public PlatformFile {
 
   Handle handle_;
   std::wstring native_;
+  bool writable_;
   FileIdentity identity_;
 };
 
@@ -277,9 +284,9 @@ class WindowsPlatform : public Platform {
 
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override {
     std::wstring native = Resolve(path);
-    Handle handle = OpenShared(native, access);
+    auto [handle, writable] = OpenExisting(native, access);
     CheckOpened(handle, native);
-    return std::make_unique<WindowsFile>(std::move(handle), std::move(native));
+    return std::make_unique<WindowsFile>(std::move(handle), std::move(native), writable);
   }
 
   void Create(ChangePass, const std::string& path) override {
@@ -298,6 +305,54 @@ class WindowsPlatform : public Platform {
   void Delete(ChangePass, const std::string& path) override {
     const std::wstring native = Resolve(path);
     if (!DeleteFileW(native.c_str())) FailWith(GetLastError(), native);
+  }
+
+  // The system refuses to rename a file that is open, and to replace one.
+  void Rename(ChangePass, const std::string& from, const std::string& to) override {
+    const std::wstring old_native = Resolve(from);
+    const std::wstring new_native = Resolve(to);
+    if (IsFolder(old_native)) throw PlatformError(PlatformFault::kIsFolder, from);
+    if (!MoveFileExW(old_native.c_str(), new_native.c_str(),
+                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+      const DWORD code = GetLastError();
+      FailWith(code, code == ERROR_FILE_NOT_FOUND ? old_native : new_native);
+    }
+  }
+
+  // NTFS journals its names; flushing a folder's handle writes the journal. Where the folder may
+  // not be opened for that, or has no flush, the system's own order of changes must do.
+  void SyncFolder(ChangePass, const std::string& folder) override {
+    const std::wstring native = Resolve(folder);
+    if (!IsFolder(native)) throw PlatformError(PlatformFault::kNoFolder, folder);
+    const Handle handle = OpenHandle(native, GENERIC_WRITE, kShared | FILE_SHARE_DELETE,
+                                     OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+    if (!handle.IsOpen() || FlushFileBuffers(handle.get())) return;
+    const DWORD code = GetLastError();
+    constexpr DWORD kNoFlush[] = {ERROR_ACCESS_DENIED, ERROR_INVALID_FUNCTION, ERROR_NOT_SUPPORTED,
+                                  ERROR_INVALID_PARAMETER};
+    if (std::find(std::begin(kNoFlush), std::end(kNoFlush), code) == std::end(kNoFlush)) {
+      FailWith(code, native);
+    }
+  }
+
+  std::unique_ptr<PlatformFile> OpenScratch() override {
+    std::array<wchar_t, MAX_PATH + 1> folder{};
+    const DWORD length = GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
+    if (length == 0) FailWith(GetLastError(), L"the folder of temporary files");
+    std::array<wchar_t, MAX_PATH> name{};
+    if (GetTempFileNameW(folder.data(), L"gtr", 0, name.data()) == 0) {
+      FailWith(GetLastError(), folder.data());
+    }
+    std::wstring native = name.data();
+    Handle handle = OpenHandle(native, GENERIC_READ | GENERIC_WRITE | DELETE, 0, OPEN_EXISTING,
+                               FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE);
+    if (!handle.IsOpen()) {
+      const DWORD code = GetLastError();
+      DeleteFileW(native.c_str());
+      FailWith(code, native);
+    }
+    CheckOpened(handle, native);
+    return std::make_unique<WindowsFile>(std::move(handle), std::move(native), true);
   }
 
   bool FolderExists(const std::string& path) override { return IsFolder(Resolve(path)); }
@@ -359,18 +414,24 @@ class WindowsPlatform : public Platform {
   }
 
  private:
+  struct Opened {
+    Handle handle;
+    bool writable;
+  };
+
   // For kDefault it opens a file for reading if it cannot be opened for writing.
-  static Handle OpenShared(const std::wstring& native, FileAccess access) {
-    const DWORD wanted =
-        access == FileAccess::kReadOnly ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
-    Handle handle = OpenHandle(native, wanted, kShared, OPEN_EXISTING);
-    if (handle.IsOpen()) return handle;
+  static Opened OpenExisting(const std::wstring& native, FileAccess access) {
+    const bool writes = access != FileAccess::kReadOnly;
+    const DWORD wanted = writes ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ;
+    const DWORD sharing = access == FileAccess::kAlone ? 0 : kShared;
+    Handle handle = OpenHandle(native, wanted, sharing, OPEN_EXISTING);
+    if (handle.IsOpen()) return {std::move(handle), writes};
     const DWORD code = GetLastError();
     const bool refused = code == ERROR_ACCESS_DENIED || code == ERROR_WRITE_PROTECT ||
                          code == ERROR_SHARING_VIOLATION;
     if (access == FileAccess::kDefault && refused) {
       Handle for_reading = OpenHandle(native, GENERIC_READ, kShared, OPEN_EXISTING);
-      if (for_reading.IsOpen()) return for_reading;
+      if (for_reading.IsOpen()) return {std::move(for_reading), false};
     }
     FailWith(code, native);
   }

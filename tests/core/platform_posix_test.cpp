@@ -35,8 +35,8 @@ TEST_F(PlatformPosixTest, WhatIsNoFileIsError75) {
   folder.MakeFolder("sub");
   folder.Write("a.dat", "");
   for (const char* name : {"pipe.dat", "device.dat", "sub", "sub/../a.dat", "../x.dat"}) {
-    for (const FileAccess access :
-         {FileAccess::kReadWriteShared, FileAccess::kDefault, FileAccess::kReadOnly}) {
+    for (const FileAccess access : {FileAccess::kReadWriteShared, FileAccess::kDefault,
+                                    FileAccess::kReadOnly, FileAccess::kAlone}) {
       EXPECT_EQ(ErrorOf([&] { files.Open(1, At(name), 4, access); }), 75) << name;
     }
   }
@@ -57,6 +57,35 @@ TEST_F(PlatformPosixTest, NoDataFileGetsThePlaceOfAStandardStream) {
   int status = -1;
   ASSERT_EQ(waitpid(child, &status, 0), child);
   EXPECT_EQ(status, 0);
+}
+
+// Its folder is empty while it is open, and where the folder is not there, another one serves.
+TEST_F(PlatformPosixTest, AScratchFileHasNoName) {
+  const char* before = std::getenv("TMPDIR");
+  const std::string kept = before == nullptr ? "" : before;
+  folder.MakeFolder("tmp");
+  for (const char* name : {"tmp", "none"}) {
+    setenv("TMPDIR", folder.Path(name).c_str(), 1);
+    const auto scratch = real->OpenScratch();
+    EXPECT_EQ(scratch->Length(), 0);
+    EXPECT_TRUE(real->FileNames(At("tmp")).empty());
+  }
+  before == nullptr ? unsetenv("TMPDIR") : setenv("TMPDIR", kept.c_str(), 1);
+}
+
+TEST_F(PlatformPosixTest, AFileThatMayOnlyBeReadIsNotWritable) {
+  constexpr uid_t kNobody = 65534;
+  const uid_t before = geteuid();
+  if (before == 0 && seteuid(kNobody) != 0) GTEST_SKIP() << "The superuser may write every file.";
+  seteuid(before);
+  folder.Write("a.dat", "abc");
+  chmod(folder.Path("a.dat").c_str(), 0444);
+  if (before == 0) seteuid(kNobody);
+  EXPECT_FALSE(real->Open(At("a.dat"), FileAccess::kDefault)->IsWritable());
+  for (const FileAccess access : {FileAccess::kReadWriteShared, FileAccess::kAlone}) {
+    EXPECT_EQ(ErrorOf([&] { real->Open(At("a.dat"), access); }), 75);
+  }
+  seteuid(before);
 }
 
 TEST(PlatformPosix, TheRootIsAFolder) { EXPECT_EQ(MakePlatform("/")->ProgramFolder(), "/"); }

@@ -1,5 +1,6 @@
 // What the seam to the operating system does on every system.
 
+#include "support/change_pass.h"
 #include "support/files_test.h"
 #include "support/processes.h"
 
@@ -22,6 +23,85 @@ TEST_F(PlatformTest, AFileThatAnotherProgramHoldsIsError70) {
   EXPECT_FALSE(HeldFile(folder.Path("a.dat")).held());  // and the other way round
   files.Close(1);
   EXPECT_TRUE(HeldFile(folder.Path("a.dat")).held());
+}
+
+TEST_F(PlatformTest, AFileThatIsOpenedAloneIsHeldByOneOnly) {
+  folder.Write("a.dat", "abc");
+  constexpr FileAccess kAll[] = {FileAccess::kReadWriteShared, FileAccess::kDefault,
+                                 FileAccess::kReadOnly, FileAccess::kAlone};
+  const auto other = MakePlatform(folder.Path());
+  for (const FileAccess access : kAll) {
+    auto alone = real->Open(At("a.dat"), FileAccess::kAlone);
+    EXPECT_EQ(ErrorOf([&] { other->Open(At("A.DAT"), access); }), 70);
+    alone->Close();
+    const auto shared = real->Open(At("a.dat"), access);
+    EXPECT_EQ(ErrorOf([&] { other->Open(At("A.DAT"), FileAccess::kAlone); }), 70);
+  }
+  EXPECT_EQ(ErrorOf([&] { other->Open(At("none"), FileAccess::kAlone); }), 53);
+}
+
+TEST_F(PlatformTest, WhatIsSyncedCanBeWritten) {
+  folder.Write("a.dat", "abc");
+  std::size_t written = 0;
+  for (const FileAccess access :
+       {FileAccess::kReadWriteShared, FileAccess::kDefault, FileAccess::kAlone}) {
+    const auto file = platform.Open(At("a.dat"), access);
+    EXPECT_TRUE(file->IsWritable());
+    file->WriteAt(TestPass(), 0, "xyz", written);
+    file->Sync(TestPass());
+  }
+  EXPECT_EQ(platform.Count(Operation::kSync), 3);
+  EXPECT_FALSE(real->Open(At("a.dat"), FileAccess::kReadOnly)->IsWritable());
+  folder.MakeFolder("sub");
+  for (const char* name : {"", "sub", "sub/", "SUB"}) platform.SyncFolder(TestPass(), At(name));
+  for (const char* name : {"none", "none/"}) {
+    EXPECT_EQ(ErrorOf([&] { platform.SyncFolder(TestPass(), At(name)); }), 76) << name;
+  }
+}
+
+TEST_F(PlatformTest, AFileIsRenamedAndReplacesAnother) {
+  folder.MakeFolder("sub");
+  const struct {
+    const char* from;
+    const char* to;
+    int error;
+    const char* left;  // the name of the renamed file, as it is spelt on the disk
+  } kRows[] = {
+      {"new.dat", "a.dat", 0, "a.dat"},       {"NEW.DAT", "A.DAT", 0, "a.dat"},
+      {"new.dat", "b.dat", 0, "b.dat"},       {"new.dat", "sub/a.dat", 0, "sub/a.dat"},
+      {"none", "a.dat", 53, "new.dat"},       {"new.dat", "none/a.dat", 76, "new.dat"},
+      {"new.dat", "sub", 75, "new.dat"},      {"sub", "b.dat", 75, "new.dat"},
+      {"new.dat", "../a.dat", 75, "new.dat"},
+  };
+  for (const auto& row : kRows) {
+    SCOPED_TRACE(std::string(row.from) + " to " + row.to);
+    for (const char* name : {"b.dat", "sub/a.dat"}) folder.Remove(name);
+    folder.Write("new.dat", "new");
+    folder.Write("a.dat", "the old one");
+    const std::size_t changes = platform.changes().size();
+    EXPECT_EQ(ErrorOf([&] { platform.Rename(TestPass(), At(row.from), At(row.to)); }), row.error);
+    EXPECT_EQ(platform.changes().size(), changes + (row.error == 0));
+    EXPECT_EQ(folder.Exists("new.dat"), row.error != 0);
+    EXPECT_EQ(folder.Read(row.left), "new");
+  }
+}
+
+TEST_F(PlatformTest, AScratchFileIsOutsideTheInstallAndForOneOnly) {
+  const auto first = platform.OpenScratch();
+  const auto second = platform.OpenScratch();
+  EXPECT_FALSE(first->Identity() == second->Identity());
+  std::size_t written = 0;
+  first->WriteAt(TestPass(), 4, "abc", written);
+  second->WriteAt(TestPass(), 0, "xyz", written);
+  std::string bytes(8, '?');
+  EXPECT_EQ(first->ReadAt(0, bytes), 7u);
+  EXPECT_EQ(bytes, std::string("\0\0\0\0abc?", 8));
+  EXPECT_EQ(second->Length(), 3);
+  EXPECT_TRUE(first->IsWritable());
+  EXPECT_TRUE(real->FileNames(At("")).empty());
+  EXPECT_TRUE(platform.changes().empty());
+  platform.Fail({.error = ErrorNumber::kDiskFull, .only = Operation::kWrite, .name = kScratchName});
+  EXPECT_EQ(ErrorOf([&] { first->WriteAt(TestPass(), 0, "z", written); }), 61);
 }
 
 TEST(PlatformFolder, TheInstallMayLieWhereTheCodePageHasNoLetters) {

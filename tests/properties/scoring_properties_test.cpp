@@ -266,6 +266,7 @@ RC_GTEST_PROP(ScoringProperties, ARoundIsWhatPlainReckoningMakesIt, ()) {
   Dice dice(*rc::gen::arbitrary<unsigned>());
   Application application{std::make_unique<MemoryPlatform>()};
   application.Start(DateFromCivil({2024, 5, 13}), {});
+  application.state().files.gate().CreateFolder("/qbdata");
   for (int times = 0; times < 5; ++times) {
     const ScoredRound all = AnyRound(dice);
     PlayerClass& player = all.Load(application.state());

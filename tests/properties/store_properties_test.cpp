@@ -12,6 +12,7 @@
 #include "scoring/team/team_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/quenby/program_class.h"
+#include "support/change_pass.h"
 #include "support/memory_platform.h"
 
 namespace golf {
@@ -95,6 +96,7 @@ class StoreProperties : public testing::Test {
   }
 
   SharedState& Started() {
+    memory.CreateFolder(TestPass(), "/qbdata");
     application.Start(DateFromCivil({2024, 5, 13}), {});
     application.state().StoreDataPath = application.state().QBDataPath;
     return application.state();

@@ -24,7 +24,7 @@ class FailingPlatform::File : public PlatformFile {
     if (fails) bytes = bytes.substr(0, platform_.fault_->bytes_first);
     if (!fails || !bytes.empty()) {
       real_->WriteAt(pass, offset, bytes, written);
-      platform_.Note({Operation::kWrite, path_, offset, written});
+      Note({Operation::kWrite, path_, offset, written});
     }
     if (fails) platform_.Throw(path_);
   }
@@ -32,13 +32,20 @@ class FailingPlatform::File : public PlatformFile {
   void Truncate(ChangePass pass, std::int64_t length) override {
     platform_.Pass(Operation::kTruncate, path_);
     real_->Truncate(pass, length);
-    platform_.Note({Operation::kTruncate, path_, length});
+    Note({Operation::kTruncate, path_, length});
+  }
+
+  void Sync(ChangePass pass) override {
+    platform_.Pass(Operation::kSync, path_);
+    real_->Sync(pass);
   }
 
   std::int64_t Length() override {
     platform_.Pass(Operation::kLength, path_);
     return real_->Length();
   }
+
+  bool IsWritable() const override { return real_->IsWritable(); }
 
   FileIdentity Identity() const override { return real_->Identity(); }
 
@@ -49,6 +56,10 @@ class FailingPlatform::File : public PlatformFile {
   }
 
  private:
+  void Note(Change change) {
+    if (path_ != kScratchName) platform_.Note(std::move(change));
+  }
+
   FailingPlatform& platform_;
   std::string path_;
   std::unique_ptr<PlatformFile> real_;
@@ -100,6 +111,22 @@ void FailingPlatform::Delete(ChangePass pass, const std::string& path) {
   Pass(Operation::kDelete, path);
   real_.Delete(pass, path);
   Note({Operation::kDelete, path});
+}
+
+void FailingPlatform::Rename(ChangePass pass, const std::string& from, const std::string& to) {
+  Pass(Operation::kRename, to);
+  real_.Rename(pass, from, to);
+  Note({Operation::kRename, to});
+}
+
+void FailingPlatform::SyncFolder(ChangePass pass, const std::string& folder) {
+  Pass(Operation::kSyncFolder, folder);
+  real_.SyncFolder(pass, folder);
+}
+
+std::unique_ptr<PlatformFile> FailingPlatform::OpenScratch() {
+  Pass(Operation::kScratch, kScratchName);
+  return std::make_unique<File>(*this, kScratchName, real_.OpenScratch());
 }
 
 std::vector<std::string> FailingPlatform::FileNames(const std::string& folder) {

@@ -17,13 +17,17 @@ enum class Operation {
   kCreate,
   kCreateFolder,
   kDelete,
+  kRename,  // on the new path
   kRead,
   kWrite,
   kTruncate,
+  kSync,
+  kSyncFolder,
   kLength,
   kClose,
   kList,
   kLock,
+  kScratch,
   kStart,
   kEnd  // their number
 };
@@ -39,7 +43,7 @@ struct Fault {
 };
 
 // A call that changed something on the disk. A write made to fail counts with what
-// reached the file before.
+// reached the file before. What happens to a scratch file is no change.
 struct Change {
   Operation operation;
   std::string path;
@@ -47,6 +51,8 @@ struct Change {
   std::size_t size = 0;
   bool operator==(const Change&) const = default;
 };
+
+constexpr const char* kScratchName = "scratch";
 
 // A real platform whose calls are counted, written down, and can be made to fail. Whatever it opens
 // must be closed before it goes.
@@ -71,6 +77,10 @@ class FailingPlatform : public Platform {
   void Create(ChangePass pass, const std::string& path) override;
   void CreateFolder(ChangePass pass, const std::string& path) override;
   void Delete(ChangePass pass, const std::string& path) override;
+  void Rename(ChangePass pass, const std::string& from, const std::string& to) override;
+  void SyncFolder(ChangePass pass, const std::string& folder) override;
+  // Calls on it count, and fail, as those on a file named kScratchName.
+  std::unique_ptr<PlatformFile> OpenScratch() override;
   bool FolderExists(const std::string& path) override { return real_.FolderExists(path); }
   std::vector<std::string> FileNames(const std::string& folder) override;
   std::unique_ptr<RunLock> LockRun(const std::string& folder) override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -10,31 +11,76 @@
 
 namespace golf {
 
-// An install in memory, for what runs many thousand times. No file grows above 16 MB: that is a
-// full disk.
+// Ends the program that makes a call, as a killed process ends: no handler of errors takes it.
+struct Died {};
+
+// An install in memory, empty at first, for what runs many thousand times. No file grows above
+// 16 MB: that is a full disk. A file that is open can be neither deleted nor renamed nor replaced
+// (error 70), as on Windows. Names come back in capitals.
+//
+// A call that changes something is Create, CreateFolder, Delete, Rename, SyncFolder, and WriteAt,
+// Truncate or Sync of a file that is no scratch file.
 class MemoryPlatform : public Platform {
  public:
-  // The same files in another memory.
+  MemoryPlatform();
+  MemoryPlatform(MemoryPlatform&&) = default;
+  MemoryPlatform& operator=(MemoryPlatform&&) = default;
+
+  // The same files in another memory, with what of them is synced. Nobody has them open.
   MemoryPlatform Copy() const;
-  // The bytes of a file in any case of its name, which is a path below the program's folder.
+  // Another process at the same disk, which outlives all of them.
+  MemoryPlatform OnSameDisk() const;
+
+  // The bytes of a file in any case of its name, which is a path below the program's folder. The
+  // file, and the folders on the way, are made on the disk where they are missing. Bytes that a
+  // test changes here are not synced.
   std::string& Bytes(std::string_view name);
+  // All files with their bytes, by paths in capitals.
+  std::map<std::string, std::string> Files() const;
+  // Everything is on the disk as it is now.
+  void SyncAll();
+
+  // The power fails and comes back. Of the pages of 4 KB, the lengths and the names that changed
+  // since they were last synced, some are lost: all with seed 0, none with seed 1, any others with
+  // any other seed. A lost page has its synced bytes again, or zeros where it had none; a lost
+  // length is the synced one; a lost name is that of before its creation, deletion or renaming, and
+  // so are all later changes of this name. What is left is synced, and calls work again as after
+  // Revive.
+  void PowerCut(std::uint64_t seed);
+
+  // The nth call from now on that changes something, and every call behind it, throws Died. If that
+  // call is a write, `share` of its bytes, from 0 to 1, reach the file. A call that is made while
+  // Died is on its way is an error 57, since destructors may make it.
+  void DieAt(int nth, double share = 0);
+  // Another process begins: calls work again, no file is open, nobody holds a lock. Calls on files
+  // that were open are errors 57.
+  void Revive();
+  // Calls that changed something, since this disk was made or copied.
+  int ChangingCalls() const;
 
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override;
   void Create(ChangePass pass, const std::string& path) override;
-  void CreateFolder(ChangePass, const std::string&) override {}
+  void CreateFolder(ChangePass pass, const std::string& path) override;
   void Delete(ChangePass pass, const std::string& path) override;
-  bool FolderExists(const std::string&) override { return true; }
+  void Rename(ChangePass pass, const std::string& from, const std::string& to) override;
+  void SyncFolder(ChangePass pass, const std::string& folder) override;
+  std::unique_ptr<PlatformFile> OpenScratch() override;
+  bool FolderExists(const std::string& path) override;
   std::vector<std::string> FileNames(const std::string& folder) override;
-  std::unique_ptr<RunLock> LockRun(const std::string&) override { return nullptr; }
+  std::unique_ptr<RunLock> LockRun(const std::string& folder) override;
   void StartProgram(const std::string&, const std::string&) override {}
   std::string ProgramFolder() const override { return "/"; }
   char Separator() const override { return '/'; }
   RegionalForms Regional() const override { return {}; }
 
  private:
+  struct Disk;
   class File;
+  class Lock;
 
-  std::map<std::string, std::shared_ptr<std::string>> files_;  // by path in capitals
+  explicit MemoryPlatform(std::shared_ptr<Disk> disk) : disk_(std::move(disk)) {}
+
+  std::shared_ptr<Disk> disk_;  // of the open files, too
 };
 
 }  // namespace golf

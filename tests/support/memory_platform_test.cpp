@@ -1,0 +1,297 @@
+// The tests of whole runs rest upon what this memory does when the power or the program fails.
+
+#include "support/memory_platform.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <set>
+
+#include "support/change_pass.h"
+#include "support/error_of.h"
+
+namespace golf {
+namespace {
+
+constexpr std::size_t kPage = 4096;
+
+using FileBytes = std::map<std::string, std::string>;
+
+// Holds "OLD" and "BUSY", both synced.
+class MemoryPlatformTest : public testing::Test {
+ protected:
+  MemoryPlatformTest() {
+    memory.Bytes("d/old") = "old";
+    memory.Bytes("d/busy") = "busy";
+    memory.SyncAll();
+  }
+
+  std::unique_ptr<PlatformFile> Open(const std::string& path,
+                                     FileAccess access = FileAccess::kDefault) {
+    return memory.Open(path, access);
+  }
+  void Write(const std::string& path, std::int64_t offset, std::string_view bytes) {
+    std::size_t written = 0;
+    Open(path)->WriteAt(TestPass(), offset, bytes, written);
+  }
+  void Create(const std::string& path) { memory.Create(TestPass(), path); }
+  void Delete(const std::string& path) { memory.Delete(TestPass(), path); }
+  void Rename(const std::string& from, const std::string& to) {
+    memory.Rename(TestPass(), from, to);
+  }
+  void Sync(const std::string& path) { Open(path)->Sync(TestPass()); }
+  void SyncFolder(const std::string& path) { memory.SyncFolder(TestPass(), path); }
+
+  MemoryPlatform memory;
+};
+
+TEST_F(MemoryPlatformTest, APowerCutTakesWhatIsNotSynced) {
+  const struct {
+    const char* name;
+    std::function<void()> change;
+    FileBytes lost;  // with everything that is not synced
+    FileBytes kept;
+  } kRows[] = {
+      {"bytes",
+       [&] { Write("/d/old", 1, "LDER"); },
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "old"}},
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "oLDER"}}},
+      {"synced bytes",
+       [&] {
+         Write("/d/old", 1, "LDER");
+         Sync("/d/old");
+       },
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "oLDER"}},
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "oLDER"}}},
+      {"a length",
+       [&] { Open("/d/old")->Truncate(TestPass(), 1); },
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "old"}},
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "o"}}},
+      {"a deletion",
+       [&] { Delete("/d/old"); },
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "old"}},
+       {{"/D/BUSY", "busy"}}},
+      {"a synced deletion",
+       [&] {
+         Delete("/d/old");
+         SyncFolder("/D");
+       },
+       {{"/D/BUSY", "busy"}},
+       {{"/D/BUSY", "busy"}}},
+      {"a file without its name",
+       [&] {
+         Create("/d/new");
+         Write("/d/new", 0, "new");
+         Sync("/d/new");
+       },
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "old"}},
+       {{"/D/BUSY", "busy"}, {"/D/NEW", "new"}, {"/D/OLD", "old"}}},
+      {"a name without its bytes",
+       [&] {
+         Create("/d/new");
+         Write("/d/new", 0, "new");
+         SyncFolder("/d/");
+       },
+       {{"/D/BUSY", "busy"}, {"/D/NEW", ""}, {"/D/OLD", "old"}},
+       {{"/D/BUSY", "busy"}, {"/D/NEW", "new"}, {"/D/OLD", "old"}}},
+      {"a renaming",
+       [&] { Rename("/d/old", "/d/busy"); },
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "old"}},
+       {{"/D/BUSY", "old"}}},
+      {"a synced renaming",
+       [&] {
+         Rename("/d/old", "/d/busy");
+         SyncFolder("/d");
+       },
+       {{"/D/BUSY", "old"}},
+       {{"/D/BUSY", "old"}}},
+      {"a folder",
+       [&] {
+         memory.CreateFolder(TestPass(), "/e");
+         Create("/e/new");
+         SyncFolder("/e");
+       },
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "old"}},
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "old"}, {"/E/NEW", ""}}},
+      {"a renaming with one folder of the two synced",
+       [&] {
+         memory.CreateFolder(TestPass(), "/e");
+         SyncFolder("/");
+         Rename("/d/old", "/e/old");
+         SyncFolder("/e");
+       },
+       {{"/D/BUSY", "busy"}, {"/D/OLD", "old"}},
+       {{"/D/BUSY", "busy"}, {"/E/OLD", "old"}}},
+      {"the changes of a name up to the one that is synced",
+       [&] {
+         memory.CreateFolder(TestPass(), "/e");
+         SyncFolder("/");
+         Rename("/d/old", "/e/old");
+         Create("/d/old");
+         SyncFolder("/d");
+       },
+       {{"/D/BUSY", "busy"}, {"/D/OLD", ""}, {"/E/OLD", "old"}},
+       {{"/D/BUSY", "busy"}, {"/D/OLD", ""}, {"/E/OLD", "old"}}},
+  };
+  const MemoryPlatform before = memory.Copy();
+  for (const auto& row : kRows) {
+    SCOPED_TRACE(row.name);
+    memory = before.Copy();
+    row.change();
+    MemoryPlatform kept = memory.Copy();
+    memory.PowerCut(0);
+    EXPECT_EQ(memory.Files(), row.lost);
+    memory.PowerCut(0);  // what is left is synced
+    EXPECT_EQ(memory.Files(), row.lost);
+    kept.PowerCut(1);
+    EXPECT_EQ(kept.Files(), row.kept);
+  }
+}
+
+// Each page, each length and each name is lost by itself.
+TEST_F(MemoryPlatformTest, APowerCutTakesAnyPart) {
+  memory.Bytes("d/old") = std::string(2 * kPage, 'a');
+  memory.SyncAll();
+  Write("/d/old", 0, std::string(3 * kPage, 'b'));
+  Create("/d/1");
+  Rename("/d/1", "/d/2");
+  Create("/d/3");
+  std::set<std::string> contents;
+  std::set<std::string> names;
+  for (std::uint64_t seed = 0; seed < 500; ++seed) {
+    MemoryPlatform cut = memory.Copy();
+    cut.PowerCut(seed);
+    const std::string& bytes = cut.Bytes("d/old");
+    std::string content;
+    for (std::size_t at = 0; at < bytes.size(); at += kPage) {
+      content += bytes[at] == '\0' ? '0' : bytes[at];
+      ASSERT_EQ(bytes.substr(at, kPage), std::string(kPage, bytes[at]));
+    }
+    contents.insert(content);
+    std::string found;
+    for (const std::string& name : cut.FileNames("/d")) found += name.size() == 1 ? name : "";
+    names.insert(found);
+    MemoryPlatform again = memory.Copy();
+    again.PowerCut(seed);
+    ASSERT_EQ(again.Files(), cut.Files()) << seed;
+  }
+  EXPECT_EQ(contents, (std::set<std::string>{"aa", "ab", "ba", "bb", "aa0", "aab", "ab0", "abb",
+                                             "ba0", "bab", "bb0", "bbb"}));
+  EXPECT_EQ(names, (std::set<std::string>{"", "1", "13", "2", "23", "3"}));
+}
+
+TEST_F(MemoryPlatformTest, AProgramDiesInTheCallAskedFor) {
+  const std::function<void()> calls[] = {
+      [&] { memory.CreateFolder(TestPass(), "/e"); },
+      [&] { Create("/d/new"); },
+      [&] { Write("/d/old", 0, "OLDER!"); },
+      [&] { Open("/d/old")->Truncate(TestPass(), 2); },
+      [&] { Sync("/d/old"); },
+      [&] { Rename("/d/old", "/d/new"); },
+      [&] { SyncFolder("/d"); },
+      [&] { Delete("/d/new"); },
+  };
+  const MemoryPlatform before = memory.Copy();
+  for (int nth = 1; nth <= static_cast<int>(std::size(calls)) + 1; ++nth) {
+    for (const double share : {0.0, 0.5, 1.0}) {
+      memory = before.Copy();
+      memory.DieAt(nth, share);
+      int done = 0;
+      FileBytes files;
+      try {
+        for (const auto& call : calls) {
+          files = memory.Files();
+          call();
+          ++done;
+        }
+      } catch (const Died&) {
+        if (done == 2)
+          files["/D/OLD"] = std::string(share == 0 ? "old" : share == 1 ? "OLDER!" : "OLD");
+        EXPECT_EQ(memory.Files(), files);
+        EXPECT_THROW(Open("/d/old"), Died);
+        EXPECT_THROW(Create("/d/other"), Died);
+      }
+      EXPECT_EQ(done, nth - 1);
+      EXPECT_EQ(memory.ChangingCalls(), std::min<int>(nth, std::size(calls)));
+      memory.Revive();
+      Create("/d/other");
+    }
+  }
+}
+
+// A destructor that runs while the program dies must be able to end.
+TEST_F(MemoryPlatformTest, WhatRunsWhileTheProgramDiesMeetsError57) {
+  struct Closing {
+    ~Closing() {
+      error = ErrorOf([&] { file->Close(); });
+    }
+    std::unique_ptr<PlatformFile> file;
+    int& error;
+  };
+  int error = 0;
+  try {
+    const Closing closing{Open("/d/old"), error};
+    memory.DieAt(1);
+    Create("/d/new");
+    ADD_FAILURE();
+  } catch (const Died&) {
+    EXPECT_EQ(error, 57);
+  }
+}
+
+TEST_F(MemoryPlatformTest, NothingStaysOpenOrLocked) {
+  const std::function<void()> kEnds[] = {[&] { memory.Revive(); }, [&] { memory.PowerCut(7); }};
+  for (const auto& end : kEnds) {
+    MemoryPlatform other = memory.OnSameDisk();
+    const auto file = Open("/d/old", FileAccess::kAlone);
+    const auto scratch = memory.OpenScratch();
+    auto lock = memory.LockRun("/");
+    ASSERT_NE(lock, nullptr);
+    EXPECT_EQ(ErrorOf([&] { other.LockRun("/"); }), 70);
+    EXPECT_EQ(ErrorOf([&] { other.Open("/D/OLD", FileAccess::kReadOnly); }), 70);
+    EXPECT_EQ(ErrorOf([&] { other.Delete(TestPass(), "/D/OLD"); }), 70);
+    EXPECT_EQ(ErrorOf([&] { Rename("/d/busy", "/d/old"); }), 70);
+    end();
+    EXPECT_EQ(ErrorOf([&] { file->Length(); }), 57);
+    EXPECT_EQ(ErrorOf([&] { scratch->Length(); }), 57);
+    auto next = other.LockRun("/");
+    lock.reset();  // of a process that is gone
+    EXPECT_EQ(ErrorOf([&] { memory.LockRun("/"); }), 70);
+    const auto shared = other.Open("/d/old", FileAccess::kReadOnly);
+    EXPECT_NE(Open("/d/old"), nullptr);
+    EXPECT_EQ(ErrorOf([&] { Open("/d/old", FileAccess::kAlone); }), 70);
+  }
+}
+
+TEST_F(MemoryPlatformTest, FoldersAreThoseOfARealDisk) {
+  memory.CreateFolder(TestPass(), "/D/Sub");
+  Create("/d/sub/a");
+  EXPECT_EQ(memory.FileNames("/d"), (std::vector<std::string>{"BUSY", "OLD"}));
+  EXPECT_EQ(memory.FileNames("/d/SUB/"), std::vector<std::string>{"A"});
+  EXPECT_TRUE(memory.FileNames("/").empty());
+  for (const char* path : {"/", "/d", "/d/", "/d/sub"}) EXPECT_TRUE(memory.FolderExists(path));
+  for (const char* path : {"", "/e", "/d/old", "/su"}) EXPECT_FALSE(memory.FolderExists(path));
+  const struct {
+    std::function<void()> call;
+    int error;
+  } kRows[] = {
+      {[&] { Create("/e/a"); }, 76},
+      {[&] { Create("/d/sub"); }, 75},
+      {[&] { memory.CreateFolder(TestPass(), "/d"); }, 75},
+      {[&] { memory.CreateFolder(TestPass(), "/e/f"); }, 76},
+      {[&] { Open("/d/sub"); }, 75},
+      {[&] { Open("/d/none"); }, 53},
+      {[&] { Open("/e/none"); }, 76},
+      {[&] { Delete("/d/none"); }, 53},
+      {[&] { Rename("/d/none", "/d/old"); }, 53},
+      {[&] { Rename("/d/old", "/d/sub"); }, 75},
+      {[&] { SyncFolder("/e"); }, 76},
+      {[&] { memory.FileNames("/e"); }, 76},
+      {[&] { Open("/d/old", FileAccess::kReadOnly)->Truncate(TestPass(), 0); }, 75},
+      {[&] { Write("/d/old", 16 << 20, "a"); }, 61},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(ErrorOf(row.call), row.error) << &row - kRows;
+}
+
+}  // namespace
+}  // namespace golf
