@@ -64,7 +64,12 @@ std::shared_ptr<Screen> Make(const ScreenContext& context) {
 }  // namespace
 
 Application::Application(std::unique_ptr<Platform> platform)
-    : platform_(std::move(platform)), state_(*platform_, MakeStoreObjects) {}
+    : platform_(std::move(platform)),
+      held_(*platform_),
+      state_(held_, MakeStoreObjects),
+      transactions_(held_, [this] { return state_.Now(); }) {
+  state_.transactions = &transactions_;
+}
 
 ScreenCatalogue Application::Screens() {
   return {{"TransferMenu", Make<TransferMenu>},

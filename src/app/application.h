@@ -8,6 +8,7 @@
 #include "core/platform.h"
 #include "core/shared_state.h"
 #include "forms/host_base.h"
+#include "history/transactions.h"
 
 namespace golf {
 
@@ -31,7 +32,9 @@ class Application {
 
  private:
   std::unique_ptr<Platform> platform_;
+  HeldPlatform held_;
   SharedState state_;
+  Transactions transactions_;
 };
 
 // Whether a name stands for a screen that somebody opens. The message box, the sort dialog

@@ -350,6 +350,9 @@ ExitCode RunChosen(const Command& command) {
     TellProblem(missing ? error.description() : error.Report());
     if (error.Is(ErrorNumber::kPathNotFound)) TellProblem(kInstallHint);
     return missing ? ExitCode::kRefused : ExitCodeOf(error);
+  } catch (const Stopped& stopped) {
+    TellProblem(stopped.what());
+    return ExitCodeOf(stopped);
   } catch (const std::exception& error) {
     std::cerr << "A fault of the program: " << error.what() << std::endl;
     return ExitCode::kError;

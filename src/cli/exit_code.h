@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/numbered_error.h"
+#include "history/stopped.h"
 
 namespace golf {
 
@@ -14,6 +15,12 @@ enum class ExitCode : int {
   kError = 3,    // a numbered error ended the run, or it carried on over faults
   kHeld = 4,     // another program holds the files
 };
+
+// As the shell tells of a process that a signal has ended.
+inline ExitCode ExitCodeOf(const Stopped& stopped) {
+  constexpr int kSignalled = 128;
+  return static_cast<ExitCode>(kSignalled + stopped.signal());
+}
 
 inline ExitCode ExitCodeOf(const NumberedError& error) {
   return error.Is(ErrorNumber::kPermissionDenied) ? ExitCode::kHeld : ExitCode::kError;

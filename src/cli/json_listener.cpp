@@ -80,6 +80,8 @@ void JsonListener::OnError(const NumberedError& error) {
 
 void JsonListener::OnFault(const NumberedError& fault) { TellProblem(fault.Report()); }
 
+void JsonListener::OnNotice(const std::string& text) { TellProblem(text); }
+
 void JsonListener::OnEnd() { WriteJsonLine(Event("end")); }
 
 }  // namespace golf

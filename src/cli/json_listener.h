@@ -20,6 +20,7 @@ class JsonListener : public HostListener {
   void OnStart(const std::string& program, const std::string& arguments) override;
   void OnError(const NumberedError& error) override;
   void OnFault(const NumberedError& fault) override;
+  void OnNotice(const std::string& text) override;
   void OnEnd() override;
 
   // The line of a script that is being followed; 0 where there is none.

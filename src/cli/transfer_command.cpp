@@ -26,6 +26,10 @@ class ReportListener : public HostListener {
     if (tip.buttons.size() > 1) KeepAnswer(answer);
   }
   void OnFault(const NumberedError& fault) override { Tell(fault); }
+  void OnNotice(const std::string& text) override {
+    bar_.Clear();
+    TellProblem(text);
+  }
   void OnError(const NumberedError& error) override { Tell(error); }
   void OnProgress(const Progress& progress) override { bar_.Show(progress); }
 

@@ -41,7 +41,6 @@ bool MatchesPattern(std::string_view name, std::string_view pattern) {
 void FileTable::Open(int number, const std::string& path, std::size_t record_length,
                      FileAccess access) {
   Close(number);
-  gate_.Settle();
   files_[number] = std::make_unique<RecordFile>(gate_, path, record_length, access);
 }
 
@@ -50,13 +49,11 @@ void FileTable::Close(int number) {
   if (file == files_.end()) return;
   const auto closing = std::move(file->second);
   files_.erase(file);
-  gate_.Settle();
   closing->Close();
 }
 
 void FileTable::CloseAll() {
   const auto closing = std::exchange(files_, {});
-  gate_.Settle();
   std::exception_ptr lost;
   for (const auto& [number, file] : closing) {
     try {
@@ -124,7 +121,6 @@ std::string FileTable::ReadText(const std::string& path) {
 }
 
 void FileTable::DeleteFile(const std::string& path) {
-  gate_.Settle();  // a failed write must raise its error, unlike a failed deletion
   try {
     gate_.Delete(path);
   } catch (const NumberedError&) {
@@ -134,7 +130,6 @@ void FileTable::DeleteFile(const std::string& path) {
 
 void FileTable::Synchronize() {
   for (const auto& [number, file] : files_) file->ForgetWindow();
-  gate_.Settle();
 }
 
 RecordFile& FileTable::At(int number) {

@@ -73,11 +73,11 @@ class FileTable {
   // Returns the content of a text file, at most its first megabyte. Error 53 if the file is
   // missing.
   std::string ReadText(const std::string& path);
-  // Deletes a file. A failed deletion raises no error, but a failed write that was kept back does.
+  // Deletes a file. A failed deletion raises no error.
   void DeleteFile(const std::string& path);
 
-  // Hands joined writes to the system and forgets all bytes read ahead. Another program may change
-  // or look at the files from here on. Called at every box and at the end of every click.
+  // Forgets all bytes read ahead. Another program may change or look at the files from here on.
+  // Called at every box and at the end of every click.
   void Synchronize();
 
  private:
@@ -87,19 +87,6 @@ class FileTable {
   ChangeGate gate_;
   std::map<int, std::unique_ptr<RecordFile>> files_;
   int next_free_ = 256;
-};
-
-// Joins writes during its lifetime, for a run that stops at its first error. Its end writes
-// nothing: writes kept back then reach the system at the next ChangeGate::Settle.
-class JoinedWrites {
- public:
-  explicit JoinedWrites(FileTable& files) : gate_(files.gate()) { gate_.JoinWrites(true); }
-  JoinedWrites(const JoinedWrites&) = delete;
-  JoinedWrites& operator=(const JoinedWrites&) = delete;
-  ~JoinedWrites() { gate_.JoinWrites(false); }
-
- private:
-  ChangeGate& gate_;
 };
 
 }  // namespace golf

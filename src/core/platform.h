@@ -77,6 +77,15 @@ class RunLock {
   virtual ~RunLock() = default;
 };
 
+// Takes note of requests to end the process, while it lives: an interrupt, the end of the session.
+// Requests that the process ignores stay ignored.
+class StopWatch {
+ public:
+  virtual ~StopWatch() = default;
+  // The system's number of the last request; 0 with none.
+  virtual int Signal() const = 0;
+};
+
 class Platform {
  public:
   virtual ~Platform() = default;
@@ -102,6 +111,9 @@ class Platform {
   // Locks a folder for one run. Error 70 if another process holds the lock. Returns null if the
   // folder cannot be locked at all.
   virtual std::unique_ptr<RunLock> LockRun(const std::string& folder) = 0;
+
+  // Null where the system has no such requests.
+  virtual std::unique_ptr<StopWatch> WatchStops() { return nullptr; }
 
   // Starts a program and does not wait for it. Raises an error if the system cannot start it.
   virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;

@@ -21,10 +21,7 @@ RecordFile::RecordFile(ChangeGate& gate, std::string path, std::size_t record_le
       file_(gate.Open(path_, access)),
       identity_(file_->Identity()) {}
 
-std::int64_t RecordFile::Length() {
-  gate_.Settle(identity_);
-  return file_->Length();
-}
+std::int64_t RecordFile::Length() { return file_->Length(); }
 
 void RecordFile::Check(std::int64_t record, std::size_t size) const {
   if (record < 1) {
@@ -55,7 +52,6 @@ void RecordFile::Read(std::int64_t record, std::span<char> into) {
 // Reads at least `size` bytes into the window. A read of the next record in sequence reads ahead,
 // each time twice as far as before. Any other read fetches its own bytes only.
 void RecordFile::FillWindow(std::int64_t offset, std::size_t size) {
-  gate_.Settle(identity_);
   const bool follows = offset == next_offset_;
   ahead_ = follows ? std::clamp(ahead_ * 2, kFirstWindow, kLargestWindow) : 0;
   window_.resize(std::max(size, ahead_ / record_length_ * record_length_));
@@ -72,7 +68,7 @@ void RecordFile::FillWindow(std::int64_t offset, std::size_t size) {
 void RecordFile::Write(std::int64_t record, std::string_view bytes) {
   Check(record, bytes.size());
   written_ = true;
-  gate_.WriteRecord(*file_, path_, record, record_length_, bytes);
+  gate_.Write(*file_, (record - 1) * static_cast<std::int64_t>(record_length_), bytes);
 }
 
 // An error in closing a file that was only read is ignored, since no data can be lost.

@@ -19,7 +19,7 @@ class RecordFile {
   const std::string& path() const { return path_; }
   const FileIdentity& identity() const { return identity_; }
 
-  // Returns the present length in bytes. Writes kept back for this file are written first.
+  // Returns the present length in bytes.
   std::int64_t Length();
 
   // Reads the start of a record, as many bytes as `into` holds. Bytes beyond the end of the file

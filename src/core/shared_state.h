@@ -21,6 +21,7 @@ class TeamRecords;
 class TournamentClass;
 class TournamentControl;
 class TournamentPlayers;
+class Transactions;
 struct KelvaneBuffers;
 struct ZandelBuffers;
 
@@ -106,8 +107,11 @@ class SharedState {
   // Returns the present moment. The front end sets it.
   std::function<DateValue()> Now;
 
-  // Closes every file of the process and makes the shared objects anew. If a joined write fails,
-  // its error is raised after all of that is done.
+  // Makes each run that changes files happen whole or not at all. The composition root sets it.
+  Transactions* transactions = nullptr;
+
+  // Closes every file of the process and makes the shared objects anew. The first error of closing
+  // is raised after all of that is done.
   void InitSharedObjects();
 
  private:

@@ -178,6 +178,10 @@ void DesktopHost::ErrorEndsClick(const NumberedError& error) {
   ShowBox({.title = "Golf Transfer", .text = error.Report(), .icon = BoxIcon::kStop});
 }
 
+void DesktopHost::Notify(const std::string& text) {
+  ShowBox({.title = "Golf Transfer", .text = text, .icon = BoxIcon::kInformation});
+}
+
 void DesktopHost::Beep() { wxBell(); }
 
 void DesktopHost::SetPointer(Pointer pointer) {

@@ -28,6 +28,7 @@ class DesktopHost : public HostBase {
   void BeginRun() override;
   void Report(const Progress& progress) override;
   void EndRun() override;
+  void Notify(const std::string& text) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
   DateValue Now() override { return clock(); }
   void CopyText(const std::string& text) override;
@@ -41,6 +42,7 @@ class DesktopHost : public HostBase {
   std::string ShowInputBox(const InputBox& box) override;
   Font ShowFontChoice(std::string_view title, const Font& current) override;
   void ErrorEndsClick(const NumberedError& error) override;
+  void RunStopped() override { EndProcess(); }
 
   // Shows all that has changed and lets the windows paint. No input is taken.
   void PaintNow();

@@ -24,6 +24,7 @@ class HostListener {
   virtual void OnStart(const std::string& /*program*/, const std::string& /*arguments*/) {}
   virtual void OnError(const NumberedError&) {}
   virtual void OnFault(const NumberedError&) {}
+  virtual void OnNotice(const std::string& /*text*/) {}
   virtual void OnProgress(const Progress&) {}
   virtual void OnEnd() {}
 };
@@ -70,6 +71,7 @@ class HeadlessHost : public HostBase {
   void Show(Screen& screen) override;
   void Beep() override { listener_.OnBeep(); }
   void SetPointer(Pointer) override {}
+  void Notify(const std::string& text) override { listener_.OnNotice(text); }
   void Report(const Progress& progress) override { listener_.OnProgress(progress); }
   void NoteFault(const NumberedError& fault) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;

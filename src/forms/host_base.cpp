@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/while_set.h"
+#include "history/spill_store.h"
 
 namespace golf {
 
@@ -30,19 +31,16 @@ void HostBase::Operate(const std::function<void()>& event) {
     event();
     state_.files.Synchronize();
   } catch (const NumberedError& error) {
-    const NumberedError told = error;
-    try {
-      state_.files.Synchronize();
-    } catch (const NumberedError&) {
-      // The first error is the one to tell.
-    }
-    ErrorEndsClick(told);
+    state_.files.Synchronize();
+    ErrorEndsClick(error);
+  } catch (const SpillFailed& error) {
+    state_.files.Synchronize();
+    ErrorEndsClick({ErrorNumber::kDiskFull, error.what()});
+  } catch (const Stopped&) {
+    state_.files.Synchronize();
+    RunStopped();
   } catch (...) {
-    // Whatever else ends the event, what it has written is not lost.
-    try {
-      state_.files.Synchronize();
-    } catch (const NumberedError&) {
-    }
+    state_.files.Synchronize();
     throw;
   }
 }

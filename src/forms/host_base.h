@@ -9,6 +9,7 @@
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
+#include "history/stopped.h"
 
 namespace golf {
 
@@ -79,6 +80,9 @@ class HostBase : public ScreenHost {
   virtual std::string ShowInputBox(const InputBox& box) = 0;
   virtual Font ShowFontChoice(std::string_view title, const Font& current) = 0;
   virtual void ErrorEndsClick(const NumberedError& error) = 0;
+  // A request to end the process has ended a run. Called while Stopped is handled, which goes on
+  // where this raises it again.
+  virtual void RunStopped() { throw; }
 
  private:
   void BringUp(Screen& screen);

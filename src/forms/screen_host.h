@@ -53,6 +53,9 @@ class ScreenHost {
   // The error that ended a run, where the screen itself tells the operator of it.
   virtual void NoteRunEnded(const NumberedError& error) = 0;
 
+  // Tells the operator something that needs no answer and that scripts do not see as a box.
+  virtual void Notify(const std::string& text) = 0;
+
   // Starts a program with its arguments and does not wait. Fails where it cannot be started.
   virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;
   virtual DateValue Now() = 0;

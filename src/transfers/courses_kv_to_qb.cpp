@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/number_text.h"
+#include "core/text.h"
 #include "stores/course/course_class.h"
 #include "stores/course/course_library.h"
 
@@ -56,6 +57,7 @@ void CopyCourses(FileTable& files, RunHost& host, const CourseLinks& links,
     // counted as an update.
     const bool in_use = (course.Get<"activeflag">() & 1) != 0;
     host.Report({source, kelvane_count, in_use ? course.Get<"Name">() : std::string()});
+    host.Group(Trim(course.Get<"Name">()));
     const auto [first, last] = links.Find(kelvane_number);
     for (auto link = first; link != last; ++link) {
       if (in_use) CountUp(report.updated);
@@ -68,13 +70,19 @@ void CopyCourses(FileTable& files, RunHost& host, const CourseLinks& links,
   }
 }
 
+void RebuildQuenbyCourseIndexes(SharedState& state) {
+  OpenCourseLibrary(state, kQuenbyCourses);
+  CourseClass& course = state.Course();
+  course.RebuildCourseIndexes(course.ActiveCoursesByName());
+  state.InitSharedObjects();
+}
+
 }  // namespace
 
 void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest&,
          CoursesKvToQbReport& report) {
   constexpr std::size_t kLength = KelvaneCourseLayout::kLength;
   FileTable& files = state.files;
-  const JoinedWrites joined(files);
   const std::string quenby_library = state.QBDataPath + "qbcrs.dat";
 
   files.Open(kSource, quenby_library, kLength);
@@ -88,15 +96,13 @@ void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest&,
   host.Begin();
   CopyCourses(files, host, links, quenby_count, report);
   state.InitSharedObjects();
+  host.Group("");
+  try {
+    RebuildQuenbyCourseIndexes(state);
+  } catch (const NumberedError& error) {
+    report.index_error = error;  // the courses are copied all the same
+  }
   report.end = RunEnd::kDone;
-}
-
-void RebuildQuenbyCourseIndexes(SharedState& state) {
-  const JoinedWrites joined(state.files);
-  OpenCourseLibrary(state, kQuenbyCourses);
-  CourseClass& course = state.Course();
-  course.RebuildCourseIndexes(course.ActiveCoursesByName());
-  state.InitSharedObjects();
 }
 
 }  // namespace golf

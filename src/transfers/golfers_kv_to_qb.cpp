@@ -83,6 +83,7 @@ class GolferCopy {
     host_.Report({place, places,
                   "Transferring: " + std::to_string(report_.updated + report_.added) + " " +
                       Golfer().Get<"NameLast">()});
+    host_.Group(KVGolferName(Golfer()));
     const std::int32_t found = quenby_.Find(Golfer().Get<"IDNum">());
     const std::int32_t record = found > 0 ? found : quenby_.places.First();
     const bool prepared = ReadOrLeaveOut(

@@ -123,6 +123,7 @@ class GolferCopy {
     for (std::int32_t place = 1; place <= places; ++place) {
       if (!IsWanted(place)) continue;
       host_.Report({place, places, "SEARCHING for " + golfer.Get<"NameLast">()});
+      host_.Group(KVGolferName(golfer));
       Update(kLeaguePlayerFile, league.players);
       Update(kLeagueSubstituteFile, league.substitutes);
     }
@@ -165,7 +166,6 @@ class GolferCopy {
 void Run(SharedState& state, RunHost& host, const GolfersKvToZdRequest& request,
          GolfersKvToZdReport& report) {
   state.files.CloseAll();
-  const JoinedWrites joined(state.files);
   if (!OpenKVRoster(state, request.roster)) {
     report.end = RunEnd::kNoRoster;
     return;

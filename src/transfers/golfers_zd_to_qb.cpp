@@ -15,6 +15,7 @@ namespace golf {
 namespace {
 
 constexpr std::int32_t kHighestID = 99999;
+constexpr std::size_t kQuenbyFirstName = 11;  // characters
 
 // Errors of a disk, which the operator may be able to remove.
 constexpr ErrorNumber kDiskErrors[] = {ErrorNumber::kDeviceFault,      ErrorNumber::kDiskFull,
@@ -86,22 +87,11 @@ class GolferCopy {
         return true;
       } catch (const NumberedError& error) {
         if (!IsOfDisk(error)) throw;
-        if (WantsRetry(error)) continue;
+        if (AskForRetry(host_, error)) continue;
         report_.given_up = error;
         return false;
       }
     }
-  }
-
-  bool WantsRetry(const NumberedError& error) {
-    host_.Beep();
-    const Box box{.title = "Message",
-                  .text = error.Is(ErrorNumber::kDiskFull)
-                              ? "DISK IS FULL - You may need to delete nonessential"
-                              : "DISK ERROR" + NumberText(error.number()),
-                  .buttons = {BoxButton::kRetry, BoxButton::kCancel},
-                  .default_button = 1};
-    return host_.Ask(box) == BoxButton::kRetry;
   }
 
   bool ReadQuenby() {
@@ -135,6 +125,8 @@ class GolferCopy {
     host_.Report(
         {done_, total_,
          "Transfering: " + std::string(Trim(first_name)) + " " + std::string(Trim(last_name))});
+    host_.Group(LeagueGolferName(golfer));
+    if (Trim(first_name).size() > kQuenbyFirstName) ++report_.long_first_names;
     const auto found = by_name_.find(NameKey(last_name, first_name));
     return found == by_name_.end() ? AddNew(golfer) : Update(golfer, found->second);
   }
@@ -186,6 +178,18 @@ std::string Log(const GolfersZdToQbReport& report) {
 }
 
 }  // namespace
+
+bool AskForRetry(RunHost& host, const NumberedError& error) {
+  if (!IsOfDisk(error)) return false;
+  host.Beep();
+  const Box box{.title = "Message",
+                .text = error.Is(ErrorNumber::kDiskFull)
+                            ? "DISK IS FULL - You may need to delete nonessential"
+                            : "DISK ERROR" + NumberText(error.number()),
+                .buttons = {BoxButton::kRetry, BoxButton::kCancel},
+                .default_button = 1};
+  return host.Ask(box) == BoxButton::kRetry;
+}
 
 void Run(SharedState& state, RunHost& host, const GolfersZdToQbRequest& request,
          GolfersZdToQbReport& report) {

@@ -22,8 +22,13 @@ struct GolfersZdToQbRequest {
 struct GolfersZdToQbReport : RunReport {
   std::int16_t updated = 0;
   std::int16_t added = 0;
+  std::int32_t long_first_names = 0;      // that Quenby has no room for
   std::optional<NumberedError> given_up;  // the error on which the operator ended the run
 };
+
+// Asks whether to retry what an error has ended. False, unasked, where the error is none of the
+// disk.
+bool AskForRetry(RunHost& host, const NumberedError& error);
 
 // Asks whether to retry a file operation that failed. Without a retry the run ends, and its
 // report says what was done. Any other error ends the run too, such as error 9 for a current event

@@ -29,6 +29,9 @@ class RunHost {
   virtual void Report(const Progress& progress) = 0;
   // Reports a fault after which the run continues.
   virtual void NoteFault(const NumberedError& fault) = 0;
+  // The changes that follow belong to one golfer, course or roster, by this title; to the run as a
+  // whole where it is empty.
+  virtual void Group(std::string_view title) = 0;
   virtual BoxButton Ask(const Box& box) = 0;
   // Asks a question that may come many times, such as one for each score. Returns true for Yes.
   // `log` is the log of the report so far.

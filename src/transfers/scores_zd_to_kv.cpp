@@ -65,6 +65,7 @@ class ScorePosting {
         [&] { return "Record " + std::to_string(record) + " of the league's " + whose; });
     if (!read) return true;
     host_.Report({done_, total_, "SEARCHING for " + player.Get<"FirstName">()});
+    host_.Group(LeagueGolferName(player));
     return player.Get<"GolferID">() <= 0 || PostGolfer(player);
   }
 

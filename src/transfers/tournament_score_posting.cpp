@@ -46,6 +46,7 @@ bool TournamentScorePosting::IsRead(std::int32_t record) {
   bool exists = false;
   next_([&] { exists = player.GetRecord(record, true) && player.TourPlayerExists(); });
   if (exists) name_ = player.NameLF();
+  host_.Group(name_);
   return exists;
 }
 

@@ -28,7 +28,9 @@ void Run(SharedState& state, RunHost& host, const TournamentUpdateRequest& reque
     const bool read = ReadOrLeaveOut(
         host, report, [&] { player.GetRecord(entry, true); },
         [&] { return "Entry " + std::to_string(entry) + " of the tournament"; });
-    if (read && player.TourRosterRecordPointer() > 0) UpdateEntry(player, entry);
+    if (!read || player.TourRosterRecordPointer() <= 0) continue;
+    host.Group(player.NameLF());
+    UpdateEntry(player, entry);
   }
   report.end = RunEnd::kDone;
 }

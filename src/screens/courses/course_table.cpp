@@ -7,6 +7,7 @@
 #include "core/number_text.h"
 #include "core/text.h"
 #include "screens/courses/course_form.h"
+#include "screens/file_changes.h"
 #include "stores/course/course_class.h"
 #include "stores/course/course_library.h"
 
@@ -129,7 +130,7 @@ void CourseTable::AddCourse() {
   form.CopyToRecord();
   course.Setactiveflag(1);
   const std::int32_t record = course.CourseFileLength() + 1;
-  course.SaveRecord(record);
+  Save("add-course", record);
   LoadGrid(record);
 }
 
@@ -145,7 +146,7 @@ void CourseTable::EditCourse() {
   if (FormAccepted(form)) {
     form.CopyToRecord();
     course.Setactiveflag(1);
-    course.SaveRecord(record);
+    Save("edit-course", record);
   }
   LoadGrid(record);
 }
@@ -163,8 +164,15 @@ void CourseTable::DeleteCourse() {
   const std::int32_t record = CourseInHand();
   course.GetRecord(record);
   course.Setactiveflag(0);
-  course.SaveRecord(record);
+  Save("delete-course", record);
   LoadGrid(0);
+}
+
+// Saves the course in the buffer.
+void CourseTable::Save(const char* command, std::int32_t record) {
+  CourseClass& course = state().Course();
+  ChangeFiles(state(), host(), command, std::string(Trim(course.Name())),
+              [&] { course.SaveRecord(record); });
 }
 
 void CourseTable::Close() {
@@ -172,8 +180,8 @@ void CourseTable::Close() {
   for (int row = 1; row <= CourseGrid.rows(); ++row) {
     records.push_back(RoundToInt32(LeadingNumber(CourseGrid.text(kNumberColumn, row))));
   }
-  const JoinedWrites joined(state().files);
-  state().Course().RebuildCourseIndexes(records);
+  ChangeFiles(state(), host(), "course-indexes", state().Course().ActiveProgram(),
+              [&] { state().Course().RebuildCourseIndexes(records); });
   host().Unload(*this);
 }
 

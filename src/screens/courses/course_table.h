@@ -37,6 +37,7 @@ class CourseTable : public Screen {
   void AddCourse();
   void EditCourse();
   void DeleteCourse();
+  void Save(const char* command, std::int32_t record);
   void Close();
 
   bool kelvane_installed_ = false;

@@ -7,6 +7,7 @@
 #include "core/file_name.h"
 #include "core/number_text.h"
 #include "core/text.h"
+#include "screens/file_changes.h"
 #include "stores/quenby/program_class.h"
 
 namespace golf {
@@ -400,7 +401,10 @@ bool XReportsCustomTeamResults::SaveReport() {
   if (IsRefused(name) || !HasTextThatFits()) return false;
   TakeControls();
   CopyForward(layout_);
-  WriteReportLayout(state().files, state().StoreDataPath + name + extension_, layout_);
+  const bool saved = ChangeFiles(state(), host(), "save-layout", name, [&] {
+    WriteReportLayout(state().files, state().StoreDataPath + name + extension_, layout_);
+  });
+  if (!saved) return false;
   SetReportFileName(name);
   host().Unload(*this);
   return true;

@@ -4,6 +4,7 @@
 #include "core/general_routines.h"
 #include "core/resume_next.h"
 #include "core/text.h"
+#include "screens/file_changes.h"
 #include "stores/kelvane/kelvane_files.h"
 
 namespace golf {
@@ -157,11 +158,14 @@ void LoadRoster::MakeNew() {
     host().Ask(Box{.title = "Message", .text = "Invalid type roster.  Cannot create."});
     return;
   }
-  state().KVRosterName = name;
-  CloseKVFiles(state());
-  state().files.Open(kKelvaneHeaderFile, path, KelvaneHeaderLayout::kLength);
-  BuildBlankKVHeader(state(), kind == "9" ? 9 : 18);
-  state().files.Write(kKelvaneHeaderFile, 1, state().Kelvane().header);
+  const bool made = ChangeFiles(state(), host(), "new-kv-roster", name, [&] {
+    state().KVRosterName = name;
+    CloseKVFiles(state());
+    state().files.Open(kKelvaneHeaderFile, path, KelvaneHeaderLayout::kLength);
+    BuildBlankKVHeader(state(), kind == "9" ? 9 : 18);
+    state().files.Write(kKelvaneHeaderFile, 1, state().Kelvane().header);
+  });
+  if (!made) return;
   ShowNewRosterFrame(false);
   FillList();
   for (int row = 1; row <= grid1.rows(); ++row) {
@@ -194,8 +198,14 @@ void LoadRoster::Delete(const std::string& name) {
     if (sure != BoxButton::kYes) return;
   }
   CloseKVFiles(state());
-  for (const char* extension : {".kvg", ".kvx", ".kvs", ".kv5"}) {
-    state().files.DeleteFile(state().KVDataPath + name + extension);
+  try {
+    ChangeFiles(state(), host(), "delete-kv-roster", name, [&] {
+      for (const char* extension : {".kvg", ".kvx", ".kvs", ".kv5"}) {
+        state().files.DeleteFile(state().KVDataPath + name + extension);
+      }
+    });
+  } catch (const CommitFailed&) {
+    // The list shows that the roster is still there.
   }
   FillList();
   if (current) CancelButton.Click();

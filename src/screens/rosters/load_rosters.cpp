@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "forms/grid_sort.h"
 #include "scoring/player/player_class.h"
+#include "screens/file_changes.h"
 #include "stores/quenby/program_class.h"
 
 namespace golf {
@@ -177,8 +178,13 @@ void LoadRosters::Store() {
     return;
   }
   LeavePanel();
-  ProgramClass& program = state().Program();
   const std::int32_t roster = RosterInHand();
+  ChangeFiles(state(), host(), "save-qb-roster", Text1[0].text(), [&] { Save(roster); });
+  LoadList();
+}
+
+void LoadRosters::Save(std::int32_t roster) {
+  ProgramClass& program = state().Program();
   program.GetRosterRecord(roster);
   program.SetIsRosterActive(true);
   program.SetClubName(Text1[0].text());
@@ -187,7 +193,6 @@ void LoadRosters::Store() {
   }
   program.SetClubPhone(Text1[4].text());
   program.SaveRosterRecord(roster);
-  LoadList();
 }
 
 void LoadRosters::CancelNew() {
@@ -212,8 +217,10 @@ void LoadRosters::AskToDelete() {
                                   "'.\r\rAll players in this roster will be deleted.",
                           .default_answer = "NO"});
   if (MeansYes(answer)) {
-    program.DeleteRosterRecord(roster);
-    TakeGolfersOut(roster);
+    ChangeFiles(state(), host(), "delete-qb-roster", program.ClubName(), [&] {
+      program.DeleteRosterRecord(roster);
+      TakeGolfersOut(roster);
+    });
   }
   LoadList();
 }

@@ -54,6 +54,7 @@ class LoadRosters : public Screen {
   void EnterPanel(Button& cancel);
   void LeavePanel();
   void Store();
+  void Save(std::int32_t roster);
   void CancelNew();
   void CancelEdit();
   void AskToDelete();

@@ -25,17 +25,15 @@ void KVCoursestoQB::OnLoad() {
 
 void KVCoursestoQB::Transfer() {
   CoursesKvToQbReport report;
-  {
-    ScreenRun run(host(), {.working = &TransferLabel});
-    Run(state(), run, {}, report);
-  }
+  RunWhole(state(), host(), {.working = &TransferLabel}, {.command = "courses-kv-to-qb"},
+           CoursesKvToQbRequest(), report);
   host().NoteCount("added", report.added);
   host().NoteCount("updated", report.updated);
   host().Ask(Box{.title = "Course transfer complete.",
                  .text = "Number of courses ADDED:" + NumberText(report.added) +
                          "\rNumber of courses UPDATED:" + NumberText(report.updated) + "\r",
                  .icon = BoxIcon::kInformation});
-  RebuildQuenbyCourseIndexes(state());
+  if (report.index_error) throw *report.index_error;
   host().Unload(*this);
 }
 

@@ -132,7 +132,10 @@ void KVtoQB::Transfer() {
   host().NoteCount("updated", report.updated);
   host().NoteCount("added", report.added);
   // What follows is of the run as well, which carries on over faults.
-  const ResumeNext next([this](const NumberedError& fault) { host().NoteFault(fault); });
+  const ResumeNext next([this](const NumberedError& fault) {
+    if (dynamic_cast<const CommitFailed*>(&fault) != nullptr) throw;
+    host().NoteFault(fault);
+  });
   next([&] { ShowReport(report.log); });
   next([&] { AskTournamentUpdate(); });
   next([&] { host().Unload(*this); });
@@ -142,10 +145,16 @@ void KVtoQB::Transfer() {
 // run has hidden stays hidden then.
 bool KVtoQB::CopyGolfers(const GolfersKvToQbRequest& request, GolfersKvToQbReport& report) {
   try {
-    ScreenRun run(host(),
-                  {.working = &Working, .begin = [this] { TransferButton.SetVisible(false); }});
-    Run(state(), run, request, report);
+    RunWhole(state(), host(),
+             {.working = &Working,
+              .button = &TransferButton,
+              .begin = [this] { TransferButton.SetVisible(false); }},
+             {.command = "golfers-kv-to-qb",
+              .about = request.roster + " to " + std::string(Trim(TournamentRoster.text()))},
+             request, report);
     return true;
+  } catch (const CommitFailed&) {
+    throw;
   } catch (const NumberedError& error) {
     host().NoteRunEnded(error);
     if (error.Is(ErrorNumber::kPermissionDenied)) {
@@ -187,9 +196,9 @@ void KVtoQB::AskTournamentUpdate() {
                        tournament.Name() + "'.",
                .default_answer = "No"});
   if (!EqualIgnoringCase(std::string_view(answer).substr(0, 3), "Yes")) return;
-  ScreenRun run(host(), {});
   TournamentUpdateReport report;
-  Run(state(), run, {number}, report);
+  RunWhole(state(), host(), {}, {.command = "golfers-kv-to-qb", .about = tournament.Name()},
+           TournamentUpdateRequest{number}, report);
   ShowNotice("Tournament '" + tournament.Name() + "' handicaps updated.");
 }
 

@@ -91,19 +91,20 @@ void KVtoZD::Transfer() {
     return;
   }
   GolfersKvToZdReport report;
-  {
-    ScreenRun run(host(), {.working = &Working,
-                           .count = &WorkingCount,
-                           .hidden = &TransferButton,
-                           .begin = [this] { HandicapPrct.SetText(std::to_string(Percent())); }});
-    Run(state(), run,
-        {.roster = SourcePath.caption(),
-         .league = LeagueBase(DestLabel.caption()),
-         .league_text = DestLabel.caption(),
-         .percent = Percent(),
-         .halved = HandicapType[0].value()},
-        report);
-  }
+  const GolfersKvToZdRequest request{.roster = SourcePath.caption(),
+                                     .league = LeagueBase(DestLabel.caption()),
+                                     .league_text = DestLabel.caption(),
+                                     .percent = Percent(),
+                                     .halved = HandicapType[0].value()};
+  RunWhole(state(), host(),
+           {.working = &Working,
+            .count = &WorkingCount,
+            .button = &TransferButton,
+            .hides_button = true,
+            .message = &Message,
+            .begin = [this] { HandicapPrct.SetText(std::to_string(Percent())); }},
+           {.command = "golfers-kv-to-zd", .about = request.roster + " to " + request.league},
+           request, report);
   if (report.end == RunEnd::kRefused) return;
   if (report.end == RunEnd::kNoRoster) {
     host().Ask(Box{.title = "Notice", .text = "Cannot open the Kelvane roster"});

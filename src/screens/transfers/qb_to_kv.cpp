@@ -323,17 +323,22 @@ void QBtoKV::Transfer() {
     return ShowBox("Info", "You must select a course to transfer to.");
   }
   ScoresQbToKvReport report;
-  {
-    ScreenRun run(host(), {.working = &Working, .begin = [this] {
-                             TransferButton.SetVisible(false);
-                             Message.SetText("");
-                           }});
-    Run(state(), run,
-        {.roster = HandicapRoster.text(),
-         .tournament = TournamentOf(TournamentList.text()),
-         .choice = Choice()},
-        report);
-  }
+  const ScoresQbToKvRequest request{.roster = HandicapRoster.text(),
+                                    .tournament = TournamentOf(TournamentList.text()),
+                                    .choice = Choice()};
+  RunWhole(state(), host(),
+           {.working = &Working,
+            .button = &TransferButton,
+            .message = &Message,
+            .begin =
+                [this] {
+                  TransferButton.SetVisible(false);
+                  Message.SetText("");
+                }},
+           {.command = "scores-qb-to-kv",
+            .about = TournamentHeading(TournamentList.text()) + ", round " +
+                     std::to_string(selected_round_) + ", to " + request.roster},
+           request, report);
   if (report.end == RunEnd::kNoRoster) {
     // What the operator chooses next goes by the tournament.
     const ResumeNext next([this](const NumberedError& fault) { host().NoteFault(fault); });

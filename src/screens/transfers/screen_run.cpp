@@ -21,36 +21,71 @@ class InputHeldOff {
 
 void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
                  const std::function<void()>& run) {
-  const auto lock = state.files.platform().LockRun(state.ProgramPath);
+  const ChangingClick click(state, host);
+  if (!click.IsAllowed()) return;
   const InputHeldOff held_off(host);
-  try {
-    run();
-  } catch (const NumberedError&) {
+  const auto open_again = [&] {
     // The error that ended the run is the one to tell, whatever closing brings.
     const ResumeNext anyway(nullptr);
     anyway([&] { state.InitSharedObjects(); });
     anyway([&] { screen.OpenAgain(); });
+  };
+  try {
+    run();
+  } catch (const NumberedError&) {
+    open_again();
+    throw;
+  } catch (...) {
+    // The run was stopped. What it held is gone before anybody reads.
+    state.transactions->EndClick();
+    open_again();
     throw;
   }
 }
 
+ScreenRun::ScreenRun(SharedState& state, ScreenHost& host, RunLook look, RunTitle title)
+    : transactions_(*state.transactions), host_(host), look_(std::move(look)) {
+  if (look_.button != nullptr) button_before_ = look_.button->visible();
+  if (look_.message != nullptr) message_before_ = look_.message->text();
+  transactions_.Begin(std::move(title));
+}
+
 ScreenRun::~ScreenRun() {
-  if (!begun_) return;
-  for (Label* label : {look_.working, look_.count}) {
-    if (label != nullptr) label->SetCaption("");
+  if (begun_) {
+    for (Label* label : {look_.working, look_.count}) {
+      if (label != nullptr) label->SetCaption("");
+    }
+    if (look_.hides_button) look_.button->SetVisible(true);
+    host_.SetPointer(Pointer::kNormal);
   }
-  if (look_.hidden != nullptr) look_.hidden->SetVisible(true);
-  host_.SetPointer(Pointer::kNormal);
+  if (committed_) return;
+  if (look_.button != nullptr) look_.button->SetVisible(button_before_);
+  if (look_.message != nullptr) look_.message->SetText(message_before_);
+}
+
+void ScreenRun::Commit(const RunReport& report, const CommitRetry& retry) {
+  while (true) {
+    try {
+      transactions_.Commit(report.log);
+      committed_ = true;
+      return;
+    } catch (const CommitFailed& error) {
+      if (retry && retry(*this, error)) continue;
+      transactions_.Drop();
+      throw;
+    }
+  }
 }
 
 void ScreenRun::Begin() {
   begun_ = true;
-  if (look_.hidden != nullptr) look_.hidden->SetVisible(false);
+  if (look_.hides_button) look_.button->SetVisible(false);
   if (look_.begin) look_.begin();
   host_.SetPointer(Pointer::kBusy);
 }
 
 void ScreenRun::Report(const Progress& progress) {
+  transactions_.CheckStopped();
   if (look_.working != nullptr && !progress.doing.empty()) {
     look_.working->SetCaption(std::string(progress.doing));
   }
@@ -68,7 +103,7 @@ void ScreenRun::NoteFault(const NumberedError& fault) {
 
 bool ScreenRun::AskAgain(const std::string& title, const std::string& text,
                          const std::string& log) {
-  if (look_.log != nullptr) look_.log->SetText(log);
+  if (look_.shows_log) look_.message->SetText(log);
   TipBox& box = SharedTipBox(host_);
   box.SetMessageType(TipBox::kLastingQuestion);
   box.SetMessageTitle(title);

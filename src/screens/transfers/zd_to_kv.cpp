@@ -94,10 +94,18 @@ void ZDtoKV::PostScores(ScoresZdToKvReport& report) {
   const auto show_log = [&] {
     if (!report.log.empty()) Message.SetText(report.log);
   };
-  ScreenRun run(host(), {.working = &Working, .log = &Message});
+  const ScoresZdToKvRequest request{.roster = HandicapRoster.text(),
+                                    .batch = BatchCode(EventList.text())};
   try {
-    Run(state(), run, {.roster = HandicapRoster.text(), .batch = BatchCode(EventList.text())},
-        report);
+    RunWhole(
+        state(), host(),
+        {.working = &Working, .button = &TransferButton, .message = &Message, .shows_log = true},
+        {.command = "scores-zd-to-kv",
+         .about = std::string(Trim(LeagueRoster.text())) + ", batch " +
+                  std::to_string(request.batch) + ", to " + request.roster},
+        request, report);
+  } catch (const CommitFailed&) {
+    throw;
   } catch (const NumberedError&) {
     show_log();
     throw;

@@ -63,6 +63,14 @@ void ZDtoQB::OnUnload() { WriteSettings(state(), *this, Remembered()); }
 
 void ZDtoQB::OpenAgain() { OpenQuenbyRosters(state()); }
 
+// A golfer is known by his name, so one whose name was cut is not found the next time.
+void ZDtoQB::NotifyOfLongNames(std::int32_t count) {
+  if (count == 0) return;
+  host().Notify(std::to_string(count) + (count == 1 ? " first name does" : " first names do") +
+                " not fit Quenby's 11 characters. Another transfer adds " +
+                (count == 1 ? "this golfer" : "these golfers") + " again.");
+}
+
 bool ZDtoQB::Transfer() {
   const std::string base(LastCharacters(Trim(LeagueRoster.text()), kBaseLength));
   if (CompareIgnoringCase(base, " ") <= 0) {
@@ -77,15 +85,18 @@ bool ZDtoQB::Transfer() {
     return false;
   }
   GolfersZdToQbReport report;
-  {
-    ScreenRun run(host(), {.working = &Working, .count = &WorkingCount});
-    Run(state(), run,
-        {.league = base,
-         .destination = QuenbyRosterNumber(TournamentRoster.text()),
-         .doubled = Handicapto18.value(),
-         .substitutes = TransferSubs.value()},
-        report);
-  }
+  const GolfersZdToQbRequest request{.league = base,
+                                     .destination = QuenbyRosterNumber(TournamentRoster.text()),
+                                     .doubled = Handicapto18.value(),
+                                     .substitutes = TransferSubs.value()};
+  RunWhole(
+      state(), host(),
+      {.working = &Working, .count = &WorkingCount, .button = &TransferButton, .message = &Message},
+      {.command = "golfers-zd-to-qb",
+       .about = std::string(Trim(LeagueRoster.text())) + " to " +
+                std::string(Trim(TournamentRoster.text()))},
+      request, report,
+      [](RunHost& run, const CommitFailed& error) { return AskForRetry(run, error); });
   if (report.given_up) host().NoteRunEnded(*report.given_up);
   host().NoteCount("updated", report.updated);
   host().NoteCount("added", report.added);
@@ -94,6 +105,7 @@ bool ZDtoQB::Transfer() {
   host().Ask(Box{.title = "Message",
                  .text = std::to_string(report.updated + report.added) + " golfers transfered.",
                  .icon = BoxIcon::kInformation});
+  NotifyOfLongNames(report.long_first_names);
   return true;
 }
 

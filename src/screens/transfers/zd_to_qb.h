@@ -44,6 +44,7 @@ class ZDtoQB : public Screen {
   std::array<Control*, 6> Remembered();
   // False if the operator was told what is missing.
   bool Transfer();
+  void NotifyOfLongNames(std::int32_t count);
 };
 
 }  // namespace golf

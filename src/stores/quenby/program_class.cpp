@@ -14,7 +14,6 @@ std::string Trimmed(const std::string& text) { return std::string(Trim(text)); }
 }  // namespace
 
 bool ProgramClass::OpenMasterFile() {
-  state_.files.gate().Settle();  // the error of another write must not be caught below
   try {
     if (master_file_ > 0) SaveMasterRecord();
     CloseMasterFile();
@@ -34,10 +33,8 @@ void ProgramClass::GetMasterRecord() {
 }
 
 void ProgramClass::SaveMasterRecord() {
-  state_.files.gate().Settle();
   try {
     state_.files.Write(master_file_, 1, master_);
-    state_.files.gate().Settle();  // so that a failure is caught here
   } catch (const NumberedError&) {
     // The file keeps its old content.
   }

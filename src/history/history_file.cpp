@@ -1,0 +1,289 @@
+#include "history/history_file.h"
+
+#include <zlib.h>
+
+#include <bit>
+#include <utility>
+
+#include "core/little_endian.h"
+
+namespace golf {
+namespace {
+
+constexpr std::string_view kTitle = "Golf Transfer history 1\r\n";
+constexpr std::string_view kMark = "Golf Transfer mark ";
+constexpr std::size_t kPortionHead = 9;  // kind, length, checksum
+constexpr std::size_t kMostInPortion = std::size_t{1} << 24;
+constexpr std::size_t kFullPortion = std::size_t{64} << 10;
+constexpr std::size_t kFullBuffer = std::size_t{256} << 10;
+constexpr std::uint64_t kMostInPlace = std::uint64_t{1} << 24;
+
+std::uint32_t Checksum(std::string_view bytes) {
+  return static_cast<std::uint32_t>(
+      crc32_z(0, reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()));
+}
+
+void AppendFixed(std::string& to, std::uint32_t number) {
+  for (int shift = 0; shift < 32; shift += 8) to += static_cast<char>(number >> shift);
+}
+
+std::uint32_t Fixed(std::string_view bytes) {
+  std::uint32_t number = 0;
+  for (int i = 3; i >= 0; --i) {
+    number = number << 8 | static_cast<unsigned char>(bytes[static_cast<std::size_t>(i)]);
+  }
+  return number;
+}
+
+std::string MarkBytes(HistoryMark mark) {
+  std::string bytes(kMark);
+  bytes += std::to_string(static_cast<int>(mark));
+  bytes += "\r\n";
+  bytes.resize(kMarkSize, ' ');
+  return bytes;
+}
+
+std::int64_t PlaceOf(HistoryMark mark) {
+  return static_cast<std::int64_t>(static_cast<std::size_t>(mark) * kMarkSize);
+}
+
+std::string ReadExactly(PlatformFile& file, std::int64_t offset, std::size_t size) {
+  std::string bytes(size, '\0');
+  bytes.resize(file.ReadAt(offset, bytes));
+  return bytes;
+}
+
+}  // namespace
+
+HistoryWriter::HistoryWriter(HistoryGate& gate, const std::string& path) : gate_(gate) {
+  gate_.Create(path);
+  file_ = gate_.platform().Open(path, FileAccess::kAlone);
+}
+
+void HistoryWriter::Run(const RunTitle& title) {
+  std::string bytes;
+  AppendNumber(bytes, std::bit_cast<std::uint64_t>(title.moment));
+  AppendText(bytes, title.command);
+  AppendText(bytes, title.about);
+  AppendNumber(bytes, static_cast<std::uint32_t>(title.undoes));
+  AppendNumber(bytes, title.continues ? 1 : 0);
+  Portion(HistoryPortion::kRun, bytes);
+}
+
+void HistoryWriter::Group(ChangeGroup group, std::string_view title) {
+  AppendNumber(groups_, group);
+  AppendText(groups_, title);
+  if (groups_.size() >= kFullPortion) FlushGroups();
+}
+
+void HistoryWriter::File(const HistoryFileEntry& file) {
+  FlushGroups();
+  FlushPlaces();
+  next_offset_ = 0;
+  std::string bytes;
+  AppendNumber(bytes, static_cast<std::uint64_t>(file.fate));
+  AppendText(bytes, file.path);
+  AppendNumber(bytes, static_cast<std::uint64_t>(file.old_length));
+  AppendNumber(bytes, static_cast<std::uint64_t>(file.new_length));
+  AppendText(bytes, file.kept_as);
+  Portion(HistoryPortion::kFile, bytes);
+}
+
+bool HistoryWriter::Place(std::int64_t offset, ChangeGroup group, std::string_view old_bytes,
+                          std::string_view new_bytes) {
+  const std::size_t before = places_.size();
+  AppendNumber(places_, static_cast<std::uint64_t>(offset - next_offset_));
+  AppendNumber(places_, old_bytes.size());
+  AppendNumber(places_, new_bytes.size());
+  AppendNumber(places_, group);
+  if (!AppendPlaceBytes(places_, old_bytes, new_bytes)) {
+    places_.resize(before);
+    return false;
+  }
+  next_offset_ = offset + std::ssize(std::max(old_bytes, new_bytes,
+                                              [](auto a, auto b) { return a.size() < b.size(); }));
+  if (places_.size() >= kFullPortion) FlushPlaces();
+  return true;
+}
+
+void HistoryWriter::Report(std::string_view report) {
+  FlushGroups();
+  FlushPlaces();
+  Portion(HistoryPortion::kReport, report.substr(0, kMostInPortion));
+}
+
+void HistoryWriter::Finish() {
+  FlushGroups();
+  FlushPlaces();
+  Portion(HistoryPortion::kEnd, {});
+  Flush();
+  std::string first(kTitle);
+  first.resize(static_cast<std::size_t>(kContentStart), '\0');  // room for the marks
+  gate_.Write(*file_, 0, first);
+  gate_.Sync(*file_);
+}
+
+void HistoryWriter::FlushPlaces() {
+  if (places_.empty()) return;
+  Portion(HistoryPortion::kPlaces, places_);
+  places_.clear();
+}
+
+void HistoryWriter::FlushGroups() {
+  if (groups_.empty()) return;
+  Portion(HistoryPortion::kGroups, groups_);
+  groups_.clear();
+}
+
+void HistoryWriter::Portion(HistoryPortion kind, std::string_view bytes) {
+  pending_ += static_cast<char>(kind);
+  AppendFixed(pending_, static_cast<std::uint32_t>(bytes.size()));
+  AppendFixed(pending_, Checksum(bytes));
+  pending_ += bytes;
+  if (pending_.size() >= kFullBuffer) Flush();
+}
+
+void HistoryWriter::Flush() {
+  gate_.Write(*file_, end_, pending_);
+  end_ += std::ssize(pending_);
+  pending_.clear();
+}
+
+HistoryFile::HistoryFile(std::string path, std::unique_ptr<PlatformFile> file)
+    : path_(std::move(path)), file_(std::move(file)) {}
+
+bool HistoryFile::Has(HistoryMark mark) {
+  return ReadExactly(*file_, PlaceOf(mark), kMarkSize) == MarkBytes(mark);
+}
+
+bool HistoryFile::IsTorn(HistoryMark mark) {
+  const std::string bytes = ReadExactly(*file_, PlaceOf(mark), kMarkSize);
+  return bytes.find_first_not_of('\0') != std::string::npos && bytes != MarkBytes(mark);
+}
+
+void HistoryFile::Put(HistoryGate& gate, HistoryMark mark) {
+  gate.Write(*file_, PlaceOf(mark), MarkBytes(mark));
+  gate.Sync(*file_);
+}
+
+void HistoryFile::Clear(HistoryGate& gate, HistoryMark mark) {
+  gate.Write(*file_, PlaceOf(mark), std::string(kMarkSize, '\0'));
+  gate.Sync(*file_);
+}
+
+HistoryFile::Portion HistoryFile::ReadPortion(std::int64_t& at) {
+  const std::string head = ReadExactly(*file_, at, kPortionHead);
+  Check(head.size() == kPortionHead);
+  const std::size_t size = Fixed(std::string_view(head).substr(1));
+  Check(size <= kMostInPortion);
+  Portion portion{static_cast<HistoryPortion>(head[0]),
+                  ReadExactly(*file_, at + static_cast<std::int64_t>(kPortionHead), size)};
+  at += static_cast<std::int64_t>(kPortionHead + size);
+  Check(portion.bytes.size() == size &&
+        Checksum(portion.bytes) == Fixed(std::string_view(head).substr(5)));
+  return portion;
+}
+
+RunTitle HistoryFile::TitleOf(const Portion& portion) const {
+  HistoryBytes in(portion.bytes);
+  RunTitle title;
+  title.moment = std::bit_cast<DateValue>(in.Number());
+  title.command = in.Text();
+  title.about = in.Text();
+  title.undoes = static_cast<std::int32_t>(in.Number(INT32_MAX));
+  title.continues = in.Number(1) == 1;
+  Check(portion.kind == HistoryPortion::kRun && !in.failed() && IsDate(title.moment));
+  return title;
+}
+
+HistoryFileEntry HistoryFile::EntryOf(const Portion& portion) const {
+  HistoryBytes in(portion.bytes);
+  HistoryFileEntry entry;
+  entry.fate = static_cast<FileFate>(in.Number(2));
+  entry.path = in.Text();
+  entry.old_length = static_cast<std::int64_t>(in.Number(INT64_MAX));
+  entry.new_length = static_cast<std::int64_t>(in.Number(INT64_MAX));
+  entry.kept_as = in.Text();
+  Check(!in.failed() && !entry.path.empty());
+  return entry;
+}
+
+void HistoryFile::ReadGroups(std::string_view bytes, const Reader& reader) const {
+  for (HistoryBytes in(bytes); !in.AtEnd();) {
+    const auto group = static_cast<ChangeGroup>(in.Number(UINT32_MAX));
+    const std::string_view title = in.Text();
+    Check(!in.failed());
+    if (reader.group) reader.group(group, title);
+  }
+}
+
+void HistoryFile::Read(const Reader& reader) {
+  std::int64_t at = kContentStart;
+  const RunTitle title = Title(at);
+  if (reader.run) reader.run(title);
+  std::int64_t next_offset = -1;  // no file yet
+  while (true) {
+    const Portion portion = ReadPortion(at);
+    switch (portion.kind) {
+      case HistoryPortion::kGroups:
+        ReadGroups(portion.bytes, reader);
+        break;
+      case HistoryPortion::kFile: {
+        const HistoryFileEntry entry = EntryOf(portion);
+        next_offset = 0;
+        if (reader.file) reader.file(entry);
+        break;
+      }
+      case HistoryPortion::kPlaces:
+        Check(next_offset >= 0);
+        ReadPlaces(portion.bytes, next_offset, reader);
+        break;
+      case HistoryPortion::kReport:
+        if (reader.report) reader.report(portion.bytes);
+        break;
+      case HistoryPortion::kEnd:
+        return Check(at == file_->Length());
+      default:
+        Check(false);
+    }
+  }
+}
+
+void HistoryFile::ReadPlaces(std::string_view bytes, std::int64_t& next_offset,
+                             const Reader& reader) {
+  HistoryBytes in(bytes);
+  HistoryPlace place;
+  while (!in.AtEnd()) {
+    const std::uint64_t gap = in.Number(INT64_MAX / 2);
+    const std::size_t old_size = in.Number(kMostInPlace);
+    const std::size_t new_size = in.Number(kMostInPlace);
+    place.group = static_cast<ChangeGroup>(in.Number(UINT32_MAX));
+    place.offset = next_offset + static_cast<std::int64_t>(gap);
+    Check(!in.failed() && place.offset < INT64_MAX / 2 && std::max(old_size, new_size) > 0);
+    in.PlaceBytes(old_size, new_size, place);
+    Check(!in.failed());
+    next_offset = place.End();
+    if (reader.place) reader.place(place);
+  }
+}
+
+RunTitle HistoryFile::Title() {
+  std::int64_t at = kContentStart;
+  return Title(at);
+}
+
+RunTitle HistoryFile::Title(std::int64_t& at) {
+  Check(ReadExactly(*file_, 0, kTitle.size()) == kTitle);
+  return TitleOf(ReadPortion(at));
+}
+
+bool HistoryFile::IsWhole() {
+  try {
+    Read({});
+    return true;
+  } catch (const DamagedHistory&) {
+    return false;
+  }
+}
+
+}  // namespace golf

@@ -1,0 +1,178 @@
+#include "history/history_format.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace golf {
+namespace {
+
+// A shorter run of one byte is not worth its own operation.
+constexpr std::size_t kShortestFill = 8;
+
+void AppendCode(std::string& to, PlaceCode code, std::size_t count) {
+  to += static_cast<char>(code);
+  AppendNumber(to, count);
+}
+
+// How many bytes from `at` on are the same byte.
+std::size_t FillLength(std::string_view bytes, std::size_t at) {
+  const char first = bytes[at];
+  std::size_t end = at + 1;
+  while (end < bytes.size() && bytes[end] == first) ++end;
+  return end - at;
+}
+
+// Codes bytes that both sides have, or only one.
+void AppendBytes(std::string& to, std::string_view bytes, PlaceCode plain, PlaceCode filled) {
+  std::size_t literal = 0;
+  const auto flush = [&](std::size_t end) {
+    if (end == literal) return;
+    AppendCode(to, plain, end - literal);
+    to += bytes.substr(literal, end - literal);
+  };
+  for (std::size_t at = 0; at < bytes.size();) {
+    const std::size_t fill = FillLength(bytes, at);
+    if (fill >= kShortestFill) {
+      flush(at);
+      AppendCode(to, filled, fill);
+      to += bytes[at];
+      literal = at + fill;
+    }
+    at += fill;
+  }
+  flush(bytes.size());
+}
+
+// Codes bytes of which all differ.
+void AppendPair(std::string& to, std::string_view old_bytes, std::string_view new_bytes) {
+  std::size_t literal = 0;
+  const auto flush = [&](std::size_t end) {
+    if (end == literal) return;
+    AppendCode(to, PlaceCode::kPair, end - literal);
+    to += old_bytes.substr(literal, end - literal);
+    to += new_bytes.substr(literal, end - literal);
+  };
+  for (std::size_t at = 0; at < old_bytes.size();) {
+    const std::size_t fill = std::min(FillLength(old_bytes, at), FillLength(new_bytes, at));
+    if (fill >= kShortestFill) {
+      flush(at);
+      AppendCode(to, PlaceCode::kPairFill, fill);
+      to += old_bytes[at];
+      to += new_bytes[at];
+      literal = at + fill;
+    }
+    at += fill;
+  }
+  flush(old_bytes.size());
+}
+
+// The end of the bytes from `at` on that are equal, or differ, on both sides.
+std::size_t EndOfEqual(std::string_view a, std::string_view b, std::size_t at) {
+  constexpr std::size_t kWord = sizeof(std::uint64_t);
+  while (at + kWord <= a.size() && std::memcmp(a.data() + at, b.data() + at, kWord) == 0) {
+    at += kWord;
+  }
+  while (at < a.size() && a[at] == b[at]) ++at;
+  return at;
+}
+
+std::size_t EndOfDifferent(std::string_view a, std::string_view b, std::size_t at) {
+  while (at < a.size() && a[at] != b[at]) ++at;
+  return at;
+}
+
+}  // namespace
+
+void AppendNumber(std::string& to, std::uint64_t number) {
+  for (; number >= 0x80; number >>= 7) to += static_cast<char>(number | 0x80);
+  to += static_cast<char>(number);
+}
+
+void AppendText(std::string& to, std::string_view text) {
+  AppendNumber(to, text.size());
+  to += text;
+}
+
+bool AppendPlaceBytes(std::string& to, std::string_view old_bytes, std::string_view new_bytes) {
+  const std::size_t both = std::min(old_bytes.size(), new_bytes.size());
+  const std::string_view old_part = old_bytes.substr(0, both);
+  const std::string_view new_part = new_bytes.substr(0, both);
+  if (old_bytes.size() == new_bytes.size() && old_part == new_part) return false;
+  for (std::size_t at = 0; at < both;) {
+    const std::size_t same = EndOfEqual(old_part, new_part, at);
+    AppendBytes(to, old_part.substr(at, same - at), PlaceCode::kSame, PlaceCode::kSameFill);
+    at = EndOfDifferent(old_part, new_part, same);
+    if (at > same) {
+      AppendPair(to, old_part.substr(same, at - same), new_part.substr(same, at - same));
+    }
+  }
+  AppendBytes(to, (old_bytes.size() > both ? old_bytes : new_bytes).substr(both), PlaceCode::kOne,
+              PlaceCode::kOneFill);
+  return true;
+}
+
+std::uint64_t HistoryBytes::Number() {
+  std::uint64_t number = 0;
+  for (int shift = 0; shift < 64; shift += 7) {
+    if (rest_.empty()) break;
+    const auto byte = static_cast<unsigned char>(rest_.front());
+    rest_.remove_prefix(1);
+    number |= std::uint64_t{byte & 0x7fu} << shift;
+    if (byte < 0x80) return number;
+  }
+  Fail();
+  return 0;
+}
+
+std::uint64_t HistoryBytes::Number(std::uint64_t most) {
+  const std::uint64_t number = Number();
+  if (number <= most) return number;
+  Fail();
+  return 0;
+}
+
+std::string_view HistoryBytes::Take(std::size_t size) {
+  if (size > rest_.size()) {
+    Fail();
+    return {};
+  }
+  const std::string_view taken = rest_.substr(0, size);
+  rest_.remove_prefix(size);
+  return taken;
+}
+
+std::string_view HistoryBytes::Text() { return Take(Number(rest_.size())); }
+
+void HistoryBytes::PlaceBytes(std::size_t old_size, std::size_t new_size, HistoryPlace& into) {
+  into.old_bytes.clear();
+  into.new_bytes.clear();
+  into.changed.clear();
+  const std::size_t both = std::min(old_size, new_size);
+  const std::size_t all = std::max(old_size, new_size);
+  std::string& longer = old_size > new_size ? into.old_bytes : into.new_bytes;
+  while (!failed_ && longer.size() < all) {
+    const std::size_t at = longer.size();
+    const bool is_pair = at < both;
+    const auto code = static_cast<PlaceCode>(Number());
+    const std::size_t count = Number((is_pair ? both : all) - at);
+    const bool fills =
+        code == PlaceCode::kSameFill || code == PlaceCode::kPairFill || code == PlaceCode::kOneFill;
+    const bool is_same = code == PlaceCode::kSame || code == PlaceCode::kSameFill;
+    const bool is_one = code == PlaceCode::kOne || code == PlaceCode::kOneFill;
+    if (count == 0 || is_one == is_pair || code > PlaceCode::kOneFill) return Fail();
+    const auto append = [&](std::string& to, std::string_view bytes) {
+      fills ? to.append(count, bytes.empty() ? '\0' : bytes.front()) : to.append(bytes);
+    };
+    const std::string_view first = Take(fills ? 1 : count);
+    append(is_pair ? into.old_bytes : longer, first);
+    if (is_pair) append(into.new_bytes, is_same ? first : Take(fills ? 1 : count));
+    if (is_same) continue;
+    if (!into.changed.empty() && into.changed.back().at + into.changed.back().size == at) {
+      into.changed.back().size += count;
+    } else {
+      into.changed.push_back({at, count});
+    }
+  }
+}
+
+}  // namespace golf

@@ -1,0 +1,115 @@
+#include <utility>
+
+#include "history/transactions.h"
+
+namespace golf {
+namespace {
+
+// What the marks of a history file say.
+enum class Stand { kFinished, kNeverApplied, kDamaged, kForward, kBack };
+
+Stand StandOf(HistoryFile& history) {
+  for (const HistoryMark mark : {HistoryMark::kClosed, HistoryMark::kLeft}) {
+    if (history.Has(mark)) return Stand::kFinished;
+  }
+  const bool back = history.Has(HistoryMark::kPutBack);
+  if (!back && history.Has(HistoryMark::kDone)) return Stand::kFinished;
+  const bool committed = history.Has(HistoryMark::kCommitted);
+  if (!committed && !history.IsTorn(HistoryMark::kCommitted)) return Stand::kNeverApplied;
+  if (!history.IsWhole()) return Stand::kDamaged;
+  return back ? Stand::kBack : Stand::kForward;
+}
+
+std::string Named(const RunTitle& title) {
+  return "The run \"" + title.command + "\"" +
+         (title.about.empty() ? std::string() : " (" + title.about + ")");
+}
+
+}  // namespace
+
+Recovery Transactions::Recover(RecoveryChoice choice) {
+  Recovery recovery;
+  for (const HistoryName& name : folder_.List()) {
+    if (!RecoverRun(name, choice, recovery)) break;
+  }
+  return recovery;
+}
+
+// False where a run is stuck.
+bool Transactions::RecoverRun(const HistoryName& name, RecoveryChoice choice, Recovery& recovery) {
+  std::unique_ptr<HistoryFile> history;
+  try {
+    history = folder_.Open(name, FileAccess::kAlone);
+  } catch (const NumberedError& error) {
+    if (error.Is(ErrorNumber::kPermissionDenied)) return true;  // its writer is at work
+    throw;
+  }
+  HistoryGate& gate = folder_.gate();
+  ChangeApplier applier(gate, folder_.folders());
+  const Stand stand = StandOf(*history);
+  if (stand == Stand::kFinished) return true;
+  if (stand == Stand::kNeverApplied) {
+    Discard(std::move(history), name);
+    return true;
+  }
+  if (stand == Stand::kDamaged) {
+    if (choice == RecoveryChoice::kLeave) {
+      history->Put(gate, HistoryMark::kLeft);
+      return true;
+    }
+    recovery.stuck = name;
+    recovery.stuck_text = DamagedHistory(history->path()).description() +
+                          " The run that it tells of was interrupted.";
+    return false;
+  }
+  const RunTitle title = history->Title();
+  if (!history->Has(HistoryMark::kCommitted) && applier.IsAllOld(*history)) {
+    Discard(std::move(history), name);
+    return true;
+  }
+  const std::set<PlaceConflict> conflicts = applier.Conflicts(*history);
+  Direction direction = stand == Stand::kBack ? Direction::kBack : Direction::kForward;
+  if (!conflicts.empty()) {
+    if (choice == RecoveryChoice::kByItself) {
+      recovery.stuck = name;
+      recovery.stuck_text = Named(title) + " was interrupted, and another program has changed " +
+                            conflicts.begin()->path + " since.";
+      return false;
+    }
+    if (choice == RecoveryChoice::kFinish) direction = Direction::kForward;
+    if (choice == RecoveryChoice::kPutBack) direction = Direction::kBack;
+    if (choice == RecoveryChoice::kLeave) {
+      history->Put(gate, HistoryMark::kLeft);
+      recovery.finished.push_back(Named(title) + " was interrupted. It is left as it is.");
+      return true;
+    }
+  }
+  // The direction stands in the file before anything is written: a crash may come again.
+  if (direction == Direction::kBack && stand == Stand::kForward) {
+    history->Put(gate, HistoryMark::kPutBack);
+  }
+  if (direction == Direction::kForward && stand == Stand::kBack) {
+    history->Clear(gate, HistoryMark::kPutBack);
+  }
+  applier.Apply(*history, direction, false, conflicts);
+  const bool back = direction == Direction::kBack;
+  history->Put(gate, back ? HistoryMark::kClosed : HistoryMark::kDone);
+  recovery.finished.push_back(Named(title) + " was interrupted. It is " +
+                              (back ? "put back" : "finished") + " now.");
+  return true;
+}
+
+bool Transactions::IsUnfinished() {
+  for (const HistoryName& name : folder_.List()) {
+    try {
+      const auto history = folder_.Open(name, FileAccess::kReadOnly);
+      const Stand stand = StandOf(*history);
+      if (stand != Stand::kFinished && stand != Stand::kNeverApplied) return true;
+    } catch (const NumberedError&) {
+      // A file that is open elsewhere belongs to a run that is at work.
+    }
+  }
+  return false;
+}
+
+}  // namespace golf

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "history/history_gate.h"
+
+namespace golf {
+
+// There is no room, in memory or on the disk, for the changes that a run holds. The run ends and
+// nothing has changed. No run carries on over it, so it is no NumberedError.
+class SpillFailed : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// Keeps pieces of bytes: the first ones in memory, all others in a scratch file. Raises SpillFailed
+// where the scratch file cannot be made, written or read.
+class SpillStore {
+ public:
+  static constexpr std::size_t kMemory = std::size_t{32} << 20;  // bytes
+
+  explicit SpillStore(Platform& platform, std::size_t memory = kMemory)
+      : gate_(platform), memory_(memory) {}
+
+  // Returns the place of the piece in the store.
+  std::int64_t Append(std::string_view bytes);
+  void Read(std::int64_t place, std::span<char> into);
+  // Replaces bytes of a piece.
+  void Replace(std::int64_t place, std::string_view bytes);
+
+ private:
+  void WriteTail();
+
+  HistoryGate gate_;
+  std::size_t memory_;
+  std::vector<std::unique_ptr<char[]>> blocks_;
+  std::size_t in_memory_ = 0;  // bytes
+  std::unique_ptr<PlatformFile> scratch_;
+  std::int64_t in_scratch_ = 0;  // bytes that were written to it
+  std::string tail_;             // follows them
+};
+
+}  // namespace golf

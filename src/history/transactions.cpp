@@ -1,0 +1,245 @@
+#include "history/transactions.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+#include "core/resume_next.h"
+
+namespace golf {
+namespace {
+
+constexpr double kDaysKept = 90;
+constexpr std::size_t kRunsKept = 50;
+
+bool Differs(HeldFileChanges& file) {
+  if (file.is_created() || file.length() != file.old_length()) return true;
+  bool differs = false;
+  file.ForEach([&](const HeldPlace&, std::string_view old_bytes, std::string_view new_bytes) {
+    differs = differs || old_bytes != new_bytes;
+  });
+  return differs;
+}
+
+bool HasNetChange(const HeldChanges& changes) {
+  return !changes.deletions().empty() ||
+         std::any_of(changes.files().begin(), changes.files().end(),
+                     [](const auto& file) { return Differs(*file); });
+}
+
+NumberedError Replaced(const std::string& path) {
+  return {ErrorNumber::kPermissionDenied,
+          "Another program has replaced " + path + " during the run. Nothing was changed."};
+}
+
+}  // namespace
+
+Transactions::Transactions(HeldPlatform& held, std::function<DateValue()> now)
+    : held_(held), folder_(held.real()), now_(std::move(now)) {
+  held_.on_change = [this] { CheckStopped(); };
+}
+
+void Transactions::BeginClick() {
+  committed_in_click_ = 0;
+  if (const int signal = std::exchange(missed_signal_, 0); signal != 0) throw Stopped(signal);
+  stop_raised_ = false;
+  stops_ = folder_.gate().platform().WatchStops();
+}
+
+void Transactions::EndClick() {
+  if (IsOpen()) Drop();
+  committed_in_click_ = 0;
+  if (stops_ != nullptr && !stop_raised_) missed_signal_ = stops_->Signal();
+  stops_.reset();
+}
+
+void Transactions::CheckStopped() {
+  if (stops_ == nullptr || stops_->Signal() == 0) return;
+  stop_raised_ = true;
+  throw Stopped(stops_->Signal());
+}
+
+void Transactions::Begin(RunTitle title) {
+  title_ = std::move(title);
+  held_.Hold();
+}
+
+void Transactions::BeginGroup(std::string_view title) {
+  if (IsOpen()) held_.held()->groups().Begin(title);
+}
+
+void Transactions::Drop() { held_.Release(); }
+
+std::int32_t Transactions::Commit(std::string_view report) {
+  if (!IsOpen()) return 0;
+  HeldChanges& changes = *held_.held();
+  CheckStopped();
+  if (!HasNetChange(changes)) {
+    Drop();
+    return 0;
+  }
+  try {
+    return CommitChanges(changes, report);
+  } catch (const NumberedError& error) {
+    throw CommitFailed(error);
+  }
+}
+
+std::int32_t Transactions::CommitChanges(HeldChanges& changes, std::string_view report) {
+  folder_.Make();
+  title_.moment = now_();
+  title_.continues = committed_in_click_ != 0;
+  const HistoryName name = folder_.Next(title_.moment, title_.continues);
+  auto history = WriteHistory(name, changes, report);
+  Apply(*history, changes);
+  Drop();
+  history.reset();
+  committed_in_click_ = name.run;
+  Prune();
+  return name.run;
+}
+
+// Nothing is applied before the history file is complete and on the disk.
+std::unique_ptr<HistoryFile> Transactions::WriteHistory(const HistoryName& name,
+                                                        HeldChanges& changes,
+                                                        std::string_view report) {
+  std::unique_ptr<HistoryFile> history;
+  try {
+    HistoryWriter writer(folder_.gate(), folder_.Path(name));
+    WriteContent(writer, name, changes, report);
+    history = std::make_unique<HistoryFile>(folder_.Path(name), writer.Take());
+    folder_.gate().SyncFolder(folder_.folders().history);
+    CheckPaths(changes);
+    ChangeApplier(folder_.gate(), folder_.folders()).CheckUntouched(*history);
+    return history;
+  } catch (const NumberedError&) {
+    Discard(std::move(history), name);
+    throw;
+  } catch (const SpillFailed&) {
+    Discard(std::move(history), name);
+    throw;
+  }
+}
+
+// Writes what the run has changed, net.
+void Transactions::WriteContent(HistoryWriter& writer, const HistoryName& name,
+                                HeldChanges& changes, std::string_view report) {
+  writer.Run(title_);
+  WriteGroups(writer, changes);
+  std::size_t kept = 0;
+  for (const HeldDeletion& deletion : changes.deletions()) {
+    writer.File({.fate = FileFate::kDeleted,
+                 .path = folder_.folders().Name(deletion.path),
+                 .old_length = deletion.length,
+                 .new_length = 0,
+                 .kept_as = HistoryFolder::KeptName(name, ++kept)});
+  }
+  for (const auto& file : changes.files()) {
+    if (!Differs(*file)) continue;
+    writer.File({.fate = file->is_created() ? FileFate::kCreated : FileFate::kChanged,
+                 .path = folder_.folders().Name(file->path()),
+                 .old_length = file->old_length(),
+                 .new_length = file->length(),
+                 .kept_as = {}});
+    file->ForEach(
+        [&](const HeldPlace& place, std::string_view old_bytes, std::string_view new_bytes) {
+          writer.Place(place.offset, changes.groups().Root(place.group), old_bytes, new_bytes);
+        });
+  }
+  writer.Report(report);
+  writer.Finish();
+}
+
+void Transactions::WriteGroups(HistoryWriter& writer, HeldChanges& changes) {
+  const ChangeGroups& groups = changes.groups();
+  for (ChangeGroup group = 1; group <= groups.Count(); ++group) {
+    if (groups.Root(group) == group) writer.Group(group, groups.Title(group));
+  }
+}
+
+// Each path must still name the file whose changes are held.
+void Transactions::CheckPaths(const HeldChanges& changes) {
+  const auto identity = [&](const std::string& path) -> std::optional<FileIdentity> {
+    try {
+      return held_.real().Open(path, FileAccess::kReadOnly)->Identity();
+    } catch (const NumberedError& error) {
+      if (!error.Is(ErrorNumber::kFileNotFound)) throw;
+      return std::nullopt;
+    }
+  };
+  for (const HeldDeletion& deletion : changes.deletions()) {
+    if (identity(deletion.path) != deletion.identity) throw Replaced(deletion.path);
+  }
+  for (const auto& file : changes.files()) {
+    const auto now = identity(file->path());
+    const bool right = file->is_created() ? !now || changes.IsDeleted(file->path())
+                                          : now == file->real()->Identity();
+    if (!right) throw Replaced(file->path());
+  }
+}
+
+// From the mark on, a crash leaves a run that recovery finishes. An error puts everything back.
+void Transactions::Apply(HistoryFile& history, HeldChanges& changes) {
+  const auto open = [&](const std::string& path) -> std::shared_ptr<PlatformFile> {
+    for (const auto& file : changes.files()) {
+      if (!file->is_created() && file->path() == path) return file->real();
+    }
+    return nullptr;
+  };
+  ChangeApplier applier(folder_.gate(), folder_.folders(), open);
+  try {
+    history.Put(folder_.gate(), HistoryMark::kCommitted);
+    applier.Apply(history, Direction::kForward, true);
+    history.Put(folder_.gate(), HistoryMark::kDone);
+  } catch (const NumberedError& error) {
+    const NumberedError first = error;
+    try {
+      PutBack(history, applier);
+    } catch (const NumberedError&) {
+      throw NumberedError(
+          ErrorNumber(first.number()),
+          first.description() + " The run is interrupted: it is put back at the next start.");
+    }
+    throw first;
+  }
+}
+
+void Transactions::PutBack(HistoryFile& history, ChangeApplier& applier) {
+  history.Put(folder_.gate(), HistoryMark::kPutBack);
+  applier.Apply(history, Direction::kBack, false, applier.Conflicts(history));
+  history.Put(folder_.gate(), HistoryMark::kClosed);
+}
+
+// The file of a run that has not begun to be applied. It may stay where it cannot be deleted:
+// without a mark it means nothing.
+void Transactions::Discard(std::unique_ptr<HistoryFile> history, const HistoryName& name) {
+  history.reset();
+  const ResumeNext anyway(nullptr);
+  anyway([&] { folder_.Forget(name); });
+}
+
+// Runs that are old, or many, go. One that is unfinished stays.
+void Transactions::Prune() {
+  const ResumeNext anyway(nullptr);
+  anyway([&] {
+    const std::vector<HistoryName> names = folder_.List();
+    std::vector<std::int32_t> runs;
+    for (const HistoryName& name : names) {
+      if (runs.empty() || runs.back() != name.run) runs.push_back(name.run);
+    }
+    const std::int32_t oldest_kept = runs.size() > kRunsKept ? runs[runs.size() - kRunsKept] : 0;
+    for (const HistoryName& name : names) {
+      anyway([&] {
+        auto history = folder_.Open(name, FileAccess::kAlone);
+        const bool finished = history->Has(HistoryMark::kDone) ||
+                              history->Has(HistoryMark::kClosed) ||
+                              history->Has(HistoryMark::kLeft);
+        const bool old = name.run < oldest_kept || history->Title().moment < now_() - kDaysKept;
+        history.reset();
+        if (finished && old) folder_.Forget(name);
+      });
+    }
+  });
+}
+
+}  // namespace golf

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "history/held_platform.h"
+#include "history/history_folder.h"
+#include "history/stopped.h"
+
+namespace golf {
+
+// A commit has failed. Nothing has changed. No run carries on over it.
+class CommitFailed : public NumberedError {
+ public:
+  explicit CommitFailed(const NumberedError& cause) : NumberedError(cause) {}
+};
+
+// What became of runs that a crash, a power cut or a kill has interrupted.
+struct Recovery {
+  std::vector<std::string> finished;  // sentences for the operator, one for each run
+  std::optional<HistoryName> stuck;   // a run about which the operator must decide
+  std::string stuck_text;             // and why
+};
+
+enum class RecoveryChoice { kByItself, kFinish, kPutBack, kLeave };
+
+// Makes each run that changes files a transaction: it happens whole or not at all. A run's changes
+// are held until the run commits. The commit writes them into the history first, then into the
+// files, so that a crash at any moment can be recovered from.
+class Transactions {
+ public:
+  // `now` is the present moment, for the names of history files.
+  Transactions(HeldPlatform& held, std::function<DateValue()> now);
+
+  HistoryFolder& history() { return folder_; }
+
+  // A click that changes files begins. It may have several transactions, which are parts of one run
+  // in the history. Requests to end the process are noted until the click ends; one that came after
+  // the last commit raises Stopped here.
+  void BeginClick();
+  // What is still held is dropped.
+  void EndClick();
+  // Raises Stopped where the process is to end. Called at each change and at each step of a run.
+  void CheckStopped();
+
+  // Begins to hold. Changes that were held before are dropped.
+  void Begin(RunTitle title);
+  bool IsOpen() const { return held_.held() != nullptr; }
+  // The changes that follow belong to one golfer, course or roster.
+  void BeginGroup(std::string_view title);
+
+  // Applies what is held. Returns the running number of the run in the history, or 0 where nothing
+  // changes. CommitFailed means that nothing has changed and that everything is held as before; its
+  // error is 70 where another program has changed the files.
+  std::int32_t Commit(std::string_view report);
+  void Drop();
+
+  // The running number that the last commits of this click have got; 0 for none.
+  std::int32_t committed_in_click() const { return committed_in_click_; }
+
+  // Finishes, or puts back, what was interrupted. Comes before anything that changes files, under
+  // the run lock. A choice is for a run that cannot be finished by itself.
+  Recovery Recover(RecoveryChoice choice = RecoveryChoice::kByItself);
+  // Whether a run is unfinished. Changes nothing.
+  bool IsUnfinished();
+
+ private:
+  std::int32_t CommitChanges(HeldChanges& changes, std::string_view report);
+  std::unique_ptr<HistoryFile> WriteHistory(const HistoryName& name, HeldChanges& changes,
+                                            std::string_view report);
+  void WriteContent(HistoryWriter& writer, const HistoryName& name, HeldChanges& changes,
+                    std::string_view report);
+  void WriteGroups(HistoryWriter& writer, HeldChanges& changes);
+  void CheckPaths(const HeldChanges& changes);
+  void Apply(HistoryFile& history, HeldChanges& changes);
+  void PutBack(HistoryFile& history, ChangeApplier& applier);
+  void Discard(std::unique_ptr<HistoryFile> history, const HistoryName& name);
+  void Prune();
+
+  bool RecoverRun(const HistoryName& name, RecoveryChoice choice, Recovery& recovery);
+
+  HeldPlatform& held_;
+  HistoryFolder folder_;
+  std::function<DateValue()> now_;
+  RunTitle title_;
+  std::int32_t committed_in_click_ = 0;
+  std::unique_ptr<StopWatch> stops_;
+  bool stop_raised_ = false;
+  int missed_signal_ = 0;  // that came when the run could not be stopped any more
+};
+
+}  // namespace golf

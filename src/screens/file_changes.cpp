@@ -1,0 +1,47 @@
+#include "screens/file_changes.h"
+
+#include <utility>
+
+namespace golf {
+
+ChangingClick::ChangingClick(SharedState& state, ScreenHost& host)
+    : transactions_(*state.transactions), lock_(state.files.platform().LockRun(state.ProgramPath)) {
+  const Recovery recovery = transactions_.Recover();
+  for (const std::string& text : recovery.finished) host.Notify(text);
+  if (recovery.stuck) {
+    host.Ask(
+        Box{.title = "Interrupted run",
+            .text = recovery.stuck_text +
+                    "\rNothing can be changed before you decide what becomes of it: finish it, "
+                    "put it back, or leave it as it is (golf-transfer-cli recover --finish, "
+                    "--put-back or --leave).",
+            .icon = BoxIcon::kStop});
+    return;
+  }
+  if (!recovery.finished.empty()) state.files.Synchronize();
+  transactions_.BeginClick();
+  allowed_ = true;
+}
+
+ChangingClick::~ChangingClick() {
+  if (allowed_) transactions_.EndClick();
+}
+
+bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std::string about,
+                 const std::function<void()>& change) {
+  const ChangingClick click(state, host);
+  if (!click.IsAllowed()) return false;
+  Transactions& transactions = *state.transactions;
+  transactions.Begin({.command = std::move(command), .about = about});
+  transactions.BeginGroup(about);
+  try {
+    change();
+  } catch (const NumberedError&) {
+    transactions.Commit("");
+    throw;
+  }
+  transactions.Commit("");
+  return true;
+}
+
+}  // namespace golf
