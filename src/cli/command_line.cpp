@@ -331,7 +331,7 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
 // What was written to standard output must have got there.
 ExitCode CheckOutput(ExitCode code) {
   if (std::cout.flush()) return code;
-  TellProblem("Standard output could not be written to: the result is not complete.");
+  NoteProblem("Standard output could not be written to: the result is not complete.");
   return code == ExitCode::kDone ? ExitCode::kError : code;
 }
 
@@ -342,13 +342,13 @@ ExitCode RunChosen(const Command& command) {
     std::cerr << refusal.what() << std::endl;
     return ExitCode::kRefused;
   } catch (const ScriptError& error) {
-    TellProblem(error.what());
+    NoteProblem(error.what());
     return ExitCode::kUsage;
   } catch (const NumberedError& error) {
     const bool missing =
         error.Is(ErrorNumber::kPathNotFound) || error.Is(ErrorNumber::kFileNotFound);
-    TellProblem(missing ? error.description() : error.Report());
-    if (error.Is(ErrorNumber::kPathNotFound)) TellProblem(kInstallHint);
+    NoteProblem(missing ? error.description() : error.Report());
+    if (error.Is(ErrorNumber::kPathNotFound)) NoteProblem(kInstallHint);
     return missing ? ExitCode::kRefused : ExitCodeOf(error);
   } catch (const std::exception& error) {
     std::cerr << "A fault of the program: " << error.what() << std::endl;

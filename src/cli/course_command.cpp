@@ -172,7 +172,7 @@ bool IsByGroup(const TeeFault& fault) {
   return fault.field == TeeField::kRating || fault.field == TeeField::kSlope;
 }
 
-void TellFinding(const CourseClass& course, std::int32_t number, const TeeKey& tee,
+void ShowFinding(const CourseClass& course, std::int32_t number, const TeeKey& tee,
                  const TeeFault& fault, bool json) {
   if (json) {
     Json object = {{"number", number},
@@ -198,7 +198,7 @@ CourseClass& OpenForReading(SharedState& state, const CourseRequest& request) {
   const std::int64_t rest =
       state.files.Length(course.CourseFileNumber()) % std::int64_t{kCourseRecordLength};
   if (rest != 0) {
-    TellProblem("The library ends with " + std::to_string(rest) +
+    NoteProblem("The library ends with " + std::to_string(rest) +
                 " bytes that are no whole course.");
   }
   return course;
@@ -230,7 +230,7 @@ ExitCode RunCourseCheck(const Options& options, const CourseRequest& request) {
     if (course.activeflag() == 0) continue;
     for (const TeeKey& tee : ActiveTeesOf(course)) {
       for (const TeeFault& fault : FaultsOfTee(course, tee.number)) {
-        TellFinding(course, number, tee, fault, options.json);
+        ShowFinding(course, number, tee, fault, options.json);
       }
     }
   }

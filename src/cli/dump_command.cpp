@@ -57,7 +57,7 @@ std::pair<std::int64_t, std::int64_t> RecordsOf(FileTable& files, const DumpRequ
   const std::int64_t count = files.CountTruncated(kNumber, length);
   const std::int64_t rest = files.Length(kNumber) - count * static_cast<std::int64_t>(length);
   if (rest != 0) {
-    TellProblem("The file ends with " + std::to_string(rest) + " bytes that are no whole record.");
+    NoteProblem("The file ends with " + std::to_string(rest) + " bytes that are no whole record.");
   }
   if (!request.record) return {1, count};
   if (*request.record >= 1 && *request.record <= count) return {*request.record, *request.record};

@@ -59,7 +59,7 @@ void ResultsRun::Try(const std::function<void()>& show, const std::function<std:
   try {
     show();
   } catch (const NumberedError& error) {
-    TellProblem(what() + ": " + error.Report());
+    NoteProblem(what() + ": " + error.Report());
     faults.push_back(error);
     failed(error);
   }
@@ -84,7 +84,7 @@ ExitCode RunResults(const Options& options, const ResultsRequest& request) {
                                           : ResultsForm::kTable;
   ResultsRun run{state, request, form, {}};
   kind->show(run);
-  TellFaultCount(run.faults.size());
+  NoteFaultCount(run.faults.size());
   return run.faults.empty() ? ExitCode::kDone : ExitCodeOfFaults(run.faults);
 }
 

@@ -21,7 +21,7 @@ void CheckReadable(const std::string& file) {
 }
 
 ExitCode CodeAfterScript(const HeadlessHost& host) {
-  TellFaultCount(host.faults().size());
+  NoteFaultCount(host.faults().size());
   return host.faults().empty() ? ExitCode::kDone : ExitCodeOfFaults(host.faults());
 }
 

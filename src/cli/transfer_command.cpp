@@ -39,7 +39,7 @@ class ReportListener : public HostListener {
  private:
   void Tell(const NumberedError& error) {
     bar_.Clear();
-    TellProblem(error.Report());
+    NoteProblem(error.Report());
   }
   void Keep(std::string_view title, std::string_view text) {
     const bool names_nothing =
@@ -90,14 +90,14 @@ ExitCode ExitCodeAfterRun(const HeadlessHost& host, bool cancelled) {
   return cancelled || host.counts().empty() ? ExitCode::kRefused : ExitCode::kDone;
 }
 
-void TellCancelled(const HeadlessHost& host, const CancellingAnswer& question) {
+void NoteCancelled(const HeadlessHost& host, const CancellingAnswer& question) {
   std::string text = "The transfer was cancelled: \"" + std::string(question.title) +
                      "\" was answered " + std::string(NameOf(question.answer)) + ". The option " +
                      std::string(question.option) + " answers otherwise.\n";
   std::int64_t done = 0;
   for (const auto& [name, count] : host.counts()) done += count;
   text += done == 0 ? "Nothing was transferred." : std::to_string(done) + " transferred before.";
-  TellProblem(text);
+  NoteProblem(text);
 }
 
 void WriteResult(const TransferCommand& command, const HeadlessHost& host) {
@@ -124,9 +124,9 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   const ExitCode code = failed ? *failed
                         : lost ? ExitCodeOf(*lost)
                                : ExitCodeAfterRun(host, cancelled);
-  if (host.run_ended_by()) TellProblem(host.run_ended_by()->Report());
-  if (cancelled) TellCancelled(host, *command.cancelled_by);
-  TellFaultCount(host.faults().size());
+  if (host.run_ended_by()) NoteProblem(host.run_ended_by()->Report());
+  if (cancelled) NoteCancelled(host, *command.cancelled_by);
+  NoteFaultCount(host.faults().size());
   if (options.json) {
     if (!host.counts().empty() && !failed) WriteResult(command, host);
   } else {

@@ -90,10 +90,10 @@ bool ControlTable::CatchUp() {
   const int columns_before = GetNumberCols();
   ChooseColumns();
   FillDropDowns();
-  const bool rows = TellChange(rows_ - rows_before, rows_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED,
+  const bool rows = NotifyView(rows_ - rows_before, rows_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED,
                                wxGRIDTABLE_NOTIFY_ROWS_DELETED);
   const bool columns =
-      TellChange(GetNumberCols() - columns_before, GetNumberCols(),
+      NotifyView(GetNumberCols() - columns_before, GetNumberCols(),
                  wxGRIDTABLE_NOTIFY_COLS_APPENDED, wxGRIDTABLE_NOTIFY_COLS_DELETED);
   return rows || columns;
 }
@@ -143,7 +143,7 @@ void ControlTable::ChooseColumns() {
   }
 }
 
-bool ControlTable::TellChange(int more, int now, int appended, int deleted) {
+bool ControlTable::NotifyView(int more, int now, int appended, int deleted) {
   if (more == 0 || GetView() == nullptr) return false;
   GetView()->ClearSelection();  // it would still name columns that are gone
   if (more > 0) {

@@ -50,7 +50,7 @@ class ControlTable : public wxGridTableBase {
   wxArrayString Choices(int control_column) const;
   void Enter(int row, int column, std::string text);
   void ChooseColumns();
-  bool TellChange(int more, int now, int appended, int deleted);
+  bool NotifyView(int more, int now, int appended, int deleted);
 
   Binding& binding_;
   Grid& control_;

@@ -193,7 +193,7 @@ bool DesktopHost::PaintIsDue() const {
 }
 
 void DesktopHost::PaintNow() {
-  if (!windows_.empty()) windows_.back().panel->ShowProgress(told_);
+  if (!windows_.empty()) windows_.back().panel->ShowProgress(reported_);
   for (const Window& window : windows_) {
     window.panel->binding().Refresh();
     window.panel->Update();
@@ -203,8 +203,8 @@ void DesktopHost::PaintNow() {
 }
 
 void DesktopHost::Report(const Progress& progress) {
-  told_ = progress;
-  told_.doing = {};
+  reported_ = progress;
+  reported_.doing = {};
   if (PaintIsDue()) PaintNow();
 }
 
@@ -214,7 +214,7 @@ void DesktopHost::SetInRun(bool in_run) {
 
 void DesktopHost::BeginRun() {
   HostBase::BeginRun();
-  told_ = {};
+  reported_ = {};
   faults_before_ = faults().size();
   busy_in_run_.emplace();
   SetInRun(true);

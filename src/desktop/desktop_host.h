@@ -62,7 +62,7 @@ class DesktopHost : public HostBase {
   ViewCatalogue views_;
   std::vector<Window> windows_;  // from the bottom to the top
   std::chrono::steady_clock::time_point painted_;
-  Progress told_;                  // of the run that is on, without its text
+  Progress reported_;              // of the run that is on, without its text
   std::size_t faults_before_ = 0;  // those of the runs before it
   std::optional<wxBusyCursor> busy_;
   std::optional<wxBusyCursor> busy_in_run_;

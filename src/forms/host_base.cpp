@@ -30,13 +30,13 @@ void HostBase::Operate(const std::function<void()>& event) {
     event();
     state_.files.Synchronize();
   } catch (const NumberedError& error) {
-    const NumberedError told = error;
+    const NumberedError first = error;
     try {
       state_.files.Synchronize();
     } catch (const NumberedError&) {
       // The first error is the one to tell.
     }
-    ErrorEndsClick(told);
+    ErrorEndsClick(first);
   } catch (...) {
     // Whatever else ends the event, what it has written is not lost.
     try {

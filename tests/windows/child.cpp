@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-int TellForms() {
+int ShowForms() {
   const golf::RegionalForms regional = golf::MakePlatform("")->Regional();
   const auto dates = golf::DetectDateForms(regional, golf::DateFromCivil({2026, 11, 7}));
   const auto times = golf::DetectTimeForms(regional);
@@ -44,7 +44,7 @@ int LeaveFile(const std::string& program, const std::string& first, int count) {
 
 int main(int argc, char** argv) {
   const std::string first = argc > 1 ? argv[1] : "";
-  if (first == "forms") return TellForms();
+  if (first == "forms") return ShowForms();
   if (first == "lock" && argc > 2) return LockAndDie(argv[2]);
   return LeaveFile(argv[0], first, argc - 1);
 }
