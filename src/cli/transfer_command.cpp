@@ -25,8 +25,8 @@ class ReportListener : public HostListener {
     Keep(tip.title, tip.text);
     if (tip.buttons.size() > 1) KeepAnswer(answer);
   }
-  void OnFault(const NumberedError& fault) override { Tell(fault); }
-  void OnError(const NumberedError& error) override { Tell(error); }
+  void OnFault(const NumberedError& fault) override { Note(fault); }
+  void OnError(const NumberedError& error) override { Note(error); }
   void OnProgress(const Progress& progress) override { bar_.Show(progress); }
 
   void AddLog(std::string_view text) {
@@ -37,7 +37,7 @@ class ReportListener : public HostListener {
   }
 
  private:
-  void Tell(const NumberedError& error) {
+  void Note(const NumberedError& error) {
     bar_.Clear();
     NoteProblem(error.Report());
   }

@@ -155,7 +155,7 @@ TEST_F(DesktopTest, AnErrorInARunLeavesTheScreenThere) {
   user.RunProgram();
 }
 
-TEST_F(DesktopTest, TellsOfAMissingSiblingAndClosesByItsWindow) {
+TEST_F(DesktopTest, NamesAMissingSiblingAndClosesByItsWindow) {
   install.folder.Remove("qbdata");
   install.platform->StartForReal();
   state().CommandLine = "qb";  // names nobody

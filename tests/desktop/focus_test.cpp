@@ -14,7 +14,7 @@ namespace golf {
 namespace {
 
 template <class Event>
-void Tell(wxWindow& widget, Event event) {
+void Send(wxWindow& widget, Event event) {
   event.SetEventObject(&widget);
   widget.HandleWindowEvent(event);
 }
@@ -34,16 +34,16 @@ TEST(FocusTest, WhatWaitsGoesBeforeWhatComesLater) {
     demo.host.PaintNow();
     heard.clear();
     wxWindow& widget = *wxWindow::FindWindowByName(name, &window);
-    Tell(widget, wxFocusEvent(wxEVT_SET_FOCUS));
+    Send(widget, wxFocusEvent(wxEVT_SET_FOCUS));
     EXPECT_EQ(heard, "");
     return &widget;
   };
-  Tell(*go_on_to("OKButton"), wxCommandEvent(wxEVT_BUTTON));
+  Send(*go_on_to("OKButton"), wxCommandEvent(wxEVT_BUTTON));
   EXPECT_EQ(heard, "left,pressed,");
-  Tell(*go_on_to("FTeeNameAbv"), wxCommandEvent(wxEVT_TEXT));
+  Send(*go_on_to("FTeeNameAbv"), wxCommandEvent(wxEVT_TEXT));
   EXPECT_EQ(heard, "left,typed,");
   go_on_to("FTeeNameAbv");
-  Tell(window, wxKeyEvent(wxEVT_CHAR_HOOK));
+  Send(window, wxKeyEvent(wxEVT_CHAR_HOOK));
   EXPECT_EQ(heard, "left,");
 }
 

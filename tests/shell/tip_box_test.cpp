@@ -9,7 +9,7 @@ namespace {
 
 class TipBoxTest : public testing::Test {
  protected:
-  void Tell(int type, const std::string& title, const std::string& text) {
+  void ShowMessage(int type, const std::string& title, const std::string& text) {
     tip.SetMessageType(type);
     tip.SetMessageTitle(title);
     tip.SetMessageText(text);
@@ -47,7 +47,7 @@ TEST_F(TipBoxTest, RemembersByTitle) {
     install.events().clear();
     install.listener.on_tip = [&] { tip.ShowMessage.Choose(message.tick); };
     if (message.shown) install.host->QueueAnswer(message.title, message.answer);
-    Tell(message.type, message.title, "text");
+    ShowMessage(message.type, message.title, "text");
     EXPECT_EQ(!install.events().empty(), message.shown) << message.title;
     EXPECT_EQ(tip.ResultReturned(), message.result) << message.title;
     EXPECT_FALSE(install.host->IsShown(tip));
@@ -61,18 +61,18 @@ TEST_F(TipBoxTest, EnterAnswersAQuestionWithNo) {
     EXPECT_TRUE(tip.is_question());
     EXPECT_TRUE(tip.always_on_top());
   };
-  Tell(TipBox::kQuestion, "Cancel Transfer?", "Sure?");
+  ShowMessage(TipBox::kQuestion, "Cancel Transfer?", "Sure?");
   EXPECT_EQ(install.events(), std::vector<std::string>({"tip 10 [Cancel Transfer?] Sure? -> NO"}));
   EXPECT_EQ(tip.ResultReturned(), "NO");
 }
 
 TEST_F(TipBoxTest, ModelessMessagesReturnAtOnce) {
-  Tell(TipBox::kModelessNotice, "Busy", "Working");
+  ShowMessage(TipBox::kModelessNotice, "Busy", "Working");
   EXPECT_TRUE(install.host->IsShown(tip));
   EXPECT_FALSE(tip.always_on_top());
   tip.OKButton.Click();
   EXPECT_FALSE(install.host->IsShown(tip));
-  Tell(7, "Tip", "Unseen");  // a type without a meaning
+  ShowMessage(7, "Tip", "Unseen");  // a type without a meaning
   EXPECT_FALSE(install.host->IsShown(tip));
   EXPECT_EQ(tip.MessageText(), "Unseen");
   EXPECT_EQ(tip.caption(), "Tip");
