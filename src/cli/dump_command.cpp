@@ -22,7 +22,8 @@ struct FoundFile {
   std::string path;
 };
 
-// A file as it is named, or below the install. Either way its name may be in any case.
+// Finds the file by the path as given, or else below the install folder. The case of its name does
+// not matter.
 FoundFile FindFile(const Options& options, const std::string& file) {
   namespace fs = std::filesystem;
   const fs::path named = PathFromUtf8(file).make_preferred();
@@ -51,7 +52,7 @@ LayoutInfo LayoutOf(const std::string& file) {
   return *layout;
 }
 
-// The records asked for, first and last, of the file that is open as kNumber.
+// Returns the first and the last record to show of the file that is open as kNumber.
 std::pair<std::int64_t, std::int64_t> RecordsOf(FileTable& files, const DumpRequest& request,
                                                 std::size_t length) {
   const std::int64_t count = files.CountTruncated(kNumber, length);

@@ -31,7 +31,7 @@ void OpenForReading(SharedState& state, std::int32_t tournament) {
   OpenTournament(state, tournament);
 }
 
-// In memory: the round is not saved.
+// Sets the active round in memory; nothing is saved.
 void MakeActive(TournamentClass& tournament, int round) {
   const int rounds = tournament.RoundCount();
   if (round < 1 || round > rounds) {

@@ -12,7 +12,7 @@
 namespace golf {
 namespace {
 
-// Keeps what the boxes say until it is known whether the run was refused.
+// Keeps the texts of the boxes until it is known whether the run was refused.
 class ReportListener : public HostListener {
  public:
   explicit ReportListener(ProgressBar& bar) : bar_(bar) {}
@@ -54,7 +54,7 @@ class ReportListener : public HostListener {
   std::vector<std::string> texts_;
 };
 
-// Runs the command's screen; the exit code of an error that ended a click.
+// Runs the command's screen. Returns the exit code of an error that ended a click, or nothing.
 std::optional<ExitCode> Work(Application& application, HeadlessHost& host, ReportListener& report,
                              const TransferCommand& command) {
   application.state().remembers_settings = false;
@@ -66,7 +66,7 @@ std::optional<ExitCode> Work(Application& application, HeadlessHost& host, Repor
     try {
       command.work(host, screen);
     } catch (const ClickEnded&) {
-      add_log();  // what was done before the error
+      add_log();  // shows what was done before the error
       throw;
     }
     add_log();
