@@ -1,4 +1,4 @@
-# What all targets of the project have in common, and one way to make the library of a room.
+# Options that all targets share, and a function that makes the library of a room.
 
 add_library(golf_options INTERFACE)
 target_compile_options(golf_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)

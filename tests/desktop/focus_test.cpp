@@ -1,4 +1,4 @@
-// Where the focus goes, and what waits until it is there.
+// Tests of the focus, and of the events that wait until it has moved.
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
@@ -19,8 +19,8 @@ void Send(wxWindow& widget, Event event) {
   widget.HandleWindowEvent(event);
 }
 
-// The screen hears of a new focus when the toolkit is done with it, but before it hears of what the
-// operator does then.
+// The screen handles a new focus after the toolkit has finished with it, but before the operator's
+// next event.
 TEST(FocusTest, WhatWaitsGoesBeforeWhatComesLater) {
   Demo<BoxlessHost> demo;
   wxTopLevelWindow& window = demo.Show("CourseTee");
@@ -62,14 +62,14 @@ TEST(FocusTest, ALostFocusGoesWhereItDoesNoHarm) {
     return picker.focus()->name();
   };
   TextBox& name = picker.NewRosterName;
-  EXPECT_EQ(focus_after_hiding({&name}), "grid1");  // past the button that leaves
+  EXPECT_EQ(focus_after_hiding({&name}), "grid1");  // not the button that leaves
   EXPECT_EQ(focus_after_hiding({&name, &picker.grid1}), "DeleteButton");
   EXPECT_EQ(focus_after_hiding({&name, &picker.NewRosterFrame, &picker.DeleteButton,
                                 &picker.NewButton, &picker.LoadButton}),
             "CancelButton");
 }
 
-// Posts the scores of a league, and goes on with the keys that have started the run.
+// Posts the scores of a league, and then presses the keys that have started the run once more.
 TEST(FocusTest, KeysAfterATransferPostNothingAgain) {
   Demo<DesktopHost> demo;
   DesktopHost& host = demo.host;

@@ -22,7 +22,7 @@ class TipBoxTest : public testing::Test {
 TEST_F(TipBoxTest, RemembersByTitle) {
   constexpr bool kTicked = true, kNotTicked = false;
   const std::string long_title = "A title of which thirty charac";
-  // A message, what the operator does with it, and what comes of it.
+  // A message, what the operator does, and the result.
   const struct {
     int type;
     std::string title;
@@ -32,11 +32,11 @@ TEST_F(TipBoxTest, RemembersByTitle) {
     std::string result;
   } kMessages[] = {
       {10, "Q", kTicked, "No", true, "NO"},
-      {10, "q", kNotTicked, "No", false, "YES"},  // Yes is assumed, whatever was answered
+      {10, "q", kNotTicked, "No", false, "YES"},  // Yes is assumed, whatever was answered before
       {1, "N", kTicked, "OK", true, "OK"},
       {11, "Other", kNotTicked, "No", true, "NO"},
       {1, "N", kNotTicked, "OK", false, "NO"},  // the last answer stays
-      {2, "N", kNotTicked, "OK", true, "OK"},   // shown all the same, and the tick is gone
+      {2, "N", kNotTicked, "OK", true, "OK"},   // always shown, and the tick is cleared
       {1, "N", kNotTicked, "OK", true, "OK"},
       {11, "Q", kNotTicked, "Yes", true, "YES"},
       {10, "Q", kNotTicked, "No", true, "NO"},
@@ -72,7 +72,7 @@ TEST_F(TipBoxTest, ModelessMessagesReturnAtOnce) {
   EXPECT_FALSE(tip.always_on_top());
   tip.OKButton.Click();
   EXPECT_FALSE(install.host->IsShown(tip));
-  ShowMessage(7, "Tip", "Unseen");  // a type without a meaning
+  ShowMessage(7, "Tip", "Unseen");  // an unknown type
   EXPECT_FALSE(install.host->IsShown(tip));
   EXPECT_EQ(tip.MessageText(), "Unseen");
   EXPECT_EQ(tip.caption(), "Tip");

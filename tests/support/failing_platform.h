@@ -28,42 +28,42 @@ enum class Operation {
   kEnd  // their number
 };
 
-// One call to the system that is to fail.
+// A call to the system that must fail.
 struct Fault {
   ErrorNumber error = ErrorNumber::kDeviceFault;
-  int nth = 1;                      // of the calls that the next two pick, from now on
-  std::optional<Operation> only{};  // calls of this kind
-  std::string name{};               // calls on a path that ends so, whatever the case
-  bool stays = false;               // the calls behind it fail, too
-  std::size_t bytes_first = 0;      // of a write: so many bytes reach the file before it fails
+  int nth = 1;                      // of the calls from now on that match the next two
+  std::optional<Operation> only{};  // only calls of this kind
+  std::string name{};               // only calls on a path with this ending, in any case
+  bool stays = false;               // the later calls fail, too
+  std::size_t bytes_first = 0;      // the bytes of a write that reach the file before it fails
 };
 
-// A call that changed something on the disk. A write made to fail counts with what
-// reached the file before.
+// A call that changed something on the disk. A failed write counts with the bytes that reached the
+// file.
 struct Change {
   Operation operation;
   std::string path;
-  std::int64_t offset = 0;  // of a truncation: the length
+  std::int64_t offset = 0;  // of a truncation, the length
   std::size_t size = 0;
   bool operator==(const Change&) const = default;
 };
 
-// A real platform whose calls are counted, written down, and can be made to fail. Whatever it opens
-// must be closed before it goes.
+// A real platform that counts and notes its calls and can make them fail. Every file that it opens
+// must be closed before it is destroyed.
 class FailingPlatform : public Platform {
  public:
   explicit FailingPlatform(Platform& real) : real_(real) {}
 
   void Fail(Fault fault);
   void Heal() { fault_.reset(); }
-  // True if the fault asked for has come.
+  // True if the fault has occurred.
   bool Failed() const { return failed_; }
 
   int Count(Operation operation) const { return counts_[static_cast<std::size_t>(operation)]; }
   int CountAll() const;
   const std::vector<Change>& changes() const { return changes_; }
 
-  // Programs are written down as "path arguments" and started only if that is asked for.
+  // Started programs are noted as "path arguments". They really start only after StartForReal.
   const std::vector<std::string>& started() const { return started_; }
   void StartForReal() { starts_ = true; }
 
@@ -82,7 +82,7 @@ class FailingPlatform : public Platform {
  private:
   class File;
 
-  // Counts the call; true if it is to fail.
+  // Counts the call. Returns true if it must fail.
   bool Failing(Operation operation, const std::string& path);
   void Pass(Operation operation, const std::string& path);
   [[noreturn]] void Throw(const std::string& path) const;

@@ -10,13 +10,13 @@
 
 namespace golf {
 
-// An install in memory, for what runs many thousand times. No file grows above 16 MB: that is a
-// full disk.
+// An install in memory, for tests that run many thousand times. A file that would grow above 16 MB
+// meets a full disk.
 class MemoryPlatform : public Platform {
  public:
-  // The same files in another memory.
+  // Returns a platform with a copy of all files.
   MemoryPlatform Copy() const;
-  // The bytes of a file in any case of its name, which is a path below the program's folder.
+  // Returns the bytes of a file. Its name, in any case, is a path below the program's folder.
   std::string& Bytes(std::string_view name);
 
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override;

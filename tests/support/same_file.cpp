@@ -37,7 +37,7 @@ std::string Shown(const Field& field, std::string_view record, std::size_t offse
   return text.str();
 }
 
-// The fields of one record that differ, a line each.
+// Adds a line for each differing field of a record.
 void AddDifferingFields(const LayoutInfo& layout, std::size_t number, const std::string& record,
                         const std::string& expected, std::vector<std::string>& lines) {
   for (const Field& field : layout.fields) {

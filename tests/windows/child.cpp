@@ -1,10 +1,10 @@
 // A program for the tests to start.
 //
-//   golf_child forms        tells how this system writes dates and times
-//   golf_child lock FOLDER  takes the lock of a run and is ended without letting go of it
+//   golf_child forms        shows how this system writes dates and times
+//   golf_child lock FOLDER  takes the lock of a run and ends without releasing it
 //
-// Under any other name or with any other arguments it stands in for a sibling: it leaves a file
-// beside itself that holds the first argument and their number.
+// Under any other name, or with any other arguments, it stands in for a sibling: it leaves a file
+// beside itself that holds the first argument and the number of arguments.
 
 #include <windows.h>
 
@@ -36,7 +36,7 @@ int LeaveFile(const std::string& program, const std::string& first, int count) {
   if (file == nullptr) return 1;
   std::fprintf(file, "%s,%d", first.c_str(), count);
   std::fclose(file);
-  fs::rename(program + ".new", program + ".out");  // whole, once it is there
+  fs::rename(program + ".new", program + ".out");  // the file is whole once it exists
   return 0;
 }
 
