@@ -16,7 +16,7 @@ void NoteProblem(std::string_view text);
 // may be lost.
 std::optional<NumberedError> CloseFiles(FileTable& files);
 
-// Notes how many faults a run went on over. Writes nothing if there were none.
+// Notes how many faults a run went on after. Writes nothing if there were none.
 void NoteFaultCount(std::size_t count);
 
 }  // namespace golf

@@ -25,7 +25,7 @@ struct DropDownItem {
 // count from 1; the headings are not a row. A check box cell holds "1" or "0".
 class Grid : public Control {
  public:
-  // Makes the columns 0 to `columns`, and no row.
+  // Makes the columns 0 to `columns` and no rows.
   Grid(std::string name, int columns);
 
   int columns() const { return columns_; }
@@ -33,7 +33,7 @@ class Grid : public Control {
   // New rows are empty. The active row stays if it still exists, and becomes 0 otherwise.
   void SetRows(int rows);
 
-  // The members that name a column or a row raise error 9 if the grid does not have it.
+  // Error 9 for a column or a cell that does not exist.
   const std::string& heading(int column) const { return Column(column).heading; }
   void SetHeading(int column, std::string heading);
   const std::string& text(int column, int row) const;
@@ -63,7 +63,7 @@ class Grid : public Control {
   void LockColumn(int column, bool locked) { Column(column).locked = locked; }
   void LockRow(int row, bool locked) { locked_rows_[row] = locked; }
 
-  // From 1; 0 if no row is active. Setting it runs on_row_change.
+  // From 1; 0 if no row is active. Setting it runs on_row_change. Error 9 for any other row.
   int active_row() const { return active_row_; }
   void SetActiveRow(int row);
 

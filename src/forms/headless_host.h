@@ -46,7 +46,7 @@ class HeadlessHost : public HostBase {
   std::function<void(Screen&)> drive;
   // Returns the present moment.
   std::function<DateValue()> clock;
-  // True: programs are really started. False: a start fails only if the program does not exist.
+  // True: programs are really started. False: a start only opens the program's file.
   bool starts_programs = false;
 
   // Queues the answer to the next box with exactly this title, or, with `always`, to all boxes with
