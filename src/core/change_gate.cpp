@@ -47,7 +47,7 @@ std::unique_ptr<PlatformFile> ChangeGate::Open(const std::string& path, FileAcce
     if (!error.Is(ErrorNumber::kFileNotFound) || access == FileAccess::kReadOnly) throw;
   }
   if (refuses_) return std::make_unique<EmptyFile>();
-  Tell(FileChange::Kind::kCreateFile, path);
+  Announce(FileChange::Kind::kCreateFile, path);
   platform_.Create(ChangePass(), path);
   return platform_.Open(path, access);
 }
@@ -80,17 +80,17 @@ void ChangeGate::WriteRecord(PlatformFile& file, const std::string& path, std::i
 }
 
 void ChangeGate::Delete(const std::string& path) {
-  Tell(FileChange::Kind::kDelete, path);
+  Announce(FileChange::Kind::kDelete, path);
   platform_.Delete(ChangePass(), path);
 }
 
 void ChangeGate::CreateFolder(const std::string& path) {
-  Tell(FileChange::Kind::kCreateFolder, path);
+  Announce(FileChange::Kind::kCreateFolder, path);
   platform_.CreateFolder(ChangePass(), path);
 }
 
 void ChangeGate::ReplaceText(const std::string& path, std::string_view text) {
-  Tell(FileChange::Kind::kReplaceText, path, text);
+  Announce(FileChange::Kind::kReplaceText, path, text);
   std::unique_ptr<PlatformFile> file;
   try {
     file = platform_.Open(path, FileAccess::kReadWriteShared);
@@ -116,7 +116,8 @@ void ChangeGate::Settle(const FileIdentity& identity) {
   if (kept_.file != nullptr && kept_.identity == identity) Settle();
 }
 
-void ChangeGate::Tell(FileChange::Kind kind, const std::string& path, std::string_view new_bytes) {
+void ChangeGate::Announce(FileChange::Kind kind, const std::string& path,
+                          std::string_view new_bytes) {
   Settle();
   if (refuses_) throw NumberedError(ErrorNumber::kPathAccess, path + " is only being read.");
   if (observer_) observer_({kind, path, 0, new_bytes, [&] { return WholeFile(platform_, path); }});

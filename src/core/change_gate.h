@@ -73,7 +73,7 @@ class ChangeGate {
     std::string bytes;
   };
 
-  void Tell(FileChange::Kind kind, const std::string& path, std::string_view new_bytes = {});
+  void Announce(FileChange::Kind kind, const std::string& path, std::string_view new_bytes = {});
   bool Follows(const FileIdentity& identity, std::int64_t offset, std::size_t record_length,
                std::size_t size) const;
   void WriteThrough(PlatformFile& file, std::int64_t offset, std::size_t record_length,

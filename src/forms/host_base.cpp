@@ -30,15 +30,15 @@ void HostBase::Operate(const std::function<void()>& event) {
     event();
     state_.files.Synchronize();
   } catch (const NumberedError& error) {
-    const NumberedError told = error;
+    const NumberedError first = error;
     try {
       state_.files.Synchronize();
     } catch (const NumberedError&) {
-      // The first error is the one to tell.
+      // The operator is shown the first error.
     }
-    ErrorEndsClick(told);
+    ErrorEndsClick(first);
   } catch (...) {
-    // Whatever else ends the event, what it has written is not lost.
+    // Saves what the event has written, however it ends.
     try {
       state_.files.Synchronize();
     } catch (const NumberedError&) {
@@ -104,7 +104,7 @@ void HostBase::ShowModal(Screen& screen) {
   }
   BringUp(screen);
   if (!IsShown(screen)) return;
-  const WhileSet takes_input(in_run_, false);  // as a box does
+  const WhileSet takes_input(in_run_, false);  // a modal screen takes input, also in a run
   RunModal(screen);
 }
 
@@ -124,7 +124,7 @@ void HostBase::Unload(Screen& screen) {
   try {
     screen.OnUnload();
   } catch (const NumberedError&) {
-    Drop(screen);  // what the screen could not save does not keep it open
+    Drop(screen);  // a failed save does not keep the screen open
     throw;
   }
   Drop(screen);

@@ -9,24 +9,23 @@
 
 namespace golf {
 
-// Runs a transfer of a screen: alone in its install (error 70 if another process runs one, with
-// nothing changed) and with the operator's input held off. After an error that `run` does not take
-// itself all files are closed, the shared objects are new, the screen has opened again what its
-// load opens, and the error goes on.
+// Runs a transfer of a screen while the host takes no input. Error 70, with nothing changed, if
+// another process runs a transfer in this install. If `run` ends with an error, this closes all
+// files, makes the shared objects anew, calls the screen's OpenAgain, and raises the error again.
 void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
                  const std::function<void()>& run);
 
-// How a screen looks while its run copies. Any of them may be left out.
+// How a screen looks while its run copies. Any member may be left out.
 struct RunLook {
-  Label* working = nullptr;          // shows what the run is at
-  Label* count = nullptr;            // and how far it is
-  Button* hidden = nullptr;          // is away meanwhile
-  TextBox* log = nullptr;            // shows the log by now when the operator is asked
-  std::function<void()> begin = {};  // what else changes when the copying begins
+  Label* working = nullptr;          // shows what the run is doing
+  Label* count = nullptr;            // shows how far the run is
+  Button* hidden = nullptr;          // hidden during the run
+  TextBox* log = nullptr;            // shows the log so far before a question that comes again
+  std::function<void()> begin = {};  // called when the copying begins
 };
 
-// The screen's side of a run: asks through the screen's host, and shows the progress. In whatever
-// way the run ends, the labels are empty afterwards, the hidden button is back and the pointer is
+// The screen's side of a run. It asks through the screen's host and shows the progress. When the
+// run has ended, in any way, it clears the labels, shows the hidden button and makes the pointer
 // normal.
 class ScreenRun : public RunHost {
  public:
