@@ -1,10 +1,10 @@
-// The course transfer as a whole process: a Kelvane library and a Quenby library half as long, all
-// of it linked. Beside it a bare loop with one system call for each record: the Quenby links read
-// once, each Kelvane record read and written once, the Quenby library read once more; and a plain
-// copy of the same files.
+// Measures the course transfer as a whole process: a Kelvane library, and a Quenby library half as
+// long whose courses are all linked. A bare loop runs beside it with one system call for each
+// record: it reads the Quenby links once, reads and writes each Kelvane record once, and reads the
+// Quenby library once more. A plain copy of the same files runs, too.
 //
 // course_transfer [ROUNDS]            prints medians for 10,000 and for 30,000 courses
-// course_transfer --bare-loop DIR     is the bare loop
+// course_transfer --bare-loop DIR     runs the bare loop
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -31,7 +31,7 @@ namespace fs = std::filesystem;
 
 using CourseRecord = Record<KelvaneCourseLayout>;
 
-// Courses whose names are in no order, a fifth of them with nine holes.
+// Returns a course. Every fifth course has nine holes.
 CourseRecord MadeUpCourse(int number, int name_number) {
   CourseRecord course;
   course.Set<"activeflag">(1);

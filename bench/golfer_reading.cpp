@@ -1,5 +1,6 @@
-// All golfers of a roster through the stores, beside a plain loop with one system call for each
-// record: Kelvane's golfers, Quenby's golfers, and a tournament's entries with their golfers.
+// Reads all golfers of a roster through the stores, and beside it with a plain loop of one system
+// call for each record: Kelvane's golfers, Quenby's golfers, and a tournament's entries with their
+// golfers.
 //
 // golfer_reading [ROUNDS] [GOLFERS]   prints medians
 
@@ -59,7 +60,8 @@ void MakeInstall(const fs::path& folder, int golfers) {
       });
 }
 
-// The IDs of all golfers, added up; with an entry each where there is a second file.
+// Returns the sum of all golfers' IDs. If there is a second file, also reads an entry for each
+// golfer.
 std::int64_t BareLoop(const std::vector<std::pair<fs::path, std::size_t>>& files,
                       std::size_t id_offset) {
   std::vector<int> open_files;
@@ -129,7 +131,7 @@ double Seconds(const std::function<std::int64_t()>& read, std::int64_t sum) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// In turn, so that both meet the same machine.
+// Runs both readers in turn, so that both meet the same conditions.
 void RaceReaders(const char* title, int golfers, int rounds,
                  const std::function<std::int64_t()>& store,
                  const std::function<std::int64_t()>& loop) {
@@ -157,7 +159,7 @@ int main(int argc, char** argv) {
   using namespace golf;
   using namespace golf::bench;
   const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 15, 7);
-  // An entry's pointer to its golfer has 16 bits.
+  // An entry points to its golfer with 16 bits.
   const int golfers = std::clamp(argc > 2 ? std::atoi(argv[2]) : 30000, 1, 32767);
   const ScratchFolder scratch("bench-golfer-reading");
   MakeInstall(scratch.path(), golfers);

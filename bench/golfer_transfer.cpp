@@ -1,9 +1,10 @@
-// The golfer transfer from Kelvane to Quenby as a whole process: as many golfers in a Kelvane
-// roster as in Quenby's file, half of them the same. Beside it a bare loop with one system call for
-// each record: Quenby's IDs read once, then each Kelvane golfer read and a Quenby record written.
+// Measures the golfer transfer from Kelvane to Quenby as a whole process. The Kelvane roster and
+// Quenby's file have the same number of golfers, and half of them are the same. A bare loop runs
+// beside it with one system call for each record: it reads Quenby's IDs once, then reads each
+// Kelvane golfer and writes a Quenby record.
 //
 // golfer_transfer [ROUNDS]            prints medians for 10,000 and for 30,000 golfers
-// golfer_transfer --bare-loop DIR     is the bare loop
+// golfer_transfer --bare-loop DIR     runs the bare loop
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -34,7 +35,7 @@ using QuenbyGolfer = Record<PlayerLayout>;
 
 constexpr int kFirstRecord = 10;
 
-// IDs in no order; the first half of them stands in Quenby's file among others.
+// The IDs are in no order. The first half of them is in Quenby's file among others.
 void MakeInstall(const fs::path& folder, int golfers) {
   fs::create_directories(folder / "kvdata");
   fs::create_directories(folder / "qbdata");

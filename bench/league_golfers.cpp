@@ -1,10 +1,10 @@
-// The transfers between a league and the golfers of its siblings as whole processes: 20,000 golfers
-// and a league of 2,000 records. Beside each a bare loop with one system call for each record:
-// every record of the files read once, every one that changes written once.
+// Measures the transfers between a league and the golfers of its siblings as whole processes:
+// 20,000 golfers and a league of 2,000 records. A bare loop runs beside each with one system call
+// for each record: it reads every record of the files once and writes every changed record once.
 //
 // league_golfers [ROUNDS]                 prints medians
-// league_golfers --to-zandel DIR          is the bare loop from Kelvane to the league
-// league_golfers --to-quenby DIR          is the bare loop from the league to Quenby
+// league_golfers --to-zandel DIR          runs the bare loop from Kelvane to the league
+// league_golfers --to-quenby DIR          runs the bare loop from the league to Quenby
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -33,10 +33,10 @@ using Player = Record<LeaguePlayerLayout>;
 
 constexpr int kGolfers = 20000;
 constexpr int kPlayers = 2000;
-constexpr int kInQuenby = 1500;  // of the players; the others are new there
-constexpr int kIDStep = 3;       // so that there are free IDs between
+constexpr int kInQuenby = 1500;  // of the players; Quenby does not have the others
+constexpr int kIDStep = 3;       // leaves free IDs between
 
-// Players stand in no order of their IDs.
+// Returns the IDs of the players, which are in no order.
 std::vector<int> ShuffledIDs() {
   std::vector<int> ids(kGolfers);
   std::iota(ids.begin(), ids.end(), 1);
@@ -109,8 +109,8 @@ class BareFile {
   int file_;
 };
 
-// What the loops write is not what a transfer would: they keep no record that they have read, so
-// that they cost the reading and the writing and nothing else.
+// The loops do not write what a transfer would. They keep no record that they read, so they cost
+// the reading and the writing alone.
 void BareToZandel(const fs::path& folder) {
   const BareFile<LeaguePlayerLayout> league(folder / "zddata" / "00011.ZP8", O_RDWR);
   const BareFile<KelvaneGolferLayout> kelvane(folder / "kvdata" / "CLUB.KVG", O_RDONLY);

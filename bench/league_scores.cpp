@@ -1,10 +1,10 @@
-// The score transfer from Zandel to Kelvane as a whole process: an event of a league of 2,000
-// golfers, all with a score, into a roster of 20,000 with histories of 20 scores. Beside it a bare
-// loop with one system call for each record: every file read once, and the golfer and the history
-// of each score read and written.
+// Measures the score transfer from Zandel to Kelvane as a whole process: an event of a league of
+// 2,000 golfers, all with a score, and a roster of 20,000 golfers with histories of 20 scores. A
+// bare loop runs beside it with one system call for each record: it reads every file once, and
+// reads and writes the golfer and the history of each score.
 //
 // league_scores [ROUNDS]            prints medians
-// league_scores --bare-loop DIR     is the bare loop
+// league_scores --bare-loop DIR     runs the bare loop
 
 #include <cstdint>
 #include <fstream>

@@ -1,8 +1,8 @@
-// What scoring costs: rounds a second through PlayerClass in this process, with the courses in
-// hand; and `results players` as a whole process, as a table and as JSON, over a tournament of five
-// rounds on five courses.
+// Measures scoring: rounds a second through PlayerClass in this process, with the courses in
+// memory; and `results players` as a whole process, as a table and as JSON, over a tournament of
+// five rounds on five courses.
 //
-// player_results [ROUNDS]   prints medians, for 2,000 and for 8,000 players
+// player_results [ROUNDS]   prints medians for 2,000 and for 8,000 players
 
 #include <algorithm>
 #include <chrono>
@@ -24,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Nanoseconds for each round; each is on another course than the one before.
+// Returns the nanoseconds for each round. Each round is on another course than the one before.
 double TimeRounds(PlayerClass& player, int repeats) {
   std::int64_t sum = 0;
   const auto start = std::chrono::steady_clock::now();

@@ -7,8 +7,8 @@ namespace golf::bench {
 
 inline constexpr int kRoundsPlayed = 5;
 
-// An install with tournament 1: so many golfers over five rounds on five courses, with random
-// scores. `team_of` gives the team of a golfer by his number from 1.
+// Makes an install with tournament 1: this number of golfers over five rounds on five courses, with
+// random scores. `team_of` returns the team of a golfer by his number from 1.
 void MakeScoredInstall(const std::filesystem::path& folder, int players,
                        const std::function<int(int)>& team_of);
 

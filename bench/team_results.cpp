@@ -1,5 +1,5 @@
-// What teams cost: `results teams` and `results custom` as whole processes, for 50 and for 199
-// teams of four over five rounds; and one and four best balls in this process.
+// Measures teams: `results teams` and `results custom` as whole processes, for 50 and for 199 teams
+// of four over five rounds; and one and four best balls in this process.
 //
 // team_results [ROUNDS]   prints medians
 
@@ -55,7 +55,7 @@ std::vector<Measured> MeasureResults(const ScratchFolder& scratch, int teams, in
   return medians;
 }
 
-// Seconds for the best balls of all teams and rounds, the golfers' rounds included.
+// Returns the seconds for the best balls of all teams and rounds, including the golfers' rounds.
 double TimeBestBalls(SharedState& state, int balls) {
   std::int64_t sum = 0;
   const auto start = std::chrono::steady_clock::now();

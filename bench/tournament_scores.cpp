@@ -1,10 +1,10 @@
-// The score transfer from Quenby to Kelvane as a whole process: a tournament of 2,000 players, all
-// with a score by hole, into a roster of 20,000 with histories of 20 scores. Beside it a bare loop
-// with one system call for each record: every file read once, each score's golfer and history read
-// and written, and its entry in the tournament marked.
+// Measures the score transfer from Quenby to Kelvane as a whole process: a tournament of 2,000
+// players, all with a score by hole, and a roster of 20,000 golfers with histories of 20 scores. A
+// bare loop runs beside it with one system call for each record: it reads every file once, reads
+// and writes the golfer and the history of each score, and marks its entry in the tournament.
 //
 // tournament_scores [ROUNDS]            prints medians
-// tournament_scores --bare-loop DIR     is the bare loop
+// tournament_scores --bare-loop DIR     runs the bare loop
 
 #include <cstdint>
 #include <fstream>
@@ -29,7 +29,7 @@ std::ofstream NewFile(const fs::path& path) {
   return std::ofstream(path, std::ios::binary);
 }
 
-// With their index of the courses of 18 holes.
+// Makes the courses and the index of those with 18 holes.
 void MakeCourses(const fs::path& file, const fs::path& index_file) {
   auto courses = NewFile(file);
   auto index = NewFile(index_file);

@@ -1,5 +1,5 @@
-# Sourced by run and test, in the folder of the checkout: what the project needs of the system, and
-# how it is built.
+# What the project needs of the system, and how it is built. run and test source it in the folder of
+# the checkout.
 
 build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev)
 test_packages=(libgtest-dev librapidcheck-dev xvfb xauth)
@@ -11,7 +11,7 @@ as_root() {
   if [[ $(id -u) == 0 ]]; then "$@"; else sudo "$@"; fi
 }
 
-# need_packages NAMES...: installs those that are missing, and asks the network only then.
+# need_packages NAMES... installs the packages that are missing. It uses the network only then.
 need_packages() {
   local package missing=()
   if ! command -v apt-get >/dev/null; then
@@ -29,7 +29,7 @@ need_packages() {
     apt-get -qq install -y --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# build_preset NAME: brings build/NAME up to date.
+# build_preset NAME brings build/NAME up to date.
 build_preset() {
   say "Building the $1 preset in build/$1"
   cmake --preset "$1" >/dev/null

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kSizes[] = {16, 20, 24, 32, 40, 48, 64, 128};
-constexpr int kSamples = 8;  // of a pixel, in each direction
+constexpr int kSamples = 8;  // for each pixel, in each direction
 
 struct Colour {
   double red = 0;
@@ -37,14 +37,15 @@ bool InRoundedSquare(double x, double y) {
   return std::hypot(far_x, far_y) <= kRadius;
 }
 
-// The drawing, from 0 to 1 in both directions, y downwards. Small sizes need a stouter pole.
+// Returns the colour at a point of the drawing. Coordinates run from 0 to 1, y downwards. Small
+// sizes need a thicker `pole`.
 Colour At(double x, double y, double pole) {
   if (!InRoundedSquare(x, y)) return {};
   if (InEllipse(x, y, 0.31, 0.74, 0.12, 0.12)) {
     return Mix({1, 1, 1, 1}, {0.72, 0.76, 0.80, 1}, std::hypot(x - 0.27, y - 0.69) / 0.22);
   }
   if (std::abs(x - 0.64) <= pole / 2 && y >= 0.14 && y <= 0.76) return {0.97, 0.97, 0.97, 1};
-  const double flag = (y - 0.14) / 0.30;  // down its edge
+  const double flag = (y - 0.14) / 0.30;  // the way down its edge
   const double tip = 0.42 * (1 - std::abs(2 * flag - 1));
   if (flag >= 0 && flag <= 1 && x <= 0.64 && x >= 0.64 - tip) return {0.84, 0.13, 0.15, 1};
   if (InEllipse(x, y, 0.64, 0.76, 0.15, 0.05)) return {0.05, 0.26, 0.12, 1};
@@ -81,7 +82,7 @@ class Bytes {
   std::string data_;
 };
 
-// A picture as an icon file holds it: from the lowest row up, with an empty mask behind it.
+// Returns a picture as an icon file holds it: from the lowest row up, with an empty mask behind it.
 std::string Picture(int size) {
   const auto wide = static_cast<std::size_t>(size);
   Bytes bytes;

@@ -1,9 +1,9 @@
-# What an .exe carries besides its code.
+# The resources of an .exe.
 
 enable_language(RC)
 set(GOLF_PACKAGING ${CMAKE_CURRENT_LIST_DIR})
 
-# The icon is drawn by a program of this machine.
+# A program of the build machine draws the icon.
 find_program(GOLF_HOST_CXX NAMES g++ c++ REQUIRED)
 set(GOLF_ICON ${PROJECT_BINARY_DIR}/golf-transfer.ico)
 add_custom_command(
@@ -14,7 +14,7 @@ add_custom_command(
   WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 add_custom_target(golf_icon DEPENDS ${GOLF_ICON})
 
-# golf_resources(PROGRAM DESCRIPTION): the resources of an executable.
+# golf_resources(PROGRAM DESCRIPTION) adds the resources of an executable.
 function(golf_resources program description)
   set(icon ${GOLF_ICON})
   set(manifest ${GOLF_PACKAGING}/program.manifest)

@@ -1,6 +1,6 @@
-# Sourced by the scripts of this folder, in the folder of the checkout, behind scripts/prepare.sh:
-# what the Windows programs are made of. What takes long to make is kept in a cache outside the
-# checkout, by a hash of all that it was made from.
+# The tools and libraries for the Windows programs. The scripts of this folder source it in the
+# folder of the checkout, after scripts/prepare.sh. What takes long to make is kept in a cache
+# outside the checkout, by a hash of everything that it was made from.
 
 windows_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build xz-utils zip googletest
                   libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev)
@@ -9,8 +9,9 @@ cache=${XDG_CACHE_HOME:-$HOME/.cache}/golf-transfer
 
 version_of() { dpkg-query -W -f='${source:Version}' "$1"; }
 
-# fetch_wxwidgets FOLDER: the source of the very release that the Linux program uses, from Debian's
-# archive and checked by its signature. The machine's own list of package sources stays as it is.
+# fetch_wxwidgets FOLDER fetches the source of the same release that the Linux program uses from
+# Debian's archive, and checks its signature. The machine's own list of package sources stays as it
+# is.
 fetch_wxwidgets() {
   local apt=$1/apt file
   mkdir -p "$apt/sources.list.d" "$apt/lists/partial"
@@ -42,8 +43,8 @@ build_for_windows() {
   cmake --install "$2" >>"$2.log"
 }
 
-# make_libraries: sets `libraries` to the folder of all libraries for Windows, and makes it if need
-# be.
+# make_libraries sets `libraries` to the folder of all libraries for Windows, and makes the folder
+# if needed.
 make_libraries() {
   local recipe
   recipe=$(
@@ -64,7 +65,7 @@ make_libraries() {
     -C "$PWD/packaging/windows/wxwidgets.cmake"
   build_for_windows /usr/src/googletest "$work/build-googletest" "$work/made" \
     -DCMAKE_BUILD_TYPE=Release -DBUILD_GMOCK=OFF
-  # Headers alone, with their files for CMake: as they are.
+  # Copies the header-only libraries and their files for CMake.
   mkdir -p "$work/made/share/cmake"
   cp -r /usr/include/CLI /usr/include/nlohmann "$work/made/include"
   cp -r /usr/share/cmake/CLI11 /usr/share/cmake/nlohmann_json "$work/made/share/cmake"

@@ -1,4 +1,4 @@
-# What wxWidgets is built with for Windows, and without: only what the desktop program shows.
+# The options of wxWidgets for Windows: only what the desktop program shows.
 
 set(CMAKE_BUILD_TYPE Release CACHE STRING "")
 set(wxBUILD_SHARED OFF CACHE BOOL "")

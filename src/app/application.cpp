@@ -35,7 +35,7 @@
 namespace golf {
 namespace {
 
-// Each assignment lets the old object go. Buffers are made once and stay.
+// Makes new store objects and drops the old ones. The buffers are made once and stay.
 void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   objects.SpareCourse = std::make_shared<CourseClass>(state);
   objects.Course = std::make_shared<CourseClass>(state);
@@ -49,7 +49,7 @@ void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   if (!objects.Zandel) objects.Zandel = std::make_shared<ZandelBuffers>();
 }
 
-// What the transfers that open the manager of Quenby's rosters have open by then.
+// Opens what the transfers have open when they open the manager of Quenby's rosters.
 void OpenForLoadRosters(SharedState& state) {
   state.StoreDataPath = state.QBDataPath;
   state.Program().OpenRosterListFile();

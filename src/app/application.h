@@ -12,14 +12,14 @@
 
 namespace golf {
 
-// What may stand in place of the system's own regional forms.
+// Replacements for the system's regional forms of dates and times.
 struct RegionalOverrides {
   std::optional<std::string> short_date;
   std::optional<std::string> long_time;
 };
 
-// The program put together: the platform, the shared state with its store objects, and the screens
-// by their names. A front end adds a host.
+// The assembled program: the platform, the shared state with its store objects, and the screens by
+// their names. A front end adds a host.
 class Application {
  public:
   explicit Application(std::unique_ptr<Platform> platform);
@@ -27,7 +27,7 @@ class Application {
   SharedState& state() { return state_; }
   static ScreenCatalogue Screens();
 
-  // All that comes before the first screen.
+  // Prepares the shared state. Must be called before the first screen.
   void Start(DateValue now, const RegionalOverrides& overrides);
 
  private:
@@ -37,12 +37,12 @@ class Application {
   Transactions transactions_;
 };
 
-// Whether a name stands for a screen that somebody opens. The message box, the sort dialog
-// and the screens of one course are opened by other screens, with something in hand.
+// True if the operator can open a screen of this name directly. Other screens open the message box
+// with a memory, the sort dialog and the screens of one course.
 bool CanOpenScreen(const ScreenHost& host, std::string_view name);
 
-// Opens a screen by its name as its opener does, and returns when it is gone. `word` is what the
-// opener tells the screen, often nothing. Error 5 for a name that stands for no screen.
+// Opens a screen by its name as its opener does, and returns when it is closed. `word` controls the
+// behaviour of the screen; it is often empty. Error 5 if CanOpenScreen is false.
 void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name, std::string_view word);
 
 }  // namespace golf

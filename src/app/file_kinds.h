@@ -10,14 +10,14 @@ namespace golf {
 
 // A kind of file that a sibling keeps.
 struct FileKind {
-  std::string_view name;  // in capitals; "*" at the start stands for anything
+  std::string_view name;  // in capitals; "*" at the start stands for any text
   LayoutInfo layout;
 };
 
 std::span<const FileKind> FileKinds();
 
-// The layout of a sibling's file by its name, without folder and in any case; nothing for a name
-// that no sibling uses.
+// Returns the layout of a sibling's file by its name, without a folder and in any case. Nothing for
+// a name that no sibling uses.
 std::optional<LayoutInfo> LayoutOfFile(std::string_view file_name);
 
 }  // namespace golf

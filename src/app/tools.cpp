@@ -16,7 +16,7 @@ void ShowOpenLibrary(SharedState& state, ScreenHost& host) {
   state.Course().CloseCourseFile();
 }
 
-// Whether the operator wants to work on a sibling's own file.
+// Asks whether to open a sibling's own file.
 bool IsWanted(ScreenHost& host, const std::string& sibling, const std::string& path) {
   const Box question{.title = kCourseLibrary,
                      .text = "This is " + sibling + "'s own course library:\r" + path +
@@ -28,7 +28,7 @@ bool IsWanted(ScreenHost& host, const std::string& sibling, const std::string& p
   return host.Ask(question) == BoxButton::kYes;
 }
 
-// False where the sibling holds its library; the operator is told then.
+// Returns false, and shows the operator why, if another program holds the library.
 bool OpenUnlessHeld(SharedState& state, ScreenHost& host, const CourseLibrary& library) {
   try {
     OpenCourseLibrary(state, library);
@@ -49,7 +49,7 @@ void OpenForOperator(SharedState& state, ScreenHost& host, const CourseLibrary& 
   const std::string path = CourseFilePath(state, library);
   if (!IsWanted(host, std::string(library.sibling), path)) return;
   if (!OpenUnlessHeld(state, host, library)) return;
-  // He may add courses of any number of holes.
+  // The operator may add courses of any number of holes.
   state.Course().Allow18HoleCourses = true;
   state.Course().Allow9HoleCourses = true;
   ShowOpenLibrary(state, host);
@@ -65,7 +65,7 @@ Tool CourseTool(const CourseLibrary& library) {
                              ScreenHost& host) { OpenForOperator(state, host, library); }};
 }
 
-// A screen over the teams of Quenby's tournaments.
+// Opens a screen about the teams of Quenby's tournaments.
 Tool TeamTool(std::string caption, std::string screen) {
   return {
       .caption = std::move(caption),

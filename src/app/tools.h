@@ -10,18 +10,18 @@
 
 namespace golf {
 
-// An entry of the main window's menu "Tools": what is worked on beside the transfers.
+// An entry of the menu "Tools" of the main window. It opens a screen that is not a transfer.
 struct Tool {
   std::string caption;
-  // Whether there is something to work on in this install.
+  // True if this install has the data that the screen needs.
   std::function<bool(SharedState&)> is_there;
   std::function<void(SharedState&, ScreenHost&)> open;
 };
 
-// All that there are, in the order of the menu.
+// Returns all tools in the order of the menu.
 std::vector<Tool> Tools();
 
-// Shows the courses of a sibling's library, "KV", "QB" or "ZD", and closes it afterwards. Error 5
+// Shows the courses of the library "KV", "QB" or "ZD", and closes the library afterwards. Error 5
 // for any other word.
 void ShowCourseTable(SharedState& state, ScreenHost& host, std::string_view program);
 

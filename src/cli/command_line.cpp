@@ -38,7 +38,7 @@ constexpr const char* kScriptLines =
     "  caller WORD\n"
     "Begin with: open TransferMenu, show.\n\n";
 
-// The parser's text for a command that it does not know tells only that it wants one.
+// Names an unknown command. The parser's own text only says that a command is required.
 std::string FailureText(const CLI::App* app, const CLI::Error& error) {
   const std::vector<std::string> unknown = app->remaining(true);
   const bool wants_command = std::string_view(error.what()) == "A subcommand is required";
@@ -77,8 +77,8 @@ void AddGlobalOptions(CLI::App& app, Options& options) {
   app.add_flag("--quiet", options.quiet, "No progress");
 }
 
-// An option or argument that is a whole number. The parser's own reading takes a leading zero for
-// another base, and codes are listed with zeros.
+// Adds an option or argument that is a whole number. The parser would read a number with a leading
+// zero in another base, and codes are listed with leading zeros.
 template <class Number>
 CLI::Option* AddNumber(CLI::App& command, const std::string& name, Number& number,
                        const std::string& help) {
@@ -328,10 +328,10 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
                    "Really start programs instead of reporting them");
 }
 
-// What was written to standard output must have got there.
+// Checks that the result has reached standard output.
 ExitCode CheckOutput(ExitCode code) {
   if (std::cout.flush()) return code;
-  TellProblem("Standard output could not be written to: the result is not complete.");
+  NoteProblem("Standard output could not be written to: the result is not complete.");
   return code == ExitCode::kDone ? ExitCode::kError : code;
 }
 
@@ -342,16 +342,16 @@ ExitCode RunChosen(const Command& command) {
     std::cerr << refusal.what() << std::endl;
     return ExitCode::kRefused;
   } catch (const ScriptError& error) {
-    TellProblem(error.what());
+    NoteProblem(error.what());
     return ExitCode::kUsage;
   } catch (const NumberedError& error) {
     const bool missing =
         error.Is(ErrorNumber::kPathNotFound) || error.Is(ErrorNumber::kFileNotFound);
-    TellProblem(missing ? error.description() : error.Report());
-    if (error.Is(ErrorNumber::kPathNotFound)) TellProblem(kInstallHint);
+    NoteProblem(missing ? error.description() : error.Report());
+    if (error.Is(ErrorNumber::kPathNotFound)) NoteProblem(kInstallHint);
     return missing ? ExitCode::kRefused : ExitCodeOf(error);
   } catch (const Stopped& stopped) {
-    TellProblem(stopped.what());
+    NoteProblem(stopped.what());
     return ExitCodeOf(stopped);
   } catch (const std::exception& error) {
     std::cerr << "A fault of the program: " << error.what() << std::endl;
@@ -366,10 +366,10 @@ int RunCommandLine(int argc, const char* const* argv) {
   CLI::App app(kDescription, "golf-transfer-cli");
   app.footer(kExitCodes);
   app.set_version_flag("--version", "golf-transfer-cli " GOLF_VERSION);
-  app.allow_windows_style_options(false);  // a word means the same on every system
+  app.allow_windows_style_options(false);  // words mean the same on every system
   app.require_subcommand(1);
   app.failure_message(FailureText);
-  app.fallthrough();  // global options may stand behind the command, too
+  app.fallthrough();  // global options may also follow the command
   Options options;
   Arguments arguments;
   Command chosen;
@@ -377,7 +377,7 @@ int RunCommandLine(int argc, const char* const* argv) {
   AddCommands(app, options, arguments, chosen);
   try {
     std::vector<std::string> words = Utf8Arguments(argc, argv);
-    std::reverse(words.begin(), words.end());  // as the parser takes them
+    std::reverse(words.begin(), words.end());  // the parser takes the last word first
     app.parse(std::move(words));
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? static_cast<int>(ExitCode::kDone)

@@ -11,10 +11,9 @@
 
 namespace golf {
 
-// One function for each command. Errors that end a command travel out of it: NumberedError,
-// ScriptError, Refusal.
+// Each command has one function. It raises NumberedError, ScriptError or Refusal if it fails.
 
-// A name, a number or a file that is not there; nothing was changed.
+// Raised for a name, a number or a file that does not exist. Nothing was changed.
 class Refusal : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;  // the text is UTF-8
@@ -24,15 +23,15 @@ ExitCode RunDemo(const Options& options, const std::string& folder);
 
 struct ListRequest {
   std::string what;            // one of ListNames
-  std::string library = "kv";  // whose courses: "kv", "qb" or "zd"
-  std::string league;          // whose events: its base, UTF-8
+  std::string library = "kv";  // the library of the courses: "kv", "qb" or "zd"
+  std::string league;          // the league of the events: its base, UTF-8
 };
 std::vector<std::string> ListNames();
 ExitCode RunList(const Options& options, const ListRequest& request);
 
 struct DumpRequest {
   std::string file;
-  std::optional<std::int64_t> record;  // from 1; all if left out
+  std::optional<std::int64_t> record;  // from 1; all records if left out
   bool csv = false;
 };
 ExitCode RunDump(const Options& options, const DumpRequest& request);
@@ -41,15 +40,15 @@ struct ResultsRequest {
   std::string what;  // one of ResultsNames
   std::int32_t tournament = 0;
   std::optional<int> round;  // the active round if left out
-  std::string layout;        // of a custom report: its name, UTF-8
+  std::string layout;        // the name of a custom report's layout, UTF-8
   bool csv = false;
 };
 std::vector<std::string> ResultsNames();
 ExitCode RunResults(const Options& options, const ResultsRequest& request);
 
 struct CourseRequest {
-  std::string library = "kv";  // whose: "kv", "qb" or "zd"
-  std::int32_t number = 0;     // of the course, for RunCourseShow
+  std::string library = "kv";  // "kv", "qb" or "zd"
+  std::int32_t number = 0;     // the course, for RunCourseShow
 };
 ExitCode RunCourseShow(const Options& options, const CourseRequest& request);
 ExitCode RunCourseCheck(const Options& options, const CourseRequest& request);
@@ -57,27 +56,27 @@ ExitCode RunCourseCheck(const Options& options, const CourseRequest& request);
 ExitCode RunCoursesKvToQb(const Options& options);
 
 struct GolfersKvToQbArguments {
-  std::string roster;  // Kelvane's, by name
-  int to = 0;          // Quenby's, by number; 0 for all rosters
+  std::string roster;  // Kelvane's roster, by name
+  int to = 0;          // Quenby's roster, by number; 0 for all rosters
   bool marked_only = false;
   bool to_9_hole = false;
   bool to_18_hole = false;
-  std::vector<std::string> items;  // optional ones, by name or by row
+  std::vector<std::string> items;  // the optional items, by name or by row
   bool update_tournament = false;
 };
 ExitCode RunGolfersKvToQb(const Options& options, const GolfersKvToQbArguments& request);
 
 struct GolfersKvToZdArguments {
-  std::string roster;  // Kelvane's, by name
-  std::string league;  // Zandel's, by base
+  std::string roster;  // Kelvane's roster, by name
+  std::string league;  // Zandel's league, by base
   std::optional<int> percent;
-  int holes = 18;  // that the league's handicaps are for: 9 or 18
+  int holes = 18;  // the holes that the league's handicaps are for: 9 or 18
   bool even_if_scored = false;
 };
 ExitCode RunGolfersKvToZd(const Options& options, const GolfersKvToZdArguments& request);
 
 struct GolfersZdToQbArguments {
-  std::string league;  // Zandel's, by base
+  std::string league;  // Zandel's league, by base
   int to = 0;          // Quenby's roster, by number; 0 for all rosters
   bool doubled = false;
   bool substitutes = false;
@@ -87,20 +86,20 @@ ExitCode RunGolfersZdToQb(const Options& options, const GolfersZdToQbArguments& 
 struct ScoresQbToKvArguments {
   std::int32_t tournament = 0;
   int round = 1;
-  std::string roster;                  // Kelvane's, by name
-  std::optional<std::int32_t> course;  // Kelvane's; the one that fits best if left out
+  std::string roster;                  // Kelvane's roster, by name
+  std::optional<std::int32_t> course;  // Kelvane's course; the best match if left out
   bool as_tournament = false;
   bool points = false;
-  std::string again = "no";  // "yes" or "no": scores that have been transferred before
+  std::string again = "no";  // "yes" or "no": post scores that were transferred before
   bool nine_into_eighteen = false;
 };
 ExitCode RunScoresQbToKv(const Options& options, const ScoresQbToKvArguments& request);
 
 struct ScoresZdToKvArguments {
-  std::string league;  // Zandel's, by base
-  int batch = 0;       // by code
-  std::string roster;  // Kelvane's, by name
-  std::string again;   // "yes" or "no"; empty: as the boxes offer
+  std::string league;  // Zandel's league, by base
+  int batch = 0;       // the code of the batch
+  std::string roster;  // Kelvane's roster, by name
+  std::string again;   // "yes" or "no"; empty: the default answer of each box
 };
 ExitCode RunScoresZdToKv(const Options& options, const ScoresZdToKvArguments& request);
 

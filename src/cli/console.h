@@ -5,13 +5,13 @@
 
 namespace golf {
 
-// What the command line needs of a terminal and of the way it was started.
+// The calls to a terminal and to the arguments of the process.
 
-// Makes the standard streams speak UTF-8 and leave line ends alone.
+// Sets the standard streams to UTF-8 and to unchanged line ends.
 void PrepareConsole();
-// True where it is a terminal that can take a line back.
+// True if standard error is a terminal that can erase a line.
 bool ErrorOutputIsTerminal();
-// The arguments of the process in UTF-8, without the program's name.
+// Returns the arguments of the process in UTF-8, without the program's name.
 std::vector<std::string> Utf8Arguments(int argc, const char* const* argv);
 
 }  // namespace golf

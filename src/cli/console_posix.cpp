@@ -6,7 +6,8 @@
 
 namespace golf {
 
-// A reader that goes away must not kill a run halfway; the failed output is told at the end.
+// A reader of the output that goes away must not end a run halfway. CheckOutput notes the lost
+// output.
 void PrepareConsole() { std::signal(SIGPIPE, SIG_IGN); }
 
 bool ErrorOutputIsTerminal() { return isatty(STDERR_FILENO) != 0; }

@@ -18,9 +18,9 @@ UINT output_page_before = 0;
 void PrepareConsole() {
   for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
   output_page_before = GetConsoleOutputCP();
-  if (output_page_before == 0) return;  // no console
+  if (output_page_before == 0) return;  // there is no console
   SetConsoleOutputCP(CP_UTF8);
-  // The console outlives this program.
+  // The console outlives this program, so its code page is restored.
   std::atexit([] { SetConsoleOutputCP(output_page_before); });
 }
 
@@ -31,7 +31,7 @@ bool ErrorOutputIsTerminal() {
          SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
 }
 
-// What main gets is in the system's code page, and lacks what that cannot hold.
+// The arguments of main are in the system's code page, which cannot hold every name.
 std::vector<std::string> Utf8Arguments(int, const char* const*) {
   std::vector<std::string> arguments;
   int count = 0;

@@ -13,7 +13,7 @@
 namespace golf {
 namespace {
 
-// A group by its name, whose a value is, and as a key begins.
+// A group: its name, the word for its values, and the start of its keys.
 struct Group {
   const char* name;
   const char* owner;
@@ -22,7 +22,7 @@ struct Group {
 
 constexpr Group kGroups[] = {{"men", "men's", "mens"}, {"ladies", "ladies'", "ladies"}};
 
-// Texts of a course by their names for scripts and for people.
+// A text of a course with its names in JSON and in plain output.
 struct CourseDetail {
   const char* key;
   const char* heading;
@@ -38,7 +38,7 @@ constexpr CourseDetail kDetails[] = {{"address1", "Address", &CourseClass::Addre
                                      {"golfPro", "Golf pro", &CourseClass::GolfPro},
                                      {"unit", "Lengths in", &CourseClass::YardsOrMeters}};
 
-// What a tee has for each hole, with its totals: those of the first nine, the second and all.
+// A value of a tee by hole, with its totals of the first nine, the second nine and all holes.
 struct HoleRow {
   const char* key;
   const char* heading;
@@ -65,7 +65,7 @@ const HoleRow kRows[] = {
      {}},
     {"sequence",
      "Sequence",
-     // As stored: 0 where there is none.
+     // The stored value, which is 0 where there is none.
      [](CourseClass& course, int tee, int n) {
        return std::to_string(course.Stored().Get<"StrkSqnc">(tee, n));
      },
@@ -103,7 +103,7 @@ void ShowAsJson(CourseClass& course, std::int32_t number) {
   WriteJsonLine(object);
 }
 
-// The scorecard of a tee.
+// Writes the scorecard of a tee.
 void ShowTee(CourseClass& course, const TeeKey& tee) {
   std::cout << "\nTee " << tee.number << ", " << PlainCell(tee.name) << " ("
             << PlainCell(tee.abbreviation) << ")";
@@ -172,7 +172,7 @@ bool IsByGroup(const TeeFault& fault) {
   return fault.field == TeeField::kRating || fault.field == TeeField::kSlope;
 }
 
-void TellFinding(const CourseClass& course, std::int32_t number, const TeeKey& tee,
+void ShowFinding(const CourseClass& course, std::int32_t number, const TeeKey& tee,
                  const TeeFault& fault, bool json) {
   if (json) {
     Json object = {{"number", number},
@@ -188,7 +188,7 @@ void TellFinding(const CourseClass& course, std::int32_t number, const TeeKey& t
   std::cout << number << ' ' << PlainCell(course.Name()) << ", tee " << tee.number << ' '
             << PlainCell(tee.name) << ": ";
   if (IsByGroup(fault)) std::cout << kGroups[fault.group].owner << ' ' << FieldName(fault) << ": ";
-  // What follows the first line says what to do about it on the screen.
+  // The further lines say what to do on the screen.
   std::cout << PlainCell(fault.text.substr(0, fault.text.find('\r'))) << '\n';
 }
 
@@ -198,7 +198,7 @@ CourseClass& OpenForReading(SharedState& state, const CourseRequest& request) {
   const std::int64_t rest =
       state.files.Length(course.CourseFileNumber()) % std::int64_t{kCourseRecordLength};
   if (rest != 0) {
-    TellProblem("The library ends with " + std::to_string(rest) +
+    NoteProblem("The library ends with " + std::to_string(rest) +
                 " bytes that are no whole course.");
   }
   return course;
@@ -230,7 +230,7 @@ ExitCode RunCourseCheck(const Options& options, const CourseRequest& request) {
     if (course.activeflag() == 0) continue;
     for (const TeeKey& tee : ActiveTeesOf(course)) {
       for (const TeeFault& fault : FaultsOfTee(course, tee.number)) {
-        TellFinding(course, number, tee, fault, options.json);
+        ShowFinding(course, number, tee, fault, options.json);
       }
     }
   }

@@ -9,20 +9,20 @@
 
 namespace golf {
 
-// Opens the library that --library names, "kv", "qb" or "zd", and gives its Course object.
+// Opens the library named by --library, "kv", "qb" or "zd", and returns its Course object.
 CourseClass& OpenNamedLibrary(SharedState& state, const std::string& library);
 
-// What tells a tee from the others of its course.
+// Identifies a tee among the others of its course.
 struct TeeKey {
   int number = 0;
   std::string name;
   std::string abbreviation;
 };
 
-// The active tees of the current course.
+// Returns the active tees of the current course.
 std::vector<TeeKey> ActiveTeesOf(const CourseClass& course);
 
-// The keys by which a course and a tee are known.
+// Return the keys that identify a course and a tee.
 Json CourseKeys(const CourseClass& course, std::int32_t number);
 Json TeeKeys(const TeeKey& tee);
 

@@ -22,7 +22,8 @@ struct FoundFile {
   std::string path;
 };
 
-// A file as it is named, or below the install. Either way its name may be in any case.
+// Finds the file by the path as given, or else below the install folder. The case of its name does
+// not matter.
 FoundFile FindFile(const Options& options, const std::string& file) {
   namespace fs = std::filesystem;
   const fs::path named = PathFromUtf8(file).make_preferred();
@@ -51,13 +52,13 @@ LayoutInfo LayoutOf(const std::string& file) {
   return *layout;
 }
 
-// The records asked for, first and last, of the file that is open as kNumber.
+// Returns the first and the last record to show of the file that is open as kNumber.
 std::pair<std::int64_t, std::int64_t> RecordsOf(FileTable& files, const DumpRequest& request,
                                                 std::size_t length) {
   const std::int64_t count = files.CountTruncated(kNumber, length);
   const std::int64_t rest = files.Length(kNumber) - count * static_cast<std::int64_t>(length);
   if (rest != 0) {
-    TellProblem("The file ends with " + std::to_string(rest) + " bytes that are no whole record.");
+    NoteProblem("The file ends with " + std::to_string(rest) + " bytes that are no whole record.");
   }
   if (!request.record) return {1, count};
   if (*request.record >= 1 && *request.record <= count) return {*request.record, *request.record};

@@ -10,9 +10,9 @@ namespace golf {
 
 enum class ExitCode : int {
   kDone = 0,
-  kRefused = 1,  // what the screen would say, or a name, number or file that is not there
+  kRefused = 1,  // the screen refuses, or a name, number or file does not exist
   kUsage = 2,    // wrong usage, or a script that cannot be followed
-  kError = 3,    // a numbered error ended the run, or it carried on over faults
+  kError = 3,    // an error ended the run, or the run went on after faults
   kHeld = 4,     // another program holds the files
 };
 
@@ -26,7 +26,7 @@ inline ExitCode ExitCodeOf(const NumberedError& error) {
   return error.Is(ErrorNumber::kPermissionDenied) ? ExitCode::kHeld : ExitCode::kError;
 }
 
-// Of a run that carried on over these faults, of which there is one at least.
+// Returns the exit code of a run that went on after faults. There must be at least one.
 inline ExitCode ExitCodeOfFaults(const std::vector<NumberedError>& faults) {
   const bool held = std::any_of(faults.begin(), faults.end(), [](const NumberedError& fault) {
     return fault.Is(ErrorNumber::kPermissionDenied);

@@ -21,7 +21,7 @@ std::string Hex(std::string_view bytes) {
   return hex;
 }
 
-// The shortest text that names a number; "" for one that is none.
+// Returns the shortest text that names a number, or "" for NaN and the infinities.
 template <class T>
 std::string NumberName(T value) {
   if constexpr (std::is_floating_point_v<T>) {
@@ -49,7 +49,7 @@ Json JsonOf(const Field& field, const FieldValue& value) {
   return std::isfinite(number) ? Json(number) : Json(nullptr);
 }
 
-// Calls `visit(indexes)` for each element, the last index fastest.
+// Calls `visit(indexes)` for each element; the last index changes fastest.
 template <class Visit>
 void ForEachElement(const Field& field, Visit visit) {
   std::vector<int> indexes;
@@ -120,7 +120,7 @@ std::vector<std::string> ElementTexts(const Field& field, std::string_view recor
 
 std::vector<std::pair<std::string, std::string>> PlainLines(const Field& field,
                                                             std::string_view record) {
-  constexpr std::size_t kMostBytes = 24;  // of bytes without a name, that people see
+  constexpr std::size_t kMostBytes = 24;  // shown of a field without a name
   std::vector<std::pair<std::string, std::string>> lines;
   if (field.name.empty() && field.width > kMostBytes) {
     const std::string start = Hex(record.substr(field.offset, kMostBytes));

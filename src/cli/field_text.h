@@ -10,22 +10,22 @@
 
 namespace golf {
 
-// Fields of a record for people and programs. Texts come without the blanks that fill them, bytes
-// without a name as hex text; everything is UTF-8.
+// Write the fields of a record for people and programs. Texts lose the blanks that fill them, bytes
+// without a name become hex text, and everything is UTF-8.
 
-// A field's name, or "bytes@OFFSET".
+// Returns a field's name, or "bytes@OFFSET".
 std::string FieldLabel(const Field& field);
 
-// A value, or for a table arrays nested in the order of its indexes. NaN and the infinities are
-// null.
+// Returns the value of a field. A table becomes arrays nested in the order of its indexes. NaN and
+// the infinities become null.
 Json FieldJson(const Field& field, std::string_view record);
 
-// Each element of a field in the order of its indexes, the last one fastest: "HolePar(1,18)".
+// Return each element of a field, the last index changing fastest. A name is "HolePar(1,18)".
 std::vector<std::string> ElementNames(const Field& field);
 std::vector<std::string> ElementTexts(const Field& field, std::string_view record);
 
-// A line for each value of the first index of a table of two, one line for any other field: its
-// label and its values.
+// Returns lines of a label and values: one for each value of the first index if the field is a
+// table of two indexes, and one line for any other field.
 std::vector<std::pair<std::string, std::string>> PlainLines(const Field& field,
                                                             std::string_view record);
 

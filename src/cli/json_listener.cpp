@@ -75,12 +75,12 @@ void JsonListener::OnError(const NumberedError& error) {
   event["description"] = JsonText(error.description());
   if (line_ > 0) event["line"] = line_;
   WriteJsonLine(event);
-  TellProblem(error.Report());
+  NoteProblem(error.Report());
 }
 
-void JsonListener::OnFault(const NumberedError& fault) { TellProblem(fault.Report()); }
+void JsonListener::OnFault(const NumberedError& fault) { NoteProblem(fault.Report()); }
 
-void JsonListener::OnNotice(const std::string& text) { TellProblem(text); }
+void JsonListener::OnNotice(const std::string& text) { NoteProblem(text); }
 
 void JsonListener::OnEnd() { WriteJsonLine(Event("end")); }
 

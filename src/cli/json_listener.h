@@ -7,7 +7,7 @@
 
 namespace golf {
 
-// Writes every event of a run as a line of JSON.
+// Writes every event of a run as a line of JSON. Notes faults and errors on standard error, too.
 class JsonListener : public HostListener {
  public:
   void OnOpen(const Screen& screen) override;
@@ -23,7 +23,7 @@ class JsonListener : public HostListener {
   void OnNotice(const std::string& text) override;
   void OnEnd() override;
 
-  // The line of a script that is being followed; 0 where there is none.
+  // Sets the script line that causes the next events; 0 if there is none.
   void SetLine(int line) { line_ = line; }
 
  private:

@@ -57,11 +57,11 @@ void AddKindKeys(Json& event, const Control& control) {
   }
 }
 
-// The library escapes the control characters below U+0020 only. A terminal obeys U+007F to U+009F,
-// too. They stand within texts alone.
+// Escapes U+007F to U+009F, which a terminal obeys. The library escapes only the control characters
+// below U+0020. These characters occur in texts only.
 std::string WithoutControls(const std::string& json) {
   constexpr char kDelete = '\x7F';
-  constexpr char kLead = '\xC2';  // of U+0080 to U+00BF in UTF-8
+  constexpr char kLead = '\xC2';  // the first UTF-8 byte of U+0080 to U+00BF
   std::string escaped;
   escaped.reserve(json.size());
   const auto escape = [&escaped](char last) {

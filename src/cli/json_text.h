@@ -10,19 +10,20 @@
 
 namespace golf {
 
-// Keys keep the order in which they are written.
+// Its keys keep the order in which they are added.
 using Json = nlohmann::ordered_json;
 
-// A text of the system as JSON.
+// Converts a text from code page 1252.
 inline Json JsonText(std::string_view text) { return Utf8FromText(text); }
 
-// A single as the shortest number that names it among singles; null for one that is none.
+// Returns the shortest number that identifies a single among singles. Null for NaN and the
+// infinities.
 Json JsonSingle(float value);
 
-// Writes one object as a line of standard output, at once.
+// Writes one object as a line of standard output and flushes it.
 void WriteJsonLine(const Json& object);
 
-// All that can be told of a control, as the event "control".
+// Describes a control and all that it shows as the event "control".
 Json DescribeControl(const Screen& screen, const Control& control);
 
 }  // namespace golf

@@ -9,13 +9,13 @@
 
 namespace golf {
 
-// Where a list goes: a line of JSON for each entry at once, or a table for people at the end.
+// Writes a list: as JSON, a line for each entry at once; for people, a table at the end.
 class ListWriter {
  public:
   explicit ListWriter(bool json) : json_(json) {}
 
   void SetHeadings(std::vector<std::string> headings) { headings_ = std::move(headings); }
-  // The same entry in both forms; the cells are UTF-8.
+  // Adds an entry in both forms. The cells are UTF-8.
   void Add(const Json& object, std::vector<std::string> cells);
   void Finish() const;
 
@@ -25,7 +25,7 @@ class ListWriter {
   std::vector<std::vector<std::string>> rows_;
 };
 
-// Each lists one kind of thing; files are only read.
+// Each function lists one kind of entry. They read files and change nothing.
 void ListCourses(SharedState& state, const ListRequest& request, ListWriter& out);
 void ListRosters(SharedState& state, const ListRequest& request, ListWriter& out);
 void ListQuenbyRosters(SharedState& state, const ListRequest& request, ListWriter& out);

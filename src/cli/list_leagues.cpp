@@ -1,4 +1,4 @@
-// Lists of Zandel's leagues, and of what there is to post from one of them.
+// Lists Zandel's leagues and the batches of scores of a league.
 
 #include "cli/list_command.h"
 #include "cli/plain_text.h"
@@ -11,7 +11,7 @@
 namespace golf {
 namespace {
 
-// A control file that is cut holds the start of the name, or nothing of it.
+// Returns the league's name. A truncated control file may hold part of it or nothing.
 std::string NameOf(const Record<LeagueControlLayout>& control) {
   const std::string name = control.Get<"LeagueName">();
   return std::string(Trim(std::string_view(name).substr(0, name.find('\0'))));
@@ -44,7 +44,7 @@ void ListEvents(SharedState& state, const ListRequest& request, ListWriter& out)
   const auto batches = LoadScoreBatches(state, base).value_or(ScoreBatches{});
   int place = 0;
   for (const ScoreBatch& batch : batches.list) {
-    // Without a current event practice is offered, but it is none.
+    // Place 0 is practice. It is selected if there is no current event, but is not current.
     const bool current = place > 0 && place == batches.selected;
     out.Add({{"code", batch.code}, {"text", JsonText(batch.text)}, {"current", current}},
             {FormatNumber(batch.code, "000"), PlainCell(batch.text), current ? "*" : ""});

@@ -1,4 +1,4 @@
-// Lists of Kelvane's rosters and of Quenby's rosters and tournaments.
+// Lists Kelvane's rosters and Quenby's rosters and tournaments.
 
 #include <map>
 
@@ -27,7 +27,7 @@ int CountKelvaneGolfers(SharedState& state) {
   return count;
 }
 
-// By roster number; a golfer counts on each of his rosters.
+// Returns the golfers of each roster by its number. A golfer counts on each of his rosters.
 std::map<int, int> CountQuenbyGolfers(TournamentPlayers& player) {
   std::map<int, int> counts;
   player.OpenRosterFile();
@@ -45,7 +45,7 @@ void AddTournament(SharedState& state, std::int32_t number, ListWriter& out) {
   const auto control = state.files.gate().Open(
       state.QBDataPath + TournamentFileName(number, ".Q9C"), FileAccess::kReadOnly);
   const bool holds_record = control->Length() > 0;
-  state.InitSharedObjects();  // an empty control file does not show the one before it
+  state.InitSharedObjects();  // an empty control file must not show the one before it
   TournamentControl& tournament = state.Tournament();
   state.Player().OpenRosterFile();
   tournament.OpenTournamentControlFile(number);

@@ -19,11 +19,11 @@ struct Options {
   bool quiet = false;
 };
 
-// Gives the present moment: the one given, or the clock's, in local time.
+// Returns a clock: the given moment, or the local time.
 std::function<DateValue()> ClockOf(const Options& options);
 
-// The program over the install of the options, ready for its first screen. Error 76 where there is
-// no such folder.
+// Returns the program on the install of the options, ready for its first screen. Error 76 if there
+// is no such folder.
 std::unique_ptr<Application> StartApplication(const Options& options);
 
 }  // namespace golf

@@ -12,7 +12,7 @@
 namespace golf {
 namespace {
 
-// Makes the row active that has this text in a column; false if there is none.
+// Makes the row with this text in a column active. Returns false if there is none.
 bool ChooseRow(HeadlessHost& host, Screen& screen, Grid& grid, int column,
                const std::string& text) {
   for (int row = 1; row <= grid.rows(); ++row) {

@@ -7,18 +7,18 @@
 
 namespace golf {
 
-// What the operator does on the pickers that transfers open. A choice that is not there is a
+// Act as the operator on the pickers that transfers open. A choice that does not exist raises
 // Refusal.
 
-// A Kelvane roster by its name, in any case.
+// Picks a Kelvane roster by its name, in any case.
 void PickKelvaneRoster(HeadlessHost& host, Screen& picker, const std::string& name);
-// A Quenby roster by its number; 0 stands for all rosters.
+// Picks a Quenby roster by its number. 0 stands for all rosters.
 void PickQuenbyRoster(HeadlessHost& host, Screen& picker, int number);
-// A league by its base, on a screen whose button `finder` opens its picker.
+// Picks a league by its base on a screen whose button `finder` opens the picker.
 void PickLeague(HeadlessHost& host, Screen& screen, std::string_view finder, LeaguePicker& picker,
                 const std::string& base);
 
-// Ticks a box; where it is hidden that is a Refusal with `why`.
+// Ticks a box. Raises Refusal with the text `why` if the box is hidden.
 void Tick(HeadlessHost& host, Screen& screen, CheckBox& box, const std::string& why);
 
 }  // namespace golf

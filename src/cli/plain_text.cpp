@@ -19,7 +19,7 @@ struct Column {
   bool of_numbers = false;
 };
 
-// "-" stands for none.
+// True for a number and for "-", which stands for no number.
 bool IsNumber(std::string_view cell) {
   return cell.find_first_not_of("+-.0123456789") == std::string_view::npos;
 }
@@ -33,7 +33,7 @@ bool HoldsNumbers(const std::vector<std::vector<std::string>>& rows, std::size_t
                      [column](const auto& row) { return IsNumber(row[column]); });
 }
 
-// Numbers stand below each other by their last digit.
+// Numbers are aligned to the right.
 void WriteRow(const std::vector<std::string>& cells, const std::vector<Column>& columns) {
   std::string line;
   for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -44,7 +44,7 @@ void WriteRow(const std::vector<std::string>& cells, const std::vector<Column>& 
   std::cout << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
 }
 
-// The undefined bytes of the code page are control characters in UTF-8.
+// Undefined bytes of the code page become control characters in UTF-8, so they are replaced, too.
 char Harmless(char c) {
   constexpr std::string_view kUndefined = "\x81\x8D\x8F\x90\x9D";
   const auto code = static_cast<unsigned char>(c);

@@ -6,14 +6,14 @@
 
 namespace golf {
 
-// A text of the system for people: UTF-8, with line feeds for its line ends and none at the end.
-// Any other control character, which a terminal might obey, is a "?".
+// Converts a text from code page 1252 to UTF-8 for people. Line ends become line feeds, and the
+// last ones are removed. Each other control character, which a terminal might obey, becomes "?".
 std::string PlainText(std::string_view text);
-// The same on one line: line ends are a "?" as well.
+// Does the same for one line: line ends become "?", too.
 std::string PlainCell(std::string_view text);
 
-// Writes rows below headings in columns as wide as they need to be, numbers to the right, to
-// standard output. Each row has a cell for each heading.
+// Writes a table to standard output: headings and rows in columns as wide as needed, with numbers
+// aligned to the right. Each row has a cell for each heading.
 void WriteTable(const std::vector<std::string>& headings,
                 const std::vector<std::vector<std::string>>& rows);
 

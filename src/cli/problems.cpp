@@ -7,21 +7,21 @@
 
 namespace golf {
 
-void TellProblem(std::string_view text) { std::cerr << PlainText(text) << std::endl; }
+void NoteProblem(std::string_view text) { std::cerr << PlainText(text) << std::endl; }
 
 std::optional<NumberedError> CloseFiles(FileTable& files) {
   try {
     files.CloseAll();
     return std::nullopt;
   } catch (const NumberedError& error) {
-    TellProblem(error.Report());
+    NoteProblem(error.Report());
     return error;
   }
 }
 
-void TellFaultCount(std::size_t count) {
+void NoteFaultCount(std::size_t count) {
   if (count == 0) return;
-  TellProblem(std::to_string(count) + (count == 1 ? " fault." : " faults."));
+  NoteProblem(std::to_string(count) + (count == 1 ? " fault." : " faults."));
 }
 
 }  // namespace golf

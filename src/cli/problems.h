@@ -9,14 +9,14 @@
 
 namespace golf {
 
-// A line on standard error; the text is in code page 1252 and may have line ends of its own.
-void TellProblem(std::string_view text);
+// Writes a line to standard error. The text is in code page 1252 and may hold line ends.
+void NoteProblem(std::string_view text);
 
-// Closes all files before the process ends. An error, which tells that writes may be lost, is a
-// line on standard error, and the result.
+// Closes all files before the process ends. Notes and returns an error, which means that changes
+// may be lost.
 std::optional<NumberedError> CloseFiles(FileTable& files);
 
-// The last line of a run that carried on over faults; nothing without any.
-void TellFaultCount(std::size_t count);
+// Notes how many faults a run went on after. Writes nothing if there were none.
+void NoteFaultCount(std::size_t count);
 
 }  // namespace golf

@@ -6,13 +6,13 @@
 
 namespace golf {
 
-// A line on standard error that tells how far a run has come; nothing where that is no terminal.
+// Shows how far a run is on a line of standard error. Shows nothing if that is no terminal.
 class ProgressBar {
  public:
   explicit ProgressBar(bool wanted);
 
   void Show(const Progress& progress);
-  // Takes the line away.
+  // Erases the line.
   void Clear();
 
  private:

@@ -31,7 +31,7 @@ void OpenForReading(SharedState& state, std::int32_t tournament) {
   OpenTournament(state, tournament);
 }
 
-// In memory: the round is not saved.
+// Sets the active round in memory; nothing is saved.
 void MakeActive(TournamentClass& tournament, int round) {
   const int rounds = tournament.RoundCount();
   if (round < 1 || round > rounds) {
@@ -59,7 +59,7 @@ void ResultsRun::Try(const std::function<void()>& show, const std::function<std:
   try {
     show();
   } catch (const NumberedError& error) {
-    TellProblem(what() + ": " + error.Report());
+    NoteProblem(what() + ": " + error.Report());
     faults.push_back(error);
     failed(error);
   }
@@ -84,7 +84,7 @@ ExitCode RunResults(const Options& options, const ResultsRequest& request) {
                                           : ResultsForm::kTable;
   ResultsRun run{state, request, form, {}};
   kind->show(run);
-  TellFaultCount(run.faults.size());
+  NoteFaultCount(run.faults.size());
   return run.faults.empty() ? ExitCode::kDone : ExitCodeOfFaults(run.faults);
 }
 

@@ -13,23 +13,24 @@ namespace golf {
 
 enum class ResultsForm { kTable, kCsv, kJson };
 
-// As a table or as CSV; the texts are in code page 1252.
+// Writes the standings as a table or as CSV. Their texts are in code page 1252.
 void WriteStandings(ResultsForm form, const StandingsTable& table);
 
-// What was asked for, and the errors of results whose calculation ended in one: they are told on
-// standard error, and the others follow.
+// One run of the command: the request, and the errors of results that could not be calculated. Each
+// such error is noted on standard error, and the next result follows.
 struct ResultsRun {
   SharedState& state;
   const ResultsRequest& request;
   ResultsForm form;
   std::vector<NumberedError> faults;
 
-  // Runs `show`; after an error `failed` is told, and the error is added to the faults.
+  // Runs `show`. After an error, notes it with the text of `what`, adds it to the faults and calls
+  // `failed`.
   void Try(const std::function<void()>& show, const std::function<std::string()>& what,
            const std::function<void(const NumberedError&)>& failed);
 };
 
-// Each writes one kind of results of the tournament that is open, for its active round.
+// Each function writes one kind of results of the open tournament for its active round.
 void ShowPlayers(ResultsRun& run);
 void ShowTeams(ResultsRun& run);
 void ShowCustom(ResultsRun& run);

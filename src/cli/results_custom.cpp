@@ -34,7 +34,7 @@ ReportLayout LayoutOf(ResultsRun& run) {
     throw Refusal(PlainText(read.problem) + "\n" + LayoutsThereAre(run.state));
   }
   if (const int replaced = LimitToChoices(*read.layout)) {
-    TellProblem(UnknownCodesText(replaced));
+    NoteProblem(UnknownCodesText(replaced));
   }
   return *std::move(read.layout);
 }

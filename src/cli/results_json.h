@@ -7,9 +7,9 @@
 
 namespace golf {
 
-// What the results of players and of teams have in common as JSON.
+// The common JSON parts of the results of players and of teams.
 
-// A member, by the name under which its value stands.
+// A member and the key of its value.
 template <class Member>
 struct Named {
   const char* name;
@@ -22,7 +22,7 @@ inline Json AsJson(const TextOrNumber& value) {
   return std::visit([](const auto& held) { return AsJson(held); }, value);
 }
 
-// The values of the indexes 1 to `last`.
+// Returns the values of the indexes 1 to `last`.
 template <class ValueOf>
 Json Array(int last, ValueOf value_of) {
   Json array = Json::array();

@@ -5,8 +5,8 @@
 
 namespace golf {
 
-// Every calculated value of the entry in the player's buffers for a round, under the name of its
-// member. Errors of the calculation travel out.
+// Adds every calculated value of the player's current entry for a round, each under the name of its
+// member. Raises the errors of the calculation.
 void AddResults(PlayerClass& player, bool decimals, int round, Json& object);
 
 }  // namespace golf

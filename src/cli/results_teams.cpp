@@ -33,7 +33,7 @@ void ForEachTeam(ResultsRun& run, const std::function<void(int team)>& action) {
     if (run.state.Team1().GetRecord(team)) {
       action(team);
     } else if (run.state.Player().TourIndex1stPlayerOnTeam(team) > 0) {
-      TellProblem("Team " + std::to_string(team) +
+      NoteProblem("Team " + std::to_string(team) +
                   " is left out, with its golfers: the last team that can be read is " +
                   std::to_string(team - 1) + ".");
     }

@@ -9,12 +9,12 @@
 
 namespace golf {
 
-// Calls `action(number)` for each team of the tournament with the team in the first team object. A
-// team with golfers that cannot be read is told on standard error.
+// Calls `action(number)` for each team of the tournament with the team in the first team object.
+// Notes a team that has golfers but cannot be read.
 void ForEachTeam(ResultsRun& run, const std::function<void(int team)>& action);
 
-// Every value of the team in hand for a round, under the name of its member. Errors of the
-// calculation travel out.
+// Adds every value of the current team for a round, each under the name of its member. Raises the
+// errors of the calculation.
 void AddResults(TeamClass& team, int round, Json& object);
 
 }  // namespace golf

@@ -27,7 +27,7 @@ constexpr Named<TextMember> kTexts[] = {
     {"NetScrambleTiebreak18to1", &TeamClass::NetScrambleTiebreak18to1},
 };
 
-// Of the active round, or of all rounds up to it.
+// Members of the active round, or of all rounds up to it.
 constexpr Named<std::string (TeamClass::*)()> kWithoutRound[] = {
     {"GrossScrambleTiebreakUSGA", &TeamClass::GrossScrambleTiebreakUSGA},
     {"GrossScrambleTiebreak1to18", &TeamClass::GrossScrambleTiebreak1to18},
@@ -49,7 +49,7 @@ constexpr Named<BallsMember> kBestTotals[] = {
     {"BestTotalXofYNet", &TeamClass::BestTotalXofYNet},
 };
 
-// By number of balls, the entries `first` to 21.
+// Returns values by number of balls: for each an array of the indexes `first` to 21.
 Json ByBalls(TeamClass& team, BallsMember member, int first, int round) {
   Json object = Json::object();
   for (int balls = 1; balls <= kMostBalls; ++balls) {

@@ -11,7 +11,7 @@ namespace golf {
 
 namespace {
 
-// An empty script is one; a folder, or a file that cannot be read, is none.
+// An empty file is a script. A folder, or a file that cannot be read, raises Refusal.
 void CheckReadable(const std::string& file) {
   std::error_code error;
   if (std::filesystem::is_regular_file(PathFromUtf8(file), error)) {
@@ -21,7 +21,7 @@ void CheckReadable(const std::string& file) {
 }
 
 ExitCode CodeAfterScript(const HeadlessHost& host) {
-  TellFaultCount(host.faults().size());
+  NoteFaultCount(host.faults().size());
   return host.faults().empty() ? ExitCode::kDone : ExitCodeOfFaults(host.faults());
 }
 

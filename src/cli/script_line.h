@@ -7,15 +7,15 @@
 
 namespace golf {
 
-// A script that cannot be followed.
+// Raised for a script that cannot be followed.
 class ScriptError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-// The words of a line, in code page 1252: parted by blanks; one with blanks in it stands in double
-// quotes, with a double quote inside doubled. None for a blank line or one that starts with "#".
-// ScriptError where a quote is not closed.
+// Returns the words of a line in code page 1252. Blanks separate words. A word with blanks stands
+// in double quotes, and a double quote inside it is doubled. A blank line and a line that starts
+// with "#" have no words. ScriptError if a quote is not closed.
 std::vector<std::string> WordsOf(std::string_view utf8_line);
 
 }  // namespace golf

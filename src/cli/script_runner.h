@@ -12,21 +12,22 @@
 
 namespace golf {
 
-// Follows a script line by line: a line acts on the screen in front, and a click that opens a modal
-// screen returns when that screen is closed by the lines behind it.
+// Follows a script line by line. A line acts on the screen in front. A click that opens a modal
+// screen returns when later lines have closed that screen.
 class ScriptRunner {
  public:
   ScriptRunner(SharedState& state, HeadlessHost& host, JsonListener& listener, std::istream& lines);
 
-  // To the end of the script; screens still open then are left by their buttons. ScriptError, with
-  // the line's number, where it cannot be followed; ClickEnded where a click ends with an error.
+  // Follows the script to its end. Screens that are then still open are left by their buttons.
+  // ScriptError, with the number of the line, if it cannot be followed. ClickEnded if a click ends
+  // with an error.
   void Run();
 
  private:
   using Words = std::vector<std::string>;
   struct Verb {
     std::string_view word;
-    std::size_t least;  // words behind it
+    std::size_t least;  // words after it
     std::size_t most;
     void (ScriptRunner::*run)(const Words&);
   };
@@ -55,10 +56,11 @@ class ScriptRunner {
 
   Screen& Top() const;
   Control& Named(const std::string& name) const;
-  // The control of this name, which must be of this kind and within the operator's reach.
+  // Returns the control of this name. ScriptError if it is of another kind or the operator cannot
+  // reach it.
   template <class Kind>
   Kind& Usable(const std::string& name) const;
-  // Of a list, or of a drop-down with free text.
+  // Returns the items of a list or of a drop-down with free text.
   const std::vector<std::string>& ItemsOf(const std::string& name) const;
   void SelectItem(const std::string& name, int index);
   void FocusNext(Screen& screen);

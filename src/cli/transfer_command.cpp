@@ -12,7 +12,7 @@
 namespace golf {
 namespace {
 
-// Keeps what the boxes say until it is known whether the run was refused.
+// Keeps the texts of the boxes until it is known whether the run was refused.
 class ReportListener : public HostListener {
  public:
   explicit ReportListener(ProgressBar& bar) : bar_(bar) {}
@@ -25,12 +25,12 @@ class ReportListener : public HostListener {
     Keep(tip.title, tip.text);
     if (tip.buttons.size() > 1) KeepAnswer(answer);
   }
-  void OnFault(const NumberedError& fault) override { Tell(fault); }
+  void OnFault(const NumberedError& fault) override { Note(fault); }
   void OnNotice(const std::string& text) override {
     bar_.Clear();
-    TellProblem(text);
+    NoteProblem(text);
   }
-  void OnError(const NumberedError& error) override { Tell(error); }
+  void OnError(const NumberedError& error) override { Note(error); }
   void OnProgress(const Progress& progress) override { bar_.Show(progress); }
 
   void AddLog(std::string_view text) {
@@ -41,9 +41,9 @@ class ReportListener : public HostListener {
   }
 
  private:
-  void Tell(const NumberedError& error) {
+  void Note(const NumberedError& error) {
     bar_.Clear();
-    TellProblem(error.Report());
+    NoteProblem(error.Report());
   }
   void Keep(std::string_view title, std::string_view text) {
     const bool names_nothing =
@@ -58,7 +58,7 @@ class ReportListener : public HostListener {
   std::vector<std::string> texts_;
 };
 
-// Runs the command's screen; the exit code of an error that ended a click.
+// Runs the command's screen. Returns the exit code of an error that ended a click, or nothing.
 std::optional<ExitCode> Work(Application& application, HeadlessHost& host, ReportListener& report,
                              const TransferCommand& command) {
   application.state().remembers_settings = false;
@@ -70,7 +70,7 @@ std::optional<ExitCode> Work(Application& application, HeadlessHost& host, Repor
     try {
       command.work(host, screen);
     } catch (const ClickEnded&) {
-      add_log();  // what was done before the error
+      add_log();  // shows what was done before the error
       throw;
     }
     add_log();
@@ -94,14 +94,14 @@ ExitCode ExitCodeAfterRun(const HeadlessHost& host, bool cancelled) {
   return cancelled || host.counts().empty() ? ExitCode::kRefused : ExitCode::kDone;
 }
 
-void TellCancelled(const HeadlessHost& host, const CancellingAnswer& question) {
+void NoteCancelled(const HeadlessHost& host, const CancellingAnswer& question) {
   std::string text = "The transfer was cancelled: \"" + std::string(question.title) +
                      "\" was answered " + std::string(NameOf(question.answer)) + ". The option " +
                      std::string(question.option) + " answers otherwise.\n";
   std::int64_t done = 0;
   for (const auto& [name, count] : host.counts()) done += count;
   text += done == 0 ? "Nothing was transferred." : std::to_string(done) + " transferred before.";
-  TellProblem(text);
+  NoteProblem(text);
 }
 
 void WriteResult(const TransferCommand& command, const HeadlessHost& host) {
@@ -128,9 +128,9 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   const ExitCode code = failed ? *failed
                         : lost ? ExitCodeOf(*lost)
                                : ExitCodeAfterRun(host, cancelled);
-  if (host.run_ended_by()) TellProblem(host.run_ended_by()->Report());
-  if (cancelled) TellCancelled(host, *command.cancelled_by);
-  TellFaultCount(host.faults().size());
+  if (host.run_ended_by()) NoteProblem(host.run_ended_by()->Report());
+  if (cancelled) NoteCancelled(host, *command.cancelled_by);
+  NoteFaultCount(host.faults().size());
   if (options.json) {
     if (!host.counts().empty() && !failed) WriteResult(command, host);
   } else {

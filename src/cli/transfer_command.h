@@ -11,28 +11,27 @@
 
 namespace golf {
 
-// A question of a run, and the answer that cancels it. A command that is not told otherwise gives
-// that answer by itself.
+// A question of a run and the answer that cancels the run. The command gives this answer unless an
+// option says otherwise.
 struct CancellingAnswer {
   std::string_view title;
   BoxButton answer;
-  std::string_view option;  // by which the command is told otherwise
+  std::string_view option;  // the option that answers otherwise
 };
 
-// A transfer run as a command.
+// A transfer as a command.
 struct TransferCommand {
-  std::string name;    // of the command
-  std::string screen;  // that does the transfer
-  // Presses the buttons that the operator would press on a screen that has opened, on this one and
-  // on those that it opens.
+  std::string name;    // the command's name
+  std::string screen;  // the screen of the transfer
+  // Works a screen that has opened, the transfer's own or a picker, as the operator would.
   std::function<void(HeadlessHost&, Screen&)> work;
-  bool carries_on = false;  // over faults, which are then counted
-  std::string log{};        // the text box that holds the run's report; empty with none
+  bool carries_on = false;  // true: the run goes on over faults, and the result counts them
+  std::string log{};        // the text box with the run's report; empty if there is none
   std::optional<CancellingAnswer> cancelled_by{};
 };
 
-// Opens the screen as the menu does, works it, and prints its report: refusals and errors on
-// standard error, anything else on standard output.
+// Opens the screen as the menu does, works it, and prints its report. Refusals and errors go to
+// standard error, everything else to standard output.
 ExitCode RunTransferCommand(const Options& options, const TransferCommand& command);
 
 }  // namespace golf

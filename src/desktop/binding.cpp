@@ -9,7 +9,8 @@
 namespace golf {
 namespace {
 
-// A page of a tab comes and goes with all that it holds; the toolkit sees to that.
+// True if the control and all that holds it are visible, up to a page of a tab. The toolkit shows
+// and hides the pages.
 bool IsVisibleOnItsPage(const Control& control) {
   for (const Control* at = &control; at != nullptr; at = at->parent()) {
     if (!at->visible()) return false;
@@ -18,7 +19,7 @@ bool IsVisibleOnItsPage(const Control& control) {
   return true;
 }
 
-// Labels stay as readable in a run as they were before.
+// Labels and frames stay enabled in a run, so that they stay readable.
 bool TakesInput(const Control& control) {
   return control.kind() != ControlKind::kLabel && control.kind() != ControlKind::kFrame;
 }
@@ -38,7 +39,7 @@ void Binding::Tie(Control& control, wxWindow& widget, std::function<void()> show
 void Binding::FollowFocus(Control& control, wxWindow& widget) {
   widget.Bind(wxEVT_SET_FOCUS, [this, &control](wxFocusEvent& event) {
     event.Skip();
-    // Where the toolkit itself puts the focus when a widget goes is not the operator's choice.
+    // When a widget goes, the toolkit itself moves the focus. That is not the operator's choice.
     if (held_ || showing_ > 0) return;
     if (std::exchange(shown_focus_, &control) == &control) return;
     OperateSoon(control, [this, &control] { screen_->MoveFocus(&control); });
@@ -62,7 +63,8 @@ bool Binding::OperateKeySoon(std::string_view key) {
   return button != nullptr;
 }
 
-// What the widget of a refused event shows is not what the control holds.
+// A refused event leaves the widget with a value that the control does not have, so the widget is
+// shown again.
 void Binding::Run(const Control& control, const Event& event) {
   if (screen_ == nullptr || host_.ended()) return;
   for (Tied& tied : ties_) {
@@ -88,7 +90,7 @@ void Binding::ShowChanges() {
   bool rearranged = false;
   for (Tied& tied : ties_) {
     if (std::exchange(tied.changed, false)) tied.show();
-    // All of them, since one control can take others with it.
+    // Shows the state of every control, since one control can hide or disable others.
     if (ShowState(tied)) rearranged = true;
   }
   for (const auto& show : shows_also_) show();
@@ -101,7 +103,7 @@ bool Binding::ShowState(const Tied& tied) {
   return tied.widget->Show(IsVisibleOnItsPage(*tied.control));
 }
 
-// Not while something waits: the operator may have moved the focus since.
+// Does nothing while events wait, since the operator may have moved the focus meanwhile.
 void Binding::ShowFocus() {
   if (held_ || !waiting_.IsEmpty()) return;
   const Tied* place = PlaceOfFocus();
@@ -118,7 +120,8 @@ void Binding::GiveFocus(const Tied& tied) {
   tied.widget->SetFocus();
 }
 
-// Null where the screen has put it nowhere.
+// Returns the widget that must have the focus. Null if the screen has given the focus to no
+// control.
 const Binding::Tied* Binding::PlaceOfFocus() {
   const auto place = std::find_if(ties_.cbegin(), ties_.cend(), [this](const Tied& tied) {
     return tied.control == screen_->focus();
@@ -127,8 +130,8 @@ const Binding::Tied* Binding::PlaceOfFocus() {
   return CanHaveFocus(*place->control) ? &*place : PlaceInsteadOf(place);
 }
 
-// For a control that has the focus and is gone: the nearest one before it, all the way round, among
-// those that do the least harm. Null if there is none.
+// Returns a replacement for the focused control, which can no longer have the focus: the nearest
+// control before it, going round the end, among those with the least Harm. Null if there is none.
 const Binding::Tied* Binding::PlaceInsteadOf(std::list<Tied>::const_iterator lost) {
   const Tied* best = nullptr;
   const auto before = [this](auto at) {
@@ -141,14 +144,14 @@ const Binding::Tied* Binding::PlaceInsteadOf(std::list<Tied>::const_iterator los
   return best;
 }
 
-// What one Enter or Space too many would do in a control.
+// Rates the harm of an accidental Enter or Space: 0 none, 1 presses a button, 2 leaves the screen.
 int Binding::Harm(const Control& control) {
   if (control.kind() != ControlKind::kButton) return 0;
   const bool leaves = &control == screen_->LeaveButton() || &control == screen_->PanelLeaveButton();
   return leaves ? 2 : 1;
 }
 
-// The toolkit's own choice would follow the places of the widgets, not their order.
+// The toolkit would choose by the position of the widgets, not by their order.
 void Binding::BeginFocus() {
   if (screen_ == nullptr || screen_->focus() != nullptr) return;
   const auto first = std::find_if(ties_.begin(), ties_.end(),
@@ -162,7 +165,7 @@ void Binding::HoldInput(bool held) {
   if (held_ == held) return;
   held_ = held;
   changed_ = true;
-  shown_focus_ = nullptr;  // the toolkit takes the focus from a widget that cannot be used
+  shown_focus_ = nullptr;  // the toolkit takes the focus from disabled widgets
   Refresh();
 }
 

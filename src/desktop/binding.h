@@ -14,11 +14,10 @@
 
 namespace golf {
 
-// Ties the widgets of one window to the controls of its screen. A control that changes is marked
-// and shown at the next Refresh, so that a run may change it as often as it likes. What the
-// operator does goes through Operate; what comes from a control that is hidden or disabled is
-// refused there, whatever the toolkit made of it. Release unties all widgets, since a screen
-// can outlive its window and a window can briefly outlive its screen.
+// Ties the widgets of one window to the controls of its screen. A changed control is marked and
+// shown at the next Refresh, so a run may change it often. The operator's events go through
+// Operate, which refuses those of a hidden or disabled control. Release unties all widgets, since a
+// screen can outlive its window, and a window can briefly outlive its screen.
 class Binding {
  public:
   using Event = std::function<void()>;
@@ -28,43 +27,44 @@ class Binding {
   Binding& operator=(const Binding&) = delete;
   ~Binding() { Release(); }
 
-  // Names the widget after its control and from now on shows, besides what `show` puts into it,
-  // whether it can be seen, used, and has the focus.
+  // Names the widget after its control. From now on Refresh calls `show` after a change and keeps
+  // the widget's visibility, enabled state and focus up to date.
   void Tie(Control& control, wxWindow& widget, std::function<void()> show);
 
-  // Called when controls have changed, for what belongs to several of them.
+  // Adds a function to call after any control has changed, for widgets that show several controls.
   void ShowAlso(std::function<void()> show) { shows_also_.push_back(std::move(show)); }
 
-  // When this part of a control's widget gets the focus, the control soon has it. Done for the
-  // widget itself.
+  // Moves the screen's focus to the control soon after this part of its widget gets the focus. Tie
+  // does this for the widget itself.
   void FollowFocus(Control& control, wxWindow& part);
 
-  // Runs an event of the operator and shows what it has changed. What waits goes first.
+  // Runs the waiting events, then this event of the operator, and shows the changes.
   void Operate(const Control& control, const Event& event);
 
-  // The same when the toolkit is done with the key, the choice or the change of focus that brings
-  // the event; for the event may open a box. A box that comes up from within a key may bring the
-  // same key once more, on some systems for ever, and one that comes up while the focus moves leads
-  // it astray.
+  // Runs an event once the toolkit has finished with the key, the choice or the change of focus
+  // that caused it. An event that may open a box must not run earlier. A box opened within a key
+  // event may receive the same key again, on some systems endlessly. A box opened while the focus
+  // moves misdirects the focus.
   void OperateSoon(const Control& control, Event event);
-  // Lets the screen take a key in this way. False if it has no use for it; the key is then free for
-  // others, such as an open menu or a cell that is edited.
+  // Presses the button of a key in the same way. Returns false if the screen has no use for the
+  // key; an open menu or an edited cell may then take it.
   bool OperateKeySoon(std::string_view key);
-  // Runs what waits. To be called for each new key: where keys are typed faster than they are
-  // worked off, the toolkit comes to the next key before it comes to what waits, and that key must
-  // find the screen as the keys before it leave it.
+  // Runs the waiting events. Must be called for each new key: fast typing brings the next key
+  // before the toolkit comes to the waiting events, and the key must find the screen as the earlier
+  // keys leave it.
   void RunWaiting() { waiting_.Run(); }
 
-  // Where the screen has not put the focus, it goes to the first widget that can have it.
+  // Gives the focus to the first widget that can have it, unless the screen has placed it already.
   void BeginFocus();
-  // Shows all that has changed.
+  // Shows all changes.
   void Refresh();
-  // Called when widgets have come or gone.
+  // Called when widgets have appeared or disappeared.
   std::function<void()> on_rearranged;
 
-  // While input is held off no widget can be used.
+  // Disables all widgets that take input, or enables them again.
   void HoldInput(bool held);
-  // The screen goes before its widgets; none of its controls may be touched from then on.
+  // Unties all widgets, since the screen goes before they do. Its controls must not be used after
+  // that.
   void Release();
   bool IsReleased() const { return screen_ == nullptr; }
 

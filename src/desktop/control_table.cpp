@@ -25,7 +25,7 @@ wxString ControlTable::GetRowLabelValue(int row) {
 }
 
 wxString ControlTable::GetValue(int row, int column) {
-  const bool there = row < control_.rows();  // until the view has caught up
+  const bool there = row < control_.rows();  // false until the view has caught up
   return there ? WxText(Shown(ControlColumn(column), row + 1)) : wxString();
 }
 
@@ -54,7 +54,7 @@ wxGridCellAttr* ControlTable::GetAttr(int row, int column, wxGridCellAttr::wxAtt
   auto* attributes = new wxGridCellAttr;
   const int control_column = ControlColumn(column);
   const bool locked = control_.IsLocked(control_column, row + 1);
-  attributes->SetReadOnly(locked || IsTick(column));  // the view turns ticks itself
+  attributes->SetReadOnly(locked || IsTick(column));  // ticks change by TurnTick only
   if (IsTick(column) || control_.IsCentred(control_column)) {
     attributes->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
   }
@@ -63,7 +63,7 @@ wxGridCellAttr* ControlTable::GetAttr(int row, int column, wxGridCellAttr::wxAtt
   }
   const auto editor = drop_downs_.find(control_column);
   if (editor != drop_downs_.end()) {
-    editor->second.editor->IncRef();  // for the attributes, which let it go again
+    editor->second.editor->IncRef();  // the attributes release it
     attributes->SetEditor(editor->second.editor.get());
   }
   return attributes;
@@ -90,15 +90,15 @@ bool ControlTable::CatchUp() {
   const int columns_before = GetNumberCols();
   ChooseColumns();
   FillDropDowns();
-  const bool rows = TellChange(rows_ - rows_before, rows_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED,
+  const bool rows = NotifyView(rows_ - rows_before, rows_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED,
                                wxGRIDTABLE_NOTIFY_ROWS_DELETED);
   const bool columns =
-      TellChange(GetNumberCols() - columns_before, GetNumberCols(),
+      NotifyView(GetNumberCols() - columns_before, GetNumberCols(),
                  wxGRIDTABLE_NOTIFY_COLS_APPENDED, wxGRIDTABLE_NOTIFY_COLS_DELETED);
   return rows || columns;
 }
 
-// Of an item of a drop-down cell its text alone.
+// Returns what a cell shows. For an item of a drop-down that is its text alone.
 const std::string& ControlTable::Shown(int control_column, int row) const {
   const std::string& text = control_.text(control_column, row);
   for (const DropDownItem& item : control_.items(control_column)) {
@@ -111,8 +111,8 @@ bool ControlTable::IsTick(int column) const {
   return control_.cell_type(ControlColumn(column)) == CellType::kCheckBox;
 }
 
-// One for each column: an editor must outlive the attributes that it was asked for through, which
-// come and go while it is open.
+// Makes one editor for each column. An editor must outlive the attributes it is asked for through,
+// which come and go while it is open.
 void ControlTable::FillDropDowns() {
   for (const int column : columns_) {
     if (control_.cell_type(column) != CellType::kDropDown) continue;
@@ -143,9 +143,9 @@ void ControlTable::ChooseColumns() {
   }
 }
 
-bool ControlTable::TellChange(int more, int now, int appended, int deleted) {
+bool ControlTable::NotifyView(int more, int now, int appended, int deleted) {
   if (more == 0 || GetView() == nullptr) return false;
-  GetView()->ClearSelection();  // it would still name columns that are gone
+  GetView()->ClearSelection();  // the selection may name deleted columns
   if (more > 0) {
     wxGridTableMessage message(this, appended, more);
     return GetView()->ProcessTableMessage(message);

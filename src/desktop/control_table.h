@@ -11,11 +11,12 @@
 
 namespace golf {
 
-// The cells of a control as the toolkit asks for them, from row and column 0, without the columns
-// that are hidden: nothing is kept twice. What the operator enters goes to the control.
+// Presents the cells of a grid control to the toolkit's grid. Rows and columns count from 0, and
+// hidden columns are left out. It keeps no copy of the cells. What the operator enters goes to the
+// control.
 class ControlTable : public wxGridTableBase {
  public:
-  // `labelled`: column 0 of the control holds the labels of the rows.
+  // `labelled`: column 0 of the control holds the row labels.
   ControlTable(Binding& binding, Grid& control, bool labelled);
 
   int GetNumberRows() override { return rows_; }
@@ -29,12 +30,12 @@ class ControlTable : public wxGridTableBase {
   bool GetValueAsBool(int row, int column) override;
   wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind kind) override;
 
-  // Turns the tick of a cell over. False where there is none that the operator may change.
+  // Turns the tick of a cell over. Returns false if the cell has no tick or is locked.
   bool TurnTick(int row, int column);
-  // The column of ticks, if there is just one; otherwise -1.
+  // Returns the column of ticks if there is exactly one, or -1.
   int OnlyTickColumn() const;
 
-  // Tells the view of rows and columns that have come or gone since.
+  // Tells the view which rows and columns have been added or removed. Returns true if any have.
   bool CatchUp();
 
  private:
@@ -50,13 +51,13 @@ class ControlTable : public wxGridTableBase {
   wxArrayString Choices(int control_column) const;
   void Enter(int row, int column, std::string text);
   void ChooseColumns();
-  bool TellChange(int more, int now, int appended, int deleted);
+  bool NotifyView(int more, int now, int appended, int deleted);
 
   Binding& binding_;
   Grid& control_;
   bool labelled_;
-  std::map<int, DropDown> drop_downs_;  // by column of the control
-  std::vector<int> columns_;            // those of the control that are seen
+  std::map<int, DropDown> drop_downs_;  // by the control's column
+  std::vector<int> columns_;            // the control's visible columns
   int rows_ = 0;
 };
 

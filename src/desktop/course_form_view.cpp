@@ -7,9 +7,9 @@
 namespace golf {
 namespace {
 
-constexpr int kTextWidth = 320;  // in pixels of a plain screen
+constexpr int kTextWidth = 320;  // in device-independent pixels
 
-// The texts of the course, each with its name in front.
+// Lays out the texts of the course, each after its name.
 wxSizer* Texts(ScreenPanel& panel, CourseForm& screen) {
   Binding& binding = panel.binding();
   auto* fields = new wxFlexGridSizer(2, CloseGap(panel), GroupGap(panel));

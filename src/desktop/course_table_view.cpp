@@ -8,7 +8,7 @@ namespace golf {
 namespace {
 
 constexpr int kRowsSeen = 14;
-constexpr int kListWidth = 440;  // in pixels of a plain screen
+constexpr int kListWidth = 440;  // in device-independent pixels
 
 }  // namespace
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kNine = 9;
 
-// In pixels of a plain screen.
+// In device-independent pixels.
 constexpr int kHoleWidth = 52;
 constexpr int kCardLabelWidth = 72;
 constexpr int kTotalWidth = 60;
@@ -61,7 +61,7 @@ class TeeFiller {
     return row;
   }
 
-  // Name, ratings and slopes; what is wrong stands behind them.
+  // Lays out the name, the ratings and the slopes. The faults follow them.
   wxPanel* Entries() {
     wxPanel* frame = MakeFrame(binding_, &panel_, screen_.TeeFrame);
     auto* rows = new wxFlexGridSizer(6, CloseGap(panel_), GroupGap(panel_));
@@ -95,7 +95,7 @@ class TeeFiller {
     return frame;
   }
 
-  // A nine of the scorecard, its holes across. The tab key goes along the rows.
+  // Lays out a nine of the scorecard with a column for each hole. The tab key moves along the rows.
   wxPanel* Card(Frame& control, ComboBox& first_number, std::size_t first, const char* sum_name,
                 Label& yard_sum, Label& par_sum) {
     wxPanel* frame = MakeFrame(binding_, &panel_, control);
@@ -145,7 +145,7 @@ class TeeFiller {
     return frame;
   }
 
-  // The unit beside the second nine, too.
+  // Shows the unit beside the second nine, too.
   wxStaticText* UnitAgain(wxWindow* frame) {
     wxStaticText* unit = Text(frame, "");
     binding_.ShowAlso([unit, this_unit = &screen_.YardOrMeter] {

@@ -19,7 +19,7 @@ bool DesktopApp::Initialize(int& count, wxChar** arguments) {
   if (invocation_.answer.empty() && invocation_.complaint.empty()) {
     return wxApp::Initialize(count, arguments);
   }
-#ifdef __WXMSW__  // where a program with windows has no streams
+#ifdef __WXMSW__  // a Windows program with windows has no streams
   const wxString text = wxString::FromUTF8(invocation_.answer + invocation_.complaint);
   MessageBoxW(nullptr, text.wc_str(), L"Golf Transfer",
               invocation_.complaint.empty() ? MB_ICONINFORMATION : MB_ICONSTOP);
@@ -27,7 +27,7 @@ bool DesktopApp::Initialize(int& count, wxChar** arguments) {
   std::cout << invocation_.answer << std::flush;
   std::cerr << invocation_.complaint << std::flush;
 #endif
-  // The toolkit would report a program that does not want to start as a failure of its own.
+  // Returning false would make the toolkit report a failure.
   std::exit(invocation_.complaint.empty() ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
@@ -38,7 +38,7 @@ bool DesktopApp::OnInit() {
   } catch (const NumberedError& error) {
     std::cerr << Utf8FromText(error.description()) << std::endl;
     wxMessageBox(WxText(error.description()), GetAppDisplayName(), wxICON_STOP);
-    return true;  // OnRun ends it with the exit code
+    return true;  // OnRun then returns the exit code of a failure
   }
   SharedState& state = application_->state();
   host_ = std::make_unique<DesktopHost>(state, Application::Screens(), Views());
@@ -50,7 +50,7 @@ bool DesktopApp::OnInit() {
   return true;
 }
 
-// The end of the operator's session is no press of Close, which would start the calling sibling.
+// The end of the operator's session must not press Close, since Close starts the calling sibling.
 void DesktopApp::OnQueryEndSession(wxCloseEvent& event) {
   if (host_->in_run()) event.Veto();
 }

@@ -10,10 +10,10 @@
 
 namespace golf {
 
-// The desktop program from its command line to its end.
+// The desktop program.
 class DesktopApp : public wxApp {
  public:
-  // Also where there is no display, help and the version are told.
+  // Shows the help or the version first, so that they need no display.
   bool Initialize(int& count, wxChar** arguments) override;
   bool OnInit() override;
   int OnRun() override;

@@ -41,14 +41,14 @@ wxTopLevelWindow* NewWindow(const View& view, wxWindow* parent) {
   if (view.kind == WindowKind::kMain) {
     auto* frame = new wxFrame(parent, wxID_ANY, "");
 #ifdef __WXMSW__
-    frame->SetIcons(wxIconBundle("golf_transfer", nullptr));  // of the program's resources
+    frame->SetIcons(wxIconBundle("golf_transfer", nullptr));  // from the program's resources
 #endif
     return frame;
   }
   const long border = view.grows ? wxRESIZE_BORDER : 0;
   auto* dialog = new wxDialog(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                               wxDEFAULT_DIALOG_STYLE | border);
-  dialog->SetEscapeId(wxID_NONE);  // the screen says what Escape does
+  dialog->SetEscapeId(wxID_NONE);  // the screen handles Escape
   return dialog;
 }
 
@@ -56,7 +56,7 @@ void Yield(long categories) {
   if (wxEventLoopBase* loop = wxEventLoopBase::GetActive()) loop->YieldFor(categories);
 }
 
-// A line for each of the first faults, and how many more there are.
+// Returns a line for each of the first faults, and the number of the others.
 std::string FaultsText(const std::vector<NumberedError>& faults) {
   constexpr std::size_t kMostShown = 10;
   std::string text = faults.size() == 1 ? "The transfer has carried on over a fault:"
@@ -71,8 +71,7 @@ std::string FaultsText(const std::vector<NumberedError>& faults) {
   return text;
 }
 
-// The pointer is not busy as long as this lives. Not every system has the toolkit's own class for
-// it.
+// Keeps the pointer normal for its lifetime. The toolkit has a class for it on some systems only.
 class PlainPointer {
  public:
   PlainPointer() {
@@ -131,7 +130,7 @@ void DesktopHost::RunModal(Screen& screen) {
   auto& dialog = dynamic_cast<wxDialog&>(panel.window());
   dialog.ShowModal();
   dialog.Destroy();
-  // Some window managers give the focus to the main window, which takes no input.
+  // Some window managers give the focus to the main window, which takes no input then.
   if (wxTopLevelWindow* below = TopWindow()) below->Raise();
 }
 
@@ -142,14 +141,14 @@ void DesktopHost::Close(Screen& screen) {
   panel.Detach();
   auto* dialog = dynamic_cast<wxDialog*>(&panel.window());
   if (dialog != nullptr && dialog->IsModal()) {
-    dialog->EndModal(wxID_CLOSE);  // RunModal takes it from there
+    dialog->EndModal(wxID_CLOSE);  // makes ShowModal in RunModal return
   } else {
     panel.window().Destroy();
   }
 }
 
-// The window of a box's parent shows what is so when the box comes up, and nothing that was typed
-// before answers the box.
+// Prepares a box over the top window. The window shows the present state first. In a run, what was
+// typed before is dropped, so that it does not answer the box.
 wxWindow* DesktopHost::ReadyForBox() {
   if (in_run()) ForgetTypedInput();
   PaintNow();
@@ -197,7 +196,7 @@ bool DesktopHost::PaintIsDue() const {
 }
 
 void DesktopHost::PaintNow() {
-  if (!windows_.empty()) windows_.back().panel->ShowProgress(told_);
+  if (!windows_.empty()) windows_.back().panel->ShowProgress(reported_);
   for (const Window& window : windows_) {
     window.panel->binding().Refresh();
     window.panel->Update();
@@ -207,8 +206,8 @@ void DesktopHost::PaintNow() {
 }
 
 void DesktopHost::Report(const Progress& progress) {
-  told_ = progress;
-  told_.doing = {};
+  reported_ = progress;
+  reported_.doing = {};
   if (PaintIsDue()) PaintNow();
 }
 
@@ -218,7 +217,7 @@ void DesktopHost::SetInRun(bool in_run) {
 
 void DesktopHost::BeginRun() {
   HostBase::BeginRun();
-  told_ = {};
+  reported_ = {};
   faults_before_ = faults().size();
   busy_in_run_.emplace();
   SetInRun(true);
@@ -233,7 +232,8 @@ void DesktopHost::EndRun() {
   if (faults().size() > faults_before_) ShowFaultsSoon();
 }
 
-// Behind the run's own boxes. The screen of the run may be gone then, but the menu is not.
+// Shows the faults after the run's own boxes, over the menu: the screen of the run may be gone by
+// then.
 void DesktopHost::ShowFaultsSoon() {
   std::vector<NumberedError> noted(faults().begin() + static_cast<std::ptrdiff_t>(faults_before_),
                                    faults().end());
@@ -242,8 +242,8 @@ void DesktopHost::ShowFaultsSoon() {
   });
 }
 
-// Painting leaves the keys and clicks of the operator waiting. While the run still holds input off
-// they are taken and lost.
+// Painting leaves the operator's keys and clicks waiting. This takes and drops them while the run
+// holds off input.
 void DesktopHost::ForgetTypedInput() { Yield(wxEVT_CATEGORY_ALL); }
 
 void DesktopHost::StartProgram(const std::string& path, const std::string& arguments) {
@@ -257,7 +257,7 @@ void DesktopHost::CopyText(const std::string& text) {
 
 void DesktopHost::EndProcess() {
   HostBase::EndProcess();
-  // ExitMainLoop would do nothing where a dialog's own loop runs inside.
+  // ExitMainLoop does nothing while a dialog's own loop runs.
   if (wxEventLoopBase* loop = wxTheApp->GetMainLoop()) loop->ScheduleExit();
 }
 

@@ -13,14 +13,14 @@
 
 namespace golf {
 
-// The host with windows. Only screens that have a view can be opened. It lives while the toolkit
-// runs, and takes all its windows with it.
+// The host with windows. It opens only screens that have a view. It must not outlive the toolkit,
+// and destroys its windows at its end.
 class DesktopHost : public HostBase {
  public:
   DesktopHost(SharedState& state, const ScreenCatalogue& screens, ViewCatalogue views);
   ~DesktopHost() override;
 
-  // The present moment; the clock's, unless it is set.
+  // Returns the present moment; by default that of the system clock.
   std::function<DateValue()> clock;
 
   void Beep() override;
@@ -44,7 +44,7 @@ class DesktopHost : public HostBase {
   void ErrorEndsClick(const NumberedError& error) override;
   void RunStopped() override { EndProcess(); }
 
-  // Shows all that has changed and lets the windows paint. No input is taken.
+  // Shows all changes and lets the windows paint. Takes no input.
   void PaintNow();
 
  private:
@@ -62,10 +62,10 @@ class DesktopHost : public HostBase {
   void ShowFaultsSoon();
 
   ViewCatalogue views_;
-  std::vector<Window> windows_;  // from the bottom to the top
+  std::vector<Window> windows_;  // bottom first
   std::chrono::steady_clock::time_point painted_;
-  Progress told_;                  // of the run that is on, without its text
-  std::size_t faults_before_ = 0;  // those of the runs before it
+  Progress reported_;              // of the current run, without its text
+  std::size_t faults_before_ = 0;  // the faults of earlier runs
   std::optional<wxBusyCursor> busy_;
   std::optional<wxBusyCursor> busy_in_run_;
 };

@@ -8,12 +8,12 @@
 
 namespace golf {
 
-// Events that wait until the toolkit is done with what it has in hand. They run in their order, one
-// at a time: while one has a box open, those behind it wait until that is answered.
+// Events that wait until the toolkit has finished with the present one. They run in order and one
+// at a time: while an event has a box open, the later ones wait.
 class EventQueue : private wxEvtHandler {
  public:
   void Add(std::function<void()> event);
-  // Runs what waits now.
+  // Runs the waiting events now. Does nothing within one of them.
   void Run();
   void Clear() { events_.clear(); }
   bool IsEmpty() const { return events_.empty(); }

@@ -6,7 +6,7 @@
 namespace golf {
 namespace {
 
-constexpr int kListWidth = 220;  // in pixels of a plain screen
+constexpr int kListWidth = 220;  // in device-independent pixels
 
 wxChoice* MakeColumnList(ScreenPanel& panel, ComboBox& control) {
   wxChoice* choice = MakeChoice(panel.binding(), &panel, control, GridSort::HeadingOf);
@@ -14,7 +14,7 @@ wxChoice* MakeColumnList(ScreenPanel& panel, ComboBox& control) {
   return choice;
 }
 
-// A row for each key: what it is, its list of columns, and the two orders.
+// Lays out a row for each key: its name, its list of columns, and its two orders.
 wxSizer* Keys(ScreenPanel& panel, GridSort& screen) {
   auto* rows = new wxFlexGridSizer(4, CloseGap(panel), GroupGap(panel));
   rows->AddGrowableCol(1);

@@ -11,10 +11,10 @@
 namespace golf {
 namespace {
 
-constexpr int kMostRowsMeasured = 500;  // for the widths of columns
-constexpr int kMargin = 8;              // of a cell's text, both sides together
+constexpr int kMostRowsMeasured = 500;  // rows up to which column widths are measured
+constexpr int kMargin = 8;              // around a cell's text, both sides together
 
-// The widget and how it follows its control.
+// The widget of a grid control.
 class GridView : public wxGrid {
  public:
   GridView(Binding& binding, wxWindow* parent, Grid& control, GridMarks marks)
@@ -53,7 +53,7 @@ class GridView : public wxGrid {
     ForceRefresh();
   }
 
-  // The size at which so many rows and all columns are seen.
+  // Returns the size that shows this number of rows and all columns.
   wxSize SizeFor(int rows_seen) const {
     int width = GetRowLabelSize() + wxSystemSettings::GetMetric(wxSYS_VSCROLL_X) + FromDIP(kMargin);
     for (int column = 0; column < GetNumberCols(); ++column) width += GetColSize(column);
@@ -86,7 +86,7 @@ class GridView : public wxGrid {
     SpendSpareWidth();
   }
 
-  // The widest column takes the room that is left, and gives it back.
+  // Gives the spare width to the widest column, or takes it back.
   void SpendSpareWidth() {
     if (GetNumberCols() == 0) return;
     if (widest_ < 0) NoteWidest();
@@ -105,13 +105,13 @@ class GridView : public wxGrid {
   void OnSelect(wxGridEvent& event) {
     event.Skip();
     const int row = event.GetRow() + 1;
-    // A move along the row has unmarked it.
+    // Moving along the row has unmarked it.
     const bool marks_row = marks_ == GridMarks::kRows && !showing_;
     if (marks_row && !IsInSelection(row - 1, 0)) SelectRow(row - 1);
     if (!showing_) Activate(row);
   }
 
-  // The rows may have changed by then.
+  // Activates a row soon. The rows may have changed by then, so the row is checked.
   void Activate(int row) {
     binding_.OperateSoon(control_, [this, row] {
       if (row != control_.active_row() && row <= control_.rows()) control_.SetActiveRow(row);
@@ -124,13 +124,14 @@ class GridView : public wxGrid {
     GetGridWindow()->Refresh();
   }
 
-  // Without the focus the toolkit paints the selection grey, on which its own text is hard to read.
+  // Without the focus the toolkit paints the selection grey. Its own text colour is hard to read on
+  // it.
   void ColourSelection(bool focused) {
     SetSelectionForeground(wxSystemSettings::GetColour(focused ? wxSYS_COLOUR_HIGHLIGHTTEXT
                                                                : wxSYS_COLOUR_WINDOWTEXT));
   }
 
-  // One click turns a tick. The toolkit would take the first one for a move of its cursor alone.
+  // A single click turns a tick over. The toolkit would only move its cursor at the first click.
   void OnClick(wxGridEvent& event) {
     event.Skip();
     const bool selects = event.ControlDown() || event.ShiftDown();
@@ -143,36 +144,36 @@ class GridView : public wxGrid {
     binding_.OperateSoon(control_, control_.on_double_click);
   }
 
-  // A row is marked as a whole: there are no cells to go along.
+  // Rows are marked as a whole, so the tab key leaves the grid.
   void LeaveByTab(bool backward) {
     Navigate(backward ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
   }
 
-  // While a cell is edited, Escape gives up the edit and not the screen.
+  // While a cell is edited, Escape cancels the edit rather than the screen.
   void OnCharHook(wxKeyEvent& event) {
     if (event.GetKeyCode() != WXK_ESCAPE || !IsCellEditControlShown()) return event.Skip();
     wxGridCellEditorPtr(GetCellEditor(GetGridCursorRow(), GetGridCursorCol()))->Reset();
     DisableCellEditControl();
   }
 
-  // The toolkit's cursor stands in the first row before any row is marked.
+  // The toolkit's cursor is in the first row before any row is marked, so Down must mark that row.
   bool MarksFirstRow(int key) const {
     return (key == WXK_DOWN || key == WXK_NUMPAD_DOWN) && marks_ == GridMarks::kRows &&
            control_.active_row() == 0 && control_.rows() > 0;
   }
 
-  // The tick under the toolkit's cursor, or the only one of its row.
+  // Turns the tick under the toolkit's cursor, or the only tick of the row.
   bool TurnTick() {
     const int row = GetGridCursorRow();
     return table_->TurnTick(row, GetGridCursorCol()) ||
            table_->TurnTick(row, table_->OnlyTickColumn());
   }
 
-  // The keys that the screen knows; all others move about in the grid.
+  // Handles the keys that the screen knows. All other keys move within the grid.
   void OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     if (MarksFirstRow(key)) return Activate(1);
-    if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // would unmark the active row
+    if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // it would unmark the active row
     if (key == WXK_TAB && marks_ == GridMarks::kRows) return LeaveByTab(event.ShiftDown());
     const bool turns = key == WXK_SPACE && !event.HasAnyModifiers() && !IsCellEditControlShown();
     if (turns && TurnTick()) return;
@@ -185,7 +186,8 @@ class GridView : public wxGrid {
     if (!binding_.OperateKeySoon(name)) event.Skip();
   }
 
-  // Whether the control takes a key turns out when it is too late for the toolkit to go on with it.
+  // The control takes or refuses the key too late for the toolkit to handle it. So a refused Enter
+  // moves the cursor down here.
   void TakeKeySoon(const std::string& name) {
     binding_.OperateSoon(control_, [this, name] {
       if (control_.on_key(name) || binding_.OperateKeySoon(name)) return;
@@ -199,7 +201,7 @@ class GridView : public wxGrid {
   ControlTable* table_;
   bool showing_ = false;
   bool measured_ = false;
-  int widest_ = -1;  // column; -1 before it is known
+  int widest_ = -1;  // a column; -1 before it is known
   int widest_needs_ = 0;
 };
 

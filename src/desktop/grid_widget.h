@@ -7,11 +7,12 @@
 
 namespace golf {
 
-// What the operator marks in a grid. Beside labelled cells the column 0 stays in sight.
+// What the operator marks in a grid: rows or cells. kLabelledCells keeps column 0 in sight as
+// labels.
 enum class GridMarks { kRows, kCells, kLabelledCells };
 
-// The widget of a grid, with its hidden columns left out. It is as high as `rows_seen` rows and as
-// wide as its columns need to be at first.
+// Makes the widget of a grid without its hidden columns. Its first size shows `rows_seen` rows and
+// the full width of its columns.
 wxGrid* MakeGrid(Binding& binding, wxWindow* parent, Grid& control, GridMarks marks, int rows_seen);
 
 }  // namespace golf

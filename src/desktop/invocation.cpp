@@ -9,7 +9,7 @@
 namespace golf {
 namespace {
 
-// Takes what the parser would print.
+// Takes the parser's output instead of printing it.
 class CaughtOutput : public wxMessageOutput {
  public:
   CaughtOutput() : before_(Set(this)) {}

@@ -6,15 +6,15 @@
 
 namespace golf {
 
-// What the program was started with.
+// The arguments that started the program.
 struct Invocation {
-  std::string install;    // a folder, UTF-8; empty for the program's own
-  std::string word;       // which sibling has called, as it stands
-  std::string answer;     // what to say, and do no more
-  std::string complaint;  // why it cannot be followed
+  std::string install;    // a folder, UTF-8; empty for the program's own folder
+  std::string word;       // the calling sibling, as given
+  std::string answer;     // text to show instead of starting, such as the help
+  std::string complaint;  // why the arguments are wrong; empty if they are not
 };
 
-// The parser holds the arguments.
+// Parses the arguments that `parser` holds.
 Invocation ParseInvocation(wxCmdLineParser& parser);
 
 }  // namespace golf

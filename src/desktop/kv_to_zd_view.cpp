@@ -7,9 +7,9 @@
 namespace golf {
 namespace {
 
-constexpr int kPercentWidth = 60;  // in pixels of a plain screen
+constexpr int kPercentWidth = 60;  // in device-independent pixels
 
-// What was chosen, with its heading above and the button that chooses below.
+// Lays out a choice: its heading, what was chosen, and the button that chooses.
 wxSizer* Choice(Binding& binding, wxWindow* parent, Label& heading, Label& chosen, Button& finder,
                 Shown shown) {
   wxStaticText* title = MakeLabel(binding, parent, heading);

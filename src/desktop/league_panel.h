@@ -5,8 +5,8 @@
 
 namespace golf {
 
-// Fills a window with the screen's main panel and that of its league picker, which comes up in its
-// place.
+// Fills a window with the screen's main panel and its league picker, which replaces the main panel
+// while it is open.
 void FillWithLeagues(ScreenPanel& panel, wxPanel* main, LeaguePicker& picker);
 
 }  // namespace golf

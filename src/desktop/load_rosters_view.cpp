@@ -8,7 +8,7 @@ namespace golf {
 namespace {
 
 constexpr int kRowsSeen = 10;
-constexpr int kListWidth = 560;  // in pixels of a plain screen
+constexpr int kListWidth = 560;  // in device-independent pixels
 
 wxSizer* ListButtons(ScreenPanel& panel, LoadRosters& screen) {
   const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
@@ -17,7 +17,7 @@ wxSizer* ListButtons(ScreenPanel& panel, LoadRosters& screen) {
                  button(screen.CancelButton)});
 }
 
-// The fields of a roster, each with its name in front.
+// Lays out the fields of a roster, each after its name.
 wxSizer* Entry(ScreenPanel& panel, LoadRosters& screen) {
   Binding& binding = panel.binding();
   auto* fields = new wxFlexGridSizer(2, CloseGap(panel), GroupGap(panel));

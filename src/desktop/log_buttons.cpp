@@ -19,10 +19,10 @@ void Copy(const wxTextCtrl& log) {
   const wxClipboardLocker clipboard;
   if (!clipboard) return;
   wxTheClipboard->SetData(new wxTextDataObject(log.GetValue()));
-  wxTheClipboard->Flush();  // it stays when the program has ended
+  wxTheClipboard->Flush();  // keeps the text after the program has ended
 }
 
-// The toolkit tells what goes wrong; what the file held before is kept then.
+// Saves the log. The toolkit shows an error, and the old file is then kept.
 void Save(wxTextCtrl& log) {
   wxFileDialog dialog(wxGetTopLevelParent(&log), "Save Messages",
                       wxStandardPaths::Get().GetDocumentsDir(), "transfer messages.txt",
@@ -34,7 +34,7 @@ void Save(wxTextCtrl& log) {
   if (file.IsOpened() && file.Write(wxTextBuffer::Translate(log.GetValue()))) file.Commit();
 }
 
-// Of use while there is a log and no run.
+// Makes a button that is enabled while there is a log and no run.
 wxButton* MakeLogButton(wxWindow* parent, wxTextCtrl& log, const wxString& caption,
                         std::function<void()> work) {
   auto* button = new wxButton(parent, wxID_ANY, caption);

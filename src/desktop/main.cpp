@@ -3,7 +3,7 @@
 
 wxIMPLEMENT_APP_NO_MAIN(golf::DesktopApp);
 
-// The toolkit's own main opens the display first.
+// The toolkit's own main would open the display before the standard streams are taken.
 #ifdef __WXMSW__
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, wxCmdLineArgType, int show) {
   golf::TakeStandardStreams();

@@ -12,12 +12,12 @@
 namespace golf {
 namespace {
 
-// How the toolkit's dialog speaks of a button. It has no Retry of its own: its OK button is given
-// that caption.
+// A button in the toolkit's dialog. The toolkit has no Retry button, so its OK button gets that
+// caption.
 struct NativeButton {
   BoxButton button;
   unsigned long style;
-  unsigned long default_style;  // some use the highest of 32 bits
+  unsigned long default_style;  // some styles use the highest of 32 bits
   int answer;
 };
 
@@ -44,8 +44,8 @@ bool Has(const Box& box, BoxButton button) {
   return std::find(box.buttons.begin(), box.buttons.end(), button) != box.buttons.end();
 }
 
-// With its answer selected, so that what is typed takes its place. The toolkit puts the answer into
-// the entry once more when the dialog comes up, and with it the cursor in front of it.
+// An input dialog whose proposed answer is selected, so that typing replaces it. When the dialog
+// opens, the toolkit sets the answer again and moves the cursor to its start.
 class InputDialog : public wxTextEntryDialog {
  public:
   using wxTextEntryDialog::wxTextEntryDialog;

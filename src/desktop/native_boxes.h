@@ -9,12 +9,12 @@
 
 namespace golf {
 
-// The system's own dialogs over a window, which may be null.
+// The system's own dialogs. `parent` may be null.
 
-// A box that is closed without a button is answered as by Cancel, or by its last button.
+// Closing a box without a button answers Cancel, or the last button if there is no Cancel.
 BoxButton ShowMessageDialog(wxWindow* parent, const Box& box);
 std::string ShowInputDialog(wxWindow* parent, const InputBox& box);
-// Cancel keeps the font.
+// Cancel returns the current font.
 Font ShowFontDialog(wxWindow* parent, std::string_view title, const Font& current);
 
 }  // namespace golf

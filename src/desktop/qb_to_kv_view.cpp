@@ -7,14 +7,14 @@
 namespace golf {
 namespace {
 
-// In pixels of a plain screen.
+// In device-independent pixels.
 constexpr int kTournamentWidth = 340;
 constexpr int kRoundWidth = 110;
 constexpr int kListHeight = 110;
 constexpr int kCourseWidth = 300;
 constexpr int kTeeWidth = 70;
 constexpr int kPartnerWidth = 180;
-constexpr int kTransferWidth = 200;  // for the longest caption that it takes
+constexpr int kTransferWidth = 200;  // for its longest caption
 constexpr int kLogLines = 7;
 
 wxStaticText* MakeHeading(wxWindow* parent, const wxString& text) {
@@ -29,7 +29,7 @@ wxListBox* MakeList(ScreenPanel& panel, ListBox& control, int width, Shown shown
   return list;
 }
 
-// The rounds keep their place where there is only one.
+// The rounds keep their space if there is only one round.
 wxSizer* Source(ScreenPanel& panel, QBtoKV& screen) {
   auto* lists = new wxBoxSizer(wxHORIZONTAL);
   lists->Add(MakeList(panel, screen.TournamentList, kTournamentWidth, QBtoKV::TournamentHeading),
@@ -42,7 +42,7 @@ wxSizer* Source(ScreenPanel& panel, QBtoKV& screen) {
   return source;
 }
 
-// Where the scores come from beside where they go.
+// Puts the source of the scores beside their destination.
 wxSizer* Ends(ScreenPanel& panel, QBtoKV& screen) {
   auto* ends = new wxBoxSizer(wxHORIZONTAL);
   ends->Add(Source(panel, screen), wxSizerFlags(3).Expand());
@@ -60,7 +60,7 @@ wxChoice* MakePartner(ScreenPanel& panel, ComboBox& control, int width, Shown sh
   return choice;
 }
 
-// Quenby's course, and its partner in Kelvane.
+// Lays out Quenby's course and its match in Kelvane.
 wxSizer* Courses(ScreenPanel& panel, QBtoKV& screen) {
   Binding& binding = panel.binding();
   wxStaticText* partner = MakeLabel(binding, &panel, screen.Label1[1]);
@@ -76,7 +76,7 @@ wxSizer* Courses(ScreenPanel& panel, QBtoKV& screen) {
   return rows;
 }
 
-// The same for the tees of one sex, a row each. What is hidden leaves no gap.
+// Lays out the tees of one sex and their matches, a row each. Hidden ones leave no gap.
 wxSizer* Tees(ScreenPanel& panel, QBtoKV::Labels& sexes, QBtoKV::Labels& tees,
               QBtoKV::Combos& partners) {
   Binding& binding = panel.binding();

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kGaugeSteps = 1000;
 
-// The clock of a timer control, as long as the window has its screen.
+// The toolkit's timer for a timer control. It runs as long as the window has its screen.
 class RunningTimer : public wxTimer {
  public:
   RunningTimer(Binding& binding, Timer& control) : binding_(binding), control_(control) {
@@ -53,7 +53,7 @@ ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& scree
   });
 }
 
-// Widgets still report while they go, to the binding.
+// Destroys the widgets first, since they still report to the binding.
 ScreenPanel::~ScreenPanel() { DestroyChildren(); }
 
 wxGauge* ScreenPanel::MakeGauge(wxWindow* parent) {
@@ -83,7 +83,7 @@ void ScreenPanel::FollowTimers() {
   }
 }
 
-// Also in the middle of a timer's event.
+// May be called within a timer's event.
 void ScreenPanel::Detach() {
   for (const auto& timer : timers_) timer->Stop();
   for (Control* control : screen_->controls()) control->Observe(nullptr);
@@ -91,7 +91,7 @@ void ScreenPanel::Detach() {
   screen_ = nullptr;
 }
 
-// The screen's own button decides what becomes of the window.
+// Presses the leave buttons of the screen, which decides whether the window closes.
 void ScreenPanel::OnClose(wxCloseEvent& event) {
   if (event.CanVeto()) event.Veto();
   const auto press = [this](Button* button) {
@@ -101,7 +101,7 @@ void ScreenPanel::OnClose(wxCloseEvent& event) {
   if (screen_ != nullptr) press(screen_->LeaveButton());
 }
 
-// In an open menu Escape closes the menu and not the screen.
+// In an open menu, Escape closes the menu rather than the screen.
 void ScreenPanel::OnCharHook(wxKeyEvent& event) {
   binding_.RunWaiting();
   const bool leaves = event.GetKeyCode() == WXK_ESCAPE && !menu_is_open_;

@@ -12,7 +12,8 @@
 
 namespace golf {
 
-// All that the window of a screen holds. Its view fills it; the host tells it of runs.
+// The contents of a screen's window. The screen's view fills it, and the host tells it when a run
+// begins and ends.
 class ScreenPanel : public wxPanel {
  public:
   ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen);
@@ -21,13 +22,13 @@ class ScreenPanel : public wxPanel {
   wxTopLevelWindow& window() const { return window_; }
   Binding& binding() { return binding_; }
 
-  // A gauge that is seen while a run is on. Whoever lays it out keeps its place.
+  // Makes a gauge that is visible during a run. The caller must reserve its space.
   wxGauge* MakeGauge(wxWindow* parent);
 
   void SetInRun(bool in_run);
   void ShowProgress(const Progress& progress);
 
-  // The screen is no longer behind this window.
+  // Unties the window from its screen.
   void Detach();
 
  private:

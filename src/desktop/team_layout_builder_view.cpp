@@ -9,7 +9,7 @@ namespace golf {
 namespace {
 
 constexpr int kRowsSeen = 11;
-constexpr int kGridWidth = 960;  // in pixels of a plain screen
+constexpr int kGridWidth = 960;  // in device-independent pixels
 
 class BuilderFiller {
  public:
@@ -84,7 +84,7 @@ class BuilderFiller {
     return rows;
   }
 
-  // A frame with its caption above what it holds.
+  // Makes a frame with its caption above its contents.
   wxPanel* NewFrame(wxWindow* page, Frame& control, wxSizer*& column) {
     wxPanel* frame = MakeFrame(binding_, page, control);
     auto* caption = new wxStaticText(frame, wxID_ANY, WxText(control.caption()));

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kStandingsSeen = 8;  // rows
 constexpr int kCardSeen = 9;
-constexpr int kWidth = 1140;  // in pixels of a plain screen
+constexpr int kWidth = 1140;  // in device-independent pixels
 constexpr int kListWidth = 260;
 
 wxSizer* Choices(ScreenPanel& panel, TeamResults& screen) {

@@ -11,7 +11,7 @@
 namespace golf {
 namespace {
 
-constexpr int kUsualWidth = 380;  // of the message, in pixels of a plain screen
+constexpr int kUsualWidth = 380;  // of the message, in device-independent pixels
 constexpr int kMostHeight = 280;
 constexpr int kUnitsPerPixel = 1440 / 96;
 
@@ -21,7 +21,8 @@ wxStaticBitmap* NewPicture(wxWindow* parent, const TipBox& screen) {
                             wxArtProvider::GetBitmapBundle(art, wxART_MESSAGE_BOX));
 }
 
-// As high as its text in lines that leave room for a scroll bar, up to a limit; then it scrolls.
+// Returns the size for the message: as high as its text, up to a limit. Wrapping leaves room for a
+// scroll bar.
 wxSize MessageSize(wxWindow* parent, const wxString& message, int width) {
   wxStaticText measure(parent, wxID_ANY, "");
   const int line = measure.GetCharHeight();

@@ -6,8 +6,8 @@
 
 namespace golf {
 
-// Gives the main window its menu "Tools": the entries for which there is something to work on,
-// looked for again each time the menu opens.
+// Adds the menu "Tools" to the main window. Each time it opens, it lists the tools that have
+// something to work on.
 void AddToolsMenu(wxFrame& window, SharedState& state, HostBase& host);
 
 }  // namespace golf

@@ -8,7 +8,7 @@
 namespace golf {
 namespace {
 
-// What the short captions of the buttons leave out.
+// A longer text for a button with a short caption.
 struct ButtonHelp {
   Button TransferMenu::*button;
   const char* text;

@@ -25,14 +25,14 @@ class XReportsCustomTeamResults;
 class ZDtoKV;
 class ZDtoQB;
 
-// A dialog comes up in the middle of its opener, or at the opener's top left corner.
+// A dialog opens in the middle of its opener, or at the opener's top left corner.
 enum class WindowKind { kMain, kDialog, kDialogOverOpener };
 
 // How the window of a screen is made.
 struct View {
   WindowKind kind;
   void (*fill)(ScreenPanel&, Screen&);
-  bool grows = false;  // with a list or a log that is worth more room
+  bool grows = false;  // true for a screen whose list or log needs room
 };
 // Views by the names of their screens.
 using ViewCatalogue = std::map<std::string, View, std::less<>>;

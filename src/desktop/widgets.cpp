@@ -16,7 +16,7 @@ wxString TextToShow(const std::string& text, Shown shown) {
   return WxText(shown == nullptr ? text : shown(text));
 }
 
-// Lists alike, whatever they look like.
+// Ties a list to a widget of any kind.
 template <class Widget>
 void TieList(Binding& binding, List& control, Widget& widget, wxEventTypeTag<wxCommandEvent> chosen,
              Shown shown) {
@@ -88,8 +88,8 @@ wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& cont
 wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown) {
   auto* list = new wxListBox(parent, wxID_ANY);
   TieList(binding, control, *list, wxEVT_LISTBOX, shown);
-  // Soon also for the button that gets the focus then: the same key would press it. One key can
-  // come as both events, of which the second one finds the list gone.
+  // Waits, since the same key would also press the button that then gets the focus. One key may
+  // cause both events; by the second, the list is hidden.
   list->Bind(wxEVT_LISTBOX_DCLICK, [&binding, &control](wxCommandEvent&) {
     if (control.on_double_click) binding.OperateSoon(control, control.on_double_click);
   });
@@ -118,7 +118,7 @@ void ShowSelection(Entry& entry, const TextBox& control) {
   if (control.selected() > 0) entry.SetSelection(0, static_cast<long>(control.selected()));
 }
 
-// A text set again would move the operator's cursor.
+// Setting the same text again would move the operator's cursor.
 template <class Entry>
 void ShowText(Entry& entry, const TextBox& control) {
   const wxString text = WxText(control.text());
@@ -126,7 +126,7 @@ void ShowText(Entry& entry, const TextBox& control) {
   if (entry.HasFocus()) ShowSelection(entry, control);
 }
 
-// What a screen selected while it moved the focus is shown when the focus comes.
+// Shows a selection that a screen made while it moved the focus, once the focus arrives.
 template <class Entry>
 void SelectOnFocus(const Binding& binding, Entry& entry, const TextBox& control) {
   entry.Bind(wxEVT_SET_FOCUS, [&binding, &entry, &control](wxFocusEvent& event) {
@@ -142,7 +142,7 @@ void FollowText(Binding& binding, TextBox& control, Entry& entry) {
   });
 }
 
-// A field whose entry is wrong looks so, and tells why.
+// Colours a field with a wrong entry and explains it in its tooltip.
 void MarkNote(wxWindow& widget, const Control& control) {
   const bool noted = !control.note().empty();
   if (noted == (widget.GetBackgroundColour() == kNotedField)) return;
@@ -156,7 +156,7 @@ void MarkNote(wxWindow& widget, const Control& control) {
   widget.Refresh();
 }
 
-// A key that the box's filter changes or refuses does not get through as it is. Pasting does.
+// Filters typed keys. Pasted text passes unfiltered.
 void FilterKeys(wxTextCtrl& box, const TextBox& control) {
   box.Bind(wxEVT_CHAR, [&box, &control](wxKeyEvent& event) {
     const wxChar typed = event.GetUnicodeKey();

@@ -7,8 +7,8 @@
 
 namespace golf {
 
-// Text of the screens and text of the toolkit. The screens' text is code page 1252, with lines that
-// end in "\r" or "\r\n"; the toolkit ends them in "\n".
+// Convert between the screens' text and the toolkit's. The screens use code page 1252 and end lines
+// with "\r" or "\r\n". The toolkit ends them with "\n".
 wxString WxText(std::string_view text);
 std::string TextFromWx(const wxString& text);
 

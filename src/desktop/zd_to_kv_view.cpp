@@ -8,9 +8,9 @@
 namespace golf {
 namespace {
 
-constexpr int kBatchesWidth = 370;  // for the longest name of a batch, in pixels of a plain screen
+constexpr int kBatchesWidth = 370;  // for the longest name of a batch; in device-independent pixels
 
-// The league with its scores beside the roster that they go to.
+// Puts the league and its scores beside the roster that they go to.
 wxSizer* Ends(Binding& binding, wxWindow* parent, ZDtoKV& screen) {
   auto* league = new wxBoxSizer(wxVERTICAL);
   league->Add(

@@ -5,11 +5,12 @@
 
 namespace golf {
 
-// How the cells of a column compare. In the kinds that go by value, what is a date or begins with a
-// number has one; cells without a value come behind all others, in either order of the sort.
+// How the cells of a column compare. kValue and kPlusBelowZero compare by value: a cell has a value
+// if its text is a date or begins with a number. Cells without a value follow all others, in an
+// ascending and in a descending sort.
 enum class SortKind {
-  kText,           // by the codes of the texts in capitals
-  kValue,          // numbers and dates by value
+  kText,           // by the character codes of the texts in capitals
+  kValue,          // by the value of a number or a date
   kPlusBelowZero,  // as kValue, but a number with "+", such as a plus handicap, is below zero
 };
 
@@ -20,16 +21,17 @@ struct SortKey {
   SortOrder order = SortOrder::kAscending;
 };
 
-// What a cell counts as in a sort.
+// The rank of a cell in a sort.
 struct CellRank {
   bool has_value = false;
   double value = 0;
-  std::string text;  // in capitals; serves where there is no value
+  std::string text;  // in capitals; used only if the cell has no value
 };
 
+// Ranks the text of a cell. `date_format` is the format in which its dates are written.
 CellRank RankOf(std::string_view text, SortKind kind, std::string_view date_format);
 
-// Below 0 where `a` comes first, 0 for a tie.
+// Returns a number below 0 if `a` comes before `b`, above 0 if it comes after, and 0 for a tie.
 int Compare(const CellRank& a, const CellRank& b, SortOrder order);
 
 }  // namespace golf

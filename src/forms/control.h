@@ -23,8 +23,8 @@ enum class ControlKind {
   kTimer,
 };
 
-// What a screen shows and what its user works on: a value with change notification that knows
-// nothing of pixels. A screen owns its controls as members; several of them may share one name.
+// An element of a screen: a value that announces its changes. It knows nothing about drawing. A
+// screen owns its controls as members. Several controls may share one name.
 class Control {
  public:
   Control(ControlKind kind, std::string name) : kind_(kind), name_(std::move(name)) {}
@@ -35,7 +35,7 @@ class Control {
   ControlKind kind() const { return kind_; }
   const std::string& name() const { return name_; }
 
-  // The frame or tab that holds this control; null if the screen itself does.
+  // Returns the frame or tab that holds this control, or null if the screen holds it directly.
   Control* parent() const { return parent_; }
   void SetParent(Control& parent) { parent_ = &parent; }
 
@@ -43,26 +43,28 @@ class Control {
   bool enabled() const { return enabled_; }
   void SetVisible(bool visible) { Assign(visible_, visible); }
   void SetEnabled(bool enabled) { Assign(enabled_, enabled); }
-  // With everything that holds it.
+  // IsShown and IsUsable also consider the frames and tabs that hold the control.
   bool IsShown() const { return visible_ && (parent_ == nullptr || parent_->ShowsInside(*this)); }
   bool IsUsable() const { return enabled_ && (parent_ == nullptr || parent_->IsUsable()); }
-  // Whether the operator can do anything with it, by whatever means.
+  // True if the operator can act on the control with the mouse, a key or a script.
   bool IsReachable() const { return IsShown() && IsUsable(); }
 
   const std::string& tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
 
-  // What is wrong with the operator's entry, to be read beside it; empty with nothing.
+  // Returns the explanation of a wrong entry, which the window shows beside it. Empty for a right
+  // entry.
   const std::string& note() const { return note_; }
   void SetNote(std::string note) { Assign(note_, std::move(note)); }
 
-  // Called after every change of what the control shows. One view at a time.
+  // Sets the function that is called after each change of what the control shows. There is one
+  // observer.
   void Observe(std::function<void()> changed) { changed_ = std::move(changed); }
 
-  // What happens when the operator comes to the control and when he leaves it.
+  // Events: the control gets the focus, and the control loses it.
   std::function<void()> on_enter;
   std::function<void()> on_leave;
-  // A key pressed in the control, such as "Insert". True if the control takes it.
+  // Event: a key such as "Insert" is pressed in the control. Returns true if the control takes it.
   std::function<bool(std::string_view)> on_key;
 
  protected:
@@ -75,7 +77,7 @@ class Control {
   void Changed() const {
     if (changed_) changed_();
   }
-  // Whether a control that this one holds can be seen.
+  // True if this control shows the given control, which it holds.
   virtual bool ShowsInside(const Control&) const { return IsShown(); }
 
  private:
@@ -89,7 +91,8 @@ class Control {
   std::function<void()> changed_;
 };
 
-// A control with a caption. "&" stands before the letter that reaches it with Alt.
+// A control with a caption. In a caption, "&" precedes the letter that reaches the control with
+// Alt.
 class Captioned : public Control {
  public:
   Captioned(ControlKind kind, std::string name, std::string caption)
@@ -119,7 +122,7 @@ class Button : public Captioned {
   Button(std::string name, std::string caption)
       : Captioned(ControlKind::kButton, std::move(name), std::move(caption)) {}
 
-  // The button that Enter presses, and the one that Escape presses.
+  // The default button is pressed by Enter, the cancel button by Escape.
   bool is_default() const { return default_; }
   bool is_cancel() const { return cancel_; }
   void SetDefault(bool is_default) { Assign(default_, is_default); }
@@ -135,7 +138,7 @@ class Button : public Captioned {
   bool cancel_ = false;
 };
 
-// A check box or an option button: on or off.
+// A check box or an option button.
 class Toggle : public Captioned {
  public:
   Toggle(ControlKind kind, std::string name, std::string caption)
@@ -144,7 +147,7 @@ class Toggle : public Captioned {
   bool value() const { return value_; }
   void SetValue(bool value) { Assign(value_, value); }
 
-  // The operator's choice: sets the value and runs the event, even when nothing changes.
+  // Enters the operator's choice: sets the value and runs the event, even if the value is the same.
   void Choose(bool value) {
     SetValue(value);
     if (on_click) on_click();
@@ -176,7 +179,7 @@ class TextBox : public Control {
     selected_ = 0;
     if (text_ != text) Enter(std::move(text));
   }
-  // What the operator enters: runs the event even where the text is the one that stood there.
+  // Enters the operator's text: sets it and runs the event, even if the text is the same.
   void Enter(std::string text) {
     selected_ = 0;
     Assign(text_, std::move(text));
@@ -186,17 +189,17 @@ class TextBox : public Control {
   bool read_only() const { return read_only_; }
   void SetReadOnly(bool read_only) { Assign(read_only_, read_only); }
 
-  // How many of the first characters are selected, until the text is set.
+  // Returns how many characters from the start are selected. Setting the text clears the selection.
   std::size_t selected() const { return selected_; }
   void SelectFirst(std::size_t count) { Assign(selected_, std::min(count, text_.size())); }
 
-  // A key that the filter has let through: it takes the place of what is selected, or comes behind
-  // the text.
+  // Enters a key that the filter has passed. The key replaces the selected characters, or follows
+  // the text if none are selected.
   void TypeKey(char key) { Enter(selected_ > 0 ? key + text_.substr(selected_) : text_ + key); }
 
-  // Runs after every change of the text, the program's own included, and after every entry.
+  // Event: the program has changed the text, or the operator has entered one.
   std::function<void()> on_change;
-  // Gives the key that takes the place of a typed one; 0 refuses it.
+  // Returns the key to enter in place of a typed one, or 0 to refuse it.
   std::function<char(char)> key_filter;
 
  protected:
@@ -208,37 +211,38 @@ class TextBox : public Control {
   bool read_only_ = false;
 };
 
-// A drop-down list with free text.
+// A drop-down list that also takes free text.
 class TextCombo : public TextBox {
  public:
   TextCombo(std::string name, std::vector<std::string> items)
       : TextBox(ControlKind::kComboBox, std::move(name)), items_(std::move(items)) {}
 
   const std::vector<std::string>& items() const { return items_; }
-  // The item that is the text, from 0; -1 if none is.
+  // Returns the index of the first item equal to the text, from 0, or -1.
   int index() const;
-  // Takes an item as the text. An index beyond the list changes nothing: false.
+  // Enters the item as the text. Returns false and changes nothing if there is no such index.
   bool Select(int index);
 
  private:
   std::vector<std::string> items_;
 };
 
-// A list box, or a drop-down list.
+// A list box or a drop-down list.
 class List : public Control {
  public:
   List(ControlKind kind, std::string name) : Control(kind, std::move(name)) {}
 
   const std::vector<std::string>& items() const { return items_; }
   void AddItem(std::string item);
-  // Takes all items away; nothing is selected then.
+  // Removes all items and the selection.
   void Clear();
 
-  // From 0; -1 with nothing selected.
+  // Returns the index of the selected item, from 0, or -1.
   int index() const { return index_; }
-  // Selects an item and runs the event. An index beyond the list changes nothing: false.
+  // Selects an item, or none with -1, and runs the event. Returns false and changes nothing if
+  // there is no such index.
   bool Select(int index);
-  // The selected item; empty with none.
+  // Returns the selected item, or an empty text.
   std::string text() const;
 
   std::function<void()> on_click;
@@ -259,7 +263,8 @@ class ComboBox : public List {
   explicit ComboBox(std::string name) : List(ControlKind::kComboBox, std::move(name)) {}
 };
 
-// Pages one behind the other; the controls of a page name the tab and the page as their place.
+// Pages behind each other. Each control that Hold has put on a page shows only while that page is
+// in front.
 class Tab : public Control {
  public:
   Tab(std::string name, std::vector<std::string> pages)
@@ -267,7 +272,8 @@ class Tab : public Control {
 
   const std::vector<std::string>& pages() const { return pages_; }
   int page() const { return page_; }
-  // The operator's choice, from 0. A page that is not there changes nothing: false.
+  // Brings a page to the front and runs the event. Pages count from 0. Returns false and changes
+  // nothing if there is no such page.
   bool Choose(int page);
 
   // Puts a control on a page.
@@ -284,7 +290,7 @@ class Tab : public Control {
   int page_ = 0;
 };
 
-// Fires again and again while its interval is above 0; the host tells it when it is due.
+// A timer that fires repeatedly while its interval is above 0. The host calls on_timer.
 class Timer : public Control {
  public:
   explicit Timer(std::string name) : Control(ControlKind::kTimer, std::move(name)) {}

@@ -8,24 +8,24 @@
 
 namespace golf {
 
-// The names of a message box's parts, and an input box and a font choice as data.
+// Names for the parts of a message box, and the data of an input box and of a font choice.
 
-// "none", "information", ...
+// Returns "none", "information", "question", "stop" or "warning".
 std::string_view NameOf(BoxIcon icon);
-// "OK", "Cancel", "Yes", ...
+// Returns "OK", "Cancel", "Yes", "No" or "Retry".
 std::string_view NameOf(BoxButton button);
 
-// The button of a box with this name, in any case; nothing if the box does not have it.
+// Returns the button of the box with this name, in any case. Nothing if the box does not have it.
 std::optional<BoxButton> ButtonNamed(const Box& box, std::string_view name);
 
-// Cancel gives an empty answer.
+// A box that takes a line of text. Cancel answers with an empty text.
 struct InputBox {
   std::string title;
   std::string text;
   std::string default_answer;
 };
 
-// Whether an answer typed into an input box means yes: it begins with "Y" in either case.
+// True if the answer to an input box begins with "Y" or "y".
 bool MeansYes(std::string_view answer);
 
 struct Font {
@@ -36,9 +36,9 @@ struct Font {
   bool operator==(const Font&) const = default;
 };
 
-// "Arial, 12, bold italic"
+// Writes a font as "Arial, 12, bold italic".
 std::string DescribeFont(const Font& font);
-// Reads such a description; nothing where it is none.
+// Reads what DescribeFont writes. Nothing if the text has no comma.
 std::optional<Font> ParseFont(std::string_view description);
 
 }  // namespace golf

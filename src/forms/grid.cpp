@@ -72,7 +72,7 @@ void Grid::SetHidden(int column, bool hidden) {
 
 std::vector<int> Grid::SortedRows(const std::vector<SortKey>& keys, int last_row,
                                   std::string_view date_format) const {
-  // What each cell counts as is worked out once, not at every comparison.
+  // Ranks each cell once rather than at every comparison.
   std::vector<std::vector<CellRank>> ranks;
   for (const SortKey& key : keys) {
     std::vector<CellRank>& column = ranks.emplace_back();
@@ -97,7 +97,7 @@ void Grid::SortRows(const std::vector<SortKey>& keys, int last_row, std::string_
   if (last_row < 0 || last_row > rows()) FailCell(name());
   const std::vector<int> sorted = SortedRows(keys, last_row, date_format);
   std::vector<std::vector<std::string>> cells;
-  std::vector<int> places(sorted.size());  // where each row goes
+  std::vector<int> places(sorted.size());  // the new row of each row
   for (const int row : sorted) {
     cells.push_back(std::move(cells_[static_cast<std::size_t>(row) - 1]));
     places[static_cast<std::size_t>(row) - 1] = static_cast<int>(cells.size());

@@ -11,8 +11,8 @@ namespace golf {
 
 enum class CellType { kText, kCheckBox, kDropDown };
 
-// An item of a drop-down cell: what is shown, the code that stands for it, and what a cell holds
-// that shows it, if that is more than the text.
+// An item of a drop-down cell. `text` is shown, and `code` identifies the item. `cell` is the text
+// of a cell that shows the item; if it is empty, that is `text`.
 struct DropDownItem {
   std::string text;
   std::string code;
@@ -21,26 +21,25 @@ struct DropDownItem {
   const std::string& CellText() const { return cell.empty() ? text : cell; }
 };
 
-// A table of text cells addressed by column and row. Columns count from 0, where column 0 is the
-// one that carries a key and is often hidden; rows count from 1, row 0 holds the headings. A check
-// box cell holds "1" or "0".
+// A table of text cells. Columns count from 0; column 0 carries a key and is often hidden. Rows
+// count from 1; the headings are not a row. A check box cell holds "1" or "0".
 class Grid : public Control {
  public:
-  // Columns 0 to `columns`.
+  // Makes the columns 0 to `columns` and no rows.
   Grid(std::string name, int columns);
 
   int columns() const { return columns_; }
   int rows() const { return static_cast<int>(cells_.size()); }
-  // New rows are empty; the active row stays if it is still there.
+  // New rows are empty. The active row stays if it still exists, and becomes 0 otherwise.
   void SetRows(int rows);
 
-  // Error 9 for a cell that is not there, in all of these.
+  // Error 9 for a column or a cell that does not exist.
   const std::string& heading(int column) const { return Column(column).heading; }
   void SetHeading(int column, std::string heading);
   const std::string& text(int column, int row) const;
   void SetText(int column, int row, std::string text);
 
-  // What the operator enters: sets the text and runs the event.
+  // Enters the operator's text: sets it and runs the event.
   void Enter(int column, int row, std::string text);
 
   CellType cell_type(int column) const { return Column(column).type; }
@@ -50,10 +49,10 @@ class Grid : public Control {
 
   SortKind sort_kind(int column) const { return Column(column).sort_kind; }
   void SetSortKind(int column, SortKind kind) { Column(column).sort_kind = kind; }
-  // Sorts rows 1 to `last_row` by the first key, where that ties by the next one, and so on; rows
-  // that tie in all keys stay in their order. A row keeps its lock, and stays the active one: where
-  // it has moved, the event of a row change runs. `date_format` is that of dates in the cells.
-  // Error 9 for a row or column that is not there.
+  // Sorts rows 1 to `last_row` by the first key, ties by the next key, and so on. Rows that tie in
+  // all keys keep their order. The locks and the active row move with their rows; if the active row
+  // moves, on_row_change runs. `date_format` is the format of dates in the cells. Error 9 for a row
+  // or column that does not exist.
   void SortRows(const std::vector<SortKey>& keys, int last_row, std::string_view date_format);
 
   bool IsCentred(int column) const { return Column(column).centred; }
@@ -64,11 +63,11 @@ class Grid : public Control {
   void LockColumn(int column, bool locked) { Column(column).locked = locked; }
   void LockRow(int row, bool locked) { locked_rows_[row] = locked; }
 
-  // From 1; 0 for none.
+  // From 1; 0 if no row is active. Setting it runs on_row_change. Error 9 for any other row.
   int active_row() const { return active_row_; }
   void SetActiveRow(int row);
 
-  // While a screen fills many cells its view need not follow; it catches up at the end.
+  // Turning repainting off keeps the view from following each change. Turning it on shows them all.
   void SetRepainting(bool on);
 
   std::function<void()> on_row_change;
@@ -89,7 +88,7 @@ class Grid : public Control {
   const ColumnInfo& Column(int column) const;
   ColumnInfo& Column(int column);
   std::string& Cell(int column, int row);
-  // The rows 1 to `last_row` in the order of a sort.
+  // Returns the rows 1 to `last_row` in sorted order.
   std::vector<int> SortedRows(const std::vector<SortKey>& keys, int last_row,
                               std::string_view date_format) const;
   void Repaint() const;

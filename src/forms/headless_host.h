@@ -8,7 +8,7 @@
 
 namespace golf {
 
-// What a host without a display tells of a run, in the order in which it happens.
+// Receives the events of a host without a display, in the order in which they happen.
 class HostListener {
  public:
   virtual ~HostListener() = default;
@@ -29,43 +29,45 @@ class HostListener {
   virtual void OnEnd() {}
 };
 
-// A numbered error has ended a click. Not a NumberedError itself: no handler of a screen takes it.
+// Thrown when a numbered error has ended a click. It is not a NumberedError, so no screen handles
+// it.
 struct ClickEnded {
   NumberedError error;
 };
 
-// A host that draws nothing: boxes are answered from a queue, and whoever drives it works the
-// screens through their controls. Serves scripts, the commands of the command line, and tests.
+// A host that draws nothing. A queue answers its boxes, and its user works the screens through
+// their controls. It serves scripts, the commands of the command line, and tests.
 class HeadlessHost : public HostBase {
  public:
   HeadlessHost(SharedState& state, ScreenCatalogue catalogue, HostListener& listener)
       : HostBase(state, std::move(catalogue)), listener_(listener) {}
 
-  // What the operator does on a modal screen until it is gone. A screen that is still there
-  // afterwards is left by its button, and taken away if that does not help.
+  // Works a modal screen in place of the operator until the screen closes. If the screen is still
+  // open afterwards, the host presses its leave button, and then unloads it if it must.
   std::function<void(Screen&)> drive;
-  // The present moment, for Now.
+  // Returns the present moment.
   std::function<DateValue()> clock;
-  // Programs are really started; otherwise a start only fails where the program is not there.
+  // True: programs are really started. False: a start only opens the program's file.
   bool starts_programs = false;
 
-  // Answers the next box with just this title, or every one that has no other answer queued: a
-  // button's name, the text for an input box, a font's description.
+  // Queues the answer to the next box with exactly this title, or, with `always`, to all boxes with
+  // it for which no other answer is queued. The answer is the name of a button, the text for an
+  // input box, or the description of a font.
   void QueueAnswer(std::string title, std::string answer, bool always = false);
 
-  // Presses a button of a screen as the operator would. Error 5 where the screen has no such button
-  // or the operator could not reach it.
+  // Presses a button of a screen as the operator would. Error 5 if the screen has no such button or
+  // the operator cannot reach it.
   void Press(Screen& screen, std::string_view button);
 
-  // Leaves a screen as the operator would: an open panel first. False where no button could be
-  // pressed.
+  // Leaves a screen as the operator would, its open panel first. Returns false if no button could
+  // be pressed.
   bool Leave(Screen& screen);
 
-  // The last answer to a box with this title; nothing if none came.
+  // Returns the last answer to a message box with this title. Nothing if there was none.
   std::optional<BoxButton> AnswerTo(std::string_view title) const;
 
-  // What is wrong with an answer that was queued for one box, if it did not fit it; empty with
-  // none. Such a box took its default, so that a run does not stop halfway.
+  // Describes the first queued answer that did not fit its box; empty if all did. Such a box takes
+  // its default answer, so the run does not stop halfway. An answer with `always` is not reported.
   const std::string& bad_answer() const { return bad_answer_; }
 
   void Show(Screen& screen) override;
@@ -78,7 +80,7 @@ class HeadlessHost : public HostBase {
   DateValue Now() override { return clock(); }
   void EndProcess() override;
   void CopyText(const std::string& text) override { copied_ = text; }
-  // What was copied last.
+  // Returns the text that was copied last.
   const std::string& copied() const { return copied_; }
 
  protected:
@@ -104,7 +106,7 @@ class HeadlessHost : public HostBase {
   HostListener& listener_;
   std::list<QueuedAnswer> answers_;
   std::string taken_;
-  bool answer_stands_ = false;  // the last one that was taken
+  bool answer_stands_ = false;  // the last answer taken was queued with `always`
   std::string bad_answer_;
   std::map<std::string, BoxButton, std::less<>> answered_;  // by title
   std::string copied_;

@@ -102,7 +102,7 @@ void HostBase::ShowModal(Screen& screen) {
   }
   BringUp(screen);
   if (!IsShown(screen)) return;
-  const WhileSet takes_input(in_run_, false);  // as a box does
+  const WhileSet takes_input(in_run_, false);  // a modal screen takes input, also in a run
   RunModal(screen);
 }
 
@@ -122,7 +122,7 @@ void HostBase::Unload(Screen& screen) {
   try {
     screen.OnUnload();
   } catch (const NumberedError&) {
-    Drop(screen);  // what the screen could not save does not keep it open
+    Drop(screen);  // a failed save does not keep the screen open
     throw;
   }
   Drop(screen);

@@ -14,25 +14,25 @@
 namespace golf {
 
 using ScreenMaker = std::function<std::shared_ptr<Screen>(const ScreenContext&)>;
-// Screens by their names.
+// The screens by their names.
 using ScreenCatalogue = std::map<std::string, ScreenMaker, std::less<>>;
 
-// What all hosts have in common: which screens are loaded, which are seen, where a click begins and
-// ends, and that files are in order whenever the operator may look.
+// The common part of all hosts. It keeps the loaded and the shown screens, delimits each event of
+// the operator, and writes waiting changes to the files whenever the operator may look at them.
 class HostBase : public ScreenHost {
  public:
-  // The present moment of the shared state is this host's as long as it lives.
+  // Sets the clock of the shared state to this host's Now for the life of the host.
   HostBase(SharedState& state, ScreenCatalogue catalogue);
   ~HostBase() override;
 
-  // Runs what one event of the operator does, on a screen where there is one. A numbered error that
-  // nothing in it takes ends it and goes to ErrorEndsClick. In a run nothing is taken in.
+  // Runs one event of the operator, of a screen if one is given. A numbered error that the event
+  // does not handle ends it and goes to ErrorEndsClick. Does nothing during a run.
   void Operate(const std::function<void()>& event);
   void Operate(Screen& screen, const std::function<void()>& event);
-  // The same for an event of one control: nothing happens where the operator cannot reach it.
+  // Runs an event of one control. Does nothing if the operator cannot reach the control.
   void Operate(Screen& screen, const Control& control, const std::function<void()>& event);
 
-  // The screen in front, messages apart; null with none.
+  // Returns the screen in front, leaving out message boxes with a memory. Null if there is none.
   Screen* Top() const;
   bool IsShown(const Screen& screen) const;
   bool IsShown(std::string_view name) const;
@@ -57,24 +57,24 @@ class HostBase : public ScreenHost {
   std::uint32_t Seed() override;
 
   bool in_run() const { return in_run_; }
-  // What the runs so far have told.
+  // Return the counts and the faults of all runs so far.
   const std::vector<std::pair<std::string, std::int64_t>>& counts() const { return counts_; }
   const std::vector<NumberedError>& faults() const { return faults_; }
-  // The error that ended the last run that a screen had to end.
+  // Returns the error that ended the last run whose screen handled its error itself.
   const std::optional<NumberedError>& run_ended_by() const { return run_ended_by_; }
   // True after EndProcess.
   bool ended() const { return ended_; }
 
  protected:
   SharedState& state() const { return state_; }
-  // The process begins anew, for a host that outlives its end.
+  // Forgets all screens after EndProcess, for a host that is used again.
   void ForgetScreens();
 
-  // Brings the screen up; it stands on top already.
+  // Opens the window of a screen that has become the top one.
   virtual void Open(Screen& screen) = 0;
-  // Lets the operator work until the screen is not shown any more.
+  // Lets the operator work until the screen is no longer shown.
   virtual void RunModal(Screen& screen) = 0;
-  // Takes the screen down; it is not on the stack any more.
+  // Closes the window of a screen that has been taken off the stack.
   virtual void Close(Screen& screen) = 0;
   virtual BoxButton ShowBox(const Box& box) = 0;
   virtual std::string ShowInputBox(const InputBox& box) = 0;
@@ -91,7 +91,7 @@ class HostBase : public ScreenHost {
   SharedState& state_;
   ScreenCatalogue catalogue_;
   std::vector<std::shared_ptr<Screen>> loaded_;
-  std::vector<Screen*> shown_;  // from the bottom to the top
+  std::vector<Screen*> shown_;  // bottom first
   std::vector<std::pair<std::string, std::int64_t>> counts_;
   std::vector<NumberedError> faults_;
   std::optional<NumberedError> run_ended_by_;

@@ -14,23 +14,23 @@ namespace golf {
 class ScreenHost;
 class SharedState;
 
-// What a screen is given by the composition root.
+// What the composition root gives to each screen.
 struct ScreenContext {
   SharedState& state;
   ScreenHost& host;
 };
 
-// A screen that is shown as a message box with a memory, not as a window to work in.
+// What a host shows of a screen that is a message box with a memory.
 struct TipView {
   int type = 0;
   std::string caption;
   std::string title;
   std::string text;
-  std::vector<Button*> buttons;  // those that can be seen, the one with the focus first
+  std::vector<Button*> buttons;  // the visible ones, the one with the focus first
 };
 
-// A class for each screen owns its controls as members, adds them in a fixed order, and says what
-// each event does. A run of a screen holds its whole loop inside one event.
+// The base of all screens. A screen owns its controls as members, adds them in a fixed order, and
+// handles their events. A whole run takes place inside one event.
 class Screen : public std::enable_shared_from_this<Screen> {
  public:
   Screen(std::string name, const ScreenContext& context)
@@ -44,39 +44,42 @@ class Screen : public std::enable_shared_from_this<Screen> {
   const std::string& caption() const { return caption_; }
   void SetCaption(std::string caption) { caption_ = std::move(caption); }
 
-  // A word by which an opener tells the screen how to behave.
+  // A word with which the opener of a screen controls its behaviour.
   const std::string& tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
 
   const std::vector<Control*>& controls() const { return controls_; }
-  // The control with this name, in any case; "Name(2)" is also the control of that name with two of
-  // the same name before it. Null if there is none.
+  // Returns the first control with this name, in any case, or null. "Name(2)" finds the third
+  // control with the name "Name".
   Control* FindControl(std::string_view name) const;
-  // The name by which just this control is found.
+  // Returns the name by which FindControl finds exactly this control.
   std::string ScriptName(const Control& control) const;
 
-  // Once, before the screen is seen or touched; each time it comes to the front; before it goes.
+  // OnLoad runs once, before the screen is shown or used. OnActivate runs each time the screen is
+  // shown. OnUnload runs before the screen is unloaded.
   virtual void OnLoad() {}
   virtual void OnActivate() {}
   virtual void OnUnload() {}
-  // After a run of this screen has ended with an error and all files were closed: opens again what
-  // OnLoad opens.
+  // Opens the files of OnLoad again, after an error has ended a run of this screen and all files
+  // were closed.
   virtual void OpenAgain() {}
-  // A key that no control has taken, such as "Escape" or "Alt+N": the button that it presses, null
-  // with none.
+  // Returns the button that a key such as "Escape" or "Alt+N" presses if no control takes the key.
+  // Null if there is none.
   const Button* ButtonOfKey(std::string_view key) const;
-  // Presses that button. False with none.
+  // Presses the button of the key. Returns false if there is none.
   bool OnKey(std::string_view key);
 
-  // The button that leaves the screen, and the one that leaves its open panel; null with none.
+  // Return the button that leaves the screen, and the one that leaves its open panel. Null if there
+  // is none.
   virtual Button* LeaveButton() = 0;
   virtual Button* PanelLeaveButton() { return nullptr; }
 
-  // Set for a screen that is a box.
+  // Returns what to show of a screen that is a message box with a memory. Null for any other
+  // screen.
   virtual const TipView* Tip() const { return nullptr; }
 
-  // Where typed keys go; null with no control. Moving it tells the controls left and entered. A
-  // control that cannot be reached does not get it, but may keep it.
+  // The control that gets typed keys; null if none does. Moving the focus runs on_leave and
+  // on_enter. A control that cannot be reached does not get the focus, but may keep it.
   Control* focus() const { return focus_; }
   void MoveFocus(Control* control);
 
@@ -85,7 +88,7 @@ class Screen : public std::enable_shared_from_this<Screen> {
   ScreenHost& host() const { return context_.host; }
 
   void Add(std::initializer_list<Control*> controls);
-  // Adds controls that stand in a frame.
+  // Adds controls and puts them into a frame.
   void AddInto(Frame& frame, const std::vector<Control*>& controls);
 
  private:
@@ -97,7 +100,7 @@ class Screen : public std::enable_shared_from_this<Screen> {
   Control* focus_ = nullptr;
 };
 
-// The letter behind "&" in a caption, in capitals; 0 with none.
+// Returns the letter after "&" in a caption, in capitals. 0 if there is none.
 char MnemonicOf(std::string_view caption);
 
 }  // namespace golf

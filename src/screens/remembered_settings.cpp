@@ -10,7 +10,7 @@ namespace golf {
 namespace {
 
 constexpr int kGridColumn = 2;
-constexpr int kFirstGridRow = 2;  // row 1 is not the operator's choice
+constexpr int kFirstGridRow = 2;  // the operator cannot choose row 1
 
 std::string PathOf(const SharedState& state, const Screen& screen) {
   return state.StoreDataPath + screen.name() + ".DAT";

@@ -7,16 +7,16 @@
 
 namespace golf {
 
-// What the operator last entered on a screen, kept in a small text file under the screen's name in
-// StoreDataPath: a value a line and no names, so that a value belongs to a control only by its
-// place. The order of `controls` is therefore a fixed part of a screen. Ticks, the index of a list
-// and texts are kept, and of a grid column 2 from row 2 on; other controls keep nothing.
+// The entries of a screen, kept in a small text file under the screen's name in StoreDataPath. The
+// file has a value a line and no names: a value belongs to a control by its place alone, so the
+// order of `controls` must never change. Kept are ticks, the index of a list, texts, and column 2
+// of a grid from row 2 on. Other controls keep nothing.
 
-// Replaces the file. Errors as ChangeGate::ReplaceText.
+// Replaces the file. Errors as ChangeGate::ReplaceText. Does nothing if remembers_settings is off.
 void WriteSettings(SharedState& state, const Screen& screen, std::span<Control* const> controls);
 
-// Puts the values back. A file that is missing, short or damaged, and a value that a control
-// cannot take, leave controls as they are; nobody is told.
+// Puts the values back. A control keeps what it has if the file is missing, short or damaged or the
+// control cannot take its value. No message is shown. Does nothing if remembers_settings is off.
 void ReadSettings(SharedState& state, const Screen& screen, std::span<Control* const> controls);
 
 }  // namespace golf

@@ -32,7 +32,7 @@ std::optional<std::string> SettingsReader::Word() {
   return std::string(RestOfLine());
 }
 
-// The text runs to the next quote, over line ends if need be. Behind it the line must end.
+// The text ends at the next quote, line ends included. The line must end after that quote.
 std::optional<std::string> SettingsReader::QuotedText() {
   const std::size_t end = text_.find('"', at_ + 1);
   if (end == std::string::npos) {

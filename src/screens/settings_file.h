@@ -20,15 +20,15 @@ class SettingsWriter {
   std::string text_;
 };
 
-// Each call takes the next value, whatever it is; nothing where it is not what was asked for, or
-// where none is left.
+// Reads the values of a settings file in their order. Each call consumes the next value. It returns
+// nothing if that value is of another kind or if none is left.
 class SettingsReader {
  public:
   explicit SettingsReader(std::string text) : text_(std::move(text)) {}
 
   std::optional<int> Number();
   std::optional<std::string> Text();
-  std::optional<std::string> Word();  // a line that begins with no quote, as it stands
+  std::optional<std::string> Word();  // a whole line that does not begin with a quote
 
  private:
   bool IsQuoted() const { return at_ < text_.size() && text_[at_] == '"'; }
@@ -39,8 +39,9 @@ class SettingsReader {
   std::size_t at_ = 0;
 };
 
-// Where nothing is remembered, a file that is missing or cannot be read gives no values, and none
-// is written. Writing replaces the file; errors as ChangeGate::ReplaceText.
+// The settings file `path`, if state.remembers_settings is on. Reading gives no values if it is off
+// or the file is missing or unreadable. Writing replaces the file, with the errors of
+// ChangeGate::ReplaceText, or does nothing if it is off.
 SettingsReader ReadSettingsFile(SharedState& state, const std::string& path);
 void WriteSettingsFile(SharedState& state, const std::string& path, const SettingsWriter& values);
 

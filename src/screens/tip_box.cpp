@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kKeyLength = 30;
 
-// How the box looks and behaves for a type of message.
+// How the box looks and behaves for one type of message.
 struct TipKind {
   int type;
   std::string_view caption;
@@ -105,7 +105,7 @@ void TipBox::Prepare() {
 }
 
 void TipBox::OnActivate() {
-  // The Enter key answers a question with No.
+  // Enter answers a question with No.
   if (!view_.buttons.empty()) MoveFocus(view_.buttons.front());
 }
 

@@ -8,23 +8,23 @@
 
 namespace golf {
 
-// The message box that remembers, by title and as long as the process lives, that a message is not
-// to be shown again. A caller sets MessageType, MessageTitle and MessageText, in this order: the
-// last one shows the message. There is one for the whole process, which hides and is never
-// unloaded: SharedTipBox.
+// A message box that remembers which messages the operator does not want to see again: by title,
+// and as long as the process lives. A caller sets MessageType, MessageTitle and MessageText in this
+// order; MessageText shows the message. SharedTipBox gives the only one of the process. It hides
+// and is never unloaded.
 class TipBox : public Screen {
  public:
   static constexpr const char* kName = "TipBox";
 
-  // Types with a meaning of their own. Any other one sets the text and shows nothing.
+  // The types of message. Any other type sets the text and shows nothing.
   static constexpr int kModelessNoButton = -1;  // the caller hides it
   static constexpr int kModelessNotice = 0;
   static constexpr int kNotice = 1;
-  static constexpr int kLastingNotice = 2;  // shown whatever is remembered
+  static constexpr int kLastingNotice = 2;  // always shown
   static constexpr int kQuestion = 10;
   static constexpr int kLastingQuestion = 11;
 
-  static constexpr int kModelessWidth = 4335;  // of kModelessNoButton, in 1/1440 inch
+  static constexpr int kModelessWidth = 4335;  // the width for kModelessNoButton, in 1/1440 inch
 
   explicit TipBox(const ScreenContext& context);
 
@@ -32,7 +32,7 @@ class TipBox : public Screen {
   void SetMessageTitle(std::string title) { Title.SetCaption(std::move(title)); }
   void SetMessageText(std::string text);
   const std::string& MessageText() const { return Message.text(); }
-  // "OK", "YES" or "NO": the answer to the last message that got one.
+  // Returns the last answer to a message: "OK", "YES" or "NO".
   const std::string& ResultReturned() const { return answer_; }
 
   Button* LeaveButton() override;
@@ -48,7 +48,7 @@ class TipBox : public Screen {
   Button OKButton{"OKButton", "&OK"};
   Button YesButton{"YesButton", "&Yes"};
   Button NoButton{"NoButton", "&No"};
-  // Two pictures of which the box shows one: 0 for a notice, 1 for a question.
+  // The box shows one of two pictures: 0 for a notice, 1 for a question.
   Frame Picture1{"Picture1"};
   std::array<Label, 2> Image1{Label("Image1"), Label("Image1")};
 
@@ -64,13 +64,13 @@ class TipBox : public Screen {
 
   int type_ = 0;
   std::vector<Remembered> titles_;
-  std::size_t title_index_ = 0;  // entry of the message in hand, from 1; 0 if it has none yet
+  std::size_t title_index_ = 0;  // the entry of the current message, from 1; 0 if it has none yet
   std::string answer_;
   bool always_on_top_ = false;
   TipView view_;
 };
 
-// The one of this process.
+// Returns the message box of this process.
 TipBox& SharedTipBox(ScreenHost& host);
 
 }  // namespace golf

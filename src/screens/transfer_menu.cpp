@@ -9,11 +9,11 @@
 namespace golf {
 namespace {
 
-// A sibling as the menu speaks of it: its name, where its data lie, and how to start it again.
+// A sibling: its name, the folder of its data, and its program.
 struct Sibling {
   std::string_view name;
   std::string SharedState::*folder;
-  std::string_view word;  // on the command line
+  std::string_view word;  // the calling sibling's word on the command line
   std::string_view program;
 };
 
@@ -67,7 +67,7 @@ void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_
   bool installed = true;
   for (const TransferEntry& transfer : kTransfers) {
     if (transfer.screen != screen_name) continue;
-    // Both are checked, also when the first fails.
+    // Checks both siblings, even if the first is missing.
     for (const Sibling* sibling : {transfer.first, transfer.second}) {
       if (!CheckProgram(state, host, *sibling)) installed = false;
     }

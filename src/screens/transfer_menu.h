@@ -8,8 +8,8 @@
 
 namespace golf {
 
-// The first and the last screen: six transfers, the way to the program of prior versions, and
-// Close, which starts the sibling that has called.
+// The first and the last screen. It opens the six transfers and starts the transfer program of
+// prior versions. Close starts the sibling that has called.
 class TransferMenu : public Screen {
  public:
   static constexpr const char* kName = "TransferMenu";
@@ -36,9 +36,10 @@ class TransferMenu : public Screen {
   void Exit();
 };
 
-// Opens a transfer, modally, by its screen's name, as its button on the menu does: only if the
-// folders of both siblings are there. Each one that is missing is told in a box of its own. Any
-// other name is just loaded and shown. `tag` tells the screen how to behave, often nothing.
+// Opens a transfer as its button on the menu does: by its screen's name, modally, and only if the
+// data folders of both siblings exist. A box names each folder's sibling that is missing. Any other
+// screen is opened without this check. `tag` controls the behaviour of the screen; it is often
+// empty.
 void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_name,
                   std::string_view tag = {});
 

@@ -1,4 +1,4 @@
-// The command-line program as a process: what it prints where, and its exit codes.
+// The command-line program as a process: its output, its problems, and its exit codes.
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,7 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
   folder.Write("file", "");
   folder.Write("bad-library.txt", "open CourseTable xx\n");
   std::string cut = folder.Read("i/kvdata/kvcrs.dat").substr(0, 3226 + 100);
-  cut[792 + 12 + 2] = cut[792 + 2];  // tee 2: the second hole has the first one's handicap
+  cut[792 + 12 + 2] = cut[792 + 2];  // tee 2: the second hole gets the handicap of the first
   folder.MakeFolder("cut");
   folder.MakeFolder("cut/kvdata");
   folder.Write("cut/kvdata/kvcrs.dat", cut);
@@ -48,7 +48,7 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
   const struct {
     std::string words;
     int code;
-    const char* told;  // on the standard output, or with the problems
+    const char* told;  // on standard output, or on standard error after a failure
   } kCases[] = {
       {"--version", 0, "golf-transfer-cli"},
       {"--help", 0, "courses-kv-to-qb"},
@@ -121,7 +121,7 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
             std::string::npos);
 }
 
-// Every file of the install, by its path.
+// Returns every file of the install by its path.
 std::map<std::string, std::string> AllFiles(const TempFolder& folder) {
   std::map<std::string, std::string> files;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path("i"))) {
@@ -171,7 +171,7 @@ TEST_F(CommandLineTest, ListsLeaguesAndWhatTheyHaveToPost) {
     entries += league["base"].get<std::string>() + " " + league["division"].dump() + ", ";
   }
   EXPECT_FALSE(folder.Exists("i/zddata/0006..ZL8"));
-  // A longer name stands for the league whose number it starts with.
+  // A longer file name counts for the league whose number it starts with.
   EXPECT_EQ(entries, "00011 0, 00011 1, 00011 0, 00011 1, 00012 2, 00019 9, 00021 0, 00021 1, ");
   EXPECT_EQ(leagues.back(), nlohmann::json::parse(R"({"base":"00021","name":"Saturday Eighteen",
       "division":1,"holes":18,"currentEvent":4})"));
@@ -196,7 +196,7 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   EXPECT_NE(Run(results + " --csv --round 2").out.find("\n\"Idris, Omar\",+1,,,,,,\n"),
             std::string::npos);
   folder.Write("i/qbdata/X0001.Q9G", entries);
-  // The ladies' tee of round 1 is none.
+  // Round 1 has no ladies' tee.
   std::string control = folder.Read("i/qbdata/X0001.Q9C");
   control[180] = 0;
   folder.Write("i/qbdata/X0001.Q9C", control);
@@ -220,7 +220,7 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   EXPECT_EQ(folder.Read("i/qbdata/X0001.Q9G"), entries);
 }
 
-// What a spreadsheet or a terminal would obey, in the names of golfers.
+// The golfers' names hold what a spreadsheet or a terminal would obey.
 TEST_F(CommandLineTest, NamesAreNoCommands) {
   std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
   golfers.replace(golfers.find("Calder"), 6, "=\x7F+\x81 1");

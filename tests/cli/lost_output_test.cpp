@@ -1,4 +1,4 @@
-// Standard output that cannot take what the command-line program writes.
+// Tests of a standard output that cannot take what the command-line program writes.
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -25,7 +25,7 @@ TEST_F(LostOutputTest, IsToldAndLeavesNothingHalfDone) {
       Shell("cp -r i expected && " GOLF_CLI " --install expected courses-kv-to-qb >/dev/null"), 0);
   EXPECT_EQ(Shell(GOLF_CLI " --install i list courses >/dev/full 2>problems"), 3);
   EXPECT_NE(folder.Read("problems").find("could not be written"), std::string::npos);
-  // A reader that is gone does not stop the run between two of its files.
+  // A reader that goes away does not stop the run between two of its files.
   EXPECT_EQ(Shell("{ (trap '' PIPE; while echo; do :; done) 2>/dev/null; " GOLF_CLI
                   " --install i --json courses-kv-to-qb 2>/dev/null; "
                   "echo $? >code; } | true"),
@@ -34,7 +34,7 @@ TEST_F(LostOutputTest, IsToldAndLeavesNothingHalfDone) {
   EXPECT_EQ(Shell("diff -r i expected"), 0);
 }
 
-// Printed text never ends up in a data file, whichever standard streams are closed.
+// Printed text never reaches a data file, whichever standard streams are closed.
 TEST_F(LostOutputTest, ClosedStreamsAreNoDataFiles) {
   const std::string golfers = " --json golfers-kv-to-qb --roster CLUB18 --to 1 --update-tournament";
   const std::string now = GOLF_CLI " --now '2026-05-13 12:00:00' --install ";
@@ -61,7 +61,7 @@ TEST_F(LostOutputTest, AFileThatMayNotGrowIsADiskFull) {
   EXPECT_EQ(folder.Read("i/qbdata/qbcrs.dat").size() % 3226, 0u);
 }
 
-// Neither is waited for, and neither is taken for a file that another program holds.
+// The program does not wait for a pipe, and does not report that another program holds it.
 TEST_F(LostOutputTest, APipeOrAFolderInPlaceOfAFileIsRefused) {
   for (const std::string make : {"mkfifo", "mkdir"}) {
     for (const std::string file :

@@ -20,7 +20,7 @@ class ChangeGateTest : public FilesTest {
   }
 };
 
-// Or the failure of one is told, once.
+// If a joined write fails, its error is raised once.
 TEST_F(ChangeGateTest, JoinedWritesComeOutBeforeAnybodyCanLook) {
   files.Open(3, At("A.DAT"), 3);
   const std::pair<std::string, std::function<void()>> rows[] = {
@@ -74,7 +74,7 @@ TEST_F(ChangeGateTest, JoinedWritesKeepTheirOrder) {
                           {Operation::kWrite, At("b.dat"), 6, 3}};
   EXPECT_EQ(platform.changes(), std::vector<Change>(std::begin(order), std::end(order)));
 
-  // What is kept back stays below 1 MB.
+  // The gate keeps less than 1 MB back.
   const std::string large(400 << 10, 'x');
   const JoinedWrites joined(files);
   files.Open(5, At("large.dat"), large.size());
@@ -108,8 +108,8 @@ TEST_F(ChangeGateTest, ATornNewRecordIsCutOffAgain) {
   }
 }
 
-// Every call to the system fails once: it is told, no new record stays torn, the old ones are
-// there.
+// Each call to the system fails once. The error is raised, no new record stays torn, and the old
+// records are still there.
 TEST_F(ChangeGateTest, AFaultAtAnyCallIsToldAndTearsNoFile) {
   const auto run = [&] {
     files.Open(3, At("a.dat"), 3);
@@ -168,7 +168,7 @@ TEST_F(ChangeGateTest, RefusedChangesAreError75AndLeaveNothing) {
 
 static_assert(!std::is_default_constructible_v<ChangePass>, "only the gate changes files");
 
-// Every change that the platform sees was told to the observer, with what it replaces.
+// The observer is told of every change that the platform sees, with the bytes that it replaces.
 TEST_F(ChangeGateTest, NoFileChangesUnseen) {
   std::vector<Change> told;
   std::vector<std::string> old;
@@ -188,11 +188,11 @@ TEST_F(ChangeGateTest, NoFileChangesUnseen) {
   files.WriteBytes(3, 2, "123");
   files.WriteBytes(3, 3, "456");
   files.WriteBytes(1, 2, "789");
-  EXPECT_EQ(platform.changes(), told);  // at once, each by itself
+  EXPECT_EQ(platform.changes(), told);  // at once, each on its own
   files.gate().CreateFolder(At("folder"));
   files.gate().ReplaceText(At("text.dat"), "long text");
   files.gate().ReplaceText(At("text.dat"), "text");
-  files.Close(2);  // not every system deletes a file that is open
+  files.Close(2);  // some systems cannot delete an open file
   files.DeleteFile(At("b.dat"));
   EXPECT_EQ(folder.Read("text.dat") + folder.Read("a.dat"), "textabc789");
   EXPECT_EQ(platform.changes(), told);

@@ -41,7 +41,7 @@ TEST_F(FileTableTest, NumbersThatAreNotOpenAreError52) {
   EXPECT_EQ(ErrorOf([&] { files.WriteBytes(number, 1, "abc"); }), 52);
   EXPECT_EQ(ErrorOf([&] { files.CountTruncated(number, 3); }), 52);
 
-  // Opening a number closes what it held, even if the opening fails then.
+  // Opening a number closes its old file, even if the opening fails.
   files.Open(1, At("a.dat"), 3);
   files.Open(1, At("b.dat"), 2);
   files.WriteBytes(1, 1, "bb");
@@ -53,7 +53,7 @@ TEST_F(FileTableTest, NumbersThatAreNotOpenAreError52) {
   EXPECT_EQ(ErrorOf([&] { files.Length(1); }), 52);
 }
 
-// A file that was only read has lost nothing when closing it fails.
+// Closing a file that was only read cannot lose anything, so its error is not raised.
 TEST_F(FileTableTest, AnErrorOfClosingIsToldLikeOneOfAWrite) {
   for (const bool written : {true, false}) {
     for (const bool all : {true, false}) {
@@ -128,7 +128,7 @@ TEST_F(FileTableTest, ErrorsHaveTheirNumbers) {
   EXPECT_EQ(folder.Read("file"), "abc");
   EXPECT_FALSE(folder.Exists("none"));
 
-  // What the system refuses comes up as it is.
+  // Errors of the system reach the caller unchanged.
   const std::pair<Operation, std::function<void()>> calls[] = {
       {Operation::kOpen, [&] { files.Open(3, At("other"), 3); }},
       {Operation::kCreate, [&] { files.Open(3, At("other"), 3); }},
@@ -165,13 +165,13 @@ TEST_F(FileTableTest, ReadAheadEndsAtSynchronizeAndAtWrites) {
   files.WriteBytes(2, 500, "two");
   EXPECT_NE(files.Generation(1), generation);
 
-  // A read that failed leaves nothing behind that could be taken for the file.
+  // A failed read leaves no bytes behind that could be taken for the file.
   platform.Fail({ErrorNumber::kDeviceFault, 1, Operation::kRead});
   EXPECT_EQ(ErrorOf([&] { Read(2, 10, 3); }), 57);
   EXPECT_EQ(Read(2, 10, 3), "new");
 }
 
-// Two numbers on one file behave as one string of bytes, whatever is joined and read ahead.
+// Two numbers on one file act as one string of bytes, whatever is joined or read ahead.
 TEST_F(FileTableTest, ActsAsPlainBytesWouldUnderAnyOrderOfCalls) {
   std::mt19937 random(20240229);
   const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };

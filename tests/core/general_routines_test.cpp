@@ -19,7 +19,7 @@ using Ints = std::vector<std::int32_t>;
 TEST(GeneralRoutines, FilterKey) {
   const std::string keys = "AZaz 09\b-/:@[`{\xE9";
   const std::pair<unsigned, std::string> rows[] = {
-      // "." for a refused key
+      // "." stands for a refused key.
       {0, "AZaz.09\b........"}, {1, "AZaz 09\b........"}, {2, "AZAZ.09\b........"},
       {3, "AZAZ 09\b........"}, {4, "AZaz...\b........"}, {7, "AZAZ ..\b........"}};
   for (const auto& [options, passed] : rows) {
@@ -34,15 +34,15 @@ TEST(GeneralRoutines, LimitNumber) {
     double value;
     std::optional<double> if_low, if_high;
     int result;
-    double left;  // in the caller's variable
+    double left;  // the caller's variable afterwards
   } rows[] = {{LeadingNumber("7"), {}, {}, 5, 5},
               {LeadingNumber("x"), {}, {}, 1, 1},
               {0, 3, {}, 3, 3},
-              {0, -4, {}, 1, 1},  // what is below low itself is lifted
+              {0, -4, {}, 1, 1},  // a replacement below `low` is raised to it
               {0, 9, {}, 5, 5},
               {0, 9, 2, 2, 2},
               {9, {}, 12, 5, 5},
-              {9, {}, -3, -3, -3},  // low was looked at before
+              {9, {}, -3, -3, -3},  // `low` was checked before
               {2.5, {}, {}, 2, 2.5},
               {3.5, {}, {}, 4, 3.5}};
   for (const auto& row : rows) {
@@ -57,17 +57,17 @@ TEST(GeneralRoutines, LimitNumber) {
 TEST(GeneralRoutines, StrokesAreAllocatedOverNineHolesOrOverEighteen) {
   const std::pair<int, Ints> rows[] = {{9, {1, 2, 2}}, {10, {1, 1, 1}}};
   for (const auto& [holes, strokes] : rows) {
-    Ints ranks = {17, 1, 3}, expected = strokes;  // the others have rank 0
+    Ints ranks = {17, 1, 3}, expected = strokes;  // the other holes have rank 0
     ranks.resize(18);
     expected.resize(holes == 9 ? 9 : 18);
-    expected.resize(18, 77);  // behind a nine nothing changes
+    expected.resize(18, 77);  // the entries after a nine do not change
     Ints result(18, 77);
     AllocateHoleStrokes(result, ranks, holes, 11);
     EXPECT_EQ(result, expected) << holes;
   }
 }
 
-// Each worked out by hand: the exchanges across a gap carry equal keys past each other.
+// The rows are worked out by hand. Exchanges across a gap carry equal keys past each other.
 TEST(GeneralRoutines, ShellSort) {
   using Floats = std::vector<float>;
   const struct {
@@ -80,9 +80,9 @@ TEST(GeneralRoutines, ShellSort) {
   } rows[] = {// Gap 2 exchanges places 1 and 3; gap 1 finds nothing to do.
               {{2, 2, 1, 3}, {10, 20, 30, 40}, 4, 0, {1, 2, 2, 3}, {30, 20, 10, 40}},
               {{2, 2, 3, 1}, Ints(4), 4, 5, {3, 2, 2, 1}, {3, 2, 1, 4}},
-              // Gap 3 sorts 1-4-7 to the records 4, 1, 7 and 3-6 to 6, 3; gap 1 has nothing left.
+              // Gap 3 sorts 1-4-7 to the records 4, 1, 7, and 3-6 to 6, 3. Gap 1 exchanges nothing.
               {{5, 1, 5, 1, 5, 1, 5}, Ints(7), 7, 4, {1, 1, 1, 5, 5, 5, 5}, {4, 2, 6, 1, 5, 3, 7}},
-              // Gap 3 leaves the records 4 2 6 1 5 3, gap 1 exchanges places 2-3, 4-5 and 5-6.
+              // Gap 3 leaves the records 4 2 6 1 5 3. Gap 1 exchanges places 2-3, 4-5 and 5-6.
               {{4, 2, 2, 1, 2, 1}, Ints(6), 6, 4, {1, 1, 2, 2, 2, 4}, {4, 6, 2, 5, 3, 1}},
               {{3, 2, 1}, {7, 8, 9}, 2, 0, {2, 3, 1}, {8, 7, 9}},
               {{3, 2}, {7, 8}, 1, 4, {3, 2}, {1, 8}},
@@ -123,7 +123,7 @@ TEST(IdNumberList, FreeIds) {
        {free(99, 5), free(5, 5), free(4, 1), {Call::kContains, 7, 1}, {Call::kContains, 5, 0}}},
       {{3, 4, 5}, {free(5, 1), free(6, 6)}},
       {{0, 8, -3, 7}, {free(99, 9)}},
-      {{3, 3, 5}, {free(99, 6)}},  // an ID that stands twice raises the offset as well
+      {{3, 3, 5}, {free(99, 6)}},  // an ID that occurs twice raises the offset, too
       {{3, 3, 6}, {free(99, 5)}},
       {{kMost}, {free(kMost, 1)}},
       {{3, 4, 5, 6},

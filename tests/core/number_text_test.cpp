@@ -20,7 +20,8 @@ TEST(NumberText, FormatNumber) {
       {"000", {{7, "007"}, {123456, "123456"}}},
       {"00.0", {{71.25, "71.3"}, {9.96, "10.0"}, {-3.2, "-03.2"}}},
       {"0.0", {{0.049, "0.0"}, {0.05, "0.1"}}},
-      // On the decimal text, not on the binary value; the sign goes by the value before.
+      // Rounds the decimal text and not the binary value. The sign is that of the value before
+      // rounding.
       {"0.00", {{1.005, "1.01"}, {2.675, "2.68"}, {-0.001, "-0.00"}}},
       {" 0", {{3, " 3"}, {12, " 12"}}},
       {"#0.0;+0.0", {{5.25, "5.3"}, {0.4, "0.4"}, {-1.5, "+1.5"}}},
@@ -36,7 +37,7 @@ TEST(NumberText, FormatNumber) {
       EXPECT_EQ(FormatNumber(value, pattern), text) << value << " " << pattern;
     }
   }
-  // A single by its own shortest text: as a double this one is 2.3499999.
+  // Rounds a single by its shortest text. As a double this one is 2.3499999.
   EXPECT_EQ(FormatNumber(2.35f, "0.0"), "2.4");
   EXPECT_EQ(FormatNumber(-0.05f, "0.0;+0.0"), "+0.1");
   EXPECT_EQ(FormatNumber(std::numeric_limits<std::int64_t>::min(), "0"), "-9223372036854775808");

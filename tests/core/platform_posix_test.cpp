@@ -28,7 +28,7 @@ TEST_F(PlatformPosixTest, AFullDiskIsError61AndLeavesNoTornRecord) {
   EXPECT_EQ(folder.Read("a.dat"), "abcdefgh");
 }
 
-// None of them is waited for.
+// Opening them must not wait.
 TEST_F(PlatformPosixTest, WhatIsNoFileIsError75) {
   ASSERT_EQ(mkfifo(folder.Path("pipe.dat").c_str(), 0666), 0);
   ASSERT_EQ(symlink("/dev/zero", folder.Path("device.dat").c_str()), 0);
@@ -42,7 +42,7 @@ TEST_F(PlatformPosixTest, WhatIsNoFileIsError75) {
   }
 }
 
-// A process that was started without them gives their places away to whatever is opened first.
+// If a process starts without standard streams, the next opened files get their numbers.
 TEST_F(PlatformPosixTest, NoDataFileGetsThePlaceOfAStandardStream) {
   folder.Write("a.dat", "abcd");
   const pid_t child = fork();
@@ -113,7 +113,7 @@ TEST_F(PlatformPosixTest, StartsPrograms) {
   folder.Write("KVM.EXE", "#!/bin/sh\necho \"$1,$#\" > \"$0.out\"\n");
   platform.StartProgram(At("KVM.EXE"), "QB");
   EXPECT_EQ(platform.started(), std::vector<std::string>{At("KVM.EXE QB")});
-  EXPECT_EQ(wait(nullptr), -1);  // only written down
+  EXPECT_EQ(wait(nullptr), -1);  // only noted, not started
   EXPECT_EQ(ErrorOf([&] { real->StartProgram(At("none.exe"), ""); }), 53);
   EXPECT_EQ(ErrorOf([&] { real->StartProgram(At("kvm.exe"), ""); }), 75);
   chmod(folder.Path("KVM.EXE").c_str(), 0755);

@@ -87,7 +87,7 @@ TEST_F(PlatformWindowsTest, StartsPrograms) {
   EXPECT_EQ(folder.Read("KVM.EXE.out"), "QB,1");
 }
 
-// A setting of the user, put back when this goes.
+// Changes a setting of the user and restores it at the end.
 class Setting {
  public:
   explicit Setting(const wchar_t* name) : name_(name) {

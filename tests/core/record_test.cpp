@@ -27,7 +27,8 @@ struct Sample {
   static constexpr std::size_t kLength = 65;
 };
 
-// Sets a field in a record full of a byte that no value here holds; gives where it changed.
+// Sets a field in a record filled with a byte that no value here holds. Returns where and what
+// changed.
 template <class Setter>
 std::pair<std::size_t, std::string> Changed(Setter setter) {
   Record<Sample> record;

@@ -10,7 +10,7 @@ namespace golf {
 namespace {
 
 TEST(Text, CaseOfTheLettersOfTheCodePage) {
-  // The multiplication and division signs, sharp s and the bytes without meaning have no case.
+  // The multiplication and division signs, sharp s and the undefined bytes have no case.
   const std::string lower = "az\xE0\xE9\xFE\xFF\x9A\x9C\x9E \xDF\xF7\xD7\x81@[`{1";
   const std::string upper = "AZ\xC0\xC9\xDE\x9F\x8A\x8C\x8E \xDF\xF7\xD7\x81@[`{1";
   EXPECT_EQ(UpperCase(lower), upper);
@@ -19,7 +19,7 @@ TEST(Text, CaseOfTheLettersOfTheCodePage) {
   EXPECT_FALSE(EqualIgnoringCase("ab", "abc"));
   EXPECT_LT(CompareIgnoringCase("Zoe", "\xE9va"), 0);  // by codes, not by the alphabet
   EXPECT_GT(CompareIgnoringCase("ab", "A"), 0);
-  EXPECT_LT(CompareIgnoringCase("a", "_"), 0);  // as capitals
+  EXPECT_LT(CompareIgnoringCase("a", "_"), 0);  // compared as capitals
 }
 
 TEST(Text, BlanksAndWidths) {
@@ -91,11 +91,11 @@ TEST(Text, ReplaceText) {
       {"a\xE9-A\xC9", "A\xC9", "x", kExact, "a\xE9-x"},
       {"abc", "", "x", kExact, "abc"},
       {"none", "x", "axx", kExact, "none"},
-      // The search goes on one character behind the start of the last hit.
+      // The search continues one character after the start of the last hit.
       {"aaaa", "a", "", kExact, "aa"},
       {"abab", "ab", "aba", kExact, "abaaba"},
       {"xaab", "ab", "b", kExact, "xab"},
-      {"abb", "ab", "xa", kExact, "xxa"},  // what was put in makes a hit with what follows
+      {"abb", "ab", "xa", kExact, "xxa"},  // the replacement makes a hit together with what follows
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ReplaceText(row.text, row.find, row.replace, row.mode), row.result) << row.text;
@@ -118,7 +118,7 @@ TEST(CodePage, ComesBackFromUtf8) {
       {"\u0081\u009D", "\x81\x9D"},
       {"a\u0142\u2192\U0001F3CC", "a???"},
       {"\u0080", "?"},  // that byte is the Euro sign
-      // No UTF-8: a lone byte, a cut sequence, a sequence longer than it need be.
+      // Invalid UTF-8: a lone byte, a truncated sequence, and a sequence that is too long.
       {"caf\xE9 x\xE2\x82", "caf\xE9 x\xE2\x82"},
       {"\xE0\x80\xAF\xC0\xAF", "\xE0\x80\xAF\xC0\xAF"},
   };

@@ -15,7 +15,7 @@
 
 namespace golf {
 
-// Answers boxes itself, and lets the test have the windows painted.
+// A host that answers boxes itself and lets the test paint the windows.
 class BoxlessHost : public DesktopHost {
  public:
   using DesktopHost::DesktopHost;
@@ -26,7 +26,7 @@ class BoxlessHost : public DesktopHost {
   std::string ShowInputBox(const InputBox& box) override { return box.default_answer; }
 };
 
-// What an opener has in hand when it opens a screen.
+// Sets what an opener sets before it opens a screen.
 inline void Prepare(SharedState& state) {
   state.StoreDataPath = state.QBDataPath;
   state.Program().OpenMasterFile();
@@ -45,7 +45,7 @@ struct Demo {
     install.state().Now = [this] { return host.Now(); };
   }
 
-  // Shows a screen alone; its window.
+  // Shows a screen alone and returns its window.
   wxTopLevelWindow& Show(const std::string& name) {
     Prepare(install.state());
     Screen& screen = host.Load(name);

@@ -1,4 +1,4 @@
-// Where the focus goes, and what waits until it is there.
+// Tests of the focus, and of the events that wait until it has moved.
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
@@ -14,13 +14,13 @@ namespace golf {
 namespace {
 
 template <class Event>
-void Tell(wxWindow& widget, Event event) {
+void Send(wxWindow& widget, Event event) {
   event.SetEventObject(&widget);
   widget.HandleWindowEvent(event);
 }
 
-// The screen hears of a new focus when the toolkit is done with it, but before it hears of what the
-// operator does then.
+// The screen handles a new focus after the toolkit has finished with it, but before the operator's
+// next event.
 TEST(FocusTest, WhatWaitsGoesBeforeWhatComesLater) {
   Demo<BoxlessHost> demo;
   wxTopLevelWindow& window = demo.Show("CourseTee");
@@ -34,16 +34,16 @@ TEST(FocusTest, WhatWaitsGoesBeforeWhatComesLater) {
     demo.host.PaintNow();
     heard.clear();
     wxWindow& widget = *wxWindow::FindWindowByName(name, &window);
-    Tell(widget, wxFocusEvent(wxEVT_SET_FOCUS));
+    Send(widget, wxFocusEvent(wxEVT_SET_FOCUS));
     EXPECT_EQ(heard, "");
     return &widget;
   };
-  Tell(*go_on_to("OKButton"), wxCommandEvent(wxEVT_BUTTON));
+  Send(*go_on_to("OKButton"), wxCommandEvent(wxEVT_BUTTON));
   EXPECT_EQ(heard, "left,pressed,");
-  Tell(*go_on_to("FTeeNameAbv"), wxCommandEvent(wxEVT_TEXT));
+  Send(*go_on_to("FTeeNameAbv"), wxCommandEvent(wxEVT_TEXT));
   EXPECT_EQ(heard, "left,typed,");
   go_on_to("FTeeNameAbv");
-  Tell(window, wxKeyEvent(wxEVT_CHAR_HOOK));
+  Send(window, wxKeyEvent(wxEVT_CHAR_HOOK));
   EXPECT_EQ(heard, "left,");
 }
 
@@ -62,14 +62,14 @@ TEST(FocusTest, ALostFocusGoesWhereItDoesNoHarm) {
     return picker.focus()->name();
   };
   TextBox& name = picker.NewRosterName;
-  EXPECT_EQ(focus_after_hiding({&name}), "grid1");  // past the button that leaves
+  EXPECT_EQ(focus_after_hiding({&name}), "grid1");  // not the button that leaves
   EXPECT_EQ(focus_after_hiding({&name, &picker.grid1}), "DeleteButton");
   EXPECT_EQ(focus_after_hiding({&name, &picker.NewRosterFrame, &picker.DeleteButton,
                                 &picker.NewButton, &picker.LoadButton}),
             "CancelButton");
 }
 
-// Posts the scores of a league, and goes on with the keys that have started the run.
+// Posts the scores of a league, and then presses the keys that have started the run once more.
 TEST(FocusTest, KeysAfterATransferPostNothingAgain) {
   Demo<DesktopHost> demo;
   DesktopHost& host = demo.host;

@@ -5,8 +5,8 @@
 
 #include "support/temp_folder.h"
 
-// The tests run inside the toolkit, each with the main loop of its own. What is to be selected when
-// the focus comes, the program selects itself: not every desktop does it as this one would.
+// Runs the tests inside the toolkit, each with a main loop of its own. Desktops differ in selecting
+// a text when it gets the focus, so that is turned off here: the program itself must select it.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const golf::TempFolder settings;

@@ -15,7 +15,7 @@ namespace golf {
 namespace {
 
 constexpr int kTick = 5;                       // milliseconds
-constexpr std::chrono::seconds kPatience{60};  // with one step, on a slow machine with sanitizers
+constexpr std::chrono::seconds kPatience{60};  // for one step, on a slow machine with sanitizers
 
 wxPoint Middle(const wxRect& place) {
   return {place.x + place.width / 2, place.y + place.height / 2};
@@ -65,7 +65,7 @@ void Operator::When(std::string what, std::function<bool()> condition,
   steps_.push_back({std::move(what), std::move(condition), std::move(action)});
 }
 
-// The window system has the widget on the display once it feels the pointer.
+// The window system shows the widget once it reports the pointer over it.
 bool Operator::PointAt(wxWindow* widget, const wxPoint& place) {
   if (!CanBeUsed(widget)) return false;
   if (target_ != widget) {
@@ -80,7 +80,7 @@ bool Operator::PointAt(wxWindow* widget, const wxPoint& place) {
   return felt_;
 }
 
-// Never twice to the same point, which the window system would not tell.
+// Never moves to the same point twice, since the window system would not report that.
 void Operator::MoveTo(const wxWindow& widget, const wxPoint& place) {
   nudge_ = 1 - nudge_;
   simulator_.MouseMove(widget.ClientToScreen(place + wxPoint(nudge_, 0)));
@@ -190,11 +190,11 @@ void Operator::Notify() {
   if (steps_.empty() || !steps_.front().condition()) return;
   const Step step = std::move(steps_.front());
   steps_.pop_front();
-  deadline_ = std::chrono::steady_clock::now() + kPatience;  // of the next step
+  deadline_ = std::chrono::steady_clock::now() + kPatience;  // for the next step
   step.action();
 }
 
-// A screen's dialog stands as null between the boxes.
+// Null stands for a screen's dialog among the boxes.
 int Operator::Enter(wxDialog* dialog) {
   EXPECT_FALSE(in_input_) << "a key or the focus opens " << dialog->GetTitle();
   watching_ = false;
@@ -204,8 +204,8 @@ int Operator::Enter(wxDialog* dialog) {
 
 void Operator::Exit(wxDialog*) { dialogs_.pop_back(); }
 
-// What is put off runs when the toolkit is done with the event, and this is put off first. The
-// press of a button is an event of its own, also by a key.
+// The delayed call runs once the toolkit has finished with the event, before any call that the
+// program delays. Pressing a button is an event of its own, also by a key.
 int Operator::FilterEvent(wxEvent& event) {
   const wxEventType type = event.GetEventType();
   if (type == wxEVT_BUTTON) watching_ = in_input_ = false;

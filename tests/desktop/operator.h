@@ -15,45 +15,45 @@
 
 namespace golf {
 
-// The operator before a real display: a list of steps, each of which waits until it can be done.
-// Mouse and keyboard are those of the window system. Where a step cannot be done in time the whole
-// test program ends, for no window can be left in an orderly way then. A window that a step opens
-// before the program has returned from a key or a change of the focus is a failure of the test.
+// An operator at a real display. He follows a list of steps, and each step waits until it can be
+// done. He uses the mouse and the keyboard of the window system. If a step cannot be done in time,
+// the whole test program ends, since no window can be closed in an orderly way then. The test fails
+// if a step opens a window before the program has returned from a key or a change of the focus.
 class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilter {
  public:
   Operator();
   ~Operator() override;
 
-  // Does something once the condition holds.
+  // Runs the action once the condition holds.
   void When(std::string what, std::function<bool()> condition, std::function<void()> action);
   void Await(std::string what, std::function<bool()> condition) {
     When(std::move(what), std::move(condition), [] {});
   }
-  // Clicks the widget of this name once it can be seen and used.
+  // Clicks the widget of this name once it is visible and enabled.
   void Press(const std::string& name);
-  // The same for a cell of a grid.
+  // Clicks a cell of a grid once it is visible and enabled.
   void PressCell(const std::string& name, int row, int column);
-  // Waits for a message box, expects its title and text, and answers it by a key.
+  // Waits for a message box, checks its title and text, and answers it by a key.
   void Answer(const std::string& title, const std::string& text, int key = WXK_RETURN);
-  // Waits for an input box, expects its title and the answer that stands in it, types another one,
-  // expects that it has taken the place of the first, and presses Enter.
+  // Waits for an input box, checks its title and its proposed answer, and types another answer.
+  // Checks that it has replaced the proposed one, and presses Enter.
   void AnswerInput(const std::string& title, const std::string& before, const std::string& typed);
-  // Types a key once a widget of this name can be seen and used.
+  // Types a key once a widget of this name is visible and enabled.
   void Type(const std::string& name, int key);
-  // Runs code that may show windows, as an event of its own.
+  // Runs code that may show windows as an event of its own.
   void Do(std::function<void()> action);
 
-  // At once, wherever the widget is.
+  // Act at once, wherever the widget is.
   void ClickNow(const std::string& name);
   void TypeNow(int key) { simulator_.Char(key); }
   bool SeesBox() const { return !dialogs_.empty() && dialogs_.back() != nullptr; }
 
-  // Runs the program until it ends; all steps must be done then.
+  // Runs the program until it ends. All steps must be done by then.
   void RunProgram();
-  // Lets events come until the condition holds.
+  // Processes events until the condition holds.
   void RunUntil(const std::string& what, std::function<bool()> condition);
 
-  // The widget of this name in the newest window that shows one; null if none does.
+  // Returns the widget of this name in the newest window that shows one. Null if there is none.
   static wxWindow* Find(const std::string& name);
 
  private:
@@ -74,11 +74,11 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
 
   std::deque<Step> steps_;
   std::vector<wxDialog*> dialogs_;
-  const wxWindow* target_ = nullptr;  // where the pointer is to go
+  const wxWindow* target_ = nullptr;  // the widget that the pointer must reach
   bool felt_ = false;
   int nudge_ = 0;
-  bool watching_ = false;  // from a key or a click to what it opens
-  bool in_input_ = false;  // the program handles a key or a change of the focus
+  bool watching_ = false;  // true from a key or a click to the window that it opens
+  bool in_input_ = false;  // true while the program handles a key or a change of the focus
   wxUIActionSimulator simulator_;
   std::chrono::steady_clock::time_point deadline_;
 };

@@ -1,5 +1,5 @@
-// Every control of every screen, by the events of its own widget: they get through where the
-// operator can reach the control, and nowhere else.
+// Tests every control of every screen by the events of its own widget. An event gets through
+// exactly if the operator can reach the control.
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
@@ -19,7 +19,7 @@ namespace {
 
 using Controls = std::vector<Control*>;
 
-// What an operator can do to a widget, as the toolkit tells it.
+// An action of the operator on a widget, as the toolkit reports it.
 struct Deed {
   std::string what;
   std::function<void()> done;
@@ -32,7 +32,7 @@ void Send(wxWindow& widget, Event event) {
   wxTheApp->ProcessPendingEvents();
 }
 
-// With the first item, or a text.
+// Chooses the first item, or enters a text.
 void SendCommand(wxWindow& widget, const wxEventTypeTag<wxCommandEvent>& type) {
   wxCommandEvent event(type, widget.GetId());
   event.SetString("typed");
@@ -82,7 +82,7 @@ std::vector<Deed> DeedsOf(wxWindow& widget) {
     add("double click", wxEVT_LISTBOX_DCLICK);
     deeds.push_back({"Enter", [&widget] { SendKey(widget, wxEVT_CHAR_HOOK, WXK_RETURN); }});
   }
-  if (dynamic_cast<wxComboBox*>(&widget) != nullptr) {  // which may be a choice as well
+  if (dynamic_cast<wxComboBox*>(&widget) != nullptr) {  // may be a choice as well
     add("choice", wxEVT_COMBOBOX);
   } else if (dynamic_cast<wxChoice*>(&widget) != nullptr) {
     add("choice", wxEVT_CHOICE);
@@ -98,12 +98,12 @@ std::vector<Deed> DeedsOf(wxWindow& widget) {
   return deeds;
 }
 
-// The control itself, or what holds it and all that holds that.
+// Returns the outermost control around a control, or the control itself.
 const Control& OutermostHolder(const Control& control) {
   return control.parent() == nullptr ? control : OutermostHolder(*control.parent());
 }
 
-// A screen whose events do nothing but count.
+// A screen whose events only count.
 class CountingScreen {
  public:
   CountingScreen(Screen& screen, BoxlessHost& host) : screen_(screen), host_(host) {
@@ -166,7 +166,7 @@ class CountingScreen {
     return widgets;
   }
 
-  // Makes a control reachable, and all that holds it.
+  // Makes a control and everything around it reachable.
   static void Reach(Control& control) {
     if (control.parent() != nullptr) Reach(*control.parent());
     control.SetVisible(true);
@@ -178,7 +178,7 @@ class CountingScreen {
     for (Control* control : controls) Reach(*control);
   }
 
-  // Where the focus can stay while these come and go.
+  // Returns a control that can keep the focus while the given controls come and go.
   Control& Elsewhere(const Controls& controls) {
     const auto stays = [&](const auto& named) {
       const Control& other = *named.second.front();
@@ -190,7 +190,7 @@ class CountingScreen {
     return *std::find_if(named_.begin(), named_.end(), stays)->second.front();
   }
 
-  // A deed that would leave everything as it is has no event.
+  // Empties all controls, since a deed that changes nothing has no event.
   void Blank() {
     for (Control* control : screen_.controls()) {
       if (auto* text = dynamic_cast<TextBox*>(control)) text->SetText("");
@@ -201,7 +201,7 @@ class CountingScreen {
     }
   }
 
-  // True if the deed has run something, or has moved the focus.
+  // True if the deed has run an event or moved the focus.
   bool GetsThrough(const Deed& deed, Control& elsewhere) {
     Blank();
     Reach(elsewhere);
@@ -212,7 +212,7 @@ class CountingScreen {
     return ran_ > 0 || screen_.focus() != &elsewhere;
   }
 
-  // Escape presses these and no others.
+  // Makes Escape press these buttons and no others.
   void GiveEscapeTo(const Controls& controls) {
     for (Control* control : screen_.controls()) {
       auto* button = dynamic_cast<Button*>(control);

@@ -1,4 +1,4 @@
-// The tables of docs/file-formats.md against those of the code.
+// Compares the tables of docs/file-formats.md with those of the code.
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ Rows RowsOf(const LayoutInfo& layout) {
   return rows;
 }
 
-// The first five cells of a row of a table, trimmed.
+// Returns the first five cells of a table row, trimmed.
 std::string CellsOf(const std::string& line) {
   std::istringstream stream(line.substr(1));
   std::string cells;
@@ -46,7 +46,7 @@ std::string CellsOf(const std::string& line) {
   return cells;
 }
 
-// By the name of the layout; without headings.
+// Returns the tables by the name of their layout, without headings.
 std::map<std::string, Rows> TablesOf(const char* page) {
   std::map<std::string, Rows> tables;
   std::ifstream file(page);

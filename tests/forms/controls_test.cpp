@@ -60,7 +60,8 @@ TEST(ControlsTest, NamesKeysAndFocus) {
   EXPECT_EQ(screen.pressed, "find ok left ");
 }
 
-// Hidden by itself or by its frame, or disabled: nothing gets to it. The focus that it has stays.
+// A hidden or disabled control, or one in a hidden frame, gets no events. If it has the focus, it
+// keeps it.
 TEST(ControlsTest, WhatCannotBeReachedHasNoEvents) {
   TestInstall install;
   const auto screen = std::make_shared<Sampler>(ScreenContext{install.state(), *install.host});
@@ -119,7 +120,7 @@ TEST(HeadlessHostTest, QueuedAnswersFitTheirBox) {
   const Box box{"T", "", BoxIcon::kQuestion, {BoxButton::kYes, BoxButton::kNo}, 1};
   host.QueueAnswer("T", "Yes", true);
   host.QueueAnswer("T", "no");
-  EXPECT_EQ(host.Ask(box), BoxButton::kNo);  // the one for just the next box comes first
+  EXPECT_EQ(host.Ask(box), BoxButton::kNo);  // the answer for the next box comes first
   EXPECT_EQ(host.Ask(box), BoxButton::kYes);
   EXPECT_EQ(host.Ask(box), BoxButton::kYes);
   EXPECT_EQ(host.bad_answer(), "");

@@ -1,7 +1,7 @@
-// Arbitrary bytes as each kind of file: the first byte picks the kind, the others are the file. All
-// other files are those of a made-up club. Every field is shown, and every read of its store that
-// mends or works out something is called. A NumberedError is an answer; anything else ends the
-// program.
+// Takes arbitrary bytes as each kind of file. The first byte picks the kind, and the others are the
+// file. All other files are those of a made-up club. The target shows every field and calls every
+// read of the store that mends or calculates something. A NumberedError is an answer; anything else
+// ends the program.
 
 #include <algorithm>
 #include <array>
@@ -51,7 +51,7 @@ template <class Object, class... Members>
 void CallEach(Object& object, Members... members) {
   (Try([&] { std::invoke(members, object); }), ...);
 }
-// With the indexes `first` to `last` and one on either side.
+// Calls the members with the indexes `first` to `last` and one more on either side.
 template <class Object, class... Members>
 void CallEachFromTo(Object& object, int first, int last, Members... members) {
   for (int i = first - 1; i <= last + 1; ++i) (Try([&] { std::invoke(members, object, i); }), ...);
@@ -67,7 +67,7 @@ void Need(bool holds) {
   if (!holds) std::abort();
 }
 
-// As a person and a program are shown it.
+// Shows a record in the forms for people and for programs.
 void ShowRecord(const LayoutInfo& layout, std::string_view record) {
   for (const Field& field : layout.fields) {
     PlainLines(field, record);
@@ -200,7 +200,7 @@ void WalkLeagues(SharedState& state) {
   Need(batches && batches->selected < static_cast<int>(batches->list.size()));
 }
 
-// All that is worked out of the first entries, and of the tournament.
+// Calculates all results of the first entries and of the tournament.
 void WalkScores(SharedState& state) {
   OpenTournament(state, 1);
   Player& player = state.Player();

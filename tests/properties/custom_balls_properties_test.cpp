@@ -1,4 +1,4 @@
-// The picks of balls against a second account of them, written down step by step.
+// Compares the picks of balls with a second, step-by-step calculation.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -12,11 +12,11 @@ namespace golf {
 namespace {
 
 struct Card {
-  int values[4];  // gross, net and their points; no gross: not played
+  int values[4];  // gross, net and their points; a gross of 0 is not played
   int strokes;
 };
 
-// One hole of one team, worked out in the order in which it is told: flags and loops.
+// One hole of one team, calculated in the order of the rules with flags and loops.
 struct PlainHole {
   std::vector<Card> cards;
   PlaceCodes places[2];

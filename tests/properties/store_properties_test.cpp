@@ -1,4 +1,4 @@
-// What must hold for every record, and not just for those of the tables.
+// Tests what must hold for every record, not only for those of the tables.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -25,14 +25,15 @@ std::string AnyBytes(std::size_t size) {
   return bytes;
 }
 
-// A setter of any form, by the field that it sets: indexes in their order, then the value.
+// A setter of any form and the field that it sets. The setter takes the indexes first, then the
+// value.
 template <class Object>
 struct Setter {
   template <class... Arguments>
   Setter(std::string_view name, void (Object::*setter)(Arguments...))
       : field(name), call([setter](Object& object, const std::vector<int>& indexes, int value) {
           std::size_t next = 0;
-          // In braces the arguments are made from left to right.
+          // Braces evaluate the arguments from left to right.
           std::tuple<Arguments...> arguments{Argument<Arguments>(indexes, next, value)...};
           std::apply([&](auto... each) { (object.*setter)(each...); }, arguments);
         }) {}
@@ -62,8 +63,8 @@ class StoreProperties : public testing::Test {
     program.OpenMasterFile();
   }
 
-  // A random record comes back as it was, and each of the setters changes no byte but those of its
-  // own element, a random one.
+  // A random record comes back unchanged. Each setter changes only the bytes of its own, random
+  // element.
   template <class Layout, class Object>
   void TouchesItsElementOnly(Object& object, const std::vector<Setter<Object>>& setters,
                              std::string file, const std::function<void()>& load,
@@ -71,7 +72,7 @@ class StoreProperties : public testing::Test {
     std::string& bytes = memory.Bytes("qbdata/" + file);
     bytes = AnyBytes(Layout::kLength);
     state.files.Synchronize();
-    if (file == "X0001.Q9C") bytes.replace(966, 4, "2005");  // any other is brought up to date
+    if (file == "X0001.Q9C") bytes.replace(966, 4, "2005");  // others are brought up to date
     const std::string before = bytes;
     for (const auto& setter : setters) {
       const auto field = std::find_if(Layout::kFields.begin(), Layout::kFields.end(),
@@ -102,7 +103,7 @@ class StoreProperties : public testing::Test {
     return application.state();
   }
 
-  MemoryPlatform& memory = *new MemoryPlatform;  // the application's
+  MemoryPlatform& memory = *new MemoryPlatform;  // owned by the application
   Application application{std::unique_ptr<Platform>(&memory)};
   SharedState& state = Started();
   ProgramClass& program = state.Program();

@@ -1,4 +1,4 @@
-// The screens of a course library: what they refuse, and what they leave in the files.
+// Tests what the screens of a course library refuse and what they leave in the files.
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t kLength = 3226;
 
-// An active course of 18 holes: one valid tee, Blue, in slot 2.
+// Returns an active course of 18 holes with one valid tee, Blue, in slot 2.
 std::string Course(const std::string& name) {
   std::string bytes = Pattern(kLength);
   bytes.replace(216, 1010, 1010, '\0');  // from the ratings to the link
@@ -44,7 +44,7 @@ class CourseLibraryTest : public testing::Test {
   template <class AnyScreen>
   using Work = std::function<void(AnyScreen&)>;
 
-  // Opens Quenby's table and works each screen that comes up.
+  // Opens Quenby's table and works each screen that opens.
   void Run(const Work<CourseTable>& table, const Work<CourseForm>& form = {},
            const Work<CourseTee>& tee = {}) {
     const auto work = [=](Screen& screen) {
@@ -62,7 +62,7 @@ class CourseLibraryTest : public testing::Test {
   Work<Screen> Presses(const char* button) {
     return [=, this](Screen& screen) { host().Press(screen, button); };
   }
-  // As the operator pastes.
+  // Enters a text as the operator does by pasting.
   void Set(Screen& screen, const char* name, const std::string& text) {
     auto* box = dynamic_cast<TextBox*>(screen.FindControl(name));
     ASSERT_NE(box, nullptr) << name;
@@ -72,7 +72,7 @@ class CourseLibraryTest : public testing::Test {
   }
   void Write(const std::string& courses) { install.folder.Write("qbdata/qbcrs.dat", courses); }
   std::string Read(const char* file) { return install.folder.Read(std::string("qbdata/") + file); }
-  // What was asked and told since the last call, screens apart.
+  // Returns the boxes since the last call, without the screens.
   std::string Told() {
     std::string told;
     for (const std::string& event : install.events()) {
@@ -109,7 +109,7 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
       "message [You have entered an incorrect value.] Par must be between 1 and 6 -> OK\n";
   const struct {
     const char *control, *text, *shown;
-    std::string told;  // nothing: the tee is taken
+    std::string told;  // empty: the tee is accepted
     bool required = false;
   } kCases[] = {
       {"FTeeNameAbv", " ", " ", name},
@@ -158,7 +158,7 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
           EXPECT_EQ(host().IsShown(tee), !c.told.empty());
         });
     EXPECT_TRUE(
-        SameFile("qbcrs.dat", Read("qbcrs.dat"), Course("Dunes")));  // it was left by Cancel
+        SameFile("qbcrs.dat", Read("qbcrs.dat"), Course("Dunes")));  // Cancel left it unchanged
   }
 }
 
@@ -189,7 +189,7 @@ TEST_F(CourseLibraryTest, ANewBackNineIsStoredTwice) {
         tee.BackHoleNumber.Select(18);
         tee.MoveFocus(&tee.FYardage[9]);
         for (const char key : std::string("123456789")) {
-          dynamic_cast<TextBox*>(tee.focus())->TypeKey(key);  // three holes, the focus moving on
+          dynamic_cast<TextBox*>(tee.focus())->TypeKey(key);  // three holes; the focus moves on
         }
         tee.MoveFocus(&tee.FPar[9]);
         for (const char key : std::string("435")) {
@@ -220,7 +220,7 @@ TEST_F(CourseLibraryTest, ANewBackNineIsStoredTwice) {
     PutCells(expected, {{nine + 540, 4}, {nine + 552, 3}, {nine + 564, 5}});
     PutCells(expected, {{nine + 792, 2}, {nine + 804, 4}, {nine + 816, 6}});
   }
-  // Holes without a handicap come first; the totals are those of the nine that was entered.
+  // Holes without a handicap come first. The totals are those of the nine that was entered.
   for (std::size_t at = 1008; const int hole : {13, 14, 15, 16, 17, 18, 10, 11, 12}) {
     Put16(expected, std::exchange(at, at + 12), {hole});
   }
@@ -327,7 +327,7 @@ TEST_F(CourseLibraryTest, ANumberWithoutRoomLeavesTheRecordAndTheEntriesAsTheyAr
       });
   std::string expected = Course("Dunes");
   PutCells(expected, {{314, 100}, {542, 5}, {758, 37}, {782, 73}});
-  PutCells(expected, {{506, 942}, {530, 1968}});  // 942.5 and 1968.5 go to the even neighbour
+  PutCells(expected, {{506, 942}, {530, 1968}});  // 942.5 and 1968.5 round to even
   EXPECT_TRUE(SameFile("qbcrs.dat", Read("qbcrs.dat"), expected));
 }
 
@@ -335,7 +335,7 @@ TEST_F(CourseLibraryTest, ASiblingsOwnLibraryIsOpenedOnRequestUnlessItIsHeld) {
   install.folder.Write("kvdata/kvcrs.dat", Course("Dunes"));
   std::vector<Tool> tools = Tools();
   std::erase_if(tools, [&](const Tool& tool) { return !tool.is_there(install.state()); });
-  ASSERT_EQ(tools.size(), 3u);  // and the two that work on teams
+  ASSERT_EQ(tools.size(), 3u);  // and the two tools for teams
   EXPECT_EQ(tools[0].caption, "Course library of &Kelvane...");
   const auto open = [&] { host().Operate([&] { tools[0].open(install.state(), host()); }); };
   open();  // the answer was No

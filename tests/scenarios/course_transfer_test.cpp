@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t kLength = 3226;
 
-// A course of which every byte differs from its neighbours, so that a byte out of place is seen.
+// Returns a course in which neighbouring bytes differ, so that a byte out of place shows.
 std::string Course(const std::string& name, int active = 1, int holes = 18, int link = 0) {
   std::string bytes(kLength, '\0');
   for (std::size_t i = 0; i < kLength; ++i) {
@@ -28,7 +28,7 @@ std::string Course(const std::string& name, int active = 1, int holes = 18, int 
   return bytes;
 }
 
-// What a transfer must leave behind, worked out from whole files in memory.
+// The expected result of a transfer, worked out from whole files in memory.
 struct Outcome {
   std::string library;
   std::string index9, index18, index_all;
@@ -92,7 +92,7 @@ Outcome Expected(const std::string& kelvane, const std::string& quenby,
   return outcome;
 }
 
-// The operator's way: menu, transfer, and back.
+// Works as the operator does: menu, transfer, and back.
 void RunTransfer(TestInstall& install) {
   install.Open("TransferMenu", [&](Screen& screen) {
     const bool menu = screen.name() == "TransferMenu";
@@ -139,7 +139,7 @@ TEST(CourseTransferTest, FilesByteForByte) {
   for (const Library& library : Libraries()) {
     SCOPED_TRACE(library.what);
     TestInstall install;
-    // A library that is missing comes into being.
+    // A missing library comes into being.
     if (!library.kelvane.empty()) install.folder.Write("kvdata/KVCRS.DAT", library.kelvane);
     if (!library.quenby.empty()) install.folder.Write("qbdata/qbcrs.dat", library.quenby);
     if (!library.index18.empty()) install.folder.Write("qbdata/18CRSQB.INX", library.index18);
@@ -178,7 +178,7 @@ TEST(CourseTransferTest, EachFileOperationFailsOnceAndNothingIsLost) {
     const std::string left = install.folder.Read("qbdata/qbcrs.dat");
     EXPECT_EQ(left.size() % kLength, 0u);
     EXPECT_EQ(GetRecord(left, 1) == Course("Own"), true);
-    // The next run puts everything right.
+    // The next run completes the transfer.
     install.Restart();
     RunTransfer(install);
     EXPECT_TRUE(Holds(install.folder, "qbdata/qbcrs.dat", outcome.library));

@@ -56,7 +56,7 @@ struct Choice {
   bool items = false;
 };
 
-// One golfer's record as it must be afterwards, worked out from bytes.
+// Returns one golfer's expected record, worked out from bytes.
 std::string Copied(const std::string& old, const std::string& from, const Choice& choice) {
   std::string to = old;
   const auto text = [&](std::size_t at, std::size_t size, std::size_t source, std::size_t width) {
@@ -73,7 +73,7 @@ std::string Copied(const std::string& old, const std::string& from, const Choice
   float index = SingleAt(from, 418), handicap = SingleAt(from, 427);
   if (choice.method >= 100) index = handicap;
   if (std::string(Trim(from.substr(431, 6))) <= "*") index = handicap = 0;
-  if (choice.factor != 1) {  // an index goes by its text, which has no minus
+  if (choice.factor != 1) {  // the index comes from its text, which has no minus
     index = static_cast<float>(std::round(std::fabs(index) * 10) / 10 * choice.factor);
     handicap = static_cast<float>(std::round(handicap * 100) / 100 * choice.factor);
   }
@@ -103,7 +103,7 @@ struct Outcome {
   int updated = 0, added = 0;
 };
 
-// By searching the whole file for each golfer, as a reader of the rules would.
+// Works out the result by searching the whole file for each golfer.
 Outcome Expected(const std::string& kelvane, const std::string& quenby, const Choice& choice) {
   Outcome out{quenby};
   const auto record = [&](std::size_t i) { return RecordAt(out.file, i, kTo); };
@@ -144,7 +144,7 @@ class GolferTransferTest : public testing::Test {
     install.folder.Write("qbdata/QBGOLFER.Q9D", quenby);
     install.folder.Write("qbdata/QBROSTER.Q9D", RosterList());
   }
-  // The operator's way, from the transfer to its end.
+  // Works as the operator does, from the transfer to its end.
   void Run(const Choice& choice) {
     install.Open("KVtoQB", [&](Screen& screen) {
       if (PickRoster<LoadRoster>(*install.host, screen, 1)) return;
@@ -213,7 +213,7 @@ TEST_F(GolferTransferTest, FilesByteForByte) {
     EXPECT_TRUE(Holds(install.folder, "kvdata/club.kvg", SomeGolfers()));
     EXPECT_TRUE(Told(install, Report(outcome)));
   }
-  // What the last run leaves for the next.
+  // The last run leaves these settings for the next.
   std::string settings =
       "1\r\n0\r\n\"Members" + std::string(25, ' ') + "002\"\r\n\"CLUB\"\r\n0\r\n";
   for (int row = 2; row <= 16; ++row) settings += "\"0\"\r\n";
@@ -241,7 +241,7 @@ TEST_F(GolferTransferTest, UpdatesTheActiveTournament) {
   EXPECT_TRUE(install.LastMessage().ends_with("' handicaps updated. -> OK"));
 }
 
-// A fault on the way leaves whole records, and the next run puts everything right.
+// After a fault on the way all records are whole, and the next run completes the transfer.
 TEST_F(GolferTransferTest, EachFileOperationFailsOnce) {
   const Outcome outcome = Expected(SomeGolfers(), SomePlayers(), {});
   ForEachFault([&](int nth) {
@@ -266,7 +266,7 @@ TEST_F(GolferTransferTest, EachFileOperationFailsOnce) {
   EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", outcome.file));
 }
 
-// Golfers whom Quenby has and others, in turn.
+// Returns golfers whom Quenby has and golfers whom it does not have, in turn.
 std::string MixedGolfers() {
   std::string golfers;
   for (int id = 1; id <= 16; ++id) {
@@ -281,8 +281,8 @@ std::string EverySecondPlayer() {
   return file;
 }
 
-// Nobody gets anything of another golfer, whatever fails; whoever is left out is told of, and comes
-// with the next run.
+// Whatever call fails, no golfer gets data of another one. A golfer who is left out is named, and
+// the next run transfers him.
 TEST_F(GolferTransferTest, EachCallFailsOnceAndTheNextRunBringsTheRest) {
   const std::string before = EverySecondPlayer();
   const Outcome outcome = Expected(MixedGolfers(), before, {});
@@ -303,8 +303,8 @@ TEST_F(GolferTransferTest, EachCallFailsOnceAndTheNextRunBringsTheRest) {
   });
 }
 
-// A record that can never be read: its golfer is left out by name, and so is everybody who may
-// stand there.
+// If a record can never be read, its golfer is left out by name, and so is everybody who may be in
+// that record.
 TEST_F(GolferTransferTest, AReadThatAlwaysFailsLeavesOutByName) {
   Prepare(MixedGolfers(), EverySecondPlayer(), {});
   install.Restart();
@@ -366,9 +366,9 @@ TEST_F(GolferTransferTest, RefusalsAndHeldFiles) {
   const struct {
     const char *kelvane, *quenby;
     std::string event;
-    bool button;          // is still there
-    const char* file{};   // that cannot be opened in the run
-    ErrorNumber error{};  // for this reason
+    bool button;          // the button is still there
+    const char* file{};   // the file that cannot be opened in the run
+    ErrorNumber error{};  // the reason
   } kCases[] = {
       {" ", "x001", select + "Kelvane" + before, true},
       {"club", "", select + "Quenby" + before, true},

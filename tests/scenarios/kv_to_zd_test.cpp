@@ -31,7 +31,7 @@ struct Case {
   int event = 2;
 };
 
-// The files after a run, worked out record by record from what is searched.
+// The files after a run, worked out record by record with searches.
 struct Outcome {
   explicit Outcome(const Case& c) : players(c.players), substitutes(c.substitutes) {
     for (std::size_t g = 1; g <= c.golfers.size() / kGolferBytes; ++g) {
@@ -84,7 +84,7 @@ void WriteInstall(const TestInstall& install, const Case& c) {
                        LeagueControl("Twilight", c.last_substitute, 3, c.event));
   install.folder.Write("zddata/00011.ZP8", c.players);
   install.folder.Write("zddata/0001.ZS8", c.substitutes);
-  // A number, unlike the word that is written, brings the option back.
+  // A number brings the option back, unlike the word that the screen writes.
   install.folder.Write("KVtoZD.DAT", "\"CLUB\"\r\n\"" + kLeague + "\"\r\n" + (c.nine ? "1" : "0") +
                                          "\r\n\"" + c.percent + "\"\r\n");
 }
@@ -138,7 +138,7 @@ TEST(KVtoZDTest, FilesAndLogByteForByte) {
 TEST(KVtoZDTest, ScoresOfTheCurrentEventAreAskedAbout) {
   Case c = Cases()[0];
   Put16(c.players, kLeaguePlayerBytes + 872, {40});  // of event 2
-  Put16(c.players, 870, {40, 0, 40});                // of others
+  Put16(c.players, 870, {40, 0, 40});                // of other events
   for (const char* answer : {"No", "Yes"}) {
     TestInstall install;
     WriteInstall(install, c);
@@ -188,7 +188,7 @@ TEST(KVtoZDTest, EachFileOperationFailsOnceAndNothingIsLost) {
     TestInstall install;
     WriteInstall(install, c);
     install.platform->Fail({.error = ErrorNumber::kDiskFull, .nth = nth, .bytes_first = 100});
-    // Settings that cannot be read leave the screen empty.
+    // If the settings cannot be read, the screen stays empty.
     if (Transfer(install) != outcome.log) {
       EXPECT_TRUE(Told(install, "error 61") || Told(install, "close KVtoZD") ||
                   !install.host->faults().empty());
@@ -203,8 +203,8 @@ TEST(KVtoZDTest, EachFileOperationFailsOnceAndNothingIsLost) {
   });
 }
 
-// Whoever cannot be read is left out and told of; the others follow, and he comes with the next
-// run.
+// A golfer who cannot be read is left out and named, and the others follow. The next run transfers
+// him.
 TEST(KVtoZDTest, EachReadFailsOnce) {
   Case c = Cases()[0];
   c.golfers = Golfer(1, 7, "Seven", 10) + Golfer(1, 9, "Nine", 9) + Golfer(1, 8, "Eight", 8);

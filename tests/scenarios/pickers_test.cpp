@@ -1,4 +1,4 @@
-// The pickers of rosters, and what screens remember.
+// Tests of the roster pickers and of what screens remember.
 
 #include <gtest/gtest.h>
 
@@ -80,7 +80,7 @@ TEST_F(PickersTest, KelvaneRostersAreMadePickedAndDeleted) {
     Press(picker, "DeleteButton");
     EXPECT_EQ(Column(picker.grid1, 2), "CUT;FULL;NINES;");
     picker.grid1.SetActiveRow(2);
-    Press(picker, "DeleteButton");  // the one in hand: asked again, and the answer was No
+    Press(picker, "DeleteButton");  // the open roster: it asks again, and the answer was No
     picker.grid1.SetActiveRow(1);
     Press(picker, "LoadButton");
   });
@@ -152,7 +152,7 @@ TEST_F(PickersTest, QuenbyRostersAreKept) {
   EXPECT_EQ(install.folder.Read("qbdata/QBROSTER.Q9D").size(), 3 * 413u);
 }
 
-// The two ticks, both rosters, the third tick, and the first two cells of the grid.
+// Reads the two ticks, both rosters, the third tick, and the first two cells of the grid.
 TEST_F(PickersTest, DamagedSettingsAreSurvived) {
   const std::pair<const char*, const char*> kCases[] = {
       {"", "00|0 00"},

@@ -22,15 +22,15 @@ struct Player {
   bool lady = false;
   int missing_hole = 0;
   bool sent = false;
-  int adjusted = 0;  // a total that was typed in
+  int adjusted = 0;  // a total that was entered
 };
 
-// What the operator chooses, and what the tournament is.
+// The operator's choices and the tournament.
 struct Setting {
-  int course = -1;  // the item in the list; what is matched if below 0
+  int course = -1;  // the item in the list; below 0: the matched one
   bool as_tournament = false, points = false, by_total = false, date = true;
   int holes = 18, roster_holes = 18;
-  std::string half = std::string(9, '\0');  // of each golfer, as it waits
+  std::string half = std::string(9, '\0');  // the waiting nine of each golfer
 };
 
 std::string Half(int score, float rating, int slope, int tee = 1) {
@@ -42,12 +42,12 @@ std::string Half(int score, float rating, int slope, int tee = 1) {
   return half;
 }
 
-// An entry as it must be in a history: bytes from its course to its slope, and so on.
+// The expected entry of a history: the bytes from its course to its slope, and so on.
 struct Score {
   int course, tee;
   float rating;
   int slope;
-  int first_hole;  // that holds a 4; 0 for none
+  int first_hole;  // the first hole that holds a 4; 0 for none
   int gross, adjusted, type, handicap;
   bool counts = true;  // putts, fairways, greens
 
@@ -139,7 +139,7 @@ class QbToKvTest : public testing::Test {
     std::string header(781, '\1');
     header[152] = static_cast<char>(setting.roster_holes);
     header[153] = '\0';
-    Put(header, 220, {kNow, kDay - 1, kDay, 0.0});  // counters 3, 4 and 2: not, yes, yes
+    Put(header, 220, {kNow, kDay - 1, kDay, 0.0});  // counter 3 does not count it, 4 and 2 do
     install.folder.Write("kvdata/CLUB.KV5", header);
     roster_before.clear();
     for (const int id : {50, 11, 12, 11}) {  // the first place is free
@@ -200,7 +200,7 @@ class QbToKvTest : public testing::Test {
   }
 
   TestInstall install;
-  std::string roster_before, history_before, entries_before;  // then as they must be
+  std::string roster_before, history_before, entries_before;  // later as expected
   std::string report, captions;
 };
 
@@ -270,7 +270,7 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
   EXPECT_TRUE(Told(install, "message [Notice] 1 golfers were NOT found. -> OK"));
 
   install.host->QueueAnswer("Transfer again?", "Yes");
-  Run({});  // the first one goes again
+  Run({});  // the first one is transferred again
   Post(2, man.Bytes(kDay));
   ExpectFiles({});
   EXPECT_EQ(
@@ -295,8 +295,8 @@ TEST_F(QbToKvTest, Refusals) {
   }
 }
 
-// No score twice, none flagged that is in no history, and no history ahead of its golfer; a golfer
-// may be ahead of his history, by the score that was being written.
+// No score is posted twice, no entry is flagged whose score is in no history, and no history is
+// ahead of its golfer. A golfer may be ahead of his history by the score that was being written.
 TEST_F(QbToKvTest, EachFileOperationFailsOnce) {
   ForEachFault([&](int nth) {
     Prepare({}, {{11}, {12, true}});
@@ -320,8 +320,8 @@ TEST_F(QbToKvTest, EachFileOperationFailsOnce) {
   EXPECT_EQ(install.LastMessage(), "message [Notice] 2 Scores transferred. -> OK");
 }
 
-// A player whose records cannot be read is left out and told of; nobody gets anything of another
-// one, and the next run posts what is missing.
+// A player whose records cannot be read is left out and named. No player gets data of another one,
+// and the next run posts what is missing.
 TEST_F(QbToKvTest, EachReadFailsOnce) {
   const std::vector<Player> players = {{11}, {12, true}};
   Prepare({}, players);

@@ -14,7 +14,7 @@ constexpr std::size_t kGolferBytes = 2804, kHistoryBytes = 14700, kEntryBytes = 
 constexpr double kDay = 45400;                 // of event 2
 constexpr int kEvent2 = 3, kBeforeEvent2 = 2;  // in the list of batches
 
-// An entry that a run adds to the history at a place of the roster; a half of one if it says so.
+// An entry that a run adds to the history at a place of the roster, or a waiting half.
 struct Posted {
   std::size_t place;
   int score, course, tee;
@@ -29,7 +29,8 @@ struct Roster {
   bool operator==(const Roster&) const = default;
 };
 
-// Golfers with these IDs, of whom one is gone, with a score a day from kDay + 1 back.
+// Returns golfers with these IDs, one of them deleted. Each has a score a day, the newest on kDay +
+// 1.
 Roster SomeRoster() {
   Roster roster;
   for (const int id : {11, -11, 12, 13, 14, 15, 16, 17, 18, 11}) {
@@ -46,7 +47,7 @@ Roster SomeRoster() {
   return roster;
 }
 
-// The roster after each write of a run that posts these.
+// Returns the roster after each write of a run that posts these entries.
 std::vector<Roster> States(const std::vector<Posted>& posted) {
   std::vector<Roster> states = {SomeRoster()};
   for (const Posted& p : posted) {
@@ -71,7 +72,7 @@ std::vector<Roster> States(const std::vector<Posted>& posted) {
       now.histories.erase(history + kHistoryBytes, kEntryBytes);
       for (std::size_t at = 455; at < 463; at += 2) Put16(golfer, at, {Int16At(golfer, at) + 1});
     }
-    if (p.kind == Posted::kJoinsHalf) states.push_back(now);  // the history goes first
+    if (p.kind == Posted::kJoinsHalf) states.push_back(now);  // the history is written first
     PutRecord(now.golfers, p.place, golfer);
     if (p.kind == Posted::kEntry) states.push_back({now.golfers, states.back().histories});
     states.push_back(now);
@@ -90,7 +91,7 @@ std::string Course(const std::string& name, int tee, const std::string& tee_name
   return std::string(course.Bytes());
 }
 
-// A golfer of the league with a score for event 2, and some apart from events.
+// Returns a golfer of the league with a score for event 2 and some scores outside events.
 std::string Player(int id, int sex, int team, int score, const std::string& last_name = "Z") {
   std::string bytes = LeaguePlayer(id, " Ann ", last_name);
   Put16(bytes, 382, {sex});
@@ -140,7 +141,7 @@ class ZDtoKVTest : public testing::Test {
     Put(events, 2, {float{kDay - 7}});
     Put(events, 224, {float{kDay}});
     folder.Write("zddata/00011.ZE8", events);
-    // What the men of team 1 played is there twice; what the ladies of team 2 played differs.
+    // The course that the men of team 1 played exists twice. That of the ladies of team 2 differs.
     folder.Write("zddata/zdcrs.dat", Course(" Pine", 2, "Blue", 0, 71.2f, 125) +
                                          Course("Oak", 3, "Red", 1, 70.2f, 120) +
                                          Course("Elm", 5, "Gold", 0, 66.04f, 99));
@@ -151,7 +152,7 @@ class ZDtoKVTest : public testing::Test {
                                          Course("Elm", 5, "gold", 0, 65.96f, 99));
     install.Restart();
   }
-  // The operator's way, with this item of the list of batches; the log in the end.
+  // Works as the operator does with this item of the list of batches. Returns the final log.
   std::string Run(int batch) {
     std::string log;
     install.Open("ZDtoKV", [&](Screen& screen) {
@@ -176,7 +177,7 @@ class ZDtoKVTest : public testing::Test {
     EXPECT_TRUE(SameFile("CLUB.kvg", left.golfers, expected.golfers));
     EXPECT_TRUE(SameFile("CLUB.kvs", left.histories, expected.histories));
   }
-  // The places where no golfer and history stand that one of these states has there.
+  // Returns the places whose golfer and history match none of these states.
   std::string StrangePlaces(const std::vector<Roster>& states) {
     const Roster left = Left();
     std::string strange;
@@ -274,7 +275,7 @@ TEST_F(ZDtoKVTest, ASecondRunAsksFirst) {
   }
 }
 
-// Whatever fails, each golfer is as after some write of his own; trying again completes the
+// Whatever call fails, each golfer is as after one of his own writes. Trying again completes the
 // histories.
 TEST_F(ZDtoKVTest, EachFileOperationFailsOnce) {
   for (const std::size_t which : {0u, 2u}) {
@@ -305,7 +306,7 @@ TEST_F(ZDtoKVTest, RefusalsAndBadInput) {
   const struct {
     const char* file;
     std::string bytes;
-    std::string event;  // how it begins
+    std::string event;  // its beginning
   } kCases[] = {
       {settings, "\"00011\"\r\n", "message [Info] You must select both source league and"},
       {settings, "\"00011\"\r\n3\r\n\"GONE\"\r\n", "message [Notice] Transfer Complete...0 scores"},

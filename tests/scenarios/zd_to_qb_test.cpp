@@ -29,7 +29,7 @@ std::string Key(const std::string& record, std::size_t last, std::size_t last_wi
                    std::string(Trim(record.substr(first, first_width))));
 }
 
-// The rule of the list of IDs, walked anew for each.
+// Returns the next free ID by walking the whole list each time.
 int NextID(std::vector<int> ids) {
   std::sort(ids.begin(), ids.end());
   std::erase_if(ids, [](int id) { return id <= 0; });
@@ -198,7 +198,7 @@ TEST(ZDtoQBTest, BadInputChangesNothing) {
   }
 }
 
-// Whatever fails, the file holds the work up to some golfer; trying again completes it.
+// Whatever call fails, the file holds the work up to some golfer. Trying again completes it.
 TEST(ZDtoQBTest, EachFileOperationFailsOnceAndIsTriedAgainOrGivenUp) {
   const Case c = Cases()[0];
   const Outcome outcome(c);
@@ -230,7 +230,7 @@ TEST(ZDtoQBTest, EachFileOperationFailsOnceAndIsTriedAgainOrGivenUp) {
   }
 }
 
-// After a failed read that was given up the next run brings everybody, each once.
+// After a failed read and Cancel, the next run transfers every golfer once.
 TEST(ZDtoQBTest, EachReadFailsOnceAndTheNextRunBringsTheRest) {
   const Case c{"different names",
                Golfer(50, "Al", "Able") + Golfer(52, "B", "Be"),

@@ -1,4 +1,4 @@
-// Report layouts: their files, their builder, and the ranking of teams under them.
+// Tests of report layouts: their files, their builder, and the ranking of teams under them.
 
 #include <numeric>
 
@@ -96,7 +96,7 @@ TEST_F(CustomTeamsTest, LayoutsThatAreOutOfTheOrdinary) {
   };
   const struct {
     std::string bytes;
-    const char* told;  // by the builder, before it is left
+    const char* told;  // by the builder, before it closes
   } kCases[] = {
       {good, "Cancel?"},
       {good.substr(0, 400), "lacks the end of a text."},

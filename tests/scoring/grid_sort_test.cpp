@@ -12,7 +12,7 @@ namespace {
 using Rows = std::vector<std::vector<std::string>>;
 constexpr SortOrder kDown = SortOrder::kDescending;
 
-// Fills columns 1 and up.
+// Fills the columns from 1 on.
 void Fill(Grid& grid, const Rows& rows) {
   grid.SetRows(static_cast<int>(rows.size()));
   for (std::size_t r = 0; r < rows.size(); ++r) {
@@ -127,7 +127,7 @@ TEST_F(GridSortTest, TheDialogSortsOrLeavesTheGridAlone) {
   EXPECT_EQ(dialog.SortList[0].items()[1], "Last Name" + std::string(60, ' ') + "001");
   EXPECT_EQ(dialog.SortList[0].items().size(), 3u);
   EXPECT_EQ(dialog.HowSortedDescription(), "Sorted by Score then by Last Name");
-  install.host->ShowModal(dialog);  // and leaves by its cancel button
+  install.host->ShowModal(dialog);  // its cancel button closes it
   EXPECT_EQ(dialog.Action() + Texts(grid, 1), "Cancelb|a|c|");
   install.host->drive = [&](Screen& screen) {
     dialog.Sort3Option[1].Choose(true);

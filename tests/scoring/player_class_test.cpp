@@ -98,7 +98,7 @@ TEST_F(PlayerClassTest, NineHolesOfATournamentOfNine) {
   scored.PlayInTurn(1, 9);
   scored.entry.Fill<"TourGrossHandicap">(6);
   scored.entry.Set<"TourScoreGross">({2, 1}, 9);
-  scored.entry.Set<"TourScoreGross">({10, 1}, 8);  // stored, but not of the round
+  scored.entry.Set<"TourScoreGross">({10, 1}, 8);  // stored, but not part of the round
   PlayerClass& player = Load();
   EXPECT_EQ(player.TourGrossTotalTiebreakUSGA(), "056,030,15,04");
   EXPECT_EQ(player.TourNetTotalTiebreakUSGA(), "042,026,13,03");
@@ -134,7 +134,7 @@ TEST_F(PlayerClassTest, TotalsOverRounds) {
   PlayerClass& player = Load();
   EXPECT_EQ(player.TourTotalGross() + player.TourTotalNet(), "270233");  // 232.5, away from zero
   EXPECT_EQ(player.TourTotalNet(2, 3) + player.TourTotalNet(3), "15578");
-  EXPECT_EQ(player.TourTotalGross({}, 1), "270");  // without a start the end is not looked at
+  EXPECT_EQ(player.TourTotalGross({}, 1), "270");  // without a start the end is ignored
   EXPECT_EQ(player.TourTotalQuotaResults() + player.TourTotalPutts(), "-7.5090");
   EXPECT_EQ(player.TourTotalEarnings(), "30.03");  // each counts in whole cents
   EXPECT_EQ(player.TourTotalGross(3, 2), "0");
@@ -149,7 +149,7 @@ TEST_F(PlayerClassTest, ARoundIsWorkedOutOnceForEachRead) {
   EXPECT_EQ(StrokesOf(player, 1), 12);
   player.SetTourGrossHandicap(1, 5);
   EXPECT_EQ(player.TourHandicap(), "12");
-  // The quota of round 2 is made from round 1, and its strokes stay those of the round before.
+  // The quota of round 2 comes from round 1, while its strokes stay those of the round before.
   EXPECT_EQ(player.TourQuota(false, 2), "24");
   player.TourHandicap(2);
   EXPECT_EQ(StrokesOf(player, 1), 3);
@@ -189,7 +189,7 @@ TEST_F(PlayerClassTest, CoursesAreReadOnceUntilTheyChange) {
   state.SpareCourse().SetHolePar(1, 18, 5);
   state.SpareCourse().SaveRecord(1);
   EXPECT_EQ(recalculated(), 5);
-  scored.course.Set<"HolePar">({1, 18}, 3);  // by another program, seen with the next click
+  scored.course.Set<"HolePar">({1, 18}, 3);  // by another program; seen at the next click
   install.folder.Write("qbdata/qbcrs.dat", scored.course.Bytes());
   state.files.Synchronize();
   EXPECT_EQ(recalculated(), 3);

@@ -9,7 +9,8 @@
 namespace golf {
 namespace {
 
-// A team of tournament 1, of golfers called A, B, C ... by their scores on holes 1, 2, ...
+// A team of tournament 1. Its golfers are named A, B, C ... and have these scores on holes 1, 2,
+// ...
 class TeamClassTest : public testing::Test {
  protected:
   struct Golfer {
@@ -20,7 +21,7 @@ class TeamClassTest : public testing::Test {
 
   TeamClass& Load(const std::vector<Golfer>& golfers) {
     scored.control.Set<"NumTeams">(199);
-    scored.entry.Set<"TourRosterRecordPointer">(0);  // the one that each load writes is nobody
+    scored.entry.Set<"TourRosterRecordPointer">(0);  // the entry of each load has no golfer
     PlayerClass& player = scored.Load(install.state());
     for (std::size_t i = 0; i < golfers.size(); ++i) {
       const auto record = static_cast<std::int32_t>(i) + 2;
@@ -42,7 +43,7 @@ class TeamClassTest : public testing::Test {
     player.TourBlankPlayerRecord();
     const auto last = static_cast<std::int32_t>(golfers.size()) + 1;
     for (std::int32_t record = player.TourFileLength(); record > last; --record) {
-      player.SaveRecord(record, true);  // of the load before
+      player.SaveRecord(record, true);  // an entry of the load before
     }
     TeamClass& team = install.state().Team1();
     team.BlankTeamRecord();
@@ -59,7 +60,7 @@ TEST_F(TeamClassTest, BestBallsOfAHole) {
     std::vector<Golfer> golfers;
     int balls;
     const char *gross, *net;
-    const char* points;  // gross
+    const char* points;  // gross points
     const char* pair;
   } kCases[] = {
       {{{{4}}, {{4}}, {{5}}}, 2, "8", "8", "4", "8"},
@@ -67,7 +68,7 @@ TEST_F(TeamClassTest, BestBallsOfAHole) {
       {{{{0}}, {{0}}, {{5}}}, 2, "5", "5", "1", "5"},
       {{}, 1, "0", "0", "0", "0"},
       {{{{1000}}, {{9}}}, 2, "9", "9", "0", "1009"},
-      // The second golfer has the lowest gross and, with a stroke, the lowest net.
+      // The second golfer has the lowest gross score and, with a stroke, the lowest net score.
       {{{{5}}, {{4}, 18}, {{6}, 36}}, 1, "4", "3", "2", "8"},
       {std::vector<Golfer>(10, {{5}}), 12, "50", "50", "10", "10"},
       {{{{4}}, {{3}, 0, 2}}, 1, "4", "4", "2", "4"},
@@ -106,7 +107,7 @@ TEST_F(TeamClassTest, SumsAndHandicaps) {
     EXPECT_EQ(team.Quota(), c.quota);
     EXPECT_EQ(team.ScoreGross(21), 15);
     EXPECT_EQ(team.ScoreNet(1), 9);
-    EXPECT_EQ(team.ScoreNet(21), c.decimals ? 10 : 12);  // a net below 0 is shown with a plus
+    EXPECT_EQ(team.ScoreNet(21), c.decimals ? 10 : 12);  // a net score below 0 has a plus
     EXPECT_EQ(team.PointsNet(19), 2 + 1 + 4);
     EXPECT_EQ(team.Results().first_scorer, 2);
   }

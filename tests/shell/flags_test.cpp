@@ -1,4 +1,4 @@
-// What the operator can see, change and reach by Enter and Escape on each screen, as it opens.
+// Tests what the operator can see, change and reach by Enter and Escape when each screen opens.
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,8 @@
 namespace golf {
 namespace {
 
-// For each column: hidden, and in how many rows it is open; a locked one that shows is plain.
+// Returns the marks of each column: hidden, or open with the number of open rows. A visible locked
+// column has no mark.
 std::string MarksOf(const Grid& grid) {
   std::string marks;
   for (int column = 0; column <= grid.columns(); ++column) {
@@ -23,7 +24,7 @@ std::string MarksOf(const Grid& grid) {
   return marks;
 }
 
-// Hidden, disabled, read-only, the button of Enter or of Escape; plain if none of these.
+// Returns the marks of a control: hidden, disabled, read-only, the button of Enter or of Escape.
 std::string MarksOf(const Control& control) {
   if (!control.visible()) return "h";
   if (!control.enabled()) return "d";
@@ -35,7 +36,8 @@ std::string MarksOf(const Control& control) {
   return button->is_default() ? "E" : button->is_cancel() ? "X" : ".";
 }
 
-// A line of the controls that are not plain; those of one name, but for a number in it, together.
+// Returns a line with the marked controls. Controls whose names differ only in a number share an
+// entry.
 std::string FlagsOf(const Screen& screen) {
   std::map<std::string, std::string> marks;
   for (const Control* control : screen.controls()) {

@@ -9,7 +9,7 @@ namespace {
 
 class TipBoxTest : public testing::Test {
  protected:
-  void Tell(int type, const std::string& title, const std::string& text) {
+  void ShowMessage(int type, const std::string& title, const std::string& text) {
     tip.SetMessageType(type);
     tip.SetMessageTitle(title);
     tip.SetMessageText(text);
@@ -22,7 +22,7 @@ class TipBoxTest : public testing::Test {
 TEST_F(TipBoxTest, RemembersByTitle) {
   constexpr bool kTicked = true, kNotTicked = false;
   const std::string long_title = "A title of which thirty charac";
-  // A message, what the operator does with it, and what comes of it.
+  // A message, what the operator does, and the result.
   const struct {
     int type;
     std::string title;
@@ -32,11 +32,11 @@ TEST_F(TipBoxTest, RemembersByTitle) {
     std::string result;
   } kMessages[] = {
       {10, "Q", kTicked, "No", true, "NO"},
-      {10, "q", kNotTicked, "No", false, "YES"},  // Yes is assumed, whatever was answered
+      {10, "q", kNotTicked, "No", false, "YES"},  // Yes is assumed, whatever was answered before
       {1, "N", kTicked, "OK", true, "OK"},
       {11, "Other", kNotTicked, "No", true, "NO"},
       {1, "N", kNotTicked, "OK", false, "NO"},  // the last answer stays
-      {2, "N", kNotTicked, "OK", true, "OK"},   // shown all the same, and the tick is gone
+      {2, "N", kNotTicked, "OK", true, "OK"},   // always shown, and the tick is cleared
       {1, "N", kNotTicked, "OK", true, "OK"},
       {11, "Q", kNotTicked, "Yes", true, "YES"},
       {10, "Q", kNotTicked, "No", true, "NO"},
@@ -47,7 +47,7 @@ TEST_F(TipBoxTest, RemembersByTitle) {
     install.events().clear();
     install.listener.on_tip = [&] { tip.ShowMessage.Choose(message.tick); };
     if (message.shown) install.host->QueueAnswer(message.title, message.answer);
-    Tell(message.type, message.title, "text");
+    ShowMessage(message.type, message.title, "text");
     EXPECT_EQ(!install.events().empty(), message.shown) << message.title;
     EXPECT_EQ(tip.ResultReturned(), message.result) << message.title;
     EXPECT_FALSE(install.host->IsShown(tip));
@@ -61,18 +61,18 @@ TEST_F(TipBoxTest, EnterAnswersAQuestionWithNo) {
     EXPECT_TRUE(tip.is_question());
     EXPECT_TRUE(tip.always_on_top());
   };
-  Tell(TipBox::kQuestion, "Cancel Transfer?", "Sure?");
+  ShowMessage(TipBox::kQuestion, "Cancel Transfer?", "Sure?");
   EXPECT_EQ(install.events(), std::vector<std::string>({"tip 10 [Cancel Transfer?] Sure? -> NO"}));
   EXPECT_EQ(tip.ResultReturned(), "NO");
 }
 
 TEST_F(TipBoxTest, ModelessMessagesReturnAtOnce) {
-  Tell(TipBox::kModelessNotice, "Busy", "Working");
+  ShowMessage(TipBox::kModelessNotice, "Busy", "Working");
   EXPECT_TRUE(install.host->IsShown(tip));
   EXPECT_FALSE(tip.always_on_top());
   tip.OKButton.Click();
   EXPECT_FALSE(install.host->IsShown(tip));
-  Tell(7, "Tip", "Unseen");  // a type without a meaning
+  ShowMessage(7, "Tip", "Unseen");  // an unknown type
   EXPECT_FALSE(install.host->IsShown(tip));
   EXPECT_EQ(tip.MessageText(), "Unseen");
   EXPECT_EQ(tip.caption(), "Tip");

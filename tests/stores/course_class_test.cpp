@@ -111,7 +111,7 @@ TEST_F(CourseTest, RebuildSortsAndLeavesWhatLiesBehind) {
   install.folder.Write("qbdata/9crsqb.inx", Index({4, 1, 1, 1, 7}));
   OpenQuenby();
   Append("zeta", 18);
-  Append("\xE9toile", -9);  // sorts by the code of its capital, behind Z
+  Append("\xE9toile", -9);  // sorts by the code of its capital, after Z
   Append("Alpha", 9);
   Append("gone", 18, 0);
   Append("ALPHA", 18);

@@ -22,7 +22,7 @@ class KelvaneTest : public testing::Test {
     state.Now = [] { return kNow; };
   }
 
-  // A history with these dates, the newest first, and the course numbers 1, 2, ...
+  // Sets a history with these dates, the newest first, and the course numbers 1, 2, ...
   void SetHistory(const std::vector<double>& dates) {
     buffers.history = {};
     for (int i = 1; i <= static_cast<int>(dates.size()); ++i) {
@@ -142,14 +142,14 @@ TEST_F(KelvaneTest, AddingAScore) {
   const struct {
     std::vector<double> dates;
     double date;
-    Ints courses;  // 99 is the one added
+    Ints courses;  // 99 is the added score
   } rows[] = {{{}, 5, {99, 0}},
               {{30, 20, 10}, 40, {99, 1, 2, 3, 0}},
-              {{30, 20, 10}, 30, {99, 1, 2, 3, 0}},  // in front of its like
+              {{30, 20, 10}, 30, {99, 1, 2, 3, 0}},  // before the equal date
               {{30, 20, 10}, 25, {1, 99, 2, 3, 0}},
               {{30, 20, 20, 10}, 20, {1, 99, 2, 3, 4, 0}},
               {{30, 20, 10}, 5, {1, 2, 3, 99, 0}},
-              {{10, 30, 5}, 20, {99, 1, 2, 3, 0}}};  // only the next entry is looked at
+              {{10, 30, 5}, 20, {99, 1, 2, 3, 0}}};  // only the next entry is compared
   for (const auto& row : rows) {
     SetHistory(row.dates);
     AddScore(row.date);
@@ -196,14 +196,14 @@ TEST_F(KelvaneTest, CountersGoByTheDatesOfTheHeader) {
 TEST_F(KelvaneTest, RepositioningAnEntry) {
   const struct {
     int place;
-    double date;  // of the entry at that place, of 50 40 30 20 10
+    double date;  // of the entry at that place; the dates are 50 40 30 20 10
     int counter;
     Ints courses;
   } rows[] = {{1, 25, 5, {2, 3, 1, 4, 5}},  {1, 5, 5, {2, 3, 4, 5, 1}},
               {1, 45, 5, {1, 2, 3, 4, 5}},  {1, 40, 5, {1, 2, 3, 4, 5}},
               {5, 45, 5, {1, 5, 2, 3, 4}},  {5, 60, 5, {5, 1, 2, 3, 4}},
               {3, 40, 5, {1, 3, 2, 4, 5}},  {3, 20, 5, {1, 2, 3, 4, 5}},
-              {3, 15, 5, {1, 2, 4, 3, 5}},  {1, 5, 3, {2, 3, 1, 4, 5}},  // behind the counter
+              {3, 15, 5, {1, 2, 4, 3, 5}},  {1, 5, 3, {2, 3, 1, 4, 5}},  // not all are counted
               {5, 5, 3, {1, 2, 3, 5, 4}},   {4, 5, 0, {4, 1, 2, 3, 5}},
               {4, 60, -1, {1, 2, 3, 4, 5}}, {5, 60, 400, {5, 1, 2, 3, 4}}};
   for (const auto& row : rows) {

@@ -6,7 +6,7 @@
 namespace golf {
 namespace {
 
-// Tournament 12 of two rounds and ten teams, and twelve golfers in the roster file.
+// Tournament 12 with two rounds and ten teams, and twelve golfers in the roster file.
 class EntriesTest : public QuenbyTest {
  protected:
   EntriesTest() {
@@ -22,7 +22,7 @@ class EntriesTest : public QuenbyTest {
     player.TourOpenTournamentFile(12);
   }
 
-  // An entry of golfer `pointer`, by round on a team and in a place there.
+  // Returns an entry of golfer `pointer` with his team and his place there by round.
   std::string Entry(int pointer, std::initializer_list<int> teams = {},
                     std::initializer_list<int> places = {}) {
     std::string entry(3052, '\0');
@@ -39,7 +39,7 @@ class EntriesTest : public QuenbyTest {
     player.SaveRecord(1, true);
     return Read("X0012.Q9G");
   }
-  // Six entries of which 2 and 6 are free.
+  // Writes six entries. Entries 2 and 6 are free.
   void WriteSix() {
     Write("X0012.Q9G", Entry(10, {2, 1}, {1, 1}) + Entry(0, {1, 1}, {1, 1}) +
                            Entry(11, {12, 1}, {1, 1}) + Entry(12, {1, 0}, {2, 5}) +
@@ -59,7 +59,7 @@ TEST_F(EntriesTest, AnEntryBringsItsGolfer) {
   EXPECT_EQ(player.TourRosterRecordPointer(), 11);
   for (const auto& [record, held] : {std::pair{2, "000"}, {3, "-004"}}) {
     EXPECT_TRUE(player.GetRecord(record, true));
-    EXPECT_EQ(player.NameLast(), "Last11");  // nobody was read
+    EXPECT_EQ(player.NameLast(), "Last11");  // no golfer was read
     EXPECT_EQ(player.RecordNumber(), held);
   }
 }
@@ -96,17 +96,18 @@ TEST_F(EntriesTest, CountingAndFreeEntries) {
   EXPECT_EQ(player.TourFindAvailableRecordInFile(1), 3);
   player.TourDeleteTournamentFile(12);
   EXPECT_FALSE(install.folder.Exists("qbdata/X0012.Q9G"));
-  player.TourDeleteTournamentFile(12);  // swallowed
+  player.TourDeleteTournamentFile(12);  // its error is ignored
   EXPECT_EQ(ErrorOf([&] { player.TourFileLength(); }), 52);
 }
 
-// Round 1 has the keys 2001, 1 (team 12 counts as none), 1002, 1001 of the records 1, 3, 4, 5.
-// Round 2 has 1001, 1001, 5, 2001: the exchange over two places carries record 1 behind record 3.
+// In round 1 the records 1, 3, 4, 5 have the keys 2001, 1, 1002, 1001; team 12 counts as none. In
+// round 2 they have 1001, 1001, 5, 2001: the exchange over two places carries record 1 behind
+// record 3.
 TEST_F(EntriesTest, IndexByTeam) {
   WriteSix();
   std::string expected = Read("X0012.Q9G");
   Put16(expected, 2 * 3052 + 2, {0});
-  EXPECT_EQ(ErrorOf([&] { player.TourIndexPlayerbyTeam(1, 1); }), 9);  // there is none yet
+  EXPECT_EQ(ErrorOf([&] { player.TourIndexPlayerbyTeam(1, 1); }), 9);  // there is no index yet
   EXPECT_EQ(player.TourIndexNumberofPlayersInIndex(), 4);
   EXPECT_EQ(Read("X0012.Q9G"), expected);
   const struct {
@@ -135,7 +136,7 @@ TEST_F(EntriesTest, AnIndexOutOfDate) {
   player.GetRecord(4, true);
   player.SetTourTeamOn(1, 3);
   player.SaveRecord(4, true);
-  EXPECT_EQ(player.TourIndexPlayerbyTeam(3, 1), 4);  // the old one
+  EXPECT_EQ(player.TourIndexPlayerbyTeam(3, 1), 4);  // the old index
   EXPECT_EQ(player.TourIndex1stPlayerOnTeam(3, 1), 4);
   EXPECT_EQ(player.TourIndexPlayerbyTeam(3, 1), 1);
   Write("X0013.Q9G", Entry(12));
@@ -258,7 +259,7 @@ TEST_F(TeamsTest, NamedByTheirPlayers) {
   EXPECT_EQ(name_of(3), "Stored");
   tournament.SetActiveRound(2);
   EXPECT_EQ(name_of(1), "Last11, Last10");
-  // A golfer without a last name has a place in the row.
+  // A golfer without a last name keeps a place in the row.
   player.GetRecord(11, false);
   player.SetNameLast("");
   player.SaveRecord();

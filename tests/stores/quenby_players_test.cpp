@@ -169,7 +169,7 @@ TEST_F(RosterPlayersTest, RosterNames) {
     int which;
     std::string text;
   } rows[] = {{{2, 1, 3, 1}, 0, "Club 2;  Club 1;  Club 3"},
-              {{0, 1, 256, 3}, 0, ";  Club 1"},  // as for an earlier slot
+              {{0, 1, 256, 3}, 0, ";  Club 1"},  // the empty slot keeps its separator
               {{}, 0, ""},
               {{}, 1, "(Not in a roster)" + none},
               {{256, -1, 0, 0}, 2, "(Not in another roster)" + none},
@@ -190,7 +190,7 @@ TEST_F(RosterPlayersTest, FreeRecordsStartBehindTheFirstNine) {
     auto from = static_cast<std::int16_t>(start);
     EXPECT_EQ(player.FindAvailableRecordInRosterFile(from), found) << start;
     EXPECT_EQ(from, raised);
-    EXPECT_EQ(player.RecordNumber(), "010");  // the last one that was looked at
+    EXPECT_EQ(player.RecordNumber(), "010");  // the last record that was examined
   }
 }
 

@@ -36,7 +36,7 @@ TEST_F(ProgramTest, OpeningTheMasterFileAgainWritesTheBufferBack) {
   EXPECT_EQ(ErrorOf([&] { program.GetMasterRecord(); }), 52);
 }
 
-// A write of another file that was still to be made is not the master record's.
+// The failure of a pending write to another file is not the master record's and must be raised.
 TEST_F(ProgramTest, OnlyItsOwnFailureIsSwallowed) {
   program.OpenMasterFile();
   for (const bool opens : {false, true}) {

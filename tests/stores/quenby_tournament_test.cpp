@@ -5,7 +5,7 @@
 namespace golf {
 namespace {
 
-// A current control record, all numbers of which are 0.
+// Returns a control record of the current version whose numbers are all 0.
 std::string ZeroControl() {
   std::string record(1208, '\0');
   PutText(record, 0, 50, "Medal");
@@ -110,7 +110,7 @@ TEST_F(TournamentTest, RecordOfAnOlderReleaseIsBroughtUpToDateInTheBuffer) {
   EXPECT_EQ(Saved(), current);
 }
 
-// What CreateBlankTournament must make of a buffer.
+// Returns what CreateBlankTournament must make of a buffer.
 std::string BlankControl(std::string record) {
   PutText(record, 0, 50);
   Put16(record, 50, {1, 10, 4, 4, 4, 1, 1, 18, 0, 0, 0, 0, 1});
@@ -151,7 +151,7 @@ TEST_F(TournamentTest, CreateBlankTournamentByteForByte) {
     Load(before);
     Write("X0013.Q9T", Pattern(1339));
     team.OpenTeamFile(13);
-    team.GetRecord(1);  // its second tee times and starting holes are touched by nobody
+    team.GetRecord(1);  // its second tee times and starting holes must not change
     tournament.CreateBlankTournament(12);
     EXPECT_EQ(tournament.IDNum(), 12);
     EXPECT_EQ(Read("X0012.Q9C"), before);  // not written yet

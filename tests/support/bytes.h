@@ -11,7 +11,7 @@
 
 namespace golf {
 
-// Puts numbers into a record's bytes, one behind the other.
+// Puts numbers into a record's bytes, one after the other.
 template <class T>
 void Put(std::string& bytes, std::size_t at, std::initializer_list<T> values) {
   for (const T value : values) {
@@ -26,25 +26,25 @@ inline void Put16(std::string& bytes, std::size_t at, std::initializer_list<int>
   }
 }
 
-// Puts 16-bit numbers here and there.
+// Puts 16-bit numbers at these offsets.
 inline void PutCells(std::string& bytes,
                      std::initializer_list<std::pair<std::size_t, int>> offsets_and_values) {
   for (const auto& [at, value] : offsets_and_values) Put16(bytes, at, {value});
 }
 
-// Puts a text, with blanks up to its width.
+// Puts a text, filled with blanks up to its width.
 inline void PutText(std::string& bytes, std::size_t at, std::size_t width,
                     const std::string& text = "") {
   bytes.replace(at, width, width, ' ').replace(at, text.size(), text);
 }
 
-// A record of a file, from 1; zeros where the file ends.
+// Returns a record of a file, from 1. Bytes after the end of the file are zeros.
 inline std::string RecordAt(const std::string& file, std::size_t record, std::size_t length) {
   std::string bytes = file.substr(std::min((record - 1) * length, file.size()), length);
   bytes.resize(length, '\0');
   return bytes;
 }
-// Every whole record of a file, in their own order.
+// Returns the whole records of a file, sorted.
 inline std::multiset<std::string> RecordsOf(const std::string& file, std::size_t length) {
   std::multiset<std::string> records;
   for (std::size_t i = 1; i <= file.size() / length; ++i) {
@@ -52,7 +52,7 @@ inline std::multiset<std::string> RecordsOf(const std::string& file, std::size_t
   }
   return records;
 }
-// The records that stand in a file but in neither of two others, by their numbers.
+// Returns the numbers of the records of a file that neither of two other files has in that place.
 inline std::string StrangeRecords(const std::string& file, std::size_t length,
                                   const std::string& before, const std::string& after) {
   const auto known = RecordsOf(before + after, length);
@@ -62,13 +62,13 @@ inline std::string StrangeRecords(const std::string& file, std::size_t length,
   }
   return strange;
 }
-// Puts a record there, with zeros up to it where the file ended.
+// Puts a record into a file. Zeros fill the file up to it.
 inline void PutRecord(std::string& file, std::size_t record, const std::string& bytes) {
   file.resize(std::max(file.size(), record * bytes.size()), '\0');
   file.replace((record - 1) * bytes.size(), bytes.size(), bytes);
 }
 
-// The file of an index: 16-bit numbers.
+// Returns the bytes of an index file: 16-bit numbers.
 inline std::string Index(std::initializer_list<int> numbers) {
   std::string bytes(2 * numbers.size(), '\0');
   Put16(bytes, 0, numbers);
@@ -86,7 +86,7 @@ inline float SingleAt(const std::string& bytes, std::size_t at) {
   return LoadLittleEndian<float>(bytes.data() + at);
 }
 
-// A golfer's record of Quenby as it is made.
+// Returns the record of a new Quenby golfer.
 inline std::string BlankGolfer(double now) {
   std::string bytes(1867, '\0');
   PutText(bytes, 16, 27);
@@ -100,7 +100,7 @@ inline std::string BlankGolfer(double now) {
   return bytes;
 }
 
-// Bytes of which neighbours differ, none of them 0 or a blank.
+// Returns bytes whose neighbours differ. None is 0 or a blank.
 inline std::string Pattern(std::size_t size) {
   std::string bytes(size, '\0');
   for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>(0x81 + i % 97);

@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// The number of the error that `action` ends with; 0 if it ends with none.
+// Returns the number of the error that `action` raises, or 0 if it raises none.
 template <class Action>
 int ErrorOf(Action&& action) {
   try {

@@ -49,7 +49,7 @@ class FailingPlatform::File : public PlatformFile {
 
   FileIdentity Identity() const override { return real_->Identity(); }
 
-  // A file is closed also where that fails.
+  // Closes the file even if the call fails.
   void Close() override {
     real_->Close();
     platform_.Pass(Operation::kClose, path_);

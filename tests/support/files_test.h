@@ -13,10 +13,10 @@
 
 namespace golf {
 
-// A real install folder, empty, under a platform that can fail, under a file table.
+// A file table over a platform that can fail, on a real, empty install folder.
 class FilesTest : public testing::Test {
  protected:
-  // The path of a file. Its name is text, with "/" behind folders on every system.
+  // Returns the path of a file. Its name is text, with "/" after folders on every system.
   std::string At(std::string name) const {
     std::replace(name.begin(), name.end(), '/', platform.Separator());
     return platform.ProgramFolder() + name;

@@ -11,7 +11,7 @@ namespace golf {
 
 inline constexpr std::size_t kLeaguePlayerBytes = 8012;
 
-// Zandel's records by their offsets, with a pattern in what is not named.
+// Return Zandel's records by their offsets, with a pattern in the bytes without a name.
 inline std::string LeagueControl(const std::string& name, int last_substitute, int players,
                                  int event) {
   std::string bytes = Pattern(405);
@@ -33,8 +33,8 @@ inline std::string LeaguePlayer(int id, const std::string& first, const std::str
   return bytes;
 }
 
-// The operator's way from the menu: what the screen's log says after its run, whether or not that
-// ended with an error.
+// Works as the operator does from the menu. Returns the log of the screen after its run, also if an
+// error ends the run.
 template <class AnyScreen>
 std::string TransferFromMenu(TestInstall& install, const char* button) {
   std::string log;
@@ -48,7 +48,7 @@ std::string TransferFromMenu(TestInstall& install, const char* button) {
   return log;
 }
 
-// Files that a run refuses, and the event that tells of it.
+// Files that a run refuses, and the event that says so.
 struct BadInput {
   const char* file;
   std::string bytes;

@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// Holds a file so that no other program may open it.
+// Holds a file so that no other program can open it.
 class HeldFile {
  public:
   explicit HeldFile(const std::string& utf8_path);
@@ -14,7 +14,7 @@ class HeldFile {
   HeldFile& operator=(const HeldFile&) = delete;
   ~HeldFile();
 
-  // False where another has the file open.
+  // False if another program has the file open.
   bool held() const { return held_; }
 
  private:
@@ -22,15 +22,15 @@ class HeldFile {
   bool held_ = false;
 };
 
-// How a program has ended.
+// The end of a program.
 struct Ended {
   int code;
   std::string out;
   std::string problems;
 };
 
-// Runs a program in the folder to its end. `words` are its arguments, UTF-8, with a blank between
-// them. The three streams are files there: in, out, problems.
+// Runs a program in the folder to its end. `words` are its arguments in UTF-8, separated by blanks.
+// Its three streams are the files in, out and problems there.
 Ended RunProgram(const TempFolder& folder, const std::string& program, const std::string& words,
                  const std::string& input = "");
 

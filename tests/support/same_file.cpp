@@ -10,7 +10,7 @@
 namespace golf {
 namespace {
 
-constexpr int kMostTold = 8;
+constexpr int kMostShown = 8;
 
 std::string Shown(const Field& field, std::string_view record, std::size_t offset) {
   std::ostringstream text;
@@ -37,9 +37,9 @@ std::string Shown(const Field& field, std::string_view record, std::size_t offse
   return text.str();
 }
 
-// The fields of one record that differ, a line each.
-void TellFields(const LayoutInfo& layout, std::size_t number, const std::string& record,
-                const std::string& expected, std::vector<std::string>& lines) {
+// Adds a line for each differing field of a record.
+void AddDifferingFields(const LayoutInfo& layout, std::size_t number, const std::string& record,
+                        const std::string& expected, std::vector<std::string>& lines) {
   for (const Field& field : layout.fields) {
     for (std::size_t at = field.offset; at < field.offset + field.Size(); at += field.width) {
       if (record.compare(at, field.width, expected, at, field.width) == 0) continue;
@@ -66,13 +66,13 @@ testing::AssertionResult SameFile(std::string_view file_name, const std::string&
   const std::size_t records =
       (std::max(bytes.size(), expected.size()) + layout->length - 1) / layout->length;
   for (std::size_t number = 1; number <= records; ++number) {
-    TellFields(*layout, number, RecordAt(bytes, number, layout->length),
-               RecordAt(expected, number, layout->length), lines);
+    AddDifferingFields(*layout, number, RecordAt(bytes, number, layout->length),
+                       RecordAt(expected, number, layout->length), lines);
   }
-  for (std::size_t i = 0; i < std::min<std::size_t>(lines.size(), kMostTold); ++i) {
+  for (std::size_t i = 0; i < std::min<std::size_t>(lines.size(), kMostShown); ++i) {
     failure << "\n  " << lines[i];
   }
-  if (lines.size() > kMostTold) failure << "\n  and " << lines.size() - kMostTold << " more";
+  if (lines.size() > kMostShown) failure << "\n  and " << lines.size() - kMostShown << " more";
   return failure;
 }
 

@@ -15,7 +15,7 @@ namespace golf {
 testing::AssertionResult SameFile(std::string_view file_name, const std::string& bytes,
                                   const std::string& expected);
 
-// The same for a file in a folder.
+// Does the same for a file in a folder.
 testing::AssertionResult Holds(const TempFolder& folder, const std::string& file_name,
                                const std::string& expected);
 

@@ -8,9 +8,10 @@
 
 namespace golf {
 
-// A golfer, his entry in tournament 1, its options and its course, as records that a test changes
-// before it loads them. As made: every round is played from tee 1 of course 1, 18 holes of par 4
-// with hole n the n-th hardest, slope 113; points of a new tournament; nothing is scored yet.
+// A golfer, his entry in tournament 1, the tournament's options and its course, as records. A test
+// changes them before it loads them. At first every round is played from tee 1 of course 1, with 18
+// holes of par 4, hole n the n-th hardest, and slope 113. The points are those of a new tournament,
+// and nothing is scored.
 struct ScoredRound {
   ScoredRound() {
     control.Set<"NumRounds">(5);

@@ -6,11 +6,11 @@
 
 namespace golf {
 
-// A folder that is gone, with all that is in it, when the test ends. Names are UTF-8 and may lead
-// into folders below it.
+// A folder that is deleted with its contents at the end of the test. Names are UTF-8 and may be
+// paths below it.
 class TempFolder {
  public:
-  // `name` is the folder's own name; its parent makes it unique.
+  // `name` is the folder's own name. Its parent makes it unique.
   explicit TempFolder(std::string_view name = "install");
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
@@ -19,11 +19,11 @@ class TempFolder {
   std::string Path(std::string_view name = "") const;
   bool Exists(std::string_view name) const;
 
-  // Folders on the way are made.
+  // Writing makes missing folders.
   void Write(std::string_view name, std::string_view bytes) const;
   void MakeFolder(std::string_view name) const;
   void Remove(std::string_view name) const;
-  // The whole file; fails the test where it cannot be read.
+  // Returns the whole file. The test fails if it cannot be read.
   std::string Read(std::string_view name) const;
 
  private:

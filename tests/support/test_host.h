@@ -14,7 +14,7 @@
 
 namespace golf {
 
-// Writes down what a host tells, a line for each event.
+// Records the events of a host, a line for each.
 class RecordingListener : public HostListener {
  public:
   std::vector<std::string> events;
@@ -33,21 +33,21 @@ class RecordingListener : public HostListener {
   void OnEnd() override { events.push_back("end"); }
 
   std::function<void(const Progress&)> on_progress;
-  std::function<void()> on_tip;  // while the message is up
+  std::function<void()> on_tip;  // called while the message is shown
 };
 
-// The whole program without a display, over an install in a temporary folder whose file operations
+// The whole program without a display on an install in a temporary folder. Its calls to the system
 // can be made to fail.
 class TestInstall {
  public:
-  // Folders kvdata, qbdata and zddata are made unless they are not wanted.
+  // Makes the folders kvdata, qbdata and zddata unless `with_folders` is false.
   explicit TestInstall(bool with_folders = true);
 
-  // Starts the program anew on the same folder.
+  // Starts the program again on the same folder.
   void Restart();
-  // Opens a screen. `drive` works each one that comes up, until none is left.
+  // Opens a screen. `drive` works each screen that opens, until none is left.
   void Open(const char* screen, std::function<void(Screen&)> drive, const char* word = "");
-  // The last box that was answered; empty with none.
+  // Returns the last box that was answered. Empty if there was none.
   std::string LastMessage() const;
 
   SharedState& state() { return application->state(); }
@@ -63,11 +63,11 @@ class TestInstall {
   std::unique_ptr<Platform> real_;
 };
 
-// Whether an event came, as RecordingListener writes it down; or one that begins so.
+// True if an event came, as RecordingListener records it, or one with this beginning.
 bool Told(const TestInstall& install, const std::string& event);
 bool ToldBeginning(const TestInstall& install, const std::string& beginning);
 
-// The number of the error that ends a click of `action`; 0 if none does.
+// Returns the number of the error that ends a click of `action`, or 0 if none does.
 template <class Action>
 int ClickErrorOf(Action&& action) {
   return ErrorOf([&] {
@@ -79,11 +79,11 @@ int ClickErrorOf(Action&& action) {
   });
 }
 
-// Lets each call to the system fail in a run of its own: `run(n)` asks for the fault of the n-th,
-// and says whether it has come.
+// Runs `run(n)` with the fault at the n-th call to the system, for n from 1, until it returns that
+// the fault has not occurred.
 void ForEachFault(const std::function<bool(int)>& run);
 
-// The operator's choice from a list of rosters; false on any other screen.
+// Chooses from a list of rosters as the operator. Returns false on any other screen.
 template <class Picker>
 bool PickRoster(HeadlessHost& host, Screen& screen, int row) {
   auto* picker = dynamic_cast<Picker*>(&screen);

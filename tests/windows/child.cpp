@@ -1,10 +1,10 @@
 // A program for the tests to start.
 //
-//   golf_child forms        tells how this system writes dates and times
-//   golf_child lock FOLDER  takes the lock of a run and is ended without letting go of it
+//   golf_child forms        shows how this system writes dates and times
+//   golf_child lock FOLDER  takes the lock of a run and ends without releasing it
 //
-// Under any other name or with any other arguments it stands in for a sibling: it leaves a file
-// beside itself that holds the first argument and their number.
+// Under any other name, or with any other arguments, it stands in for a sibling: it leaves a file
+// beside itself that holds the first argument and the number of arguments.
 
 #include <windows.h>
 
@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-int TellForms() {
+int ShowForms() {
   const golf::RegionalForms regional = golf::MakePlatform("")->Regional();
   const auto dates = golf::DetectDateForms(regional, golf::DateFromCivil({2026, 11, 7}));
   const auto times = golf::DetectTimeForms(regional);
@@ -36,7 +36,7 @@ int LeaveFile(const std::string& program, const std::string& first, int count) {
   if (file == nullptr) return 1;
   std::fprintf(file, "%s,%d", first.c_str(), count);
   std::fclose(file);
-  fs::rename(program + ".new", program + ".out");  // whole, once it is there
+  fs::rename(program + ".new", program + ".out");  // the file is whole once it exists
   return 0;
 }
 
@@ -44,7 +44,7 @@ int LeaveFile(const std::string& program, const std::string& first, int count) {
 
 int main(int argc, char** argv) {
   const std::string first = argc > 1 ? argv[1] : "";
-  if (first == "forms") return TellForms();
+  if (first == "forms") return ShowForms();
   if (first == "lock" && argc > 2) return LockAndDie(argv[2]);
   return LeaveFile(argv[0], first, argc - 1);
 }

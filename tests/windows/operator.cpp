@@ -1,8 +1,8 @@
-// golf_operator PROGRAM INSTALL [HELD]: an operator before the desktop program. It starts the
-// program as Quenby would, opens the course transfer from the menu, runs it, prints the box that
-// comes up as the command line prints it, and leaves by the menu's Close. All by the real buttons
-// of the real windows. HELD is a file that it keeps from the program until the box has come.
-// Ends with the program's exit code.
+// golf_operator PROGRAM INSTALL [HELD]: an operator at the desktop program. It starts the program
+// as Quenby would, opens the course transfer from the menu, runs it, prints its box as the command
+// line prints it, and leaves by the menu's Close. It presses the real buttons of the real windows.
+// It holds the file HELD against the program until the box has come. It ends with the program's
+// exit code.
 
 #include <windows.h>
 
@@ -31,7 +31,7 @@ std::string ClassOf(HWND window) {
   return name;
 }
 
-// What stands on a button, without the mark of its key and blanks at its end.
+// Returns the caption of a button without the mark of its key and blanks at its end.
 std::string CaptionOf(HWND button) {
   std::string caption = TextOf(button);
   caption.erase(std::remove(caption.begin(), caption.end(), '&'), caption.end());
@@ -62,17 +62,17 @@ class Operator {
   }
   Operator(const Operator&) = delete;
   Operator& operator=(const Operator&) = delete;
-  // A program that is still there has gone wrong.
+  // Ends a program that is still running, which means that it has failed.
   ~Operator() { TerminateProcess(program_.hProcess, 99); }
 
-  // The window of the program with this title.
+  // Waits for the window of the program with this title.
   HWND Await(const std::string& title) {
     HWND found = nullptr;
     Until(title, [&] { return (found = Find(title)) != nullptr; });
     return found;
   }
 
-  // Presses a button once it can be used.
+  // Presses a button once it is enabled.
   void Press(const std::string& title, const std::string& caption) {
     HWND button = nullptr;
     Until(title + ": " + caption, [&] {

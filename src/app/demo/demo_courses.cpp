@@ -16,7 +16,7 @@ constexpr int kLadies = 1;
 struct DemoTee {
   std::string_view name;
   std::string_view letter;
-  int percent;  // of the lengths of the course
+  int percent;  // of the course's lengths
   double mens_rating;
   int mens_slope;
   double ladies_rating;
@@ -28,15 +28,15 @@ struct DemoHoles {
   std::array<int, kCourseHoles> lengths;
 };
 
-// Nine-hole courses use the first half or the second half of the tables by hole.
+// A nine-hole course uses the first or the second half of the tables by hole.
 struct DemoCourse {
   std::string_view name;
   std::string_view city;
   std::string_view state;
   std::string_view pro;
-  int holes;  // 18, 9 front, -9 back
+  int holes;  // 18; 9 a front nine; -9 a back nine
   DemoHoles card;
-  std::array<int, kCourseHoles> ranks;  // 1 the hardest
+  std::array<int, kCourseHoles> ranks;  // 1 is the hardest hole
   std::vector<DemoTee> tees;
 };
 
@@ -71,12 +71,12 @@ const std::vector<DemoCourse>& KelvaneCourses() {
 
 constexpr std::int32_t kClosedCourse = 6;
 
-// The holes of a nine or of both, first and last.
+// Returns the first and the last hole.
 std::pair<int, int> HolesOf(const DemoCourse& course) {
   return {course.holes == -9 ? 10 : 1, course.holes == 9 ? 9 : kCourseHoles};
 }
 
-// A course of a back nine stores its holes twice.
+// A course of a back nine stores its holes in both nines.
 void CopyBackNineToFront(CourseClass& course, int tee) {
   for (int hole = 1; hole <= 9; ++hole) {
     const Record<CourseLayout>& stored = course.Stored();
@@ -110,7 +110,7 @@ void FillHoles(CourseClass& course, const DemoCourse& demo, int tee, int percent
     course.SetHoleYard(tee, hole, demo.card.lengths[at] * percent / 100);
     by_rank.emplace_back(demo.ranks[at], hole);
   }
-  // The ranks of a nine run from 1 to 9.
+  // The handicaps of a nine run from 1 to 9.
   std::sort(by_rank.begin(), by_rank.end());
   for (std::size_t i = 0; i < by_rank.size(); ++i) {
     course.SetHoleHandicap(tee, by_rank[i].second, static_cast<double>(i + 1));
@@ -169,7 +169,8 @@ void MakeKelvaneLibrary(SharedState& state) {
   course.RebuildCourseIndexes(course.ActiveCoursesByName());
 }
 
-// Two courses as they came from Kelvane some seasons ago, and one typed in here.
+// Adds two courses that were transferred from Kelvane some seasons ago, and a course of Quenby's
+// own.
 void MakeQuenbyLibrary(SharedState& state) {
   CourseClass& course = OpenLibrary(state, state.QBDataPath, "QB");
   for (const int kelvane_number : {2, 1}) {

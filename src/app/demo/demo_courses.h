@@ -4,9 +4,9 @@
 
 namespace golf {
 
-// The course libraries of a demonstration install: Kelvane's with courses of eighteen and nine
-// holes and a deleted one; Quenby's with copies that are out of date and a course of its own;
-// Zandel's. Their folders must be there and hold no library. Errors as CourseClass.
+// Makes the course libraries of a demonstration install. Kelvane has courses of 18 and 9 holes and
+// a deleted one. Quenby has outdated copies of two of them and a course of its own. Zandel has two
+// courses. The folders must exist and hold no library. Errors as CourseClass.
 void MakeDemoCourses(SharedState& state);
 
 }  // namespace golf

@@ -5,7 +5,7 @@
 
 namespace golf {
 
-// A member of the made-up club, as both Kelvane and Quenby know him.
+// A golfer of the demonstration data.
 struct DemoGolfer {
   int id;
   std::string_view first;
@@ -16,8 +16,8 @@ struct DemoGolfer {
   char flight;
 };
 
-std::span<const DemoGolfer> DemoMembers();     // who play eighteen holes
-std::span<const DemoGolfer> DemoNineHolers();  // who play nine
-std::span<const DemoGolfer> DemoGuests();      // whom Quenby alone knows
+std::span<const DemoGolfer> DemoMembers();     // golfers who play 18 holes
+std::span<const DemoGolfer> DemoNineHolers();  // golfers who play 9 holes
+std::span<const DemoGolfer> DemoGuests();      // golfers whom only Quenby knows
 
 }  // namespace golf

@@ -4,8 +4,8 @@
 
 namespace golf {
 
-// Kelvane's rosters of a demonstration install: CLUB18 of eighteen holes and NINE9 of nine, each
-// golfer with the scores of two seasons. Errors as FileTable.
+// Makes Kelvane's rosters of a demonstration install: CLUB18 of 18 holes and NINE9 of 9 holes. Each
+// golfer has the scores of two seasons. Errors as FileTable.
 void MakeDemoKelvaneRosters(SharedState& state);
 
 }  // namespace golf

@@ -16,8 +16,8 @@ namespace {
 constexpr std::int32_t kTournament = 1;
 constexpr int kRoundsPlayed = 2;
 constexpr int kTeamSize = 4;
-constexpr std::int32_t kFirstGolfer = 10;     // the records below are never given to a golfer
-constexpr std::size_t kMembersInQuenby = 10;  // the others are still to be transferred
+constexpr std::int32_t kFirstGolfer = 10;     // lower records are never given to a golfer
+constexpr std::size_t kMembersInQuenby = 10;  // the other members are still to be transferred
 constexpr int kTeams = 3;
 constexpr CivilTime kFirstRound{2024, 9, 14};
 
@@ -51,7 +51,7 @@ void MakeRosterList(ProgramClass& program) {
   }
 }
 
-// In the order of their records and their entries.
+// Returns the golfers in the order of their records and of their entries.
 std::vector<DemoGolfer> GolfersInQuenby() {
   const auto members = DemoMembers().first(kMembersInQuenby);
   const auto guests = DemoGuests();

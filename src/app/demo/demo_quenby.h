@@ -4,8 +4,8 @@
 
 namespace golf {
 
-// Quenby's data of a demonstration install: two rosters, their golfers, and a tournament of two
-// rounds with teams of four and the scores of the first round. The course library must be there.
+// Makes Quenby's data of a demonstration install: two rosters, their golfers, and a tournament of
+// two rounds with teams of four and the scores of the first round. The course library must exist.
 // Errors as FileTable.
 void MakeDemoQuenby(SharedState& state);
 

@@ -16,9 +16,9 @@ using Golfers = std::vector<DemoGolfer>;
 constexpr int kTeamSize = 2;
 constexpr int kEvents = 12;
 constexpr int kDaysBetweenEvents = 7;
-constexpr int kGuestTeam = 1;  // where substitutes step in
+constexpr int kGuestTeam = 1;  // the team that has substitutes
 
-// Guests of the leagues, whom Kelvane does not know.
+// Guests of the leagues. Kelvane does not know them.
 constexpr DemoGolfer kGuests[] = {{0, "Rosa", "Tiller", true, 17.0f, 19, 'C'},
                                   {0, "Max", "Underhill", false, 10.3f, 11, 'B'}};
 
@@ -26,15 +26,15 @@ struct DemoLeague {
   std::string league;
   std::string name;
   int holes;
-  int course;  // in Zandel's library
+  int course;  // its number in Zandel's library
   int par;
   int mens_tee;
   int ladies_tee;
   CivilTime first_event;
   int current_event;
-  bool current_begun;              // the first team has played it
-  int teams;                       // places of a division, by two
-  std::vector<Golfers> divisions;  // from 1
+  bool current_begun;              // the first team has played the current event
+  int teams;                       // places for teams in a division, two golfers each
+  std::vector<Golfers> divisions;  // the first is division 1
   Golfers substitutes;
 };
 
@@ -109,7 +109,7 @@ void AddScore(Record<LeaguePlayerLayout>& player, const DemoLeague& league, int 
   const int score = league.par + static_cast<int>(std::lround(handicap)) + wobble;
   player.Set<"EventTeam">({event}, static_cast<std::int16_t>(team));
   player.Set<"EventScore">({event}, static_cast<std::int16_t>(score));
-  // Stroke control takes something off a bad day.
+  // Stroke control lowers a high score.
   player.Set<"EventPostScore">({event}, static_cast<std::int16_t>(score - std::max(0, wobble - 3)));
 }
 

@@ -4,9 +4,9 @@
 
 namespace golf {
 
-// Zandel's leagues of a demonstration install: 0001 of nine holes with two divisions, where no
-// score of the current event is entered yet, and 0002 of eighteen holes, where some are. The course
-// library must be there. Errors as FileTable.
+// Makes Zandel's leagues of a demonstration install. League 0001 plays 9 holes, has two divisions,
+// and has no score of the current event yet. League 0002 plays 18 holes and has some. The course
+// library must exist. Errors as FileTable.
 void MakeDemoLeagues(SharedState& state);
 
 }  // namespace golf

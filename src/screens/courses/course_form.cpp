@@ -15,11 +15,11 @@ namespace {
 constexpr const char* kHeadings[] = {
     "Active", "Tee", "Men's Rating", "Men's Slope", "Ladies' Rating", "Ladies' Slope"};
 constexpr int kTeeColumn = 2;
-constexpr int kOptionFlags[] = {18, 9, -9};  // HoleNumFlag of each option
+constexpr int kOptionFlags[] = {18, 9, -9};  // the HoleNumFlag of each option
 constexpr std::int16_t kUnslopedCourse = 113;
 constexpr int kTooFlat = 50;
 
-// The texts of a course, each with its box.
+// The texts of a course and their boxes.
 struct CourseText {
   TextBox CourseForm::*box;
   std::string (CourseClass::*get)() const;
@@ -141,7 +141,7 @@ void CourseForm::ShowTees() {
   grid1.SetRepainting(true);
 }
 
-// A course whose tees are in use keeps its number of holes.
+// A course with active tees keeps its number of holes.
 void CourseForm::ShowHoles() {
   bool any_active = false;
   for (int tee = 1; tee <= kShownTees; ++tee) any_active |= course().ActiveTees(tee);
@@ -178,8 +178,9 @@ void CourseForm::EditTee() {
   OnActivate();
 }
 
-// One group too high: where the men's slope is too flat it is the ladies' that is mended, and where
-// the ladies' is there is nothing to mend, which ends the click with the course as it is.
+// The mended group is one too high. A men's slope that is too flat sets the ladies' slope to 113. A
+// ladies' slope that is too flat has no group to mend: error 9 ends the click, and nothing is
+// saved.
 void CourseForm::MendSlopes(int tee) {
   const auto too_flat = [&](int group) {
     return IsAbove(course().Rating(tee, group), 0) &&

@@ -11,19 +11,20 @@ namespace golf {
 
 class CourseTee;
 
-// One course: its texts, its number of holes, and its tees. Works on the current record of the
-// shared Course object, whose tees it changes there; the texts stay in the controls. Hides with the
-// tag "OK" or "CANCEL", and its opener saves.
+// The screen of one course: its texts, its number of holes, and its tees. It works on the current
+// record of the shared Course object. Tees change in that record at once, while the texts stay in
+// the controls until CopyToRecord. The screen hides with the tag "OK" or "CANCEL", and its opener
+// saves.
 class CourseForm : public Screen {
  public:
   static constexpr const char* kName = "CourseForm";
 
   explicit CourseForm(const ScreenContext& context);
 
-  // For a course without a record, and for the current one. Each empties or fills the controls.
+  // BeginAdd empties the controls for a new course. BeginEdit fills them from the current record.
   void BeginAdd();
   void BeginEdit(std::int32_t number);
-  // Puts the texts and the number of holes into the current record.
+  // Copies the texts and the number of holes into the current record.
   void CopyToRecord();
 
   void OnActivate() override;
@@ -65,14 +66,14 @@ class CourseForm : public Screen {
   void ShowEditCaption();
   void EditTee();
   void FillTee(CourseTee& screen);
-  // Error 6, with the record unchanged, for a number that has no room in it.
+  // Error 6, with the record unchanged, if a number is too large for it.
   void SaveTeeData(CourseTee& screen);
   void MendSlopes(int tee);
   void Accept();
   void Cancel();
 
-  int tee_ = 1;          // the one in work
-  int unsaved_tee_ = 0;  // whose entries could not be stored and stand on its screen yet
+  int tee_ = 1;          // the tee being edited
+  int unsaved_tee_ = 0;  // the tee whose entries could not be stored and are still on its screen
   bool tee_screen_used_ = false;
 };
 

@@ -1,4 +1,4 @@
-// What goes between a tee of the current course and the screen that edits it.
+// Copies a tee of the current course to and from the screen that edits it.
 
 #include "core/number_text.h"
 #include "core/numbered_error.h"
@@ -16,7 +16,7 @@ AnyControl& At(HoleControls<AnyControl>& controls, int hole) {
   return controls[static_cast<std::size_t>(hole) - 1];
 }
 
-// The totals of a tee, each with its label.
+// The totals of a tee and their labels.
 struct TeeTotal {
   Label CourseTee::*label;
   void (CourseClass::*set)(int, double);
@@ -29,7 +29,7 @@ constexpr TeeTotal kTotals[] = {{&CourseTee::FYardOut, &CourseClass::SetYardOut}
                                 {&CourseTee::FParIn, &CourseClass::SetParIn},
                                 {&CourseTee::FParTotal, &CourseClass::SetParTotal}};
 
-// What the operator enters for each hole, with its name for him.
+// What the operator enters for each hole, and its name in messages.
 struct HoleEntry {
   HoleControls<TextBox> CourseTee::*boxes;
   const char* name;
@@ -50,7 +50,7 @@ void CheckFits(const std::string& number, const std::string& name) {
   }
 }
 
-// Error 6 for a number that has no room in a record, before any of it is changed.
+// Error 6 if a number is too large for the record.
 void CheckNumbersFit(CourseTee& screen) {
   for (const HoleEntry& entry : kHoleEntries) {
     for (int hole = 1; hole <= kCourseHoles; ++hole) {
@@ -83,7 +83,8 @@ void CourseForm::FillTee(CourseTee& screen) {
     At(screen.FYardage, hole).SetText(course().HoleYard(tee_, hole));
     At(screen.FPar, hole).SetText(course().HolePar(tee_, hole));
     At(screen.FHandicap, hole).SetText(course().HoleHandicap(tee_, hole));
-    // As it is stored, so that what the screen does not work out anew comes back unchanged.
+    // The stored value, so that a sequence that the screen does not calculate again stays
+    // unchanged.
     At(screen.FSequence, hole)
         .SetCaption(std::to_string(course().Stored().Get<"StrkSqnc">(tee_, hole)));
   }

@@ -98,8 +98,8 @@ std::int32_t CourseTable::CourseInHand() const {
   return RoundToInt32(LeadingNumber(CourseGrid.text(kNumberColumn, CourseGrid.active_row())));
 }
 
-// Whether the operator would rather change a course of Kelvane's in Kelvane. `what` he is about to
-// do with it.
+// Warns that the course comes from Kelvane. Returns true if the operator cancels. `what` is "edit"
+// or "delete".
 bool CourseTable::WarnedOff(std::string_view what) {
   const std::string done(what == "edit" ? "new 'edited'" : "'deleted'");
   const BoxButton answer = host().Ask(

@@ -8,8 +8,8 @@
 
 namespace golf {
 
-// The active courses of the open library by name, to add to, to edit and to delete from. Works on
-// the shared Course object, which is open. Closing rewrites the library's indexes.
+// The list of active courses, by name. The operator adds, edits and deletes courses. It works on
+// the shared Course object, whose library must be open. Closing it rewrites the library's indexes.
 class CourseTable : public Screen {
  public:
   static constexpr const char* kName = "CourseTable";
@@ -29,7 +29,7 @@ class CourseTable : public Screen {
   Button Help{"Help", "&Help"};
 
  private:
-  // The active row becomes that of this course, where it is shown.
+  // Makes the row of this course active if the course is listed.
   void LoadGrid(std::int32_t course_in_hand);
   std::int32_t CourseInHand() const;
   bool WarnedOff(std::string_view what);

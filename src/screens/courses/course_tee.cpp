@@ -22,7 +22,7 @@ HoleValues ValuesOf(const HoleControls<TextBox>& boxes) {
   return values;
 }
 
-// As it is: what is stored becomes whole by the rule of the record.
+// Shows the exact sum. The record rounds it when it is stored.
 std::string SumText(double sum) {
   return FormatNumber(sum, sum == std::floor(sum) ? "0" : "0.0###");
 }
@@ -115,7 +115,7 @@ void CourseTee::TieEntries() {
   }
 }
 
-// A nine runs in sequence from its first hole.
+// The numbers of a nine follow from its first hole.
 void CourseTee::TieNine(ComboBox& first_number, std::size_t first_hole) {
   HoleNumber[first_hole].SetVisible(false);
   first_number.on_click = [this, &first_number, first_hole] {
@@ -130,10 +130,10 @@ void CourseTee::TieHole(HoleControls<TextBox>& boxes, std::size_t hole, double m
   TextBox& box = boxes[hole];
   box.on_enter = [&box] { box.SelectFirst(box.text().size()); };
   box.on_change = [this, &box, &boxes, hole, moves_on_above] {
-    if (focus() != &box) return;  // nobody types
+    if (focus() != &box) return;  // the operator is not typing
     Control* next = NumberIn(box) > moves_on_above ? NextAfter(boxes, hole) : nullptr;
     if (next != nullptr) {
-      MoveFocus(next);  // leaving shows the totals
+      MoveFocus(next);  // on_leave shows the totals
     } else {
       ShowTotals();
     }
@@ -236,7 +236,7 @@ std::vector<Control*> CourseTee::Entries() {
   return entries;
 }
 
-// A fault is explained from the moment when its field is left until it is mended.
+// A field shows its fault from the moment it loses the focus until the fault is mended.
 void CourseTee::ShowNotes(const Control* left) {
   const auto faults = ActiveTee.value() ? Faults() : std::vector<std::pair<Control*, TeeFault>>();
   for (Control* entry : Entries()) {
@@ -247,7 +247,7 @@ void CourseTee::ShowNotes(const Control* left) {
   }
 }
 
-// Whoever presses Enter has left the field in which he was.
+// Enter must count as leaving the field that has the focus.
 void CourseTee::Accept() {
   MoveFocus(&OKButton);
   if (!ActiveTee.value()) return Finish();
@@ -301,7 +301,7 @@ void CourseTee::ShowStrokeSequence() {
   }
 }
 
-// A course of a back nine stores its holes twice.
+// A course of a back nine stores its holes in both nines.
 void CourseTee::CopyBackNineToFront() {
   FrontHoleNumber.Select(BackHoleNumber.index());
   for (std::size_t i = 0; i < kNine; ++i) {

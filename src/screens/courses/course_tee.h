@@ -13,15 +13,17 @@ namespace golf {
 template <class AnyControl>
 using HoleControls = std::array<AnyControl, kCourseHoles>;
 
-// The scorecard of one tee. Its opener fills the controls, sets FHoles to "18", "9F" or "9B",
-// starts Timer1 and shows it; it hides with the tag "OK" or "CANCEL". Nothing is written here.
+// The screen of one tee, laid out as a scorecard. Its opener fills the controls, sets FHoles to
+// "18", "9F" or "9B", starts Timer1 and shows the screen. The screen hides with the tag "OK" or
+// "CANCEL". It writes nothing to a record or file.
 class CourseTee : public Screen {
  public:
   static constexpr const char* kName = "CourseTee";
 
   explicit CourseTee(const ScreenContext& context);
 
-  // The frames that FHoles asks for. Before the window is made: it has the size of what is seen.
+  // Shows the frames that FHoles asks for. Must run before the window is made, since the window
+  // takes its size from what is visible.
   void ShowHolesPlayed();
 
   Button* LeaveButton() override { return &CancelButton; }
@@ -44,7 +46,7 @@ class CourseTee : public Screen {
   Frame BackNineFrame{"BackNineFrame"};
   ComboBox BackHoleNumber{"BackHoleNumber"};
   HoleControls<Label> HoleNumber =
-      Holes<Label>("HoleNumber");  // but of holes 1 and 10, which are chosen
+      Holes<Label>("HoleNumber");  // all but holes 1 and 10, which have a list
   HoleControls<TextBox> FYardage = Holes<TextBox>("FYardage");
   HoleControls<TextBox> FPar = Holes<TextBox>("FPar");
   HoleControls<TextBox> FHandicap = Holes<TextBox>("FHandicap");
@@ -82,7 +84,7 @@ class CourseTee : public Screen {
   void LeaveTeeName();
   Control* NextAfter(const HoleControls<TextBox>& boxes, std::size_t hole);
 
-  // What is wrong now, each with the control that holds it.
+  // Returns the present faults, each with its control.
   std::vector<std::pair<Control*, TeeFault>> Faults();
   void ShowNotes(const Control* left);
   std::vector<Control*> Entries();
@@ -95,7 +97,7 @@ class CourseTee : public Screen {
   void ShowStrokeSequence();
   void CopyBackNineToFront();
   void Cancel();
-  int HoleNumFlag() const;  // by FHoles
+  int HoleNumFlag() const;  // the flag of FHoles
   std::vector<TeeFault> FaultsOfHoles() const;
 };
 

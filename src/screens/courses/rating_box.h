@@ -9,22 +9,22 @@
 
 namespace golf {
 
-// Takes in a course rating, 0 to 99.9, with one decimal or two. What is stored is what is shown.
-// All of its text is selected when the operator comes to it.
+// A box for a course rating from 0 to 99.9, with one or two decimals. It stores the value that it
+// shows. When the operator enters the box, its text is selected.
 class RatingBox : public TextBox {
  public:
-  // On this screen, which must live as long as the box.
+  // `screen` must outlive the box.
   RatingBox(std::string name, Screen& screen, const ScreenContext& context);
 
-  // Reads the text, brings it into its limits and shows it.
+  // Reads the text, limits and rounds the number, and shows and returns it.
   float RatingValue();
   void SetRatingValue(double value);
 
-  // 1 or 2; any other number changes nothing.
+  // Sets the number of decimals to 1 or 2. Any other number changes nothing.
   void SetDecimalPlaces(int places);
 
-  // For 18 holes or 9, and for the men or the ladies, 0 or 1. Where the rating is not valid the
-  // operator is told, and the box takes the focus.
+  // Checks the rating for 18 or 9 `holes` and for the `group` 0 men or 1 ladies. If it is not
+  // valid, shows the fault and moves the focus to the box.
   bool RatingValid(int holes, int group);
 
  private:
@@ -34,16 +34,18 @@ class RatingBox : public TextBox {
   float value_ = 0;
 };
 
-// Takes in a slope: a whole number up to 155. Is selected as a RatingBox is.
+// A box for a slope: a whole number up to 155. When the operator enters the box, its text is
+// selected.
 class SlopeBox : public TextBox {
  public:
   SlopeBox(std::string name, Screen& screen, const ScreenContext& context);
 
-  // Reads the text, rounds and limits it and shows it.
+  // Reads the text, rounds and limits the number, and shows and returns it.
   std::int16_t SlopeValue();
   void SetSlopeValue(double value);
 
-  // From 55 to 155. Where it is not the operator is told, and the box takes the focus.
+  // Checks that the slope is from 55 to 155. If it is not, shows the fault and moves the focus to
+  // the box.
   bool SlopeValid();
 
  private:
@@ -52,8 +54,8 @@ class SlopeBox : public TextBox {
   std::int16_t value_ = 0;
 };
 
-// Tells a fault of an entry: in a box, and beside the control, which takes the focus if it is
-// seen.
+// Shows a fault of an entry in a box and beside the control, and moves the focus to the control if
+// it is visible.
 void ShowFault(Screen& screen, ScreenHost& host, Control& control, const TeeFault& fault);
 
 }  // namespace golf

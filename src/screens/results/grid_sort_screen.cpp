@@ -22,7 +22,7 @@ std::string OnOneLine(std::string heading) {
   return std::string(Trim(heading));
 }
 
-// 0 for "No sort".
+// Returns 0 for "No sort".
 int ColumnOf(const std::string& entry) {
   return RoundToInt16(LeadingNumber(LastCharacters(entry, kDigits)));
 }

@@ -9,25 +9,25 @@
 
 namespace golf {
 
-// A sort key as a caller names it: by the heading of a column, in any case. A name that no heading
-// has, such as an empty one, is no key.
+// A sort key by the heading of a column, in any case. An empty name, or a name that is no heading,
+// is no key.
 struct NamedSortKey {
   std::string name;
   SortOrder order = SortOrder::kAscending;
 };
 using NamedSortKeys = std::array<NamedSortKey, 3>;
 
-// The sort dialog for any grid. A caller sets the grid, then the parameters, and shows it modally
-// or sorts at once. There is one for the whole process, which hides and is never unloaded:
-// SharedGridSort.
+// The sort dialog for any grid. A caller sets the grid, then the parameters, and shows the dialog
+// modally or sorts at once. SharedGridSort gives the only one of the process. It hides and is never
+// unloaded.
 class GridSort : public Screen {
  public:
   static constexpr const char* kName = "GridSort";
 
   explicit GridSort(const ScreenContext& context);
 
-  // Grid, last row and places, as with any sort by code. Set the grid before each use: it is one of
-  // another screen.
+  // The members of the dialog's GridSorter. The grid must be set before each use, since it belongs
+  // to another screen.
   void SetGridToSort(Grid& grid) { sorter_.SetGridToSort(grid); }
   Grid& GridToSort() const { return sorter_.GridToSort(); }
   int LastRowToSort() const { return sorter_.LastRowToSort(); }
@@ -40,16 +40,16 @@ class GridSort : public Screen {
   int PositionNumber122334(int n) const { return sorter_.PositionNumber122334(n); }
   int PositionNumber122446(int n) const { return sorter_.PositionNumber122446(n); }
 
-  // Fills the dialog from the grid and chooses these keys; sorts nothing.
+  // Fills the dialog from the grid and chooses these keys. Sorts nothing.
   void GridSetSortParameters(const NamedSortKeys& keys = {});
-  // The same, and then sorts without showing the dialog.
+  // Fills the dialog, chooses these keys and sorts, without showing the dialog.
   void GridAutoSort(const NamedSortKeys& keys = {});
 
-  // "OK" or "Cancel": how the dialog was left.
+  // Returns "OK" or "Cancel", by the button that closed the dialog.
   const std::string& Action() const { return action_; }
 
-  // What is chosen in the dialog, in words: a line for each key into a cell, where row 0 is the
-  // heading, and in a short form.
+  // Describe the choices of the dialog in words. The first writes a line for each key into a cell,
+  // where row 0 is the heading. The second returns a short form.
   void HowPlayersAreSorted(Grid& grid, int column, int row) const;
   std::string HowSortedDescription() const;
 
@@ -70,15 +70,15 @@ class GridSort : public Screen {
   Button SortOK{"SortOK", "&OK"};
   Button SortCancel{"SortCancel", "&Cancel"};
   Button Help{"Help", "&Help"};
-  // Never seen: a sort is over before they could be read.
+  // Always hidden: a sort is too short for them to be read.
   Label WorkingLabel{"WorkingLabel"};
   Label WorkingTime{"WorkingTime"};
   Frame Frame1{"Frame1"};
 
-  // The pair of options of each key.
+  // The two options of each key.
   const std::array<Options*, 3> options{&Sort1Option, &Sort2Option, &Sort3Option};
 
-  // What an entry of SortList shows: without the column number that it carries far behind.
+  // Returns the heading in an entry of SortList, without the column number behind it.
   static std::string HeadingOf(const std::string& entry);
 
  private:
@@ -92,7 +92,7 @@ class GridSort : public Screen {
   std::string action_;
 };
 
-// The one of this process.
+// Returns the sort dialog of this process.
 GridSort& SharedGridSort(ScreenHost& host);
 
 }  // namespace golf

@@ -33,13 +33,13 @@ void SampleTeams::HideColumns() {
   }
 }
 
-// A number of 0 to `most`.
+// Returns a random number from 0 to `most`.
 int SampleTeams::MadeUp(std::uint32_t most) {
   random_ = random_ * 1664525 + 1013904223;
   return static_cast<int>((random_ >> 16) % (most + 1));  // the low bits have short periods
 }
 
-// Scores of 3 to 7, with a stroke on every other hole or so.
+// Gross scores are 3 to 7. A random half of the holes gets a stroke.
 void SampleTeams::Generate() {
   balls_.XBallInitializeTeamGrid(kTeams);
   for (int team = 1; team <= kTeams; ++team) {

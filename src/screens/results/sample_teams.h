@@ -7,27 +7,27 @@
 
 namespace golf {
 
-// What made-up teams would get under a layout, beside its codes in the builder's grid. The rows are
-// the columns of the ball tables; the teams stand side by side: gross balls, net balls, and what
-// counts. Both the layout and the grid must live as long.
+// Shows in the builder's grid, beside the codes of a layout, what sample teams would score under
+// it. The grid's rows are the columns of the ball tables. Each team has columns for its gross
+// balls, its net balls and the score that counts. The layout and the grid must outlive this object.
 class SampleTeams {
  public:
   static constexpr int kTeams = 2;
   static constexpr int kWidth = 2 * kMostLayoutPlayers + 1;  // columns of a team
-  static constexpr int kFirstColumn = 8;                     // an empty one, behind the codes
+  static constexpr int kFirstColumn = 8;                     // an empty column after the codes
   static constexpr int kLastColumn = kFirstColumn + kTeams * kWidth;
 
   SampleTeams(const ReportLayout& layout, Grid& grid)
       : layout_(layout), grid_(grid), balls_(layout) {}
 
   void HeadColumns();
-  // Those of golfers whom a team of the layout does not have.
+  // Hides the columns of golfers whom a team of the layout does not have.
   void HideColumns();
-  // The same seed makes up the same scores.
+  // The same seed gives the same scores.
   void SetSeed(std::uint32_t seed) { random_ = seed; }
-  // Makes up other scores and works them out.
+  // Makes new random scores and calculates them.
   void Generate();
-  // Works the same scores out under the layout as it stands.
+  // Calculates the same scores under the present layout.
   void Calculate();
 
  private:
@@ -39,7 +39,7 @@ class SampleTeams {
   const ReportLayout& layout_;
   Grid& grid_;
   CustomBalls balls_;
-  std::uint32_t random_ = 0;  // what the next number follows from
+  std::uint32_t random_ = 0;  // the state of the random numbers
 };
 
 }  // namespace golf

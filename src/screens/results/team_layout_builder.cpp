@@ -45,7 +45,7 @@ std::string CodeOfCell(const std::string& text) {
   return bar == std::string::npos ? std::string() : text.substr(bar + 1);
 }
 
-// The hole of a row; 0 for a row of sums.
+// Returns the hole of a row, or 0 for a row of sums.
 int HoleOfRow(int row) {
   for (int hole = 1; hole <= kLayoutHoles; ++hole) {
     if (HoleColumn(hole) == row) return hole;
@@ -181,7 +181,7 @@ void XReportsCustomTeamResults::SetReportFileName(std::string name) {
   file_name_ = std::move(name);
 }
 
-// The screen is up by now.
+// Timer1 runs it once the screen is shown.
 void XReportsCustomTeamResults::Begin() {
   sample_.SetSeed(host().Seed());
   if (state().Program().ActiveTournament() <= 0) {
@@ -276,7 +276,7 @@ void XReportsCustomTeamResults::ShowLists() {
 void XReportsCustomTeamResults::ShowCodes() {
   grid1.SetRepainting(false);
   for (int hole = 1; hole <= kLayoutHoles; ++hole) {
-    grid1.LockRow(HoleColumn(hole), hole > layout_.HoleNumberUsed);  // those follow the others
+    grid1.LockRow(HoleColumn(hole), hole > layout_.HoleNumberUsed);  // copies of earlier holes
   }
   for (int place = 0; place < kLayoutPlaces; ++place) {
     for (const Code code : {Code::kPlayers, Code::kGross, Code::kNet}) {
@@ -319,7 +319,7 @@ void XReportsCustomTeamResults::ChangeLayout() {
   sample_.Calculate();
 }
 
-// A place without players takes no balls either.
+// A place without players takes no balls.
 void XReportsCustomTeamResults::ChangeCell(int column, int row) {
   const int hole = HoleOfRow(row);
   if (hole == 0 || column < 1 || column >= SampleTeams::kFirstColumn || column % 4 == 0) return;
@@ -354,7 +354,7 @@ void XReportsCustomTeamResults::GoTo(int page, Control& control) {
   MoveFocus(&control);
 }
 
-// False, once the operator is told, where a text cannot be written.
+// Returns false, and shows the operator why, if a text cannot be written.
 bool XReportsCustomTeamResults::HasTextThatFits() {
   TextBox* const boxes[] = {&ReportDescription, &HeaderText[0], &HeaderText[1], &HeaderText[2],
                             &ReportNumber};
@@ -369,7 +369,7 @@ bool XReportsCustomTeamResults::HasTextThatFits() {
   return false;
 }
 
-// Tells the operator what is wrong with the name; true if the layout cannot be saved under it.
+// Returns true, and shows the operator why, if the layout cannot be saved under this name.
 bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
   const auto refuse = [this](std::string text) {
     host().Ask(Box{.title = "Notice", .text = std::move(text)});

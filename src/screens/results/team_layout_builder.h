@@ -10,10 +10,9 @@
 
 namespace golf {
 
-// The builder of team report layouts. An opener sets the action and the name before the screen is
-// shown; Program must hold the master record. The rows of the grid are the columns of the ball
-// tables: holes, and the sums of each round. Beside the codes a hole shows what made-up teams would
-// get for it.
+// The builder of team report layouts. Its opener sets the action and the name before showing it.
+// Program must hold the master record. The grid's rows are the columns of the ball tables: holes,
+// and the sums of each round. Beside its codes, a hole shows what sample teams would score on it.
 class XReportsCustomTeamResults : public Screen {
  public:
   static constexpr const char* kName = "XReportsCustomTeamResults";
@@ -33,14 +32,14 @@ class XReportsCustomTeamResults : public Screen {
   int PlayersPerTeam() const { return layout_.PlayersPerTeam; }
   const std::string& BallSelectionOption() const { return layout_.BallSelectionOption; }
   const std::string& BallSelection() const { return layout_.BallSelection; }
-  // Holes 1 to 90, places 0 and 1; error 9 for any other.
+  // Holes count from 1 to 90, places are 0 and 1. Error 9 for any other.
   const std::string& ConsiderPlayers(int hole, int place) const;
   const std::string& GrossScoresToUse(int hole, int place) const;
   const std::string& NetScoresToUse(int hole, int place) const;
-  const std::string& ReportHeaderItem(int i) const;  // 1 to 3
+  const std::string& ReportHeaderItem(int i) const;  // i from 1 to 3
   void SetReportHeaderItem(int i, std::string text);
 
-  // Saves under the name that is entered and takes the screen away; false where it was refused.
+  // Saves under the entered name and closes the screen. Returns false if the layout was refused.
   bool SaveReport();
 
   void OnLoad() override;
@@ -121,7 +120,7 @@ class XReportsCustomTeamResults : public Screen {
   std::string file_name_;
   std::string extension_{kLayoutExtension};
   ReportLayout layout_;
-  bool showing_ = false;  // the program sets controls, not the operator
+  bool showing_ = false;  // true while the program, not the operator, sets controls
   SampleTeams sample_{layout_, grid1};
 };
 

@@ -7,10 +7,10 @@
 
 namespace golf {
 
-// Opens the builder over the layouts in Quenby's folder: a new one, or the one of this name.
+// Opens the builder for a layout in Quenby's folder: for a new one, or for the one with this name.
 void OpenTeamLayoutBuilder(SharedState& state, ScreenHost& host, const std::string& name);
 
-// The team report layouts of the Quenby folder, from which the operator chooses one to build on.
+// The screen on which the operator chooses a team report layout of the Quenby folder to build on.
 class TeamLayouts : public Screen {
  public:
   static constexpr const char* kName = "TeamLayouts";

@@ -22,16 +22,16 @@ constexpr int kTeamColumn = 1;
 constexpr int kNameColumn = 2;
 constexpr int kPlayersColumn = 3;
 constexpr int kHandicapHeading = 4;
-constexpr int kStandingsColumns = 21;  // of five rounds: three each, and six
+constexpr int kStandingsColumns = 21;  // three for each of five rounds, and six more
 constexpr int kCardColumns = kBlockWidth;
 constexpr const char* kTotals = "Team totals";
 
-// The column of a card for a column within a block.
+// Returns the card's column for a column of a block.
 constexpr int CardColumn(int in_block) { return in_block + 1; }
 
 std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
 
-// A long heading on several lines: a wide column would push others out of sight.
+// Breaks a long heading into lines, since a wide column would push others out of sight.
 std::string OnLines(std::string heading) {
   for (const char* part : {" (", " for ", " 1 to "}) {
     const std::size_t end = heading.find(part);
@@ -101,7 +101,7 @@ void TeamResults::FillLists() {
   RoundList.Select(std::clamp(tournament.RoundOr({}), 1, rounds) - 1);
 }
 
-// A control file that is not there would come into being.
+// Checks that the control file exists, since opening it would create it.
 bool TeamResults::OpenActiveTournament() {
   state().StoreDataPath = state().QBDataPath;
   ProgramClass& program = state().Program();
@@ -120,7 +120,7 @@ bool TeamResults::OpenActiveTournament() {
   return false;
 }
 
-// Where the layout that is chosen cannot be read, the totals stand in its place.
+// Takes the totals if the chosen layout cannot be read.
 void TeamResults::TakeLayout() {
   layout_ = {};
   if (LayoutList.index() <= 0) return;
@@ -159,7 +159,7 @@ void TeamResults::LoadStandings() {
   }
 }
 
-// Why the team is left out of the standings; empty if nobody misses it.
+// Returns why the team is left out of the standings. Empty if it is in them or has no golfers.
 std::string TeamResults::AddTeam(int team, std::vector<StandingsRow>& totals) {
   if (!state().Team1().GetRecord(team)) {
     const bool has_golfers = state().Player().TourIndex1stPlayerOnTeam(team) > 0;
@@ -237,7 +237,7 @@ void TeamResults::ShowCardLine(int row, const std::string& name, int golfer, Bal
   const TeamBalls& balls = BallsOf(number);
   grid2.SetText(1, row, name);
   const int block = RoundList.index();
-  std::array<TeamBalls::Sum, 3> sums;  // of both nines, and the total
+  std::array<TeamBalls::Sum, 3> sums;  // the two nines and the total
   for (int hole = 1; hole <= kHoles; ++hole) {
     const Ball& ball = balls.At(table, golfer, HoleColumn(block * kHoles + hole));
     grid2.SetText(CardColumn(HoleColumn(hole)), row,
@@ -269,7 +269,7 @@ void TeamResults::Sort() {
   if (dialog.Action() == "OK") SortedLabel.SetCaption(dialog.HowSortedDescription());
 }
 
-// The standings as they are shown, headings first.
+// Returns the standings as the grid shows them, headings first.
 std::vector<std::vector<std::string>> TeamResults::Lines() const {
   std::vector<std::vector<std::string>> lines(static_cast<std::size_t>(grid1.rows()) + 1);
   for (int column = 1; column <= grid1.columns(); ++column) {
@@ -282,7 +282,7 @@ std::vector<std::vector<std::string>> TeamResults::Lines() const {
   return lines;
 }
 
-// With tabs, which a spreadsheet takes apart again.
+// Separates the cells by tabs, which a spreadsheet splits again.
 void TeamResults::Copy() {
   std::string text;
   for (const auto& line : Lines()) {

@@ -10,10 +10,9 @@
 
 namespace golf {
 
-// The teams of the active tournament as they stand: over all scores, or under a report layout. The
-// team whose row is active is shown hole by hole below, with the balls that count marked. The round
-// that is chosen is the active one in memory only, and so is what is mended in records that are
-// read.
+// The standings of the teams in the active tournament: over all scores, or under a report layout.
+// Below them a card shows the active row's team hole by hole and marks the balls that count. The
+// chosen round becomes active in memory only, and mended values of records stay in memory, too.
 class TeamResults : public Screen {
  public:
   static constexpr const char* kName = "TeamResults";
@@ -61,7 +60,7 @@ class TeamResults : public Screen {
   bool loading_ = false;
   ReportLayout layout_;
   std::optional<CustomStandings> standings_;
-  std::vector<int> teams_;  // in the order of the tables
+  std::vector<int> teams_;  // by their order in the tables
 };
 
 }  // namespace golf

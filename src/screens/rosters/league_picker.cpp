@@ -8,7 +8,8 @@
 namespace golf {
 namespace {
 
-// A league as a screen keeps it; of one whose name has a colon only what stands behind it.
+// Returns the text of a league that a screen keeps. If the item begins with "L" and has a colon,
+// that is only the part after the colon.
 std::string ChosenLeague(std::string_view item) {
   const std::size_t colon = item.starts_with('L') ? item.find(':') : std::string_view::npos;
   return std::string(Trim(colon == std::string_view::npos ? item : item.substr(colon + 1)));

@@ -15,7 +15,8 @@ constexpr std::string_view kExtension = ".KV5";
 constexpr int kTypeColumn = 1;
 constexpr int kNameColumn = 2;
 
-// The holes of a roster, 0 where its header cannot be read. The header is in the buffer then.
+// Reads the header of a roster into the buffer and returns its number of holes. Returns 0 if the
+// header cannot be read.
 int HolesOf(SharedState& state, const std::string& file_name) {
   auto& header = state.Kelvane().header;
   header = {};

@@ -7,9 +7,9 @@
 
 namespace golf {
 
-// The screen on which the operator picks, makes or deletes a Kelvane roster. The pick is in
-// KVRosterName of the shared state, which keeps its old value if there is none. With the tag
-// "OPENONLY" rosters can only be picked.
+// The screen on which the operator picks, makes or deletes a Kelvane roster. A pick sets
+// KVRosterName of the shared state; without a pick it keeps its old value. With the tag "OPENONLY"
+// the operator can only pick.
 class LoadRoster : public Screen {
  public:
   static constexpr const char* kName = "LoadRoster";
@@ -38,7 +38,7 @@ class LoadRoster : public Screen {
 
  private:
   void FillList();
-  // Empty without a row.
+  // Empty if no row is active.
   std::string SelectedName() const;
   void Pick();
   void AskForNew();
@@ -49,8 +49,8 @@ class LoadRoster : public Screen {
   bool OpensOnly() const { return tag() == "OPENONLY"; }
 };
 
-// Lets the operator pick a Kelvane roster, nothing more. Gives KVRosterName, which keeps its old
-// value if he picks none.
+// Lets the operator pick a Kelvane roster and nothing more. Returns KVRosterName, which keeps its
+// old value without a pick.
 const std::string& AskForKelvaneRoster(SharedState& state, ScreenHost& host);
 
 }  // namespace golf

@@ -58,7 +58,7 @@ LoadRosters::LoadRosters(const ScreenContext& context) : Screen(kName, context) 
 }
 
 void LoadRosters::OnActivate() {
-  // Deleting a roster needs the golfers.
+  // Deleting a roster changes its golfers, so their file must be open.
   if (DeleteButton.enabled() && !state().Player().IsRosterFileOpen()) {
     const ResumeNext without([this](const NumberedError&) { DeleteButton.SetEnabled(false); });
     without([this] { state().Player().OpenRosterFile(); });
@@ -101,7 +101,8 @@ void LoadRosters::LoadList() {
 }
 
 void LoadRosters::ShowRowButtons() {
-  // The entry of all rosters is the first row, but for names that sort ahead of it.
+  // Row 1 is the entry of all rosters, unless a name sorts before it. So its number is checked,
+  // too.
   const bool is_roster = grid1.active_row() > 1 && RosterInHand() > 0;
   EditButton.SetVisible(is_roster);
   DeleteButton.SetVisible(is_roster);
@@ -147,7 +148,7 @@ void LoadRosters::BeginEdit() {
   EnterPanel(EditRosterCancel);
 }
 
-// The panel's buttons are the only ways out of it; the row in hand must not change under it.
+// The operator leaves the panel by its buttons only, and the active row must not change meanwhile.
 void LoadRosters::EnterPanel(Button& cancel) {
   ButtonFrame.SetVisible(false);
   grid1.SetEnabled(false);
@@ -225,7 +226,7 @@ void LoadRosters::AskToDelete() {
   LoadList();
 }
 
-// A golfer who is then on no roster is gone for good.
+// Takes all golfers off a deleted roster. A golfer who is then on no roster is deleted, too.
 void LoadRosters::TakeGolfersOut(std::int32_t roster) {
   TournamentPlayers& player = state().Player();
   const std::int32_t length = player.RosterFileLength();

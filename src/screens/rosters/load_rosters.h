@@ -9,9 +9,9 @@
 namespace golf {
 
 // The screen on which the operator picks a Quenby roster and edits the list of rosters. The roster
-// list of the shared program object is open. The pick is its ActiveRoster, -1 for all rosters,
-// which keeps its old value if there is none. The screen hides when it is left; whoever opened it
-// may have disabled DeleteButton.
+// list of the shared Program object must be open. A pick sets its ActiveRoster, -1 for all rosters;
+// without a pick it keeps its old value. The screen hides when the operator leaves it. Its opener
+// may disable DeleteButton.
 class LoadRosters : public Screen {
  public:
   static constexpr const char* kName = "LoadRosters";

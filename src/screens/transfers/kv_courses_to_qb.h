@@ -5,8 +5,8 @@
 
 namespace golf {
 
-// Starts the transfer of the course library, and tells its counts before the Quenby indexes are
-// written anew.
+// The screen on which the operator transfers the course library. It shows the counts before it
+// writes Quenby's course indexes anew.
 class KVCoursestoQB : public Screen {
  public:
   static constexpr const char* kName = "KVCoursestoQB";

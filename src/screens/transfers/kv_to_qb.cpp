@@ -79,7 +79,7 @@ void KVtoQB::FillItemGrid() {
   ShowItem(2, "Flight", "Flight");
   ShowItem(3, "Group #", "Tee Group");
   ShowItem(4, "Group Text", "Group Text");
-  // The name goes back trimmed into the header.
+  // Trims the name in the header, too.
   const auto trimmed = [&]<FieldName kName>(int i) {
     const std::string name(Trim(header.Get<kName>(i)));
     header.Set<kName>({i}, name);
@@ -131,7 +131,7 @@ void KVtoQB::Transfer() {
   TransferButton.SetVisible(true);
   host().NoteCount("updated", report.updated);
   host().NoteCount("added", report.added);
-  // What follows is of the run as well, which carries on over faults.
+  // These steps belong to the run, so they go on after a fault, too.
   const ResumeNext next([this](const NumberedError& fault) {
     if (dynamic_cast<const CommitFailed*>(&fault) != nullptr) throw;
     host().NoteFault(fault);
@@ -141,8 +141,8 @@ void KVtoQB::Transfer() {
   next([&] { host().Unload(*this); });
 }
 
-// False where the files could not be opened, which the operator has been told. The button that the
-// run has hidden stays hidden then.
+// Returns false after an error, which has been shown to the operator. The button that the run has
+// hidden stays hidden in this case.
 bool KVtoQB::CopyGolfers(const GolfersKvToQbRequest& request, GolfersKvToQbReport& report) {
   try {
     RunWhole(state(), host(),

@@ -22,7 +22,7 @@ class KVtoQB : public Screen {
   void OnUnload() override;
   Button* LeaveButton() override { return &ExitButton; }
 
-  // Above the rosters, and the arrow between them.
+  // The headings of the two rosters, and the arrow between them.
   std::array<Label, 3> Label1{Label("Label1", "Kelvane Roster"), Label("Label1", "Quenby Roster"),
                               Label("Label1", "---->--->")};
   TextBox HandicapRoster{"HandicapRoster"};
@@ -40,7 +40,7 @@ class KVtoQB : public Screen {
   Button TransferButton{"TransferButton", ">> &Transfer Golfers >>"};
   Button ExitButton{"ExitButton", "Cancel"};
 
-  // The texts of the grid.
+  // The columns of the grid.
   static constexpr int kItemColumn = 1;
   static constexpr int kTickColumn = 2;
   static constexpr int kQuenbyItemColumn = 3;

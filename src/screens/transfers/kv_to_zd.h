@@ -23,8 +23,8 @@ class KVtoZD : public Screen {
   Button* PanelLeaveButton() override { return picker.IsOpen() ? &picker.CancelLeague : nullptr; }
 
   Frame Frame1{"Frame1"};
-  // The heading, what is above the roster, the league and the log, around the percent, and beside
-  // the handicap of nine holes.
+  // The heading of the screen, the headings of the roster, the league and the log, the words around
+  // the percentage, and the text beside the handicap of nine holes.
   std::array<Label, 8> Label1{Label("Label1", "--->--->--->Transfer GOLFERS to--->--->--->"),
                               Label("Label1", "Kelvane Roster"),
                               Label("Label1", "LEAGUE to Transfer to..."),
@@ -54,7 +54,7 @@ class KVtoZD : public Screen {
   void SelectHandicap(std::size_t type);
 
   void Transfer();
-  // A whole number from 10 to 100, which the box shows once the copying begins.
+  // Returns a whole number from 10 to 100. The box shows it once the copying begins.
   int Percent() const;
 };
 

@@ -18,7 +18,7 @@ namespace golf {
 namespace {
 
 constexpr std::size_t kCourseKey = 5;
-constexpr std::size_t kTeeKey = 2;  // with its abbreviation
+constexpr std::size_t kTeeKey = 2;  // the tee's number and abbreviation
 constexpr int kEighteen = 18;
 
 std::string WithoutKey(const std::string& item, std::size_t key) {
@@ -26,7 +26,7 @@ std::string WithoutKey(const std::string& item, std::size_t key) {
       Trim(std::string_view(item).substr(0, item.size() - std::min(item.size(), key))));
 }
 
-// Where the list is empty there is nothing to choose.
+// Error 5 if the list is empty.
 void SelectTee(ComboBox& list, const std::string& tee) {
   if (!list.Select(ItemWithLongestCommonBeginning(list.items(), tee))) {
     throw NumberedError(ErrorNumber::kBadCall, "The course has no tees.");
@@ -75,7 +75,7 @@ std::size_t QBtoKV::TeesPlayed(const Sex& sex) {
   return static_cast<std::size_t>(state().Tournament().TeeCount(sex.group));
 }
 
-// The log comes last: a golfer's name with a quote in it ends the reading there.
+// The log comes last: if a golfer's name in it has a quote, reading ends there.
 std::vector<Control*> QBtoKV::Remembered() {
   std::vector<Control*> controls = {&FirstTimeLoaded, &HandicapRoster, &TCheck,     &TCheck2,
                                     &TournamentList,  &RoundList,      &CourseCombo};
@@ -90,7 +90,7 @@ void QBtoKV::OnLoad() {
   const ResumeNext silently = ResumeNextButReads(nullptr);
   state().StoreDataPath = state().QBDataPath;
   ReadSettings(state(), *this, Remembered());
-  TieEvents();  // the lists had nothing in them to choose from until now
+  TieEvents();  // until here the lists were empty, so they had no events
   if (FirstTimeLoaded.text() != "NO") TCheck2.SetValue(false);
   FirstTimeLoaded.SetText("NO");
   Message.SetText("");
@@ -106,7 +106,7 @@ void QBtoKV::OpenAgain() {
   if (TournamentList.index() >= 0) ReadTournament();
 }
 
-// After a run each new choice offers another one.
+// Each new choice shows the transfer button again, which a run has hidden.
 void QBtoKV::TieEvents() {
   const auto offering = [this](void (QBtoKV::*choose)()) {
     return [this, choose] {
@@ -119,8 +119,8 @@ void QBtoKV::TieEvents() {
   CourseCombo.on_click = offering(&QBtoKV::ChooseCourse);
 }
 
-// Where a record that matching needs cannot be read, there is no course to transfer to: the one
-// that stood there before is not the round's.
+// Chooses and matches. If a record that matching needs cannot be read, it clears the list of
+// courses: the course selected before does not belong to this round.
 void QBtoKV::Match(const std::function<void()>& choose) {
   try {
     choose();
@@ -250,7 +250,7 @@ void QBtoKV::MatchCourse() {
   CourseCombo.Select(ItemWithLongestCommonBeginning(CourseCombo.items(), name));
 }
 
-// With an away course there is no tee to choose.
+// An away course has no tees.
 void QBtoKV::ChooseCourse() {
   MatchTees();
   for (const Sex& sex : Sexes()) {
@@ -340,7 +340,7 @@ void QBtoKV::Transfer() {
                      std::to_string(selected_round_) + ", to " + request.roster},
            request, report);
   if (report.end == RunEnd::kNoRoster) {
-    // What the operator chooses next goes by the tournament.
+    // The operator's next choice needs the tournament.
     const ResumeNext next([this](const NumberedError& fault) { host().NoteFault(fault); });
     next([&] { OpenAgain(); });
     return ShowBox("Notice", "Cannot open Handicap Roster.");

@@ -13,8 +13,8 @@
 namespace golf {
 
 // The screen on which the operator posts the scores of a tournament round to a Kelvane roster. It
-// shows the course and the tees of the round beside those of Kelvane's library that
-// their names fit best. The operator may choose others.
+// shows the course and the tees of the round beside the course and the tees of Kelvane's library
+// whose names match best. The operator may choose others.
 class QBtoKV : public Screen {
  public:
   static constexpr const char* kName = "QBtoKV";
@@ -34,13 +34,13 @@ class QBtoKV : public Screen {
       Label("Label1",
             "Transfer scores from specified tournament to the specified handicap roster."),
       Label("Label1", "Corresponding course in Kelvane")};
-  ListBox TournamentList{"TournamentList"};  // behind the last blank stands its control file
+  ListBox TournamentList{"TournamentList"};  // the name of the control file follows the last blank
   ListBox RoundList{"RoundList"};
   Button DestButton{"DestButton", "Find Handicap Roster"};
   TextBox HandicapRoster{"HandicapRoster"};
   Label QBCourse{"QBCourse"};
   ComboBox CourseCombo{"CourseCombo"};  // the last five characters are the course's number
-  // The tees of the round, and Kelvane's, of which the last character is the tee's number.
+  // The tees of the round, and those of Kelvane. The last character of a Kelvane tee is its number.
   Labels QBMTee{Label("QBMTee(1)"), Label("QBMTee(2)"), Label("QBMTee(3)"), Label("QBMTee(4)"),
                 Label("QBMTee(5)")};
   Labels QBMTeeLabel{Label("QBMTeeLabel(1)", "Men"), Label("QBMTeeLabel(2)", "Men"),
@@ -57,16 +57,16 @@ class QBtoKV : public Screen {
                    ComboBox("LTeeCombo(4)"), ComboBox("LTeeCombo(5)")};
   CheckBox TCheck{"TCheck", "Transfer scores as Tournament scores"};
   CheckBox TCheck2{"TCheck2", "Transfer points won in QB to KV score value."};
-  TextBox FirstTimeLoaded{"FirstTimeLoaded"};  // "NO" once the screen has been loaded once
+  TextBox FirstTimeLoaded{"FirstTimeLoaded"};  // "NO" after the screen has been loaded once
   TextBox Message{"Message"};
   Label Working{"Working"};
   Button TransferButton{"TransferButton", "Transfer Scores"};
   Button ExitButton{"ExitButton", "Exit"};
 
-  // The keys at the end of the items of the lists.
+  // Return the number at the end of an item.
   static std::int32_t TournamentOf(const std::string& item);
   static std::int32_t CourseOf(const std::string& item);
-  // What of such items is meant to be read.
+  // Return the part of an item that is shown to the operator, without the key at its end.
   static std::string TournamentHeading(const std::string& item);
   static std::string CourseHeading(const std::string& item);
   static std::string TeeHeading(const std::string& item);
@@ -109,7 +109,7 @@ class QBtoKV : public Screen {
   void ShowBox(std::string title, std::string text);
 
   int selected_round_ = 1;
-  bool round_list_ready_ = false;  // the operator's choices in RoundList count
+  bool round_list_ready_ = false;  // true: choices in RoundList are the operator's
 };
 
 }  // namespace golf

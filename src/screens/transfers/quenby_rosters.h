@@ -8,17 +8,17 @@
 
 namespace golf {
 
-// What the screens share that bring golfers into one of Quenby's rosters.
+// The common part of the screens that transfer golfers to a Quenby roster.
 
-// Opens Quenby's master and roster list and reads the master record. Error 70 where Quenby holds
-// its master.
+// Opens Quenby's master and roster list and reads the master record. Error 70 if another program
+// holds the master or it may not be written to.
 void OpenQuenbyRosters(SharedState& state);
 
-// Lets the operator pick a roster, and delete one if he may. Gives its name and, behind blanks, its
-// number in three digits, 000 for all rosters.
+// Lets the operator pick a roster, and delete rosters if `may_delete`. Returns the roster's name,
+// blanks, and its number in three digits, 000 for all rosters.
 std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_delete);
 
-// The number at the end of such a text.
+// Returns the number at the end of such a text.
 double QuenbyRosterNumber(std::string_view roster);
 
 }  // namespace golf

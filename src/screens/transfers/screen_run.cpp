@@ -25,7 +25,7 @@ void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
   if (!click.IsAllowed()) return;
   const InputHeldOff held_off(host);
   const auto open_again = [&] {
-    // The error that ended the run is the one to tell, whatever closing brings.
+    // The operator is shown the error that ended the run, not an error of closing the files.
     const ResumeNext anyway(nullptr);
     anyway([&] { state.InitSharedObjects(); });
     anyway([&] { screen.OpenAgain(); });
@@ -95,7 +95,7 @@ void ScreenRun::Report(const Progress& progress) {
                 shown ? std::string_view(look_.working->caption()) : std::string_view()});
 }
 
-// A run that carries on does not look busy any more, as operators are used to.
+// The pointer is normal after a fault, although the run goes on: operators are used to that.
 void ScreenRun::NoteFault(const NumberedError& fault) {
   host_.SetPointer(Pointer::kNormal);
   host_.NoteFault(fault);

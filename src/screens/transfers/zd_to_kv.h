@@ -10,8 +10,9 @@
 
 namespace golf {
 
-// Where the operator chooses a league, one of its batches of scores and a Kelvane roster, and
-// starts the transfer of the scores. The league's files stay open with the list of its batches.
+// The screen on which the operator transfers the scores of a league. The operator chooses the
+// league, one of its batches of scores, and a Kelvane roster. The league's files stay open while
+// its batches are listed.
 class ZDtoKV : public Screen {
  public:
   static constexpr const char* kName = "ZDtoKV";
@@ -34,7 +35,7 @@ class ZDtoKV : public Screen {
   Button ExitButton{"ExitButton", "Exit"};
   TextBox Message{"Message"};
   Label Working{"Working"};
-  // Above the log, the roster and the league.
+  // The headings of the log, the roster and the league.
   std::array<Label, 3> Label1{Label("Label1", "  Transfer Messages"),
                               Label("Label1", "To Kelvane ROSTER..."),
                               Label("Label1", "Transfer scores from LEAGUE ...")};
@@ -49,7 +50,7 @@ class ZDtoKV : public Screen {
   void Transfer();
   void PostScores(ScoresZdToKvReport& report);
 
-  std::string listed_league_;  // whose files are open with the list; empty with none
+  std::string listed_league_;  // the league whose files are open for the list; or empty
 };
 
 }  // namespace golf

@@ -33,7 +33,7 @@ class ZDtoQB : public Screen {
   TextBox Message{"Message"};
   Label Working{"Working"};
   Label WorkingCount{"WorkingCount"};
-  // The heading, and what is above the league, the roster and the log.
+  // The heading of the screen, and the headings of the league, the roster and the log.
   std::array<Label, 4> Label1{Label("Label1", "------>----> Transfer golfers to ------->---->"),
                               Label("Label1", "LEAGUE to Transfer"),
                               Label("Label1", "Quenby Roster"),
@@ -42,7 +42,7 @@ class ZDtoQB : public Screen {
 
  private:
   std::array<Control*, 6> Remembered();
-  // False if the operator was told what is missing.
+  // Returns false if something was missing, which the operator has been shown.
   bool Transfer();
   void NotifyOfLongNames(std::int32_t count);
 };
