@@ -21,7 +21,7 @@ ChangeGroup ChangeGroups::Current() {
 
 void ChangeGroups::Join(ChangeGroup a, ChangeGroup b) {
   if (a == 0 || b == 0) return;
-  const auto [first, last] = std::minmax(Root(a), Root(b));
+  const auto [first, last] = std::minmax({Root(a), Root(b)});
   joined_to_[last - 1] = first;
 }
 
