@@ -87,6 +87,7 @@ void HistoryWriter::File(const HistoryFileEntry& file) {
   AppendNumber(bytes, static_cast<std::uint64_t>(file.new_length));
   AppendText(bytes, file.kept_as);
   Portion(HistoryPortion::kFile, bytes);
+  if (file.fate == FileFate::kDeleted) ++changes_;
 }
 
 bool HistoryWriter::Place(std::int64_t offset, ChangeGroup group, std::string_view old_bytes,
@@ -102,6 +103,7 @@ bool HistoryWriter::Place(std::int64_t offset, ChangeGroup group, std::string_vi
   }
   next_offset_ = offset + std::ssize(std::max(old_bytes, new_bytes,
                                               [](auto a, auto b) { return a.size() < b.size(); }));
+  ++changes_;
   if (places_.size() >= kFullPortion) FlushPlaces();
   return true;
 }
@@ -115,7 +117,9 @@ void HistoryWriter::Report(std::string_view report) {
 void HistoryWriter::Finish() {
   FlushGroups();
   FlushPlaces();
-  Portion(HistoryPortion::kEnd, {});
+  std::string changes;
+  for (int shift = 0; shift < 64; shift += 8) changes += static_cast<char>(changes_ >> shift);
+  Portion(HistoryPortion::kEnd, changes);
   Flush();
   std::string first(kTitle);
   first.resize(static_cast<std::size_t>(kContentStart), '\0');  // room for the marks
@@ -275,6 +279,19 @@ RunTitle HistoryFile::Title() {
 RunTitle HistoryFile::Title(std::int64_t& at) {
   Check(ReadExactly(*file_, 0, kTitle.size()) == kTitle);
   return TitleOf(ReadPortion(at));
+}
+
+std::int64_t HistoryFile::CountChanges() {
+  constexpr std::int64_t kSize = 8;
+  std::int64_t at = file_->Length() - kSize - static_cast<std::int64_t>(kPortionHead);
+  Check(at >= kContentStart);
+  const Portion portion = ReadPortion(at);
+  Check(portion.kind == HistoryPortion::kEnd && portion.bytes.size() == kSize);
+  std::uint64_t changes = 0;
+  for (std::size_t i = kSize; i-- > 0;) {
+    changes = changes << 8 | static_cast<unsigned char>(portion.bytes[i]);
+  }
+  return static_cast<std::int64_t>(changes);
 }
 
 bool HistoryFile::IsWhole() {

@@ -46,6 +46,7 @@ class HistoryWriter {
   std::string places_;
   std::string groups_;
   std::int64_t next_offset_ = 0;
+  std::uint64_t changes_ = 0;
 };
 
 // A history file that is there. Reads any bytes without harm: DamagedHistory where they are none.
@@ -74,6 +75,8 @@ class HistoryFile {
   void Read(const Reader& reader);
   // Reads the title alone.
   RunTitle Title();
+  // The number of places and of deleted files. It is read from the end alone.
+  std::int64_t CountChanges();
   // Whether everything can be read.
   bool IsWhole();
 

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/field.h"
+
+namespace golf {
+
+// What the history knows of the sibling's records. The program hands it over, since the history
+// does not know the stores.
+struct RecordKinds {
+  // The layout of a file by its name without folder; nothing for a text file.
+  std::function<std::optional<LayoutInfo>(std::string_view file_name)> layout_of;
+  // What a record is called: "Smith, Ann". Empty where nobody lives in it, such as a free place.
+  // `file` is the path below the install, with "/"; `record` is a whole record.
+  std::function<std::string(std::string_view file, std::string_view record)> title_of;
+  // Whether a file is worked out from another one and can be made anew, as a course index.
+  std::function<bool(std::string_view file_name)> is_derived;
+  // Who refers to a record that was added: "Tournament \"Club Championship\""; empty with nobody.
+  std::function<std::string(std::string_view file, std::int64_t record, std::string_view bytes)>
+      referred_by;
+};
+
+}  // namespace golf

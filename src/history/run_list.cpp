@@ -1,0 +1,67 @@
+#include "history/run_list.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace golf {
+namespace {
+
+// The newest undo decides: a run whose undo was undone is done again.
+void MarkUndone(std::vector<HistoryRun>& newest_first) {
+  std::set<std::int32_t> undone;
+  for (HistoryRun& run : newest_first) {
+    if (run.state != RunState::kDone) continue;
+    if (undone.contains(run.run)) {
+      run.state = RunState::kUndone;
+    } else if (run.IsUndo()) {
+      undone.insert(run.title.undoes);
+    }
+  }
+}
+
+void AddPart(HistoryFile& history, const HistoryName& name, std::vector<HistoryRun>& runs) {
+  if (history.Has(HistoryMark::kClosed)) return;
+  const bool left = history.Has(HistoryMark::kLeft);
+  const bool done = history.Has(HistoryMark::kDone) && !history.Has(HistoryMark::kPutBack);
+  const bool begun =
+      history.Has(HistoryMark::kCommitted) || history.IsTorn(HistoryMark::kCommitted);
+  if (!left && !done && !begun) return;
+  const RunTitle title = history.Title();
+  if (runs.empty() || runs.back().run != name.run) {
+    runs.push_back({.run = name.run, .title = title, .parts = {}});
+  }
+  HistoryRun& run = runs.back();
+  run.parts.push_back(name);
+  run.changes += history.CountChanges();
+  if (left) run.state = RunState::kLeft;
+  if (!left && !done) run.state = RunState::kInterrupted;
+}
+
+}  // namespace
+
+std::string_view NameOf(RunState state) {
+  constexpr std::string_view kNames[] = {"done", "undone", "interrupted", "left"};
+  return kNames[static_cast<std::size_t>(state)];
+}
+
+RunList ListRuns(HistoryFolder& folder) {
+  RunList list;
+  for (const HistoryName& name : folder.List()) {
+    try {
+      AddPart(*folder.Open(name, FileAccess::kReadOnly), name, list.runs);
+    } catch (const DamagedHistory& error) {
+      list.damaged.push_back(error.description());
+    } catch (const NumberedError& error) {
+      if (!error.Is(ErrorNumber::kPermissionDenied)) throw;
+    }
+  }
+  std::reverse(list.runs.begin(), list.runs.end());
+  for (std::size_t i = 0; i < list.runs.size(); ++i) {
+    list.runs[i].number = static_cast<std::int32_t>(i) + 1;
+  }
+  MarkUndone(list.runs);
+  return list;
+}
+
+}  // namespace golf
