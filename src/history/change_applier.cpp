@@ -7,14 +7,16 @@
 namespace golf {
 namespace {
 
+constexpr std::size_t kFirstWindow = std::size_t{16} << 10;
 constexpr std::size_t kWindow = std::size_t{256} << 10;
+constexpr std::int64_t kCloseGap = 4 << 10;
 
 NumberedError ChangedByOthers(const std::string& path) {
   return {ErrorNumber::kPermissionDenied,
           "Another program has changed " + path + " during the run. Nothing was changed."};
 }
 
-// Reads places of a file by rising offsets, many with one call.
+// Reads places of a file by rising offsets. Places that lie close together are read with one call.
 class PlaceReader {
  public:
   explicit PlaceReader(PlatformFile& file) : file_(file) {}
@@ -24,17 +26,15 @@ class PlaceReader {
     const bool inside = offset >= at_ && offset + static_cast<std::int64_t>(size) <=
                                              at_ + static_cast<std::int64_t>(window_.size());
     if (!inside) {
+      const bool is_close = offset - last_end_ <= kCloseGap;
+      ahead_ = is_close ? std::clamp(ahead_ * 2, kFirstWindow, kWindow) : 0;
       at_ = offset;
-      window_.resize(std::max(size, kWindow));
+      window_.resize(std::max(size, ahead_));
       held_ = file_.ReadAt(offset, window_);
     }
+    last_end_ = offset + static_cast<std::int64_t>(size);
     const auto start = static_cast<std::size_t>(offset - at_);
     return std::string_view(window_).substr(0, held_).substr(std::min(start, held_), size);
-  }
-
-  void Forget() {
-    window_.clear();
-    held_ = 0;
   }
 
  private:
@@ -42,37 +42,42 @@ class PlaceReader {
   std::string window_;
   std::int64_t at_ = 0;
   std::size_t held_ = 0;
+  std::int64_t last_end_ = 0;
+  std::size_t ahead_ = 0;
 };
 
-bool IsOld(const HistoryPlace& place, std::size_t at, std::string_view now) {
-  if (at >= now.size()) return at >= place.old_bytes.size();
-  return at < place.old_bytes.size() ? now[at] == place.old_bytes[at] : now[at] == '\0';
+// `now` are the bytes that the file has now, from the byte `from` of the place on.
+bool IsOld(const HistoryPlace& place, std::size_t at, std::string_view now, std::size_t from) {
+  if (at - from >= now.size()) return at >= place.old_bytes.size();
+  const char byte = now[at - from];
+  return at < place.old_bytes.size() ? byte == place.old_bytes[at] : byte == '\0';
 }
 
-bool IsNew(const HistoryPlace& place, std::size_t at, std::string_view now) {
-  if (at >= now.size()) return at >= place.new_bytes.size();
-  return at < place.new_bytes.size() && now[at] == place.new_bytes[at];
+bool IsNew(const HistoryPlace& place, std::size_t at, std::string_view now, std::size_t from) {
+  if (at - from >= now.size()) return at >= place.new_bytes.size();
+  return at < place.new_bytes.size() && now[at - from] == place.new_bytes[at];
 }
 
 // As IsOld for each changed byte, a run of bytes at a time where it can be.
-bool IsUntouched(const HistoryPlace& place, std::string_view now) {
-  const std::size_t both = std::min(now.size(), place.old_bytes.size());
+bool IsUntouched(const HistoryPlace& place, std::string_view now, std::size_t from) {
+  const std::size_t both = std::min(now.size() + from, place.old_bytes.size());
   return std::all_of(place.changed.begin(), place.changed.end(), [&](const ChangedBytes& run) {
     if (run.at + run.size <= both) {
-      return std::memcmp(now.data() + run.at, place.old_bytes.data() + run.at, run.size) == 0;
+      return std::memcmp(now.data() + run.at - from, place.old_bytes.data() + run.at, run.size) ==
+             0;
     }
-    if (now.size() <= run.at && place.old_bytes.size() <= run.at) return true;
+    if (now.size() + from <= run.at && place.old_bytes.size() <= run.at) return true;
     for (std::size_t at = run.at; at < run.at + run.size; ++at) {
-      if (!IsOld(place, at, now)) return false;
+      if (!IsOld(place, at, now, from)) return false;
     }
     return true;
   });
 }
 
-bool IsMixture(const HistoryPlace& place, std::string_view now) {
+bool IsMixture(const HistoryPlace& place, std::string_view now, std::size_t from) {
   return std::all_of(place.changed.begin(), place.changed.end(), [&](const ChangedBytes& run) {
     for (std::size_t at = run.at; at < run.at + run.size; ++at) {
-      if (!IsOld(place, at, now) && !IsNew(place, at, now)) return false;
+      if (!IsOld(place, at, now, from) && !IsNew(place, at, now, from)) return false;
     }
     return true;
   });
@@ -121,22 +126,22 @@ class ChangeApplier::Target {
   void Take(const HistoryPlace& place, bool fills_gaps) {
     std::string wanted = direction_ == Direction::kForward ? place.new_bytes : place.old_bytes;
     if (fills_gaps) wanted.resize(PlaceSize(place));
-    const std::string_view now = reader_.Read(place.offset, PlaceSize(place));
-    if (untouched_ && !IsUntouched(place, now)) throw ChangedByOthers(entry_.path);
-    if (wanted.empty()) return;  // the length sees to it
-    if (place.offset != start_ + std::ssize(pending_) || pending_.size() >= kWindow) {
-      Flush();
-      start_ = place.offset;
-    }
+    const std::size_t first = place.changed.front().at;
+    const std::size_t last = place.changed.back().at + place.changed.back().size;
+    // Reading the bytes may forget those that were read before.
+    const std::string now(
+        reader_.Read(place.offset + static_cast<std::int64_t>(first), last - first));
+    if (untouched_ && !IsUntouched(place, now, first)) throw ChangedByOthers(entry_.path);
+    const std::size_t end = std::min(last, wanted.size());
+    if (first >= end) return;  // the length sees to it
+    Join(place, place.offset + static_cast<std::int64_t>(first));
     const std::size_t before = pending_.size();
-    pending_.append(now.substr(0, wanted.size()));
-    pending_.resize(before + wanted.size());
+    pending_.append(now, 0, end - first);
+    pending_.resize(before + end - first);
     for (const ChangedBytes& run : place.changed) {
-      if (run.at >= wanted.size()) continue;
-      const std::size_t size = std::min(run.size, wanted.size() - run.at);
-      pending_.replace(before + run.at, size, wanted, run.at, size);
-      if (!first_changed_) first_changed_ = before + run.at;
-      last_changed_ = before + run.at + size;
+      if (run.at >= end) continue;
+      const std::size_t size = std::min(run.size, end - run.at);
+      pending_.replace(before + run.at - first, size, wanted, run.at, size);
     }
   }
 
@@ -154,14 +159,26 @@ class ChangeApplier::Target {
   void Sync() { gate_.Sync(*file_); }
 
  private:
-  void Flush() {
-    if (first_changed_) {
-      gate_.Write(
-          *file_, start_ + static_cast<std::int64_t>(*first_changed_),
-          std::string_view(pending_).substr(*first_changed_, last_changed_ - *first_changed_));
+  // Brings what is pending to the byte at `start`: the bytes between two records that follow each
+  // other are written as they are, in one call with both.
+  void Join(const HistoryPlace& place, std::int64_t start) {
+    const std::int64_t end = start_ + std::ssize(pending_);
+    const bool follows = !pending_.empty() && place.offset == place_end_ && start >= end &&
+                         start - end <= kCloseGap && pending_.size() < kWindow;
+    place_end_ = place.End();
+    if (follows && start > end) {
+      const auto gap = static_cast<std::size_t>(start - end);
+      const std::string_view between = reader_.Read(end, gap);
+      pending_.append(between).append(gap - between.size(), '\0');
     }
+    if (follows) return;
+    Flush();
+    start_ = start;
+  }
+
+  void Flush() {
+    if (!pending_.empty()) gate_.Write(*file_, start_, pending_);
     pending_.clear();
-    first_changed_.reset();
   }
 
   HistoryGate& gate_;
@@ -172,8 +189,7 @@ class ChangeApplier::Target {
   bool untouched_;
   std::int64_t start_ = 0;
   std::string pending_;
-  std::optional<std::size_t> first_changed_;
-  std::size_t last_changed_ = 0;
+  std::int64_t place_end_ = 0;  // of the last place
 };
 
 ChangeApplier::ChangeApplier(HistoryGate& gate, HistoryFolders folders)
@@ -244,8 +260,12 @@ void ChangeApplier::Check(HistoryFile& history, Expected expected,
   };
   const auto take = [&](const HistoryPlace& place) {
     if (!reader) return;
-    const std::string_view now = reader->Read(place.offset, PlaceSize(place));
-    const bool right = expected == Expected::kOld ? IsUntouched(place, now) : IsMixture(place, now);
+    const std::size_t first = place.changed.front().at;
+    const std::size_t last = place.changed.back().at + place.changed.back().size;
+    const std::string_view now =
+        reader->Read(place.offset + static_cast<std::int64_t>(first), last - first);
+    const bool right =
+        expected == Expected::kOld ? IsUntouched(place, now, first) : IsMixture(place, now, first);
     if (!right) differs({path, place.offset});
   };
   history.Read({.file = begin, .place = take});

@@ -258,7 +258,7 @@ void HistoryFile::ReadPlaces(std::string_view bytes, std::int64_t& next_offset,
     place.offset = next_offset + static_cast<std::int64_t>(gap);
     Check(!in.failed() && place.offset < INT64_MAX / 2 && std::max(old_size, new_size) > 0);
     in.Place(old_size, new_size, place);
-    Check(!in.failed());
+    Check(!in.failed() && !place.changed.empty());
     next_offset = place.End();
     if (reader.place) reader.place(place);
   }
