@@ -50,7 +50,7 @@ bool IsOld(const HistoryPlace& place, std::size_t at, std::string_view now) {
 
 bool IsNew(const HistoryPlace& place, std::size_t at, std::string_view now) {
   if (at >= now.size()) return at >= place.new_bytes.size();
-  return at < place.new_bytes.size() && now[at] == place.new_bytes[at];
+  return at < place.new_bytes.size() ? now[at] == place.new_bytes[at] : now[at] == '\0';
 }
 
 template <class Test>
