@@ -3,8 +3,12 @@
 // beside it with one system call for each record: it reads Quenby's IDs once, then reads each
 // Kelvane golfer and writes a Quenby record.
 //
-// golfer_transfer [ROUNDS]            prints medians for 10,000 and for 30,000 golfers
+// The same golfers go into an SQLite database, too: an upsert of each in one transaction, with the
+// database's default durability. TMPDIR says on which disk all of it happens.
+//
+// golfer_transfer [ROUNDS]            prints medians for 200, 10,000 and 30,000 golfers
 // golfer_transfer --bare-loop DIR     runs the bare loop
+// golfer_transfer --sqlite DIR        runs the upsert
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,6 +25,7 @@
 #include <unordered_map>
 
 #include "core/record.h"
+#include "sqlite_records.h"
 #include "stores/kelvane/kelvane_layouts.h"
 #include "stores/quenby/quenby_layouts.h"
 #include "whole_process.h"
@@ -34,6 +39,39 @@ using KelvaneGolfer = Record<KelvaneGolferLayout>;
 using QuenbyGolfer = Record<PlayerLayout>;
 
 constexpr int kFirstRecord = 10;
+
+constexpr const char* kDatabase = "golfers.db";
+
+// Quenby's golfers in a table by their IDs.
+void MakeDatabase(const fs::path& folder) {
+  std::ifstream quenby(folder / "qbdata" / "QBGOLFER.Q9D", std::ios::binary);
+  SqliteRecords database(folder / kDatabase);
+  database.Execute("begin");
+  database.MakeTable("golfers");
+  QuenbyGolfer golfer;
+  const auto bytes = golfer.MutableBytes();
+  while (quenby.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) {
+    if (golfer.Get<"IDNum">() > 0)
+      database.Upsert("golfers", golfer.Get<"IDNum">(), golfer.Bytes());
+  }
+  database.Execute("commit");
+}
+
+void SqliteUpsert(const fs::path& folder) {
+  std::ifstream kelvane(folder / "kvdata" / "CLUB.KVG", std::ios::binary);
+  SqliteRecords database(folder / kDatabase);
+  database.Execute("begin");
+  KelvaneGolfer golfer;
+  QuenbyGolfer player;
+  const auto bytes = golfer.MutableBytes();
+  while (kelvane.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) {
+    player.Set<"IDNum">(golfer.Get<"IDNum">());
+    player.Set<"NameLast">(golfer.Get<"NameLast">());
+    player.Set<"Handicap">(golfer.Get<"Handicap">());
+    database.Upsert("golfers", golfer.Get<"IDNum">(), player.Bytes());
+  }
+  database.Execute("commit");
+}
 
 // The IDs are in no order. The first half of them is in Quenby's file among others.
 void MakeInstall(const fs::path& folder, int golfers) {
@@ -57,6 +95,9 @@ void MakeInstall(const fs::path& folder, int golfers) {
     player.Set<"IDNum">(id % 2 == 0 ? id : id + golfers + 1);
     quenby << player.Bytes();
   }
+  kelvane.close();
+  quenby.close();
+  MakeDatabase(folder);
   Record<KelvaneHeaderLayout> header;
   header.Set<"Holes">(18);
   std::ofstream(folder / "kvdata" / "CLUB.KV5", std::ios::binary) << header.Bytes();
@@ -109,11 +150,12 @@ void BareLoop(const fs::path& folder) {
   close(kelvane);
 }
 
-BareLoopRace RaceOver(int golfers) {
+BareLoopRace RaceOver(int golfers, const std::string& program) {
   return {
       .title = std::to_string(golfers) + " golfers into a file of as many, half of them the same",
       .make_install = [golfers](const fs::path& folder) { MakeInstall(folder, golfers); },
-      .words = {"golfers-kv-to-qb", "--roster", "CLUB", "--to", "1"}};
+      .words = {"golfers-kv-to-qb", "--roster", "CLUB", "--to", "1"},
+      .others = {{"SQLite upsert", {program, "--sqlite", "{}"}}}};
 }
 
 }  // namespace
@@ -121,7 +163,13 @@ BareLoopRace RaceOver(int golfers) {
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
-  const auto seconds = RaceBareLoop(argc, argv, BareLoop, {RaceOver(10000), RaceOver(30000)});
+  if (argc == 3 && std::string(argv[1]) == "--sqlite") {
+    SqliteUpsert(argv[2]);
+    return 0;
+  }
+  const auto seconds =
+      RaceBareLoop(argc, argv, BareLoop,
+                   {RaceOver(200, argv[0]), RaceOver(10000, argv[0]), RaceOver(30000, argv[0])});
   if (seconds.empty()) return 0;
-  std::printf("Three times the golfers take %.2f times as long.\n", seconds[1] / seconds[0]);
+  std::printf("Three times the golfers take %.2f times as long.\n", seconds[2] / seconds[1]);
 }

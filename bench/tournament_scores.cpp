@@ -3,7 +3,11 @@
 // bare loop runs beside it with one system call for each record: it reads every file once, reads
 // and writes the golfer and the history of each score, and marks its entry in the tournament.
 //
+// The same posting is done in an SQLite database, too: three updates for each score, all in one
+// transaction, with the database's default durability.
+//
 // tournament_scores [ROUNDS]            prints medians
+// tournament_scores --sqlite DIR        runs the posting in the database
 // tournament_scores --bare-loop DIR     runs the bare loop
 
 #include <cstdint>
@@ -12,6 +16,7 @@
 
 #include "bare_file.h"
 #include "score_roster.h"
+#include "sqlite_records.h"
 #include "stores/course/course_layout.h"
 #include "stores/quenby/quenby_layouts.h"
 #include "whole_process.h"
@@ -86,11 +91,50 @@ void MakeTournament(const fs::path& quenby) {
   }
 }
 
+constexpr const char* kDatabase = "scores.db";
+
+template <class Layout>
+void FillTable(SqliteRecords& database, const char* table, const fs::path& path) {
+  database.MakeTable(table);
+  BareFile<Layout> file(path);
+  for (int i = 0, count = file.Count(); i < count; ++i) {
+    file.Read(i);
+    database.Upsert(table, i, file.buffer.Bytes());
+  }
+}
+
+void MakeDatabase(const fs::path& folder) {
+  SqliteRecords database(folder / kDatabase);
+  database.Execute("begin");
+  FillTable<KelvaneGolferLayout>(database, "golfers", folder / "kvdata" / "CLUB.KVG");
+  FillTable<KelvaneHistoryLayout>(database, "histories", folder / "kvdata" / "CLUB.KVS");
+  FillTable<TournamentPlayerLayout>(database, "entries", folder / "qbdata" / "X0001.Q9G");
+  database.Execute("commit");
+}
+
+// Reads and writes the golfer, his history and his entry for each score.
+void SqlitePosting(const fs::path& folder) {
+  SqliteRecords database(folder / kDatabase);
+  database.Execute("begin");
+  for (int entry = 0; entry < kPlayers; ++entry) {
+    const int golfer = (entry + 1) * (kRosterGolfers / kPlayers) - 1;
+    for (const auto& [table, number] :
+         {std::pair("golfers", golfer), std::pair("histories", golfer),
+          std::pair("entries", entry)}) {
+      std::string bytes = database.Read(table, number);
+      bytes[bytes.size() / 2] ^= 1;
+      database.Upsert(table, number, bytes);
+    }
+  }
+  database.Execute("commit");
+}
+
 void MakeInstall(const fs::path& folder) {
   MakeScoreRoster(folder);
   MakeTournament(folder / "qbdata");
   MakeCourses(folder / "kvdata" / "kvcrs.dat", folder / "kvdata" / "18CRSKV.INX");
   MakeCourses(folder / "qbdata" / "qbcrs.dat", folder / "qbdata" / "18CRSQB.INX");
+  MakeDatabase(folder);
 }
 
 void BareLoop(const fs::path& folder) {
@@ -114,9 +158,14 @@ void BareLoop(const fs::path& folder) {
 
 int main(int argc, char** argv) {
   using namespace golf::bench;
+  if (argc == 3 && std::string(argv[1]) == "--sqlite") {
+    SqlitePosting(argv[2]);
+    return 0;
+  }
   RaceBareLoop(
       argc, argv, BareLoop,
       {{.title = "2,000 scores of a tournament into a roster of 20,000 golfers",
         .make_install = MakeInstall,
-        .words = {"scores-qb-to-kv", "--tournament", "1", "--round", "1", "--roster", "CLUB"}}});
+        .words = {"scores-qb-to-kv", "--tournament", "1", "--round", "1", "--roster", "CLUB"},
+        .others = {{"SQLite", {argv[0], "--sqlite", "{}"}}}}});
 }

@@ -1,7 +1,7 @@
 # What the project needs of the system, and how it is built. run and test source it in the folder of
 # the checkout.
 
-build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev)
+build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev zlib1g-dev)
 test_packages=(libgtest-dev librapidcheck-dev xvfb xauth)
 fuzz_packages=(clang libclang-rt-14-dev)
 

@@ -3,7 +3,7 @@
 # outside the checkout, by a hash of everything that it was made from.
 
 windows_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build xz-utils zip googletest
-                  libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev)
+                  libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev libz-mingw-w64-dev)
 toolchain=$PWD/cmake/windows.cmake
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/golf-transfer
 

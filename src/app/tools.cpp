@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "screens/courses/course_table.h"
+#include "screens/file_changes.h"
 #include "stores/course/course_class.h"
 #include "stores/course/course_library.h"
 
@@ -90,6 +91,7 @@ void ShowCourseTable(SharedState& state, ScreenHost& host, std::string_view prog
     throw NumberedError(ErrorNumber::kBadCall,
                         "There is no course library \"" + std::string(program) + "\".");
   }
+  RecoverInterruptedRun(state, host);
   OpenCourseLibrary(state, *library);
   ShowOpenLibrary(state, host);
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <utility>
 
 #include "core/code_page.h"
@@ -248,6 +249,48 @@ class WindowsRunLock : public RunLock {
   Handle file_;  // the system deletes the file when the last handle to it closes
 };
 
+// The events that end a process, with the number that a shell gives to a process they have ended.
+struct StopEvent {
+  DWORD event;
+  int signal;
+};
+
+constexpr StopEvent kStopEvents[] = {{CTRL_C_EVENT, 2},
+                                     {CTRL_BREAK_EVENT, 15},
+                                     {CTRL_CLOSE_EVENT, 1},
+                                     {CTRL_LOGOFF_EVENT, 15},
+                                     {CTRL_SHUTDOWN_EVENT, 15}};
+std::atomic<int> last_stop = 0;  // the system tells of an event in a thread of its own
+std::atomic<bool> stops_watched = false;
+
+// The system ends the process when this returns from the closing of the console or of the session,
+// so it waits until the run has ended.
+BOOL WINAPI NoteStop(DWORD event) {
+  constexpr DWORD kPause = 10;  // milliseconds
+  for (const StopEvent& stop : kStopEvents) {
+    if (stop.event == event) last_stop = stop.signal;
+  }
+  const bool ends_anyway = event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT;
+  while (ends_anyway && stops_watched) Sleep(kPause);
+  return TRUE;
+}
+
+class WindowsStopWatch : public StopWatch {
+ public:
+  WindowsStopWatch() {
+    last_stop = 0;
+    stops_watched = true;
+    SetConsoleCtrlHandler(NoteStop, TRUE);
+  }
+  WindowsStopWatch(const WindowsStopWatch&) = delete;
+  WindowsStopWatch& operator=(const WindowsStopWatch&) = delete;
+  ~WindowsStopWatch() override {
+    SetConsoleCtrlHandler(NoteStop, FALSE);
+    stops_watched = false;
+  }
+  int Signal() const override { return last_stop; }
+};
+
 struct CloseSearch {
   using pointer = HANDLE;
   void operator()(HANDLE search) const { FindClose(search); }
@@ -384,6 +427,8 @@ class WindowsPlatform : public Platform {
     if (GetLastError() == ERROR_SHARING_VIOLATION) throw AnotherRun(folder);
     return nullptr;
   }
+
+  std::unique_ptr<StopWatch> WatchStops() override { return std::make_unique<WindowsStopWatch>(); }
 
   void StartProgram(const std::string& path, const std::string& arguments) override {
     const std::wstring program = Resolve(path);

@@ -10,6 +10,7 @@
 
 #include "core/code_page.h"
 #include "desktop/wx_text.h"
+#include "screens/file_changes.h"
 
 namespace golf {
 
@@ -47,6 +48,7 @@ bool DesktopApp::OnInit() {
   Bind(wxEVT_QUERY_END_SESSION, &DesktopApp::OnQueryEndSession, this);
   Bind(wxEVT_END_SESSION, [](wxCloseEvent&) {});  // the system ends the process
   host_->Show(host_->Load("TransferMenu"));
+  host_->Operate([&] { RecoverInterruptedRun(state, *host_); });
   return true;
 }
 

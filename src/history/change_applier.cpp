@@ -1,6 +1,7 @@
 #include "history/change_applier.h"
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
 
 namespace golf {
@@ -53,23 +54,28 @@ bool IsNew(const HistoryPlace& place, std::size_t at, std::string_view now) {
   return at < place.new_bytes.size() ? now[at] == place.new_bytes[at] : now[at] == '\0';
 }
 
-template <class Test>
-bool AllChanged(const HistoryPlace& place, Test&& test) {
+// As IsOld for each changed byte, a run of bytes at a time where it can be.
+bool IsUntouched(const HistoryPlace& place, std::string_view now) {
+  const std::size_t both = std::min(now.size(), place.old_bytes.size());
   return std::all_of(place.changed.begin(), place.changed.end(), [&](const ChangedBytes& run) {
+    if (run.at + run.size <= both) {
+      return std::memcmp(now.data() + run.at, place.old_bytes.data() + run.at, run.size) == 0;
+    }
+    if (now.size() <= run.at && place.old_bytes.size() <= run.at) return true;
     for (std::size_t at = run.at; at < run.at + run.size; ++at) {
-      if (!test(at)) return false;
+      if (!IsOld(place, at, now)) return false;
     }
     return true;
   });
 }
 
-bool IsUntouched(const HistoryPlace& place, std::string_view now) {
-  return AllChanged(place, [&](std::size_t at) { return IsOld(place, at, now); });
-}
-
 bool IsMixture(const HistoryPlace& place, std::string_view now) {
-  return AllChanged(place,
-                    [&](std::size_t at) { return IsOld(place, at, now) || IsNew(place, at, now); });
+  return std::all_of(place.changed.begin(), place.changed.end(), [&](const ChangedBytes& run) {
+    for (std::size_t at = run.at; at < run.at + run.size; ++at) {
+      if (!IsOld(place, at, now) && !IsNew(place, at, now)) return false;
+    }
+    return true;
+  });
 }
 
 std::size_t PlaceSize(const HistoryPlace& place) {

@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::int64_t kPortion = 64 << 10;
 constexpr std::size_t kWindow = std::size_t{64} << 10;
+constexpr std::size_t kRecord = std::size_t{16} << 10;  // no record is longer
 
 std::int64_t PortionOf(std::int64_t offset) { return offset / kPortion; }
 
@@ -29,6 +30,11 @@ std::size_t HeldFileChanges::ReadAt(std::int64_t offset, std::span<char> into) {
   std::size_t read = 0;
   if (from_file > 0) {
     read = real_->ReadAt(offset, into.first(static_cast<std::size_t>(from_file)));
+    // A record is read before it is written: these are its old bytes.
+    if (read <= kRecord) {
+      window_.assign(into.begin(), into.begin() + static_cast<std::ptrdiff_t>(read));
+      window_offset_ = offset;
+    }
   }
   std::fill(into.begin() + static_cast<std::ptrdiff_t>(read), into.end(), '\0');
 
@@ -40,9 +46,9 @@ std::size_t HeldFileChanges::ReadAt(std::int64_t offset, std::span<char> into) {
       const std::int64_t first = std::max(place.offset, offset);
       const std::int64_t last = std::min(place.offset + std::int64_t{place.new_size}, end);
       if (first >= last) continue;
-      store_.Read(place.stored + (first - place.offset),
-                  into.subspan(static_cast<std::size_t>(first - offset),
-                               static_cast<std::size_t>(last - first)));
+      const std::string& bytes = Bytes(place).new_bytes;
+      std::copy_n(bytes.begin() + (first - place.offset), last - first,
+                  into.begin() + (first - offset));
     }
   }
   return size;
@@ -63,13 +69,11 @@ void HeldFileChanges::FillCut(std::int64_t end, ChangeGroup group) {
 void HeldFileChanges::WriteOver(std::int64_t offset, std::string_view bytes, ChangeGroup group) {
   const std::int64_t end = offset + std::ssize(bytes);
   length_ = std::max(length_, end);
-  if (HeldPlace* place = FindExact(offset, bytes.size())) {
-    NoteShared(place->group, group);
-    return store_.Replace(place->stored, bytes);
+  if (const HeldPlace* place = FindExact(offset, bytes.size())) {
+    return Replace(*place, bytes, group);
   }
   if (!Overlaps(offset, end)) {
-    HeldPlace place{.offset = offset, .group = group};
-    return Insert(place, bytes, OldBytes(offset, bytes.size()));
+    return Insert(offset, group, OldBytes(offset, bytes.size()), bytes);
   }
   // Several places become one.
   const std::vector<HeldPlace> taken = TakeOverlapping(offset, end);
@@ -78,18 +82,27 @@ void HeldFileChanges::WriteOver(std::int64_t offset, std::string_view bytes, Cha
   for (const HeldPlace& place : taken) last = std::max(last, place.End());
   const auto size = static_cast<std::size_t>(last - first);
   std::string old_bytes = OldBytes(first, size);
-  std::string new_bytes(size, '\0');
-  old_bytes.copy(new_bytes.data(), old_bytes.size());
+  std::string new_bytes = old_bytes;
+  new_bytes.resize(size);
   for (const HeldPlace& place : taken) {
     NoteShared(place.group, group);
     const auto at = static_cast<std::size_t>(place.offset - first);
-    store_.Read(place.stored, std::span(new_bytes).subspan(at, place.new_size));
+    const HistoryPlace& held = Bytes(place);
+    new_bytes.replace(at, held.new_bytes.size(), held.new_bytes);
     // The bytes as they were at the first write hold, whatever the disk says by now.
-    if (place.old_size == 0) continue;
-    store_.Read(place.stored + place.new_size, std::span(old_bytes).subspan(at, place.old_size));
+    if (at < old_bytes.size()) old_bytes.replace(at, held.old_bytes.size(), held.old_bytes);
   }
-  bytes.copy(new_bytes.data() + (offset - first), bytes.size());
-  Insert({.offset = first, .group = group}, new_bytes, old_bytes);
+  new_bytes.replace(static_cast<std::size_t>(offset - first), bytes.size(), bytes);
+  Insert(first, group, old_bytes, new_bytes);
+}
+
+void HeldFileChanges::Replace(const HeldPlace& place, std::string_view bytes, ChangeGroup group) {
+  NoteShared(place.group, group);
+  const std::int64_t offset = place.offset;
+  const std::string old_bytes = Bytes(place).old_bytes;
+  Portion& portion = portions_[PortionOf(offset)];
+  portion.erase(portion.begin() + (&place - portion.data()));
+  Insert(offset, group, old_bytes, bytes);
 }
 
 void HeldFileChanges::Truncate(std::int64_t length, ChangeGroup group) {
@@ -104,33 +117,44 @@ void HeldFileChanges::Truncate(std::int64_t length, ChangeGroup group) {
   for (const HeldPlace& place : taken) {
     NoteShared(place.group, group);
     if (place.offset >= length) continue;
-    std::string new_bytes(static_cast<std::size_t>(length - place.offset), '\0');
-    store_.Read(place.stored, new_bytes);
-    Insert({.offset = place.offset, .group = group}, new_bytes,
-           OldBytes(place.offset, new_bytes.size()));
+    const std::string new_bytes =
+        Bytes(place).new_bytes.substr(0, static_cast<std::size_t>(length - place.offset));
+    Insert(place.offset, group, OldBytes(place.offset, new_bytes.size()), new_bytes);
   }
 }
 
-void HeldFileChanges::ForEach(const EachPlace& each) {
-  std::string bytes;
+bool HeldFileChanges::HasNetChange() const {
+  return is_created() || length_ != old_length_ ||
+         std::any_of(portions_.begin(), portions_.end(),
+                     [](const auto& portion) { return !portion.second.empty(); });
+}
+
+void HeldFileChanges::ForEach(
+    const std::function<void(const HeldPlace&, std::string_view code)>& each) {
   for (const auto& [number, portion] : portions_) {
     for (const HeldPlace& place : portion) {
-      bytes.resize(std::size_t{place.new_size} + place.old_size);
-      store_.Read(place.stored, bytes);
-      const std::string_view both = bytes;
-      each(place, both.substr(place.new_size), both.substr(0, place.new_size));
+      code_.resize(place.code_size);
+      store_.Read(place.stored, code_);
+      each(place, code_);
     }
   }
   for (std::int64_t offset = length_; offset < old_length_;) {
     const std::string old_bytes = OldBytes(offset, kWindow);
-    if (old_bytes.empty()) break;
-    each({.offset = offset, .old_size = static_cast<std::uint32_t>(old_bytes.size())}, old_bytes,
-         {});
+    code_.clear();
+    AppendPlace(code_, old_bytes, {});
+    each({.offset = offset, .old_size = static_cast<std::uint32_t>(old_bytes.size())}, code_);
     offset += std::ssize(old_bytes);
   }
 }
 
-HeldPlace* HeldFileChanges::FindExact(std::int64_t offset, std::size_t size) {
+const HistoryPlace& HeldFileChanges::Bytes(const HeldPlace& place) {
+  code_.resize(place.code_size);
+  store_.Read(place.stored, code_);
+  CodeReader(code_).Place(place.old_size, place.new_size, bytes_);
+  return bytes_;
+}
+
+const HeldPlace* HeldFileChanges::FindExact(std::int64_t offset, std::size_t size) const {
   const auto portion = portions_.find(PortionOf(offset));
   if (portion == portions_.end()) return nullptr;
   const auto place =
@@ -170,15 +194,20 @@ std::vector<HeldPlace> HeldFileChanges::TakeOverlapping(std::int64_t offset, std
   return taken;
 }
 
-void HeldFileChanges::Insert(HeldPlace place, std::string_view new_bytes,
-                             std::string_view old_bytes) {
-  place.new_size = static_cast<std::uint32_t>(new_bytes.size());
-  place.old_size = static_cast<std::uint32_t>(old_bytes.size());
-  place.stored = store_.Append(std::string(new_bytes).append(old_bytes));
+// A place that is as it was before the run is none.
+void HeldFileChanges::Insert(std::int64_t offset, ChangeGroup group, std::string_view old_bytes,
+                             std::string_view new_bytes) {
+  code_.clear();
+  if (!AppendPlace(code_, old_bytes, new_bytes)) return;
+  const HeldPlace place{.offset = offset,
+                        .old_size = static_cast<std::uint32_t>(old_bytes.size()),
+                        .new_size = static_cast<std::uint32_t>(new_bytes.size()),
+                        .group = group,
+                        .code_size = static_cast<std::uint32_t>(code_.size()),
+                        .stored = store_.Append(code_)};
   longest_ = std::max(longest_, place.End() - place.offset);
-  Portion& portion = portions_[PortionOf(place.offset)];
-  portion.insert(std::lower_bound(portion.begin(), portion.end(), place.offset, StartsBefore),
-                 place);
+  Portion& portion = portions_[PortionOf(offset)];
+  portion.insert(std::lower_bound(portion.begin(), portion.end(), offset, StartsBefore), place);
 }
 
 std::string HeldFileChanges::OldBytes(std::int64_t offset, std::size_t size) {

@@ -10,22 +10,20 @@
 #include <vector>
 
 #include "core/platform.h"
+#include "history/place_code.h"
 #include "history/spill_store.h"
 
 namespace golf {
 
-// The number of a group of changes that belong together: a golfer with all his records, a course, a
-// roster. Group 0 is the run as a whole.
-using ChangeGroup = std::uint32_t;
-
-// Bytes of a file that a run has written, usually a record: what stood there before the first write
-// and what stands there after the last one.
+// A place that a run has written, usually a record. Its bytes of before the first write and after
+// the last one lie in a store, coded.
 struct HeldPlace {
   std::int64_t offset = 0;
   std::uint32_t old_size = 0;  // fewer bytes than new ones where the file ended there
   std::uint32_t new_size = 0;  // fewer than old ones where the file is cut there
   ChangeGroup group = 0;
-  std::int64_t stored = 0;  // the new bytes in the store; the old ones follow them
+  std::uint32_t code_size = 0;
+  std::int64_t stored = 0;
 
   std::int64_t End() const { return offset + std::max(old_size, new_size); }
 };
@@ -53,21 +51,25 @@ class HeldFileChanges {
   // Joins two groups where a place belongs to both.
   std::function<void(ChangeGroup, ChangeGroup)> on_shared;
 
-  // Calls `each` with every place, its old and its new bytes, by rising offsets. Bytes that a
+  // Whether anything differs from before the run.
+  bool HasNetChange() const;
+  // Calls `each` with every place that differs and its code, by rising offsets. Bytes that a
   // truncation cuts off are among them.
-  using EachPlace =
-      std::function<void(const HeldPlace&, std::string_view old_bytes, std::string_view new_bytes)>;
-  void ForEach(const EachPlace& each);
+  void ForEach(const std::function<void(const HeldPlace&, std::string_view code)>& each);
 
  private:
   // Places in the order of their offsets, in portions of the file by where they start.
   using Portion = std::vector<HeldPlace>;
 
-  HeldPlace* FindExact(std::int64_t offset, std::size_t size);
+  const HeldPlace* FindExact(std::int64_t offset, std::size_t size) const;
+  void Replace(const HeldPlace& place, std::string_view bytes, ChangeGroup group);
   bool Overlaps(std::int64_t offset, std::int64_t end);
   // Takes all places out that overlap the range.
   std::vector<HeldPlace> TakeOverlapping(std::int64_t offset, std::int64_t end);
-  void Insert(HeldPlace place, std::string_view new_bytes, std::string_view old_bytes);
+  void Insert(std::int64_t offset, ChangeGroup group, std::string_view old_bytes,
+              std::string_view new_bytes);
+  // Reads the bytes of a place back.
+  const HistoryPlace& Bytes(const HeldPlace& place);
   void FillCut(std::int64_t end, ChangeGroup group);
   void WriteOver(std::int64_t offset, std::string_view bytes, ChangeGroup group);
   std::string OldBytes(std::int64_t offset, std::size_t size);
@@ -81,6 +83,9 @@ class HeldFileChanges {
   std::int64_t kept_ = 0;  // bytes of the real file that no truncation has cut
   std::map<std::int64_t, Portion> portions_;
   std::int64_t longest_ = 0;  // bytes of a place
+  // Buffers that are used again.
+  std::string code_;
+  HistoryPlace bytes_;
   // A window of the real file as it was when it was read.
   std::string window_;
   std::int64_t window_offset_ = 0;

@@ -90,22 +90,15 @@ void HistoryWriter::File(const HistoryFileEntry& file) {
   if (file.fate == FileFate::kDeleted) ++changes_;
 }
 
-bool HistoryWriter::Place(std::int64_t offset, ChangeGroup group, std::string_view old_bytes,
-                          std::string_view new_bytes) {
-  const std::size_t before = places_.size();
-  AppendNumber(places_, static_cast<std::uint64_t>(offset - next_offset_));
-  AppendNumber(places_, old_bytes.size());
-  AppendNumber(places_, new_bytes.size());
-  AppendNumber(places_, group);
-  if (!AppendPlaceBytes(places_, old_bytes, new_bytes)) {
-    places_.resize(before);
-    return false;
-  }
-  next_offset_ = offset + std::ssize(std::max(old_bytes, new_bytes,
-                                              [](auto a, auto b) { return a.size() < b.size(); }));
+void HistoryWriter::Place(const HeldPlace& place, std::string_view code) {
+  AppendNumber(places_, static_cast<std::uint64_t>(place.offset - next_offset_));
+  AppendNumber(places_, place.old_size);
+  AppendNumber(places_, place.new_size);
+  AppendNumber(places_, place.group);
+  places_ += code;
+  next_offset_ = place.End();
   ++changes_;
   if (places_.size() >= kFullPortion) FlushPlaces();
-  return true;
 }
 
 void HistoryWriter::Report(std::string_view report) {
@@ -189,7 +182,7 @@ HistoryFile::Portion HistoryFile::ReadPortion(std::int64_t& at) {
 }
 
 RunTitle HistoryFile::TitleOf(const Portion& portion) const {
-  HistoryBytes in(portion.bytes);
+  CodeReader in(portion.bytes);
   RunTitle title;
   title.moment = std::bit_cast<DateValue>(in.Number());
   title.command = in.Text();
@@ -201,7 +194,7 @@ RunTitle HistoryFile::TitleOf(const Portion& portion) const {
 }
 
 HistoryFileEntry HistoryFile::EntryOf(const Portion& portion) const {
-  HistoryBytes in(portion.bytes);
+  CodeReader in(portion.bytes);
   HistoryFileEntry entry;
   entry.fate = static_cast<FileFate>(in.Number(2));
   entry.path = in.Text();
@@ -213,7 +206,7 @@ HistoryFileEntry HistoryFile::EntryOf(const Portion& portion) const {
 }
 
 void HistoryFile::ReadGroups(std::string_view bytes, const Reader& reader) const {
-  for (HistoryBytes in(bytes); !in.AtEnd();) {
+  for (CodeReader in(bytes); !in.AtEnd();) {
     const auto group = static_cast<ChangeGroup>(in.Number(UINT32_MAX));
     const std::string_view title = in.Text();
     Check(!in.failed());
@@ -255,7 +248,7 @@ void HistoryFile::Read(const Reader& reader) {
 
 void HistoryFile::ReadPlaces(std::string_view bytes, std::int64_t& next_offset,
                              const Reader& reader) {
-  HistoryBytes in(bytes);
+  CodeReader in(bytes);
   HistoryPlace place;
   while (!in.AtEnd()) {
     const std::uint64_t gap = in.Number(INT64_MAX / 2);
@@ -264,7 +257,7 @@ void HistoryFile::ReadPlaces(std::string_view bytes, std::int64_t& next_offset,
     place.group = static_cast<ChangeGroup>(in.Number(UINT32_MAX));
     place.offset = next_offset + static_cast<std::int64_t>(gap);
     Check(!in.failed() && place.offset < INT64_MAX / 2 && std::max(old_size, new_size) > 0);
-    in.PlaceBytes(old_size, new_size, place);
+    in.Place(old_size, new_size, place);
     Check(!in.failed());
     next_offset = place.End();
     if (reader.place) reader.place(place);

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "history/held_file_changes.h"
 #include "history/history_format.h"
 #include "history/history_gate.h"
 
@@ -21,10 +22,8 @@ class HistoryWriter {
   void Run(const RunTitle& title);
   void Group(ChangeGroup group, std::string_view title);
   void File(const HistoryFileEntry& file);
-  // Places of the file that was written last, by rising offsets. A place that does not change is
-  // left out: false then.
-  bool Place(std::int64_t offset, ChangeGroup group, std::string_view old_bytes,
-             std::string_view new_bytes);
+  // A place of the file that was written last, by rising offsets, with its code.
+  void Place(const HeldPlace& place, std::string_view code);
   void Report(std::string_view report);
 
   // Writes what is left, and the title. The content is on the disk afterwards.

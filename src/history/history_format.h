@@ -1,14 +1,12 @@
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/date_value.h"
 #include "core/numbered_error.h"
-#include "history/held_file_changes.h"
+#include "history/place_code.h"
 
 namespace golf {
 
@@ -42,16 +40,6 @@ enum class HistoryPortion : std::uint8_t {
   kEnd = 6,
 };
 
-// A place is coded as operations over its bytes.
-enum class PlaceCode : std::uint8_t {
-  kSame = 0,      // count, bytes that do not change
-  kSameFill = 1,  // count, byte: it stands `count` times
-  kPair = 2,      // count, old bytes, new bytes
-  kPairFill = 3,  // count, old byte, new byte
-  kOne = 4,       // count, bytes that only the longer side has
-  kOneFill = 5,   // count, byte
-};
-
 // Raised for a history file that does not say what it was written to say.
 class DamagedHistory : public NumberedError {
  public:
@@ -77,57 +65,6 @@ struct HistoryFileEntry {
   std::int64_t old_length = 0;  // bytes
   std::int64_t new_length = 0;
   std::string kept_as;  // the name of a deleted file in the history folder
-};
-
-// Bytes of a place that follow each other and that all change.
-struct ChangedBytes {
-  std::size_t at = 0;  // in the place
-  std::size_t size = 0;
-};
-
-// One place of a file, as it is read back: whole, with the bytes that do not change.
-struct HistoryPlace {
-  std::int64_t offset = 0;
-  ChangeGroup group = 0;
-  std::string old_bytes;
-  std::string new_bytes;
-  std::vector<ChangedBytes> changed;  // by rising positions
-
-  std::int64_t End() const {
-    return offset + static_cast<std::int64_t>(std::max(old_bytes.size(), new_bytes.size()));
-  }
-};
-
-void AppendNumber(std::string& to, std::uint64_t number);
-void AppendText(std::string& to, std::string_view text);
-
-// Codes the bytes of a place. Nothing is appended and false is returned where they do not differ.
-bool AppendPlaceBytes(std::string& to, std::string_view old_bytes, std::string_view new_bytes);
-
-// Reads what was coded, with every length checked. A reader that has failed stays failed, and gives
-// zeros and empty texts.
-class HistoryBytes {
- public:
-  explicit HistoryBytes(std::string_view bytes) : rest_(bytes) {}
-
-  bool failed() const { return failed_; }
-  bool AtEnd() const { return rest_.empty(); }
-
-  std::uint64_t Number();
-  // A number that may not be above `most`.
-  std::uint64_t Number(std::uint64_t most);
-  std::string_view Text();
-  std::string_view Take(std::size_t size);
-  void PlaceBytes(std::size_t old_size, std::size_t new_size, HistoryPlace& into);
-
- private:
-  void Fail() {
-    failed_ = true;
-    rest_ = {};
-  }
-
-  std::string_view rest_;
-  bool failed_ = false;
 };
 
 }  // namespace golf

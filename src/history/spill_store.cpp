@@ -73,19 +73,4 @@ void SpillStore::Read(std::int64_t place, std::span<char> into) {
   });
 }
 
-void SpillStore::Replace(std::int64_t place, std::string_view bytes) {
-  if (bytes.empty()) return;
-  if (place < kScratch) {
-    const auto at = static_cast<std::size_t>(place);
-    std::copy(bytes.begin(), bytes.end(), blocks_[at / kBlock].get() + at % kBlock);
-    return;
-  }
-  const std::int64_t at = place - kScratch;
-  if (at >= in_scratch_) {
-    tail_.replace(static_cast<std::size_t>(at - in_scratch_), bytes.size(), bytes);
-    return;
-  }
-  OrSpillFailed([&] { gate_.Write(*scratch_, at, bytes); });
-}
-
 }  // namespace golf

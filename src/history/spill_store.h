@@ -31,8 +31,6 @@ class SpillStore {
   // Returns the place of the piece in the store.
   std::int64_t Append(std::string_view bytes);
   void Read(std::int64_t place, std::span<char> into);
-  // Replaces bytes of a piece.
-  void Replace(std::int64_t place, std::string_view bytes);
 
  private:
   void WriteTail();

@@ -12,19 +12,10 @@ namespace {
 constexpr double kDaysKept = 90;
 constexpr std::size_t kRunsKept = 50;
 
-bool Differs(HeldFileChanges& file) {
-  if (file.is_created() || file.length() != file.old_length()) return true;
-  bool differs = false;
-  file.ForEach([&](const HeldPlace&, std::string_view old_bytes, std::string_view new_bytes) {
-    differs = differs || old_bytes != new_bytes;
-  });
-  return differs;
-}
-
 bool HasNetChange(const HeldChanges& changes) {
   return !changes.deletions().empty() ||
          std::any_of(changes.files().begin(), changes.files().end(),
-                     [](const auto& file) { return Differs(*file); });
+                     [](const auto& file) { return file->HasNetChange(); });
 }
 
 NumberedError Replaced(const std::string& path) {
@@ -135,16 +126,16 @@ void Transactions::WriteContent(HistoryWriter& writer, const HistoryName& name,
                  .kept_as = HistoryFolder::KeptName(name, ++kept)});
   }
   for (const auto& file : changes.files()) {
-    if (!Differs(*file)) continue;
+    if (!file->HasNetChange()) continue;
     writer.File({.fate = file->is_created() ? FileFate::kCreated : FileFate::kChanged,
                  .path = folder_.folders().Name(file->path()),
                  .old_length = file->old_length(),
                  .new_length = file->length(),
                  .kept_as = {}});
-    file->ForEach(
-        [&](const HeldPlace& place, std::string_view old_bytes, std::string_view new_bytes) {
-          writer.Place(place.offset, changes.groups().Root(place.group), old_bytes, new_bytes);
-        });
+    file->ForEach([&](HeldPlace place, std::string_view code) {
+      place.group = changes.groups().Root(place.group);
+      writer.Place(place, code);
+    });
   }
   writer.Report(report);
   writer.Finish();

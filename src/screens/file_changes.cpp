@@ -3,11 +3,31 @@
 #include <utility>
 
 namespace golf {
+namespace {
+
+Recovery Recover(SharedState& state, ScreenHost& host) {
+  Recovery recovery = state.transactions->Recover();
+  for (const std::string& text : recovery.finished) host.Notify(text);
+  if (!recovery.finished.empty()) state.files.Synchronize();
+  return recovery;
+}
+
+}  // namespace
+
+void RecoverInterruptedRun(SharedState& state, ScreenHost& host) {
+  std::unique_ptr<RunLock> lock;
+  try {
+    lock = state.files.platform().LockRun(state.ProgramPath);
+  } catch (const NumberedError& error) {
+    if (!error.Is(ErrorNumber::kPermissionDenied)) throw;
+    return;
+  }
+  Recover(state, host);
+}
 
 ChangingClick::ChangingClick(SharedState& state, ScreenHost& host)
     : transactions_(*state.transactions), lock_(state.files.platform().LockRun(state.ProgramPath)) {
-  const Recovery recovery = transactions_.Recover();
-  for (const std::string& text : recovery.finished) host.Notify(text);
+  const Recovery recovery = Recover(state, host);
   if (recovery.stuck) {
     host.Ask(
         Box{.title = "Interrupted run",
@@ -18,7 +38,6 @@ ChangingClick::ChangingClick(SharedState& state, ScreenHost& host)
             .icon = BoxIcon::kStop});
     return;
   }
-  if (!recovery.finished.empty()) state.files.Synchronize();
   transactions_.BeginClick();
   allowed_ = true;
 }

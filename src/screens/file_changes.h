@@ -9,6 +9,11 @@
 
 namespace golf {
 
+// Finishes a run that was interrupted before, and tells the operator. Called before a screen that
+// can change files reads them. A run that cannot be finished by itself, or an install that another
+// process has locked, is left alone until something is to be changed.
+void RecoverInterruptedRun(SharedState& state, ScreenHost& host);
+
 // A click that changes files. While it lives, the install is locked against other processes that
 // change it. Error 70 where another process has the lock. A run that was interrupted before is
 // finished first, and the operator is told.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/resume_next.h"
+#include "screens/file_changes.h"
 
 namespace golf {
 namespace {
@@ -64,6 +65,7 @@ void ShowTransfer(ScreenHost& host, std::string_view screen_name, std::string_vi
 
 void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_name,
                   std::string_view tag) {
+  RecoverInterruptedRun(state, host);
   bool installed = true;
   for (const TransferEntry& transfer : kTransfers) {
     if (transfer.screen != screen_name) continue;

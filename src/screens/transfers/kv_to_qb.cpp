@@ -150,7 +150,7 @@ bool KVtoQB::CopyGolfers(const GolfersKvToQbRequest& request, GolfersKvToQbRepor
               .button = &TransferButton,
               .begin = [this] { TransferButton.SetVisible(false); }},
              {.command = "golfers-kv-to-qb",
-              .about = request.roster + " to " + std::string(Trim(TournamentRoster.text()))},
+              .about = request.roster + " to " + QuenbyRosterTitle(TournamentRoster.text())},
              request, report);
     return true;
   } catch (const CommitFailed&) {

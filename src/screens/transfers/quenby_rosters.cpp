@@ -47,6 +47,13 @@ std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_de
   return name + std::string(kBlanksBeforeNumber, ' ') + FormatNumber(roster, "000");
 }
 
+std::string QuenbyRosterTitle(std::string_view roster) {
+  const std::string_view name =
+      roster.substr(0, roster.size() - std::min(roster.size(), kNumberWidth));
+  return std::string(Trim(name)) + " (" + std::to_string(RoundToInt32(QuenbyRosterNumber(roster))) +
+         ")";
+}
+
 double QuenbyRosterNumber(std::string_view roster) {
   return LeadingNumber(LastCharacters(roster, kNumberWidth));
 }

@@ -20,5 +20,7 @@ std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_de
 
 // Returns the number at the end of such a text.
 double QuenbyRosterNumber(std::string_view roster);
+// Returns such a text as "Members (1)".
+std::string QuenbyRosterTitle(std::string_view roster);
 
 }  // namespace golf

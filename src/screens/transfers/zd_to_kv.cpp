@@ -101,7 +101,7 @@ void ZDtoKV::PostScores(ScoresZdToKvReport& report) {
         state(), host(),
         {.working = &Working, .button = &TransferButton, .message = &Message, .shows_log = true},
         {.command = "scores-zd-to-kv",
-         .about = std::string(Trim(LeagueRoster.text())) + ", batch " +
+         .about = std::string(LastCharacters(Trim(LeagueRoster.text()), 5)) + ", batch " +
                   std::to_string(request.batch) + ", to " + request.roster},
         request, report);
   } catch (const CommitFailed&) {

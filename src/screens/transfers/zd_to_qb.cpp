@@ -93,8 +93,7 @@ bool ZDtoQB::Transfer() {
       state(), host(),
       {.working = &Working, .count = &WorkingCount, .button = &TransferButton, .message = &Message},
       {.command = "golfers-zd-to-qb",
-       .about = std::string(Trim(LeagueRoster.text())) + " to " +
-                std::string(Trim(TournamentRoster.text()))},
+       .about = base + " to " + QuenbyRosterTitle(TournamentRoster.text())},
       request, report,
       [](RunHost& run, const CommitFailed& error) { return AskForRetry(run, error); });
   if (report.given_up) host().NoteRunEnded(*report.given_up);

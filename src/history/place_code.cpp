@@ -1,4 +1,4 @@
-#include "history/history_format.h"
+#include "history/place_code.h"
 
 #include <algorithm>
 #include <cstring>
@@ -18,6 +18,13 @@ void AppendCode(std::string& to, PlaceCode code, std::size_t count) {
 std::size_t FillLength(std::string_view bytes, std::size_t at) {
   const char first = bytes[at];
   std::size_t end = at + 1;
+  if (end == bytes.size() || bytes[end] != first) return 1;
+  // A stretch that equals itself one byte later is one byte all along.
+  constexpr std::size_t kStretch = 64;
+  while (end + kStretch <= bytes.size() &&
+         std::memcmp(bytes.data() + end, bytes.data() + end - 1, kStretch) == 0) {
+    end += kStretch;
+  }
   while (end < bytes.size() && bytes[end] == first) ++end;
   return end - at;
 }
@@ -93,7 +100,7 @@ void AppendText(std::string& to, std::string_view text) {
   to += text;
 }
 
-bool AppendPlaceBytes(std::string& to, std::string_view old_bytes, std::string_view new_bytes) {
+bool AppendPlace(std::string& to, std::string_view old_bytes, std::string_view new_bytes) {
   const std::size_t both = std::min(old_bytes.size(), new_bytes.size());
   const std::string_view old_part = old_bytes.substr(0, both);
   const std::string_view new_part = new_bytes.substr(0, both);
@@ -111,7 +118,7 @@ bool AppendPlaceBytes(std::string& to, std::string_view old_bytes, std::string_v
   return true;
 }
 
-std::uint64_t HistoryBytes::Number() {
+std::uint64_t CodeReader::Number() {
   std::uint64_t number = 0;
   for (int shift = 0; shift < 64; shift += 7) {
     if (rest_.empty()) break;
@@ -124,14 +131,14 @@ std::uint64_t HistoryBytes::Number() {
   return 0;
 }
 
-std::uint64_t HistoryBytes::Number(std::uint64_t most) {
+std::uint64_t CodeReader::Number(std::uint64_t most) {
   const std::uint64_t number = Number();
   if (number <= most) return number;
   Fail();
   return 0;
 }
 
-std::string_view HistoryBytes::Take(std::size_t size) {
+std::string_view CodeReader::Take(std::size_t size) {
   if (size > rest_.size()) {
     Fail();
     return {};
@@ -141,9 +148,9 @@ std::string_view HistoryBytes::Take(std::size_t size) {
   return taken;
 }
 
-std::string_view HistoryBytes::Text() { return Take(Number(rest_.size())); }
+std::string_view CodeReader::Text() { return Take(Number(rest_.size())); }
 
-void HistoryBytes::PlaceBytes(std::size_t old_size, std::size_t new_size, HistoryPlace& into) {
+void CodeReader::Place(std::size_t old_size, std::size_t new_size, HistoryPlace& into) {
   into.old_bytes.clear();
   into.new_bytes.clear();
   into.changed.clear();
