@@ -55,7 +55,8 @@ bool IsOld(const HistoryPlace& place, std::size_t at, std::string_view now, std:
 
 bool IsNew(const HistoryPlace& place, std::size_t at, std::string_view now, std::size_t from) {
   if (at - from >= now.size()) return at >= place.new_bytes.size();
-  return at < place.new_bytes.size() && now[at - from] == place.new_bytes[at];
+  const char byte = now[at - from];
+  return at < place.new_bytes.size() ? byte == place.new_bytes[at] : byte == '\0';
 }
 
 // As IsOld for each changed byte, a run of bytes at a time where it can be.

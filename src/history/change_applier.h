@@ -50,7 +50,7 @@ class ChangeApplier {
   void CheckUntouched(HistoryFile& history);
 
   // The places that are neither old, nor new, nor a mixture of both as a crash leaves it. Behind
-  // the old end of a file, missing bytes and zeros count as old.
+  // the old end of a file, missing bytes and zeros count as old; behind the new end, as new.
   std::set<PlaceConflict> Conflicts(HistoryFile& history);
   // Whether all of it is as it was before the run.
   bool IsAllOld(HistoryFile& history);

@@ -61,6 +61,9 @@ class HistoryFile {
   // Writes a mark, or takes it away; it is on the disk afterwards.
   void Put(HistoryGate& gate, HistoryMark mark);
   void Clear(HistoryGate& gate, HistoryMark mark);
+  // What was read so far is on the disk afterwards. A process that was killed may have written a
+  // mark that was not synced.
+  void Sync(HistoryGate& gate) { gate.Sync(*file_); }
 
   // What is told of the content, in its order. A member that is left out is passed over.
   struct Reader {

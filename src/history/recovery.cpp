@@ -29,14 +29,17 @@ std::string Named(const RunTitle& title) {
 
 Recovery Transactions::Recover(RecoveryChoice choice) {
   Recovery recovery;
-  for (const HistoryName& name : folder_.List()) {
-    if (!RecoverRun(name, choice, recovery)) break;
+  const std::vector<HistoryName> names = folder_.List();
+  for (const HistoryName& name : names) {
+    const bool is_newest = &name == &names.back();
+    if (!RecoverRun(name, is_newest, choice, recovery)) break;
   }
   return recovery;
 }
 
 // False where a run is stuck.
-bool Transactions::RecoverRun(const HistoryName& name, RecoveryChoice choice, Recovery& recovery) {
+bool Transactions::RecoverRun(const HistoryName& name, bool is_newest, RecoveryChoice choice,
+                              Recovery& recovery) {
   std::unique_ptr<HistoryFile> history;
   try {
     history = folder_.Open(name, FileAccess::kAlone);
@@ -47,7 +50,11 @@ bool Transactions::RecoverRun(const HistoryName& name, RecoveryChoice choice, Re
   HistoryGate& gate = folder_.gate();
   ChangeApplier applier(gate, folder_.folders());
   const Stand stand = StandOf(*history);
-  if (stand == Stand::kFinished) return true;
+  if (stand == Stand::kFinished) {
+    // The mark must outlast the runs that follow. Only that of the last run may not be synced yet.
+    if (is_newest) history->Sync(gate);
+    return true;
+  }
   if (stand == Stand::kNeverApplied) {
     Discard(std::move(history), name);
     return true;
@@ -84,7 +91,8 @@ bool Transactions::RecoverRun(const HistoryName& name, RecoveryChoice choice, Re
       return true;
     }
   }
-  // The direction stands in the file before anything is written: a crash may come again.
+  // The marks stand on the disk before anything is written: a crash may come again.
+  history->Sync(gate);
   if (direction == Direction::kBack && stand == Stand::kForward) {
     history->Put(gate, HistoryMark::kPutBack);
   }

@@ -81,7 +81,8 @@ class Transactions {
   void Discard(std::unique_ptr<HistoryFile> history, const HistoryName& name);
   void Prune();
 
-  bool RecoverRun(const HistoryName& name, RecoveryChoice choice, Recovery& recovery);
+  bool RecoverRun(const HistoryName& name, bool is_newest, RecoveryChoice choice,
+                  Recovery& recovery);
 
   HeldPlatform& held_;
   HistoryFolder folder_;

@@ -19,16 +19,15 @@ TEST_F(SharedStateTest, StartSetsTheFormsAndTestsNoFolder) {
   EXPECT_EQ(platform.CountAll(), 0);
 }
 
-TEST_F(SharedStateTest, ObjectsAreMadeAnewThoughJoinedWritesWereLost) {
+TEST_F(SharedStateTest, ObjectsAreMadeAnewThoughAFileFailsToClose) {
   int made = 0;
   SharedState state(platform, [&](SharedState& its, StoreObjects&) {
     EXPECT_EQ(ErrorOf([&] { its.files.Length(1); }), 52);
     ++made;
   });
   state.files.Open(1, At("a.dat"), 3);
-  const JoinedWrites joined(state.files);
   state.files.WriteBytes(1, 1, "abc");
-  platform.Fail({ErrorNumber::kDiskFull, 1, Operation::kWrite});
+  platform.Fail({ErrorNumber::kDiskFull, 1, Operation::kClose});
   EXPECT_EQ(ErrorOf([&] { state.InitSharedObjects(); }), 61);
   EXPECT_EQ(made, 1);
 }

@@ -36,18 +36,5 @@ TEST_F(ProgramTest, OpeningTheMasterFileAgainWritesTheBufferBack) {
   EXPECT_EQ(ErrorOf([&] { program.GetMasterRecord(); }), 52);
 }
 
-// The failure of a pending write to another file is not the master record's and must be raised.
-TEST_F(ProgramTest, OnlyItsOwnFailureIsSwallowed) {
-  program.OpenMasterFile();
-  for (const bool opens : {false, true}) {
-    const JoinedWrites joined(state.files);
-    program.OpenRosterListFile();
-    program.SaveRosterRecord(1);
-    install.platform->Fail({ErrorNumber::kDiskFull, 1, Operation::kWrite, "QBROSTER.Q9D"});
-    EXPECT_EQ(ErrorOf([&] { opens ? void(program.OpenMasterFile()) : program.SaveMasterRecord(); }),
-              61);
-  }
-}
-
 }  // namespace
 }  // namespace golf

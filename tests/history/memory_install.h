@@ -1,0 +1,59 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/headless_host.h"
+#include "history/transactions.h"
+#include "support/memory_platform.h"
+
+namespace golf {
+
+// The siblings' files with their bytes, by paths in capitals. Nothing of the history is among them.
+using DataFiles = std::map<std::string, std::string>;
+
+DataFiles DataOf(const MemoryPlatform& disk);
+// The names of the files that differ, with their lengths; empty where none does.
+std::string Difference(const DataFiles& found, const DataFiles& expected);
+
+// The demonstration install, all of it on the disk.
+const MemoryPlatform& DemoDisk();
+
+// Another process on a disk.
+std::unique_ptr<Platform> ProcessOn(const MemoryPlatform& disk);
+
+// Something that an operator does on a screen and that changes files.
+struct Deed {
+  const char* name;
+  const char* screen;
+  const char* word;
+  std::vector<std::pair<std::string, std::string>> answers;  // by the titles of boxes
+  std::function<void(HeadlessHost&, Screen&)> drive;
+};
+
+// All of them, on the demonstration install.
+std::span<const Deed> Deeds();
+const Deed& DeedNamed(std::string_view name);
+
+// Does a deed in a program of its own. Returns the events of the host. `look` is called whenever
+// the operator may look at the files.
+std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform,
+                            const std::function<void()>& look = {});
+
+// The transactions of a program without screens.
+struct HistoryProgram {
+  explicit HistoryProgram(Platform& platform);
+
+  HeldPlatform held;
+  Transactions transactions;
+};
+
+// Undoes the newest run that is not an undo itself. Returns the conflicts.
+std::size_t UndoNewest(Platform& platform);
+
+}  // namespace golf
