@@ -269,7 +269,7 @@ void ChangeApplier::Check(HistoryFile& history, Expected expected,
         expected == Expected::kOld ? IsUntouched(place, now, first) : IsMixture(place, now, first);
     if (!right) differs({path, place.offset});
   };
-  history.Read({.file = begin, .place = take});
+  history.Read({.file = begin, .place = take, .parts = PlaceParts::kChanged});
 }
 
 // A file as a whole: whether it is there, and its length.
@@ -353,7 +353,7 @@ void ChangeApplier::Apply(HistoryFile& history, Direction direction, bool untouc
       targets.back()->Take(place, fills_gaps);
     }
   };
-  history.Read({.file = begin, .place = take});
+  history.Read({.file = begin, .place = take, .parts = PlaceParts::kChanged});
   finish();
   for (const HistoryFileEntry& entry : created) {
     if (const std::string made = folders_.Path(entry.path); Exists(made)) gate_.Delete(made);

@@ -150,7 +150,7 @@ void HeldFileChanges::ForEach(
 const HistoryPlace& HeldFileChanges::Bytes(const HeldPlace& place) {
   code_.resize(place.code_size);
   store_.Read(place.stored, code_);
-  CodeReader(code_).Place(place.old_size, place.new_size, bytes_);
+  CodeReader(code_).Place(place.old_size, place.new_size, PlaceParts::kWhole, bytes_);
   return bytes_;
 }
 

@@ -257,7 +257,7 @@ void HistoryFile::ReadPlaces(std::string_view bytes, std::int64_t& next_offset,
     place.group = static_cast<ChangeGroup>(in.Number(UINT32_MAX));
     place.offset = next_offset + static_cast<std::int64_t>(gap);
     Check(!in.failed() && place.offset < INT64_MAX / 2 && std::max(old_size, new_size) > 0);
-    in.Place(old_size, new_size, place);
+    in.Place(old_size, new_size, reader.parts, place);
     Check(!in.failed() && !place.changed.empty());
     next_offset = place.End();
     if (reader.place) reader.place(place);

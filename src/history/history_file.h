@@ -72,6 +72,7 @@ class HistoryFile {
     std::function<void(const HistoryFileEntry&)> file = nullptr;
     std::function<void(const HistoryPlace&)> place = nullptr;
     std::function<void(std::string_view)> report = nullptr;
+    PlaceParts parts = PlaceParts::kWhole;
   };
   // Reads the whole content from the first portion to the last.
   void Read(const Reader& reader);

@@ -150,15 +150,15 @@ std::string_view CodeReader::Take(std::size_t size) {
 
 std::string_view CodeReader::Text() { return Take(Number(rest_.size())); }
 
-void CodeReader::Place(std::size_t old_size, std::size_t new_size, HistoryPlace& into) {
-  into.old_bytes.clear();
-  into.new_bytes.clear();
+void CodeReader::Place(std::size_t old_size, std::size_t new_size, PlaceParts parts,
+                       HistoryPlace& into) {
+  into.old_bytes.resize(old_size);
+  into.new_bytes.resize(new_size);
   into.changed.clear();
   const std::size_t both = std::min(old_size, new_size);
   const std::size_t all = std::max(old_size, new_size);
-  std::string& longer = old_size > new_size ? into.old_bytes : into.new_bytes;
-  while (!failed_ && longer.size() < all) {
-    const std::size_t at = longer.size();
+  char* const longer = old_size > new_size ? into.old_bytes.data() : into.new_bytes.data();
+  for (std::size_t at = 0; !failed_ && at < all;) {
     const bool is_pair = at < both;
     const auto code = static_cast<PlaceCode>(Number());
     const std::size_t count = Number((is_pair ? both : all) - at);
@@ -167,18 +167,28 @@ void CodeReader::Place(std::size_t old_size, std::size_t new_size, HistoryPlace&
     const bool is_same = code == PlaceCode::kSame || code == PlaceCode::kSameFill;
     const bool is_one = code == PlaceCode::kOne || code == PlaceCode::kOneFill;
     if (count == 0 || is_one == is_pair || code > PlaceCode::kOneFill) return Fail();
-    const auto append = [&](std::string& to, std::string_view bytes) {
-      fills ? to.append(count, bytes.empty() ? '\0' : bytes.front()) : to.append(bytes);
+    const auto put = [&](char* to, std::string_view bytes) {
+      if (bytes.empty()) return;
+      if (fills) {
+        std::memset(to + at, bytes.front(), count);
+      } else {
+        std::memcpy(to + at, bytes.data(), count);
+      }
     };
     const std::string_view first = Take(fills ? 1 : count);
-    append(is_pair ? into.old_bytes : longer, first);
-    if (is_pair) append(into.new_bytes, is_same ? first : Take(fills ? 1 : count));
-    if (is_same) continue;
-    if (!into.changed.empty() && into.changed.back().at + into.changed.back().size == at) {
-      into.changed.back().size += count;
-    } else {
-      into.changed.push_back({at, count});
+    if (!is_same) {
+      put(is_pair ? into.old_bytes.data() : longer, first);
+      if (is_pair) put(into.new_bytes.data(), Take(fills ? 1 : count));
+      if (!into.changed.empty() && into.changed.back().at + into.changed.back().size == at) {
+        into.changed.back().size += count;
+      } else {
+        into.changed.push_back({at, count});
+      }
+    } else if (parts == PlaceParts::kWhole) {
+      put(into.old_bytes.data(), first);
+      put(into.new_bytes.data(), first);
     }
+    at += count;
   }
 }
 

@@ -50,6 +50,10 @@ void AppendText(std::string& to, std::string_view text);
 // Appends the code of a place. Nothing is appended, and false is returned, where nothing changes.
 bool AppendPlace(std::string& to, std::string_view old_bytes, std::string_view new_bytes);
 
+// What is read of a place: all of its bytes, or only those that change. The others have no meaning
+// then.
+enum class PlaceParts { kWhole, kChanged };
+
 // Reads what was coded, and checks every length. A reader that has failed stays failed: it gives
 // zeros and empty texts.
 class CodeReader {
@@ -65,7 +69,7 @@ class CodeReader {
   std::string_view Text();
   std::string_view Take(std::size_t size);
   // The bytes of a place of these sizes.
-  void Place(std::size_t old_size, std::size_t new_size, HistoryPlace& into);
+  void Place(std::size_t old_size, std::size_t new_size, PlaceParts parts, HistoryPlace& into);
 
  private:
   void Fail() {
