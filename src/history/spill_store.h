@@ -23,7 +23,8 @@ class SpillFailed : public std::runtime_error {
 // where the scratch file cannot be made, written or read.
 class SpillStore {
  public:
-  static constexpr std::size_t kMemory = std::size_t{32} << 20;  // bytes
+  // Bytes. With the index of the pieces it is 32 MiB for 300,000 golfers.
+  static constexpr std::size_t kMemory = std::size_t{20} << 20;
 
   explicit SpillStore(Platform& platform, std::size_t memory = kMemory)
       : gate_(platform), memory_(memory) {}
