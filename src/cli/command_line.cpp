@@ -112,6 +112,10 @@ struct Arguments {
   ScoresZdToKvArguments scores_zd_to_kv;
   ResultsRequest results;
   CourseRequest course;
+  std::int32_t run = 0;
+  std::string forgotten;
+  UndoRequest undo;
+  std::string recover;
   std::string script;
   bool start_programs = false;
 };
@@ -253,6 +257,52 @@ void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvArgument
       ->type_name("yes|no");
 }
 
+void AddHistory(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
+  CLI::App* history =
+      AddCommand(app, "history", "List the runs that are kept, or show or forget them",
+                 "--install golf-demo history", chosen, [&] { return RunHistory(options); });
+  history->require_subcommand(0, 1);
+  CLI::App* show =
+      AddCommand(*history, "show", "Show the report of a run and what it changed, field by field",
+                 "--install golf-demo history show 1", chosen,
+                 [&] { return RunHistoryShow(options, args.run); });
+  AddNumber(*show, "N", args.run, "The run, as in history; 1 is the newest")->required();
+  CLI::App* forget = AddCommand(*history, "forget", "Remove runs from the history, for good",
+                                "--install golf-demo history forget all", chosen,
+                                [&] { return RunHistoryForget(options, args.forgotten); });
+  forget->add_option("N", args.forgotten, "The run, as in history, or all")
+      ->required()
+      ->check([](const std::string& text) {
+        return text == "all" || ReadWholeNumber(text) ? ""
+                                                      : "\"" + text + "\" is no number of a run";
+      })
+      ->type_name("N|all");
+}
+
+void AddUndo(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
+  CLI::App* undo = AddCommand(app, "undo", "Put back what a run has changed",
+                              "--install golf-demo undo --dry-run", chosen,
+                              [&] { return RunUndo(options, args.undo); });
+  AddNumber(*undo, "N", args.undo.number,
+            "The run, as in history; the newest one that is done, no undo itself,\nand not undone "
+            "if left out");
+  undo->add_flag("--dry-run", args.undo.dry_run, "Show what would change, and change nothing");
+  undo->add_flag("--skip-changed", args.undo.skip_changed,
+                 "Leave what was changed since, with all that belongs to it, and undo\nthe rest");
+  CLI::App* recover = AddCommand(app, "recover", "Decide about a run that was interrupted",
+                                 "--install golf-demo recover --finish", chosen,
+                                 [&] { return RunRecover(options, args.recover); });
+  CLI::Option_group* choice = recover->add_option_group("What becomes of it");
+  choice->require_option(1);
+  const auto add = [&](const std::string& name, const char* help) {
+    choice->add_flag_callback(
+        "--" + name, [&args, name] { args.recover = name; }, help);
+  };
+  add("finish", "Finish it, except for what another program has changed since");
+  add("put-back", "Put it back, except for what another program has changed since");
+  add("leave", "Leave it as it is");
+}
+
 void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
   AddCommand(app, "demo", "Make a demonstration install in an empty or new folder",
              "demo golf-demo", chosen, [&] { return RunDemo(options, args.demo_folder); })
@@ -317,6 +367,9 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
   AddGolfersZdToQb(app, options, args.golfers_zd_to_qb, chosen);
   AddScoresQbToKv(app, options, args.scores_qb_to_kv, chosen);
   AddScoresZdToKv(app, options, args.scores_zd_to_kv, chosen);
+
+  AddHistory(app, options, args, chosen);
+  AddUndo(app, options, args, chosen);
 
   CLI::App* script = AddCommand(app, "script", "Drive the screens by the lines of a script",
                                 "--install golf-demo script clicks.txt", chosen, [&] {

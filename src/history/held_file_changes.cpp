@@ -130,6 +130,15 @@ void HeldFileChanges::ForEach(const EachPlace& each) {
   }
 }
 
+bool HeldFileChanges::Differs() {
+  if (is_created() || length_ != old_length_) return true;
+  bool differs = false;
+  ForEach([&](const HeldPlace&, std::string_view old_bytes, std::string_view new_bytes) {
+    differs = differs || old_bytes != new_bytes;
+  });
+  return differs;
+}
+
 HeldPlace* HeldFileChanges::FindExact(std::int64_t offset, std::size_t size) {
   const auto portion = portions_.find(PortionOf(offset));
   if (portion == portions_.end()) return nullptr;

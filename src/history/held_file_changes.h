@@ -59,6 +59,9 @@ class HeldFileChanges {
       std::function<void(const HeldPlace&, std::string_view old_bytes, std::string_view new_bytes)>;
   void ForEach(const EachPlace& each);
 
+  // Whether the file differs from what it was: it is new, has another length or other bytes.
+  bool Differs();
+
  private:
   // Places in the order of their offsets, in portions of the file by where they start.
   using Portion = std::vector<HeldPlace>;

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "cli/commands.h"
+#include "history/record_changes.h"
+#include "history/run_list.h"
+
+namespace golf {
+
+// Says on standard error that a run is unfinished, if one is. Changes nothing.
+void NoteUnfinished(SharedState& state);
+
+// Returns the runs that are kept, and notes damaged files on standard error.
+KeptRuns ListKeptRuns(SharedState& state);
+
+// Returns the run of a number. Raises Refusal if there is none.
+const HistoryRun& RunOfNumber(const KeptRuns& list, std::int64_t number);
+
+// "2026-11-22 18:30:05"
+std::string MomentText(DateValue moment);
+
+// Writes changes as events or for people. `for_each` calls a function with each change, each time
+// it is called. For people their counts come first, and records that can be worked out from others
+// are only counted. Returns the number of changes.
+using EachChange = std::function<void(const std::function<void(const RecordChange&)>&)>;
+std::int64_t WriteChanges(bool json, const RecordKinds& kinds, const EachChange& for_each);
+
+}  // namespace golf
