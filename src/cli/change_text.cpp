@@ -101,8 +101,6 @@ std::string Heading(const std::string& file, std::int64_t record, const std::str
   return heading;
 }
 
-constexpr std::size_t kNameWidth = 24;
-
 // What tells values apart. A text of NULs was never filled: it is as blank as one of blanks.
 std::string ValueOf(const FieldElement& element, std::string_view record) {
   std::string value(element.In(record));
@@ -150,11 +148,17 @@ Json ChangeJson(const RecordChange& change) {
 void WriteChange(const RecordChange& change) {
   std::cout << Heading(change.file, change.record, change.title) << " (" << NameOf(change.kind)
             << ")\n";
+  std::vector<Range> ranges;
+  std::size_t width = 0;
   ForEachRange(ChangedElements(change), [&](const Range& range) {
-    std::cout << "  " << Padded(NameOfRange(range), kNameWidth) << ' '
+    ranges.push_back(range);
+    width = std::max(width, NameOfRange(range).size());
+  });
+  for (const Range& range : ranges) {
+    std::cout << "  " << Padded(NameOfRange(range), width) << "  "
               << ValuesOf(range, change.old_bytes) << " -> " << ValuesOf(range, change.new_bytes)
               << '\n';
-  });
+  }
 }
 
 std::vector<Json> ConflictJson(const UndoConflict& conflict) {
@@ -179,8 +183,8 @@ std::string ConflictText(const UndoConflict& conflict) {
   std::string text = Heading(conflict.file, conflict.record, conflict.title) + '\n';
   if (!conflict.reason.empty()) text += "  " + PlainCell(conflict.reason) + '\n';
   ForEachRange(conflict.elements, [&](const Range& range) {
-    text += "  " + Padded(NameOfRange(range), kNameWidth) + " written " +
-            ValuesOf(range, conflict.written) + ", now " + ValuesOf(range, conflict.found) + '\n';
+    text += "  " + NameOfRange(range) + ": written " + ValuesOf(range, conflict.written) +
+            ", now " + ValuesOf(range, conflict.found) + '\n';
   });
   return text;
 }

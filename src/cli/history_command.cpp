@@ -90,20 +90,22 @@ std::string MomentText(DateValue moment) {
   return FormatPicture(CivilFromDate(moment), "yyyy'-'MM'-'dd HH':'mm':'ss");
 }
 
-std::int64_t WriteChanges(bool json, const RecordKinds& kinds, const EachChange& for_each) {
+std::int64_t WriteChangeCounts(bool json, const EachChange& for_each) {
   ChangeCounts counts;
   for_each([&](const RecordChange& change) {
     counts.Add(change);
     if (json) WriteJsonLine(ChangeJson(change));
   });
-  if (json) return counts.Count();
-  counts.Write();
+  if (!json) counts.Write();
+  return counts.Count();
+}
+
+void WriteChangeDetails(const RecordKinds& kinds, const EachChange& for_each) {
   for_each([&](const RecordChange& change) {
     if (change.record == 0 || !kinds.derived_from(change.file).empty()) return;
     std::cout << '\n';
     WriteChange(change);
   });
-  return counts.Count();
 }
 
 ExitCode RunHistory(const Options& options) {
@@ -122,11 +124,13 @@ ExitCode RunHistoryShow(const Options& options, std::int32_t number) {
   HistoryFolder& folder = state.transactions->history();
   WriteReport(run, ReportOf(folder, run), options.json);
   const RecordKinds kinds = MakeRecordKinds(state);
-  WriteChanges(options.json, kinds, [&](const auto& each) {
+  const EachChange each_change = [&](const auto& each) {
     for (const HistoryName& part : run.parts) {
       ForEachChange(*folder.Open(part, FileAccess::kReadOnly), kinds, each);
     }
-  });
+  };
+  WriteChangeCounts(options.json, each_change);
+  if (!options.json) WriteChangeDetails(kinds, each_change);
   return ExitCode::kDone;
 }
 

@@ -21,10 +21,13 @@ const HistoryRun& RunOfNumber(const KeptRuns& list, std::int64_t number);
 // "2026-11-22 18:30:05"
 std::string MomentText(DateValue moment);
 
-// Writes changes as events or for people. `for_each` calls a function with each change, each time
-// it is called. For people their counts come first, and records that can be worked out from others
-// are only counted. Returns the number of changes.
+// Calls a function with each change, each time it is called.
 using EachChange = std::function<void(const std::function<void(const RecordChange&)>&)>;
-std::int64_t WriteChanges(bool json, const RecordKinds& kinds, const EachChange& for_each);
+
+// Writes changes: as events, or for people their counts. Returns their number.
+std::int64_t WriteChangeCounts(bool json, const EachChange& for_each);
+// Writes for people what changed, field by field. Records that can be worked out from others are
+// left out.
+void WriteChangeDetails(const RecordKinds& kinds, const EachChange& for_each);
 
 }  // namespace golf

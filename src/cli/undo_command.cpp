@@ -13,11 +13,19 @@
 namespace golf {
 namespace {
 
-// Notes what a click tells the operator.
+// Note what a click tells the operator.
 class ProblemListener : public HostListener {
  public:
   void OnMessage(const Box& box, BoxButton) override { NoteProblem(box.text); }
   void OnNotice(const std::string& text) override { NoteProblem(text); }
+  void OnError(const NumberedError& error) override { NoteProblem(error.Report()); }
+};
+class JsonProblemListener : public JsonListener {
+ public:
+  void OnMessage(const Box& box, BoxButton answer) override {
+    JsonListener::OnMessage(box, answer);
+    NoteProblem(box.text);
+  }
 };
 
 // Returns the run to undo. Raises Refusal for one that cannot be undone.
@@ -115,9 +123,11 @@ class UndoCommand {
 
   void ShowHeld() {
     const RecordKinds kinds = MakeRecordKinds(state_);
-    const std::int64_t changes = WriteChanges(options_.json, kinds, [&](const auto& each) {
+    const EachChange each_change = [&](const auto& each) {
       ForEachChange(*transactions_.held().held(), transactions_.history().folders(), kinds, each);
-    });
+    };
+    const std::int64_t changes = WriteChangeCounts(options_.json, each_change);
+    if (!options_.json) WriteChangeDetails(kinds, each_change);
     transactions_.Drop();
     WriteEnd(changes, 0);
   }
@@ -127,13 +137,12 @@ class UndoCommand {
     if (committed != 0) {
       HistoryFolder& folder = transactions_.history();
       const RecordKinds kinds = MakeRecordKinds(state_);
-      const auto show = [&](const auto& each) {
+      changes = WriteChangeCounts(options_.json, [&](const auto& each) {
         for (const HistoryName& name : folder.List()) {
           if (name.run != committed) continue;
           ForEachChange(*folder.Open(name, FileAccess::kReadOnly), kinds, each);
         }
-      };
-      changes = WriteChanges(options_.json, kinds, show);
+      });
     }
     WriteEnd(changes, committed);
   }
@@ -187,17 +196,24 @@ ExitCode TryUndo(const Options& options, const UndoRequest& request, SharedState
 ExitCode RunUndo(const Options& options, const UndoRequest& request) {
   const auto application = StartApplication(options);
   SharedState& state = application->state();
-  if (request.dry_run) return TryUndo(options, request, state);
-  ProblemListener listener;
+  ProblemListener plain;
+  JsonProblemListener json;
+  HostListener& listener = options.json ? static_cast<HostListener&>(json) : plain;
   HeadlessHost host(state, Application::Screens(), listener);
   host.clock = ClockOf(options);
+  ExitCode code = ExitCode::kRefused;
   try {
-    const ChangingClick click(state, host);
-    return click.IsAllowed() ? UndoCommand(options, request, state).Run() : ExitCode::kRefused;
-  } catch (const NumberedError& error) {
-    if (!options.json) throw;
-    JsonListener().OnError(error);
-    return ExitCodeOf(error);
+    host.Operate([&] {
+      if (request.dry_run) {
+        code = TryUndo(options, request, state);
+        return;
+      }
+      const ChangingClick click(state, host);
+      if (click.IsAllowed()) code = UndoCommand(options, request, state).Run();
+    });
+    return code;
+  } catch (const ClickEnded& ended) {
+    return ExitCodeOf(ended.error);
   }
 }
 
