@@ -199,7 +199,7 @@ void AddGolfersKvToZd(CLI::App& app, Options& options, GolfersKvToZdArguments& r
   CLI::App* command =
       AddTransfer(app, options, "golfers-kv-to-zd",
                   "Transfer handicaps and addresses of a roster's golfers, Kelvane to Zandel",
-                  "golfers-kv-to-zd --roster CLUB18 --league 00021 --percent 80", chosen,
+                  "golfers-kv-to-zd --roster CLUB18 --league 00021 --even-if-scored", chosen,
                   [&] { return RunGolfersKvToZd(options, request); });
   AddRoster(*command, request.roster);
   AddLeague(*command, request.league);
