@@ -96,7 +96,20 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& 
                      const std::string& example, Command& chosen, Command command) {
   CLI::App* added = app.add_subcommand(name, help);
   added->footer("Example:\n  golf-transfer-cli " + example);
-  added->callback([&chosen, command = std::move(command)] { chosen = command; });
+  added->callback([&chosen, added, command = std::move(command)] {
+    if (added->get_subcommands().empty()) chosen = command;
+  });
+  return added;
+}
+
+// Adds a command that runs a transfer.
+CLI::App* AddTransfer(CLI::App& app, Options& options, const std::string& name,
+                      const std::string& help, const std::string& example, Command& chosen,
+                      Command command) {
+  CLI::App* added =
+      AddCommand(app, name, help, "--install golf-demo " + example, chosen, std::move(command));
+  added->add_option("--log", options.log, "Append the run's report to this file")
+      ->type_name("FILE");
   return added;
 }
 
@@ -112,6 +125,10 @@ struct Arguments {
   ScoresZdToKvArguments scores_zd_to_kv;
   ResultsRequest results;
   CourseRequest course;
+  std::int32_t run = 0;
+  std::string forgotten;
+  UndoRequest undo;
+  std::string recover;
   std::string script;
   bool start_programs = false;
 };
@@ -136,12 +153,12 @@ void AddLeague(CLI::App& command, std::string& league) {
       ->type_name("BASE");
 }
 
-void AddGolfersKvToQb(CLI::App& app, const Options& options, GolfersKvToQbArguments& request,
+void AddGolfersKvToQb(CLI::App& app, Options& options, GolfersKvToQbArguments& request,
                       Command& chosen) {
-  CLI::App* command =
-      AddCommand(app, "golfers-kv-to-qb", "Transfer the golfers of a roster, Kelvane to Quenby",
-                 "--install golf-demo golfers-kv-to-qb --roster CLUB18 --to 1 --items Flight,7",
-                 chosen, [&] { return RunGolfersKvToQb(options, request); });
+  CLI::App* command = AddTransfer(app, options, "golfers-kv-to-qb",
+                                  "Transfer the golfers of a roster, Kelvane to Quenby",
+                                  "golfers-kv-to-qb --roster CLUB18 --to 1 --items Flight,7",
+                                  chosen, [&] { return RunGolfersKvToQb(options, request); });
   AddRoster(*command, request.roster);
   AddQuenbyRoster(*command, request.to);
   command->add_flag("--marked-only", request.marked_only, "Only golfers who are marked to print");
@@ -177,13 +194,13 @@ void AddCourse(CLI::App& app, const Options& options, CourseRequest& request, Co
   for (CLI::App* command : {show, check}) AddLibrary(*command, request.library);
 }
 
-void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdArguments& request,
+void AddGolfersKvToZd(CLI::App& app, Options& options, GolfersKvToZdArguments& request,
                       Command& chosen) {
   CLI::App* command =
-      AddCommand(app, "golfers-kv-to-zd",
-                 "Transfer handicaps and addresses of a roster's golfers, Kelvane to Zandel",
-                 "--install golf-demo golfers-kv-to-zd --roster CLUB18 --league 00021 --percent 80",
-                 chosen, [&] { return RunGolfersKvToZd(options, request); });
+      AddTransfer(app, options, "golfers-kv-to-zd",
+                  "Transfer handicaps and addresses of a roster's golfers, Kelvane to Zandel",
+                  "golfers-kv-to-zd --roster CLUB18 --league 00021 --even-if-scored", chosen,
+                  [&] { return RunGolfersKvToZd(options, request); });
   AddRoster(*command, request.roster);
   AddLeague(*command, request.league);
   AddNumber(*command, "--percent", request.percent,
@@ -198,24 +215,24 @@ void AddGolfersKvToZd(CLI::App& app, const Options& options, GolfersKvToZdArgume
                     "Also where the league's current event has scores already");
 }
 
-void AddGolfersZdToQb(CLI::App& app, const Options& options, GolfersZdToQbArguments& request,
+void AddGolfersZdToQb(CLI::App& app, Options& options, GolfersZdToQbArguments& request,
                       Command& chosen) {
-  CLI::App* command =
-      AddCommand(app, "golfers-zd-to-qb", "Transfer the golfers of a league, Zandel to Quenby",
-                 "--install golf-demo golfers-zd-to-qb --league 00011 --to 1 --double --subs",
-                 chosen, [&] { return RunGolfersZdToQb(options, request); });
+  CLI::App* command = AddTransfer(app, options, "golfers-zd-to-qb",
+                                  "Transfer the golfers of a league, Zandel to Quenby",
+                                  "golfers-zd-to-qb --league 00011 --to 1 --double --subs", chosen,
+                                  [&] { return RunGolfersZdToQb(options, request); });
   AddLeague(*command, request.league);
   AddQuenbyRoster(*command, request.to);
   command->add_flag("--double", request.doubled, "Handicaps of 9 holes times 2");
   command->add_flag("--subs", request.substitutes, "The league's substitutes as well");
 }
 
-void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvArguments& request,
+void AddScoresQbToKv(CLI::App& app, Options& options, ScoresQbToKvArguments& request,
                      Command& chosen) {
-  CLI::App* command = AddCommand(
-      app, "scores-qb-to-kv", "Transfer the scores of a tournament's round, Quenby to Kelvane",
-      "--install golf-demo scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18", chosen,
-      [&] { return RunScoresQbToKv(options, request); });
+  CLI::App* command = AddTransfer(app, options, "scores-qb-to-kv",
+                                  "Transfer the scores of a tournament's round, Quenby to Kelvane",
+                                  "scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18",
+                                  chosen, [&] { return RunScoresQbToKv(options, request); });
   AddNumber(*command, "--tournament", request.tournament, "As in list tournaments")->required();
   AddNumber(*command, "--round", request.round, "Of the tournament")->required()->type_name("R");
   AddRoster(*command, request.roster);
@@ -234,12 +251,12 @@ void AddScoresQbToKv(CLI::App& app, const Options& options, ScoresQbToKvArgument
                     "Join the scores of 9 holes by two for a roster of 18 holes");
 }
 
-void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvArguments& request,
+void AddScoresZdToKv(CLI::App& app, Options& options, ScoresZdToKvArguments& request,
                      Command& chosen) {
   CLI::App* command =
-      AddCommand(app, "scores-zd-to-kv", "Transfer scores of a league, Zandel to Kelvane",
-                 "--install golf-demo scores-zd-to-kv --league 00011 --batch 3 --roster CLUB18",
-                 chosen, [&] { return RunScoresZdToKv(options, request); });
+      AddTransfer(app, options, "scores-zd-to-kv", "Transfer scores of a league, Zandel to Kelvane",
+                  "scores-zd-to-kv --league 00011 --batch 3 --roster CLUB18", chosen,
+                  [&] { return RunScoresZdToKv(options, request); });
   AddLeague(*command, request.league);
   AddNumber(*command, "--batch", request.batch, "What to transfer, by its code as in list events")
       ->required()
@@ -253,7 +270,55 @@ void AddScoresZdToKv(CLI::App& app, const Options& options, ScoresZdToKvArgument
       ->type_name("yes|no");
 }
 
-void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
+void AddHistory(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
+  CLI::App* history =
+      AddCommand(app, "history", "List the runs that are kept, or show or forget them",
+                 "--install golf-demo history", chosen, [&] { return RunHistory(options); });
+  history->require_subcommand(0, 1);
+  CLI::App* show =
+      AddCommand(*history, "show", "Show the report of a run and what it changed, field by field",
+                 "--install golf-demo courses-kv-to-qb\n  golf-transfer-cli --install golf-demo "
+                 "history show 1",
+                 chosen, [&] { return RunHistoryShow(options, args.run); });
+  AddNumber(*show, "N", args.run, "The run, as in history; 1 is the newest")->required();
+  CLI::App* forget = AddCommand(*history, "forget", "Remove runs from the history, for good",
+                                "--install golf-demo history forget all", chosen,
+                                [&] { return RunHistoryForget(options, args.forgotten); });
+  forget->add_option("N", args.forgotten, "The run, as in history, or all")
+      ->required()
+      ->check([](const std::string& text) {
+        return text == "all" || ReadWholeNumber(text) ? ""
+                                                      : "\"" + text + "\" is no number of a run";
+      })
+      ->type_name("N|all");
+}
+
+void AddUndo(CLI::App& app, const Options& options, Arguments& args, Command& chosen) {
+  CLI::App* undo = AddCommand(app, "undo", "Put back what a run has changed",
+                              "--install golf-demo courses-kv-to-qb\n  golf-transfer-cli --install "
+                              "golf-demo undo --dry-run",
+                              chosen, [&] { return RunUndo(options, args.undo); });
+  AddNumber(*undo, "N", args.undo.number,
+            "The run, as in history; the newest one that is done, no undo itself,\nand not undone "
+            "if left out");
+  undo->add_flag("--dry-run", args.undo.dry_run, "Show what would change, and change nothing");
+  undo->add_flag("--skip-changed", args.undo.skip_changed,
+                 "Leave what was changed since, with all that belongs to it, and undo\nthe rest");
+  CLI::App* recover = AddCommand(app, "recover", "Decide about a run that was interrupted",
+                                 "--install golf-demo recover --finish", chosen,
+                                 [&] { return RunRecover(options, args.recover); });
+  CLI::Option_group* choice = recover->add_option_group("What becomes of it");
+  choice->require_option(1);
+  const auto add = [&](const std::string& name, const char* help) {
+    choice->add_flag_callback(
+        "--" + name, [&args, name] { args.recover = name; }, help);
+  };
+  add("finish", "Finish it, except for what another program has changed since");
+  add("put-back", "Put it back, except for what another program has changed since");
+  add("leave", "Leave it as it is");
+}
+
+void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chosen) {
   AddCommand(app, "demo", "Make a demonstration install in an empty or new folder",
              "demo golf-demo", chosen, [&] { return RunDemo(options, args.demo_folder); })
       ->add_option("DIR", args.demo_folder, "The folder")
@@ -309,14 +374,16 @@ void AddCommands(CLI::App& app, const Options& options, Arguments& args, Command
 
   AddCourse(app, options, args.course, chosen);
 
-  AddCommand(app, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
-             "--install golf-demo courses-kv-to-qb", chosen,
-             [&] { return RunCoursesKvToQb(options); });
+  AddTransfer(app, options, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
+              "courses-kv-to-qb", chosen, [&] { return RunCoursesKvToQb(options); });
   AddGolfersKvToQb(app, options, args.golfers_kv_to_qb, chosen);
   AddGolfersKvToZd(app, options, args.golfers_kv_to_zd, chosen);
   AddGolfersZdToQb(app, options, args.golfers_zd_to_qb, chosen);
   AddScoresQbToKv(app, options, args.scores_qb_to_kv, chosen);
   AddScoresZdToKv(app, options, args.scores_zd_to_kv, chosen);
+
+  AddHistory(app, options, args, chosen);
+  AddUndo(app, options, args, chosen);
 
   CLI::App* script = AddCommand(app, "script", "Drive the screens by the lines of a script",
                                 "--install golf-demo script clicks.txt", chosen, [&] {

@@ -103,6 +103,20 @@ struct ScoresZdToKvArguments {
 };
 ExitCode RunScoresZdToKv(const Options& options, const ScoresZdToKvArguments& request);
 
+ExitCode RunHistory(const Options& options);
+ExitCode RunHistoryShow(const Options& options, std::int32_t number);
+// `which` is a number or "all".
+ExitCode RunHistoryForget(const Options& options, const std::string& which);
+
+struct UndoRequest {
+  std::optional<std::int32_t> number;  // the newest run that can be undone if left out
+  bool dry_run = false;
+  bool skip_changed = false;
+};
+ExitCode RunUndo(const Options& options, const UndoRequest& request);
+// `choice` is "finish", "put-back" or "leave".
+ExitCode RunRecover(const Options& options, const std::string& choice);
+
 ExitCode RunScript(const Options& options, const std::string& file, bool start_programs);
 
 }  // namespace golf

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cli/commands.h"
+#include "cli/history_command.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
 #include "core/number_text.h"
@@ -194,6 +195,7 @@ void ShowFinding(const CourseClass& course, std::int32_t number, const TeeKey& t
 
 CourseClass& OpenForReading(SharedState& state, const CourseRequest& request) {
   state.files.gate().RefuseChanges();
+  NoteUnfinished(state);
   CourseClass& course = OpenNamedLibrary(state, request.library);
   const std::int64_t rest =
       state.files.Length(course.CourseFileNumber()) % std::int64_t{kCourseRecordLength};

@@ -1,11 +1,13 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "app/file_kinds.h"
 #include "cli/commands.h"
 #include "cli/field_text.h"
+#include "cli/history_command.h"
 #include "cli/json_text.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
@@ -20,6 +22,7 @@ constexpr int kNumber = 1;
 struct FoundFile {
   std::unique_ptr<Application> application;
   std::string path;
+  std::optional<std::string> folder;  // its own, UTF-8; nothing where it is below the install
 };
 
 // Finds the file by the path as given, or else below the install folder. The case of its name does
@@ -34,12 +37,22 @@ FoundFile FindFile(const Options& options, const std::string& file) {
   for (const auto& [place, name] : places) {
     std::error_code error;
     if (place.install && !fs::is_directory(PathFromUtf8(*place.install), error)) continue;
-    FoundFile found{StartApplication(place), TextFromUtf8(name)};
+    FoundFile found{StartApplication(place), TextFromUtf8(name), {}};
+    if (&place == &beside) found.folder = beside.install;
     SharedState& state = found.application->state();
     found.path.insert(0, state.ProgramPath);
     if (state.files.FileExists(found.path)) return found;
   }
   throw Refusal("There is no file " + file + ".");
+}
+
+// A file that is found by its own path lies a folder below the install, as a rule.
+void NoteUnfinishedAround(const Options& options, const FoundFile& found) {
+  NoteUnfinished(found.application->state());
+  if (!found.folder) return;
+  Options above = options;
+  above.install = Utf8FromPath(PathFromUtf8(*found.folder) / "..");
+  NoteUnfinished(StartApplication(above)->state());
 }
 
 LayoutInfo LayoutOf(const std::string& file) {
@@ -105,6 +118,7 @@ ExitCode RunDump(const Options& options, const DumpRequest& request) {
   const FoundFile found = FindFile(options, request.file);
   FileTable& files = found.application->state().files;
   files.gate().RefuseChanges();
+  NoteUnfinishedAround(options, found);
   files.Open(kNumber, found.path, layout.length);
   const auto [first, last] = RecordsOf(files, request, layout.length);
   const auto write = request.csv    ? WriteCsvRecord

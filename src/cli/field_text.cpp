@@ -41,6 +41,19 @@ std::string TextOf(const Field& field, const FieldValue& value) {
   return NumberName(std::get<double>(value));
 }
 
+std::string PlainTextOf(const Field& field, const FieldValue& value) {
+  const auto* text = std::get_if<std::string>(&value);
+  return text != nullptr && !field.name.empty() ? PlainCell(TrimRight(*text))
+                                                : TextOf(field, value);
+}
+
+// The start of long bytes, for people.
+std::string PlainBytes(const Field& field, std::string_view bytes) {
+  constexpr std::size_t kMostBytes = 24;
+  if (bytes.size() <= kMostBytes) return Hex(bytes);
+  return Hex(bytes.substr(0, kMostBytes)) + "... (" + std::to_string(field.width) + " bytes)";
+}
+
 Json JsonOf(const Field& field, const FieldValue& value) {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return *whole;
   if (const auto* single = std::get_if<float>(&value)) return JsonSingle(*single);
@@ -84,13 +97,13 @@ Json NestedJson(const Field& field, std::string_view record, std::vector<int>& i
   return array;
 }
 
+}  // namespace
+
 std::string IndexList(const std::vector<int>& indexes) {
   std::string list;
   for (const int index : indexes) list += (list.empty() ? "" : ",") + std::to_string(index);
   return list;
 }
-
-}  // namespace
 
 std::string FieldLabel(const Field& field) {
   return field.name.empty() ? "bytes@" + std::to_string(field.offset) : std::string(field.name);
@@ -118,22 +131,42 @@ std::vector<std::string> ElementTexts(const Field& field, std::string_view recor
   return texts;
 }
 
+std::vector<int> IndexesOf(const Field& field, std::size_t nth) {
+  std::vector<int> indexes(field.rank);
+  for (std::size_t i = field.rank; i-- > 0;) {
+    const auto count = static_cast<std::size_t>(field.dimensions[i].count);
+    indexes[i] = field.dimensions[i].base + static_cast<int>(nth % count);
+    nth /= count;
+  }
+  return indexes;
+}
+
+std::string ElementName(const Field& field, std::size_t nth) {
+  const std::string list = IndexList(IndexesOf(field, nth));
+  return FieldLabel(field) + (list.empty() ? "" : "(" + list + ")");
+}
+
+Json ElementJson(const Field& field, std::string_view record, std::size_t nth) {
+  return JsonOf(field, ReadFieldValue(field, record, field.OffsetOfNth(nth)));
+}
+
+std::string PlainElement(const Field& field, std::string_view record, std::size_t nth) {
+  const std::size_t at = field.OffsetOfNth(nth);
+  if (field.name.empty()) return PlainBytes(field, record.substr(at, field.width));
+  return PlainTextOf(field, ReadFieldValue(field, record, at));
+}
+
 std::vector<std::pair<std::string, std::string>> PlainLines(const Field& field,
                                                             std::string_view record) {
-  constexpr std::size_t kMostBytes = 24;  // shown of a field without a name
   std::vector<std::pair<std::string, std::string>> lines;
-  if (field.name.empty() && field.width > kMostBytes) {
-    const std::string start = Hex(record.substr(field.offset, kMostBytes));
-    return {{FieldLabel(field), start + "... (" + std::to_string(field.width) + " bytes)"}};
+  if (field.name.empty() && field.rank == 0) {
+    return {{FieldLabel(field), PlainBytes(field, record.substr(field.offset, field.width))}};
   }
   ForEachElement(field, [&](const std::vector<int>& indexes) {
     const bool new_line =
         lines.empty() ||
         (field.rank > 1 && indexes.back() == field.dimensions[field.rank - 1].base);
-    const FieldValue value = ValueAt(field, record, indexes);
-    const auto* raw = std::get_if<std::string>(&value);
-    const bool named_text = raw != nullptr && !field.name.empty();
-    const std::string text = named_text ? PlainCell(TrimRight(*raw)) : TextOf(field, value);
+    const std::string text = PlainTextOf(field, ValueAt(field, record, indexes));
     if (!new_line) {
       lines.back().second += (field.type == FieldType::kText ? ", " : " ") + text;
       return;

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "cli/history_command.h"
 #include "cli/plain_text.h"
 
 namespace golf {
@@ -43,6 +44,7 @@ ExitCode RunList(const Options& options, const ListRequest& request) {
                                  [&](const ListKind& known) { return known.what == request.what; });
   const auto application = StartApplication(options);
   application->state().files.gate().RefuseChanges();
+  NoteUnfinished(application->state());
   ListWriter out(options.json);
   kind->list(application->state(), request, out);
   out.Finish();

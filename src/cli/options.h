@@ -17,6 +17,7 @@ struct Options {
   RegionalOverrides regional;
   bool json = false;
   bool quiet = false;
+  std::string log;  // of a transfer: the file for its report, UTF-8; empty for none
 };
 
 // Returns a clock: the given moment, or the local time.

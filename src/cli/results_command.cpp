@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "cli/history_command.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
 #include "core/text.h"
@@ -25,6 +26,7 @@ constexpr ResultsKind kKinds[] = {
 
 void OpenForReading(SharedState& state, std::int32_t tournament) {
   state.files.gate().RefuseChanges();
+  NoteUnfinished(state);
   if (!state.files.FileExists(state.QBDataPath + TournamentFileName(tournament, ".Q9C"))) {
     throw Refusal("There is no tournament " + std::to_string(tournament) + ".");
   }

@@ -1,21 +1,27 @@
 #include "cli/transfer_command.h"
 
 #include <iostream>
+#include <memory>
+#include <string>
 #include <vector>
 
 #include "cli/commands.h"
 #include "cli/json_listener.h"
+#include "cli/listener_pair.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
 #include "cli/progress_bar.h"
+#include "cli/transfer_log.h"
 
 namespace golf {
 namespace {
 
-// Keeps the texts of the boxes until it is known whether the run was refused.
+// Keeps the texts of the boxes until it is known whether the run was refused. Puts problems into
+// the log, and notes them on standard error unless another listener does.
 class ReportListener : public HostListener {
  public:
-  explicit ReportListener(ProgressBar& bar) : bar_(bar) {}
+  ReportListener(ProgressBar& bar, TransferLog& log, bool notes)
+      : bar_(bar), log_(log), notes_(notes) {}
 
   void OnMessage(const Box& box, BoxButton answer) override {
     Keep(box.title, box.text);
@@ -25,12 +31,9 @@ class ReportListener : public HostListener {
     Keep(tip.title, tip.text);
     if (tip.buttons.size() > 1) KeepAnswer(answer);
   }
-  void OnFault(const NumberedError& fault) override { Note(fault); }
-  void OnNotice(const std::string& text) override {
-    bar_.Clear();
-    NoteProblem(text);
-  }
-  void OnError(const NumberedError& error) override { Note(error); }
+  void OnFault(const NumberedError& fault) override { Note(fault.Report()); }
+  void OnNotice(const std::string& text) override { Note(text); }
+  void OnError(const NumberedError& error) override { Note(error.Report()); }
   void OnProgress(const Progress& progress) override { bar_.Show(progress); }
 
   void AddLog(std::string_view text) {
@@ -39,11 +42,20 @@ class ReportListener : public HostListener {
   void Write(std::ostream& out) const {
     for (const std::string& text : texts_) out << text << '\n';
   }
+  void WriteLog() const {
+    for (const std::string& text : texts_) log_.Add(text);
+  }
+  // Notes a problem, of which no listener tells.
+  void NoteInLog(const std::string& text) {
+    NoteProblem(text);
+    log_.Add(PlainText(text));
+  }
 
  private:
-  void Note(const NumberedError& error) {
+  void Note(const std::string& text) {
     bar_.Clear();
-    NoteProblem(error.Report());
+    if (notes_) NoteProblem(text);
+    log_.Add(PlainText(text));
   }
   void Keep(std::string_view title, std::string_view text) {
     const bool names_nothing =
@@ -55,6 +67,8 @@ class ReportListener : public HostListener {
   void KeepAnswer(std::string_view answer) { texts_.push_back("Answer: " + PlainText(answer)); }
 
   ProgressBar& bar_;
+  TransferLog& log_;
+  bool notes_;
   std::vector<std::string> texts_;
 };
 
@@ -94,49 +108,78 @@ ExitCode ExitCodeAfterRun(const HeadlessHost& host, bool cancelled) {
   return cancelled || host.counts().empty() ? ExitCode::kRefused : ExitCode::kDone;
 }
 
-void NoteCancelled(const HeadlessHost& host, const CancellingAnswer& question) {
+std::string CancelledText(const HeadlessHost& host, const CancellingAnswer& question) {
   std::string text = "The transfer was cancelled: \"" + std::string(question.title) +
                      "\" was answered " + std::string(NameOf(question.answer)) + ". The option " +
                      std::string(question.option) + " answers otherwise.\n";
   std::int64_t done = 0;
   for (const auto& [name, count] : host.counts()) done += count;
   text += done == 0 ? "Nothing was transferred." : std::to_string(done) + " transferred before.";
-  NoteProblem(text);
+  return text;
 }
 
-void WriteResult(const TransferCommand& command, const HeadlessHost& host) {
+void WriteResult(const TransferCommand& command, const HeadlessHost& host, std::int32_t history) {
   Json result = {{"event", "result"}, {"transfer", command.name}};
   for (const auto& [name, count] : host.counts()) result[name] = count;
   if (command.carries_on || !host.faults().empty()) result["faults"] = host.faults().size();
+  result["dryRun"] = false;
+  result["history"] = history == 0 ? Json(nullptr) : Json(history);
   WriteJsonLine(result);
+}
+
+ExitCode Transfer(const Options& options, const TransferCommand& command, Application& application,
+                  TransferLog& log) {
+  ProgressBar bar(!options.quiet && !options.json);
+  ReportListener report(bar, log, !options.json);
+  JsonListener json;
+  ListenerPair both(json, report);
+  HostListener& listener = options.json ? static_cast<HostListener&>(both) : report;
+  HeadlessHost host(application.state(), Application::Screens(), listener);
+  host.clock = ClockOf(options);
+  const auto failed = Work(application, host, report, command);
+  bar.Clear();
+  const bool cancelled = IsCancelled(host, command);
+  const auto lost = CloseFiles(application.state().files);
+  const ExitCode code = failed ? *failed
+                        : lost ? ExitCodeOf(*lost)
+                               : ExitCodeAfterRun(host, cancelled);
+  const std::int32_t history = application.state().transactions->last_committed();
+  report.WriteLog();
+  if (host.run_ended_by()) report.NoteInLog(host.run_ended_by()->Report());
+  if (cancelled) report.NoteInLog(CancelledText(host, *command.cancelled_by));
+  NoteFaultCount(host.faults().size());
+  log.End(code, history);
+  const bool refused = host.counts().empty();
+  if (options.json && !refused && !failed) WriteResult(command, host, history);
+  if (!options.json || refused) report.Write(refused ? std::cerr : std::cout);
+  return code;
 }
 
 }  // namespace
 
 ExitCode RunTransferCommand(const Options& options, const TransferCommand& command) {
-  const auto application = StartApplication(options);
-  ProgressBar bar(!options.quiet && !options.json);
-  ReportListener report(bar);
-  JsonListener json;
-  HostListener& listener = options.json ? static_cast<HostListener&>(json) : report;
-  HeadlessHost host(application->state(), Application::Screens(), listener);
-  host.clock = ClockOf(options);
-  const auto failed = Work(*application, host, report, command);
-  bar.Clear();
-  const bool cancelled = IsCancelled(host, command);
-  const auto lost = CloseFiles(application->state().files);
-  const ExitCode code = failed ? *failed
-                        : lost ? ExitCodeOf(*lost)
-                               : ExitCodeAfterRun(host, cancelled);
-  if (host.run_ended_by()) NoteProblem(host.run_ended_by()->Report());
-  if (cancelled) NoteCancelled(host, *command.cancelled_by);
-  NoteFaultCount(host.faults().size());
-  if (options.json) {
-    if (!host.counts().empty() && !failed) WriteResult(command, host);
-  } else {
-    report.Write(host.counts().empty() ? std::cerr : std::cout);
+  TransferLog log(options, command.name);
+  std::unique_ptr<Application> application;
+  try {
+    application = StartApplication(options);
+    return Transfer(options, command, *application, log);
+  } catch (const NumberedError& error) {
+    log.Add(PlainText(error.description()));
+    log.End(ExitCodeOf(error), 0);
+    throw;
+  } catch (const Refusal& refusal) {
+    log.Add(refusal.what());
+    log.End(ExitCode::kRefused, 0);
+    throw;
+  } catch (const Stopped& stopped) {
+    const std::int32_t history = application->state().transactions->last_committed();
+    log.Add(stopped.what());
+    log.End(ExitCodeOf(stopped), history);
+    if (history == 0) throw;
+    NoteProblem("The run was stopped. What it had done before is run " + std::to_string(history) +
+                " of the history.");
+    return ExitCodeOf(stopped);
   }
-  return code;
 }
 
 ExitCode RunCoursesKvToQb(const Options& options) {

@@ -9,6 +9,11 @@ void ChangeGroups::Begin(std::string_view title) {
   current_ = 0;
 }
 
+void ChangeGroups::Resume(ChangeGroup group) {
+  pending_.clear();
+  current_ = group;
+}
+
 ChangeGroup ChangeGroups::Current() {
   if (current_ == 0 && !pending_.empty()) {
     starts_.push_back(static_cast<std::uint32_t>(titles_.size()));

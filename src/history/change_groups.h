@@ -15,6 +15,8 @@ class ChangeGroups {
  public:
   // The changes that follow belong to a new group; to the run as a whole where `title` is empty.
   void Begin(std::string_view title);
+  // The changes that follow belong to a group that has changes already.
+  void Resume(ChangeGroup group);
   // The number of the group for a change that is made now.
   ChangeGroup Current();
 

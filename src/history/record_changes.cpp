@@ -1,29 +1,23 @@
 #include "history/record_changes.h"
 
-#include <algorithm>
+#include "history/held_content.h"
+#include "history/record_parts.h"
 
 namespace golf {
 namespace {
 
-// Part of a place that lies in one record; padded to the whole record where the place is shorter.
-std::string Part(std::string_view bytes, std::size_t at, std::size_t size) {
-  std::string part(bytes.substr(std::min(at, bytes.size()), size));
-  const bool is_zero = part.find_first_not_of('\0') == std::string::npos;
-  if (part.empty() || (bytes.size() < at + size && is_zero)) return {};
-  part.resize(size);
-  return part;
-}
-
-// Breaks places into records.
+// Tells of the changes of each record.
 class ChangeTeller {
  public:
   ChangeTeller(const RecordKinds& kinds, const std::function<void(const RecordChange&)>& each)
-      : kinds_(kinds), each_(each) {}
+      : kinds_(kinds), each_(each), parts_([this](const RecordPart& part) { Tell(part); }) {}
 
   void Group(ChangeGroup group, std::string_view title) { groups_.emplace(group, title); }
 
   void File(const HistoryFileEntry& file) {
+    parts_.Finish();
     change_ = {.file = file.path, .layout = kinds_.layout_of(FileNameOf(file.path))};
+    parts_.Begin(change_.layout ? change_.layout->length : 0);
     switch (file.fate) {
       case FileFate::kCreated:
         return Tell(ChangeKind::kFileCreated);
@@ -34,41 +28,33 @@ class ChangeTeller {
     }
   }
 
-  void Place(const HistoryPlace& place) {
-    if (!change_.layout) return;
-    const auto length = static_cast<std::int64_t>(change_.layout->length);
-    const std::int64_t first = place.offset / length;
-    const std::int64_t last = (place.End() - 1) / length;
-    for (std::int64_t record = first; record <= last; ++record) {
-      TellRecord(place, record + 1, record * length - place.offset, change_.layout->length);
-    }
+  void Place(std::int64_t offset, ChangeGroup group, std::string_view old_bytes,
+             std::string_view new_bytes) {
+    parts_.Take(offset, group, old_bytes, new_bytes);
   }
 
+  void Finish() { parts_.Finish(); }
+
  private:
-  // `at` is where the record begins in the place; below 0 the place begins inside the record.
-  void TellRecord(const HistoryPlace& place, std::int64_t record, std::int64_t at,
-                  std::size_t length) {
-    const auto lead = static_cast<std::size_t>(std::max<std::int64_t>(-at, 0));
-    const auto start = static_cast<std::size_t>(std::max<std::int64_t>(at, 0));
+  void Tell(const RecordPart& part) {
     RecordChange change = change_;
-    change.record = record;
-    change.old_bytes = Part(place.old_bytes, start, length - lead);
-    change.new_bytes = Part(place.new_bytes, start, length - lead);
-    for (std::string* bytes : {&change.old_bytes, &change.new_bytes}) {
-      if (!bytes->empty()) bytes->insert(0, lead, '\0');
-    }
+    const std::string unknown(change.layout->length, '\0');
+    change.record = part.record;
+    change.old_bytes = WholeRecord(part, part.old_bytes, unknown);
+    change.new_bytes = WholeRecord(part, part.new_bytes, unknown);
     if (change.old_bytes == change.new_bytes) return;
     const auto title = [&](const std::string& bytes) {
-      return bytes.empty() ? std::string() : kinds_.title_of(change.file, bytes);
+      return bytes.empty() ? std::string() : kinds_.title_of(change.file, part.record, bytes);
     };
     const std::string old_title = title(change.old_bytes);
     const std::string new_title = title(change.new_bytes);
-    change.kind = ChangeKind::kChanged;
-    if (old_title.empty() && !new_title.empty()) change.kind = ChangeKind::kAdded;
-    if (!old_title.empty() && new_title.empty()) change.kind = ChangeKind::kRemoved;
-    if (change.old_bytes.empty()) change.kind = ChangeKind::kAdded;
+    const bool was_there = !change.old_bytes.empty() && (!old_title.empty() || new_title.empty());
+    const bool is_there = !change.new_bytes.empty() && (!new_title.empty() || old_title.empty());
+    change.kind = !was_there  ? ChangeKind::kAdded
+                  : !is_there ? ChangeKind::kRemoved
+                              : ChangeKind::kChanged;
     change.title = !new_title.empty() ? new_title : old_title;
-    if (change.title.empty()) change.title = groups_[place.group];
+    if (change.title.empty()) change.title = groups_[part.group];
     each_(change);
   }
 
@@ -80,6 +66,7 @@ class ChangeTeller {
 
   const RecordKinds& kinds_;
   const std::function<void(const RecordChange&)>& each_;
+  RecordParts parts_;
   std::map<ChangeGroup, std::string> groups_;
   RecordChange change_;  // of the file in hand
 };
@@ -100,7 +87,26 @@ void ForEachChange(HistoryFile& history, const RecordKinds& kinds,
   history.Read(
       {.group = [&](ChangeGroup group, std::string_view title) { teller.Group(group, title); },
        .file = [&](const HistoryFileEntry& file) { teller.File(file); },
-       .place = [&](const HistoryPlace& place) { teller.Place(place); }});
+       .place =
+           [&](const HistoryPlace& place) {
+             teller.Place(place.offset, place.group, place.old_bytes, place.new_bytes);
+           }});
+  teller.Finish();
+}
+
+void ForEachChange(HeldChanges& changes, const HistoryFolders& folders, const RecordKinds& kinds,
+                   const std::function<void(const RecordChange&)>& each) {
+  ChangeTeller teller(kinds, each);
+  HistoryPlace bytes;
+  const auto place = [&](const HeldPlace& held, std::string_view code) {
+    CodeReader(code).Place(held.old_size, held.new_size, PlaceParts::kWhole, bytes);
+    teller.Place(held.offset, held.group, bytes.old_bytes, bytes.new_bytes);
+  };
+  ReadHeld(changes, folders,
+           {.group = [&](ChangeGroup group, std::string_view title) { teller.Group(group, title); },
+            .file = [&](const HistoryFileEntry& file) { teller.File(file); },
+            .place = place});
+  teller.Finish();
 }
 
 }  // namespace golf

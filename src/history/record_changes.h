@@ -7,7 +7,9 @@
 #include <string>
 #include <string_view>
 
+#include "history/held_platform.h"
 #include "history/history_file.h"
+#include "history/history_folder.h"
 #include "history/record_kinds.h"
 
 namespace golf {
@@ -31,6 +33,10 @@ struct RecordChange {
 
 // Tells of a run's changes in the order of its history file: each file, and in it each record.
 void ForEachChange(HistoryFile& history, const RecordKinds& kinds,
+                   const std::function<void(const RecordChange&)>& each);
+
+// The same of changes that are held, as their history file will tell of them.
+void ForEachChange(HeldChanges& changes, const HistoryFolders& folders, const RecordKinds& kinds,
                    const std::function<void(const RecordChange&)>& each);
 
 // The name of a file without its folder.

@@ -16,10 +16,12 @@ struct RecordKinds {
   // The layout of a file by its name without folder; nothing for a text file.
   std::function<std::optional<LayoutInfo>(std::string_view file_name)> layout_of;
   // What a record is called: "Smith, Ann". Empty where nobody lives in it, such as a free place.
-  // `file` is the path below the install, with "/"; `record` is a whole record.
-  std::function<std::string(std::string_view file, std::string_view record)> title_of;
-  // Whether a file is worked out from another one and can be made anew, as a course index.
-  std::function<bool(std::string_view file_name)> is_derived;
+  // `file` is the path below the install, with "/"; `bytes` is the whole record.
+  std::function<std::string(std::string_view file, std::int64_t record, std::string_view bytes)>
+      title_of;
+  // The file from which a file is worked out and can be made anew, as a course index from its
+  // library. Empty for any other file. Both are paths below the install.
+  std::function<std::string(std::string_view file)> derived_from;
   // Who refers to a record that was added: "Tournament \"Club Championship\""; empty with nobody.
   std::function<std::string(std::string_view file, std::int64_t record, std::string_view bytes)>
       referred_by;

@@ -62,6 +62,8 @@ bool Transactions::RecoverRun(const HistoryName& name, bool is_newest, RecoveryC
   if (stand == Stand::kDamaged) {
     if (choice == RecoveryChoice::kLeave) {
       history->Put(gate, HistoryMark::kLeft);
+      recovery.finished.push_back(DamagedHistory(history->path()).description() +
+                                  " The run that it tells of is left as it is.");
       return true;
     }
     recovery.stuck = name;

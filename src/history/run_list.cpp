@@ -8,7 +8,7 @@ namespace golf {
 namespace {
 
 // The newest undo decides: a run whose undo was undone is done again.
-void MarkUndone(std::vector<HistoryRun>& newest_first) {
+void FindUndone(std::vector<HistoryRun>& newest_first) {
   std::set<std::int32_t> undone;
   for (HistoryRun& run : newest_first) {
     if (run.state != RunState::kDone) continue;
@@ -34,6 +34,7 @@ void AddPart(HistoryFile& history, const HistoryName& name, std::vector<HistoryR
   HistoryRun& run = runs.back();
   run.parts.push_back(name);
   run.changes += history.CountChanges();
+  if (history.Has(HistoryMark::kUndone)) run.state = RunState::kUndone;
   if (left) run.state = RunState::kLeft;
   if (!left && !done) run.state = RunState::kInterrupted;
 }
@@ -45,8 +46,8 @@ std::string_view NameOf(RunState state) {
   return kNames[static_cast<std::size_t>(state)];
 }
 
-RunList ListRuns(HistoryFolder& folder) {
-  RunList list;
+KeptRuns ListRuns(HistoryFolder& folder) {
+  KeptRuns list;
   for (const HistoryName& name : folder.List()) {
     try {
       AddPart(*folder.Open(name, FileAccess::kReadOnly), name, list.runs);
@@ -60,8 +61,29 @@ RunList ListRuns(HistoryFolder& folder) {
   for (std::size_t i = 0; i < list.runs.size(); ++i) {
     list.runs[i].number = static_cast<std::int32_t>(i) + 1;
   }
-  MarkUndone(list.runs);
+  FindUndone(list.runs);
   return list;
+}
+
+void MarkUndone(HistoryFolder& folder, const HistoryRun& run) {
+  for (const HistoryName& part : run.parts) {
+    folder.Open(part, FileAccess::kAlone)->Put(folder.gate(), HistoryMark::kUndone);
+  }
+}
+
+void ForgetRun(HistoryFolder& folder, const KeptRuns& list, const HistoryRun& run) {
+  for (const HistoryRun& undone : list.runs) {
+    const bool stays_undone = run.IsUndo() && undone.run == run.title.undoes &&
+                              undone.state == RunState::kUndone && run.state == RunState::kDone;
+    if (stays_undone) MarkUndone(folder, undone);
+  }
+  // The last part first: what is left after an error is a run that begins with its first part.
+  for (auto part = run.parts.rbegin(); part != run.parts.rend(); ++part) folder.Forget(*part);
+}
+
+void ForgetAllRuns(HistoryFolder& folder) {
+  const std::vector<HistoryName> names = folder.List();
+  for (auto name = names.rbegin(); name != names.rend(); ++name) folder.Forget(*name);
 }
 
 }  // namespace golf

@@ -26,13 +26,21 @@ struct HistoryRun {
   bool IsUndo() const { return title.undoes != 0; }
 };
 
-struct RunList {
+struct KeptRuns {
   std::vector<HistoryRun> runs;      // the newest first
   std::vector<std::string> damaged;  // sentences about files that cannot be read
 };
 
 // Reads the titles of the runs that are kept. A run that was put back, or never applied, is left
 // out. Changes nothing. Files that another process writes are left out as well.
-RunList ListRuns(HistoryFolder& folder);
+KeptRuns ListRuns(HistoryFolder& folder);
+
+// Notes that a run is as undone, although no run of the history has put it back.
+void MarkUndone(HistoryFolder& folder, const HistoryRun& run);
+
+// Removes a run from the history, for good. A run that it has put back stays undone.
+void ForgetRun(HistoryFolder& folder, const KeptRuns& list, const HistoryRun& run);
+// Removes everything, damaged files as well. None may be unfinished.
+void ForgetAllRuns(HistoryFolder& folder);
 
 }  // namespace golf

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/resume_next.h"
+#include "history/held_content.h"
 
 namespace golf {
 namespace {
@@ -85,7 +86,7 @@ std::int32_t Transactions::CommitChanges(HeldChanges& changes, std::string_view 
   Apply(*history, changes);
   Drop();
   history.reset();
-  committed_in_click_ = name.run;
+  last_committed_ = committed_in_click_ = name.run;
   Prune();
   return name.run;
 }
@@ -116,36 +117,20 @@ std::unique_ptr<HistoryFile> Transactions::WriteHistory(const HistoryName& name,
 void Transactions::WriteContent(HistoryWriter& writer, const HistoryName& name,
                                 HeldChanges& changes, std::string_view report) {
   writer.Run(title_);
-  WriteGroups(writer, changes);
   std::size_t kept = 0;
-  for (const HeldDeletion& deletion : changes.deletions()) {
-    writer.File({.fate = FileFate::kDeleted,
-                 .path = folder_.folders().Name(deletion.path),
-                 .old_length = deletion.length,
-                 .new_length = 0,
-                 .kept_as = HistoryFolder::KeptName(name, ++kept)});
-  }
-  for (const auto& file : changes.files()) {
-    if (!file->HasNetChange()) continue;
-    writer.File({.fate = file->is_created() ? FileFate::kCreated : FileFate::kChanged,
-                 .path = folder_.folders().Name(file->path()),
-                 .old_length = file->old_length(),
-                 .new_length = file->length(),
-                 .kept_as = {}});
-    file->ForEach([&](HeldPlace place, std::string_view code) {
-      place.group = changes.groups().Root(place.group);
-      writer.Place(place, code);
-    });
-  }
+  ReadHeld(
+      changes, folder_.folders(),
+      {.group = [&](ChangeGroup group, std::string_view title) { writer.Group(group, title); },
+       .file =
+           [&](HistoryFileEntry entry) {
+             if (entry.fate == FileFate::kDeleted) {
+               entry.kept_as = HistoryFolder::KeptName(name, ++kept);
+             }
+             writer.File(entry);
+           },
+       .place = [&](const HeldPlace& place, std::string_view code) { writer.Place(place, code); }});
   writer.Report(report);
   writer.Finish();
-}
-
-void Transactions::WriteGroups(HistoryWriter& writer, HeldChanges& changes) {
-  const ChangeGroups& groups = changes.groups();
-  for (ChangeGroup group = 1; group <= groups.Count(); ++group) {
-    if (groups.Root(group) == group) writer.Group(group, groups.Title(group));
-  }
 }
 
 // Each path must still name the file whose changes are held.

@@ -37,6 +37,7 @@ class Transactions {
   Transactions(HeldPlatform& held, std::function<DateValue()> now);
 
   HistoryFolder& history() { return folder_; }
+  HeldPlatform& held() { return held_; }
 
   // A click that changes files begins. It may have several transactions, which are parts of one run
   // in the history. Requests to end the process are noted until the click ends; one that came after
@@ -61,6 +62,8 @@ class Transactions {
 
   // The running number that the last commits of this click have got; 0 for none.
   std::int32_t committed_in_click() const { return committed_in_click_; }
+  // That of the last commit of all clicks; 0 for none.
+  std::int32_t last_committed() const { return last_committed_; }
 
   // Finishes, or puts back, what was interrupted. Comes before anything that changes files, under
   // the run lock. A choice is for a run that cannot be finished by itself.
@@ -74,7 +77,6 @@ class Transactions {
                                             std::string_view report);
   void WriteContent(HistoryWriter& writer, const HistoryName& name, HeldChanges& changes,
                     std::string_view report);
-  void WriteGroups(HistoryWriter& writer, HeldChanges& changes);
   void CheckPaths(const HeldChanges& changes);
   void Apply(HistoryFile& history, HeldChanges& changes);
   void PutBack(HistoryFile& history, ChangeApplier& applier);
@@ -89,6 +91,7 @@ class Transactions {
   std::function<DateValue()> now_;
   RunTitle title_;
   std::int32_t committed_in_click_ = 0;
+  std::int32_t last_committed_ = 0;
   std::unique_ptr<StopWatch> stops_;
   bool stop_raised_ = false;
   int missed_signal_ = 0;  // that came when the run could not be stopped any more

@@ -3,58 +3,121 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "history/record_changes.h"
+#include "history/record_parts.h"
 
 namespace golf {
 namespace {
 
 constexpr std::size_t kPiece = std::size_t{64} << 10;
 
-std::size_t SizeOf(const HistoryPlace& place) {
-  return std::max(place.old_bytes.size(), place.new_bytes.size());
+std::string Filled(std::string bytes, std::size_t length) {
+  bytes.resize(length);
+  return bytes;
 }
 
-// Whether each changed byte is as the run has left it, or as it was before.
-bool IsAsLeft(const HistoryPlace& place, std::string_view now) {
-  const auto equals = [&](const std::string& side, std::size_t at) {
-    return at < side.size() ? at < now.size() && now[at] == side[at] : at >= now.size();
-  };
-  return std::all_of(place.changed.begin(), place.changed.end(), [&](const ChangedBytes& run) {
-    for (std::size_t at = run.at; at < run.at + run.size; ++at) {
-      if (!equals(place.new_bytes, at) && !equals(place.old_bytes, at)) return false;
+// A record before the run, as the run has left it, and now. Each has its full length; missing bytes
+// are zeros.
+struct Sides {
+  std::string old_bytes;
+  std::string written;
+  std::string found;
+  bool is_added = false;  // nobody lived in the record before the run
+};
+
+// What was changed since the run: of an added record anything, of another one what the run has
+// changed. A field is compared as a whole, so that none is made of two halves.
+std::vector<FieldElement> ChangedSince(const LayoutInfo& layout, const Sides& sides) {
+  std::vector<FieldElement> changed;
+  for (const Field& field : layout.fields) {
+    for (std::size_t nth = 0; nth < field.Count(); ++nth) {
+      const FieldElement element{field, nth};
+      const std::string_view old_bytes = element.In(sides.old_bytes);
+      const std::string_view written = element.In(sides.written);
+      const std::string_view found = element.In(sides.found);
+      if (found == written || found == old_bytes) continue;
+      if (sides.is_added || old_bytes != written) changed.push_back(element);
     }
-    return true;
-  });
+  }
+  return changed;
 }
 
 // Puts one part of a run back.
 class PartUndo {
  public:
   PartUndo(HeldPlatform& held, HistoryFolder& folder, Transactions& transactions,
-           const RecordKinds& kinds, HistoryFile& history, UndoResult& result)
-      : gate_(held),
+           const RecordKinds& kinds, HistoryFile& history, std::set<std::string>& kept_titles,
+           UndoResult& result)
+      : held_(held),
+        gate_(held),
         folder_(folder),
         transactions_(transactions),
         kinds_(kinds),
         history_(history),
+        kept_titles_(kept_titles),
         result_(result) {}
 
   void Run() {
-    FindConflicts();
+    ReadNames();
+    Walk([&](const RecordPart& part) { CheckPart(part); }, [&] { CheckFile(); });
     KeepGroups();
-    PutBackPlaces();
+    KeepDerived();
+    Walk([&](const RecordPart& part) { PutBack(part); }, [&] { BeginFile(); },
+         [&] { FinishFile(); });
     PutBackFiles();
   }
 
  private:
-  // A place by its file and offset; an offset of -1 is the file as a whole.
-  using Place = std::pair<std::string, std::int64_t>;
+  // A record by its file and number; number 0 is the file as a whole.
+  using Unit = std::pair<std::string, std::int64_t>;
+
+  void ReadNames() {
+    history_.Read(
+        {.group = [&](ChangeGroup group, std::string_view title) { titles_.emplace(group, title); },
+         .file =
+             [&](const HistoryFileEntry& entry) {
+               if (entry.fate == FileFate::kCreated) created_.insert(entry.path);
+             }});
+  }
+
+  // Reads the history file by records. `begin` and `finish` are called for each file, with the file
+  // in hand.
+  void Walk(
+      const std::function<void(const RecordPart&)>& each, const std::function<void()>& begin,
+      const std::function<void()>& finish = [] {}) {
+    RecordParts parts(each);
+    bool is_open = false;
+    const auto end = [&] {
+      parts.Finish();
+      if (std::exchange(is_open, false)) finish();
+    };
+    history_.Read({.file =
+                       [&](const HistoryFileEntry& entry) {
+                         end();
+                         Open(entry);
+                         is_open = true;
+                         begin();
+                         parts.Begin(length_);
+                       },
+                   .place =
+                       [&](const HistoryPlace& place) {
+                         parts.Take(place.offset, place.group, place.old_bytes, place.new_bytes);
+                       }});
+    end();
+    file_ = nullptr;
+  }
 
   void Open(const HistoryFileEntry& entry) {
     entry_ = entry;
     path_ = folder_.folders().Path(entry.path);
+    layout_ = kinds_.layout_of(FileNameOf(entry.path));
+    // A text is one record.
+    length_ = layout_ ? layout_->length
+                      : static_cast<std::size_t>(
+                            std::max({entry.old_length, entry.new_length, std::int64_t{1}}));
     file_ = nullptr;
     if (entry.fate == FileFate::kDeleted) return;
     try {
@@ -64,159 +127,200 @@ class PartUndo {
     }
   }
 
-  std::string Now(const HistoryPlace& place) {
-    std::string now(SizeOf(place), '\0');
-    now.resize(file_->ReadAt(place.offset, now));
+  std::int64_t Offset(std::int64_t record) const {
+    return (record - 1) * static_cast<std::int64_t>(length_);
+  }
+
+  std::string Now(std::int64_t offset, std::size_t size) {
+    std::string now(size, '\0');
+    now.resize(file_->ReadAt(offset, now));
     return now;
   }
 
-  bool GrewSince() { return file_ != nullptr && file_->Length() > entry_.new_length; }
+  bool HasGrown() const { return file_ != nullptr && file_->Length() > entry_.new_length; }
+  bool IsDerived() const { return !kinds_.derived_from(entry_.path).empty(); }
 
   // First walk: what cannot be put back.
-  void FindConflicts() {
-    history_.Read(
-        {.group = [&](ChangeGroup group, std::string_view title) { titles_.emplace(group, title); },
-         .file = [&](const HistoryFileEntry& entry) { CheckFile(entry); },
-         .place = [&](const HistoryPlace& place) { CheckPlace(place); }});
-  }
 
-  void CheckFile(const HistoryFileEntry& entry) {
-    Open(entry);
-    const auto conflict = [&](std::string reason) {
-      kept_.insert({entry.path, -1});
-      result_.conflicts.push_back({.file = entry.path, .reason = std::move(reason)});
-    };
-    switch (entry.fate) {
-      case FileFate::kDeleted:
-        if (IsThere(path_)) return conflict("The file that was deleted is there again.");
-        if (!IsKept(entry)) return conflict("The deleted file is no longer in the history.");
-        break;
-      case FileFate::kChanged:
-        if (file_ == nullptr) return conflict("The file is not there any more.");
-        break;
-      case FileFate::kCreated:
-        if (GrewSince()) conflict("The file that the run has made has grown since.");
+  void CheckFile() {
+    if (entry_.fate == FileFate::kDeleted) {
+      if (IsThere(path_) && !created_.contains(entry_.path)) {
+        AddFileConflict("The file that was deleted is there again.");
+      } else if (!IsThere(KeptPath(entry_))) {
+        AddFileConflict("The deleted file is no longer in the history.");
+      }
+    } else if (entry_.fate == FileFate::kChanged && file_ == nullptr) {
+      AddFileConflict("The file is not there any more.");
     }
   }
 
-  void CheckPlace(const HistoryPlace& place) {
-    if (file_ == nullptr || kept_.contains({entry_.path, -1})) return;
-    const std::string now = Now(place);
-    const bool is_added = place.old_bytes.empty();
-    if (!IsAsLeft(place, now)) return AddConflict(place, now, "");
-    if (is_added && entry_.fate == FileFate::kChanged && GrewSince()) {
-      return AddConflict(place, now, "Other records follow it by now.");
-    }
-    const std::string referring = ReferredBy(place, now);
-    if (!referring.empty()) AddConflict(place, now, referring + " refers to it by now.");
+  void AddFileConflict(std::string reason) {
+    kept_.insert({entry_.path, 0});
+    if (IsDerived()) return;
+    result_.conflicts.push_back({.file = entry_.path, .reason = std::move(reason)});
   }
 
-  // Only what the run has added, and what is still as it left it, can be missed by others.
-  std::string ReferredBy(const HistoryPlace& place, const std::string& now) {
-    const auto layout = kinds_.layout_of(FileNameOf(entry_.path));
-    if (!layout || now.size() != layout->length || place.new_bytes.size() != now.size()) return {};
-    if (!place.old_bytes.empty() && !kinds_.title_of(entry_.path, place.old_bytes).empty()) {
-      return {};
-    }
-    if (kinds_.title_of(entry_.path, now).empty()) return {};
-    const auto length = static_cast<std::int64_t>(layout->length);
-    return kinds_.referred_by(entry_.path, place.offset / length + 1, now);
-  }
-
-  void AddConflict(const HistoryPlace& place, const std::string& now, std::string reason) {
-    const std::string_view name = FileNameOf(entry_.path);
-    if (kinds_.is_derived(name)) {
-      kept_.insert({entry_.path, -1});
-      result_.stale_indexes.insert(entry_.path);
+  void CheckPart(const RecordPart& part) {
+    if (kept_.contains({entry_.path, 0})) {
+      if (!IsDerived()) kept_groups_.insert(part.group);
       return;
     }
-    kept_.insert({entry_.path, place.offset});
-    if (entry_.fate == FileFate::kCreated) kept_.insert({entry_.path, -1});
-    if (place.group != 0) kept_groups_.insert(place.group);
+    if (file_ == nullptr) return;  // what was created is gone already
+    const Sides sides = SidesOf(part);
+    if (sides.found == sides.old_bytes) return;  // as before the run already
+    std::vector<FieldElement> elements;
+    std::string reason;
+    if (!layout_) {
+      if (sides.found != sides.written || HasGrown()) {
+        reason = "Another program has changed the file since.";
+      }
+    } else if (sides.found != sides.written) {
+      elements = ChangedSince(*layout_, sides);
+    }
+    if (layout_ && elements.empty()) reason = MissedBy(part, sides);
+    if (!elements.empty() || !reason.empty()) {
+      AddConflict(part, sides, std::move(elements), std::move(reason));
+    }
+  }
+
+  Sides SidesOf(const RecordPart& part) {
+    const std::string now = Now(Offset(part.record), length_);
+    const std::string whole = Filled(now, length_);
+    const std::string before = WholeRecord(part, part.old_bytes, whole);
+    Sides sides{.old_bytes = Filled(before, length_),
+                .written = Filled(WholeRecord(part, part.new_bytes, whole), length_),
+                .found = whole};
+    sides.is_added = layout_ && !IsSomebody(part.record, sides.old_bytes) &&
+                     (before.empty() || IsSomebody(part.record, sides.written));
+    return sides;
+  }
+
+  bool IsSomebody(std::int64_t record, const std::string& bytes) const {
+    return !kinds_.title_of(entry_.path, record, bytes).empty();
+  }
+
+  // Why an added record cannot go: others follow it or refer to it.
+  std::string MissedBy(const RecordPart& part, const Sides& sides) {
+    if (!sides.is_added) return {};
+    if (part.old_bytes.empty() && HasGrown()) return "Other records follow it by now.";
+    if (!IsSomebody(part.record, sides.found)) return {};
+    const std::string referring = kinds_.referred_by(entry_.path, part.record, sides.found);
+    return referring.empty() ? "" : referring + " refers to it by now.";
+  }
+
+  void AddConflict(const RecordPart& part, const Sides& sides, std::vector<FieldElement> elements,
+                   std::string reason) {
+    if (IsDerived()) {
+      kept_.insert({entry_.path, 0});
+      return;
+    }
+    Keep(part);
+    if (part.group != 0) kept_groups_.insert(part.group);
     UndoConflict conflict{.file = entry_.path,
-                          .layout = kinds_.layout_of(name),
                           .reason = std::move(reason),
-                          .old_bytes = place.old_bytes,
-                          .written = place.new_bytes,
-                          .found = now};
-    if (conflict.layout) {
-      conflict.record = place.offset / static_cast<std::int64_t>(conflict.layout->length) + 1;
-      conflict.title = kinds_.title_of(entry_.path, now);
-    }
-    if (conflict.title.empty()) conflict.title = titles_[place.group];
-    result_.conflicts.push_back(std::move(conflict));
-  }
-
-  // Second walk: everything of a group that is in conflict stays.
-  void KeepGroups() {
-    if (kept_groups_.empty()) return;
-    history_.Read({.file = [&](const HistoryFileEntry& entry) { entry_ = entry; },
-                   .place =
-                       [&](const HistoryPlace& place) {
-                         if (!kept_groups_.contains(place.group)) return;
-                         kept_.insert({entry_.path, place.offset});
-                         if (entry_.fate == FileFate::kCreated) kept_.insert({entry_.path, -1});
-                       }});
-  }
-
-  // Third walk: the bytes.
-  void PutBackPlaces() {
-    history_.Read({.file =
-                       [&](const HistoryFileEntry& entry) {
-                         FinishFile();
-                         Open(entry);
-                         kept_end_ = 0;
-                         is_in_hand_ = file_ != nullptr && entry.fate == FileFate::kChanged &&
-                                       !kept_.contains({entry.path, -1});
-                         if (is_in_hand_) FindKeptEnd();
-                       },
-                   .place =
-                       [&](const HistoryPlace& place) {
-                         if (is_in_hand_) PutBack(place);
-                       }});
-    FinishFile();
-  }
-
-  // Behind the old end the file can only be cut where nothing stays.
-  void FindKeptEnd() {
-    const auto behind = kept_.upper_bound({entry_.path, entry_.old_length - 1});
-    for (auto place = behind; place != kept_.end() && place->first == entry_.path; ++place) {
-      kept_end_ = entry_.new_length;
-    }
-  }
-
-  void PutBack(const HistoryPlace& place) {
-    if (kept_.contains({entry_.path, place.offset})) return;
-    const std::string now = Now(place);
-    std::string wanted = now;
-    for (const ChangedBytes& run : place.changed) {
-      for (std::size_t at = run.at; at < run.at + run.size; ++at) {
-        if (at < place.old_bytes.size()) {
-          wanted.resize(std::max(wanted.size(), at + 1));
-          wanted[at] = place.old_bytes[at];
-        } else if (at < wanted.size()) {
-          wanted[at] = '\0';
+                          .elements = std::move(elements),
+                          .written = sides.written,
+                          .found = sides.found};
+    if (layout_) {
+      conflict.record = part.record;
+      for (const std::string* bytes : {&sides.found, &sides.written, &sides.old_bytes}) {
+        if (conflict.title.empty()) {
+          conflict.title = kinds_.title_of(entry_.path, part.record, *bytes);
         }
       }
     }
-    ++result_.undone;
-    // What the cut will take away needs no zeros.
-    if (kept_end_ == 0) wanted.resize(std::min(wanted.size(), OldSize(place)));
-    if (wanted.empty() || wanted == now) return;
-    transactions_.BeginGroup(titles_[place.group]);
-    gate_.Write(*file_, place.offset, wanted);
+    if (conflict.title.empty()) conflict.title = titles_[part.group];
+    result_.conflicts.push_back(std::move(conflict));
   }
 
-  std::size_t OldSize(const HistoryPlace& place) const {
-    return static_cast<std::size_t>(std::clamp<std::int64_t>(
-        entry_.old_length - place.offset, 0, static_cast<std::int64_t>(SizeOf(place))));
+  void Keep(const RecordPart& part) { kept_.insert({entry_.path, layout_ ? part.record : 0}); }
+
+  // Second walk: everything of a group that is in conflict stays, in all parts of the run.
+  void KeepGroups() {
+    kept_groups_.erase(0);
+    for (const ChangeGroup group : kept_groups_) kept_titles_.insert(titles_[group]);
+    for (const auto& [group, title] : titles_) {
+      if (kept_titles_.contains(title)) kept_groups_.insert(group);
+    }
+    if (kept_groups_.empty()) return;
+    Walk(
+        [&](const RecordPart& part) {
+          if (kept_groups_.contains(part.group)) Keep(part);
+        },
+        [] {});
   }
+
+  // A file that is worked out from one that stays in part is worked out anew, with all others that
+  // are worked out from it.
+  void KeepDerived() {
+    std::vector<HistoryFileEntry> derived;
+    std::set<std::string> kept_files;
+    for (const auto& [file, record] : kept_) kept_files.insert(file);
+    history_.Read({.file = [&](const HistoryFileEntry& entry) {
+      const std::string source = kinds_.derived_from(entry.path);
+      if (source.empty()) return;
+      derived.push_back(entry);
+      if (kept_files.contains(source) || kept_files.contains(entry.path)) {
+        result_.stale.insert(source);
+      }
+    }});
+    for (const HistoryFileEntry& entry : derived) {
+      if (result_.stale.contains(kinds_.derived_from(entry.path))) kept_.insert({entry.path, 0});
+    }
+  }
+
+  // Third walk: the bytes.
+
+  void BeginFile() {
+    // Behind the old end the file can only be cut where nothing stays.
+    const std::int64_t first_behind =
+        entry_.old_length / static_cast<std::int64_t>(length_) + (layout_ ? 1 : 0);
+    const auto behind = kept_.lower_bound({entry_.path, std::max<std::int64_t>(first_behind, 1)});
+    keeps_behind_ = HasGrown() || (behind != kept_.end() && behind->first == entry_.path);
+    const auto any = kept_.lower_bound({entry_.path, 0});
+    keeps_any_ = any != kept_.end() && any->first == entry_.path;
+    const bool is_deleted_whole = entry_.fate == FileFate::kCreated && !keeps_any_;
+    is_in_hand_ = file_ != nullptr && !kept_.contains({entry_.path, 0}) && !is_deleted_whole;
+  }
+
+  void PutBack(const RecordPart& part) {
+    if (!is_in_hand_ || kept_.contains({entry_.path, layout_ ? part.record : 0})) return;
+    result_.put_back.insert(entry_.path);
+    const std::int64_t offset = Offset(part.record) + static_cast<std::int64_t>(part.at);
+    const std::string now = Now(offset, part.size);
+    std::string wanted = now;
+    for (std::size_t at = 0; at < part.size; ++at) {
+      const bool was_there = at < part.old_bytes.size();
+      const bool was_written = at < part.new_bytes.size();
+      if (was_there && was_written && part.old_bytes[at] == part.new_bytes[at]) continue;
+      if (was_there) wanted.resize(std::max(wanted.size(), at + 1));
+      if (at < wanted.size()) wanted[at] = was_there ? part.old_bytes[at] : '\0';
+    }
+    // What the cut will take away needs no zeros.
+    if (!keeps_behind_) {
+      wanted.resize(std::min(wanted.size(), static_cast<std::size_t>(std::max<std::int64_t>(
+                                                entry_.old_length - offset, 0))));
+    }
+    if (wanted.empty() || wanted == now.substr(0, wanted.size())) return;
+    BeginGroup(part.group);
+    gate_.Write(*file_, offset, wanted);
+    NoteGroup(part.group);
+  }
+
+  // The groups of the run become those of its undo.
+  void BeginGroup(ChangeGroup group) {
+    if (const auto held = groups_.find(group); group != 0 && held != groups_.end()) {
+      held_.held()->groups().Resume(held->second);
+    } else {
+      transactions_.BeginGroup(titles_[group]);
+    }
+  }
+  void NoteGroup(ChangeGroup group) { groups_.emplace(group, held_.held()->groups().Current()); }
 
   void FinishFile() {
-    if (!is_in_hand_) return;
-    is_in_hand_ = false;
-    const bool grew = entry_.new_length > entry_.old_length;
-    if (grew && kept_end_ == 0 && file_->Length() > entry_.old_length) {
+    if (!std::exchange(is_in_hand_, false) || keeps_behind_) return;
+    if (entry_.new_length > entry_.old_length && file_->Length() > entry_.old_length) {
+      result_.put_back.insert(entry_.path);
       transactions_.BeginGroup("");
       gate_.Truncate(*file_, entry_.old_length);
     }
@@ -225,23 +329,25 @@ class PartUndo {
   // Last, files that were created go and those that were deleted come back.
   void PutBackFiles() {
     std::vector<HistoryFileEntry> deleted;
-    transactions_.BeginGroup("");
+    std::vector<HistoryFileEntry> created;
     history_.Read({.file = [&](const HistoryFileEntry& entry) {
-      if (kept_.contains({entry.path, -1})) return;
+      const auto kept = kept_.lower_bound({entry.path, 0});
+      if (kept != kept_.end() && kept->first == entry.path) return;
       if (entry.fate == FileFate::kDeleted) deleted.push_back(entry);
-      if (entry.fate != FileFate::kCreated) return;
-      if (const std::string path = folder_.folders().Path(entry.path); IsThere(path)) {
-        file_ = nullptr;
-        gate_.Delete(path);
-        ++result_.undone;
-      }
+      if (entry.fate == FileFate::kCreated) created.push_back(entry);
     }});
+    transactions_.BeginGroup("");
+    for (const HistoryFileEntry& entry : created) {
+      result_.put_back.insert(entry.path);
+      const std::string path = folder_.folders().Path(entry.path);
+      if (IsThere(path)) gate_.Delete(path);
+    }
     for (const HistoryFileEntry& entry : deleted) BringBack(entry);
   }
 
   void BringBack(const HistoryFileEntry& entry) {
-    const auto kept = folder_.gate().platform().Open(folder_.folders().history + entry.kept_as,
-                                                     FileAccess::kReadOnly);
+    result_.put_back.insert(entry.path);
+    const auto kept = folder_.gate().platform().Open(KeptPath(entry), FileAccess::kReadOnly);
     const std::string path = folder_.folders().Path(entry.path);
     gate_.Create(path);
     const auto file = gate_.platform().Open(path, FileAccess::kReadWriteShared);
@@ -251,7 +357,10 @@ class PartUndo {
       if (size > 0) gate_.Write(*file, at, std::string_view(piece).substr(0, size));
       if (size < kPiece) break;
     }
-    ++result_.undone;
+  }
+
+  std::string KeptPath(const HistoryFileEntry& entry) const {
+    return folder_.folders().history + entry.kept_as;
   }
 
   bool IsThere(const std::string& path) {
@@ -264,36 +373,53 @@ class PartUndo {
     }
   }
 
-  bool IsKept(const HistoryFileEntry& entry) {
-    return IsThere(folder_.folders().history + entry.kept_as);
-  }
-
+  HeldPlatform& held_;
   HistoryGate gate_;
   HistoryFolder& folder_;
   Transactions& transactions_;
   const RecordKinds& kinds_;
   HistoryFile& history_;
+  std::set<std::string>& kept_titles_;  // of groups of all parts that stay
   UndoResult& result_;
   std::map<ChangeGroup, std::string> titles_;
-  std::set<Place> kept_;
+  std::set<std::string> created_;
+  std::set<Unit> kept_;
   std::set<ChangeGroup> kept_groups_;
-  HistoryFileEntry entry_;  // in hand
+  std::map<ChangeGroup, ChangeGroup> groups_;  // of the run, and of its undo
+  // The file in hand.
+  HistoryFileEntry entry_;
   std::string path_;
+  std::optional<LayoutInfo> layout_;
+  std::size_t length_ = 1;  // bytes of a record
   std::unique_ptr<PlatformFile> file_;
   bool is_in_hand_ = false;
-  std::int64_t kept_end_ = 0;
+  bool keeps_any_ = false;
+  bool keeps_behind_ = false;  // something stays behind the old end
 };
+
+RunTitle TitleOfUndo(const HistoryRun& run) {
+  const std::string& about = run.title.about;
+  return {.command = "undo",
+          .about = run.title.command + (about.empty() ? "" : " " + about),
+          .undoes = run.run};
+}
 
 }  // namespace
 
 UndoResult HoldUndo(HeldPlatform& held, HistoryFolder& folder, Transactions& transactions,
                     const RecordKinds& kinds, const HistoryRun& run) {
-  UndoResult result;
-  for (auto part = run.parts.rbegin(); part != run.parts.rend(); ++part) {
-    const auto history = folder.Open(*part, FileAccess::kReadOnly);
-    PartUndo(held, folder, transactions, kinds, *history, result).Run();
+  std::set<std::string> kept_titles;
+  while (true) {
+    transactions.Begin(TitleOfUndo(run));
+    UndoResult result;
+    const std::size_t kept_before = kept_titles.size();
+    for (auto part = run.parts.rbegin(); part != run.parts.rend(); ++part) {
+      const auto history = folder.Open(*part, FileAccess::kReadOnly);
+      PartUndo(held, folder, transactions, kinds, *history, kept_titles, result).Run();
+    }
+    // A group that stays for the sake of an earlier part stays in the later ones, too.
+    if (run.parts.size() == 1 || kept_titles.size() == kept_before) return result;
   }
-  return result;
 }
 
 }  // namespace golf

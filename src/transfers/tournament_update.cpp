@@ -29,7 +29,7 @@ void Run(SharedState& state, RunHost& host, const TournamentUpdateRequest& reque
         host, report, [&] { player.GetRecord(entry, true); },
         [&] { return "Entry " + std::to_string(entry) + " of the tournament"; });
     if (!read || player.TourRosterRecordPointer() <= 0) continue;
-    host.Group(player.NameLF());
+    host.Group(player.NameFL());
     UpdateEntry(player, entry);
   }
   report.end = RunEnd::kDone;

@@ -1,37 +1,9 @@
 // The command-line program as a process: its output, its problems, and its exit codes.
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <map>
-#include <nlohmann/json.hpp>
-#include <sstream>
-
-#include "support/processes.h"
+#include "cli/command_line_fixture.h"
 
 namespace golf {
 namespace {
-
-class CommandLineTest : public testing::Test {
- protected:
-  Ended Run(const std::string& words, const std::string& input = "") {
-    return RunProgram(folder, GOLF_CLI, words, input);
-  }
-  Ended Script(const std::string& lines) { return Run("--install i script -", lines); }
-
-  void SetUp() override { ASSERT_EQ(Run("demo i").code, 0); }
-
-  TempFolder folder;
-};
-
-std::vector<nlohmann::json> JsonLines(const std::string& text) {
-  std::vector<nlohmann::json> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) lines.push_back(nlohmann::json::parse(line));
-  return lines;
-}
 
 TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
   folder.MakeFolder("empty");
@@ -121,22 +93,11 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
             std::string::npos);
 }
 
-// Returns every file of the install by its path.
-std::map<std::string, std::string> AllFiles(const TempFolder& folder) {
-  std::map<std::string, std::string> files;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path("i"))) {
-    if (!entry.is_regular_file()) continue;
-    std::ifstream file(entry.path(), std::ios::binary);
-    files[entry.path().string()].assign(std::istreambuf_iterator<char>(file), {});
-  }
-  return files;
-}
-
 TEST_F(CommandLineTest, ReadingChangesNothing) {
   for (const char* made_by_looking : {"i/zddata/9CRSZD.INX", "i/qbdata/X0001.Q9T"}) {
     std::filesystem::remove(folder.Path(made_by_looking));
   }
-  const auto before = AllFiles(folder);
+  const auto before = AllFiles();
   for (const std::string words :
        {"list rosters", "list courses", "list courses --library qb", "list courses --library zd",
         "list qb-rosters", "list tournaments", "list leagues", "list events --league 00011",
@@ -146,7 +107,7 @@ TEST_F(CommandLineTest, ReadingChangesNothing) {
         "dump qbdata/QBGOLFER.Q9D --csv"}) {
     for (const char* form : {"", " --json"}) {
       EXPECT_EQ(Run("--install i " + words + form).code, 0) << words;
-      EXPECT_TRUE(AllFiles(folder) == before) << words;
+      EXPECT_TRUE(AllFiles() == before) << words;
     }
   }
 }

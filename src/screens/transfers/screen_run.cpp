@@ -1,5 +1,7 @@
 #include "screens/transfers/screen_run.h"
 
+#include <algorithm>
+
 #include "core/resume_next.h"
 #include "screens/tip_box.h"
 
@@ -16,6 +18,13 @@ class InputHeldOff {
  private:
   ScreenHost& host_;
 };
+
+// A list's entry has many blanks before the number at its end.
+std::string WithSingleBlanks(std::string text) {
+  const auto both_blank = [](char a, char b) { return a == ' ' && b == ' '; };
+  text.erase(std::unique(text.begin(), text.end(), both_blank), text.end());
+  return text;
+}
 
 }  // namespace
 
@@ -47,6 +56,7 @@ ScreenRun::ScreenRun(SharedState& state, ScreenHost& host, RunLook look, RunTitl
     : transactions_(*state.transactions), host_(host), look_(std::move(look)) {
   if (look_.button != nullptr) button_before_ = look_.button->visible();
   if (look_.message != nullptr) message_before_ = look_.message->text();
+  title.about = WithSingleBlanks(std::move(title.about));
   transactions_.Begin(std::move(title));
 }
 

@@ -1,0 +1,44 @@
+#include "app/undo_run.h"
+
+#include <algorithm>
+
+#include "stores/course/course_class.h"
+#include "stores/course/course_library.h"
+
+namespace golf {
+namespace {
+
+// The indexes follow a library by themselves where the run has changed them with it.
+bool MustRebuild(const RecordKinds& kinds, const UndoResult& result, const std::string& library) {
+  if (result.stale.contains(library)) return true;
+  return result.put_back.contains(library) &&
+         std::none_of(result.put_back.begin(), result.put_back.end(),
+                      [&](const std::string& file) { return kinds.derived_from(file) == library; });
+}
+
+void RebuildIndexes(SharedState& state, const CourseLibrary& library) {
+  CourseClass course(state);
+  OpenCourseLibrary(state, course, library);
+  course.RebuildCourseIndexes(course.ActiveCoursesByName());
+  course.CloseCourseFile();
+}
+
+}  // namespace
+
+UndoResult HoldUndoOfRun(SharedState& state, const RecordKinds& kinds, const HistoryRun& run) {
+  Transactions& transactions = *state.transactions;
+  HistoryFolder& folder = transactions.history();
+  UndoResult result = HoldUndo(transactions.held(), folder, transactions, kinds, run);
+  const std::string before = state.CourseDataPath;
+  transactions.BeginGroup("");
+  for (const CourseLibrary& library : kCourseLibraries) {
+    const std::string path = CourseFilePath(state, library);
+    if (MustRebuild(kinds, result, folder.folders().Name(path)) && state.files.FileExists(path)) {
+      RebuildIndexes(state, library);
+    }
+  }
+  state.CourseDataPath = before;
+  return result;
+}
+
+}  // namespace golf

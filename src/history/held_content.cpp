@@ -1,0 +1,31 @@
+#include "history/held_content.h"
+
+namespace golf {
+
+void ReadHeld(HeldChanges& changes, const HistoryFolders& folders, const HeldReader& reader) {
+  const ChangeGroups& groups = changes.groups();
+  for (ChangeGroup group = 1; group <= groups.Count(); ++group) {
+    if (groups.Root(group) == group) reader.group(group, groups.Title(group));
+  }
+  for (const HeldDeletion& deletion : changes.deletions()) {
+    reader.file({.fate = FileFate::kDeleted,
+                 .path = folders.Name(deletion.path),
+                 .old_length = deletion.length,
+                 .new_length = 0,
+                 .kept_as = {}});
+  }
+  for (const auto& file : changes.files()) {
+    if (!file->HasNetChange()) continue;
+    reader.file({.fate = file->is_created() ? FileFate::kCreated : FileFate::kChanged,
+                 .path = folders.Name(file->path()),
+                 .old_length = file->old_length(),
+                 .new_length = file->length(),
+                 .kept_as = {}});
+    file->ForEach([&](HeldPlace place, std::string_view code) {
+      place.group = groups.Root(place.group);
+      reader.place(place, code);
+    });
+  }
+}
+
+}  // namespace golf

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "support/processes.h"
+
+namespace golf {
+
+// The command-line program on the demonstration, which is the folder "i".
+class CommandLineTest : public testing::Test {
+ protected:
+  // Files by their paths below the install, with "/".
+  using Tree = std::map<std::string, std::string>;
+
+  Ended Run(const std::string& words, const std::string& input = "") {
+    return RunProgram(folder, GOLF_CLI, words, input);
+  }
+  Ended Script(const std::string& lines) { return Run("--install i script -", lines); }
+
+  void SetUp() override { ASSERT_EQ(Run("demo i").code, 0); }
+
+  Tree AllFiles() const {
+    namespace fs = std::filesystem;
+    Tree files;
+    const fs::path install = folder.Path("i");
+    for (const auto& entry : fs::recursive_directory_iterator(install)) {
+      if (!entry.is_regular_file()) continue;
+      std::ifstream file(entry.path(), std::ios::binary);
+      files[entry.path().lexically_relative(install).generic_string()].assign(
+          std::istreambuf_iterator<char>(file), {});
+    }
+    return files;
+  }
+
+  TempFolder folder;
+};
+
+inline std::vector<nlohmann::json> JsonLines(const std::string& text) {
+  std::vector<nlohmann::json> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(nlohmann::json::parse(line));
+  return lines;
+}
+
+}  // namespace golf

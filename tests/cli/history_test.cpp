@@ -1,0 +1,459 @@
+// The history of runs, undo and recovery, on the demonstration and with the real program.
+
+#include <algorithm>
+#include <set>
+
+#include "cli/command_line_fixture.h"
+#include "core/text.h"
+#include "support/bytes.h"
+
+namespace golf {
+namespace {
+
+using nlohmann::json;
+
+constexpr const char* kGolfersKvToQb =
+    "golfers-kv-to-qb --roster CLUB18 --to 1 --items Flight --update-tournament";
+constexpr const char* kOneTransaction = "golfers-kv-to-qb --roster CLUB18 --to 1";
+constexpr const char* kTransfers[] = {
+    "courses-kv-to-qb",
+    kGolfersKvToQb,
+    "golfers-kv-to-zd --roster CLUB18 --league 00021 --percent 80 --even-if-scored",
+    "golfers-zd-to-qb --league 00011 --to 1 --double --subs",
+    "scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18",
+    "scores-zd-to-kv --league 00021 --batch 2 --roster CLUB18 --again no"};
+
+// The size of a record, by how the name of a file ends.
+std::size_t LengthOf(const std::string& file) {
+  constexpr std::pair<const char*, std::size_t> kLengths[] = {
+      {".KVG", 2804}, {".KVS", 14700}, {".KV5", 781},  {"QBGOLFER.Q9D", 1867},
+      {".Q9G", 3052}, {".ZP8", 8012},  {".ZS8", 8012}, {"CRS.DAT", 3226}};
+  for (const auto& [ending, length] : kLengths) {
+    if (UpperCase(file).ends_with(ending)) return length;
+  }
+  return 1;
+}
+
+class HistoryTest : public CommandLineTest {
+ protected:
+  Ended In(const std::string& words) {
+    return Run("--install i --now \"2026-05-13 12:00:00\" " + words);
+  }
+  void Transfer(const std::string& words) { ASSERT_EQ(In(words).code, 0) << words; }
+
+  // The install's files without the history.
+  Tree Data() const {
+    Tree files = AllFiles();
+    std::erase_if(files, [](const auto& file) { return file.first.starts_with("transfer-"); });
+    return files;
+  }
+  // "3 done, 2 undone": the kept runs by their running numbers.
+  std::string States() {
+    std::string states;
+    for (const json& run : JsonLines(In("history --json").out)) {
+      states +=
+          (states.empty() ? "" : ", ") + run["file"].dump() + " " + run["state"].get<std::string>();
+    }
+    return states;
+  }
+  void Write(const std::string& file, const std::string& bytes) {
+    folder.Write("i/" + file, bytes);
+  }
+
+  // Takes the mark "done" out of a history file, as if a crash had come before it.
+  void Interrupt(int run) {
+    for (const auto& [name, bytes] : AllFiles()) {
+      if (!name.starts_with("transfer-history/00000" + std::to_string(run))) continue;
+      std::string cut = bytes;
+      cut.replace(4 * 512, 512, 512, '\0');
+      Write(name, cut);
+    }
+  }
+};
+
+std::set<std::string> FilesThatDiffer(const std::map<std::string, std::string>& before,
+                                      const std::map<std::string, std::string>& after) {
+  std::set<std::string> files;
+  for (const auto& [name, bytes] : after) {
+    const auto old = before.find(name);
+    if (old == before.end() || old->second != bytes) files.insert(name);
+  }
+  return files;
+}
+
+TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
+  folder.Remove("i/qbdata/18CRSQB.INX");  // the first transfer makes it
+  for (const std::string transfer : kTransfers) {
+    SCOPED_TRACE(transfer);
+    const Tree before = Data();
+    const auto events = JsonLines(In(transfer + " --json").out);
+    EXPECT_EQ(events.back()["dryRun"], false);
+    const int run = events.back()["history"];
+    const Tree after = Data();
+    ASSERT_NE(FilesThatDiffer(before, after), std::set<std::string>());
+
+    const Tree all = AllFiles();
+    const auto shown = JsonLines(In("history show 1 --json").out);
+    EXPECT_EQ(In("undo --dry-run").code, 0);
+    EXPECT_EQ(In("history").code, 0);
+    EXPECT_TRUE(AllFiles() == all);
+    std::set<std::string> told;
+    for (const json& change : shown) {
+      if (change["event"] == "change") told.insert(change["file"]);
+    }
+    EXPECT_EQ(told, FilesThatDiffer(before, after));
+
+    const auto undone = JsonLines(In("undo --json").out);
+    EXPECT_EQ(undone.back()["run"], run);
+    EXPECT_EQ(undone.back()["history"], run + 1);
+    EXPECT_TRUE(Data() == before);
+    ASSERT_EQ(In("undo 1").code, 0);
+    EXPECT_TRUE(Data() == after);
+    const std::string first = std::to_string(run);
+    EXPECT_TRUE(States().starts_with(std::to_string(run + 2) + " done, " + std::to_string(run + 1) +
+                                     " undone, " + first + " done"))
+        << States();
+    // Without a number an undo takes the transfer and not the undo of its undo.
+    ASSERT_EQ(In("undo").code, 0);
+    EXPECT_TRUE(Data() == before);
+    EXPECT_EQ(In("undo 4").code, 1);  // undone already
+    EXPECT_EQ(In("undo 3").code, 1);
+    ASSERT_EQ(In("history forget all").code, 0);
+    EXPECT_EQ(States(), "");
+  }
+  EXPECT_EQ(In("undo").code, 1);
+}
+
+TEST_F(HistoryTest, ARunThatChangesNothingIsNotKept) {
+  Transfer(kTransfers[0]);
+  const auto events = JsonLines(In(std::string(kTransfers[0]) + " --json").out);
+  EXPECT_EQ(events.back()["history"], nullptr);
+  EXPECT_EQ(States(), "1 done");
+}
+
+TEST_F(HistoryTest, ChangesHaveTheFormOfADump) {
+  Transfer(kGolfersKvToQb);
+  const auto events = JsonLines(In("history show 1 --json").out);
+  EXPECT_EQ(events[0]["event"], "report");
+  EXPECT_EQ(events[1], json::parse(R"j({"event":"change","file":"qbdata/QBGOLFER.Q9D","record":10,
+      "kind":"changed","title":"Bergstrom, Anna","fields":[
+      {"name":"AddressHomeLine(1)","old":"","new":"12 Fairway Road"},
+      {"name":"AddressHomeLine(2)","old":"","new":"Larkfield, OH"},
+      {"name":"PhoneHome","old":"","new":"555-0101"}]})j"));
+  const auto added = std::find_if(events.begin(), events.end(), [](const json& event) {
+    return event.value("kind", "") == "added";
+  });
+  ASSERT_NE(added, events.end());
+  EXPECT_EQ((*added)["record"], 22);
+  EXPECT_EQ((*added)["fields"][0], json::parse(R"({"name":"IDNum","old":null,"new":111})"));
+  const std::string text = In("history show 1").out;
+  EXPECT_NE(text.find("10 golfers updated."), std::string::npos);
+  EXPECT_NE(text.find("qbdata/X0001.Q9G, record 3: Duarte, Ines (Autumn Medal) (changed)\n"
+                      "  TourIndex(3) to (7)          0 0 0 0 0 -> 22.5 22.5 22.5 22.5 22.5\n"),
+            std::string::npos)
+      << text;
+}
+
+// Another program changes a byte of what a run has written, in each kind of file.
+TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
+  const struct {
+    int transfer;
+    const char* file;
+    std::size_t behind;  // the first byte that the run has changed
+    const char* field;
+    const char* golfer;  // or course
+  } kCases[] = {
+      {0, "qbdata/qbcrs.dat", 0, "", ""},
+      {1, "qbdata/QBGOLFER.Q9D", 0, "AddressHomeLine(1)", "Bergstrom, Anna"},
+      // The run has not changed this byte, but other bytes of the field.
+      {1, "qbdata/QBGOLFER.Q9D", 29, "AddressHomeLine(1)", "Bergstrom, Anna"},
+      {1, "qbdata/X0001.Q9G", 0, "TourIndex(3)", "Bergstrom, Anna"},
+      {2, "zddata/00021.ZP8", 0, "", ""},
+      {3, "qbdata/QBGOLFER.Q9D", 0, "", ""},
+      {4, "qbdata/X0001.Q9G", 0, "TourFlags(1)", "Bergstrom, Anna"},
+      {4, "kvdata/CLUB18.kvg", 0, "", "Bergstrom, Anna"},
+      {5, "kvdata/CLUB18.kvs", 0, "", ""},
+  };
+  for (const auto& c : kCases) {
+    SCOPED_TRACE(std::string(kTransfers[c.transfer]) + " " + c.file);
+    std::filesystem::remove_all(folder.Path("i"));
+    ASSERT_EQ(Run("demo i").code, 0);
+    const Tree before = Data();
+    Transfer(kTransfers[c.transfer]);
+    Tree after = Data();
+    const auto file = std::find_if(after.begin(), after.end(), [&](const auto& known) {
+      return EqualIgnoringCase(known.first, c.file);
+    });
+    ASSERT_NE(file, after.end());
+    std::string& bytes = file->second;
+    const std::string& old_bytes = before.at(file->first);
+    const std::size_t at =
+        static_cast<std::size_t>(
+            std::mismatch(old_bytes.begin(), old_bytes.end(), bytes.begin()).first -
+            old_bytes.begin()) +
+        c.behind;
+    ASSERT_LT(at, bytes.size());
+    const auto changes = JsonLines(In("history show 1 --json").out);
+    bytes[at] = static_cast<char>(bytes[at] + 0x21);
+    Write(file->first, bytes);
+
+    const Ended refused = In("undo --json");
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_NE(refused.problems.find("--skip-changed"), std::string::npos);
+    EXPECT_TRUE(Data() == after);
+    const auto conflicts = JsonLines(refused.out);
+    ASSERT_FALSE(conflicts.empty());
+    const json& conflict = conflicts[0];
+    EXPECT_EQ(conflict["event"], "conflict");
+    EXPECT_TRUE(EqualIgnoringCase(conflict["file"].get<std::string>(), c.file)) << conflict;
+    EXPECT_EQ(conflict["record"], at / LengthOf(file->first) + 1);
+    EXPECT_NE(conflict["written"], conflict["found"]);
+    const std::string field = conflict["name"];
+    EXPECT_TRUE(field.starts_with(c.field)) << field;
+    const std::string title = conflict["title"];
+    EXPECT_TRUE(title.starts_with(c.golfer)) << title;
+    ASSERT_NE(title, "");
+
+    // What belongs to the golfer stays; everything else is as before.
+    ASSERT_EQ(In("undo --skip-changed").code, 0);
+    const Tree undone = Data();
+    const std::string name = title.substr(0, title.find(" ("));
+    int kept = 0;
+    for (const json& change : changes) {
+      if (!change.contains("record") || change["file"].get<std::string>().ends_with(".INX")) {
+        continue;
+      }
+      const std::string in = change["file"];
+      const auto record = change["record"].get<std::size_t>();
+      const bool stays = change["title"].get<std::string>().starts_with(name);
+      const Tree& expected = stays ? after : before;
+      EXPECT_EQ(RecordAt(undone.at(in), record, LengthOf(in)),
+                RecordAt(expected.at(in), record, LengthOf(in)))
+          << change["title"];
+      if (stays) ++kept;
+    }
+    EXPECT_GE(kept, 1);
+  }
+}
+
+TEST_F(HistoryTest, IndexesFollowACourseThatStays) {
+  Transfer(kTransfers[0]);
+  std::string library = folder.Read("i/qbdata/qbcrs.dat");
+  const std::size_t last = library.size() / 3226 * 3226 - 3226;
+  library[last + 34] = '!';  // the address
+  Write("qbdata/qbcrs.dat", library);
+  ASSERT_EQ(In("undo --skip-changed").code, 0);
+  const auto listed = JsonLines(In("list courses --library qb --json").out);
+  const auto kept = std::find_if(listed.begin(), listed.end(), [&](const json& course) {
+    return course["number"] == last / 3226 + 1;
+  });
+  EXPECT_NE(kept, listed.end());
+}
+
+TEST_F(HistoryTest, AnAddedGolferWhoPlaysByNowStays) {
+  const Tree before = Data();
+  Transfer(kGolfersKvToQb);
+  std::string entries = folder.Read("i/qbdata/X0001.Q9G");
+  std::string entry = RecordAt(entries, 1, 3052);
+  Put16(entry, 0, {22});
+  PutRecord(entries, entries.size() / 3052 + 1, entry);
+  Write("qbdata/X0001.Q9G", entries);
+  const Ended refused = In("undo");
+  EXPECT_EQ(refused.code, 1);
+  EXPECT_TRUE(
+      refused.problems.starts_with("qbdata/QBGOLFER.Q9D, record 22: Lindqvist, Nora\n"
+                                   "  Tournament \"Autumn Medal\" refers to it by now.\n"))
+      << refused.problems;
+  const std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
+  ASSERT_EQ(In("undo --skip-changed").code, 0);
+  std::string expected = before.at("qbdata/QBGOLFER.Q9D");
+  PutRecord(expected, 22, RecordAt(golfers, 22, 1867));
+  PutRecord(expected, 23, std::string(1867, '\0'));  // not cut: nothing else shows where it ends
+  EXPECT_TRUE(folder.Read("i/qbdata/QBGOLFER.Q9D") == expected);
+}
+
+TEST_F(HistoryTest, OthersWhoFollowAnAddedGolferKeepHim) {
+  Transfer(kGolfersKvToQb);
+  std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
+  PutRecord(golfers, 24, RecordAt(golfers, 10, 1867));
+  Write("qbdata/QBGOLFER.Q9D", golfers);
+  const auto events = JsonLines(In("undo --json").out);
+  ASSERT_EQ(events.size(), 2u);
+  EXPECT_EQ(events[1], json::parse(R"({"event":"conflict","file":"qbdata/QBGOLFER.Q9D","record":23,
+      "title":"Marlow, Ben","reason":"Other records follow it by now."})"));
+}
+
+TEST_F(HistoryTest, WhatIsAsBeforeAlreadyCountsAsUndone) {
+  const Tree before = Data();
+  Transfer(kTransfers[4]);
+  for (const auto& [name, bytes] : before) Write(name, bytes);
+  EXPECT_EQ(In("undo").code, 0);
+  EXPECT_TRUE(Data() == before);
+  EXPECT_EQ(States(), "1 undone");
+  EXPECT_EQ(In("undo").code, 1);
+}
+
+TEST_F(HistoryTest, ForgettingAnUndoLeavesItsRunUndone) {
+  Transfer(kTransfers[4]);
+  ASSERT_EQ(In("undo").code, 0);
+  ASSERT_EQ(In("history forget 1").code, 0);
+  EXPECT_EQ(States(), "1 undone");
+  EXPECT_EQ(In("history forget 2").code, 1);
+  EXPECT_EQ(In("history forget one").code, 2);
+}
+
+TEST_F(HistoryTest, AnInterruptedRunIsInTheWayUntilItIsDecidedAbout) {
+  constexpr const char* kReading[] = {"list courses", "history", "course check",
+                                      "results players --tournament 1",
+                                      "dump qbdata/QBGOLFER.Q9D --record 10"};
+  const Tree before = Data();
+  Transfer(kOneTransaction);
+  const Tree after = Data();
+  const std::string golfers = "qbdata/QBGOLFER.Q9D";
+  std::string changed = after.at(golfers);
+  changed[9 * 1867 + 44] = '?';
+  Write(golfers, changed);
+  // The undone golfers, but for the byte that another program has changed.
+  std::string put_back = before.at(golfers);
+  put_back.replace(9 * 1867, 1867, changed.substr(9 * 1867, 1867));
+  const struct {
+    const char* choice;
+    const char* state;
+    const std::string& golfers;
+  } kChoices[] = {{"--leave", "1 left", changed},
+                  {"--finish", "1 done", changed},
+                  {"--put-back", "", put_back}};
+  for (const auto& c : kChoices) {
+    SCOPED_TRACE(c.choice);
+    Write(golfers, changed);
+    for (const auto& [name, bytes] : after) {
+      if (name != golfers) Write(name, bytes);
+    }
+    Interrupt(1);
+    for (const auto& [name, bytes] : AllFiles()) {
+      if (!name.starts_with("transfer-history/000001")) continue;
+      std::string reset = bytes;
+      reset.replace(2 * 512, 3 * 512, 3 * 512, '\0');
+      reset.replace(5 * 512, 512, 512, '\0');
+      Write(name, reset);
+    }
+    const Tree all = AllFiles();
+    for (const std::string words : kReading) {
+      const Ended ended = In(words);
+      EXPECT_EQ(ended.code, 0) << words;
+      EXPECT_TRUE(ended.problems.starts_with("A run is unfinished.")) << words << ended.problems;
+    }
+    EXPECT_EQ(States(), "1 interrupted");
+    for (const std::string words :
+         {"courses-kv-to-qb", "courses-kv-to-qb --json", "undo", "undo --json", "undo --dry-run",
+          "history forget 1", "history forget all"}) {
+      const Ended ended = In(words);
+      EXPECT_EQ(ended.code, 1) << words;
+      EXPECT_NE(ended.problems.find("recover"), std::string::npos) << words << ended.problems;
+    }
+    EXPECT_TRUE(AllFiles() == all);
+    const Ended recovered = In(std::string("recover ") + c.choice);
+    EXPECT_EQ(recovered.code, 0) << recovered.problems;
+    EXPECT_EQ(States(), c.state);
+    EXPECT_TRUE(Data().at(golfers) == c.golfers);
+    EXPECT_EQ(In("list courses").problems, "");
+    EXPECT_EQ(In("recover --finish").out, "No run is unfinished.\n");
+  }
+  EXPECT_EQ(In("recover").code, 2);
+  EXPECT_EQ(In("recover --finish --leave").code, 2);
+}
+
+TEST_F(HistoryTest, ARunThatIsLeftCannotBeUndone) {
+  Transfer(kGolfersKvToQb);
+  std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
+  golfers[9 * 1867 + 44] = '?';
+  Write("qbdata/QBGOLFER.Q9D", golfers);
+  Interrupt(1);
+  ASSERT_EQ(In("recover --leave").code, 0);
+  EXPECT_EQ(In("undo 1").code, 1);
+  EXPECT_EQ(In("undo").code, 1);
+  Transfer(kTransfers[0]);
+  EXPECT_EQ(In("history forget all").code, 0);
+}
+
+TEST_F(HistoryTest, DamagedHistoryFilesAreTold) {
+  Transfer(kTransfers[0]);
+  Transfer(kTransfers[4]);
+  const Tree all = AllFiles();
+  for (const auto& [name, bytes] : all) {
+    if (!name.starts_with("transfer-history/000002")) continue;
+    for (const std::size_t size :
+         {std::size_t{100}, std::size_t{4096}, std::size_t{4200}, bytes.size() - 1}) {
+      std::string damaged = bytes.substr(0, size);
+      if (size > 4200) damaged[5000] = static_cast<char>(damaged[5000] + 1);
+      Write(name, damaged);
+      for (const std::string words : {"history", "history show 1", "history show 2",
+                                      "undo 1 --dry-run", "undo 2 --dry-run"}) {
+        const Ended ended = In(words);
+        EXPECT_LE(ended.code, 3) << words;
+        EXPECT_EQ(ended.problems.find("fault of the program"), std::string::npos) << words;
+      }
+    }
+    Write(name, bytes.substr(0, 4200));
+    const Ended ended = In("history");
+    EXPECT_EQ(ended.code, 0);
+    EXPECT_NE(ended.problems.find("is damaged."), std::string::npos);
+  }
+}
+
+TEST_F(HistoryTest, ALogGetsEveryEnd) {
+  const struct {
+    const char* words;
+    int code;
+    const char* logged;
+  } kRuns[] = {
+      {"courses-kv-to-qb", 0, "Number of courses ADDED:5"},
+      {"golfers-kv-to-qb --roster NONE --to 1", 1, "Kelvane has no roster NONE."},
+      {"scores-qb-to-kv --tournament 1 --round 1 --roster NINE9 --json", 1, "9 hole"},
+      {"scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18 --json", 0, "10 Scores"},
+  };
+  for (const auto& run : kRuns) {
+    folder.Write("log", "first\n");
+    EXPECT_EQ(In(std::string(run.words) + " --log log").code, run.code) << run.words;
+    const std::string log = folder.Read("log");
+    EXPECT_TRUE(log.starts_with("first\n2026-05-13 12:00:00  " +
+                                std::string(run.words).substr(0, std::string(run.words).find(' ')) +
+                                "\n"))
+        << log;
+    EXPECT_NE(log.find(run.logged), std::string::npos) << log;
+    EXPECT_NE(
+        log.find(run.code == 0 ? " of the history.\n" : "Nothing was changed. Exit code 1.\n"),
+        std::string::npos)
+        << log;
+  }
+  folder.Write("log", "");
+  const HeldFile held(folder.Path("i/qbdata/qbcrs.dat"));
+  EXPECT_EQ(In("courses-kv-to-qb --log log").code, 4);
+  EXPECT_NE(folder.Read("log").find("Error # 70"), std::string::npos);
+  EXPECT_EQ(In("courses-kv-to-qb --log i").code, 1);
+}
+
+// The example in the help of each command runs on the demonstration.
+TEST_F(HistoryTest, ExamplesRun) {
+  for (const char* words :
+       {"list", "dump", "results", "course show", "course check", "courses-kv-to-qb",
+        "golfers-kv-to-qb", "golfers-kv-to-zd", "golfers-zd-to-qb", "scores-qb-to-kv",
+        "scores-zd-to-kv", "history", "history show", "history forget", "undo", "recover"}) {
+    const std::string help = Run(std::string(words) + " --help").out;
+    std::filesystem::remove_all(folder.Path("golf-demo"));
+    ASSERT_EQ(Run("demo golf-demo").code, 0);
+    std::istringstream lines(help.substr(help.find("Example:")));
+    int examples = 0;
+    for (std::string line; std::getline(lines, line);) {
+      constexpr std::string_view kProgram = "  golf-transfer-cli ";
+      if (!line.starts_with(kProgram)) continue;
+      ++examples;
+      const Ended ended = Run(line.substr(kProgram.size()));
+      EXPECT_EQ(ended.code, 0) << line << ended.problems;
+    }
+    EXPECT_GE(examples, 1) << words;
+  }
+}
+
+}  // namespace
+}  // namespace golf
