@@ -151,16 +151,20 @@ std::string LibraryOfIndex(std::string_view file) {
 
 RecordKinds MakeRecordKinds(SharedState& state) {
   const auto reader = std::make_shared<InstallReader>(state);
-  const auto references = std::make_shared<ReferenceIndex>();
   return {.layout_of = LayoutOfFile,
           .title_of =
               [reader](std::string_view file, std::int64_t record, std::string_view bytes) {
                 return TitleOfRecord(*reader, file, record, bytes);
               },
           .derived_from = LibraryOfIndex,
-          .referred_by = [reader, references](
-                             std::string_view file, std::int64_t record,
-                             std::string_view) { return references->Find(*reader, file, record); }};
+          .references =
+              [&state] {
+                return [reader = std::make_shared<InstallReader>(state),
+                        index = std::make_shared<ReferenceIndex>()](std::string_view file,
+                                                                    std::int64_t record) {
+                  return index->Find(*reader, file, record);
+                };
+              }};
 }
 
 }  // namespace golf
