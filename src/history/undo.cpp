@@ -210,6 +210,7 @@ class PartUndo {
     if (!sides.is_added) return {};
     if (part.old_bytes.empty() && HasGrown()) return "Other records follow it by now.";
     if (!IsSomebody(part.record, sides.found)) return {};
+    if (kinds_.is_same(entry_.path, sides.old_bytes, sides.written)) return {};
     const Unit unit{entry_.path, part.record};
     const auto referring = all_.referring.find(unit);
     if (referring != all_.referring.end()) return referring->second + " refers to it by now.";
