@@ -18,6 +18,7 @@ bool InstallReader::ReadBytes(std::string_view file, std::int64_t record, std::s
     const auto length = static_cast<std::int64_t>(into.size());
     return open->second->ReadAt((record - 1) * length, into) == into.size();
   } catch (const NumberedError&) {
+    if (const auto open = files_.find(file); open != files_.end()) files_.erase(open);
     return false;
   }
 }

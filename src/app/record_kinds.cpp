@@ -1,6 +1,8 @@
 #include "app/record_kinds.h"
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -136,6 +138,21 @@ class ReferenceIndex {
   std::map<std::string, References> known_;
 };
 
+// A deleted golfer, course or roster keeps his name.
+bool HaveSameName(std::string_view file, std::string_view remains, std::string_view bytes) {
+  const auto layout = LayoutOfFile(FileNameOf(file));
+  if (!layout) return false;
+  bool named = false;
+  for (const Field& field : layout->fields) {
+    constexpr std::string_view kNames[] = {"NameFirst", "NameLast", "Name", "ClubName"};
+    if (std::find(std::begin(kNames), std::end(kNames), field.name) == std::end(kNames)) continue;
+    const std::string_view name = remains.substr(field.offset, field.width);
+    if (name != bytes.substr(field.offset, field.width)) return false;
+    named = named || !IsBlankText(name);
+  }
+  return named;
+}
+
 // "qbdata/qbcrs.dat" for "qbdata/18CRSQB.INX".
 std::string LibraryOfIndex(std::string_view file) {
   constexpr std::string_view kIndex = ".INX";
@@ -151,16 +168,21 @@ std::string LibraryOfIndex(std::string_view file) {
 
 RecordKinds MakeRecordKinds(SharedState& state) {
   const auto reader = std::make_shared<InstallReader>(state);
-  const auto references = std::make_shared<ReferenceIndex>();
   return {.layout_of = LayoutOfFile,
           .title_of =
               [reader](std::string_view file, std::int64_t record, std::string_view bytes) {
                 return TitleOfRecord(*reader, file, record, bytes);
               },
           .derived_from = LibraryOfIndex,
-          .referred_by = [reader, references](
-                             std::string_view file, std::int64_t record,
-                             std::string_view) { return references->Find(*reader, file, record); }};
+          .is_same = HaveSameName,
+          .references =
+              [&state] {
+                return [reader = std::make_shared<InstallReader>(state),
+                        index = std::make_shared<ReferenceIndex>()](std::string_view file,
+                                                                    std::int64_t record) {
+                  return index->Find(*reader, file, record);
+                };
+              }};
 }
 
 }  // namespace golf

@@ -22,9 +22,14 @@ struct RecordKinds {
   // The file from which a file is worked out and can be made anew, as a course index from its
   // library. Empty for any other file. Both are paths below the install.
   std::function<std::string(std::string_view file)> derived_from;
-  // Who refers to a record that was added: "Tournament \"Club Championship\""; empty with nobody.
-  std::function<std::string(std::string_view file, std::int64_t record, std::string_view bytes)>
-      referred_by;
+  // Whether the remains of a record that nobody lives in are those of the one who lives in it
+  // later. He came back then and was not added: others may have referred to him all the time.
+  std::function<bool(std::string_view file, std::string_view remains, std::string_view bytes)>
+      is_same;
+  // Who refers to a record: "Tournament \"Club Championship\""; empty with nobody.
+  using ReferredBy = std::function<std::string(std::string_view file, std::int64_t record)>;
+  // Answers by the files as they are, with what is held, when it is asked first.
+  std::function<ReferredBy()> references;
 };
 
 }  // namespace golf

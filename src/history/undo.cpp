@@ -45,19 +45,28 @@ std::vector<FieldElement> ChangedSince(const LayoutInfo& layout, const Sides& si
   return changed;
 }
 
+// A record by its file and number; number 0 is the file as a whole.
+using Unit = std::pair<std::string, std::int64_t>;
+
+// What the parts of a run know of each other.
+struct AllParts {
+  std::set<std::string> kept_titles;      // of groups that stay
+  std::map<Unit, std::string> referring;  // who refers to an added record, which stays therefore
+  std::vector<Unit> removed;              // added records that go
+};
+
 // Puts one part of a run back.
 class PartUndo {
  public:
   PartUndo(HeldPlatform& held, HistoryFolder& folder, Transactions& transactions,
-           const RecordKinds& kinds, HistoryFile& history, std::set<std::string>& kept_titles,
-           UndoResult& result)
+           const RecordKinds& kinds, HistoryFile& history, AllParts& all, UndoResult& result)
       : held_(held),
         gate_(held),
         folder_(folder),
         transactions_(transactions),
         kinds_(kinds),
         history_(history),
-        kept_titles_(kept_titles),
+        all_(all),
         result_(result) {}
 
   void Run() {
@@ -71,9 +80,6 @@ class PartUndo {
   }
 
  private:
-  // A record by its file and number; number 0 is the file as a whole.
-  using Unit = std::pair<std::string, std::int64_t>;
-
   void ReadNames() {
     history_.Read(
         {.group = [&](ChangeGroup group, std::string_view title) { titles_.emplace(group, title); },
@@ -204,8 +210,12 @@ class PartUndo {
     if (!sides.is_added) return {};
     if (part.old_bytes.empty() && HasGrown()) return "Other records follow it by now.";
     if (!IsSomebody(part.record, sides.found)) return {};
-    const std::string referring = kinds_.referred_by(entry_.path, part.record, sides.found);
-    return referring.empty() ? "" : referring + " refers to it by now.";
+    if (kinds_.is_same(entry_.path, sides.old_bytes, sides.written)) return {};
+    const Unit unit{entry_.path, part.record};
+    const auto referring = all_.referring.find(unit);
+    if (referring != all_.referring.end()) return referring->second + " refers to it by now.";
+    added_.insert(unit);
+    return {};
   }
 
   void AddConflict(const RecordPart& part, const Sides& sides, std::vector<FieldElement> elements,
@@ -238,9 +248,9 @@ class PartUndo {
   // Second walk: everything of a group that is in conflict stays, in all parts of the run.
   void KeepGroups() {
     kept_groups_.erase(0);
-    for (const ChangeGroup group : kept_groups_) kept_titles_.insert(titles_[group]);
+    for (const ChangeGroup group : kept_groups_) all_.kept_titles.insert(titles_[group]);
     for (const auto& [group, title] : titles_) {
-      if (kept_titles_.contains(title)) kept_groups_.insert(group);
+      if (all_.kept_titles.contains(title)) kept_groups_.insert(group);
     }
     if (kept_groups_.empty()) return;
     Walk(
@@ -284,7 +294,11 @@ class PartUndo {
   }
 
   void PutBack(const RecordPart& part) {
-    if (!is_in_hand_ || kept_.contains({entry_.path, layout_ ? part.record : 0})) return;
+    if (kept_.contains({entry_.path, 0})) return;
+    const Unit unit{entry_.path, layout_ ? part.record : 0};
+    if (kept_.contains(unit)) return;
+    if (added_.contains(unit)) all_.removed.push_back(unit);
+    if (!is_in_hand_) return;
     result_.put_back.insert(entry_.path);
     const std::int64_t offset = Offset(part.record) + static_cast<std::int64_t>(part.at);
     const std::string now = Now(offset, part.size);
@@ -379,10 +393,11 @@ class PartUndo {
   Transactions& transactions_;
   const RecordKinds& kinds_;
   HistoryFile& history_;
-  std::set<std::string>& kept_titles_;  // of groups of all parts that stay
+  AllParts& all_;
   UndoResult& result_;
   std::map<ChangeGroup, std::string> titles_;
   std::set<std::string> created_;
+  std::set<Unit> added_;  // records that others may refer to
   std::set<Unit> kept_;
   std::set<ChangeGroup> kept_groups_;
   std::map<ChangeGroup, ChangeGroup> groups_;  // of the run, and of its undo
@@ -408,17 +423,26 @@ RunTitle TitleOfUndo(const HistoryRun& run) {
 
 UndoResult HoldUndo(HeldPlatform& held, HistoryFolder& folder, Transactions& transactions,
                     const RecordKinds& kinds, const HistoryRun& run) {
-  std::set<std::string> kept_titles;
+  AllParts all;
   while (true) {
     transactions.Begin(TitleOfUndo(run));
     UndoResult result;
-    const std::size_t kept_before = kept_titles.size();
+    const std::size_t kept_titles = all.kept_titles.size();
+    const std::size_t referred = all.referring.size();
+    all.removed.clear();
     for (auto part = run.parts.rbegin(); part != run.parts.rend(); ++part) {
       const auto history = folder.Open(*part, FileAccess::kReadOnly);
-      PartUndo(held, folder, transactions, kinds, *history, kept_titles, result).Run();
+      PartUndo(held, folder, transactions, kinds, *history, all, result).Run();
+    }
+    // Only those count who would still refer to a record after the undo.
+    const RecordKinds::ReferredBy referred_by = kinds.references();
+    for (const Unit& removed : all.removed) {
+      std::string referring = referred_by(removed.first, removed.second);
+      if (!referring.empty()) all.referring.emplace(removed, std::move(referring));
     }
     // A group that stays for the sake of an earlier part stays in the later ones, too.
-    if (run.parts.size() == 1 || kept_titles.size() == kept_before) return result;
+    const bool more_stay = run.parts.size() > 1 && all.kept_titles.size() != kept_titles;
+    if (!more_stay && all.referring.size() == referred) return result;
   }
 }
 
