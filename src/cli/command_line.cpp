@@ -108,6 +108,7 @@ CLI::App* AddTransfer(CLI::App& app, Options& options, const std::string& name,
                       Command command) {
   CLI::App* added =
       AddCommand(app, name, help, "--install golf-demo " + example, chosen, std::move(command));
+  added->add_flag("--dry-run", options.dry_run, "Show what would change, and change nothing");
   added->add_option("--log", options.log, "Append the run's report to this file")
       ->type_name("FILE");
   return added;

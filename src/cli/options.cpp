@@ -29,6 +29,7 @@ std::unique_ptr<Application> StartApplication(const Options& options) {
     throw NumberedError(ErrorNumber::kPathNotFound, "--install names no folder.");
   }
   auto application = std::make_unique<Application>(MakePlatform(options.install.value_or("")));
+  if (options.dry_run) application->state().transactions->HoldForGood();
   application->Start(ClockOf(options)(), options.regional);
   return application;
 }

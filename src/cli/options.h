@@ -17,7 +17,8 @@ struct Options {
   RegionalOverrides regional;
   bool json = false;
   bool quiet = false;
-  std::string log;  // of a transfer: the file for its report, UTF-8; empty for none
+  bool dry_run = false;  // of a transfer: nothing is changed
+  std::string log;       // of a transfer: the file for its report, UTF-8; empty for none
 };
 
 // Returns a clock: the given moment, or the local time.

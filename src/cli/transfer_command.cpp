@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "app/record_kinds.h"
 #include "cli/commands.h"
+#include "cli/history_command.h"
 #include "cli/json_listener.h"
 #include "cli/listener_pair.h"
 #include "cli/plain_text.h"
@@ -118,13 +120,28 @@ std::string CancelledText(const HeadlessHost& host, const CancellingAnswer& ques
   return text;
 }
 
-void WriteResult(const TransferCommand& command, const HeadlessHost& host, std::int32_t history) {
+void WriteResult(const TransferCommand& command, const HeadlessHost& host, bool dry_run,
+                 std::int32_t history) {
   Json result = {{"event", "result"}, {"transfer", command.name}};
   for (const auto& [name, count] : host.counts()) result[name] = count;
   if (command.carries_on || !host.faults().empty()) result["faults"] = host.faults().size();
-  result["dryRun"] = false;
+  result["dryRun"] = dry_run;
   result["history"] = history == 0 ? Json(nullptr) : Json(history);
   WriteJsonLine(result);
+}
+
+// What a dry run would have changed.
+void WriteHeldChanges(const Options& options, SharedState& state) {
+  Transactions& transactions = *state.transactions;
+  const RecordKinds kinds = MakeRecordKinds(state);
+  const EachChange each_change = [&](const auto& each) {
+    ForEachChange(*transactions.held().held(), transactions.history().folders(), kinds, each);
+  };
+  if (!options.json) std::cout << "\nA dry run: nothing was changed. The run would change:\n\n";
+  const std::int64_t changes = WriteChangeCounts(options.json, each_change);
+  if (options.json) return;
+  if (changes == 0) std::cout << "Nothing.\n";
+  WriteChangeDetails(kinds, each_change);
 }
 
 ExitCode Transfer(const Options& options, const TransferCommand& command, Application& application,
@@ -150,8 +167,9 @@ ExitCode Transfer(const Options& options, const TransferCommand& command, Applic
   NoteFaultCount(host.faults().size());
   log.End(code, history);
   const bool refused = host.counts().empty();
-  if (options.json && !refused && !failed) WriteResult(command, host, history);
   if (!options.json || refused) report.Write(refused ? std::cerr : std::cout);
+  if (options.dry_run) WriteHeldChanges(options, application.state());
+  if (options.json && !refused && !failed) WriteResult(command, host, options.dry_run, history);
   return code;
 }
 

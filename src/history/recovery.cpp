@@ -29,6 +29,7 @@ std::string Named(const RunTitle& title) {
 
 Recovery Transactions::Recover(RecoveryChoice choice) {
   Recovery recovery;
+  if (dry_run_) return recovery;
   const std::vector<HistoryName> names = folder_.List();
   for (const HistoryName& name : names) {
     const bool is_newest = &name == &names.back();

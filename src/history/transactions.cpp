@@ -38,6 +38,11 @@ void Transactions::BeginClick() {
   stops_ = folder_.gate().platform().WatchStops();
 }
 
+void Transactions::HoldForGood() {
+  dry_run_ = true;
+  held_.Hold();
+}
+
 void Transactions::EndClick() {
   if (IsOpen()) Drop();
   committed_in_click_ = 0;
@@ -53,19 +58,22 @@ void Transactions::CheckStopped() {
 
 void Transactions::Begin(RunTitle title) {
   title_ = std::move(title);
-  held_.Hold();
+  if (!dry_run_) held_.Hold();
 }
 
 void Transactions::BeginGroup(std::string_view title) {
   if (IsOpen()) held_.held()->groups().Begin(title);
 }
 
-void Transactions::Drop() { held_.Release(); }
+void Transactions::Drop() {
+  if (!dry_run_) held_.Release();
+}
 
 std::int32_t Transactions::Commit(std::string_view report) {
   if (!IsOpen()) return 0;
   HeldChanges& changes = *held_.held();
   CheckStopped();
+  if (dry_run_) return 0;
   if (!HasNetChange(changes)) {
     Drop();
     return 0;

@@ -48,7 +48,13 @@ class Transactions {
   // Raises Stopped where the process is to end. Called at each change and at each step of a run.
   void CheckStopped();
 
-  // Begins to hold. Changes that were held before are dropped.
+  // From now on every change of the program is held, and none is ever applied: a dry run. A commit
+  // says that it is done, and later runs read the changes of the ones before. Interrupted runs
+  // stay.
+  void HoldForGood();
+  bool IsDryRun() const { return dry_run_; }
+
+  // Begins to hold. Changes that were held before are dropped, but not in a dry run.
   void Begin(RunTitle title);
   bool IsOpen() const { return held_.held() != nullptr; }
   // The changes that follow belong to one golfer, course or roster.
@@ -93,6 +99,7 @@ class Transactions {
   std::int32_t committed_in_click_ = 0;
   std::int32_t last_committed_ = 0;
   std::unique_ptr<StopWatch> stops_;
+  bool dry_run_ = false;
   bool stop_raised_ = false;
   int missed_signal_ = 0;  // that came when the run could not be stopped any more
 };
