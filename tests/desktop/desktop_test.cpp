@@ -22,6 +22,7 @@
 #include "stores/course/course_layout.h"
 #include "support/bytes.h"
 #include "support/error_of.h"
+#include "support/same_file.h"
 #include "support/test_host.h"
 
 namespace golf {
@@ -98,24 +99,6 @@ class DesktopTest : public testing::Test {
   Operator user;
 };
 
-constexpr const char* kLibraryFiles[] = {"qbcrs.dat", "9CRSQB.INX", "18CRSQB.INX", "ALLCRSQB.INX"};
-
-std::vector<std::string> Libraries(const TestInstall& install) {
-  std::vector<std::string> bytes;
-  for (const std::string name : kLibraryFiles)
-    bytes.push_back(install.folder.Read("qbdata/" + name));
-  return bytes;
-}
-
-// The same transfer without a display.
-std::vector<std::string> LibrariesWithoutDisplay(const std::string& kelvane) {
-  TestInstall install;
-  install.folder.Write("kvdata/kvcrs.dat", kelvane);
-  install.Open("KVCoursestoQB",
-               [&](Screen& screen) { install.host->Press(screen, "TransferCourses"); });
-  return Libraries(install);
-}
-
 TEST_F(DesktopTest, TransfersCoursesAndStartsTheCallerAgain) {
   state().CommandLine = "QB";
   install.platform->StartForReal();
@@ -136,8 +119,13 @@ TEST_F(DesktopTest, TransfersCoursesAndStartsTheCallerAgain) {
   user.Press("ExitButton");
   user.RunProgram();
   EXPECT_TRUE(seen_in_run);
-  EXPECT_EQ(Libraries(install) == LibrariesWithoutDisplay(install.folder.Read("kvdata/kvcrs.dat")),
-            true);
+  TestInstall other;  // the same transfer without a display
+  other.folder.Write("kvdata/kvcrs.dat", install.folder.Read("kvdata/kvcrs.dat"));
+  other.Open("KVCoursestoQB",
+             [&](Screen& screen) { other.host->Press(screen, "TransferCourses"); });
+  for (const std::string name : {"qbcrs.dat", "9CRSQB.INX", "18CRSQB.INX", "ALLCRSQB.INX"}) {
+    EXPECT_TRUE(Holds(install.folder, "qbdata/" + name, other.folder.Read("qbdata/" + name)));
+  }
   user.RunUntil("the caller", [&] { return install.folder.Exists("started"); });
 }
 
@@ -165,8 +153,7 @@ TEST_F(DesktopTest, TellsOfAMissingSiblingAndClosesByItsWindow) {
                   state().ProgramPath + "' folder");
   user.Press("PriorTransfer");
   user.Answer("", "Transfer program not available.");
-  user.When(
-      "the menu", [] { return true; }, [] { WindowOf("ExitButton").Close(); });
+  user.Next([] { WindowOf("ExitButton").Close(); });
   user.RunProgram();
   EXPECT_EQ(install.platform->started(),
             std::vector<std::string>({state().ProgramPath + "PRIORXFR.EXE qb"}));
@@ -247,8 +234,7 @@ TEST_F(DesktopTest, AQuestionIsAnsweredByEnterAndRemembered) {
   user.Do(ask);
   ExpectMessage("These scores have been posted before.\nPost them again?");
   CheckBox& memory = SharedTipBox(host).ShowMessage;
-  user.When(
-      "hiding", [] { return true; }, [&] { memory.SetVisible(false); });
+  user.Next([&] { memory.SetVisible(false); });
   user.When(
       "hidden", [] { return Operator::Find("ShowMessage") == nullptr; },
       [&] { memory.SetVisible(true); });
