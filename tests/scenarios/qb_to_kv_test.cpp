@@ -90,6 +90,7 @@ class QbToKvTest : public testing::Test {
         course.Set<"ActiveTees">({tee}, name[0] == 'q' || tee != 2 ? 255 : 0);
       for (const char* of : names) {
         course.Set<"Name">(of);
+        if (setting.roster_holes == 9) course.Set<"HoleNumFlag">(of == *(names.end() - 1) ? 9 : -9);
         file += course.Bytes();
       }
       install.folder.Write(name, file);

@@ -49,6 +49,7 @@ TEST_F(ZandelTest, BatchesOfScores) {
     EXPECT_EQ(batches->list[0].Item(), "Practice Scores" + std::string(90, ' ') + "501");
     if (row.events <= 0) continue;
     const std::string blanks(50, ' ');
+    EXPECT_EQ(BatchHeading(batches->list[1].Item()), "Event #1 scores 05/20/24");
     EXPECT_EQ(batches->list[1].Item(), "Event #1 scores 05/20/24" + blanks + "001");
     EXPECT_EQ(batches->list[2].Item(),
               "Non-Event scores after event #1 but before #2" + blanks + "502");
