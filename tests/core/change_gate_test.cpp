@@ -108,40 +108,6 @@ TEST_F(ChangeGateTest, ATornNewRecordIsCutOffAgain) {
   }
 }
 
-// Every call to the system fails once: it is told, no new record stays torn, the old ones are
-// there.
-TEST_F(ChangeGateTest, AFaultAtAnyCallIsToldAndTearsNoFile) {
-  const auto run = [&] {
-    files.Open(3, At("a.dat"), 3);
-    files.Open(4, At("new.dat"), 3);
-    for (int record = 1; record <= 4; ++record) {
-      const std::string bytes = Read(3, record, 3);
-      files.WriteBytes(4, files.CountTruncated(4, 3) + 1, bytes);
-      if (record == 2) files.WriteBytes(3, 3, "ghi");
-      files.Synchronize();
-    }
-    files.CloseAll();
-  };
-  for (const bool stays : {false, true}) {
-    for (int nth = 1;; ++nth) {
-      folder.Write("a.dat", "abcdef");
-      folder.Remove("new.dat");
-      const JoinedWrites joined(files);
-      platform.Fail({ErrorNumber::kDiskFull, nth, {}, "", stays, 1});
-      const int error = ErrorOf(run);
-      EXPECT_EQ(error, platform.Failed() ? 61 : 0) << nth;
-      platform.Heal();
-      files.CloseAll();
-      EXPECT_TRUE(folder.Read("a.dat").starts_with("abcdef")) << nth;
-      if (error == 0) break;
-      ASSERT_LT(nth, 100);
-      if (stays || !folder.Exists("new.dat")) continue;
-      EXPECT_TRUE("abcdefghi\0\0\0"s.starts_with(folder.Read("new.dat"))) << nth;
-      EXPECT_EQ((folder.Read("a.dat").size() + folder.Read("new.dat").size()) % 3, 0U) << nth;
-    }
-  }
-}
-
 TEST_F(ChangeGateTest, RefusedChangesAreError75AndLeaveNothing) {
   folder.Write("empty.dat", "");
   files.gate().RefuseChanges();

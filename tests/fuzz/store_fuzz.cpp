@@ -19,10 +19,8 @@
 #include "scoring/player/player_class.h"
 #include "scoring/team/team_class.h"
 #include "scoring/tournament_class.h"
-#include "stores/course/course_class.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "stores/kelvane/kelvane_scores.h"
-#include "stores/zandel/zandel_batches.h"
 #include "support/memory_platform.h"
 
 namespace golf {
@@ -106,15 +104,6 @@ void WalkStores(SharedState& state) {
       Try([&] { RepositionKVScore(state, entry); });
     }
     AddKVScore(state);
-  });
-  Try([&] {
-    const auto batches = LoadScoreBatches(state, "00011");
-    Need(batches && batches->selected < static_cast<int>(batches->list.size()));
-  });
-  Try([&] {
-    state.Course().OpenCourseFile();
-    state.Course().UpdateAllCourseLists();
-    state.Course().RebuildCourseIndexes(state.Course().ActiveCoursesByName());
   });
   Try([&] {
     state.Tournament().CreateBlankTournament(2);

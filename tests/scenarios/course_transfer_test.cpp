@@ -187,20 +187,6 @@ TEST(CourseTransferTest, EachFileOperationFailsOnceAndNothingIsLost) {
   });
 }
 
-TEST(CourseTransferTest, AHeldLibraryIsErrorSeventyAndTheScreenStays) {
-  TestInstall install;
-  install.folder.Write("kvdata/kvcrs.dat", Course("One"));
-  install.platform->Fail(
-      {.error = ErrorNumber::kPermissionDenied, .only = Operation::kOpen, .name = "kvcrs.dat"});
-  install.Open("KVCoursestoQB", [&](Screen& screen) {
-    const auto press = [&] { install.host->Press(screen, "TransferCourses"); };
-    EXPECT_EQ(ClickErrorOf(press), 70);
-    EXPECT_TRUE(install.host->IsShown(screen));
-    EXPECT_EQ(ClickErrorOf(press), 0);
-  });
-  EXPECT_EQ(install.folder.Read("qbdata/qbcrs.dat").size(), kLength);
-}
-
 TEST(CourseTransferTest, ASecondProcessInTheInstallIsRefusedUntouched) {
   TestInstall install;
   install.folder.Write("kvdata/kvcrs.dat", Course("One"));

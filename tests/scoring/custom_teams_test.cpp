@@ -173,7 +173,7 @@ TEST_F(CustomTeamsTest, RanksTeams) {
   EXPECT_EQ(balls.Team(1).Score(SumColumn(1, 1)), std::nullopt);
   EXPECT_EQ(balls.TiebreakKeys(1, 1, 18, {18, 9, 10})[0], "0005,005,005,05,05");
   EXPECT_EQ(balls.TiebreakKeys(1, 1, 18, {18, 9, 10})[1], "0005,05,00");
-  EXPECT_EQ(balls.TiebreakKeys(1, 1, 9, {10, 1})[1], "0005,00");
+  EXPECT_EQ(balls.TiebreakKeys(1, 1, 9, {18, 1})[1], "0005,00");
   const auto places = [&](const RankingOrder& order, int option, int block) {
     balls.XBallSortTeamStandings(order, option, {"B", "A", "A", "A", "B"});
     std::string all;
