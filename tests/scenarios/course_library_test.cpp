@@ -1,7 +1,5 @@
 // The screens of a course library: what they refuse, and what they leave in the files.
 
-#include <gtest/gtest.h>
-
 #include <utility>
 
 #include "app/tools.h"

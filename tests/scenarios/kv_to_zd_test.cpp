@@ -1,7 +1,5 @@
 #include "screens/transfers/kv_to_zd.h"
 
-#include <gtest/gtest.h>
-
 #include "support/league_test.h"
 #include "support/same_file.h"
 

@@ -1,7 +1,5 @@
 #include "screens/transfers/qb_to_kv.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "screens/rosters/load_roster.h"

@@ -1,7 +1,5 @@
 #include "screens/transfers/zd_to_qb.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 #include "screens/rosters/load_rosters.h"

@@ -1,10 +1,7 @@
 #include "scoring/player/player_class.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 
-#include "support/error_of.h"
 #include "support/scored_round.h"
 #include "support/test_host.h"
 

@@ -1,9 +1,6 @@
 #include "scoring/team/team_class.h"
 
-#include <gtest/gtest.h>
-
 #include "scoring/layouts/custom_standings.h"
-#include "support/error_of.h"
 #include "support/scored_round.h"
 #include "support/test_host.h"
 

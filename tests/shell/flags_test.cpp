@@ -1,7 +1,5 @@
 // What the operator can see, change and reach by Enter and Escape on each screen, as it opens.
 
-#include <gtest/gtest.h>
-
 #include <map>
 
 #include "app/demo/demo_install.h"

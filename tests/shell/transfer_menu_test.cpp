@@ -1,7 +1,5 @@
 #include "screens/transfer_menu.h"
 
-#include <gtest/gtest.h>
-
 #include "support/test_host.h"
 
 namespace golf {

@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "stores/zandel/zandel_batches.h"
 #include "stores/zandel/zandel_files.h"
 #include "support/bytes.h"
-#include "support/error_of.h"
 #include "support/test_host.h"
 
 namespace golf {
