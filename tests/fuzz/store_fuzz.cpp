@@ -47,15 +47,15 @@ void ShowRecord(const LayoutInfo& layout, std::string_view record) {
   }
 }
 
-// Chooses the first row of each list and lets the clock tick.
+// Chooses the first row of each list where none is chosen, and lets the clock tick.
 void Choose(HeadlessHost& host, Screen& screen) {
   for (Control* control : screen.controls()) {
     if (auto* timer = dynamic_cast<Timer*>(control); timer != nullptr && timer->IsRunning()) {
       Try([&] { host.Operate(screen, timer->on_timer); });
-    } else if (auto* grid = dynamic_cast<Grid*>(control); grid != nullptr && grid->rows() > 0) {
-      Try([&] { grid->SetActiveRow(1); });
+    } else if (auto* grid = dynamic_cast<Grid*>(control); grid != nullptr) {
+      if (grid->rows() > 0 && grid->active_row() < 1) Try([&] { grid->SetActiveRow(1); });
     } else if (auto* list = dynamic_cast<List*>(control); list != nullptr) {
-      if (!list->items().empty()) Try([&] { list->Select(0); });
+      if (!list->items().empty() && list->index() < 0) Try([&] { list->Select(0); });
     }
   }
 }
