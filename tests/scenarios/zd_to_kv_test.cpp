@@ -1,7 +1,5 @@
 #include "screens/transfers/zd_to_kv.h"
 
-#include <gtest/gtest.h>
-
 #include "screens/rosters/load_roster.h"
 #include "stores/course/course_layout.h"
 #include "support/league_test.h"
