@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace golf {
 
@@ -46,6 +47,8 @@ void TestInstall::Restart() {
   host->clock = [] { return DateFromCivil({2024, 5, 13}); };
   listener.events.clear();
 }
+
+void TestInstall::ForgetHistory() { std::filesystem::remove_all(folder.Path("transfer-history")); }
 
 void TestInstall::Open(const char* screen, std::function<void(Screen&)> drive, const char* word) {
   host->drive = std::move(drive);

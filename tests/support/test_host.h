@@ -45,6 +45,8 @@ class TestInstall {
 
   // Starts the program again on the same folder.
   void Restart();
+  // Deletes the history, so that each run of a loop makes the same calls.
+  void ForgetHistory();
   // Opens a screen. `drive` works each screen that opens, until none is left.
   void Open(const char* screen, std::function<void(Screen&)> drive, const char* word = "");
   // Returns the last box that was answered. Empty if there was none.
