@@ -25,19 +25,25 @@ class PlaceReader {
                                              at_ + static_cast<std::int64_t>(window_.size());
     if (!inside) {
       at_ = offset;
-      window_.resize(std::max(size, kWindow));
-      held_ = file_.ReadAt(offset, window_);
+      try {
+        Fill(std::max(size, kWindow));
+      } catch (const NumberedError&) {
+        Fill(size);  // bytes behind the place may be those that cannot be read
+      }
     }
     const auto start = static_cast<std::size_t>(offset - at_);
     return std::string_view(window_).substr(0, held_).substr(std::min(start, held_), size);
   }
 
-  void Forget() {
+ private:
+  void Fill(std::size_t size) {
     window_.clear();
     held_ = 0;
+    std::string window(size, '\0');
+    held_ = file_.ReadAt(at_, window);
+    window_.swap(window);
   }
 
- private:
   PlatformFile& file_;
   std::string window_;
   std::int64_t at_ = 0;
