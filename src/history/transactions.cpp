@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/resume_next.h"
+#include "history/hold_failed.h"
 
 namespace golf {
 namespace {
@@ -106,7 +107,7 @@ std::unique_ptr<HistoryFile> Transactions::WriteHistory(const HistoryName& name,
   } catch (const NumberedError&) {
     Discard(std::move(history), name);
     throw;
-  } catch (const SpillFailed&) {
+  } catch (const HoldFailed&) {
     Discard(std::move(history), name);
     throw;
   }

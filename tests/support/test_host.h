@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -75,6 +76,8 @@ class TestInstall {
     host->clock = [] { return DateFromCivil({2024, 5, 13}); };
     listener.events.clear();
   }
+  // Deletes the history, so that each run of a loop makes the same calls.
+  void ForgetHistory() { std::filesystem::remove_all(folder.Path("transfer-history")); }
   // Opens a screen. `drive` works each screen that opens, until none is left.
   void Open(const char* screen, std::function<void(Screen&)> drive, const char* word = "") {
     host->drive = std::move(drive);
