@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "core/while_set.h"
-#include "history/spill_store.h"
+#include "history/hold_failed.h"
 
 namespace golf {
 
@@ -33,9 +33,9 @@ void HostBase::Operate(const std::function<void()>& event) {
   } catch (const NumberedError& error) {
     state_.files.Synchronize();
     ErrorEndsClick(error);
-  } catch (const SpillFailed& error) {
+  } catch (const HoldFailed& error) {
     state_.files.Synchronize();
-    ErrorEndsClick({ErrorNumber::kDiskFull, error.what()});
+    ErrorEndsClick(error.cause());
   } catch (const Stopped&) {
     state_.files.Synchronize();
     RunStopped();

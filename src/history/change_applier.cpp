@@ -29,8 +29,12 @@ class PlaceReader {
       const bool is_close = offset - last_end_ <= kCloseGap;
       ahead_ = is_close ? std::clamp(ahead_ * 2, kFirstWindow, kWindow) : 0;
       at_ = offset;
-      window_.resize(std::max(size, ahead_));
-      held_ = file_.ReadAt(offset, window_);
+      try {
+        Fill(std::max(size, ahead_));
+      } catch (const NumberedError&) {
+        if (ahead_ <= size) throw;
+        Fill(size);  // bytes behind the place may be those that cannot be read
+      }
     }
     last_end_ = offset + static_cast<std::int64_t>(size);
     const auto start = static_cast<std::size_t>(offset - at_);
@@ -38,6 +42,14 @@ class PlaceReader {
   }
 
  private:
+  void Fill(std::size_t size) {
+    window_.clear();
+    held_ = 0;
+    std::string window(size, '\0');
+    held_ = file_.ReadAt(at_, window);
+    window_.swap(window);
+  }
+
   PlatformFile& file_;
   std::string window_;
   std::int64_t at_ = 0;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "history/hold_failed.h"
+
 namespace golf {
 namespace {
 
@@ -19,14 +21,16 @@ bool StartsBefore(const HeldPlace& place, std::int64_t offset) { return place.of
 HeldFileChanges::HeldFileChanges(std::string path, std::shared_ptr<PlatformFile> real,
                                  SpillStore& store)
     : path_(std::move(path)), real_(std::move(real)), store_(store) {
-  if (real_ != nullptr) old_length_ = length_ = kept_ = real_->Length();
+  if (real_ != nullptr) old_length_ = length_ = real_->Length();
 }
 
 std::size_t HeldFileChanges::ReadAt(std::int64_t offset, std::span<char> into) {
   if (offset >= length_) return 0;
   const auto size =
       static_cast<std::size_t>(std::min<std::int64_t>(length_ - offset, std::ssize(into)));
-  const std::int64_t from_file = std::clamp<std::int64_t>(kept_ - offset, 0, std::ssize(into));
+  // What a truncation has cut off and what grew again since is held, where it differs.
+  const std::int64_t from_file =
+      std::clamp<std::int64_t>(std::min(old_length_, length_) - offset, 0, std::ssize(into));
   std::size_t read = 0;
   if (from_file > 0) {
     read = real_->ReadAt(offset, into.first(static_cast<std::size_t>(from_file)));
@@ -113,7 +117,6 @@ void HeldFileChanges::Truncate(std::int64_t length, ChangeGroup group) {
   }
   const std::vector<HeldPlace> taken = TakeOverlapping(length, length_);
   length_ = length;
-  kept_ = std::min(kept_, length);
   for (const HeldPlace& place : taken) {
     NoteShared(place.group, group);
     if (place.offset >= length) continue;
@@ -220,7 +223,7 @@ std::string HeldFileChanges::OldBytes(std::int64_t offset, std::size_t size) {
     const bool follows = offset >= window_offset_ && offset <= window_end && !window_.empty();
     window_.resize(follows ? std::max(wanted, kWindow) : wanted);
     window_offset_ = offset;
-    window_.resize(real_->ReadAt(offset, window_));
+    window_.resize(OrHoldFailed([&] { return real_->ReadAt(offset, window_); }));
   }
   std::string bytes = window_.substr(static_cast<std::size_t>(offset - window_offset_), wanted);
   bytes.resize(wanted);

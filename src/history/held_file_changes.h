@@ -80,7 +80,6 @@ class HeldFileChanges {
   SpillStore& store_;
   std::int64_t old_length_ = 0;
   std::int64_t length_ = 0;
-  std::int64_t kept_ = 0;  // bytes of the real file that no truncation has cut
   std::map<std::int64_t, Portion> portions_;
   std::int64_t longest_ = 0;  // bytes of a place
   // Buffers that are used again.

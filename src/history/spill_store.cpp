@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "core/numbered_error.h"
+#include "history/hold_failed.h"
 
 namespace golf {
 namespace {
@@ -12,15 +13,6 @@ constexpr std::size_t kBlock = std::size_t{1} << 20;
 constexpr std::size_t kTail = std::size_t{256} << 10;
 // Places in the scratch file lie above all places in memory.
 constexpr std::int64_t kScratch = std::int64_t{1} << 40;
-
-template <class Statement>
-void OrSpillFailed(Statement&& statement) {
-  try {
-    statement();
-  } catch (const NumberedError& error) {
-    throw SpillFailed("There is no room to hold the changes. " + error.description());
-  }
-}
 
 }  // namespace
 
@@ -47,7 +39,7 @@ std::int64_t SpillStore::Append(std::string_view bytes) {
 }
 
 void SpillStore::WriteTail() {
-  OrSpillFailed([&] {
+  OrHoldFailed([&] {
     if (scratch_ == nullptr) scratch_ = gate_.platform().OpenScratch();
     gate_.Write(*scratch_, in_scratch_, tail_);
   });
@@ -67,7 +59,7 @@ void SpillStore::Read(std::int64_t place, std::span<char> into) {
     tail_.copy(into.data(), into.size(), static_cast<std::size_t>(at - in_scratch_));
     return;
   }
-  OrSpillFailed([&] {
+  OrHoldFailed([&] {
     if (scratch_->ReadAt(at, into) == into.size()) return;
     throw NumberedError(ErrorNumber::kDeviceFault, "The scratch file was cut.");
   });

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,14 +11,7 @@
 
 namespace golf {
 
-// There is no room, in memory or on the disk, for the changes that a run holds. The run ends and
-// nothing has changed. No run carries on over it, so it is no NumberedError.
-class SpillFailed : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
-// Keeps pieces of bytes: the first ones in memory, all others in a scratch file. Raises SpillFailed
+// Keeps pieces of bytes: the first ones in memory, all others in a scratch file. Raises HoldFailed
 // where the scratch file cannot be made, written or read.
 class SpillStore {
  public:

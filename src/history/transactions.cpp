@@ -6,6 +6,7 @@
 
 #include "core/resume_next.h"
 #include "history/held_content.h"
+#include "history/hold_failed.h"
 
 namespace golf {
 namespace {
@@ -115,7 +116,7 @@ std::unique_ptr<HistoryFile> Transactions::WriteHistory(const HistoryName& name,
   } catch (const NumberedError&) {
     Discard(std::move(history), name);
     throw;
-  } catch (const SpillFailed&) {
+  } catch (const HoldFailed&) {
     Discard(std::move(history), name);
     throw;
   }

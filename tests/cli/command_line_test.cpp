@@ -112,15 +112,6 @@ TEST_F(CommandLineTest, ReadingChangesNothing) {
   }
 }
 
-TEST_F(CommandLineTest, ListsCourses) {
-  const auto listed = JsonLines(Run("--install i list courses --library zd --json").out);
-  ASSERT_EQ(listed.size(), 2u);
-  EXPECT_EQ(listed[1],
-            nlohmann::json::parse(R"({"number":2,"name":"Millpond Short Nine","holes":"9F","link":0,
-              "tees":[{"number":1,"name":"Yellow","abbreviation":"Y"},
-                      {"number":2,"name":"Red","abbreviation":"R"}]})"));
-}
-
 TEST_F(CommandLineTest, ListsLeaguesAndWhatTheyHaveToPost) {
   for (const std::string name : {"00019.ZL8", "0006.ZL8", "000112.ZL8", "10011.ZL8", "00071.ZL7"}) {
     folder.Write("i/zddata/" + name, "");
@@ -208,7 +199,7 @@ TEST_F(CommandLineTest, ResultsOfTeams) {
       "Positions":[[1,1,1,1],[1,1,1,1]],"PointsPositions":[[1,1,1,1],[1,1,1,1]]})"));
 }
 
-TEST_F(CommandLineTest, DumpsTablesInTheOrderOfTheirIndexes) {
+TEST_F(CommandLineTest, ShowsCoursesAndDumpsTablesInTheOrderOfTheirIndexes) {
   const auto course = JsonLines(Run("dump i/kvdata/kvcrs.dat --record 3 --json").out).at(0);
   EXPECT_EQ(course["record"], 3);
   EXPECT_EQ(course["Name"], "Millpond Short Nine");
@@ -217,6 +208,10 @@ TEST_F(CommandLineTest, DumpsTablesInTheOrderOfTheirIndexes) {
   EXPECT_EQ(course["HoleYard"][0][1], 401);
   EXPECT_EQ(course["ActiveTees"], nlohmann::json::parse("[255, 255, 0, 0, 0, 0]"));
   EXPECT_EQ(course["bytes@1443"].get<std::string>().size(), 2u * 1783);
+  EXPECT_EQ(JsonLines(Run("--install i list courses --library zd --json").out).at(1),
+            nlohmann::json::parse(R"({"number":2,"name":"Millpond Short Nine","holes":"9F","link":0,
+              "tees":[{"number":1,"name":"Yellow","abbreviation":"Y"},
+                      {"number":2,"name":"Red","abbreviation":"R"}]})"));
   const std::string csv = Run("dump i/kvdata/ALLCRSKV.INX --csv").out;
   EXPECT_EQ(csv, "record,Index\n1,6\n2,7\n3,5\n4,4\n5,1\n6,3\n7,2\n");
 }

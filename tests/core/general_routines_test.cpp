@@ -98,54 +98,48 @@ TEST(GeneralRoutines, ShellSort) {
 
 TEST(IdNumberList, FreeIds) {
   constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
-  struct Call {
-    enum { kAppend, kAppendNew, kForget, kContains, kNextFree, kClear } what;
-    std::int32_t value = 0;
-    std::int32_t result = 0;
-  };
-  const auto run = [](IdNumberList& list, const Call& call) -> std::int32_t {
-    if (call.what == Call::kAppend) list.Append(call.value);
-    if (call.what == Call::kAppendNew) list.AppendNew(call.value);
-    if (call.what == Call::kForget) list.Forget(call.value);
-    if (call.what == Call::kClear) list.Clear();
-    if (call.what == Call::kContains) return list.Contains(call.value) ? 1 : 0;
-    return call.what == Call::kNextFree ? list.NextFree(call.value) : 0;
-  };
-  const auto free = [](std::int32_t highest, std::int32_t id) {
-    return Call{Call::kNextFree, highest, id};
-  };
   const struct {
     Ints ids;
-    std::vector<Call> calls;
+    std::int32_t highest, free;
   } rows[] = {
-      {{}, {{Call::kContains, 0, 0}, free(99, 1)}},
-      {{7, 3, 4},
-       {free(99, 5), free(5, 5), free(4, 1), {Call::kContains, 7, 1}, {Call::kContains, 5, 0}}},
-      {{3, 4, 5}, {free(5, 1), free(6, 6)}},
-      {{0, 8, -3, 7}, {free(99, 9)}},
-      {{3, 3, 5}, {free(99, 6)}},  // an ID that occurs twice raises the offset, too
-      {{3, 3, 6}, {free(99, 5)}},
-      {{kMost}, {free(kMost, 1)}},
-      {{3, 4, 5, 6},
-       {{Call::kForget, 4},
-        {Call::kContains, 4, 0},
-        {Call::kContains, 0, 1},
-        free(99, 4),
-        {Call::kAppend, 4},
-        free(99, 7)}},
-      {{3}, {{Call::kAppendNew, 3}, {Call::kForget, 3}, {Call::kContains, 3, 0}}},
-      {{3},
-       {{Call::kAppend, 3},
-        {Call::kForget, 3},
-        {Call::kContains, 3, 1},
-        {Call::kForget, 8},
-        {Call::kContains, 0, 1}}},
-      {{3, 4}, {{Call::kContains, 9, 0}, {Call::kClear}, {Call::kContains, 3, 0}, free(99, 1)}}};
+      {{}, 99, 1},
+      {{7, 3, 4}, 99, 5},
+      {{7, 3, 4}, 5, 5},
+      {{7, 3, 4}, 4, 1},
+      {{3, 4, 5}, 5, 1},
+      {{3, 4, 5}, 6, 6},
+      {{0, 8, -3, 7}, 99, 9},
+      {{3, 3, 5}, 99, 6},  // an ID that occurs twice raises the offset, too
+      {{3, 3, 6}, 99, 5},
+      {{kMost}, kMost, 1},
+  };
   for (const auto& row : rows) {
     IdNumberList list;
     for (const std::int32_t id : row.ids) list.Append(id);
-    for (const Call& call : row.calls) EXPECT_EQ(run(list, call), call.result) << call.value;
+    EXPECT_EQ(list.NextFree(row.highest), row.free) << row.highest;
   }
+}
+
+TEST(IdNumberList, ForgottenIds) {
+  IdNumberList list;
+  list.Forget(8);  // is not in the list
+  EXPECT_FALSE(list.Contains(0));
+  for (const std::int32_t id : {3, 4, 5, 6}) list.Append(id);
+  list.Forget(4);
+  EXPECT_TRUE(list.Contains(3) && !list.Contains(4) && !list.Contains(7));
+  EXPECT_TRUE(list.Contains(0));  // takes the place of the forgotten ID
+  EXPECT_EQ(list.NextFree(99), 4);
+  list.Append(4);
+  EXPECT_EQ(list.NextFree(99), 7);
+  list.Append(5);
+  list.Forget(5);
+  EXPECT_TRUE(list.Contains(5));  // it occurred twice
+  list.AppendNew(4);
+  list.Forget(4);
+  EXPECT_FALSE(list.Contains(4));
+  list.Clear();
+  EXPECT_FALSE(list.Contains(3));
+  EXPECT_EQ(list.NextFree(99), 1);
 }
 
 }  // namespace

@@ -1,9 +1,7 @@
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <cstdlib>
 
 #include "support/files_test.h"
@@ -12,21 +10,6 @@ namespace golf {
 namespace {
 
 using PlatformPosixTest = FilesTest;
-
-TEST_F(PlatformPosixTest, AFullDiskIsError61) {
-  folder.Write("a.dat", "abcdefgh");
-  files.Open(1, At("a.dat"), 4);
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit small{10, before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &small);
-  const int error = ErrorOf([&] { files.WriteBytes(1, 3, "ijkl"); });
-  setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, ignored);
-  EXPECT_EQ(error, 61);
-  EXPECT_TRUE(folder.Read("a.dat").starts_with("abcdefgh"));
-}
 
 // Opening them must not wait.
 TEST_F(PlatformPosixTest, WhatIsNoFileIsError75) {

@@ -1,28 +1,25 @@
-#include <gtest/gtest.h>
+#include <wx/app.h>
 #include <wx/frame.h>
 #include <wx/grid.h>
 #include <wx/menu.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
-#include <wx/toplevel.h>
 
 #include <filesystem>
 #include <memory>
 #include <vector>
 
-#include "app/application.h"
-#include "desktop/desktop_host.h"
+#include "desktop/demo_desktop.h"
 #include "desktop/invocation.h"
 #include "desktop/operator.h"
 #include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
 #include "screens/rosters/load_roster.h"
-#include "screens/tip_box.h"
 #include "screens/transfers/kv_to_qb.h"
 #include "stores/course/course_layout.h"
 #include "support/bytes.h"
 #include "support/error_of.h"
-#include "support/test_host.h"
+#include "support/same_file.h"
 
 namespace golf {
 namespace {
@@ -98,24 +95,6 @@ class DesktopTest : public testing::Test {
   Operator user;
 };
 
-constexpr const char* kLibraryFiles[] = {"qbcrs.dat", "9CRSQB.INX", "18CRSQB.INX", "ALLCRSQB.INX"};
-
-std::vector<std::string> Libraries(const TestInstall& install) {
-  std::vector<std::string> bytes;
-  for (const std::string name : kLibraryFiles)
-    bytes.push_back(install.folder.Read("qbdata/" + name));
-  return bytes;
-}
-
-// Runs the same transfer without a display and returns both libraries.
-std::vector<std::string> LibrariesWithoutDisplay(const std::string& kelvane) {
-  TestInstall install;
-  install.folder.Write("kvdata/kvcrs.dat", kelvane);
-  install.Open("KVCoursestoQB",
-               [&](Screen& screen) { install.host->Press(screen, "TransferCourses"); });
-  return Libraries(install);
-}
-
 TEST_F(DesktopTest, TransfersCoursesAndStartsTheCallerAgain) {
   state().CommandLine = "QB";
   install.platform->StartForReal();
@@ -136,8 +115,13 @@ TEST_F(DesktopTest, TransfersCoursesAndStartsTheCallerAgain) {
   user.Press("ExitButton");
   user.RunProgram();
   EXPECT_TRUE(seen_in_run);
-  EXPECT_EQ(Libraries(install) == LibrariesWithoutDisplay(install.folder.Read("kvdata/kvcrs.dat")),
-            true);
+  TestInstall other;  // the same transfer without a display
+  other.folder.Write("kvdata/kvcrs.dat", install.folder.Read("kvdata/kvcrs.dat"));
+  other.Open("KVCoursestoQB",
+             [&](Screen& screen) { other.host->Press(screen, "TransferCourses"); });
+  for (const std::string name : {"qbcrs.dat", "9CRSQB.INX", "18CRSQB.INX", "ALLCRSQB.INX"}) {
+    EXPECT_TRUE(Holds(install.folder, "qbdata/" + name, other.folder.Read("qbdata/" + name)));
+  }
   user.RunUntil("the caller", [&] { return install.folder.Exists("started"); });
 }
 
@@ -166,8 +150,7 @@ TEST_F(DesktopTest, NamesAMissingSiblingAndClosesByItsWindow) {
                   state().ProgramPath + "' folder");
   user.Press("PriorTransfer");
   user.Answer("", "Transfer program not available.");
-  user.When(
-      "the menu", [] { return true; }, [] { WindowOf("ExitButton").Close(); });
+  user.Next([] { WindowOf("ExitButton").Close(); });
   user.RunProgram();
   EXPECT_EQ(install.platform->started(),
             std::vector<std::string>({state().ProgramPath + "PRIORXFR.EXE qb"}));
@@ -248,8 +231,7 @@ TEST_F(DesktopTest, AQuestionIsAnsweredByEnterAndRemembered) {
   user.Do(ask);
   ExpectMessage("These scores have been posted before.\nPost them again?");
   CheckBox& memory = SharedTipBox(host).ShowMessage;
-  user.When(
-      "hiding", [] { return true; }, [&] { memory.SetVisible(false); });
+  user.Next([&] { memory.SetVisible(false); });
   user.When(
       "hidden", [] { return Operator::Find("ShowMessage") == nullptr; },
       [&] { memory.SetVisible(true); });
@@ -263,7 +245,8 @@ TEST_F(DesktopTest, AQuestionIsAnsweredByEnterAndRemembered) {
   EXPECT_EQ(answers, std::vector<std::string>({"NO", "YES", "YES"}));
 }
 
-// Covers both pickers, ticks in the grid by mouse and by keyboard, the run, and the report.
+// Covers both pickers, ticks in the grid by mouse and by keyboard, the run, and the report. The
+// golfers whom a run has left out are shown after its report.
 TEST_F(DesktopTest, TransfersGolfers) {
   std::string golfer(2804, ' ');
   Put16(golfer, 0, {1});
@@ -302,7 +285,13 @@ TEST_F(DesktopTest, TransfersGolfers) {
   user.Press("TransferButton");
   ExpectMessage("CLUB TRANSFERED:\n0 golfers updated.\n1 new golfers added.\n" + wxString('=', 30) +
                 "\n");
+  for (const char* button : {"OKButton", "KVtoQBButton"}) user.Press(button);
+  user.Next([&] { install.platform->Fail({.only = Operation::kRead, .name = "club.kvg"}); });
+  user.Press("TransferButton");
   user.Press("OKButton");
+  user.Answer("Faults",
+              "The transfer has carried on over a fault:\nThe golfer at place 1 was left out: " +
+                  state().KVDataPath + "CLUB.kvg failed on purpose.");
   user.Press("ExitButton");
   user.RunProgram();
   const std::string quenby = install.folder.Read("qbdata/QBGOLFER.Q9D");
@@ -310,22 +299,98 @@ TEST_F(DesktopTest, TransfersGolfers) {
   EXPECT_EQ(quenby[9 * 1867 + 424], 'C');
 }
 
-// The golfers whom a run has left out are shown after its report.
-TEST_F(DesktopTest, FaultsThatARunCarriedOnOverAreShown) {
-  std::string golfer(2804, ' ');
-  Put16(golfer, 0, {1});
-  install.folder.Write("kvdata/club.kv5", std::string(781, ' '));
-  install.folder.Write("kvdata/club.kvg", golfer);
-  install.folder.Write("qbdata/KVtoQB.DAT", "0\r\n0\r\n\"Members 001\"\r\n\"club\"\r\n");
-  install.platform->Fail({.only = Operation::kRead, .name = "club.kvg"});
-  user.Press("KVtoQBButton");
+template <class Event>
+void Send(wxWindow& widget, Event event) {
+  event.SetEventObject(&widget);
+  widget.HandleWindowEvent(event);
+}
+
+// The screen handles a new focus after the toolkit has finished with it, but before the operator's
+// next event.
+TEST(FocusTest, WhatWaitsGoesBeforeWhatComesLater) {
+  Demo<BoxlessHost> demo;
+  wxTopLevelWindow& window = demo.Show("CourseTee");
+  auto& tee = dynamic_cast<CourseTee&>(demo.host.Load("CourseTee"));
+  std::string heard;
+  tee.FTeeName.on_leave = [&] { heard += "left,"; };
+  tee.FTeeNameAbv.on_change = [&] { heard += "typed,"; };
+  tee.OKButton.on_click = [&] { heard += "pressed,"; };
+  const auto go_on_to = [&](const char* name) {
+    tee.MoveFocus(&tee.FTeeName);
+    demo.host.PaintNow();
+    heard.clear();
+    wxWindow& widget = *wxWindow::FindWindowByName(name, &window);
+    Send(widget, wxFocusEvent(wxEVT_SET_FOCUS));
+    EXPECT_EQ(heard, "");
+    return &widget;
+  };
+  Send(*go_on_to("OKButton"), wxCommandEvent(wxEVT_BUTTON));
+  EXPECT_EQ(heard, "left,pressed,");
+  Send(*go_on_to("FTeeNameAbv"), wxCommandEvent(wxEVT_TEXT));
+  EXPECT_EQ(heard, "left,typed,");
+  go_on_to("FTeeNameAbv");
+  Send(window, wxKeyEvent(wxEVT_CHAR_HOOK));
+  EXPECT_EQ(heard, "left,");
+}
+
+TEST(FocusTest, ALostFocusGoesWhereItDoesNoHarm) {
+  Demo<BoxlessHost> demo;
+  demo.Show("LoadRoster");
+  auto& picker = dynamic_cast<LoadRoster&>(demo.host.Load("LoadRoster"));
+  const auto focus_after_hiding = [&](std::initializer_list<Control*> hidden) {
+    Control* const focused = *hidden.begin();
+    focused->SetVisible(true);
+    picker.NewRosterFrame.SetVisible(true);
+    picker.MoveFocus(focused);
+    for (Control* control : hidden) control->SetVisible(false);
+    demo.host.PaintNow();
+    wxTheApp->ProcessPendingEvents();
+    return picker.focus()->name();
+  };
+  TextBox& name = picker.NewRosterName;
+  EXPECT_EQ(focus_after_hiding({&name}), "grid1");  // not the button that leaves
+  EXPECT_EQ(focus_after_hiding({&name, &picker.grid1}), "DeleteButton");
+  EXPECT_EQ(focus_after_hiding({&name, &picker.NewRosterFrame, &picker.DeleteButton,
+                                &picker.NewButton, &picker.LoadButton}),
+            "CancelButton");
+}
+
+// Posts the scores of a league, and then presses the keys that have started the run once more.
+TEST(FocusTest, KeysAfterATransferPostNothingAgain) {
+  Demo<DesktopHost> demo;
+  DesktopHost& host = demo.host;
+  Operator user;
+  host.Show(host.Load("TransferMenu"));
+  user.Press("ZDtoKVButton");
+  user.Press("SourceButton");
+  for (const int key : {WXK_END, WXK_RETURN}) user.Type("LeagueList", key);  // Saturday Eighteen
+  user.Press("DestButton");
+  user.When(
+      "the picker", [&] { return host.IsShown("LoadRoster"); },
+      [&] { dynamic_cast<LoadRoster&>(host.Load("LoadRoster")).grid1.SetActiveRow(1); });
+  user.Press("LoadButton");
+  user.Await("the roster", [&] { return !host.IsShown("LoadRoster"); });
   user.Press("TransferButton");
-  user.Press("OKButton");
-  user.Answer("Faults",
-              "The transfer has carried on over a fault:\nThe golfer at place 1 was left out: " +
-                  state().KVDataPath + "club.kvg failed on purpose.");
+  user.Answer("Notice", "Transfer Complete...2 scores transfered.");
+  const auto scores = [&] {
+    const TempFolder& folder = demo.install.folder;
+    return folder.Read("kvdata/CLUB18.kvs") + folder.Read("kvdata/CLUB18.kvg");
+  };
+  std::string posted;
+  user.When(
+      "the focus in the log", [&] { return host.Load("ZDtoKV").focus()->name() == "Message"; },
+      [&] {
+        posted = scores();
+        for (int i = 0; i < 3; ++i) {
+          user.TypeNow(WXK_RETURN);
+          user.TypeNow(WXK_SPACE);
+        }
+      });
+  user.Press("ExitButton");
+  user.Await("the menu", [&] { return !host.IsShown("ZDtoKV"); });
   user.Press("ExitButton");
   user.RunProgram();
+  EXPECT_EQ(posted == scores(), true);
 }
 
 TEST(DesktopHostTest, AScreenWithoutAViewIsAnErrorToTell) {
@@ -337,34 +402,29 @@ TEST(DesktopHostTest, AScreenWithoutAViewIsAnErrorToTell) {
 }
 
 TEST(InvocationTest, TakesAFolderAndOneWord) {
-  struct Case {
-    std::vector<std::wstring> arguments;
+  const struct {
+    const wchar_t* words;
     const char* install;
     const char* word;
     const char* answer;     // its beginning
     const char* complaint;  // its beginning
+  } kCases[] = {
+      {L"", "", "", "", ""},
+      {L"zd", "", "zd", "", ""},
+      {L"/x", "", "/x", "", ""},
+      {L"--install Gr\u00FCn/\u4E2D \u00E9", "Gr\xC3\xBCn/\xE4\xB8\xAD", "\xE9", "", ""},
+      {L"QB \"--install=a b\"", "a b", "QB", "", ""},
+      {L"--version", "", "", "Golf Transfer ", ""},
+      {L"--help", "", "", "Usage: ", ""},
+      {L"ZD QB", "", "", "", "Unexpected parameter 'QB'"},
+      {L"--install", "", "", "", "Option 'install' requires a value."},
   };
-  const Case kCases[] = {
-      {{}, "", "", "", ""},
-      {{L"zd"}, "", "zd", "", ""},
-      {{L"/x"}, "", "/x", "", ""},
-      {{L"--install", L"Gr\u00FCn/\u4E2D", L"\u00E9"}, "Gr\xC3\xBCn/\xE4\xB8\xAD", "\xE9", "", ""},
-      {{L"QB", L"--install=a b"}, "a b", "QB", "", ""},
-      {{L"--version"}, "", "", "Golf Transfer ", ""},
-      {{L"--help"}, "", "", "Usage: golf-transfer [", ""},
-      {{L"ZD", L"QB"}, "", "", "", "Unexpected parameter 'QB'"},
-      {{L"--install"}, "", "", "", "Option 'install' requires a value."},
-  };
-  for (const Case& c : kCases) {
-    std::vector<std::wstring> arguments = {L"golf-transfer"};
-    arguments.insert(arguments.end(), c.arguments.begin(), c.arguments.end());
-    std::vector<wchar_t*> pointers;
-    for (std::wstring& argument : arguments) pointers.push_back(argument.data());
-    wxCmdLineParser parser(static_cast<int>(pointers.size()), pointers.data());
+  for (const auto& c : kCases) {
+    wxCmdLineParser parser{wxString(c.words)};
     const Invocation invocation = ParseInvocation(parser);
     SCOPED_TRACE(invocation.answer + invocation.complaint);
-    EXPECT_EQ(invocation.answer.substr(0, std::string(c.answer).size()), c.answer);
-    EXPECT_EQ(invocation.complaint.substr(0, std::string(c.complaint).size()), c.complaint);
+    EXPECT_TRUE(invocation.answer.starts_with(c.answer) &&
+                invocation.complaint.starts_with(c.complaint));
     if (!invocation.complaint.empty()) continue;
     EXPECT_EQ(invocation.install, c.install);
     EXPECT_EQ(invocation.word, c.word);

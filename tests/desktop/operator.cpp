@@ -17,13 +17,6 @@ namespace {
 constexpr int kTick = 5;                       // milliseconds
 constexpr std::chrono::seconds kPatience{60};  // for one step, on a slow machine with sanitizers
 
-wxPoint Middle(const wxRect& place) {
-  return {place.x + place.width / 2, place.y + place.height / 2};
-}
-wxPoint Middle(const wxWindow* widget) {
-  return widget == nullptr ? wxPoint() : Middle(wxRect(widget->GetSize()));
-}
-
 bool CanBeUsed(const wxWindow* widget) { return widget != nullptr && widget->IsEnabled(); }
 
 // Returns the text control of an input box, or null for any other dialog.
@@ -33,10 +26,6 @@ wxTextCtrl* EntryOf(wxDialog* dialog) {
     if (auto* entry = dynamic_cast<wxTextCtrl*>(child)) return entry;
   }
   return nullptr;
-}
-
-bool IsBox(wxDialog* dialog) {
-  return dynamic_cast<wxMessageDialog*>(dialog) != nullptr || EntryOf(dialog) != nullptr;
 }
 
 }  // namespace
@@ -60,13 +49,8 @@ wxWindow* Operator::Find(const std::string& name) {
   return nullptr;
 }
 
-void Operator::When(std::string what, std::function<bool()> condition,
-                    std::function<void()> action) {
-  steps_.push_back({std::move(what), std::move(condition), std::move(action)});
-}
-
 // The window system shows the widget once it reports the pointer over it.
-bool Operator::PointAt(wxWindow* widget, const wxPoint& place) {
+bool Operator::PointAt(wxWindow* widget, const wxRect& place) {
   if (!CanBeUsed(widget)) return false;
   if (target_ != widget) {
     target_ = widget;
@@ -80,10 +64,12 @@ bool Operator::PointAt(wxWindow* widget, const wxPoint& place) {
   return felt_;
 }
 
-// Never moves to the same point twice, since the window system would not report that.
-void Operator::MoveTo(const wxWindow& widget, const wxPoint& place) {
+// Moves to the middle of the place. Never moves to the same point twice, since the window system
+// would not report that.
+void Operator::MoveTo(const wxWindow& widget, const wxRect& place) {
   nudge_ = 1 - nudge_;
-  simulator_.MouseMove(widget.ClientToScreen(place + wxPoint(nudge_, 0)));
+  const wxPoint middle(place.x + place.width / 2 + nudge_, place.y + place.height / 2);
+  simulator_.MouseMove(widget.ClientToScreen(middle));
 }
 
 void Operator::Click() {
@@ -94,7 +80,11 @@ void Operator::Click() {
 
 void Operator::Press(const std::string& name) {
   When(
-      "press " + name, [this, name] { return PointAt(Find(name), Middle(Find(name))); },
+      "press " + name,
+      [this, name] {
+        wxWindow* widget = Find(name);
+        return widget != nullptr && PointAt(widget, widget->GetSize());
+      },
       [this] { Click(); });
 }
 
@@ -103,9 +93,10 @@ void Operator::PressCell(const std::string& name, int row, int column) {
       "press a cell of " + name,
       [this, name, row, column] {
         auto* grid = dynamic_cast<wxGrid*>(Find(name));
-        return grid != nullptr &&
-               PointAt(grid->GetGridWindow(),
-                       grid->CalcScrolledPosition(Middle(grid->CellToRect(row, column))));
+        if (grid == nullptr) return false;
+        wxRect cell = grid->CellToRect(row, column);
+        cell.SetPosition(grid->CalcScrolledPosition(cell.GetPosition()));
+        return PointAt(grid->GetGridWindow(), cell);
       },
       [this] { Click(); });
 }
@@ -119,7 +110,7 @@ void Operator::Answer(const std::string& title, const std::string& text, int key
         EXPECT_EQ(box.GetMessage().utf8_string(), text);
         TypeNow(key);
       });
-  AwaitEndOfBox(title);
+  Await("end of box " + title, [this] { return !SeesBox(); });
 }
 
 void Operator::AnswerInput(const std::string& title, const std::string& before,
@@ -142,10 +133,6 @@ void Operator::AnswerInput(const std::string& title, const std::string& before,
         EXPECT_EQ(EntryOf(dialogs_.back())->GetValue().utf8_string(), typed);
         TypeNow(WXK_RETURN);
       });
-  AwaitEndOfBox(title);
-}
-
-void Operator::AwaitEndOfBox(const std::string& title) {
   Await("end of box " + title, [this] { return !SeesBox(); });
 }
 
@@ -158,15 +145,14 @@ void Operator::Type(const std::string& name, int key) {
       });
 }
 
-void Operator::Do(std::function<void()> action) {
-  When(
-      "action", [] { return true; }, [action] { wxTheApp->CallAfter(action); });
+void Operator::Do(Action action) {
+  Next([action] { wxTheApp->CallAfter(action); });
 }
 
 void Operator::ClickNow(const std::string& name) {
   const wxWindow* widget = Find(name);
   ASSERT_NE(widget, nullptr) << name;
-  MoveTo(*widget, Middle(widget));
+  MoveTo(*widget, widget->GetSize());
   simulator_.MouseClick();
 }
 
@@ -175,7 +161,7 @@ void Operator::RunProgram() {
   EXPECT_TRUE(steps_.empty()) << "left over: " << steps_.front().what;
 }
 
-void Operator::RunUntil(const std::string& what, std::function<bool()> condition) {
+void Operator::RunUntil(const std::string& what, Condition condition) {
   wxEventLoop loop;
   When(what, std::move(condition), [&] { loop.Exit(); });
   loop.Run();
@@ -198,11 +184,10 @@ void Operator::Notify() {
 int Operator::Enter(wxDialog* dialog) {
   EXPECT_FALSE(in_input_) << "a key or the focus opens " << dialog->GetTitle();
   watching_ = false;
-  dialogs_.push_back(IsBox(dialog) ? dialog : nullptr);
+  const bool box = dynamic_cast<wxMessageDialog*>(dialog) != nullptr || EntryOf(dialog) != nullptr;
+  dialogs_.push_back(box ? dialog : nullptr);
   return wxID_NONE;
 }
-
-void Operator::Exit(wxDialog*) { dialogs_.pop_back(); }
 
 // The delayed call runs once the toolkit has finished with the event, before any call that the
 // program delays. Pressing a button is an event of its own, also by a key.

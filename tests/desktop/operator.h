@@ -21,13 +21,22 @@ namespace golf {
 // if a step opens a window before the program has returned from a key or a change of the focus.
 class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilter {
  public:
+  using Condition = std::function<bool()>;
+  using Action = std::function<void()>;
+
   Operator();
   ~Operator() override;
 
   // Runs the action once the condition holds.
-  void When(std::string what, std::function<bool()> condition, std::function<void()> action);
-  void Await(std::string what, std::function<bool()> condition) {
-    When(std::move(what), std::move(condition), [] {});
+  void When(const std::string& what, Condition condition, Action action) {
+    steps_.push_back({what, std::move(condition), std::move(action)});
+  }
+  void Await(const std::string& what, Condition condition) {
+    When(what, std::move(condition), [] {});
+  }
+  void Next(Action action) {
+    When(
+        "action", [] { return true; }, std::move(action));
   }
   // Clicks the widget of this name once it is visible and enabled.
   void Press(const std::string& name);
@@ -41,17 +50,16 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
   // Types a key once a widget of this name is visible and enabled.
   void Type(const std::string& name, int key);
   // Runs code that may show windows as an event of its own.
-  void Do(std::function<void()> action);
+  void Do(Action action);
 
   // Act at once, wherever the widget is.
   void ClickNow(const std::string& name);
   void TypeNow(int key) { simulator_.Char(key); }
-  bool SeesBox() const { return !dialogs_.empty() && dialogs_.back() != nullptr; }
 
   // Runs the program until it ends. All steps must be done by then.
   void RunProgram();
   // Processes events until the condition holds.
-  void RunUntil(const std::string& what, std::function<bool()> condition);
+  void RunUntil(const std::string& what, Condition condition);
 
   // Returns the widget of this name in the newest window that shows one. Null if there is none.
   static wxWindow* Find(const std::string& name);
@@ -59,18 +67,18 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
  private:
   struct Step {
     std::string what;
-    std::function<bool()> condition;
-    std::function<void()> action;
+    Condition condition;
+    Action action;
   };
 
   void Notify() override;
   int Enter(wxDialog* dialog) override;
-  void Exit(wxDialog* dialog) override;
+  void Exit(wxDialog*) override { dialogs_.pop_back(); }
   int FilterEvent(wxEvent& event) override;
-  bool PointAt(wxWindow* widget, const wxPoint& place);
-  void MoveTo(const wxWindow& widget, const wxPoint& place);
+  bool PointAt(wxWindow* widget, const wxRect& place);
+  void MoveTo(const wxWindow& widget, const wxRect& place);
   void Click();
-  void AwaitEndOfBox(const std::string& title);
+  bool SeesBox() const { return !dialogs_.empty() && dialogs_.back() != nullptr; }
 
   std::deque<Step> steps_;
   std::vector<wxDialog*> dialogs_;

@@ -32,69 +32,68 @@ void Send(wxWindow& widget, Event event) {
   wxTheApp->ProcessPendingEvents();
 }
 
-// Chooses the first item, or enters a text.
-void SendCommand(wxWindow& widget, const wxEventTypeTag<wxCommandEvent>& type) {
-  wxCommandEvent event(type, widget.GetId());
-  event.SetString("typed");
-  Send(widget, event);
-}
-
 void SendKey(wxWindow& widget, const wxEventTypeTag<wxKeyEvent>& type, int key) {
   wxKeyEvent event(type);
   event.m_keyCode = key;
   Send(widget, event);
 }
 
-void AddCellDeeds(wxGrid& grid, std::vector<Deed>& deeds) {
-  const auto cell = [&grid](const wxEventTypeTag<wxGridEvent>& type, int row) {
-    Send(grid, wxGridEvent(grid.GetId(), type, &grid, row, 0));
-  };
-  deeds.push_back({"row", [cell] { cell(wxEVT_GRID_SELECT_CELL, 1); }});
-  deeds.push_back({"double click", [cell] { cell(wxEVT_GRID_CELL_LEFT_DCLICK, 0); }});
-  deeds.push_back({"text", [&grid] { grid.GetTable()->SetValue(0, 0, "typed"); }});
-  for (int column = 0; column < grid.GetNumberCols(); ++column) {
-    if (grid.GetTable()->GetTypeName(1, column) != wxGRID_VALUE_BOOL) continue;
-    deeds.push_back(
-        {"tick", [&grid, column] {
-           Send(grid, wxGridEvent(grid.GetId(), wxEVT_GRID_CELL_LEFT_CLICK, &grid, 1, column));
-         }});
-  }
-  for (const int key : {WXK_RETURN, WXK_INSERT, WXK_DELETE}) {
-    deeds.push_back(
-        {"key " + std::to_string(key), [&grid, key] { SendKey(grid, wxEVT_KEY_DOWN, key); }});
-  }
-}
+// The commands of the widgets. They choose the first item, or enter a text.
+struct Command {
+  const wxClassInfo* widget;
+  const wxEventTypeTag<wxCommandEvent>& type;
+  const char* what;
+};
+const Command kCommands[] = {
+    {wxCLASSINFO(wxButton), wxEVT_BUTTON, "click"},
+    {wxCLASSINFO(wxCheckBox), wxEVT_CHECKBOX, "tick"},
+    {wxCLASSINFO(wxRadioButton), wxEVT_RADIOBUTTON, "click"},
+    {wxCLASSINFO(wxListBox), wxEVT_LISTBOX, "choice"},
+    {wxCLASSINFO(wxListBox), wxEVT_LISTBOX_DCLICK, "double click"},
+    {wxCLASSINFO(wxComboBox), wxEVT_COMBOBOX, "choice"},
+    {wxCLASSINFO(wxComboBox), wxEVT_TEXT, "text"},
+    {wxCLASSINFO(wxChoice), wxEVT_CHOICE, "choice"},
+    {wxCLASSINFO(wxTextCtrl), wxEVT_TEXT, "text"},
+};
 
 std::vector<Deed> DeedsOf(wxWindow& widget) {
   std::vector<Deed> deeds = {{"focus", [&widget] { Send(widget, wxFocusEvent(wxEVT_SET_FOCUS)); }}};
-  const auto add = [&](const char* what, const wxEventTypeTag<wxCommandEvent>& type) {
-    deeds.push_back({what, [&widget, &type] { SendCommand(widget, type); }});
+  const auto add_key = [&](wxWindow& window, const wxEventTypeTag<wxKeyEvent>& type, int key) {
+    deeds.push_back(
+        {"key " + std::to_string(key), [&window, &type, key] { SendKey(window, type, key); }});
   };
-  if (dynamic_cast<wxButton*>(&widget) != nullptr) {
-    wxWindow& window = *wxGetTopLevelParent(&widget);
-    add("click", wxEVT_BUTTON);
-    deeds.push_back({"Escape", [&window] { SendKey(window, wxEVT_CHAR_HOOK, WXK_ESCAPE); }});
-  }
-  if (dynamic_cast<wxCheckBox*>(&widget) != nullptr) add("tick", wxEVT_CHECKBOX);
-  if (dynamic_cast<wxRadioButton*>(&widget) != nullptr) add("click", wxEVT_RADIOBUTTON);
-  if (dynamic_cast<wxListBox*>(&widget) != nullptr) {
-    add("choice", wxEVT_LISTBOX);
-    add("double click", wxEVT_LISTBOX_DCLICK);
-    deeds.push_back({"Enter", [&widget] { SendKey(widget, wxEVT_CHAR_HOOK, WXK_RETURN); }});
-  }
-  if (dynamic_cast<wxComboBox*>(&widget) != nullptr) {  // may be a choice as well
-    add("choice", wxEVT_COMBOBOX);
-  } else if (dynamic_cast<wxChoice*>(&widget) != nullptr) {
-    add("choice", wxEVT_CHOICE);
-  }
-  if (dynamic_cast<wxTextEntry*>(&widget) != nullptr) add("text", wxEVT_TEXT);
-  if (dynamic_cast<wxNotebook*>(&widget) != nullptr) {
-    deeds.push_back({"page", [&widget] {
-                       Send(widget,
-                            wxBookCtrlEvent(wxEVT_NOTEBOOK_PAGE_CHANGED, widget.GetId(), 0));
+  for (const Command& command : kCommands) {
+    if (!widget.IsKindOf(command.widget)) continue;
+    // A combo box may be a choice as well.
+    if (command.type == wxEVT_CHOICE && widget.IsKindOf(wxCLASSINFO(wxComboBox))) continue;
+    deeds.push_back({command.what, [&widget, &command] {
+                       wxCommandEvent event(command.type, widget.GetId());
+                       event.SetString("typed");
+                       Send(widget, event);
                      }});
   }
-  if (auto* grid = dynamic_cast<wxGrid*>(&widget)) AddCellDeeds(*grid, deeds);
+  if (widget.IsKindOf(wxCLASSINFO(wxButton))) {
+    add_key(*wxGetTopLevelParent(&widget), wxEVT_CHAR_HOOK, WXK_ESCAPE);
+  }
+  if (widget.IsKindOf(wxCLASSINFO(wxListBox))) add_key(widget, wxEVT_CHAR_HOOK, WXK_RETURN);
+  if (widget.IsKindOf(wxCLASSINFO(wxNotebook))) {
+    const wxBookCtrlEvent turned(wxEVT_NOTEBOOK_PAGE_CHANGED, widget.GetId(), 0);
+    deeds.push_back({"page", [&widget, turned] { Send(widget, turned); }});
+  }
+  auto* grid = dynamic_cast<wxGrid*>(&widget);
+  if (grid == nullptr) return deeds;
+  const auto add_cell = [&](const char* what, const auto& type, int row, int column) {
+    const wxGridEvent event(grid->GetId(), type, grid, row, column);
+    deeds.push_back({what, [grid, event] { Send(*grid, event); }});
+  };
+  add_cell("row", wxEVT_GRID_SELECT_CELL, 1, 0);
+  add_cell("double click", wxEVT_GRID_CELL_LEFT_DCLICK, 0, 0);
+  deeds.push_back({"text", [grid] { grid->GetTable()->SetValue(0, 0, "typed"); }});
+  for (int column = 0; column < grid->GetNumberCols(); ++column) {
+    if (grid->GetTable()->GetTypeName(1, column) != wxGRID_VALUE_BOOL) continue;
+    add_cell("tick", wxEVT_GRID_CELL_LEFT_CLICK, 1, column);
+  }
+  for (const int key : {WXK_RETURN, WXK_INSERT, WXK_DELETE}) add_key(*grid, wxEVT_KEY_DOWN, key);
   return deeds;
 }
 
@@ -150,10 +149,8 @@ class CountingScreen {
   }
 
   static bool TakesInput(const Control& control) {
-    constexpr ControlKind kPassive[] = {ControlKind::kLabel, ControlKind::kFrame,
-                                        ControlKind::kTimer};
-    return std::find(std::begin(kPassive), std::end(kPassive), control.kind()) ==
-           std::end(kPassive);
+    return control.kind() != ControlKind::kLabel && control.kind() != ControlKind::kFrame &&
+           control.kind() != ControlKind::kTimer;
   }
 
   static std::vector<wxWindow*> WidgetsNamed(wxWindow& window, const std::string& name) {
@@ -212,17 +209,12 @@ class CountingScreen {
     return ran_ > 0 || screen_.focus() != &elsewhere;
   }
 
-  // Makes Escape press these buttons and no others.
-  void GiveEscapeTo(const Controls& controls) {
-    for (Control* control : screen_.controls()) {
-      auto* button = dynamic_cast<Button*>(control);
-      const bool given = std::find(controls.begin(), controls.end(), control) != controls.end();
-      if (button != nullptr) button->SetCancel(given);
-    }
-  }
-
   void Try(const Controls& controls, const std::vector<wxWindow*>& widgets) {
-    GiveEscapeTo(controls);
+    for (Control* control : screen_.controls()) {  // Escape presses these buttons and no others
+      auto* button = dynamic_cast<Button*>(control);
+      const bool tried = std::find(controls.begin(), controls.end(), control) != controls.end();
+      if (button != nullptr) button->SetCancel(tried);
+    }
     Control& elsewhere = Elsewhere(controls);
     Reach(elsewhere);
     const bool leaves = controls.front() == screen_.LeaveButton() && !screen_.PanelLeaveButton();

@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "forms/dialogs.h"
 #include "forms/grid.h"
 #include "forms/screen.h"
-#include "support/error_of.h"
 #include "support/test_host.h"
 
 namespace golf {

@@ -1,7 +1,5 @@
 // Tests what the screens of a course library refuse and what they leave in the files.
 
-#include <gtest/gtest.h>
-
 #include <utility>
 
 #include "app/tools.h"

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -185,20 +183,6 @@ TEST(CourseTransferTest, EachFileOperationFailsOnceAndNothingIsLost) {
     EXPECT_EQ(install.folder.Read("qbdata/ALLCRSQB.INX"), outcome.index_all);
     return failed;
   });
-}
-
-TEST(CourseTransferTest, AHeldLibraryIsErrorSeventyAndTheScreenStays) {
-  TestInstall install;
-  install.folder.Write("kvdata/kvcrs.dat", Course("One"));
-  install.platform->Fail(
-      {.error = ErrorNumber::kPermissionDenied, .only = Operation::kOpen, .name = "kvcrs.dat"});
-  install.Open("KVCoursestoQB", [&](Screen& screen) {
-    const auto press = [&] { install.host->Press(screen, "TransferCourses"); };
-    EXPECT_EQ(ClickErrorOf(press), 70);
-    EXPECT_TRUE(install.host->IsShown(screen));
-    EXPECT_EQ(ClickErrorOf(press), 0);
-  });
-  EXPECT_EQ(install.folder.Read("qbdata/qbcrs.dat").size(), kLength);
 }
 
 TEST(CourseTransferTest, ASecondProcessInTheInstallIsRefusedUntouched) {

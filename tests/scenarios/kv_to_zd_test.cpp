@@ -1,7 +1,5 @@
 #include "screens/transfers/kv_to_zd.h"
 
-#include <gtest/gtest.h>
-
 #include "support/league_test.h"
 #include "support/same_file.h"
 
@@ -181,41 +179,20 @@ TEST(KVtoZDTest, BadInputChangesNothing) {
   }
 }
 
-TEST(KVtoZDTest, EachFileOperationFailsOnceAndNothingIsLost) {
-  const Case c = Cases()[0];
-  const Outcome outcome(c);
-  ForEachFault([&](int nth) {
-    TestInstall install;
-    WriteInstall(install, c);
-    install.platform->Fail({.error = ErrorNumber::kDiskFull, .nth = nth, .bytes_first = 100});
-    // If the settings cannot be read, the screen stays empty.
-    if (Transfer(install) != outcome.log) {
-      EXPECT_TRUE(Told(install, "error 61") || Told(install, "close KVtoZD") ||
-                  !install.host->faults().empty());
-    }
-    const bool failed = install.platform->Failed();
-    install.Restart();
-    WriteInstall(install, {"", c.golfers, install.folder.Read("zddata/00011.ZP8"),
-                           install.folder.Read("zddata/0001.ZS8")});
-    EXPECT_EQ(Transfer(install), outcome.log);
-    ExpectLeague(install, outcome.players, outcome.substitutes);
-    return failed;
-  });
-}
-
-// A golfer who cannot be read is left out and named, and the others follow. The next run transfers
-// him.
-TEST(KVtoZDTest, EachReadFailsOnce) {
+// Whatever fails, each record is as it was or as it must be. Whoever cannot be read is left out and
+// told of; the others follow, and he comes with the next run.
+TEST(KVtoZDTest, EachCallFailsOnceAndTheNextRunBringsTheRest) {
   Case c = Cases()[0];
   c.golfers = Golfer(1, 7, "Seven", 10) + Golfer(1, 9, "Nine", 9) + Golfer(1, 8, "Eight", 8);
   const Outcome outcome(c);
   ForEachFault([&](int nth) {
     TestInstall install;
     WriteInstall(install, c);
-    install.platform->Fail({.nth = nth, .only = Operation::kRead, .name = "8"});
-    const bool whole = Transfer(install) == outcome.log;
+    install.platform->Fail({.error = ErrorNumber::kDiskFull, .nth = nth});
+    // If the settings cannot be read, the screen stays empty.
+    EXPECT_TRUE(Transfer(install) == outcome.log || Told(install, "error 61") ||
+                Told(install, "close KVtoZD") || !install.host->faults().empty());
     const bool failed = install.platform->Failed();
-    EXPECT_TRUE(whole || Told(install, "error 57") || !install.host->faults().empty());
     const std::string players = install.folder.Read("zddata/00011.ZP8");
     const std::string substitutes = install.folder.Read("zddata/0001.ZS8");
     EXPECT_EQ(StrangeRecords(players, kLeaguePlayerBytes, c.players, outcome.players), "");

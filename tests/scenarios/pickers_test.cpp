@@ -1,7 +1,5 @@
 // Tests of the roster pickers and of what screens remember.
 
-#include <gtest/gtest.h>
-
 #include "screens/rosters/load_roster.h"
 #include "screens/rosters/load_rosters.h"
 #include "screens/transfers/kv_to_qb.h"

@@ -1,7 +1,5 @@
 #include "screens/transfers/zd_to_kv.h"
 
-#include <gtest/gtest.h>
-
 #include "screens/rosters/load_roster.h"
 #include "stores/course/course_layout.h"
 #include "support/league_test.h"
@@ -114,6 +112,7 @@ std::string Player(int id, int sex, int team, int score, const std::string& last
 class ZDtoKVTest : public testing::Test {
  protected:
   void Prepare(int roster_holes, int league_holes) {
+    install.ForgetHistory();
     const TempFolder& folder = install.folder;
     header = Pattern(781);
     header[152] = static_cast<char>(roster_holes);

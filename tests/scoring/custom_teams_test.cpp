@@ -143,6 +143,16 @@ TEST_F(CustomTeamsTest, ChoicesOfTheLists) {
             "3 worst balls (Total All balls)=H123;");
 }
 
+TEST_F(CustomTeamsTest, StylesOfSelection) {
+  for (const std::string style : {"N", "n", "B", "b", "G", "x"}) {
+    ReportLayout layout;
+    layout.BallSelection = style;
+    LimitToChoices(layout);
+    EXPECT_EQ(layout.BallSelection, style == "x" ? "G" : UpperCase(style));
+    for (const int hole : {0, 91}) EXPECT_EQ(ErrorOf([&] { layout.At(hole, 0); }), 9);
+  }
+}
+
 TEST_F(CustomTeamsTest, RanksTeams) {
   ReportLayout layout;
   layout.At(18, 0) = {"10", "L1", "NONE"};  // of the golfers 1 and 10
@@ -163,6 +173,7 @@ TEST_F(CustomTeamsTest, RanksTeams) {
   EXPECT_EQ(balls.Team(1).Score(SumColumn(1, 1)), std::nullopt);
   EXPECT_EQ(balls.TiebreakKeys(1, 1, 18, {18, 9, 10})[0], "0005,005,005,05,05");
   EXPECT_EQ(balls.TiebreakKeys(1, 1, 18, {18, 9, 10})[1], "0005,05,00");
+  EXPECT_EQ(balls.TiebreakKeys(1, 1, 9, {18, 1})[1], "0005,00");
   const auto places = [&](const RankingOrder& order, int option, int block) {
     balls.XBallSortTeamStandings(order, option, {"B", "A", "A", "A", "B"});
     std::string all;

@@ -1,9 +1,6 @@
 #include "forms/grid_sort.h"
 
-#include <gtest/gtest.h>
-
 #include "screens/results/grid_sort_screen.h"
-#include "support/error_of.h"
 #include "support/test_host.h"
 
 namespace golf {

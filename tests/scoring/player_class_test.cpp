@@ -1,10 +1,7 @@
 #include "scoring/player/player_class.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 
-#include "support/error_of.h"
 #include "support/scored_round.h"
 #include "support/test_host.h"
 
@@ -127,6 +124,8 @@ TEST_F(PlayerClassTest, TotalsOverRounds) {
   for (int round = 1; round <= 3; ++round) {
     scored.PlayInTurn(round, 18);
     scored.entry.Set<"TourPutts">({round}, 30);
+    scored.entry.Set<"TourFairways">({round}, 7);
+    scored.entry.Set<"TourGreens">({round}, 5);
     scored.entry.Set<"TourEarnings">({round}, 100050);
   }
   scored.entry.Fill<"TourGrossHandicap">(12.5);
@@ -136,6 +135,7 @@ TEST_F(PlayerClassTest, TotalsOverRounds) {
   EXPECT_EQ(player.TourTotalNet(2, 3) + player.TourTotalNet(3), "15578");
   EXPECT_EQ(player.TourTotalGross({}, 1), "270");  // without a start the end is ignored
   EXPECT_EQ(player.TourTotalQuotaResults() + player.TourTotalPutts(), "-7.5090");
+  EXPECT_EQ(player.TourTotalFairways() + player.TourTotalGreens(2), "2110");
   EXPECT_EQ(player.TourTotalEarnings(), "30.03");  // each counts in whole cents
   EXPECT_EQ(player.TourTotalGross(3, 2), "0");
   EXPECT_EQ(ErrorOf([&] { player.TourTotalGross(7, 8); }), 9);

@@ -1,8 +1,6 @@
 #include "scoring/team/team_class.h"
 
-#include <gtest/gtest.h>
-
-#include "support/error_of.h"
+#include "scoring/layouts/custom_standings.h"
 #include "support/scored_round.h"
 #include "support/test_host.h"
 
@@ -127,6 +125,16 @@ TEST_F(TeamClassTest, ScrambleNetGoesByTheTeamHandicapAsShown) {
   EXPECT_EQ(nobody.ScrambleNet(21), "");
   EXPECT_EQ(nobody.NetScrambleTiebreakUSGA(), "000,000,000,00,00");
   EXPECT_FALSE(nobody.GetRecord(200));
+}
+
+TEST_F(TeamClassTest, CustomStandingsHaveTheTiebreaksOfTheActiveRound) {
+  Load({{std::vector(18, 5)}, {std::vector(18, 4)}});
+  ReportLayout layout;
+  for (int hole = 1; hole <= kHoles; ++hole) layout.At(hole, 0) = {"12", "L1", "NONE"};
+  CustomStandings standings(install.state(), layout);
+  install.state().Team1().GetRecord(1);
+  standings.AddTeam();
+  EXPECT_EQ(standings.WorkOut()[0].tiebreaks[2].substr(0, 13), "0072,04,04,04");
 }
 
 TEST_F(TeamClassTest, TiebreakKeys) {

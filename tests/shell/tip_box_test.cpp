@@ -1,7 +1,5 @@
 #include "screens/tip_box.h"
 
-#include <gtest/gtest.h>
-
 #include "support/test_host.h"
 
 namespace golf {

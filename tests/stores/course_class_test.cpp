@@ -1,9 +1,6 @@
 #include "stores/course/course_class.h"
 
-#include <gtest/gtest.h>
-
 #include "support/bytes.h"
-#include "support/error_of.h"
 #include "support/test_host.h"
 
 namespace golf {

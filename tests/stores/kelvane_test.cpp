@@ -1,12 +1,9 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <numeric>
 
 #include "stores/kelvane/kelvane_files.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "support/bytes.h"
-#include "support/error_of.h"
 #include "support/test_host.h"
 
 namespace golf {

@@ -186,6 +186,18 @@ TEST_F(EntriesTest, GettersMend) {
   }
 }
 
+TEST_F(EntriesTest, ATotalAndTheLockOfARound) {
+  std::string entry = Entry(1);
+  Load(entry);
+  player.SetTourScoreGross(21, 2, 90);
+  Put16(entry, FieldOf<TournamentPlayerLayout, "TourScoreGrossTotal">().offset + 2, {90});
+  EXPECT_EQ(Saved(), entry);
+  for (const auto& [value, locked] : {std::pair{"y", 1}, {"no", 0}, {"1", 1}, {"Yes", 0}}) {
+    player.SetTourLockFlag(2, value);
+    EXPECT_EQ(player.TourLockFlag(2), locked) << value;
+  }
+}
+
 class TeamsTest : public EntriesTest {
  protected:
   TeamsTest() { team.OpenTeamFile(12); }

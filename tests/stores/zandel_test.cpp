@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "stores/zandel/zandel_batches.h"
 #include "stores/zandel/zandel_files.h"
 #include "support/bytes.h"
-#include "support/error_of.h"
 #include "support/test_host.h"
 
 namespace golf {
@@ -49,6 +46,7 @@ TEST_F(ZandelTest, BatchesOfScores) {
     EXPECT_EQ(batches->list[0].Item(), "Practice Scores" + std::string(90, ' ') + "501");
     if (row.events <= 0) continue;
     const std::string blanks(50, ' ');
+    EXPECT_EQ(BatchHeading(batches->list[1].Item()), "Event #1 scores 05/20/24");
     EXPECT_EQ(batches->list[1].Item(), "Event #1 scores 05/20/24" + blanks + "001");
     EXPECT_EQ(batches->list[2].Item(),
               "Non-Event scores after event #1 but before #2" + blanks + "502");

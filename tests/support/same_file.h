@@ -16,7 +16,9 @@ testing::AssertionResult SameFile(std::string_view file_name, const std::string&
                                   const std::string& expected);
 
 // Does the same for a file in a folder.
-testing::AssertionResult Holds(const TempFolder& folder, const std::string& file_name,
-                               const std::string& expected);
+inline testing::AssertionResult Holds(const TempFolder& folder, const std::string& file_name,
+                                      const std::string& expected) {
+  return SameFile(file_name, folder.Read(file_name), expected);
+}
 
 }  // namespace golf

@@ -1,8 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace golf {
 
@@ -11,23 +16,54 @@ namespace golf {
 class TempFolder {
  public:
   // `name` is the folder's own name. Its parent makes it unique.
-  explicit TempFolder(std::string_view name = "install");
+  explicit TempFolder(std::string_view name = "install")
+      : parent_(NewFolder()), folder_(parent_ / FromUtf8(name)) {
+    std::filesystem::create_directory(folder_);
+  }
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
-  ~TempFolder();
+  ~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(parent_, ignored);
+  }
 
-  std::string Path(std::string_view name = "") const;
-  bool Exists(std::string_view name) const;
+  std::string Path(std::string_view name = "") const {
+    const std::u8string path = At(name).u8string();
+    return {path.begin(), path.end()};
+  }
+  bool Exists(std::string_view name) const { return std::filesystem::exists(At(name)); }
 
   // Writing makes missing folders.
-  void Write(std::string_view name, std::string_view bytes) const;
-  void MakeFolder(std::string_view name) const;
-  void Remove(std::string_view name) const;
+  void Write(std::string_view name, std::string_view bytes) const {
+    std::filesystem::create_directories(At(name).parent_path());
+    std::ofstream file(At(name), std::ios::binary);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (!file.flush()) throw std::runtime_error("cannot write " + Path(name));
+  }
+  void MakeFolder(std::string_view name) const { std::filesystem::create_directories(At(name)); }
+  void Remove(std::string_view name) const { std::filesystem::remove(At(name)); }
   // Returns the whole file. The test fails if it cannot be read.
-  std::string Read(std::string_view name) const;
+  std::string Read(std::string_view name) const {
+    std::ifstream file(At(name), std::ios::binary);
+    if (!file) throw std::runtime_error("cannot read " + Path(name));
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
 
  private:
-  std::filesystem::path At(std::string_view name) const;
+  static std::filesystem::path FromUtf8(std::string_view name) {
+    return {std::u8string(name.begin(), name.end())};
+  }
+  static std::filesystem::path NewFolder() {
+    std::random_device random;
+    for (;;) {
+      const auto folder = std::filesystem::temp_directory_path() /
+                          ("golf-transfer-test-" + std::to_string(random()));
+      if (std::filesystem::create_directory(folder)) return folder;
+    }
+  }
+  std::filesystem::path At(std::string_view name) const {
+    return name.empty() ? folder_ : folder_ / FromUtf8(name);
+  }
 
   std::filesystem::path parent_;
   std::filesystem::path folder_;

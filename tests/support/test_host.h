@@ -1,5 +1,9 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -21,12 +25,25 @@ class RecordingListener : public HostListener {
 
   void OnOpen(const Screen& screen) override { events.push_back("open " + screen.name()); }
   void OnClose(const Screen& screen) override { events.push_back("close " + screen.name()); }
-  void OnMessage(const Box& box, BoxButton answer) override;
-  void OnInput(const InputBox& box, const std::string& answer) override;
-  void OnTip(const TipView& tip, const std::string& answer) override;
+  void OnMessage(const Box& box, BoxButton answer) override {
+    events.push_back("message [" + box.title + "] " + box.text + " -> " +
+                     std::string(NameOf(answer)));
+  }
+  void OnInput(const InputBox& box, const std::string& answer) override {
+    events.push_back("input [" + box.title + "] " + box.text + " -> " + answer);
+  }
+  void OnTip(const TipView& tip, const std::string& answer) override {
+    events.push_back("tip " + std::to_string(tip.type) + " [" + tip.title + "] " + tip.text +
+                     " -> " + answer);
+    if (on_tip) on_tip();
+  }
   void OnBeep() override { events.push_back("beep"); }
-  void OnStart(const std::string& program, const std::string& arguments) override;
-  void OnError(const NumberedError& error) override;
+  void OnStart(const std::string& program, const std::string& arguments) override {
+    events.push_back("start " + program.substr(program.find_last_of("/\\") + 1) + "|" + arguments);
+  }
+  void OnError(const NumberedError& error) override {
+    events.push_back("error " + std::to_string(error.number()));
+  }
   void OnProgress(const Progress& progress) override {
     if (on_progress) on_progress(progress);
   }
@@ -41,14 +58,38 @@ class RecordingListener : public HostListener {
 class TestInstall {
  public:
   // Makes the folders kvdata, qbdata and zddata unless `with_folders` is false.
-  explicit TestInstall(bool with_folders = true);
+  explicit TestInstall(bool with_folders = true) {
+    for (const char* name : {"kvdata", "qbdata", "zddata"}) {
+      if (with_folders) folder.MakeFolder(name);
+    }
+    Restart();
+  }
 
   // Starts the program again on the same folder.
-  void Restart();
+  void Restart() {
+    host.reset();
+    auto failing = std::make_unique<FailingPlatform>(*real_);
+    platform = failing.get();
+    application = std::make_unique<Application>(std::move(failing));
+    application->Start(DateFromCivil({2024, 5, 13}), {});
+    host = std::make_unique<HeadlessHost>(state(), Application::Screens(), listener);
+    host->clock = [] { return DateFromCivil({2024, 5, 13}); };
+    listener.events.clear();
+  }
+  // Deletes the history, so that each run of a loop makes the same calls.
+  void ForgetHistory() { std::filesystem::remove_all(folder.Path("transfer-history")); }
   // Opens a screen. `drive` works each screen that opens, until none is left.
-  void Open(const char* screen, std::function<void(Screen&)> drive, const char* word = "");
+  void Open(const char* screen, std::function<void(Screen&)> drive, const char* word = "") {
+    host->drive = std::move(drive);
+    host->Operate([&] { OpenScreen(state(), *host, screen, word); });
+  }
   // Returns the last box that was answered. Empty if there was none.
-  std::string LastMessage() const;
+  std::string LastMessage() const {
+    for (auto event = listener.events.rbegin(); event != listener.events.rend(); ++event) {
+      if (event->starts_with("message")) return *event;
+    }
+    return "";
+  }
 
   SharedState& state() { return application->state(); }
   std::vector<std::string>& events() { return listener.events; }
@@ -60,12 +101,19 @@ class TestInstall {
   std::unique_ptr<HeadlessHost> host;
 
  private:
-  std::unique_ptr<Platform> real_;
+  std::unique_ptr<Platform> real_ = MakePlatform(folder.Path());
 };
 
 // True if an event came, as RecordingListener records it, or one with this beginning.
-bool Told(const TestInstall& install, const std::string& event);
-bool ToldBeginning(const TestInstall& install, const std::string& beginning);
+inline bool ToldBeginning(const TestInstall& install, const std::string& beginning) {
+  const auto& events = install.listener.events;
+  return std::any_of(events.begin(), events.end(),
+                     [&](const std::string& event) { return event.starts_with(beginning); });
+}
+inline bool Told(const TestInstall& install, const std::string& event) {
+  const auto& events = install.listener.events;
+  return std::find(events.begin(), events.end(), event) != events.end();
+}
 
 // Returns the number of the error that ends a click of `action`, or 0 if none does.
 template <class Action>
@@ -81,7 +129,15 @@ int ClickErrorOf(Action&& action) {
 
 // Runs `run(n)` with the fault at the n-th call to the system, for n from 1, until it returns that
 // the fault has not occurred.
-void ForEachFault(const std::function<bool(int)>& run);
+template <class Run>
+void ForEachFault(Run&& run) {
+  constexpr int kMost = 500;  // a run has fewer calls
+  for (int nth = 1; nth < kMost; ++nth) {
+    SCOPED_TRACE(nth);
+    if (!run(nth)) return;
+  }
+  ADD_FAILURE() << "the faults do not end";
+}
 
 // Chooses from a list of rosters as the operator. Returns false on any other screen.
 template <class Picker>
