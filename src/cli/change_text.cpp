@@ -120,6 +120,8 @@ std::vector<FieldElement> ChangedElements(const RecordChange& change) {
   after.resize(change.layout->length);
   for (const Field& field : change.layout->fields) {
     for (std::size_t nth = 0; nth < field.Count(); ++nth) {
+      const std::size_t at = field.OffsetOfNth(nth);
+      if (before.compare(at, field.width, after, at, field.width) == 0) continue;
       const FieldElement element{field, nth};
       if (ValueOf(element, before) != ValueOf(element, after)) changed.push_back(element);
     }

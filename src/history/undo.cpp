@@ -34,12 +34,12 @@ std::vector<FieldElement> ChangedSince(const LayoutInfo& layout, const Sides& si
   std::vector<FieldElement> changed;
   for (const Field& field : layout.fields) {
     for (std::size_t nth = 0; nth < field.Count(); ++nth) {
-      const FieldElement element{field, nth};
-      const std::string_view old_bytes = element.In(sides.old_bytes);
-      const std::string_view written = element.In(sides.written);
-      const std::string_view found = element.In(sides.found);
-      if (found == written || found == old_bytes) continue;
-      if (sides.is_added || old_bytes != written) changed.push_back(element);
+      const std::size_t at = field.OffsetOfNth(nth);
+      const auto same = [&](const std::string& a, const std::string& b) {
+        return a.compare(at, field.width, b, at, field.width) == 0;
+      };
+      if (same(sides.found, sides.written) || same(sides.found, sides.old_bytes)) continue;
+      if (sides.is_added || !same(sides.old_bytes, sides.written)) changed.push_back({field, nth});
     }
   }
   return changed;
