@@ -4,6 +4,8 @@
 #include <cstring>
 #include <optional>
 
+#include "core/text.h"
+
 namespace golf {
 namespace {
 
@@ -233,21 +235,21 @@ void ChangeApplier::Check(HistoryFile& history, Expected expected,
   std::shared_ptr<PlatformFile> file;
   std::optional<PlaceReader> reader;
   std::string path;
-  std::set<std::string> still_there;  // files that the run deletes
-  std::set<std::string> there_again;  // files that it has deleted
+  std::set<std::string> still_there;  // files that the run deletes, in capitals
+  std::set<std::string> there_again;  // files that it has deleted, in capitals
   const auto begin = [&](const HistoryFileEntry& entry) {
     path = folders_.Path(entry.path);
     reader.reset();
-    if (entry.fate == FileFate::kCreated) there_again.erase(path);
+    if (entry.fate == FileFate::kCreated) there_again.erase(UpperCase(path));
     file = nullptr;
     // The file that takes the place of a deleted one is not there before the other one is gone.
-    if (entry.fate == FileFate::kCreated && still_there.contains(path)) return;
+    if (entry.fate == FileFate::kCreated && still_there.contains(UpperCase(path))) return;
     CheckFate(entry, expected, differs);
     if (entry.fate == FileFate::kDeleted) {
       if (!Exists(folders_.history + entry.kept_as)) {
-        still_there.insert(path);
+        still_there.insert(UpperCase(path));
       } else if (Exists(path)) {
-        there_again.insert(path);
+        there_again.insert(UpperCase(path));
       }
       return;
     }
@@ -299,7 +301,7 @@ void ChangeApplier::Apply(HistoryFile& history, Direction direction, bool untouc
   std::vector<HistoryFileEntry> created;
   std::vector<HistoryFileEntry> deleted;
   std::set<std::string> folders;      // in which names change
-  std::set<std::string> still_there;  // files that the run deletes
+  std::set<std::string> still_there;  // files that the run deletes, in capitals
   std::string path;
   std::int64_t kept_end = 0;
   bool open = false;
@@ -317,7 +319,7 @@ void ChangeApplier::Apply(HistoryFile& history, Direction direction, bool untouc
     if (entry.fate == FileFate::kDeleted) {
       deleted.push_back(entry);
       const bool is_kept = Exists(folders_.history + entry.kept_as);
-      if (!is_kept) still_there.insert(path);
+      if (!is_kept) still_there.insert(UpperCase(path));
       // Also where a process that was killed has renamed it: its change may not be synced.
       folders.insert(FolderOf(path, folders_.separator));
       folders.insert(folders_.history);
@@ -327,7 +329,7 @@ void ChangeApplier::Apply(HistoryFile& history, Direction direction, bool untouc
     if (entry.fate == FileFate::kCreated) {
       folders.insert(FolderOf(path, folders_.separator));
       if (!forward) {
-        if (!still_there.contains(path)) created.push_back(entry);
+        if (!still_there.contains(UpperCase(path))) created.push_back(entry);
         return;
       }
       if (!Exists(path)) gate_.Create(path);

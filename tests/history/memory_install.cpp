@@ -257,6 +257,7 @@ std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform
   } catch (const ClickEnded&) {
     // The listener was told.
   }
+  listener.Look();
   return std::move(listener.events);
 }
 
