@@ -236,7 +236,7 @@ void ChangeApplier::Check(HistoryFile& history, Expected expected,
   std::optional<PlaceReader> reader;
   std::string path;
   std::set<std::string> still_there;  // files that the run deletes, in capitals
-  std::set<std::string> there_again;  // files that it has deleted, in capitals
+  std::map<std::string, std::string> there_again;  // files that it has deleted, by capitals
   const auto begin = [&](const HistoryFileEntry& entry) {
     path = folders_.Path(entry.path);
     reader.reset();
@@ -249,7 +249,7 @@ void ChangeApplier::Check(HistoryFile& history, Expected expected,
       if (!Exists(folders_.history + entry.kept_as)) {
         still_there.insert(UpperCase(path));
       } else if (Exists(path)) {
-        there_again.insert(UpperCase(path));
+        there_again[UpperCase(path)] = path;
       }
       return;
     }
@@ -263,7 +263,7 @@ void ChangeApplier::Check(HistoryFile& history, Expected expected,
     if (!right) differs({path, place.offset});
   };
   history.Read({.file = begin, .place = take});
-  for (const std::string& again : there_again) differs({again, -1});
+  for (const auto& [key, again] : there_again) differs({again, -1});
 }
 
 // A file as a whole: whether it is there, and its length.

@@ -170,7 +170,6 @@ TEST(HeldChangesTest, ReadAsIfTheyWereMade) {
     }
     const DataFiles before = DataOf(disk);
     program.transactions.Begin({});
-    HistoryGate(program.held).Create("/e");
     for (int step = 0; step < 60; ++step) pair.Step(random);
     program.transactions.Drop();
     EXPECT_EQ(Difference(DataOf(disk), before), "");
