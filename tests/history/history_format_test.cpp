@@ -43,7 +43,7 @@ TEST(HistoryFormatTest, PlacesComeBackFromTheirCode) {
     }
     CodeReader reader(std::string_view(code).substr(6));
     HistoryPlace place;
-    reader.Place(old_bytes.size(), new_bytes.size(), place);
+    reader.Place(old_bytes.size(), new_bytes.size(), PlaceParts::kWhole, place);
     ASSERT_FALSE(reader.failed());
     ASSERT_TRUE(reader.AtEnd());
     ASSERT_EQ(place.old_bytes, old_bytes);
