@@ -235,7 +235,7 @@ void ChangeApplier::Check(HistoryFile& history, Expected expected,
   std::shared_ptr<PlatformFile> file;
   std::optional<PlaceReader> reader;
   std::string path;
-  std::set<std::string> still_there;  // files that the run deletes, in capitals
+  std::set<std::string> still_there;               // files that the run deletes, in capitals
   std::map<std::string, std::string> there_again;  // files that it has deleted, by capitals
   const auto begin = [&](const HistoryFileEntry& entry) {
     path = folders_.Path(entry.path);
