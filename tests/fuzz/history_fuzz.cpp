@@ -51,11 +51,12 @@ std::string FileOf(std::string_view portions, unsigned marks) {
 }
 
 RecordKinds Kinds() {
-  return {.layout_of = [](std::string_view) { return std::nullopt; },
-          .title_of = [](std::string_view, std::string_view) { return std::string(); },
-          .is_derived = [](std::string_view name) { return name.ends_with(".INX"); },
-          .referred_by = [](std::string_view, std::int64_t,
-                            std::string_view) { return std::string(); }};
+  return {
+      .layout_of = [](std::string_view) { return std::nullopt; },
+      .title_of = [](std::string_view, std::int64_t, std::string_view) { return std::string(); },
+      .derived_from = [](std::string_view) { return std::string(); },
+      .is_same = [](std::string_view, std::string_view, std::string_view) { return false; },
+      .references = [] { return [](std::string_view, std::int64_t) { return std::string(); }; }};
 }
 
 template <class Action>
@@ -93,7 +94,6 @@ void Walk(const std::string& file, RecoveryChoice choice) {
   Try([&] { transactions.Recover(choice); });
   Try([&] {
     for (const HistoryRun& run : ListRuns(folder).runs) {
-      transactions.Begin({.command = "undo", .undoes = run.run});
       HoldUndo(held, folder, transactions, Kinds(), run);
       transactions.Commit("");
     }
