@@ -4,6 +4,8 @@
 #include <cstring>
 #include <optional>
 
+#include "core/text.h"
+
 namespace golf {
 namespace {
 
@@ -256,16 +258,22 @@ void ChangeApplier::Check(HistoryFile& history, Expected expected,
   std::shared_ptr<PlatformFile> file;
   std::optional<PlaceReader> reader;
   std::string path;
-  std::set<std::string> still_there;  // files that the run deletes
+  std::set<std::string> still_there;               // files that the run deletes, in capitals
+  std::map<std::string, std::string> there_again;  // files that it has deleted, by capitals
   const auto begin = [&](const HistoryFileEntry& entry) {
     path = folders_.Path(entry.path);
     reader.reset();
+    if (entry.fate == FileFate::kCreated) there_again.erase(UpperCase(path));
     file = nullptr;
     // The file that takes the place of a deleted one is not there before the other one is gone.
-    if (entry.fate == FileFate::kCreated && still_there.contains(path)) return;
+    if (entry.fate == FileFate::kCreated && still_there.contains(UpperCase(path))) return;
     CheckFate(entry, expected, differs);
     if (entry.fate == FileFate::kDeleted) {
-      if (!Exists(folders_.history + entry.kept_as)) still_there.insert(path);
+      if (!Exists(folders_.history + entry.kept_as)) {
+        still_there.insert(UpperCase(path));
+      } else if (Exists(path)) {
+        there_again[UpperCase(path)] = path;
+      }
       return;
     }
     file = OpenExisting(path);
@@ -282,6 +290,7 @@ void ChangeApplier::Check(HistoryFile& history, Expected expected,
     if (!right) differs({path, place.offset});
   };
   history.Read({.file = begin, .place = take});
+  for (const auto& [key, again] : there_again) differs({again, -1});
 }
 
 // A file as a whole: whether it is there, and its length.
@@ -319,7 +328,7 @@ void ChangeApplier::Apply(HistoryFile& history, Direction direction, bool untouc
   std::vector<HistoryFileEntry> created;
   std::vector<HistoryFileEntry> deleted;
   std::set<std::string> folders;      // in which names change
-  std::set<std::string> still_there;  // files that the run deletes
+  std::set<std::string> still_there;  // files that the run deletes, in capitals
   std::string path;
   std::int64_t kept_end = 0;
   bool open = false;
@@ -332,21 +341,22 @@ void ChangeApplier::Apply(HistoryFile& history, Direction direction, bool untouc
     finish();
     path = folders_.Path(entry.path);
     if (skipped.contains({path, -1})) return;
+    // Another program has made a file of this name. It stays as it is.
+    if (entry.fate == FileFate::kCreated && HasConflict(skipped, path)) return;
     if (entry.fate == FileFate::kDeleted) {
       deleted.push_back(entry);
       const bool is_kept = Exists(folders_.history + entry.kept_as);
-      if (!is_kept) still_there.insert(path);
-      if (!forward || is_kept) return;
-      gate_.Rename(path, folders_.history + entry.kept_as);
+      if (!is_kept) still_there.insert(UpperCase(path));
+      // Also where a process that was killed has renamed it: its change may not be synced.
       folders.insert(FolderOf(path, folders_.separator));
       folders.insert(folders_.history);
+      if (forward && !is_kept) gate_.Rename(path, folders_.history + entry.kept_as);
       return;
     }
     if (entry.fate == FileFate::kCreated) {
       folders.insert(FolderOf(path, folders_.separator));
       if (!forward) {
-        const bool is_other = still_there.contains(path) || HasConflict(skipped, path);
-        if (!is_other) created.push_back(entry);
+        if (!still_there.contains(UpperCase(path))) created.push_back(entry);
         return;
       }
       if (!Exists(path)) gate_.Create(path);
@@ -373,11 +383,7 @@ void ChangeApplier::Apply(HistoryFile& history, Direction direction, bool untouc
   if (!forward) {
     for (auto entry = deleted.rbegin(); entry != deleted.rend(); ++entry) {
       const std::string kept = folders_.history + entry->kept_as;
-      if (!Exists(kept)) continue;
-      const std::string back = folders_.Path(entry->path);
-      gate_.Rename(kept, back);
-      folders.insert(FolderOf(back, folders_.separator));
-      folders.insert(folders_.history);
+      if (Exists(kept)) gate_.Rename(kept, folders_.Path(entry->path));
     }
   }
   for (const auto& target : targets) target->Sync();

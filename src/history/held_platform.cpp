@@ -23,8 +23,9 @@ NumberedError NotThere(const std::string& path) {
   return PlatformError(PlatformFault::kNoFile, path);
 }
 
-std::string ReadAll(HeldFileChanges& file) {
-  std::string bytes(static_cast<std::size_t>(file.length()), '\0');
+template <class File>
+std::string ReadAll(File& file, std::int64_t length) {
+  std::string bytes(static_cast<std::size_t>(length), '\0');
   bytes.resize(file.ReadAt(0, bytes));
   return bytes;
 }
@@ -59,7 +60,16 @@ std::shared_ptr<HeldFileChanges> HeldChanges::Begin(const std::string& path,
 }
 
 void HeldChanges::Create(const std::string& path) {
-  if (CreatedAt(path) == nullptr) Begin(path, nullptr);
+  if (CreatedAt(path) != nullptr) return;
+  try {
+    if (!IsDeleted(path)) {
+      real_.Open(path, FileAccess::kReadOnly);
+      return;  // it is there
+    }
+  } catch (const NumberedError& error) {
+    if (!error.Is(ErrorNumber::kFileNotFound)) throw;
+  }
+  Begin(path, nullptr);
 }
 
 void HeldChanges::Delete(const std::string& path) {
@@ -74,10 +84,17 @@ void HeldChanges::Delete(const std::string& path) {
 }
 
 void HeldChanges::Rename(const std::string& from, const std::string& to) {
-  const auto source = CreatedAt(from);
-  if (source == nullptr) throw NotThere(from);
-  std::erase(files_, source);
-  const std::string bytes = ReadAll(*source);
+  std::string bytes;
+  if (const auto source = CreatedAt(from)) {
+    bytes = ReadAll(*source, source->length());
+  } else {
+    if (IsDeleted(from)) throw NotThere(from);
+    const auto real = real_.Open(from, FileAccess::kReadOnly);
+    const auto changed = Of(real->Identity());
+    bytes =
+        changed != nullptr ? ReadAll(*changed, changed->length()) : ReadAll(*real, real->Length());
+  }
+  Delete(from);
   auto target = CreatedAt(to);
   if (target == nullptr && !IsDeleted(to)) {
     try {

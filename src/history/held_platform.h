@@ -40,10 +40,11 @@ class HeldChanges {
 
   std::shared_ptr<HeldFileChanges> Begin(const std::string& path,
                                          std::shared_ptr<PlatformFile> real);
+  // Does nothing where there is such a file.
   void Create(const std::string& path);
   // Error 53 where there is no such file.
   void Delete(const std::string& path);
-  // The bytes of a created file become those of another one.
+  // The bytes of the first file become those of the other one, and the first file goes.
   void Rename(const std::string& from, const std::string& to);
 
  private:

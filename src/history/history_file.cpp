@@ -18,9 +18,11 @@ constexpr std::size_t kFullPortion = std::size_t{64} << 10;
 constexpr std::size_t kFullBuffer = std::size_t{256} << 10;
 constexpr std::uint64_t kMostInPlace = std::uint64_t{1} << 24;
 
-std::uint32_t Checksum(std::string_view bytes) {
+std::uint32_t Checksum(HistoryPortion kind, std::string_view bytes) {
+  const auto first = static_cast<unsigned char>(kind);
+  const auto of_kind = crc32_z(0, &first, 1);
   return static_cast<std::uint32_t>(
-      crc32_z(0, reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()));
+      crc32_z(of_kind, reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()));
 }
 
 void AppendFixed(std::string& to, std::uint32_t number) {
@@ -135,7 +137,7 @@ void HistoryWriter::FlushGroups() {
 void HistoryWriter::Portion(HistoryPortion kind, std::string_view bytes) {
   pending_ += static_cast<char>(kind);
   AppendFixed(pending_, static_cast<std::uint32_t>(bytes.size()));
-  AppendFixed(pending_, Checksum(bytes));
+  AppendFixed(pending_, Checksum(kind, bytes));
   pending_ += bytes;
   if (pending_.size() >= kFullBuffer) Flush();
 }
@@ -177,7 +179,7 @@ HistoryFile::Portion HistoryFile::ReadPortion(std::int64_t& at) {
                   ReadExactly(*file_, at + static_cast<std::int64_t>(kPortionHead), size)};
   at += static_cast<std::int64_t>(kPortionHead + size);
   Check(portion.bytes.size() == size &&
-        Checksum(portion.bytes) == Fixed(std::string_view(head).substr(5)));
+        Checksum(portion.kind, portion.bytes) == Fixed(std::string_view(head).substr(5)));
   return portion;
 }
 

@@ -29,8 +29,8 @@ enum class HistoryMark : std::uint8_t {
 };
 inline constexpr int kMarks = 6;
 
-// The kinds of portions of the content. A portion is its kind, its length, the checksum of its
-// bytes, and the bytes.
+// The kinds of portions of the content. A portion is its kind, its length, the checksum of its kind
+// and its bytes, and the bytes.
 enum class HistoryPortion : std::uint8_t {
   kRun = 1,     // what the run was
   kGroups = 2,  // titles of groups

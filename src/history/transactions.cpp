@@ -190,7 +190,8 @@ void Transactions::Apply(HistoryFile& history, HeldChanges& changes) {
     } catch (const NumberedError&) {
       throw NumberedError(
           ErrorNumber(first.number()),
-          first.description() + " The run is interrupted: it is put back at the next start.");
+          first.description() +
+              " The run is interrupted: the next start puts it back, or finishes it.");
     }
     throw first;
   }

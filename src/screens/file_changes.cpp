@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/resume_next.h"
+
 namespace golf {
 namespace {
 
@@ -15,14 +17,12 @@ Recovery Recover(SharedState& state, ScreenHost& host) {
 }  // namespace
 
 void RecoverInterruptedRun(SharedState& state, ScreenHost& host) {
-  std::unique_ptr<RunLock> lock;
-  try {
-    lock = state.files.platform().LockRun(state.ProgramPath);
-  } catch (const NumberedError& error) {
-    if (!error.Is(ErrorNumber::kPermissionDenied)) throw;
-    return;
-  }
-  Recover(state, host);
+  // What a run at work, or an error, prevents here is told by the click that changes files.
+  const ResumeNext anyway(nullptr);
+  anyway([&] {
+    const auto lock = state.files.platform().LockRun(state.ProgramPath);
+    Recover(state, host);
+  });
 }
 
 ChangingClick::ChangingClick(SharedState& state, ScreenHost& host)

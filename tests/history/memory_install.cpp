@@ -49,6 +49,7 @@ class LookingListener : public RecordingListener {
     events.push_back("fault " + std::to_string(fault.number()));
   }
   void OnNotice(const std::string& text) override { events.push_back("notice " + text); }
+  void OnProgress(const Progress&) override { Look(); }
   void Look() const {
     if (look_) look_();
   }
@@ -256,10 +257,51 @@ std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform
   } catch (const ClickEnded&) {
     // The listener was told.
   }
+  listener.Look();
   return std::move(listener.events);
 }
 
 HistoryProgram::HistoryProgram(Platform& platform) : held(platform), transactions(held, Noon) {}
+
+MemoryPlatform SmallDisk() {
+  MemoryPlatform disk;
+  for (const char* name : {"changed", "grown", "cut", "gone", "text", "again", "other"}) {
+    disk.Bytes(name) = std::string(9000, name[0]);
+  }
+  disk.SyncAll();
+  return disk;
+}
+
+void HoldEveryKind(HistoryProgram& program) {
+  program.transactions.Begin({.command = "every kind"});
+  HistoryGate gate(program.held);
+  const auto open = [&](const char* path) {
+    return program.held.Open(path, FileAccess::kReadWriteShared);
+  };
+  const auto make = [&](const char* path, std::size_t size) {
+    gate.Create(path);
+    gate.Write(*open(path), 0, std::string(size, 'N'));
+  };
+  for (const std::int64_t offset : {10, 4090, 8000}) {
+    program.transactions.BeginGroup("Place " + std::to_string(offset));
+    gate.Write(*open("/changed"), offset, "NNNNNNNNNN");
+  }
+  program.transactions.BeginGroup("");
+  gate.Write(*open("/grown"), 9000, std::string(5000, 'N'));
+  gate.Truncate(*open("/cut"), 3000);
+  gate.Delete("/gone");
+  make("/text.new", 5000);
+  gate.Rename("/text.new", "/text");
+  gate.Delete("/again");
+  make("/again", 7000);
+  make("/made", 6000);
+}
+
+void CommitEveryKind(Platform& platform) {
+  HistoryProgram program(platform);
+  HoldEveryKind(program);
+  program.transactions.Commit("A report.");
+}
 
 std::size_t UndoNewest(Platform& platform) {
   HistoryProgram program(platform);

@@ -41,7 +41,7 @@ std::span<const Deed> Deeds();
 const Deed& DeedNamed(std::string_view name);
 
 // Does a deed in a program of its own. Returns the events of the host. `look` is called whenever
-// the operator may look at the files.
+// the operator may look at the files, and at each step of a run.
 std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform,
                             const std::function<void()>& look = {});
 
@@ -52,6 +52,11 @@ struct HistoryProgram {
   HeldPlatform held;
   Transactions transactions;
 };
+
+// A small disk, all of it synced, and a transaction that makes every kind of change on it.
+MemoryPlatform SmallDisk();
+void HoldEveryKind(HistoryProgram& program);
+void CommitEveryKind(Platform& platform);
 
 // Undoes the newest run that is not an undo itself. Returns the conflicts.
 std::size_t UndoNewest(Platform& platform);

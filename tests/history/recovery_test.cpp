@@ -1,0 +1,182 @@
+// What recovery and a commit do where another program has changed a file, and where two processes
+// meet.
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "core/text.h"
+#include "history/memory_install.h"
+#include "history/run_list.h"
+#include "support/error_of.h"
+#include "support/failing_platform.h"
+
+namespace golf {
+namespace {
+
+// A change that another program makes.
+struct Foreign {
+  const char* name;
+  const char* file;
+  std::function<void(HistoryGate&, PlatformFile*)> change;  // no file: it is deleted
+  // Whether it stands in a place of the run. Otherwise it only changes the length of the file.
+  bool in_place = true;
+};
+
+void Make(const Foreign& foreign, const MemoryPlatform& disk) {
+  const auto platform = ProcessOn(disk);
+  HistoryGate gate(*platform);
+  const std::string path = foreign.file;
+  if (foreign.change == nullptr) return gate.Delete(path);
+  gate.Create(path);
+  const auto file = platform->Open(path, FileAccess::kReadWriteShared);
+  foreign.change(gate, file.get());
+}
+
+std::function<void(HistoryGate&, PlatformFile*)> Writes(std::int64_t offset, std::size_t size) {
+  return [=](HistoryGate& gate, PlatformFile* file) {
+    gate.Write(*file, offset, std::string(size, 'S'));
+  };
+}
+
+const Foreign kForeign[] = {
+    {"changed bytes", "/changed", Writes(4092, 5)},
+    {"a deleted file that the run changes", "/changed", nullptr, false},
+    {"records in the place of those of the run", "/grown", Writes(9000, 500)},
+    {"records behind those of the run", "/grown", Writes(9000, 9000), false},
+    {"bytes that the run cuts off", "/cut", Writes(5000, 10)},
+    {"records behind what the run cuts off", "/cut", Writes(9000, 10), false},
+    {"another text", "/text", Writes(0, 30)},
+    {"a file where the run makes one", "/made", Writes(0, 20)},
+    {"a deleted file that the run deletes", "/gone", nullptr, false},
+};
+
+// The disk after a crash in the nth call of the run. Nothing where the run has fewer.
+std::optional<MemoryPlatform> CrashedAt(int nth) {
+  MemoryPlatform disk = SmallDisk();
+  disk.DieAt(nth);
+  try {
+    CommitEveryKind(*ProcessOn(disk));
+    return std::nullopt;
+  } catch (const Died&) {
+  }
+  disk.Revive();
+  return disk;
+}
+
+Recovery Recover(const MemoryPlatform& disk, RecoveryChoice choice) {
+  const auto platform = ProcessOn(disk);
+  return HistoryProgram(*platform).transactions.Recover(choice);
+}
+
+DataFiles AfterEveryKind() {
+  const MemoryPlatform disk = SmallDisk();
+  CommitEveryKind(*ProcessOn(disk));
+  return DataOf(disk);
+}
+
+// Everywhere but in its file, the choice is carried out. Its own bytes stay.
+TEST(RecoveryTest, AChangeOfAnotherProgramWaitsForTheOperator) {
+  const DataFiles before = DataOf(SmallDisk());
+  const DataFiles after = AfterEveryKind();
+  const std::pair<RecoveryChoice, const DataFiles*> kChoices[] = {
+      {RecoveryChoice::kFinish, &after},
+      {RecoveryChoice::kPutBack, &before},
+      {RecoveryChoice::kLeave, nullptr}};
+  for (const Foreign& foreign : kForeign) {
+    int stuck = 0;
+    for (int nth = 1;; ++nth) {
+      SCOPED_TRACE(std::string(foreign.name) + ", crash in call " + std::to_string(nth));
+      const auto crashed = CrashedAt(nth);
+      if (!crashed) break;
+      if (ErrorOf([&] { Make(foreign, *crashed); }) != 0) continue;  // the file is gone by now
+      const DataFiles found = DataOf(*crashed);
+      if (!Recover(crashed->Copy(), RecoveryChoice::kByItself).stuck) continue;
+      ++stuck;
+      const std::string path = UpperCase(foreign.file);
+      for (const auto& [choice, expected] : kChoices) {
+        const MemoryPlatform disk = crashed->Copy();
+        EXPECT_TRUE(Recover(disk, RecoveryChoice::kByItself).stuck);
+        EXPECT_EQ(Difference(DataOf(disk), found), "");
+        EXPECT_TRUE(HistoryProgram(*ProcessOn(disk)).transactions.IsUnfinished());
+        EXPECT_FALSE(Recover(disk, choice).stuck);
+        DataFiles left = DataOf(disk);
+        EXPECT_FALSE(HistoryProgram(*ProcessOn(disk)).transactions.IsUnfinished());
+        if (expected == nullptr) {
+          EXPECT_EQ(Difference(left, found), "");
+          continue;
+        }
+        DataFiles wanted = *expected;
+        const std::string now = left.contains(path) ? left.at(path) : "";
+        const std::string then = found.contains(path) ? found.at(path) : "";
+        if (foreign.in_place) {
+          EXPECT_EQ(std::count(now.begin(), now.end(), 'S'),
+                    std::count(then.begin(), then.end(), 'S'));
+        } else {
+          EXPECT_EQ(now, then);
+        }
+        for (DataFiles* files : {&left, &wanted}) files->erase(path);
+        EXPECT_EQ(Difference(left, wanted), "");
+      }
+    }
+    EXPECT_GT(stuck, 0) << foreign.name;
+  }
+}
+
+// Between the first change and the commit.
+TEST(RecoveryTest, AChangeOfAnotherProgramInMidRunIsError70) {
+  for (const Foreign& foreign : kForeign) {
+    SCOPED_TRACE(foreign.name);
+    const MemoryPlatform disk = SmallDisk();
+    const auto platform = ProcessOn(disk);
+    HistoryProgram program(*platform);
+    HoldEveryKind(program);
+    if (ErrorOf([&] { Make(foreign, disk); }) != 0) continue;  // held open by the run
+    if (std::string_view(foreign.name) == "bytes that the run cuts off") continue;  // read last
+    const DataFiles found = DataOf(disk);
+    EXPECT_EQ(ErrorOf([&] { program.transactions.Commit(""); }), 70);
+    EXPECT_TRUE(program.transactions.IsOpen());
+    program.transactions.Drop();
+    EXPECT_EQ(Difference(DataOf(disk), found), "");
+    EXPECT_TRUE(program.transactions.history().List().empty());
+  }
+}
+
+TEST(RecoveryTest, ARunAtWorkIsLeftAlone) {
+  const MemoryPlatform disk = SmallDisk();
+  const auto first = ProcessOn(disk);
+  const auto second = ProcessOn(disk);
+  {
+    const auto lock = first->LockRun("/");
+    EXPECT_EQ(ErrorOf([&] { second->LockRun("/"); }), 70);
+  }
+  EXPECT_NE(second->LockRun("/"), nullptr);
+
+  // In the commit the history file is open alone.
+  class Meeting : public FailingPlatform {
+   public:
+    using FailingPlatform::FailingPlatform;
+    std::function<void()> meet;
+    void SyncFolder(ChangePass pass, const std::string& folder) override {
+      FailingPlatform::SyncFolder(pass, folder);
+      meet();
+    }
+  };
+  Meeting meeting(*first);
+  int met = 0;
+  meeting.meet = [&] {
+    const DataFiles found = DataOf(disk);
+    HistoryProgram other(*second);
+    EXPECT_TRUE(other.transactions.Recover().finished.empty());
+    EXPECT_FALSE(other.transactions.IsUnfinished());
+    EXPECT_TRUE(ListRuns(other.transactions.history()).runs.empty());
+    EXPECT_EQ(Difference(DataOf(disk), found), "");
+    ++met;
+  };
+  CommitEveryKind(meeting);
+  EXPECT_GT(met, 1);
+  EXPECT_EQ(Difference(DataOf(disk), AfterEveryKind()), "");
+}
+
+}  // namespace
+}  // namespace golf
