@@ -269,8 +269,8 @@ std::string EverySecondPlayer() {
   return file;
 }
 
-// Whatever fails, each record is as it was or as it must be; whoever is left out is told of, and
-// comes with the next run.
+// Whatever call fails, each record has its old bytes or its expected new ones. A golfer who is left
+// out is named, and the next run transfers him.
 TEST_F(GolferTransferTest, EachCallFailsOnceAndTheNextRunBringsTheRest) {
   const std::string before = EverySecondPlayer();
   const Outcome outcome = Expected(MixedGolfers(), before, {});

@@ -179,8 +179,8 @@ TEST(KVtoZDTest, BadInputChangesNothing) {
   }
 }
 
-// Whatever fails, each record is as it was or as it must be. Whoever cannot be read is left out and
-// told of; the others follow, and he comes with the next run.
+// Whatever call fails, each record has its old bytes or its expected new ones. A golfer who cannot
+// be read is left out and named, and the others follow. The next run transfers him.
 TEST(KVtoZDTest, EachCallFailsOnceAndTheNextRunBringsTheRest) {
   Case c = Cases()[0];
   c.golfers = Golfer(1, 7, "Seven", 10) + Golfer(1, 9, "Nine", 9) + Golfer(1, 8, "Eight", 8);

@@ -295,10 +295,10 @@ TEST_F(QbToKvTest, Refusals) {
   }
 }
 
-// Whatever fails, no score stands twice, none is flagged that is in no history, and no history is
-// ahead of its golfer; a golfer may be ahead of his history, by the score that was being written.
-// A player whose records cannot be read is left out and told of; nobody gets anything of another
-// one, and the next run posts what is missing.
+// Whatever call fails, no score is posted twice, no entry is flagged whose score is in no history,
+// and no history is ahead of its golfer. A golfer may be ahead of his history by one score. A
+// player whose records cannot be read is left out and named. No player gets data of another one,
+// and the next run posts what is missing.
 TEST_F(QbToKvTest, EachCallFailsOnceAndAfterAReadTheNextRunPostsTheRest) {
   const std::vector<Player> players = {{11}, {12, true}};
   const auto golfers = [this] { return install.folder.Read("kvdata/CLUB.KVG"); };

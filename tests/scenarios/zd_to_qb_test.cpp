@@ -196,8 +196,8 @@ TEST(ZDtoQBTest, BadInputChangesNothing) {
   }
 }
 
-// Whatever fails, the file holds the work up to some golfer. Trying again completes it, and so does
-// the next run: everybody comes, each once.
+// Whatever call fails, the file holds the work up to some golfer. Trying again completes it, and so
+// does the next run: it transfers every golfer once.
 TEST(ZDtoQBTest, EachCallFailsOnceAndIsTriedAgainOrGivenUp) {
   const Case c{"different names",
                Golfer(50, "Al", "Able") + Golfer(52, "B", "Be"),

@@ -75,8 +75,11 @@ TEST(TransferMenuTest, PriorTransferEndsTheProcessOnlyIfItStarts) {
 
 TEST(TransferMenuTest, CloseIgnoresEveryError) {
   TestInstall install;
-  install.platform->Fail({.nth = 1, .stays = true});
-  EXPECT_EQ(PressOnMenu(install, "ExitButton"), Events({"open TransferMenu", "end"}));
+  install.Open("TransferMenu", [&](Screen& screen) {
+    install.platform->Fail({.nth = 1, .stays = true});
+    install.host->Press(screen, "ExitButton");
+  });
+  EXPECT_EQ(install.events(), Events({"open TransferMenu", "end"}));
 }
 
 }  // namespace
