@@ -81,14 +81,35 @@ std::set<std::string> FilesThatDiffer(const std::map<std::string, std::string>& 
   return files;
 }
 
+// A run of two transactions tells of a file in both of them, a dry run once.
+std::set<std::string> ChangesIn(const std::vector<json>& events) {
+  std::set<std::string> changes;
+  for (const json& event : events) {
+    if (event["event"] == "change") changes.insert(event.dump());
+  }
+  return changes;
+}
+
+// The other events, and the result without what a dry run says otherwise.
+std::vector<json> WithoutChanges(std::vector<json> events) {
+  std::erase_if(events, [](const json& event) { return event["event"] == "change"; });
+  events.back().erase("dryRun");
+  events.back().erase("history");
+  return events;
+}
+
 TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
   const std::string index = folder.Read("i/qbdata/18CRSQB.INX");
   folder.Remove("i/qbdata/18CRSQB.INX");  // the first transfer makes it
   for (const std::string transfer : kTransfers) {
     SCOPED_TRACE(transfer);
     const Tree before = Data();
+    const Tree everything = AllFiles();
+    const auto dry = JsonLines(In(transfer + " --json --dry-run").out);
+    EXPECT_TRUE(AllFiles() == everything);
     const auto events = JsonLines(In(transfer + " --json").out);
     EXPECT_EQ(events.back()["dryRun"], false);
+    EXPECT_EQ(WithoutChanges(dry), WithoutChanges(events));
     const int run = events.back()["history"];
     const Tree after = Data();
     ASSERT_NE(FilesThatDiffer(before, after), std::set<std::string>());
@@ -103,6 +124,7 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
       if (change["event"] == "change") told.insert(change["file"]);
     }
     EXPECT_EQ(told, FilesThatDiffer(before, after));
+    EXPECT_EQ(ChangesIn(dry), ChangesIn(shown));
 
     const auto undone = JsonLines(In("undo --json").out);
     EXPECT_EQ(undone.back()["run"], run);
