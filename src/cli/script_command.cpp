@@ -22,7 +22,8 @@ void CheckReadable(const std::string& file) {
 
 ExitCode CodeAfterScript(const HeadlessHost& host) {
   NoteFaultCount(host.faults().size());
-  return host.faults().empty() ? ExitCode::kDone : ExitCodeOfFaults(host.faults());
+  if (!host.faults().empty()) return ExitCodeOfFaults(host.faults());
+  return host.met_unfinished_run() ? ExitCode::kRefused : ExitCode::kDone;
 }
 
 }  // namespace

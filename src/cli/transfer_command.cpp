@@ -167,7 +167,7 @@ ExitCode Transfer(const Options& options, const TransferCommand& command, Applic
   NoteFaultCount(host.faults().size());
   log.End(code, history);
   const bool refused = host.counts().empty();
-  if (!options.json || refused) report.Write(refused ? std::cerr : std::cout);
+  if (!options.json) report.Write(refused ? std::cerr : std::cout);
   if (options.dry_run) WriteHeldChanges(options, application.state());
   if (options.json && !refused && !failed) WriteResult(command, host, options.dry_run, history);
   return code;

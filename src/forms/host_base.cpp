@@ -153,6 +153,11 @@ void HostBase::NoteCount(std::string_view name, std::int64_t count) {
   counts_.emplace_back(name, count);
 }
 
+void HostBase::NoteUnfinishedRun(const std::string& text) {
+  met_unfinished_run_ = true;
+  Notify(text);
+}
+
 std::uint32_t HostBase::Seed() {
   constexpr double kSecondsOfDay = 86400;
   return static_cast<std::uint32_t>(std::llround(std::fmod(Now(), 10000) * kSecondsOfDay));

@@ -53,9 +53,12 @@ class HostBase : public ScreenHost {
   void NoteCount(std::string_view name, std::int64_t count) override;
   void NoteFault(const NumberedError& fault) override { faults_.push_back(fault); }
   void NoteRunEnded(const NumberedError& error) override { run_ended_by_ = error; }
+  void NoteUnfinishedRun(const std::string& text) override;
   void EndProcess() override { ended_ = true; }
   std::uint32_t Seed() override;
 
+  // Whether a change was refused because an interrupted run stands in the way.
+  bool met_unfinished_run() const { return met_unfinished_run_; }
   bool in_run() const { return in_run_; }
   // Return the counts and the faults of all runs so far.
   const std::vector<std::pair<std::string, std::int64_t>>& counts() const { return counts_; }
@@ -96,6 +99,7 @@ class HostBase : public ScreenHost {
   std::vector<NumberedError> faults_;
   std::optional<NumberedError> run_ended_by_;
   bool in_run_ = false;
+  bool met_unfinished_run_ = false;
   bool ended_ = false;
 };
 

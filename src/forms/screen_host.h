@@ -53,6 +53,8 @@ class ScreenHost {
   // Notes the error that ended a run, if the screen itself shows it to the operator.
   virtual void NoteRunEnded(const NumberedError& error) = 0;
 
+  // Shows the operator that an interrupted run stands in the way of a change, which was refused.
+  virtual void NoteUnfinishedRun(const std::string& text) = 0;
   // Shows the operator a text that needs no answer. Scripts do not see it as a box.
   virtual void Notify(const std::string& text) = 0;
 

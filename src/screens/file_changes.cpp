@@ -29,13 +29,10 @@ ChangingClick::ChangingClick(SharedState& state, ScreenHost& host)
     : transactions_(*state.transactions), lock_(state.files.platform().LockRun(state.ProgramPath)) {
   const Recovery recovery = Recover(state, host);
   if (recovery.stuck) {
-    host.Ask(
-        Box{.title = "Interrupted run",
-            .text = recovery.stuck_text +
-                    "\rNothing can be changed before you decide what becomes of it: finish it, "
-                    "put it back, or leave it as it is (golf-transfer-cli recover --finish, "
-                    "--put-back or --leave).",
-            .icon = BoxIcon::kStop});
+    host.NoteUnfinishedRun(recovery.stuck_text +
+                           " Nothing can be changed before you decide what becomes of it: finish "
+                           "it, put it back, or leave it as it is (golf-transfer-cli recover "
+                           "--finish, --put-back or --leave).");
     return;
   }
   transactions_.BeginClick();
