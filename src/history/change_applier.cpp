@@ -310,7 +310,8 @@ void ChangeApplier::CheckFate(const HistoryFileEntry& entry, Expected expected,
     const bool grows_or_shrinks = entry.old_length != entry.new_length;
     const std::int64_t longest = std::max(entry.old_length, entry.new_length);
     if (crashed) {
-      right = !grows_or_shrinks || length <= longest;
+      const bool may_grow = !grows_or_shrinks && entry.fate == FileFate::kChanged;
+      right = may_grow || length <= longest;
     } else {
       right = entry.fate == FileFate::kChanged && (!grows_or_shrinks || length == entry.old_length);
     }

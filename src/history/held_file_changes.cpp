@@ -58,6 +58,11 @@ std::size_t HeldFileChanges::ReadAt(std::int64_t offset, std::span<char> into) {
   return size;
 }
 
+void HeldFileChanges::NoteRead(std::int64_t offset, std::string_view bytes) {
+  window_ = bytes;
+  window_offset_ = offset;
+}
+
 void HeldFileChanges::WriteAt(std::int64_t offset, std::string_view bytes, ChangeGroup group) {
   if (bytes.empty()) return;
   FillCut(offset, group);
@@ -102,6 +107,7 @@ void HeldFileChanges::WriteOver(std::int64_t offset, std::string_view bytes, Cha
 
 void HeldFileChanges::Replace(const HeldPlace& place, std::string_view bytes, ChangeGroup group) {
   NoteShared(place.group, group);
+  if (group == 0) group = place.group;
   const std::int64_t offset = place.offset;
   const std::string old_bytes = Bytes(place).old_bytes;
   Portion& portion = portions_[PortionOf(offset)];

@@ -45,6 +45,9 @@ class HeldFileChanges {
 
   // As the file reads with its changes; fewer bytes than asked for at its end only.
   std::size_t ReadAt(std::int64_t offset, std::span<char> into);
+  // What was read of the file before its first change: these are old bytes, whatever stands there
+  // by now.
+  void NoteRead(std::int64_t offset, std::string_view bytes);
   void WriteAt(std::int64_t offset, std::string_view bytes, ChangeGroup group);
   void Truncate(std::int64_t length, ChangeGroup group);
 

@@ -17,6 +17,8 @@ FileIdentity IdentityOfCreated(const HeldFileChanges& file) {
   return {kVolumeOfCreated, reinterpret_cast<std::uintptr_t>(&file)};
 }
 
+constexpr std::size_t kRecord = std::size_t{16} << 10;  // no record is longer
+
 bool IsSamePath(const std::string& a, const std::string& b) { return EqualIgnoringCase(a, b); }
 
 NumberedError NotThere(const std::string& path) {
@@ -122,8 +124,13 @@ class HeldPlatform::File : public PlatformFile {
         turn_(platform.turn_) {}
 
   std::size_t ReadAt(std::int64_t offset, std::span<char> into) override {
-    HeldFileChanges* changes = Changes();
-    return changes != nullptr ? changes->ReadAt(offset, into) : Real().ReadAt(offset, into);
+    if (HeldFileChanges* changes = Changes()) return changes->ReadAt(offset, into);
+    const std::size_t size = Real().ReadAt(offset, into);
+    if (platform_.held_ != nullptr && size <= kRecord) {
+      read_.assign(into.begin(), into.begin() + static_cast<std::ptrdiff_t>(size));
+      read_offset_ = offset;
+    }
+    return size;
   }
 
   void WriteAt(ChangePass pass, std::int64_t offset, std::string_view bytes,
@@ -173,6 +180,7 @@ class HeldPlatform::File : public PlatformFile {
       turn_ = platform_.turn_;
       if (real_ == nullptr) OpenCommitted();
       changes_ = nullptr;
+      read_.clear();  // of a run before this one
     }
     if (changes_ == nullptr && platform_.held_ != nullptr) {
       changes_ = platform_.held_->Of(real_->Identity());
@@ -181,7 +189,10 @@ class HeldPlatform::File : public PlatformFile {
   }
 
   HeldFileChanges& Begin() {
-    if (Changes() == nullptr) changes_ = platform_.held_->Begin(path_, real_);
+    if (Changes() == nullptr) {
+      changes_ = platform_.held_->Begin(path_, real_);
+      changes_->NoteRead(read_offset_, read_);
+    }
     return *changes_;
   }
 
@@ -199,6 +210,9 @@ class HeldPlatform::File : public PlatformFile {
   std::shared_ptr<PlatformFile> real_;
   std::shared_ptr<HeldFileChanges> changes_;
   std::uint64_t turn_;
+  // What was read last while no change of the file was held.
+  std::string read_;
+  std::int64_t read_offset_ = 0;
 };
 
 void HeldPlatform::Hold() {

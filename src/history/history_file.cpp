@@ -160,6 +160,11 @@ bool HistoryFile::IsTorn(HistoryMark mark) {
   return bytes.find_first_not_of('\0') != std::string::npos && bytes != MarkBytes(mark);
 }
 
+bool HistoryFile::IsCutInMarks() {
+  const std::int64_t length = file_->Length();
+  return length > 0 && length < kContentStart;
+}
+
 void HistoryFile::Put(HistoryGate& gate, HistoryMark mark) {
   gate.Write(*file_, PlaceOf(mark), MarkBytes(mark));
   gate.Sync(*file_);

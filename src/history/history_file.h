@@ -58,6 +58,8 @@ class HistoryFile {
   bool Has(HistoryMark mark);
   // True where the place of the mark is neither empty nor a whole mark.
   bool IsTorn(HistoryMark mark);
+  // Whether the file ends inside the marks. The writer makes it whole up to there in one call.
+  bool IsCutInMarks();
   // Writes a mark, or takes it away; it is on the disk afterwards.
   void Put(HistoryGate& gate, HistoryMark mark);
   void Clear(HistoryGate& gate, HistoryMark mark);

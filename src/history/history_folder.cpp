@@ -57,8 +57,8 @@ HistoryFolder::HistoryFolder(Platform& platform) : gate_(platform) {
 bool HistoryFolder::Exists() { return gate_.platform().FolderExists(folders_.history); }
 
 void HistoryFolder::Make() {
-  if (Exists()) return;
-  gate_.CreateFolder(folders_.install + std::string(kFolder));
+  if (!Exists()) gate_.CreateFolder(folders_.install + std::string(kFolder));
+  // Also where the folder is there: the process that made it may have died before this.
   gate_.SyncFolder(folders_.install);
 }
 
@@ -101,13 +101,14 @@ std::unique_ptr<HistoryFile> HistoryFolder::Open(const HistoryName& name, FileAc
 }
 
 void HistoryFolder::Forget(const HistoryName& name) {
-  gate_.Delete(Path(name));
   const std::string beginning = KeptName(name, 0).substr(0, name.text.size() - kEnding.size() + 1);
   for (const std::string& text : gate_.platform().FileNames(folders_.history)) {
     if (text.starts_with(beginning) && text.ends_with(".kept")) {
       gate_.Delete(folders_.history + text);
     }
   }
+  gate_.Delete(Path(name));  // last: without it nobody would find the kept files
+  gate_.SyncFolder(folders_.history);
 }
 
 }  // namespace golf

@@ -15,9 +15,20 @@ Stand StandOf(HistoryFile& history) {
   const bool back = history.Has(HistoryMark::kPutBack);
   if (!back && history.Has(HistoryMark::kDone)) return Stand::kFinished;
   const bool committed = history.Has(HistoryMark::kCommitted);
+  if (history.IsCutInMarks()) return Stand::kDamaged;
   if (!committed && !history.IsTorn(HistoryMark::kCommitted)) return Stand::kNeverApplied;
   if (!history.IsWhole()) return Stand::kDamaged;
   return back ? Stand::kBack : Stand::kForward;
+}
+
+// Whether a file that others have open needs no recovery.
+bool IsFinishedOrWritten(HistoryFolder& folder, const HistoryName& name) {
+  try {
+    return StandOf(*folder.Open(name, FileAccess::kReadOnly)) == Stand::kFinished;
+  } catch (const NumberedError& error) {
+    if (!error.Is(ErrorNumber::kPermissionDenied)) throw;
+    return true;
+  }
 }
 
 std::string Named(const RunTitle& title) {
@@ -45,7 +56,9 @@ bool Transactions::RecoverRun(const HistoryName& name, bool is_newest, RecoveryC
   try {
     history = folder_.Open(name, FileAccess::kAlone);
   } catch (const NumberedError& error) {
-    if (error.Is(ErrorNumber::kPermissionDenied)) return true;  // its writer is at work
+    // While a writer is at work nobody can read its file. Others who read one must not keep an
+    // unfinished run from being found.
+    if (error.Is(ErrorNumber::kPermissionDenied) && IsFinishedOrWritten(folder_, name)) return true;
     throw;
   }
   HistoryGate& gate = folder_.gate();
@@ -100,6 +113,7 @@ bool Transactions::RecoverRun(const HistoryName& name, bool is_newest, RecoveryC
     history->Put(gate, HistoryMark::kPutBack);
   }
   if (direction == Direction::kForward && stand == Stand::kBack) {
+    history->Clear(gate, HistoryMark::kDone);  // of before the putting back
     history->Clear(gate, HistoryMark::kPutBack);
   }
   applier.Apply(*history, direction, false, conflicts);

@@ -20,6 +20,16 @@ bool HasNetChange(const HeldChanges& changes) {
                      [](const auto& file) { return file->HasNetChange(); });
 }
 
+// Applying has failed, and so has putting back.
+class RunInterrupted : public NumberedError {
+ public:
+  explicit RunInterrupted(const NumberedError& cause)
+      : NumberedError(ErrorNumber(cause.number()),
+                      cause.description() +
+                          " The run is interrupted: the next start puts it back, or finishes it.") {
+  }
+};
+
 NumberedError Replaced(const std::string& path) {
   return {ErrorNumber::kPermissionDenied,
           "Another program has replaced " + path + " during the run. Nothing was changed."};
@@ -52,7 +62,8 @@ void Transactions::EndClick() {
 }
 
 void Transactions::CheckStopped() {
-  if (stops_ == nullptr || stops_->Signal() == 0) return;
+  // Once a part of the run is committed, the others are finished as well.
+  if (stops_ == nullptr || stops_->Signal() == 0 || committed_in_click_ != 0) return;
   stop_raised_ = true;
   throw Stopped(stops_->Signal());
 }
@@ -81,8 +92,10 @@ std::int32_t Transactions::Commit(std::string_view report) {
   }
   try {
     return CommitChanges(changes, report);
+  } catch (const RunInterrupted& error) {
+    throw CommitFailed(error, true);
   } catch (const NumberedError& error) {
-    throw CommitFailed(error);
+    throw CommitFailed(error, false);
   }
 }
 
@@ -181,10 +194,7 @@ void Transactions::Apply(HistoryFile& history, HeldChanges& changes) {
     try {
       PutBack(history, applier);
     } catch (const NumberedError&) {
-      throw NumberedError(
-          ErrorNumber(first.number()),
-          first.description() +
-              " The run is interrupted: the next start puts it back, or finishes it.");
+      throw RunInterrupted(first);
     }
     throw first;
   }
@@ -201,7 +211,7 @@ void Transactions::PutBack(HistoryFile& history, ChangeApplier& applier) {
 void Transactions::Discard(std::unique_ptr<HistoryFile> history, const HistoryName& name) {
   history.reset();
   const ResumeNext anyway(nullptr);
-  anyway([&] { folder_.Forget(name); });
+  anyway([&] { folder_.gate().Delete(folder_.Path(name)); });
 }
 
 // Runs that are old, or many, go. One that is unfinished stays.
@@ -217,9 +227,9 @@ void Transactions::Prune() {
     for (const HistoryName& name : names) {
       anyway([&] {
         auto history = folder_.Open(name, FileAccess::kAlone);
-        const bool finished = history->Has(HistoryMark::kDone) ||
-                              history->Has(HistoryMark::kClosed) ||
-                              history->Has(HistoryMark::kLeft);
+        const bool done = history->Has(HistoryMark::kDone) && !history->Has(HistoryMark::kPutBack);
+        const bool finished =
+            done || history->Has(HistoryMark::kClosed) || history->Has(HistoryMark::kLeft);
         const bool old = name.run < oldest_kept || history->Title().moment < now_() - kDaysKept;
         history.reset();
         if (finished && old) folder_.Forget(name);

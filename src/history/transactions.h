@@ -13,10 +13,17 @@
 
 namespace golf {
 
-// A commit has failed. Nothing has changed. No run carries on over it.
+// A commit has failed. Nothing has changed, or recovery puts it back. No run carries on over it.
 class CommitFailed : public NumberedError {
  public:
-  explicit CommitFailed(const NumberedError& cause) : NumberedError(cause) {}
+  CommitFailed(const NumberedError& cause, bool interrupted)
+      : NumberedError(cause), interrupted_(interrupted) {}
+
+  // Whether putting back has failed, too. Recovery must come before another commit then.
+  bool interrupted() const { return interrupted_; }
+
+ private:
+  bool interrupted_;
 };
 
 // What became of runs that a crash, a power cut or a kill has interrupted.

@@ -157,6 +157,9 @@ class PartUndo {
       }
     } else if (entry_.fate == FileFate::kChanged && file_ == nullptr) {
       AddFileConflict("The file is not there any more.");
+    } else if (entry_.fate == FileFate::kCreated && entry_.new_length == 0 && file_ != nullptr &&
+               file_->Length() > 0) {
+      AddFileConflict("The file that the run has made has been filled since.");
     }
   }
 

@@ -202,7 +202,10 @@ void LoadRoster::Delete(const std::string& name) {
   try {
     ChangeFiles(state(), host(), "delete-kv-roster", name, [&] {
       for (const char* extension : {".kvg", ".kvx", ".kvs", ".kv5"}) {
-        state().files.DeleteFile(state().KVDataPath + name + extension);
+        const std::string path = state().KVDataPath + name + extension;
+        state().files.DeleteFile(path);
+        // Another program holds it: then the others stay as well.
+        if (state().files.FileExists(path)) return state().transactions->Drop();
       }
     });
   } catch (const CommitFailed&) {

@@ -80,7 +80,7 @@ void ScreenRun::Commit(const RunReport& report, const CommitRetry& retry) {
       committed_ = true;
       return;
     } catch (const CommitFailed& error) {
-      if (retry && retry(*this, error)) continue;
+      if (!error.interrupted() && retry && retry(*this, error)) continue;
       transactions_.Drop();
       throw;
     }
