@@ -85,9 +85,9 @@ void WalkScreens(SharedState& state) {
     if (++depth <= 3) WorkScreen(host, screen);
     --depth;
   };
-  for (const auto& [screen, word] :
+  for (const auto& opened :
        {std::pair{"TransferMenu", ""}, {"CourseTable", "QB"}, {"TeamResults", ""}}) {
-    Try([&] { host.Operate([&] { OpenScreen(state, host, screen, word); }); });
+    Try([&] { host.Operate([&] { OpenScreen(state, host, opened.first, opened.second); }); });
   }
 }
 
