@@ -9,7 +9,7 @@ bool InstallReader::ReadBytes(std::string_view file, std::int64_t record, std::s
   try {
     auto open = files_.find(file);
     if (open == files_.end()) {
-      const std::string path = state_.transactions->history().folders().Path(file);
+      const std::string path = state_.transactions->history().paths().Path(file);
       open =
           files_
               .emplace(std::string(file), state_.files.platform().Open(path, FileAccess::kReadOnly))

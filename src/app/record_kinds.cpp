@@ -31,9 +31,9 @@ std::string Quoted(std::string_view kind, std::string_view name) {
 // Calls `each` with the files of a folder, by their paths below the install.
 void ForEachFile(InstallReader& reader, const std::string& folder, std::string_view pattern,
                  const std::function<void(const std::string&)>& each) {
-  const HistoryFolders& folders = reader.state().transactions->history().folders();
+  const HistoryPaths& paths = reader.state().transactions->history().paths();
   for (const std::string& name : reader.state().files.FilesLike(folder, pattern)) {
-    each(folders.Name(folder + name));
+    each(paths.Name(folder + name));
   }
 }
 

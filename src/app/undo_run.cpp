@@ -33,7 +33,7 @@ UndoResult HoldUndoOfRun(SharedState& state, const RecordKinds& kinds, const His
   transactions.BeginGroup("");
   for (const CourseLibrary& library : kCourseLibraries) {
     const std::string path = CourseFilePath(state, library);
-    if (MustRebuild(kinds, result, folder.folders().Name(path)) && state.files.FileExists(path)) {
+    if (MustRebuild(kinds, result, folder.paths().Name(path)) && state.files.FileExists(path)) {
       RebuildIndexes(state, library);
     }
   }

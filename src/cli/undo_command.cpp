@@ -124,7 +124,7 @@ class UndoCommand {
   void ShowHeld() {
     const RecordKinds kinds = MakeRecordKinds(state_);
     const EachChange each_change = [&](const auto& each) {
-      ForEachChange(*transactions_.held().held(), transactions_.history().folders(), kinds, each);
+      ForEachChange(*transactions_.held().held(), transactions_.history().paths(), kinds, each);
     };
     const std::int64_t changes = WriteChangeCounts(options_.json, each_change);
     if (!options_.json) WriteChangeDetails(kinds, each_change);

@@ -2,14 +2,14 @@
 
 namespace golf {
 
-void ReadHeld(HeldChanges& changes, const HistoryFolders& folders, const HeldReader& reader) {
+void ReadHeld(HeldChanges& changes, const HistoryPaths& paths, const HeldReader& reader) {
   const ChangeGroups& groups = changes.groups();
   for (ChangeGroup group = 1; group <= groups.Count(); ++group) {
     if (groups.Root(group) == group) reader.group(group, groups.Title(group));
   }
   for (const HeldDeletion& deletion : changes.deletions()) {
     reader.file({.fate = FileFate::kDeleted,
-                 .path = folders.Name(deletion.path),
+                 .path = paths.Name(deletion.path),
                  .old_length = deletion.length,
                  .new_length = 0,
                  .kept_as = {}});
@@ -17,7 +17,7 @@ void ReadHeld(HeldChanges& changes, const HistoryFolders& folders, const HeldRea
   for (const auto& file : changes.files()) {
     if (!file->HasNetChange()) continue;
     reader.file({.fate = file->is_created() ? FileFate::kCreated : FileFate::kChanged,
-                 .path = folders.Name(file->path()),
+                 .path = paths.Name(file->path()),
                  .old_length = file->old_length(),
                  .new_length = file->length(),
                  .kept_as = {}});

@@ -17,6 +17,6 @@ struct HeldReader {
   std::function<void(const HeldPlace&, std::string_view code)> place;
 };
 
-void ReadHeld(HeldChanges& changes, const HistoryFolders& folders, const HeldReader& reader);
+void ReadHeld(HeldChanges& changes, const HistoryPaths& paths, const HeldReader& reader);
 
 }  // namespace golf

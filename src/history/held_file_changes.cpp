@@ -10,13 +10,19 @@ namespace {
 
 constexpr std::int64_t kPortion = 64 << 10;
 constexpr std::size_t kWindow = std::size_t{64} << 10;
-constexpr std::size_t kRecord = std::size_t{16} << 10;  // no record is longer
+constexpr std::size_t kLongestRecord = std::size_t{16} << 10;
 
 std::int64_t PortionOf(std::int64_t offset) { return offset / kPortion; }
 
 bool StartsBefore(const HeldPlace& place, std::int64_t offset) { return place.offset < offset; }
 
 }  // namespace
+
+void FileWindow::Note(std::int64_t read_offset, std::span<const char> read) {
+  if (read.size() > kLongestRecord) return;
+  bytes.assign(read.begin(), read.end());
+  offset = read_offset;
+}
 
 HeldFileChanges::HeldFileChanges(std::string path, std::shared_ptr<PlatformFile> real,
                                  SpillStore& store)
@@ -35,10 +41,7 @@ std::size_t HeldFileChanges::ReadAt(std::int64_t offset, std::span<char> into) {
   if (from_file > 0) {
     read = real_->ReadAt(offset, into.first(static_cast<std::size_t>(from_file)));
     // A record is read before it is written: these are its old bytes.
-    if (read <= kRecord) {
-      window_.assign(into.begin(), into.begin() + static_cast<std::ptrdiff_t>(read));
-      window_offset_ = offset;
-    }
+    window_.Note(offset, into.first(read));
   }
   std::fill(into.begin() + static_cast<std::ptrdiff_t>(read), into.end(), '\0');
 
@@ -56,11 +59,6 @@ std::size_t HeldFileChanges::ReadAt(std::int64_t offset, std::span<char> into) {
     }
   }
   return size;
-}
-
-void HeldFileChanges::NoteRead(std::int64_t offset, std::string_view bytes) {
-  window_ = bytes;
-  window_offset_ = offset;
 }
 
 void HeldFileChanges::WriteAt(std::int64_t offset, std::string_view bytes, ChangeGroup group) {
@@ -223,15 +221,16 @@ std::string HeldFileChanges::OldBytes(std::int64_t offset, std::size_t size) {
   const auto wanted = static_cast<std::size_t>(
       std::clamp<std::int64_t>(old_length_ - offset, 0, static_cast<std::int64_t>(size)));
   if (wanted == 0) return {};
-  const std::int64_t window_end = window_offset_ + std::ssize(window_);
-  if (offset < window_offset_ || offset + static_cast<std::int64_t>(wanted) > window_end) {
+  if (offset < window_.offset || offset + static_cast<std::int64_t>(wanted) > window_.End()) {
     // Writes that follow each other read ahead.
-    const bool follows = offset >= window_offset_ && offset <= window_end && !window_.empty();
-    window_.resize(follows ? std::max(wanted, kWindow) : wanted);
-    window_offset_ = offset;
-    window_.resize(OrHoldFailed([&] { return real_->ReadAt(offset, window_); }));
+    const bool follows =
+        offset >= window_.offset && offset <= window_.End() && !window_.bytes.empty();
+    window_.bytes.resize(follows ? std::max(wanted, kWindow) : wanted);
+    window_.offset = offset;
+    window_.bytes.resize(OrHoldFailed([&] { return real_->ReadAt(offset, window_.bytes); }));
   }
-  std::string bytes = window_.substr(static_cast<std::size_t>(offset - window_offset_), wanted);
+  std::string bytes =
+      window_.bytes.substr(static_cast<std::size_t>(offset - window_.offset), wanted);
   bytes.resize(wanted);
   return bytes;
 }

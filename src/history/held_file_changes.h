@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/platform.h"
@@ -28,6 +29,17 @@ struct HeldPlace {
   std::int64_t End() const { return offset + std::max(old_size, new_size); }
 };
 
+// Bytes of a file as they were when they were read.
+struct FileWindow {
+  std::int64_t offset = 0;
+  std::string bytes;
+
+  std::int64_t End() const { return offset + std::ssize(bytes); }
+  // Replaces the window by what was read, unless that is longer than a record: only a record is
+  // read in order to be written.
+  void Note(std::int64_t read_offset, std::span<const char> read);
+};
+
 // What a run holds back of one file.
 class HeldFileChanges {
  public:
@@ -45,9 +57,9 @@ class HeldFileChanges {
 
   // As the file reads with its changes; fewer bytes than asked for at its end only.
   std::size_t ReadAt(std::int64_t offset, std::span<char> into);
-  // What was read of the file before its first change: these are old bytes, whatever stands there
-  // by now.
-  void NoteRead(std::int64_t offset, std::string_view bytes);
+  // Notes what was read of the file before its first change. These bytes count as old ones, also if
+  // another program has changed them since.
+  void NoteRead(FileWindow read) { window_ = std::move(read); }
   void WriteAt(std::int64_t offset, std::string_view bytes, ChangeGroup group);
   void Truncate(std::int64_t length, ChangeGroup group);
 
@@ -88,9 +100,7 @@ class HeldFileChanges {
   // Buffers that are used again.
   std::string code_;
   HistoryPlace bytes_;
-  // A window of the real file as it was when it was read.
-  std::string window_;
-  std::int64_t window_offset_ = 0;
+  FileWindow window_;  // of the real file
 };
 
 }  // namespace golf

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/existing_file.h"
 #include "core/numbered_error.h"
 #include "core/platform_errors.h"
 #include "core/text.h"
@@ -16,8 +17,6 @@ constexpr std::uint64_t kVolumeOfCreated = ~std::uint64_t{0};
 FileIdentity IdentityOfCreated(const HeldFileChanges& file) {
   return {kVolumeOfCreated, reinterpret_cast<std::uintptr_t>(&file)};
 }
-
-constexpr std::size_t kRecord = std::size_t{16} << 10;  // no record is longer
 
 bool IsSamePath(const std::string& a, const std::string& b) { return EqualIgnoringCase(a, b); }
 
@@ -63,15 +62,7 @@ std::shared_ptr<HeldFileChanges> HeldChanges::Begin(const std::string& path,
 
 void HeldChanges::Create(const std::string& path) {
   if (CreatedAt(path) != nullptr) return;
-  try {
-    if (!IsDeleted(path)) {
-      real_.Open(path, FileAccess::kReadOnly);
-      return;  // it is there
-    }
-  } catch (const NumberedError& error) {
-    if (!error.Is(ErrorNumber::kFileNotFound)) throw;
-  }
-  Begin(path, nullptr);
+  if (IsDeleted(path) || !FileExists(real_, path)) Begin(path, nullptr);
 }
 
 void HeldChanges::Delete(const std::string& path) {
@@ -99,13 +90,9 @@ void HeldChanges::Rename(const std::string& from, const std::string& to) {
   Delete(from);
   auto target = CreatedAt(to);
   if (target == nullptr && !IsDeleted(to)) {
-    try {
-      std::shared_ptr<PlatformFile> real = real_.Open(to, FileAccess::kReadWriteShared);
-      target = Of(real->Identity());
-      if (target == nullptr) target = Begin(to, std::move(real));
-    } catch (const NumberedError& error) {
-      if (!error.Is(ErrorNumber::kFileNotFound)) throw;
-    }
+    std::shared_ptr<PlatformFile> real = OpenIfExists(real_, to, FileAccess::kReadWriteShared);
+    if (real != nullptr) target = Of(real->Identity());
+    if (real != nullptr && target == nullptr) target = Begin(to, std::move(real));
   }
   if (target == nullptr) target = Begin(to, nullptr);
   target->WriteAt(0, bytes, groups_.Current());
@@ -126,10 +113,7 @@ class HeldPlatform::File : public PlatformFile {
   std::size_t ReadAt(std::int64_t offset, std::span<char> into) override {
     if (HeldFileChanges* changes = Changes()) return changes->ReadAt(offset, into);
     const std::size_t size = Real().ReadAt(offset, into);
-    if (platform_.held_ != nullptr && size <= kRecord) {
-      read_.assign(into.begin(), into.begin() + static_cast<std::ptrdiff_t>(size));
-      read_offset_ = offset;
-    }
+    if (platform_.held_ != nullptr) read_.Note(offset, into.first(size));
     return size;
   }
 
@@ -180,7 +164,7 @@ class HeldPlatform::File : public PlatformFile {
       turn_ = platform_.turn_;
       if (real_ == nullptr) OpenCommitted();
       changes_ = nullptr;
-      read_.clear();  // of a run before this one
+      read_ = {};  // of a run before this one
     }
     if (changes_ == nullptr && platform_.held_ != nullptr) {
       changes_ = platform_.held_->Of(real_->Identity());
@@ -191,7 +175,7 @@ class HeldPlatform::File : public PlatformFile {
   HeldFileChanges& Begin() {
     if (Changes() == nullptr) {
       changes_ = platform_.held_->Begin(path_, real_);
-      changes_->NoteRead(read_offset_, read_);
+      changes_->NoteRead(read_);
     }
     return *changes_;
   }
@@ -203,20 +187,18 @@ class HeldPlatform::File : public PlatformFile {
   }
 
   // The file that was created in a run is on the disk once the run is committed.
-  void OpenCommitted() { real_ = platform_.real_.Open(path_, FileAccess::kReadWriteShared); }
+  void OpenCommitted() { real_ = platform_.real().Open(path_, FileAccess::kReadWriteShared); }
 
   HeldPlatform& platform_;
   std::string path_;
   std::shared_ptr<PlatformFile> real_;
   std::shared_ptr<HeldFileChanges> changes_;
   std::uint64_t turn_;
-  // What was read last while no change of the file was held.
-  std::string read_;
-  std::int64_t read_offset_ = 0;
+  FileWindow read_;  // what was read last while no change of the file was held
 };
 
 void HeldPlatform::Hold() {
-  held_ = std::make_shared<HeldChanges>(real_);
+  held_ = std::make_shared<HeldChanges>(real());
   ++turn_;
 }
 
@@ -232,39 +214,35 @@ std::unique_ptr<PlatformFile> HeldPlatform::Open(const std::string& path, FileAc
     }
     if (held_->IsDeleted(path)) throw NotThere(path);
   }
-  return std::make_unique<File>(*this, path, real_.Open(path, access), nullptr);
+  return std::make_unique<File>(*this, path, PlatformOver::Open(path, access), nullptr);
 }
 
 void HeldPlatform::Create(ChangePass pass, const std::string& path) {
-  if (held_ == nullptr) return real_.Create(pass, path);
+  if (held_ == nullptr) return PlatformOver::Create(pass, path);
   NoteChange();
   const std::string folder = path.substr(0, path.rfind(Separator()) + 1);
   if (!FolderExists(folder)) throw PlatformError(PlatformFault::kNoFolder, path);
   held_->Create(path);
 }
 
-void HeldPlatform::CreateFolder(ChangePass pass, const std::string& path) {
-  real_.CreateFolder(pass, path);
-}
-
 void HeldPlatform::Delete(ChangePass pass, const std::string& path) {
-  if (held_ == nullptr) return real_.Delete(pass, path);
+  if (held_ == nullptr) return PlatformOver::Delete(pass, path);
   NoteChange();
   held_->Delete(path);
 }
 
 void HeldPlatform::Rename(ChangePass pass, const std::string& from, const std::string& to) {
-  if (held_ == nullptr) return real_.Rename(pass, from, to);
+  if (held_ == nullptr) return PlatformOver::Rename(pass, from, to);
   NoteChange();
   held_->Rename(from, to);
 }
 
 void HeldPlatform::SyncFolder(ChangePass pass, const std::string& folder) {
-  if (held_ == nullptr) real_.SyncFolder(pass, folder);
+  if (held_ == nullptr) PlatformOver::SyncFolder(pass, folder);
 }
 
 std::vector<std::string> HeldPlatform::FileNames(const std::string& folder) {
-  std::vector<std::string> names = real_.FileNames(folder);
+  std::vector<std::string> names = PlatformOver::FileNames(folder);
   if (held_ == nullptr) return names;
   std::erase_if(names, [&](const std::string& name) { return held_->IsDeleted(folder + name); });
   for (const auto& file : held_->files()) {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/platform.h"
+#include "core/platform_over.h"
 #include "history/change_groups.h"
 #include "history/held_file_changes.h"
 
@@ -58,11 +58,9 @@ class HeldChanges {
 // A platform that can hold changes back. While it holds, nothing that is changed through it reaches
 // the disk, and everybody who reads through it sees the changes. Files are really opened, with
 // their locks. While it does not hold it hands every call on.
-class HeldPlatform : public Platform {
+class HeldPlatform : public PlatformOver {
  public:
-  explicit HeldPlatform(Platform& real) : real_(real) {}
-
-  Platform& real() { return real_; }
+  using PlatformOver::PlatformOver;
 
   // Begins to hold. Files that are open already are held as well.
   void Hold();
@@ -76,23 +74,10 @@ class HeldPlatform : public Platform {
 
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override;
   void Create(ChangePass pass, const std::string& path) override;
-  void CreateFolder(ChangePass pass, const std::string& path) override;
   void Delete(ChangePass pass, const std::string& path) override;
   void Rename(ChangePass pass, const std::string& from, const std::string& to) override;
   void SyncFolder(ChangePass pass, const std::string& folder) override;
-  std::unique_ptr<PlatformFile> OpenScratch() override { return real_.OpenScratch(); }
-  bool FolderExists(const std::string& path) override { return real_.FolderExists(path); }
   std::vector<std::string> FileNames(const std::string& folder) override;
-  std::unique_ptr<RunLock> LockRun(const std::string& folder) override {
-    return real_.LockRun(folder);
-  }
-  std::unique_ptr<StopWatch> WatchStops() override { return real_.WatchStops(); }
-  void StartProgram(const std::string& path, const std::string& arguments) override {
-    real_.StartProgram(path, arguments);
-  }
-  std::string ProgramFolder() const override { return real_.ProgramFolder(); }
-  char Separator() const override { return real_.Separator(); }
-  RegionalForms Regional() const override { return real_.Regional(); }
 
  private:
   class File;
@@ -101,7 +86,6 @@ class HeldPlatform : public Platform {
     if (on_change) on_change();
   }
 
-  Platform& real_;
   std::shared_ptr<HeldChanges> held_;
   // Tells open files that what they knew of held changes is out of date.
   std::uint64_t turn_ = 0;

@@ -25,16 +25,10 @@ std::uint32_t Checksum(HistoryPortion kind, std::string_view bytes) {
       crc32_z(of_kind, reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()));
 }
 
-void AppendFixed(std::string& to, std::uint32_t number) {
-  for (int shift = 0; shift < 32; shift += 8) to += static_cast<char>(number >> shift);
-}
-
-std::uint32_t Fixed(std::string_view bytes) {
-  std::uint32_t number = 0;
-  for (int i = 3; i >= 0; --i) {
-    number = number << 8 | static_cast<unsigned char>(bytes[static_cast<std::size_t>(i)]);
-  }
-  return number;
+template <class Number>
+void AppendFixed(std::string& to, Number number) {
+  to.resize(to.size() + sizeof(Number));
+  StoreLittleEndian(to.data() + to.size() - sizeof(Number), number);
 }
 
 std::string MarkBytes(HistoryMark mark) {
@@ -113,7 +107,7 @@ void HistoryWriter::Finish() {
   FlushGroups();
   FlushPlaces();
   std::string changes;
-  for (int shift = 0; shift < 64; shift += 8) changes += static_cast<char>(changes_ >> shift);
+  AppendFixed(changes, changes_);
   Portion(HistoryPortion::kEnd, changes);
   Flush();
   std::string first(kTitle);
@@ -178,13 +172,13 @@ void HistoryFile::Clear(HistoryGate& gate, HistoryMark mark) {
 HistoryFile::Portion HistoryFile::ReadPortion(std::int64_t& at) {
   const std::string head = ReadExactly(*file_, at, kPortionHead);
   Check(head.size() == kPortionHead);
-  const std::size_t size = Fixed(std::string_view(head).substr(1));
+  const std::size_t size = LoadLittleEndian<std::uint32_t>(head.data() + 1);
   Check(size <= kMostInPortion);
   Portion portion{static_cast<HistoryPortion>(head[0]),
                   ReadExactly(*file_, at + static_cast<std::int64_t>(kPortionHead), size)};
   at += static_cast<std::int64_t>(kPortionHead + size);
   Check(portion.bytes.size() == size &&
-        Checksum(portion.kind, portion.bytes) == Fixed(std::string_view(head).substr(5)));
+        Checksum(portion.kind, portion.bytes) == LoadLittleEndian<std::uint32_t>(head.data() + 5));
   return portion;
 }
 
@@ -282,16 +276,12 @@ RunTitle HistoryFile::Title(std::int64_t& at) {
 }
 
 std::int64_t HistoryFile::CountChanges() {
-  constexpr std::int64_t kSize = 8;
-  std::int64_t at = file_->Length() - kSize - static_cast<std::int64_t>(kPortionHead);
+  std::int64_t at = file_->Length() - static_cast<std::int64_t>(sizeof(std::uint64_t)) -
+                    static_cast<std::int64_t>(kPortionHead);
   Check(at >= kContentStart);
   const Portion portion = ReadPortion(at);
-  Check(portion.kind == HistoryPortion::kEnd && portion.bytes.size() == kSize);
-  std::uint64_t changes = 0;
-  for (std::size_t i = kSize; i-- > 0;) {
-    changes = changes << 8 | static_cast<unsigned char>(portion.bytes[i]);
-  }
-  return static_cast<std::int64_t>(changes);
+  Check(portion.kind == HistoryPortion::kEnd && portion.bytes.size() == sizeof(std::uint64_t));
+  return static_cast<std::int64_t>(LoadLittleEndian<std::uint64_t>(portion.bytes.data()));
 }
 
 bool HistoryFile::IsWhole() {

@@ -49,23 +49,23 @@ std::optional<HistoryName> NameOf(const std::string& text) {
 }  // namespace
 
 HistoryFolder::HistoryFolder(Platform& platform) : gate_(platform) {
-  folders_.install = platform.ProgramFolder();
-  folders_.separator = platform.Separator();
-  folders_.history = folders_.install + std::string(kFolder) + folders_.separator;
+  paths_.install = platform.ProgramFolder();
+  paths_.separator = platform.Separator();
+  paths_.history = paths_.install + std::string(kFolder) + paths_.separator;
 }
 
-bool HistoryFolder::Exists() { return gate_.platform().FolderExists(folders_.history); }
+bool HistoryFolder::Exists() { return gate_.platform().FolderExists(paths_.history); }
 
 void HistoryFolder::Make() {
-  if (!Exists()) gate_.CreateFolder(folders_.install + std::string(kFolder));
+  if (!Exists()) gate_.CreateFolder(paths_.install + std::string(kFolder));
   // Also where the folder is there: the process that made it may have died before this.
-  gate_.SyncFolder(folders_.install);
+  gate_.SyncFolder(paths_.install);
 }
 
 std::vector<HistoryName> HistoryFolder::List() {
   std::vector<HistoryName> names;
   if (!Exists()) return names;
-  for (const std::string& text : gate_.platform().FileNames(folders_.history)) {
+  for (const std::string& text : gate_.platform().FileNames(paths_.history)) {
     if (auto name = NameOf(text)) names.push_back(std::move(*name));
   }
   std::sort(names.begin(), names.end(), [](const HistoryName& a, const HistoryName& b) {
@@ -102,13 +102,13 @@ std::unique_ptr<HistoryFile> HistoryFolder::Open(const HistoryName& name, FileAc
 
 void HistoryFolder::Forget(const HistoryName& name) {
   const std::string beginning = KeptName(name, 0).substr(0, name.text.size() - kEnding.size() + 1);
-  for (const std::string& text : gate_.platform().FileNames(folders_.history)) {
+  for (const std::string& text : gate_.platform().FileNames(paths_.history)) {
     if (text.starts_with(beginning) && text.ends_with(".kept")) {
-      gate_.Delete(folders_.history + text);
+      gate_.Delete(paths_.history + text);
     }
   }
   gate_.Delete(Path(name));  // last: without it nobody would find the kept files
-  gate_.SyncFolder(folders_.history);
+  gate_.SyncFolder(paths_.history);
 }
 
 }  // namespace golf

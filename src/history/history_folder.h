@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "core/date_value.h"
-#include "history/change_applier.h"
 #include "history/history_file.h"
+#include "history/history_paths.h"
 
 namespace golf {
 
@@ -26,7 +26,7 @@ class HistoryFolder {
   explicit HistoryFolder(Platform& platform);
 
   HistoryGate& gate() { return gate_; }
-  const HistoryFolders& folders() const { return folders_; }
+  const HistoryPaths& paths() const { return paths_; }
 
   bool Exists();
   // Makes the folder where it is not there.
@@ -39,7 +39,7 @@ class HistoryFolder {
   // The name under which a deleted file is kept for a run.
   static std::string KeptName(const HistoryName& run, std::size_t number);
 
-  std::string Path(const HistoryName& name) const { return folders_.history + name.text; }
+  std::string Path(const HistoryName& name) const { return paths_.history + name.text; }
   // Errors of the platform: 70 where another process has it open.
   std::unique_ptr<HistoryFile> Open(const HistoryName& name, FileAccess access);
 
@@ -48,7 +48,7 @@ class HistoryFolder {
 
  private:
   HistoryGate gate_;
-  HistoryFolders folders_;
+  HistoryPaths paths_;
 };
 
 }  // namespace golf

@@ -179,7 +179,7 @@ void CodeReader::Place(std::size_t old_size, std::size_t new_size, PlaceParts pa
     if (!is_same) {
       put(is_pair ? into.old_bytes.data() : longer, first);
       if (is_pair) put(into.new_bytes.data(), Take(fills ? 1 : count));
-      if (!into.changed.empty() && into.changed.back().at + into.changed.back().size == at) {
+      if (!into.changed.empty() && into.changed.back().End() == at) {
         into.changed.back().size += count;
       } else {
         into.changed.push_back({at, count});

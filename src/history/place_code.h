@@ -16,6 +16,8 @@ using ChangeGroup = std::uint32_t;
 struct ChangedBytes {
   std::size_t at = 0;  // in the place
   std::size_t size = 0;
+
+  std::size_t End() const { return at + size; }
 };
 
 // Bytes of a file, usually a record, before and after a run: whole, with those that do not change.
@@ -29,6 +31,9 @@ struct HistoryPlace {
   std::int64_t End() const {
     return offset + static_cast<std::int64_t>(std::max(old_bytes.size(), new_bytes.size()));
   }
+  // The range from the first changed byte to the last one, in the place. At least one byte changes.
+  std::size_t FirstChanged() const { return changed.front().at; }
+  std::size_t ChangedSize() const { return changed.back().End() - changed.front().at; }
 };
 
 // The operations over the bytes of a place that its code is made of. docs/file-formats.md describes

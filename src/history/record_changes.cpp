@@ -94,7 +94,7 @@ void ForEachChange(HistoryFile& history, const RecordKinds& kinds,
   teller.Finish();
 }
 
-void ForEachChange(HeldChanges& changes, const HistoryFolders& folders, const RecordKinds& kinds,
+void ForEachChange(HeldChanges& changes, const HistoryPaths& paths, const RecordKinds& kinds,
                    const std::function<void(const RecordChange&)>& each) {
   ChangeTeller teller(kinds, each);
   HistoryPlace bytes;
@@ -102,7 +102,7 @@ void ForEachChange(HeldChanges& changes, const HistoryFolders& folders, const Re
     CodeReader(code).Place(held.old_size, held.new_size, PlaceParts::kWhole, bytes);
     teller.Place(held.offset, held.group, bytes.old_bytes, bytes.new_bytes);
   };
-  ReadHeld(changes, folders,
+  ReadHeld(changes, paths,
            {.group = [&](ChangeGroup group, std::string_view title) { teller.Group(group, title); },
             .file = [&](const HistoryFileEntry& file) { teller.File(file); },
             .place = place});

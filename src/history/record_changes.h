@@ -36,7 +36,7 @@ void ForEachChange(HistoryFile& history, const RecordKinds& kinds,
                    const std::function<void(const RecordChange&)>& each);
 
 // The same of changes that are held, as their history file will tell of them.
-void ForEachChange(HeldChanges& changes, const HistoryFolders& folders, const RecordKinds& kinds,
+void ForEachChange(HeldChanges& changes, const HistoryPaths& paths, const RecordKinds& kinds,
                    const std::function<void(const RecordChange&)>& each);
 
 // The name of a file without its folder.

@@ -1,33 +1,30 @@
 #include <utility>
 
+#include "history/change_applier.h"
+#include "history/run_stage.h"
 #include "history/transactions.h"
 
 namespace golf {
 namespace {
 
-// What the marks of a history file say.
-enum class Stand { kFinished, kNeverApplied, kDamaged, kForward, kBack };
-
-Stand StandOf(HistoryFile& history) {
-  for (const HistoryMark mark : {HistoryMark::kClosed, HistoryMark::kLeft}) {
-    if (history.Has(mark)) return Stand::kFinished;
-  }
-  const bool back = history.Has(HistoryMark::kPutBack);
-  if (!back && history.Has(HistoryMark::kDone)) return Stand::kFinished;
-  const bool committed = history.Has(HistoryMark::kCommitted);
-  if (history.IsCutInMarks()) return Stand::kDamaged;
-  if (!committed && !history.IsTorn(HistoryMark::kCommitted)) return Stand::kNeverApplied;
-  if (!history.IsWhole()) return Stand::kDamaged;
-  return back ? Stand::kBack : Stand::kForward;
-}
-
-// Whether a file that others have open needs no recovery.
-bool IsFinishedOrWritten(HistoryFolder& folder, const HistoryName& name) {
+// True if a history file that others have open needs no recovery.
+bool IsEndedOrWritten(HistoryFolder& folder, const HistoryName& name) {
   try {
-    return StandOf(*folder.Open(name, FileAccess::kReadOnly)) == Stand::kFinished;
+    return HasEnded(StageOf(*folder.Open(name, FileAccess::kReadOnly)));
   } catch (const NumberedError& error) {
     if (!error.Is(ErrorNumber::kPermissionDenied)) throw;
     return true;
+  }
+}
+
+// Opens the history file of a run for recovery. Returns null if it needs none now: nobody can read
+// the file of a writer that is at work. Error 70 if others read the file of an unfinished run.
+std::unique_ptr<HistoryFile> OpenAlone(HistoryFolder& folder, const HistoryName& name) {
+  try {
+    return folder.Open(name, FileAccess::kAlone);
+  } catch (const NumberedError& error) {
+    if (error.Is(ErrorNumber::kPermissionDenied) && IsEndedOrWritten(folder, name)) return nullptr;
+    throw;
   }
 }
 
@@ -36,6 +33,87 @@ std::string Named(const RunTitle& title) {
          (title.about.empty() ? std::string() : " (" + title.about + ")");
 }
 
+// Finishes or puts back one run that was interrupted.
+class RunRecovery {
+ public:
+  RunRecovery(HistoryFolder& folder, HistoryFile& history, RecoveryChoice choice,
+              Recovery& recovery)
+      : gate_(folder.gate()),
+        files_(gate_, folder.paths()),
+        history_(history),
+        choice_(choice),
+        recovery_(recovery) {}
+
+  // True if the run has not begun to be applied, although its mark may be torn.
+  bool IsNeverApplied(RunStage stage) {
+    if (stage == RunStage::kNeverApplied) return true;
+    const bool to_do = stage == RunStage::kToBeFinished || stage == RunStage::kToBePutBack;
+    return to_do && !history_.Has(HistoryMark::kCommitted) && IsAllOld(files_, history_);
+  }
+
+  // The operator must decide about a run whose history is damaged.
+  void RecoverDamaged() {
+    const std::string damaged = DamagedHistory(history_.path()).description();
+    if (choice_ != RecoveryChoice::kLeave) {
+      return Ask(damaged + " The run that it describes was interrupted.");
+    }
+    history_.Put(gate_, HistoryMark::kLeft);
+    recovery_.finished.push_back(damaged + " The run that it describes is left as it is.");
+  }
+
+  void Recover(RunStage stage) {
+    const std::string run = Named(history_.Title());
+    const std::set<PlaceConflict> conflicts = FindConflicts(files_, history_);
+    Direction direction = stage == RunStage::kToBePutBack ? Direction::kBack : Direction::kForward;
+    if (!conflicts.empty()) {
+      switch (choice_) {
+        case RecoveryChoice::kByItself:
+          return Ask(run + " was interrupted, and another program has changed " +
+                     conflicts.begin()->path + " since.");
+        case RecoveryChoice::kLeave:
+          history_.Put(gate_, HistoryMark::kLeft);
+          recovery_.finished.push_back(run + " was interrupted. It is left as it is.");
+          return;
+        case RecoveryChoice::kFinish:
+          direction = Direction::kForward;
+          break;
+        case RecoveryChoice::kPutBack:
+          direction = Direction::kBack;
+      }
+    }
+    WriteMarks(direction);
+    ApplyChanges(files_, history_, {.direction = direction, .skipped = conflicts});
+    const bool back = direction == Direction::kBack;
+    history_.Put(gate_, back ? HistoryMark::kClosed : HistoryMark::kDone);
+    recovery_.finished.push_back(run + " was interrupted. It is " +
+                                 (back ? "put back" : "finished") + " now.");
+  }
+
+ private:
+  void Ask(std::string text) {
+    recovery_.stuck = true;
+    recovery_.stuck_text = std::move(text);
+  }
+
+  // The marks must be on the disk before a file is changed, since a crash may come again. They are
+  // written anew: a mark that the interrupted process has written may never have reached the disk.
+  void WriteMarks(Direction direction) {
+    history_.Put(gate_, HistoryMark::kCommitted);
+    if (direction == Direction::kBack) {
+      history_.Put(gate_, HistoryMark::kPutBack);
+    } else if (history_.Has(HistoryMark::kPutBack)) {
+      history_.Clear(gate_, HistoryMark::kDone);  // of before the putting back
+      history_.Clear(gate_, HistoryMark::kPutBack);
+    }
+  }
+
+  HistoryGate& gate_;
+  RunFiles files_;
+  HistoryFile& history_;
+  RecoveryChoice choice_;
+  Recovery& recovery_;
+};
+
 }  // namespace
 
 Recovery Transactions::Recover(RecoveryChoice choice) {
@@ -43,93 +121,32 @@ Recovery Transactions::Recover(RecoveryChoice choice) {
   if (dry_run_) return recovery;
   const std::vector<HistoryName> names = folder_.List();
   for (const HistoryName& name : names) {
-    const bool is_newest = &name == &names.back();
-    if (!RecoverRun(name, is_newest, choice, recovery)) break;
+    auto history = OpenAlone(folder_, name);
+    if (history == nullptr) continue;
+    const RunStage stage = StageOf(*history);
+    if (HasEnded(stage)) {
+      // The mark must outlast the runs that follow. Only that of the last run may not be synced.
+      if (&name == &names.back()) history->Sync(folder_.gate());
+      continue;
+    }
+    RunRecovery run(folder_, *history, choice, recovery);
+    if (run.IsNeverApplied(stage)) {
+      Discard(std::move(history), name);
+    } else if (stage == RunStage::kDamaged) {
+      run.RecoverDamaged();
+    } else {
+      run.Recover(stage);
+    }
+    if (recovery.stuck) break;
   }
   return recovery;
-}
-
-// False where a run is stuck.
-bool Transactions::RecoverRun(const HistoryName& name, bool is_newest, RecoveryChoice choice,
-                              Recovery& recovery) {
-  std::unique_ptr<HistoryFile> history;
-  try {
-    history = folder_.Open(name, FileAccess::kAlone);
-  } catch (const NumberedError& error) {
-    // While a writer is at work nobody can read its file. Others who read one must not keep an
-    // unfinished run from being found.
-    if (error.Is(ErrorNumber::kPermissionDenied) && IsFinishedOrWritten(folder_, name)) return true;
-    throw;
-  }
-  HistoryGate& gate = folder_.gate();
-  ChangeApplier applier(gate, folder_.folders());
-  const Stand stand = StandOf(*history);
-  if (stand == Stand::kFinished) {
-    // The mark must outlast the runs that follow. Only that of the last run may not be synced yet.
-    if (is_newest) history->Sync(gate);
-    return true;
-  }
-  if (stand == Stand::kNeverApplied) {
-    Discard(std::move(history), name);
-    return true;
-  }
-  if (stand == Stand::kDamaged) {
-    if (choice == RecoveryChoice::kLeave) {
-      history->Put(gate, HistoryMark::kLeft);
-      recovery.finished.push_back(DamagedHistory(history->path()).description() +
-                                  " The run that it tells of is left as it is.");
-      return true;
-    }
-    recovery.stuck = name;
-    recovery.stuck_text = DamagedHistory(history->path()).description() +
-                          " The run that it tells of was interrupted.";
-    return false;
-  }
-  const RunTitle title = history->Title();
-  if (!history->Has(HistoryMark::kCommitted) && applier.IsAllOld(*history)) {
-    Discard(std::move(history), name);
-    return true;
-  }
-  const std::set<PlaceConflict> conflicts = applier.Conflicts(*history);
-  Direction direction = stand == Stand::kBack ? Direction::kBack : Direction::kForward;
-  if (!conflicts.empty()) {
-    if (choice == RecoveryChoice::kByItself) {
-      recovery.stuck = name;
-      recovery.stuck_text = Named(title) + " was interrupted, and another program has changed " +
-                            conflicts.begin()->path + " since.";
-      return false;
-    }
-    if (choice == RecoveryChoice::kFinish) direction = Direction::kForward;
-    if (choice == RecoveryChoice::kPutBack) direction = Direction::kBack;
-    if (choice == RecoveryChoice::kLeave) {
-      history->Put(gate, HistoryMark::kLeft);
-      recovery.finished.push_back(Named(title) + " was interrupted. It is left as it is.");
-      return true;
-    }
-  }
-  // The marks stand on the disk before anything is written: a crash may come again.
-  history->Sync(gate);
-  if (direction == Direction::kBack && stand == Stand::kForward) {
-    history->Put(gate, HistoryMark::kPutBack);
-  }
-  if (direction == Direction::kForward && stand == Stand::kBack) {
-    history->Clear(gate, HistoryMark::kDone);  // of before the putting back
-    history->Clear(gate, HistoryMark::kPutBack);
-  }
-  applier.Apply(*history, direction, false, conflicts);
-  const bool back = direction == Direction::kBack;
-  history->Put(gate, back ? HistoryMark::kClosed : HistoryMark::kDone);
-  recovery.finished.push_back(Named(title) + " was interrupted. It is " +
-                              (back ? "put back" : "finished") + " now.");
-  return true;
 }
 
 bool Transactions::IsUnfinished() {
   for (const HistoryName& name : folder_.List()) {
     try {
-      const auto history = folder_.Open(name, FileAccess::kReadOnly);
-      const Stand stand = StandOf(*history);
-      if (stand != Stand::kFinished && stand != Stand::kNeverApplied) return true;
+      const RunStage stage = StageOf(*folder_.Open(name, FileAccess::kReadOnly));
+      if (!HasEnded(stage) && stage != RunStage::kNeverApplied) return true;
     } catch (const NumberedError&) {
       // A file that is open elsewhere belongs to a run that is at work.
     }

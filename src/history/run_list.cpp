@@ -4,6 +4,8 @@
 #include <map>
 #include <set>
 
+#include "history/run_stage.h"
+
 namespace golf {
 namespace {
 
@@ -21,12 +23,8 @@ void FindUndone(std::vector<HistoryRun>& newest_first) {
 }
 
 void AddPart(HistoryFile& history, const HistoryName& name, std::vector<HistoryRun>& runs) {
-  if (history.Has(HistoryMark::kClosed)) return;
-  const bool left = history.Has(HistoryMark::kLeft);
-  const bool done = history.Has(HistoryMark::kDone) && !history.Has(HistoryMark::kPutBack);
-  const bool begun =
-      history.Has(HistoryMark::kCommitted) || history.IsTorn(HistoryMark::kCommitted);
-  if (!left && !done && !begun) return;
+  const RunStage stage = StageOf(history);
+  if (stage == RunStage::kClosed || stage == RunStage::kNeverApplied) return;
   const RunTitle title = history.Title();
   if (runs.empty() || runs.back().run != name.run) {
     runs.push_back({.run = name.run, .title = title, .parts = {}});
@@ -34,9 +32,13 @@ void AddPart(HistoryFile& history, const HistoryName& name, std::vector<HistoryR
   HistoryRun& run = runs.back();
   run.parts.push_back(name);
   run.changes += history.CountChanges();
-  if (history.Has(HistoryMark::kUndone)) run.state = RunState::kUndone;
-  if (left) run.state = RunState::kLeft;
-  if (!left && !done) run.state = RunState::kInterrupted;
+  if (stage == RunStage::kLeft) {
+    run.state = RunState::kLeft;
+  } else if (!HasEnded(stage)) {
+    run.state = RunState::kInterrupted;
+  } else if (history.Has(HistoryMark::kUndone)) {
+    run.state = RunState::kUndone;
+  }
 }
 
 }  // namespace

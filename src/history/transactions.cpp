@@ -1,12 +1,15 @@
 #include "history/transactions.h"
 
 #include <algorithm>
-#include <map>
+#include <optional>
 #include <utility>
 
+#include "core/existing_file.h"
 #include "core/resume_next.h"
+#include "history/change_applier.h"
 #include "history/held_content.h"
 #include "history/hold_failed.h"
+#include "history/run_stage.h"
 
 namespace golf {
 namespace {
@@ -29,6 +32,13 @@ class RunInterrupted : public NumberedError {
                           " The run is interrupted: the next start puts it back, or finishes it.") {
   }
 };
+
+void PutBack(RunFiles& files, HistoryFile& history) {
+  history.Put(files.gate(), HistoryMark::kPutBack);
+  ApplyChanges(files, history,
+               {.direction = Direction::kBack, .skipped = FindConflicts(files, history)});
+  history.Put(files.gate(), HistoryMark::kClosed);
+}
 
 NumberedError Replaced(const std::string& path) {
   return {ErrorNumber::kPermissionDenied,
@@ -122,9 +132,10 @@ std::unique_ptr<HistoryFile> Transactions::WriteHistory(const HistoryName& name,
     HistoryWriter writer(folder_.gate(), folder_.Path(name));
     WriteContent(writer, name, changes, report);
     history = std::make_unique<HistoryFile>(folder_.Path(name), writer.Take());
-    folder_.gate().SyncFolder(folder_.folders().history);
+    folder_.gate().SyncFolder(folder_.paths().history);
     CheckPaths(changes);
-    ChangeApplier(folder_.gate(), folder_.folders()).CheckUntouched(*history);
+    RunFiles files(folder_.gate(), folder_.paths());
+    RequireUntouched(files, *history);
     return history;
   } catch (const NumberedError&) {
     Discard(std::move(history), name);
@@ -141,7 +152,7 @@ void Transactions::WriteContent(HistoryWriter& writer, const HistoryName& name,
   writer.Run(title_);
   std::size_t kept = 0;
   ReadHeld(
-      changes, folder_.folders(),
+      changes, folder_.paths(),
       {.group = [&](ChangeGroup group, std::string_view title) { writer.Group(group, title); },
        .file =
            [&](HistoryFileEntry entry) {
@@ -158,12 +169,9 @@ void Transactions::WriteContent(HistoryWriter& writer, const HistoryName& name,
 // Each path must still name the file whose changes are held.
 void Transactions::CheckPaths(const HeldChanges& changes) {
   const auto identity = [&](const std::string& path) -> std::optional<FileIdentity> {
-    try {
-      return held_.real().Open(path, FileAccess::kReadOnly)->Identity();
-    } catch (const NumberedError& error) {
-      if (!error.Is(ErrorNumber::kFileNotFound)) throw;
-      return std::nullopt;
-    }
+    const auto file = OpenIfExists(held_.real(), path, FileAccess::kReadOnly);
+    if (file == nullptr) return std::nullopt;
+    return file->Identity();
   };
   for (const HeldDeletion& deletion : changes.deletions()) {
     if (identity(deletion.path) != deletion.identity) throw Replaced(deletion.path);
@@ -178,32 +186,25 @@ void Transactions::CheckPaths(const HeldChanges& changes) {
 
 // From the mark on, a crash leaves a run that recovery finishes. An error puts everything back.
 void Transactions::Apply(HistoryFile& history, HeldChanges& changes) {
-  const auto open = [&](const std::string& path) -> std::shared_ptr<PlatformFile> {
-    for (const auto& file : changes.files()) {
-      if (!file->is_created() && file->path() == path) return file->real();
-    }
-    return nullptr;
-  };
-  ChangeApplier applier(folder_.gate(), folder_.folders(), open);
+  RunFiles files(folder_.gate(), folder_.paths(), [&](const std::string& path) {
+    const auto file =
+        std::find_if(changes.files().begin(), changes.files().end(),
+                     [&](const auto& held) { return !held->is_created() && held->path() == path; });
+    return file == changes.files().end() ? nullptr : (*file)->real();
+  });
   try {
     history.Put(folder_.gate(), HistoryMark::kCommitted);
-    applier.Apply(history, Direction::kForward, true);
+    ApplyChanges(files, history, {.direction = Direction::kForward, .untouched = true});
     history.Put(folder_.gate(), HistoryMark::kDone);
   } catch (const NumberedError& error) {
     const NumberedError first = error;
     try {
-      PutBack(history, applier);
+      PutBack(files, history);
     } catch (const NumberedError&) {
       throw RunInterrupted(first);
     }
     throw first;
   }
-}
-
-void Transactions::PutBack(HistoryFile& history, ChangeApplier& applier) {
-  history.Put(folder_.gate(), HistoryMark::kPutBack);
-  applier.Apply(history, Direction::kBack, false, applier.Conflicts(history));
-  history.Put(folder_.gate(), HistoryMark::kClosed);
 }
 
 // The file of a run that has not begun to be applied. It may stay where it cannot be deleted:
@@ -227,12 +228,10 @@ void Transactions::Prune() {
     for (const HistoryName& name : names) {
       anyway([&] {
         auto history = folder_.Open(name, FileAccess::kAlone);
-        const bool done = history->Has(HistoryMark::kDone) && !history->Has(HistoryMark::kPutBack);
-        const bool finished =
-            done || history->Has(HistoryMark::kClosed) || history->Has(HistoryMark::kLeft);
+        const bool ended = HasEnded(StageOf(*history));
         const bool old = name.run < oldest_kept || history->Title().moment < now_() - kDaysKept;
         history.reset();
-        if (finished && old) folder_.Forget(name);
+        if (ended && old) folder_.Forget(name);
       });
     }
   });

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,8 +28,8 @@ class CommitFailed : public NumberedError {
 // What became of runs that a crash, a power cut or a kill has interrupted.
 struct Recovery {
   std::vector<std::string> finished;  // sentences for the operator, one for each run
-  std::optional<HistoryName> stuck;   // a run about which the operator must decide
-  std::string stuck_text;             // and why
+  bool stuck = false;                 // whether the operator must decide about a run
+  std::string stuck_text = {};        // and why
 };
 
 enum class RecoveryChoice { kByItself, kFinish, kPutBack, kLeave };
@@ -73,9 +72,7 @@ class Transactions {
   std::int32_t Commit(std::string_view report);
   void Drop();
 
-  // The running number that the last commits of this click have got; 0 for none.
-  std::int32_t committed_in_click() const { return committed_in_click_; }
-  // That of the last commit of all clicks; 0 for none.
+  // The running number of the last run that was committed; 0 for none.
   std::int32_t last_committed() const { return last_committed_; }
 
   // Finishes, or puts back, what was interrupted. Comes before anything that changes files, under
@@ -92,12 +89,8 @@ class Transactions {
                     std::string_view report);
   void CheckPaths(const HeldChanges& changes);
   void Apply(HistoryFile& history, HeldChanges& changes);
-  void PutBack(HistoryFile& history, ChangeApplier& applier);
   void Discard(std::unique_ptr<HistoryFile> history, const HistoryName& name);
   void Prune();
-
-  bool RecoverRun(const HistoryName& name, bool is_newest, RecoveryChoice choice,
-                  Recovery& recovery);
 
   HeldPlatform& held_;
   HistoryFolder folder_;
@@ -110,5 +103,18 @@ class Transactions {
   bool stop_raised_ = false;
   int missed_signal_ = 0;  // that came when the run could not be stopped any more
 };
+
+// Runs a statement of an open transaction, then commits. What the statement has changed before a
+// numbered error is committed as well, and the error is raised again.
+template <class Statement, class Commit>
+void RunAndCommit(const Statement& statement, const Commit& commit) {
+  try {
+    statement();
+  } catch (const NumberedError&) {
+    commit();
+    throw;
+  }
+  commit();
+}
 
 }  // namespace golf

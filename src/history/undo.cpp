@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "core/existing_file.h"
 #include "history/record_changes.h"
 #include "history/record_parts.h"
 
@@ -118,19 +119,15 @@ class PartUndo {
 
   void Open(const HistoryFileEntry& entry) {
     entry_ = entry;
-    path_ = folder_.folders().Path(entry.path);
+    path_ = folder_.paths().Path(entry.path);
     layout_ = kinds_.layout_of(FileNameOf(entry.path));
     // A text is one record.
     length_ = layout_ ? layout_->length
                       : static_cast<std::size_t>(
                             std::max({entry.old_length, entry.new_length, std::int64_t{1}}));
-    file_ = nullptr;
-    if (entry.fate == FileFate::kDeleted) return;
-    try {
-      file_ = gate_.platform().Open(path_, FileAccess::kReadWriteShared);
-    } catch (const NumberedError& error) {
-      if (!error.Is(ErrorNumber::kFileNotFound)) throw;
-    }
+    file_ = entry.fate == FileFate::kDeleted
+                ? nullptr
+                : OpenIfExists(gate_.platform(), path_, FileAccess::kReadWriteShared);
   }
 
   std::int64_t Offset(std::int64_t record) const {
@@ -356,7 +353,7 @@ class PartUndo {
     transactions_.BeginGroup("");
     for (const HistoryFileEntry& entry : created) {
       result_.put_back.insert(entry.path);
-      const std::string path = folder_.folders().Path(entry.path);
+      const std::string path = folder_.paths().Path(entry.path);
       if (IsThere(path)) gate_.Delete(path);
     }
     for (const HistoryFileEntry& entry : deleted) BringBack(entry);
@@ -365,7 +362,7 @@ class PartUndo {
   void BringBack(const HistoryFileEntry& entry) {
     result_.put_back.insert(entry.path);
     const auto kept = folder_.gate().platform().Open(KeptPath(entry), FileAccess::kReadOnly);
-    const std::string path = folder_.folders().Path(entry.path);
+    const std::string path = folder_.paths().Path(entry.path);
     gate_.Create(path);
     const auto file = gate_.platform().Open(path, FileAccess::kReadWriteShared);
     std::string piece(kPiece, '\0');
@@ -377,18 +374,10 @@ class PartUndo {
   }
 
   std::string KeptPath(const HistoryFileEntry& entry) const {
-    return folder_.folders().history + entry.kept_as;
+    return folder_.paths().history + entry.kept_as;
   }
 
-  bool IsThere(const std::string& path) {
-    try {
-      gate_.platform().Open(path, FileAccess::kReadOnly);
-      return true;
-    } catch (const NumberedError& error) {
-      if (!error.Is(ErrorNumber::kFileNotFound)) throw;
-      return false;
-    }
-  }
+  bool IsThere(const std::string& path) { return FileExists(gate_.platform(), path); }
 
   HeldPlatform& held_;
   HistoryGate gate_;

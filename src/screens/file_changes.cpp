@@ -50,13 +50,7 @@ bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std:
   Transactions& transactions = *state.transactions;
   transactions.Begin({.command = std::move(command), .about = about});
   transactions.BeginGroup(about);
-  try {
-    change();
-  } catch (const NumberedError&) {
-    transactions.Commit("");
-    throw;
-  }
-  transactions.Commit("");
+  RunAndCommit(change, [&] { transactions.Commit(""); });
   return true;
 }
 

@@ -92,57 +92,57 @@ void FailingPlatform::Pass(Operation operation, const std::string& path) {
 
 std::unique_ptr<PlatformFile> FailingPlatform::Open(const std::string& path, FileAccess access) {
   Pass(Operation::kOpen, path);
-  return std::make_unique<File>(*this, path, real_.Open(path, access));
+  return std::make_unique<File>(*this, path, PlatformOver::Open(path, access));
 }
 
 void FailingPlatform::Create(ChangePass pass, const std::string& path) {
   Pass(Operation::kCreate, path);
-  real_.Create(pass, path);
+  PlatformOver::Create(pass, path);
   Note({Operation::kCreate, path});
 }
 
 void FailingPlatform::CreateFolder(ChangePass pass, const std::string& path) {
   Pass(Operation::kCreateFolder, path);
-  real_.CreateFolder(pass, path);
+  PlatformOver::CreateFolder(pass, path);
   Note({Operation::kCreateFolder, path});
 }
 
 void FailingPlatform::Delete(ChangePass pass, const std::string& path) {
   Pass(Operation::kDelete, path);
-  real_.Delete(pass, path);
+  PlatformOver::Delete(pass, path);
   Note({Operation::kDelete, path});
 }
 
 void FailingPlatform::Rename(ChangePass pass, const std::string& from, const std::string& to) {
   Pass(Operation::kRename, to);
-  real_.Rename(pass, from, to);
+  PlatformOver::Rename(pass, from, to);
   Note({Operation::kRename, to});
 }
 
 void FailingPlatform::SyncFolder(ChangePass pass, const std::string& folder) {
   Pass(Operation::kSyncFolder, folder);
-  real_.SyncFolder(pass, folder);
+  PlatformOver::SyncFolder(pass, folder);
 }
 
 std::unique_ptr<PlatformFile> FailingPlatform::OpenScratch() {
   Pass(Operation::kScratch, kScratchName);
-  return std::make_unique<File>(*this, kScratchName, real_.OpenScratch());
+  return std::make_unique<File>(*this, kScratchName, PlatformOver::OpenScratch());
 }
 
 std::vector<std::string> FailingPlatform::FileNames(const std::string& folder) {
   Pass(Operation::kList, folder);
-  return real_.FileNames(folder);
+  return PlatformOver::FileNames(folder);
 }
 
 std::unique_ptr<RunLock> FailingPlatform::LockRun(const std::string& folder) {
   Pass(Operation::kLock, folder);
-  return real_.LockRun(folder);
+  return PlatformOver::LockRun(folder);
 }
 
 void FailingPlatform::StartProgram(const std::string& path, const std::string& arguments) {
   Pass(Operation::kStart, path);
   started_.push_back(path + " " + arguments);
-  if (starts_) real_.StartProgram(path, arguments);
+  if (starts_) PlatformOver::StartProgram(path, arguments);
 }
 
 }  // namespace golf

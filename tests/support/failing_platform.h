@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/numbered_error.h"
-#include "core/platform.h"
+#include "core/platform_over.h"
 
 namespace golf {
 
@@ -56,9 +56,9 @@ constexpr const char* kScratchName = "scratch";
 
 // A real platform whose calls are counted, written down, and can be made to fail. Whatever it opens
 // must be closed before it goes.
-class FailingPlatform : public Platform {
+class FailingPlatform : public PlatformOver {
  public:
-  explicit FailingPlatform(Platform& real) : real_(real) {}
+  using PlatformOver::PlatformOver;
 
   void Fail(Fault fault);
   void Heal() { fault_.reset(); }
@@ -81,13 +81,9 @@ class FailingPlatform : public Platform {
   void SyncFolder(ChangePass pass, const std::string& folder) override;
   // Calls on it count, and fail, as those on a file named kScratchName.
   std::unique_ptr<PlatformFile> OpenScratch() override;
-  bool FolderExists(const std::string& path) override { return real_.FolderExists(path); }
   std::vector<std::string> FileNames(const std::string& folder) override;
   std::unique_ptr<RunLock> LockRun(const std::string& folder) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
-  std::string ProgramFolder() const override { return real_.ProgramFolder(); }
-  char Separator() const override { return real_.Separator(); }
-  RegionalForms Regional() const override { return real_.Regional(); }
 
  private:
   class File;
@@ -98,7 +94,6 @@ class FailingPlatform : public Platform {
   [[noreturn]] void Throw(const std::string& path) const;
   void Note(Change change) { changes_.push_back(std::move(change)); }
 
-  Platform& real_;
   std::optional<Fault> fault_;
   bool failed_ = false;
   std::array<int, static_cast<std::size_t>(Operation::kEnd)> counts_{};

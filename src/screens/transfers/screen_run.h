@@ -70,13 +70,7 @@ template <class Request, class AnyReport>
 void RunWhole(SharedState& state, ScreenHost& host, RunLook look, RunTitle title,
               const Request& request, AnyReport& report, const CommitRetry& retry = nullptr) {
   ScreenRun run(state, host, std::move(look), std::move(title));
-  try {
-    Run(state, run, request, report);
-  } catch (const NumberedError&) {
-    run.Commit(report, retry);
-    throw;
-  }
-  run.Commit(report, retry);
+  RunAndCommit([&] { Run(state, run, request, report); }, [&] { run.Commit(report, retry); });
 }
 
 }  // namespace golf

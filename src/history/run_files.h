@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "history/history_format.h"
+#include "history/history_gate.h"
+#include "history/history_paths.h"
+
+namespace golf {
+
+// The siblings' files that a run changes, on the disk.
+class RunFiles {
+ public:
+  // Returns a file that is open already, or null.
+  using OpenFile = std::function<std::shared_ptr<PlatformFile>(const std::string& path)>;
+
+  RunFiles(HistoryGate& gate, HistoryPaths paths, OpenFile open = nullptr)
+      : gate_(gate), paths_(std::move(paths)), open_(std::move(open)) {}
+
+  HistoryGate& gate() { return gate_; }
+  const HistoryPaths& paths() const { return paths_; }
+
+  // Opens a file for reading and writing. Returns null if it does not exist.
+  std::shared_ptr<PlatformFile> Open(const std::string& path);
+  bool Exists(const std::string& path);
+
+  // The path under which the history keeps a file that the run has deleted.
+  std::string KeptPath(const HistoryFileEntry& entry) const {
+    return paths_.history + entry.kept_as;
+  }
+  // True if the run's deletion of the file has been carried out.
+  bool IsKept(const HistoryFileEntry& entry) { return Exists(KeptPath(entry)); }
+
+ private:
+  HistoryGate& gate_;
+  HistoryPaths paths_;
+  OpenFile open_;
+};
+
+}  // namespace golf
