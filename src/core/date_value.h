@@ -6,7 +6,8 @@
 
 namespace golf {
 
-// A date and time as the number of days since 30 December 1899. The fraction is the time of day.
+// Holds a date and time as the number of days since 30 December 1899. The fraction is the time of
+// day.
 using DateValue = double;
 
 struct CivilTime {

@@ -32,7 +32,7 @@ constexpr FieldTypeInfo InfoOf(FieldType type) {
   return kInfos[static_cast<std::size_t>(type)];
 }
 
-// The range of one index of a table. It runs from `base` to `base` + `count` - 1.
+// Describes the range of one index of a table. It runs from `base` to `base` + `count` - 1.
 struct Dimension {
   int base = 1;
   int count = 1;

@@ -11,7 +11,7 @@ constexpr std::string_view kRefused = "\\/:*?\"<>|";
 
 // Windows reserves these names for devices, with any extension.
 constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$", "CLOCK$"};
-// A device name also consists of one of these and one digit.
+// Each of these texts with one digit after it is also a device name.
 constexpr std::string_view kNumberedDevices[] = {"COM", "LPT"};
 // The last three are superscript digits.
 constexpr std::string_view kDeviceDigits = "0123456789\xB9\xB2\xB3";

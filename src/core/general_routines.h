@@ -7,7 +7,7 @@
 
 namespace golf {
 
-// Options of FilterKey. They can be combined.
+// These are the options of FilterKey. They can be combined.
 inline constexpr unsigned kKeyAllowsBlank = 1;
 inline constexpr unsigned kKeyToCapital = 2;
 inline constexpr unsigned kKeyRefusesDigits = 4;
@@ -18,9 +18,9 @@ inline constexpr unsigned kKeyRefusesDigits = 4;
 char FilterKey(char key, unsigned options);
 
 // Limits `value` in place to the range `low` to `high`, and returns it rounded to a whole number,
-// half to even. First replaces a value below `low` by `if_low`, and a value above `high` by
-// `if_high`, if these are given. The replacement is limited too. Raises error 6 if the result does
-// not fit 32 bits.
+// half to even. First replaces a value below `low` by `if_low`, if given, and raises it to at least
+// `low`. Then replaces a value above `high` by `if_high`, if given, and lowers it to at most
+// `high`. Raises error 6 if the result does not fit 32 bits.
 std::int32_t LimitNumber(double& value, double low, double high, std::optional<double> if_low = {},
                          std::optional<double> if_high = {});
 // Does the same with LeadingNumber(text).
@@ -30,11 +30,12 @@ std::int32_t LimitNumber(std::string_view text, double low, double high,
 // Distributes a player's handicap strokes over the holes by their ranks. Rank 1 is the hardest
 // hole. Sets `result` to the strokes of each hole: 0 to 5, or -1 for a hole where the player gives
 // a stroke. Fills holes 1 to 18 if `holes` is above 9, and otherwise holes 1 to 9. `result` and
-// `ranks` must have that many elements. A hole whose rank is outside 1 to 18 gets 0. If `strokes`
-// is negative (a plus handicap), the easiest holes give one stroke each.
+// `ranks` must have that many elements. A hole whose rank is outside 1 to 18 gets 0. A negative
+// number of strokes is a plus handicap. The player then gives one stroke on each of as many holes,
+// starting with the easiest.
 void AllocateHoleStrokes(std::span<int> result, std::span<const int> ranks, int holes, int strokes);
 
-// Options of ShellSort. They can be combined.
+// These are the options of ShellSort. They can be combined.
 inline constexpr unsigned kSortDescending = 1;
 inline constexpr unsigned kSortFillsIndexes = 4;
 

@@ -16,7 +16,8 @@ namespace {
 // example 12.49999 instead of 12.5.
 constexpr double kHandicapNudge = 0.00001;
 
-// The number 0.digits x 10^point, without leading or trailing zeros. The digits of zero are empty.
+// Holds the number 0.digits x 10^point, without leading or trailing zeros. The digits of zero are
+// empty.
 struct Decimal {
   std::string digits;
   int point = 0;
@@ -83,7 +84,7 @@ char DigitAt(const Decimal& decimal, int place) {  // place 0 is the units digit
   return held ? decimal.digits[static_cast<std::size_t>(index)] : '0';
 }
 
-// One parsed section of a format pattern.
+// Holds one parsed section of a format pattern.
 struct Section {
   std::string before;
   std::string behind;

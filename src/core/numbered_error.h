@@ -5,7 +5,7 @@
 
 namespace golf {
 
-// The numbers of the errors that the operator may see.
+// Lists the numbers of the errors that the operator may see.
 enum class ErrorNumber : int {
   kBadCall = 5,
   kOverflow = 6,
@@ -23,9 +23,9 @@ enum class ErrorNumber : int {
   kPathNotFound = 76,  // a folder of the path is missing
 };
 
-// An error with a number. `description` is a full sentence for the operator. It names the file if a
-// file is concerned. A screen or a run may continue after this kind of exception, but not after any
-// other kind.
+// Reports an error with its number. `description` is a full sentence for the operator. It names the
+// file if a file is concerned. A screen or a run may continue after this kind of exception, but not
+// after any other kind.
 class NumberedError : public std::exception {
  public:
   NumberedError(ErrorNumber number, std::string description);
@@ -45,8 +45,8 @@ class NumberedError : public std::exception {
   std::string description_;
 };
 
-// The system could not read a record. The buffer may contain another record, so a run leaves out
-// the golfer concerned and never saves the buffer.
+// Reports that the system could not read a record. The buffer may contain another record, so a run
+// leaves out the golfer concerned and never saves the buffer.
 class ReadError : public NumberedError {
  public:
   explicit ReadError(const NumberedError& cause) : NumberedError(cause) {}

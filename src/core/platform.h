@@ -11,8 +11,8 @@
 
 namespace golf {
 
-// The only interface to the operating system. All other code is portable, and tests replace the
-// platform by one that fails on purpose.
+// This header is the only interface to the operating system. All other code is portable, and tests
+// replace the platform by one that fails on purpose.
 //
 // A path is text in code page 1252. It starts with ProgramFolder(). The name of that folder may
 // contain characters that the code page lacks, so the platform keeps it in the system's encoding.
@@ -78,8 +78,8 @@ class RunLock {
   virtual ~RunLock() = default;
 };
 
-// Records requests to end the process during its lifetime, such as an interrupt or the end of the
-// login session. Requests that the process ignores stay ignored.
+// Records requests to end the process during its lifetime, such as an interrupt or a logoff.
+// Requests that the process ignores stay ignored.
 class StopWatch {
  public:
   virtual ~StopWatch() = default;

@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// The reasons why a call to the operating system fails. They are the same on every system.
+// Lists the reasons why a call to the operating system fails. They are the same on every system.
 enum class PlatformFault {
   kHeld,
   kDiskFull,
@@ -26,7 +26,7 @@ enum class PlatformFault {
 
 // Returns the error for a fault with a file. All paths here are in code page 1252.
 NumberedError PlatformError(PlatformFault fault, const std::string& path);
-// Returns error 57, which stands for any other fault. `reason` is the system's description of the
+// Returns error 57, which reports any other fault. `reason` is the system's description of the
 // fault.
 NumberedError DeviceFault(const std::string& path, const std::string& reason);
 

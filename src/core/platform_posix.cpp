@@ -223,8 +223,8 @@ bool IsFolder(const std::string& native) {
   return fs::is_directory(native, error);
 }
 
-// The attributes of a started program. They reset the signals that this process ignores to their
-// default actions.
+// Holds the attributes of a started program. They reset the signals that this process ignores to
+// their default actions.
 class DefaultSignals {
  public:
   DefaultSignals() {
@@ -245,7 +245,7 @@ class DefaultSignals {
   posix_spawnattr_t attributes_{};
 };
 
-// The picture for one strftime letter in a date or time form.
+// Holds the picture for one strftime letter in a date or time form.
 struct PictureOf {
   char letter;
   std::string_view picture;

@@ -250,7 +250,7 @@ class WindowsRunLock : public RunLock {
   Handle file_;  // the system deletes the file when the last handle to it closes
 };
 
-// An event that ends a process, and the signal number that a shell reports for it.
+// Describes an event that ends a process, and the signal number that a shell reports for it.
 struct StopEvent {
   DWORD event;
   int signal;
@@ -351,7 +351,7 @@ class WindowsPlatform : public Platform {
     if (!DeleteFileW(native.c_str())) FailWith(GetLastError(), native);
   }
 
-  // The system raises an error if the old or the new file is open.
+  // Renames a file. The system raises an error if the old or the new file is open.
   void Rename(ChangePass, const std::string& from, const std::string& to) override {
     const std::wstring old_native = Resolve(from);
     const std::wstring new_native = Resolve(to);

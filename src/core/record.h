@@ -17,7 +17,7 @@
 
 namespace golf {
 
-// The name of a field, usable as a template argument.
+// Makes the name of a field usable as a template argument.
 template <std::size_t kSize>
 struct FieldName {
   char characters[kSize]{};
@@ -77,7 +77,7 @@ struct ValueOf<FieldType::kText> {
 
 }  // namespace detail
 
-// A record of Layout::kLength bytes, all 0 at first. Get and Set access the bytes of a field
+// Holds a record of Layout::kLength bytes, all 0 at first. Get and Set access the bytes of a field
 // directly. Setting a field changes no other byte. An index out of its range raises error 9.
 template <class Layout>
 class Record {
@@ -87,7 +87,7 @@ class Record {
  public:
   template <FieldName kName>
   using Value = typename detail::ValueOf<FieldOf<Layout, kName>().type>::Type;
-  // The parameter type of Set.
+  // This is the parameter type of Set.
   template <FieldName kName>
   using Source =
       std::conditional_t<std::is_same_v<Value<kName>, std::string>, std::string_view, Value<kName>>;

@@ -10,8 +10,9 @@
 
 namespace golf {
 
-// A random-access file of records of one length, numbered from 1. A buffer, called the window,
-// reads consecutive records ahead. The owner must call ForgetWindow when the file may have changed.
+// Reads and writes a random-access file of records of one length, numbered from 1. A buffer, called
+// the window, reads consecutive records ahead. The owner must call ForgetWindow when the file may
+// have changed.
 class RecordFile {
  public:
   RecordFile(ChangeGate& gate, std::string path, std::size_t record_length, FileAccess access);

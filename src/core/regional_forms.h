@@ -6,14 +6,14 @@
 
 namespace golf {
 
-// The platform's formats of dates and times, as pictures for FormatPicture.
+// Contains the platform's formats of dates and times, as pictures for FormatPicture.
 struct RegionalForms {
   std::string short_date = "MM/dd/yy";
   std::string long_time = "HH:mm:ss";
   bool decimal_comma = false;  // true if numbers have a decimal comma
 };
 
-// The formats in which the program shows and reads dates.
+// Contains the formats in which the program shows and reads dates.
 struct DateForms {
   std::string format = "mm/dd/yy";
   std::string mask = "##/##/##";

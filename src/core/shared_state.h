@@ -25,7 +25,7 @@ class Transactions;
 struct KelvaneBuffers;
 struct ZandelBuffers;
 
-// The store objects that all screens share. This header only declares their classes. The
+// Holds the store objects that all screens share. This header only declares their classes. The
 // composition root makes the objects.
 struct StoreObjects {
   std::shared_ptr<CourseClass> SpareCourse;
@@ -36,12 +36,12 @@ struct StoreObjects {
   std::shared_ptr<TeamClass> Team1;
   std::shared_ptr<TeamClass> Team2;
   std::shared_ptr<ESCClass> ESC;
-  // The tournament, player and first team objects above, as their record classes. Code below the
-  // scoring layer uses these.
+  // These are the tournament, player and first team objects above, as their record classes. Code
+  // below the scoring layer uses these.
   std::shared_ptr<TournamentControl> TournamentRecord;
   std::shared_ptr<TournamentPlayers> PlayerRecords;
   std::shared_ptr<TeamRecords> Team1Records;
-  // The record buffers. They are made once and kept.
+  // These are the record buffers. They are made once and kept.
   std::shared_ptr<KelvaneBuffers> Kelvane;
   std::shared_ptr<ZandelBuffers> Zandel;
 };
@@ -49,15 +49,15 @@ struct StoreObjects {
 // Replaces all objects by new ones, in the order of the members.
 using StoreFactory = std::function<void(SharedState&, StoreObjects&)>;
 
-// The state that all screens and stores share. It is made once and passed by reference.
+// Holds the state that all screens and stores share. It is made once and passed by reference.
 class SharedState {
  public:
   SharedState(Platform& platform, StoreFactory factory);
 
   FileTable files;
 
-  // The folders. Each ends in a separator. CourseClass opens its library in CourseDataPath, and the
-  // Quenby stores open their files in StoreDataPath. Screens set both.
+  // These are the data folders. Each ends in a separator. CourseClass opens its library in
+  // CourseDataPath, and the Quenby stores open their files in StoreDataPath. Screens set both.
   std::string ProgramPath;
   std::string KVDataPath;
   std::string QBDataPath;
@@ -69,7 +69,7 @@ class SharedState {
   // set all input.
   bool remembers_settings = true;
 
-  // The Kelvane roster selected last, without folder or extension.
+  // This is the name of the Kelvane roster selected last, without folder or extension.
   std::string KVRosterName;
 
   std::string DateFormat;
@@ -80,7 +80,7 @@ class SharedState {
   // a point.
   bool decimal_comma = false;
 
-  // The word that the calling application passed. "ZD", "QB" or "KV" is the name of that
+  // This is the word that the calling application passed. "ZD", "QB" or "KV" is the name of that
   // application. Any other word is ignored.
   std::string CommandLine;
 

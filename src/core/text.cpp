@@ -13,7 +13,7 @@ struct CasePair {
   unsigned char upper;
 };
 
-// The letters of code page 1252 whose capital code is not 32 less than their own.
+// Lists the letters of code page 1252 whose capital code is not 32 less than their own.
 constexpr CasePair kIrregularPairs[] = {{0x9A, 0x8A}, {0x9C, 0x8C}, {0x9E, 0x8E}, {0xFF, 0x9F}};
 
 constexpr bool HasRegularCapital(unsigned char code) {
