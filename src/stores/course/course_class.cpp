@@ -34,7 +34,7 @@ std::string CourseEntry(std::string_view name, std::int32_t record) {
 
 constexpr std::int16_t kNewSlope = 113;
 
-// The name and the number of holes of a course that has no record.
+// Contains the name and the number of holes of a course that has no record.
 struct SpecialCourse {
   std::int32_t number;
   std::string_view name;

@@ -12,23 +12,24 @@
 
 namespace golf {
 
-// One course library. It consists of the course file and three index files in CourseDataPath, whose
-// names contain ActiveProgram. The object holds one course, the current record, with its tee lists,
-// and the lists of courses. A caller sets CourseDataPath and ActiveProgram, and then calls
-// OpenCourseFile.
+// Reads and writes one course library. A library consists of the course file and three index files
+// in CourseDataPath, whose names contain ActiveProgram. The object holds one course, the current
+// record, with its tee lists, and the lists of courses. A caller sets CourseDataPath and
+// ActiveProgram, and then calls OpenCourseFile.
 //
 // Every operation on files may raise the errors of FileTable. A getter or setter raises error 9 for
-// a tee outside 1 to 6, a hole outside 1 to 18 or a group outside 0 to 1. Group 0 is the men, group
-// 1 the ladies. A setter raises error 6 if a number is too large for its field. It rounds a number
-// to a whole one, half to even, unless it is a rating. Setters check nothing else and change only
-// the current record.
+// a tee outside 1 to 6, a hole outside 1 to 18 or a group outside 0 to 1. Group 0 is the men, and
+// group 1 is the ladies. A setter raises error 6 if a number is too large for its field. It rounds
+// a number to a whole one, half to even, unless it is a rating. Setters check nothing else and
+// change only the current record.
 class CourseClass {
  public:
   explicit CourseClass(SharedState& state) : state_(state), digests_(state.files) {}
   CourseClass(const CourseClass&) = delete;
   CourseClass& operator=(const CourseClass&) = delete;
 
-  // The library files. A missing file is created empty.
+  // The following functions open, read and write the library files. A missing file is created
+  // empty.
 
   void OpenCourseFile();
   void CloseCourseFile();
@@ -53,8 +54,8 @@ class CourseClass {
   // Returns the number of the course read last by GetRecord, or 0 for a course without a record.
   std::int32_t CurrentRecord() const { return current_; }
 
-  // The course lists. OpenCourseFile, SaveRecord, UpdateAllCourseLists and RebuildCourseIndexes
-  // update them.
+  // The following functions return and update the course lists. OpenCourseFile, SaveRecord,
+  // UpdateAllCourseLists and RebuildCourseIndexes update them.
 
   void UpdateAllCourseLists();
   // Writes Index to this record of the open index file.
@@ -69,7 +70,7 @@ class CourseClass {
   // Does not shorten the files.
   void RebuildCourseIndexes(const std::vector<std::int32_t>& sorted_records);
 
-  // The value that was read last from an index file, or that is to be written to one.
+  // Return or set the value that was read last from an index file, or that is to be written to one.
   std::int16_t Index() const { return index_.Get<"Index">(); }
   void SetIndex(double value);
 
@@ -82,7 +83,7 @@ class CourseClass {
   const std::string& Course18Name(std::int32_t i) const { return courses18_.At(i); }
   const std::string& CourseALLName(std::int32_t i) const { return courses_all_.At(i); }
 
-  // The tee lists of the course read last by GetRecord.
+  // The following functions return the tee lists of the course read last by GetRecord.
 
   std::int32_t TeeNumberofTees() const { return tees_.count; }
   // Return an entry of 80 characters. The last character is the tee number. Only the first
@@ -91,7 +92,8 @@ class CourseClass {
   const std::string& TeeLadiesTees(std::int32_t i) const { return TeeEntry(tees_.lists[1], i); }
   const std::string& TeeAllTees(std::int32_t i) const { return TeeEntry(tees_.lists[2], i); }
 
-  // The settings of the course screens, false at first. They are not stored in a file.
+  // The following members are the settings of the course screens, false at first. They are not
+  // stored in a file.
 
   const std::string& ActiveProgram() const { return active_program_; }
   void SetActiveProgram(std::string program) { active_program_ = std::move(program); }
@@ -101,7 +103,7 @@ class CourseClass {
   bool RequirePars = false;
   bool RequireRatingandSlope = false;
 
-  // The getters and setters of the current record follow.
+  // The following functions are the getters and setters of the current record.
 
   // Returns the record itself, for calculations with its numbers.
   const Record<CourseLayout>& Stored() const { return record_; }
@@ -185,7 +187,7 @@ class CourseClass {
   std::string HoleNumber(int tee, int hole);
   void SetHoleNumber(int tee, int hole, double value);
 
-  // The unit of the hole lengths. It is "Meters", or "Yards" for any other text.
+  // Return or set the unit of the hole lengths. It is "Meters", or "Yards" for any other text.
   std::string YardsOrMeters() const;
   void SetYardsOrMeters(std::string_view value);
 
@@ -201,7 +203,7 @@ class CourseClass {
     std::int32_t count = 0;
     std::array<TeeList, 3> lists;  // men, ladies, all
   };
-  // A course that was read, with its tee lists.
+  // Holds a course that was read, with its tee lists.
   struct KeptCourse {
     std::int32_t number;
     Record<CourseLayout> record;

@@ -10,7 +10,7 @@
 
 namespace golf {
 
-// The fields of a course that lists and indexes need.
+// Contains the fields of a course that lists and indexes need.
 struct CourseDigest {
   std::int16_t activeflag = 0;
   std::int16_t hole_num_flag = 0;

@@ -7,9 +7,10 @@
 
 namespace golf {
 
-// The record of a course, the same in the libraries of all three programs. A course has six tees,
-// and tee 6 is never shown. Group 0 is the men, group 1 the ladies. Ratings and pars are in
-// strokes. Lengths are in yards, or in metres if YardsOrMeters is 1.
+// This header describes the record of a course, which is the same in the libraries of all three
+// programs. A course has six tees, and tee 6 is never shown. Group 0 is the men, and group 1 is the
+// ladies. Ratings and pars are in strokes. Lengths are in yards, or in metres if YardsOrMeters is
+// 1.
 
 inline constexpr std::size_t kCourseRecordLength = 3226;
 inline constexpr int kTeeSlots = 6;
@@ -71,23 +72,23 @@ constexpr auto WithTail(const std::array<Field, kTailSize>& tail) {
 
 }  // namespace course_fields
 
-// The layout that all code uses, except the course transfer.
+// Describes the layout that all code uses, except the course transfer.
 struct CourseLayout {
   static constexpr std::string_view kName = "course";
   static constexpr std::size_t kLength = kCourseRecordLength;
   static constexpr auto kFields = course_fields::WithTail(course_fields::kQuenbyTail);
 };
 
-// Kelvane's own layout. It has the same bytes, but no YardsOrMeters.
+// Describes Kelvane's own layout. It has the same bytes, but no YardsOrMeters.
 struct KelvaneCourseLayout {
   static constexpr std::string_view kName = "kelvane course";
   static constexpr std::size_t kLength = kCourseRecordLength;
   static constexpr auto kFields = course_fields::WithTail(course_fields::kKelvaneTail);
 };
 
-// A course index. Record 1 contains the number of entries. The next records contain the course
-// numbers in display order. Any records after them are left over from a longer list and have no
-// meaning.
+// Describes a course index. Record 1 contains the number of entries. The next records contain the
+// course numbers in display order. Any records after them are left over from a longer list and have
+// no meaning.
 struct CourseIndexLayout {
   static constexpr std::string_view kName = "course index";
   static constexpr std::size_t kLength = 2;

@@ -8,7 +8,7 @@
 
 namespace golf {
 
-// The course library of one of the three programs.
+// Identifies the course library of one of the three programs.
 struct CourseLibrary {
   std::string_view program;  // its abbreviation in file names
   std::string_view sibling;  // its name

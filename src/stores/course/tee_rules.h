@@ -10,8 +10,8 @@
 
 namespace golf {
 
-// The rules for the values of a tee. The course screens and the command that checks a library share
-// them. The operator sees the texts of the faults.
+// These functions check and format the values of a tee. The course screens and the command that
+// checks a library share them. The operator sees the texts of the faults.
 
 enum class TeeField { kName, kRating, kSlope, kPar, kHandicap };
 
@@ -23,7 +23,7 @@ struct TeeFault {
   std::string text;
 };
 
-// The range of holes of a course, including `first` and `last`.
+// Describes a range of holes of a course, including `first` and `last`.
 struct HoleRange {
   int first = 1;
   int last = kCourseHoles;
@@ -34,7 +34,7 @@ HoleRange HolesPlayed(int hole_num_flag);
 // Returns the number of holes for which a course is rated, 9 or 18.
 int HolesRated(int hole_num_flag);
 
-// The values entered for the 18 holes, starting with hole 1.
+// Contains the values entered for the 18 holes, starting with hole 1.
 using HoleValues = std::array<double, kCourseHoles>;
 
 // Returns a rating in strokes as it is shown and stored: rounded to four decimals, limited to 0 to

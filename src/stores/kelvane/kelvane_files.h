@@ -9,8 +9,8 @@
 
 namespace golf {
 
-// Kelvane's roster and system files. They have fixed file numbers and are read into the shared
-// buffers. All functions on files raise the errors of FileTable.
+// These functions open and read Kelvane's roster and system files. The files have fixed numbers and
+// are read into the shared buffers. All functions on files raise the errors of FileTable.
 
 inline constexpr int kKelvaneHeaderFile = 1;
 inline constexpr int kKelvaneGolferFile = 2;

@@ -7,7 +7,7 @@
 
 namespace golf {
 
-// An index of the golfers of the open roster by ID. It is built by reading the golfer file once. A
+// Finds the golfers of the open roster by ID. The index is built by reading the golfer file once. A
 // look-up finds the same golfers as a search of the file, as long as no ID and no status changes.
 // Posting scores changes neither.
 class KelvaneGolferIndex {

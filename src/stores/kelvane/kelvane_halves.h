@@ -4,10 +4,10 @@
 
 namespace golf {
 
-// A nine-hole round that is posted to a roster of 18 holes. It is one half of an entry. The
-// golfer's record keeps one half, the waiting half, until the next nine-hole round is posted. These
-// functions change only the buffers of the current golfer. They raise error 6 and change nothing if
-// a value does not fit, such as a slope or score outside 0 to 255.
+// Describes a nine-hole round that is posted to a roster of 18 holes. It is one half of an entry.
+// The golfer's record keeps one half, the waiting half, until the next nine-hole round is posted.
+// These functions change only the buffers of the current golfer. They raise error 6 and change
+// nothing if a value does not fit, such as a slope or score outside 0 to 255.
 struct NineHoleHalf {
   double score;   // in strokes for handicap purposes, or in points
   double rating;  // in strokes, for nine holes

@@ -7,16 +7,16 @@
 
 namespace golf {
 
-// The files of a Kelvane roster, and Kelvane's system file. Only Kelvane uses a field named
-// "Setting" with a number. The field gets its default in a new roster and is otherwise left
-// unchanged. The one exception is Setting153 of the header, which becomes 1 when scores are posted.
-// In a table by sex, index 0 is men and index 1 is ladies. Handicaps, indexes and ratings are in
-// strokes. A negative handicap or index is a plus handicap or index.
+// This header describes the files of a Kelvane roster, and Kelvane's system file. Only Kelvane uses
+// a field named "Setting" with a number. The field gets its default in a new roster and is
+// otherwise left unchanged. The one exception is Setting153 of the header, which becomes 1 when
+// scores are posted. In a table by sex, index 0 is men and index 1 is ladies. Handicaps, indexes
+// and ratings are in strokes. A negative handicap or index is a plus handicap or index.
 
 inline constexpr int kKelvaneScores = 300;
 inline constexpr std::size_t kKelvaneScoreLength = 49;
 
-// The only record of a ".kv5" file.
+// Describes the only record of a ".kv5" file.
 struct KelvaneHeaderLayout {
   static constexpr std::string_view kName = "kelvane header";
   static constexpr std::size_t kLength = 781;
@@ -66,7 +66,7 @@ struct KelvaneHeaderLayout {
   });
 };
 
-// A place of a ".kvg" file. It contains one golfer or is free.
+// Describes a place of a ".kvg" file. It contains one golfer or is free.
 struct KelvaneGolferLayout {
   static constexpr std::string_view kName = "kelvane golfer";
   static constexpr std::size_t kLength = 2804;
@@ -118,7 +118,7 @@ struct KelvaneGolferLayout {
 
 namespace kelvane_fields {
 
-// An entry of a score history.
+// Describes an entry of a score history.
 inline constexpr auto kScore = std::to_array<Field>({
     Int16Field("CourseNumber", 0),  // in Kelvane's library; 0: an away course
     ByteField("TeeNumber", 2),      // 0: none
@@ -152,15 +152,15 @@ struct KelvaneScoreLayout {
   static constexpr auto kFields = kelvane_fields::kScore;
 };
 
-// A record of a ".kvs" file. It contains the score history, newest first, of the golfer with the
-// same record number.
+// Describes a record of a ".kvs" file. It contains the score history, newest first, of the golfer
+// with the same record number.
 struct KelvaneHistoryLayout {
   static constexpr std::string_view kName = "kelvane history";
   static constexpr std::size_t kLength = kKelvaneScores * kKelvaneScoreLength;
   static constexpr auto kFields = kelvane_fields::InEachEntry();
 };
 
-// The only record of KVSYSTEM.FIL.
+// Describes the only record of KVSYSTEM.FIL.
 struct KelvaneSystemLayout {
   static constexpr std::string_view kName = "kelvane system";
   static constexpr std::size_t kLength = 733;
@@ -174,7 +174,7 @@ struct KelvaneSystemLayout {
   });
 };
 
-// A record of REPORTS.CFG, which is opened with a roster but never read or written.
+// Describes a record of REPORTS.CFG, which is opened with a roster but never read or written.
 struct KelvaneReportsLayout {
   static constexpr std::string_view kName = "kelvane reports";
   static constexpr std::size_t kLength = 4744;

@@ -7,7 +7,7 @@
 
 namespace golf {
 
-// The values of ScoreType.
+// These are the values of ScoreType.
 inline constexpr std::uint8_t kKelvaneTournamentScore = 2;
 inline constexpr std::uint8_t kKelvaneTwoNines = 4;
 

@@ -9,11 +9,11 @@
 
 namespace golf {
 
-// The program master QBMASTER.Q9D and the roster list QBROSTER.Q9D in StoreDataPath. The object has
-// one buffer for the master record and one for a roster. Getters trim texts. Setters cut them to
-// the width of their field. An index out of its range raises error 9. A number too large for its
-// field raises error 6. Functions on files raise the errors of FileTable unless their comment
-// differs.
+// Reads and writes the program master QBMASTER.Q9D and the roster list QBROSTER.Q9D in
+// StoreDataPath. The object has one buffer for the master record and one for a roster. Getters trim
+// texts. Setters cut them to the width of their field. An index out of its range raises error 9. A
+// number too large for its field raises error 6. Functions on files raise the errors of FileTable
+// unless their comment differs.
 class ProgramClass {
  public:
   explicit ProgramClass(SharedState& state) : state_(state) {}

@@ -7,9 +7,9 @@
 
 namespace golf {
 
-// The files of Quenby, except its course library. Round numbers are 1 to 7. Group 0 is the men,
-// group 1 the ladies. Scores, handicaps and indexes are in strokes. A negative handicap or index is
-// a plus handicap or index.
+// This header describes the files of Quenby, except its course library. Round numbers are 1 to 7.
+// Group 0 is the men, and group 1 is the ladies. Scores, handicaps and indexes are in strokes. A
+// negative handicap or index is a plus handicap or index.
 
 inline constexpr int kRounds = 7;
 inline constexpr int kHoles = 18;
@@ -30,7 +30,7 @@ inline constexpr Dimension kOfFive{1, 5};
 inline constexpr Dimension kOfTen{1, 10};
 }  // namespace quenby_fields
 
-// The only record of QBMASTER.Q9D.
+// Describes the only record of QBMASTER.Q9D.
 struct MasterLayout {
   static constexpr std::string_view kName = "quenby master";
   static constexpr std::size_t kLength = 1042;
@@ -50,7 +50,7 @@ struct MasterLayout {
   });
 };
 
-// A roster of QBROSTER.Q9D. Its record number is the number of the roster.
+// Describes a roster of QBROSTER.Q9D. Its record number is the number of the roster.
 struct RosterLayout {
   static constexpr std::string_view kName = "quenby roster";
   static constexpr std::size_t kLength = 413;
@@ -65,7 +65,7 @@ struct RosterLayout {
   });
 };
 
-// The only record of a tournament's ".Q9C" file.
+// Describes the only record of a tournament's ".Q9C" file.
 struct TournamentLayout {
   static constexpr std::string_view kName = "tournament";
   static constexpr std::size_t kLength = 1208;
@@ -119,7 +119,7 @@ struct TournamentLayout {
   });
 };
 
-// A golfer of QBGOLFER.Q9D.
+// Describes a golfer of QBGOLFER.Q9D.
 struct PlayerLayout {
   static constexpr std::string_view kName = "quenby golfer";
   static constexpr std::size_t kLength = 1867;
@@ -156,7 +156,7 @@ struct PlayerLayout {
   });
 };
 
-// A golfer's entry of a tournament's ".Q9G" file.
+// Describes a golfer's entry of a tournament's ".Q9G" file.
 struct TournamentPlayerLayout {
   static constexpr std::string_view kName = "tournament player";
   static constexpr std::size_t kLength = 3052;
@@ -164,7 +164,7 @@ struct TournamentPlayerLayout {
       Int16Field("TourRosterRecordPointer", 0),  // record of QBGOLFER.Q9D; 0: free
       Int16Field("TourTeamOn", 2).By(quenby_fields::kByRound),
       Int16Field("TourTeamPositionIn", 16).By(quenby_fields::kByRound),
-      Int16Field("TourFlags", 30).By(quenby_fields::kByRound),  // bit 0: locked, 1: sent to Kelvane
+      Int16Field("TourFlags", 30).By(quenby_fields::kByRound),  // bit 0: locked, bit 1: sent
       KeptBytes(44, 14),
       SingleField("TourIndex", 58).By(quenby_fields::kByRound),
       SingleField("TourGrossHandicap", 86).By(quenby_fields::kByRound),
@@ -190,7 +190,7 @@ struct TournamentPlayerLayout {
   });
 };
 
-// A team of a tournament's ".Q9T" file. Its record number is the number of the team.
+// Describes a team of a tournament's ".Q9T" file. Its record number is the number of the team.
 struct TeamLayout {
   static constexpr std::string_view kName = "team";
   static constexpr std::size_t kLength = 1339;

@@ -13,14 +13,15 @@ namespace golf {
 
 // Lower records are never used for a golfer.
 inline constexpr std::int16_t kFirstGolferRecord = 10;
-// The ID of a record that is never used again.
+// This is the ID of a record that is never used again.
 inline constexpr std::int32_t kNeverAgain = -1;
 
-// The golfers of all Quenby rosters, in the file QBGOLFER.Q9D of StoreDataPath. The buffer contains
-// one golfer. This is the base class of the tournament players. Getters trim texts. Setters trim
-// them and cut them to the width of their field. A getter marked "corrects" replaces a stored value
-// that is out of its range, in the buffer only. An index out of its range raises error 9. A number
-// too large for its field raises error 6. Functions on files raise the errors of FileTable.
+// Reads and writes the golfers of all Quenby rosters, in the file QBGOLFER.Q9D of StoreDataPath.
+// The buffer contains one golfer. This is the base class of the tournament players. Getters trim
+// texts. Setters trim them and cut them to the width of their field. A getter marked "corrects"
+// replaces a stored value that is out of its range, in the buffer only. An index out of its range
+// raises error 9. A number too large for its field raises error 6. Functions on files raise the
+// errors of FileTable.
 class RosterPlayers {
  public:
   explicit RosterPlayers(SharedState& state) : state_(state) {}
@@ -53,9 +54,9 @@ class RosterPlayers {
   void SetIDNum(double value);
   std::int32_t StoredID() const { return player_.Get<"IDNum">(); }
 
-  // The roster numbers in slots 1 to 4. 0 means no roster. SetRosters clears the same number in the
-  // other slots 1 to 3. Then it moves these three slots up, so that no empty slot precedes a used
-  // one.
+  // Return or set the roster numbers in slots 1 to 4. 0 means no roster. SetRosters clears the same
+  // number in the other slots 1 to 3. Then it moves these three slots up, so that no empty slot
+  // precedes a used one.
   std::int16_t Rosters(int n) const { return player_.Get<"Rosters">(n); }
   void SetRosters(int n, double value);
   // Returns the names of the rosters in slots 1 to 3 if `which` is 0. If `which` is 1 to 4, returns
@@ -110,13 +111,14 @@ class RosterPlayers {
   std::string PreferredTime() const;  // "Early", "Middle", "Late" or "None"
   void SetPreferredTime(std::string_view value);
 
-  // The handicap index in strokes, with one decimal. A negative index is a plus index. Index()
-  // shows it with a plus sign, IndexValue() with a minus sign.
+  // Return or set the handicap index in strokes, with one decimal. A negative index is a plus
+  // index. Index() shows it with a plus sign, IndexValue() with a minus sign.
   std::string Index() const;
   std::string IndexValue() const;
   void SetIndex(double value) { player_.Set<"Index">(CheckedSingle(value)); }
-  // The handicap in strokes, as text with two decimals or none. A negative handicap is a plus
-  // handicap. Handicap() shows it with a plus sign, HandicapValue() with a minus sign.
+  // Return or set the handicap in strokes. The getters return text with two decimals or none. A
+  // negative handicap is a plus handicap. Handicap() shows it with a plus sign, HandicapValue()
+  // with a minus sign.
   std::string Handicap(bool decimals) const;
   std::string HandicapValue(bool decimals) const;
   void SetHandicap(double value) { player_.Set<"Handicap">(CheckedSingle(value)); }
@@ -144,8 +146,8 @@ class RosterPlayers {
   bool ReadPlayer(std::int32_t record);
   void WritePlayer();
 
-  // An element per round. It is true if the results must be calculated again. Every read and save
-  // sets all elements.
+  // Contains an element per round. It is true if the results must be calculated again. Every read
+  // and save sets all elements.
   std::array<bool, kRounds> recalculate_{};
 
   std::int32_t held_ = 0;            // the number of the record in the buffer

@@ -12,9 +12,9 @@
 
 namespace golf {
 
-// The teams of a tournament, in its ".Q9T" file. The buffer contains one team. An omitted round is
-// the active round of the shared tournament. "Corrects" and the errors have the same meaning as in
-// RosterPlayers.
+// Reads and writes the teams of a tournament, in its ".Q9T" file. The buffer contains one team. An
+// omitted round is the active round of the shared tournament. "Corrects" and the errors have the
+// same meaning as in RosterPlayers.
 class TeamRecords {
  public:
   explicit TeamRecords(SharedState& state) : state_(state) {}
@@ -42,8 +42,8 @@ class TeamRecords {
   void SetSponsor(std::string_view value);
   std::string Flight(OptionalRound round = {});  // corrects to "A"
   void SetFlight(OptionalRound round, std::string_view value);
-  // The tee time as a fraction of a day. The setter stores only the fraction of `value`, without
-  // its sign.
+  // Return or set the tee time as a fraction of a day. The setter stores only the fraction of
+  // `value`, without its sign.
   float TeeTimeValue(OptionalRound round = {}) const;
   void SetTeeTimeValue(OptionalRound round, double value);
   std::string TeeTimeHHMMAMPM(OptionalRound round = {}) const;  // for example "05:00 pm"
@@ -67,8 +67,8 @@ class TeamRecords {
   // tournament's number of teams has no golfers.
   void ForEachGolfer(int round, const std::function<bool(std::int32_t record)>& action);
 
-  // An element per round. It is true if the results must be calculated again. Every read and save
-  // sets all elements.
+  // These tables have an element per round. It is true if the results must be calculated again.
+  // Every read and save sets all elements.
   std::array<bool, kRounds> recalculate_{};
   std::array<bool, kRounds> recalculate_holes_{};
 

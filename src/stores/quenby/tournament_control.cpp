@@ -16,7 +16,7 @@ constexpr std::int32_t kDefaults = -1;
 constexpr std::string_view kCurrentVersion = "2005";
 constexpr std::string_view kNewTeamNames = "Team #";
 
-// The points of a new tournament by score minus par, from -5 to 5.
+// Contains the points of a new tournament by score minus par, from -5 to 5.
 constexpr int kNewPoints[] = {8, 8, 8, 8, 4, 2, 1, 0, 0, 0, 0};
 
 // Returns the number at the start of a text, rounded to a whole number. Returns the replacement for

@@ -12,7 +12,7 @@
 
 namespace golf {
 
-// A round, 1 to 7. An omitted round is the active round of the shared tournament object.
+// Holds a round, 1 to 7. An omitted round is the active round of the shared tournament object.
 using OptionalRound = std::optional<int>;
 
 // Returns the name of a tournament's file without its folder, for example "X0012.Q9C".
@@ -21,11 +21,11 @@ std::string TournamentFileName(std::int32_t tournament, std::string_view extensi
 // have this name.
 std::optional<std::int32_t> TournamentOfFile(std::string_view name);
 
-// The control record of a tournament in StoreDataPath. One control file is open at a time. This is
-// the base class of TournamentClass. A getter marked "corrects" replaces a stored value that is out
-// of its range in the buffer, and the next save writes it. An index out of its range raises error
-// 9. A number too large for its field raises error 6. Functions on files raise the errors of
-// FileTable.
+// Reads and writes the control record of a tournament in StoreDataPath. One control file is open at
+// a time. This is the base class of TournamentClass. A getter marked "corrects" replaces a stored
+// value that is out of its range in the buffer, and the next save writes it. An index out of its
+// range raises error 9. A number too large for its field raises error 6. Functions on files raise
+// the errors of FileTable.
 class TournamentControl {
  public:
   explicit TournamentControl(SharedState& state) : state_(state) {}
@@ -124,11 +124,11 @@ class TournamentControl {
 
   std::int16_t TeeNumberPlayed(int group, int n, OptionalRound round = {});
   void SetTeeNumberPlayed(int group, int n, OptionalRound round, double value);
-  // The percentage of the handicap that counts. The setter replaces a value above 200 or below 1 by
-  // 100.
+  // Return or set the percentage of the handicap that counts. The setter replaces a value above 200
+  // or below 1 by 100.
   float TeeHandicapPercent(int group, int n, OptionalRound round = {});
   void SetTeeHandicapPercent(int group, int n, OptionalRound round, double value);
-  // The adjustment of the handicap in strokes. The parameter of the setter is text.
+  // Return or set the adjustment of the handicap in strokes. The parameter of the setter is text.
   float TeeHandicapAdjustment(int group, int n, OptionalRound round = {});
   void SetTeeHandicapAdjustment(int group, int n, OptionalRound round, std::string_view value);
 
@@ -169,11 +169,11 @@ class TournamentControl {
     record_.Set<"TeamSheetColumnSortedHow">({i}, value ? -1 : 0);
   }
 
-  // The highest handicap of a group, in strokes. The getter returns text in the format "0.00". The
-  // setter replaces a negative value by 0.
+  // Return or set the highest handicap of a group, in strokes. The getter returns text in the
+  // format "0.00". The setter replaces a negative value by 0.
   std::string HandicapMax(int group) const;
   void SetHandicapMax(int group, double value);
-  // The pattern of new team names. The setter replaces an empty pattern by "Team #".
+  // Return or set the pattern of new team names. The setter replaces an empty pattern by "Team #".
   std::string TeamNamesMat() const;
   void SetTeamNamesMat(std::string_view value);
   std::int32_t PlayerFlightRange(int i) const { return record_.Get<"PlayerFlightRange">(i); }

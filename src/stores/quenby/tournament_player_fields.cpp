@@ -12,7 +12,7 @@ namespace {
 constexpr int kMostPutts = 200;
 constexpr double kMostAdjusted = 250;
 
-// The bits of the flag word. Clearing one of them also clears bits 9 to 15.
+// These are the bits of the flag word. Clearing one of them also clears bits 9 to 15.
 constexpr int kLocked = 1;
 constexpr int kSentToKelvane = 2;
 constexpr int kLowBits = 0x1FF;

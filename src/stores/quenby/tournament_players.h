@@ -11,9 +11,10 @@
 
 namespace golf {
 
-// The golfers of a tournament, in its ".Q9G" file. This class adds a second buffer to the buffer of
-// the golfer. The second buffer contains one entry. An omitted round is the active round of the
-// shared tournament. "Corrects" and the errors have the same meaning as in RosterPlayers.
+// Reads and writes the golfers of a tournament, in its ".Q9G" file. This class adds a second buffer
+// to the buffer of the golfer. The second buffer contains one entry. An omitted round is the active
+// round of the shared tournament. "Corrects" and the errors have the same meaning as in
+// RosterPlayers.
 class TournamentPlayers : public RosterPlayers {
  public:
   using RosterPlayers::RosterPlayers;
@@ -44,9 +45,9 @@ class TournamentPlayers : public RosterPlayers {
   void SaveRecord(bool) = delete;  // a flag is not a record number
   void TourBlankPlayerRecord();
 
-  // The index of each round. It contains the entries sorted by team and position. The first two
-  // functions rebuild an outdated index. The third uses the index without a rebuild. A place or
-  // team out of range raises error 9. The result 0 means no entry.
+  // The following functions use the index of each round. The index contains the entries sorted by
+  // team and position. The first two functions rebuild an outdated index. The third uses the index
+  // without a rebuild. A place or team out of range raises error 9. The result 0 means no entry.
   std::int32_t TourIndexNumberofPlayersInIndex();
   std::int32_t TourIndex1stPlayerOnTeam(int team, OptionalRound round = {});
   std::int32_t TourIndexPlayerbyTeam(std::int32_t i, OptionalRound round = {}) const;
@@ -73,9 +74,9 @@ class TournamentPlayers : public RosterPlayers {
   void SetTourFlight(OptionalRound round, std::string_view value);
   std::int16_t TourGroupTee(OptionalRound round = {});  // corrects to 1
   void SetTourGroupTee(OptionalRound round, double value);
-  // The handicap index and the gross handicap of the round in strokes, and the quota in points. A
-  // negative index or handicap is a plus index or handicap. TourIndex shows it with a plus sign,
-  // TourIndexValue with a minus sign.
+  // Return or set the handicap index and the gross handicap of the round in strokes, and the quota
+  // in points. A negative index or handicap is a plus index or handicap. TourIndex shows it with a
+  // plus sign, TourIndexValue with a minus sign.
   std::string TourIndex(OptionalRound round = {}) const;
   std::string TourIndexValue(OptionalRound round = {}) const;
   void SetTourIndex(OptionalRound round, double value);

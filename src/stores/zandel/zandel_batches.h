@@ -13,8 +13,8 @@ namespace golf {
 // The batch code of the scores before event e is this number plus e.
 inline constexpr int kNonEventCode = 500;
 
-// The scores of a league that are posted together. They are the scores of one event, or the
-// non-event scores played before it.
+// Describes the scores of a league that are posted together. They are the scores of one event, or
+// the non-event scores played before it.
 struct ScoreBatch {
   int code;  // number of the event; plus 500 for the scores before it; 501: practice
   std::string text;
@@ -30,7 +30,8 @@ std::string BatchHeading(const std::string& item);
 
 struct ScoreBatches {
   std::vector<ScoreBatch> list;
-  // The index of the batch that is selected first: the current event, or practice. -1 means none.
+  // This is the index of the batch that is selected first: the current event, or practice. -1 means
+  // none.
   int selected = 0;
 };
 

@@ -9,10 +9,10 @@
 
 namespace golf {
 
-// Zandel's league files. They have fixed file numbers and are read into the shared buffers. The
-// name of a division is its base. A base consists of four characters for the league, of which the
-// first is "0", and the digit of the division. All functions on files raise the errors of
-// FileTable.
+// These functions open and read Zandel's league files. The files have fixed numbers and are read
+// into the shared buffers. The name of a division is its base. A base consists of four characters
+// for the league, of which the first is "0", and the digit of the division. All functions on files
+// raise the errors of FileTable.
 
 inline constexpr int kLeagueControlFile = 10;
 inline constexpr int kLeaguePlayerFile = 11;
@@ -32,7 +32,7 @@ bool LeagueExists(SharedState& state, std::string_view base);
 
 // Open the files of a division and read the control record. OpenLeagueGolfers opens the control
 // file, the players and the substitutes. OpenLeague opens all five files. A missing file is created
-// empty. Both raise error 75 if the base is not a valid file name.
+// empty. Both functions raise error 75 if the base is not a valid file name.
 void OpenLeagueGolfers(SharedState& state, std::string_view base);
 void OpenLeague(SharedState& state, std::string_view base);
 
@@ -42,7 +42,7 @@ std::string LeagueGolferName(const Record<LeaguePlayerLayout>& player);
 // Closes the files that OpenLeague opened.
 void CloseLeague(SharedState& state);
 
-// An entry of the list of leagues.
+// Contains an entry of the list of leagues.
 struct ListedLeague {
   std::string base;
   bool whole;  // true for the whole league, whose base is that of its division 1

@@ -7,8 +7,8 @@
 
 namespace golf {
 
-// The files of a Zandel league. Event numbers are 1 to 50. Only Zandel uses the bytes without a
-// name. Scores and handicaps are in strokes.
+// This header describes the files of a Zandel league. Event numbers are 1 to 50. Only Zandel uses
+// the bytes without a name. Scores and handicaps are in strokes.
 
 inline constexpr int kLeagueEvents = 50;
 inline constexpr int kNonEventScores = 100;
@@ -18,7 +18,7 @@ inline constexpr Dimension kByEvent{1, kLeagueEvents};
 inline constexpr Dimension kBySlot{1, kNonEventScores};
 }  // namespace zandel_fields
 
-// The only record of a division's ".ZL8" file.
+// Describes the only record of a division's ".ZL8" file.
 struct LeagueControlLayout {
   static constexpr std::string_view kName = "league control";
   static constexpr std::size_t kLength = 405;
@@ -47,7 +47,7 @@ struct LeagueControlLayout {
   });
 };
 
-// A player of a division's ".ZP8" file, or a substitute of a league's ".ZS8" file.
+// Describes a player of a division's ".ZP8" file, or a substitute of a league's ".ZS8" file.
 struct LeaguePlayerLayout {
   static constexpr std::string_view kName = "league player";
   static constexpr std::size_t kLength = 8012;
@@ -82,8 +82,8 @@ struct LeaguePlayerLayout {
       KeptBytes(1870, 8),
       KeptBytes(1878, 1800),
       KeptBytes(3678, 200),
-      // The non-event scores by slot. NonEventBefore is the number of the next event. A score
-      // before event 1 is practice.
+      // These tables contain the non-event scores by slot. NonEventBefore is the number of the next
+      // event. A score before event 1 is practice.
       ByteField("NonEventBefore", 3878).By(zandel_fields::kBySlot),
       Int16Field("NonEventScore", 3978).By(zandel_fields::kBySlot),
       Int16Field("NonEventRating10", 4178).By(zandel_fields::kBySlot),  // tenths of a stroke
@@ -98,7 +98,7 @@ struct LeaguePlayerLayout {
   });
 };
 
-// A team of a division's ".ZT8" file. Its record number is the number of the team.
+// Describes a team of a division's ".ZT8" file. Its record number is the number of the team.
 struct LeagueTeamLayout {
   static constexpr std::string_view kName = "league team";
   static constexpr std::size_t kLength = 4400;
@@ -111,14 +111,14 @@ struct LeagueTeamLayout {
       Int16Field("EventCourse", 2300).By(zandel_fields::kByEvent),  // in Zandel's library
       KeptBytes(2400, 800),
       KeptBytes(3200, 200),
-      // A table by event and column, of which the column varies fastest. Column 1 is the men's tee,
-      // and column 2 is the ladies' tee.
+      // This table is by event and column, of which the column varies fastest. Column 1 is the
+      // men's tee, and column 2 is the ladies' tee.
       ByteField("EventTee", 3400).By(Dimension{1, 4}).InEach(zandel_fields::kByEvent, 4),
       KeptBytes(3600, 800),
   });
 };
 
-// An event of a division's ".ZE8" file. Its record number is the number of the event.
+// Describes an event of a division's ".ZE8" file. Its record number is the number of the event.
 struct LeagueEventLayout {
   static constexpr std::string_view kName = "league event";
   static constexpr std::size_t kLength = 222;
