@@ -6,10 +6,10 @@
 
 namespace golf {
 
-// The points for a hole by its score minus par.
+// Holds the points for a hole by its score minus par.
 using PointTable = ByDifference<std::int32_t>;
 
-// A hole that was played. Score, handicap strokes and par are in strokes.
+// Describes a hole that was played. Score, handicap strokes and par are in strokes.
 struct PlayedHole {
   int hole;  // 1 to 18
   std::int32_t score;

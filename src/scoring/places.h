@@ -5,7 +5,8 @@
 
 namespace golf {
 
-// The places of rows that are sorted by their results. Rows with equal results share a place.
+// Contains the places of rows that are sorted by their results. Rows with equal results share a
+// place.
 struct Places {
   std::vector<int> dense;        // such as 1, 2, 2, 3
   std::vector<int> competition;  // such as 1, 2, 2, 4

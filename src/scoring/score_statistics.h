@@ -6,8 +6,8 @@
 
 namespace golf {
 
-// Statistics of the scores of many golfers by hole, gross or net, in strokes. The rows are those of
-// a table by hole.
+// Calculates statistics of the scores of many golfers by hole, gross or net, in strokes. The rows
+// are those of a table by hole.
 class ScoreStatistics {
  public:
   void Add(int hole, std::int32_t score, std::int32_t par);

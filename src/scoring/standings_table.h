@@ -9,13 +9,14 @@
 
 namespace golf {
 
-// A row of standings. The lowest `rank` has the first place. A row without a rank has no place.
+// Contains a row of standings. The lowest `rank` has the first place. A row without a rank has no
+// place.
 struct StandingsRow {
   std::vector<std::string> cells;
   std::optional<double> rank;
 };
 
-// Standings as text. The first cell of a row is the number of the team.
+// Contains standings as text. The first cell of a row is the number of the team.
 struct StandingsTable {
   std::vector<std::string> headings;
   std::vector<StandingsRow> rows;

@@ -15,8 +15,8 @@ constexpr std::int32_t kNoCap = 0;
 constexpr std::int32_t kCustomMaxima = 100;
 constexpr std::int32_t kRunningAllowance = 119;
 
-// The maximum score of a hole for a handicap below `below`. The first row that fits applies. The
-// last row of a table applies to all other handicaps, including NaN.
+// Defines the maximum score of a hole for a handicap below `below`. The first row that fits
+// applies. The last row of a table applies to all other handicaps, including NaN.
 struct CapRow {
   float below;
   std::int32_t strokes;
@@ -49,8 +49,9 @@ constexpr Scheme kSchemes[] = {{9, kTableOfNine},    {18, kTableOfEighteen},
                                {19, kParPlusOfNine}, {28, kParPlusOfEighteen},
                                {219, kFloorOfSix},   {319, kFloorOverPar}};
 
-// The strokes over par that a capped hole keeps. The first `holes` capped holes keep `over_par`.
-// Every later one keeps one stroke less. All capped holes keep `over_par` if `holes` is 0.
+// Contains the strokes over par that a capped hole keeps. The first `holes` capped holes keep
+// `over_par`. Every later one keeps one stroke less. All capped holes keep `over_par` if `holes` is
+// 0.
 struct Allowance {
   std::int32_t over_par;
   std::int32_t holes;

@@ -14,8 +14,8 @@ namespace {
 constexpr std::string_view kThreeDigits = "000";
 constexpr std::string_view kTwoDigits = "00";
 
-// Some of the last holes and their share of the handicap. The shares are exactly these decimals,
-// not the fractions that they approximate.
+// Describes some of the last holes and their share of the handicap. The shares are exactly these
+// decimals, not the fractions that they approximate.
 struct LastHoles {
   int first;
   int last;

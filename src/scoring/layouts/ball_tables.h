@@ -51,8 +51,8 @@ struct Ball {
   bool selected = false;
 };
 
-// The four tables of one team. A table has a row for each of ten golfers and a row of sums. An
-// access raises error 9 for a golfer outside 1 to 10 or a column outside 1 to 110.
+// Holds the four tables of one team. A table has a row for each of ten golfers and a row of sums.
+// An access raises error 9 for a golfer outside 1 to 10 or a column outside 1 to 110.
 class TeamBalls {
  public:
   using Sum = std::optional<std::int32_t>;  // no value if no ball counted

@@ -16,8 +16,8 @@ namespace {
 // A low ball must be below this value, and a high ball must be above its negative.
 constexpr std::int32_t kNoBall = 1000;
 
-// A parsed code of a layout. The letter L selects the `count` lowest balls, H the `count` highest
-// balls, and X only the ball with the number `count` in ascending order.
+// Holds a parsed code of a layout. The letter L selects the `count` lowest balls, H the `count`
+// highest balls, and X only the ball with the number `count` in ascending order.
 struct BallCode {
   char letter = 'N';
   int count = 0;  // 0 for an invalid code

@@ -9,16 +9,17 @@
 
 namespace golf {
 
-// The holes to process. They are those of some blocks, or one hole of 1 to 90. Any other hole is
-// ignored.
+// Describes the holes to process. They are those of some blocks, or one hole of 1 to 90. Any other
+// hole is ignored.
 struct HoleSpan {
   int first_block = 1;
   int last_block = kBlocks;
   std::optional<int> hole = {};
 };
 
-// The order of teams in a ranking. Scores rank the lowest first, and points rank the highest first.
-// The ranking covers all teams or each flight. A team without a counted ball comes last.
+// Describes the order of teams in a ranking. Scores rank the lowest first, and points rank the
+// highest first. The ranking covers all teams or each flight. A team without a counted ball comes
+// last.
 struct RankingOrder {
   bool points = false;
   bool by_flight = false;

@@ -8,8 +8,8 @@
 
 namespace golf {
 
-// The standing of a team under a layout. Sums and places are stored by block and column. The number
-// of blocks is the number of rounds of the tournament.
+// Contains the standing of a team under a layout. Sums and places are stored by block and column.
+// The number of blocks is the number of rounds of the tournament.
 struct CustomStanding {
   using Sums = std::vector<std::array<TeamBalls::Sum, kSumsOfBlock>>;
   using Places = std::vector<std::array<int, kSumsOfBlock>>;

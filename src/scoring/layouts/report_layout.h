@@ -10,15 +10,15 @@
 
 namespace golf {
 
-// A custom report of team results. Its layout defines which golfers of a team count on each hole of
-// five rounds, and how many of their balls count. The fields have the same names as in the files
-// and on the screen of the layout.
+// A report layout describes a custom report of team results. It defines which golfers of a team
+// count on each hole of five rounds, and how many of their balls count. The fields have the same
+// names as in the files and on the screen of the layout.
 
 inline constexpr int kLayoutHoles = 90;
 inline constexpr int kLayoutPlaces = 2;  // the number of selections for one hole
 inline constexpr int kMostLayoutPlayers = 8;
 
-// One selection for a hole, as codes.
+// Contains one selection for a hole, as codes.
 struct PlaceCodes {
   std::string ConsiderPlayers = "0";
   std::string GrossScoresToUse = "NONE";
@@ -34,7 +34,7 @@ struct ReportFont {
   int style = 0;            // kBold and kItalic; other bits are kept
 };
 
-// A layout. No ball counts in a new layout.
+// Contains a layout. No ball counts in a new layout.
 struct ReportLayout {
   std::string ReportDescription;
   int HoleNumberUsed = 1;
@@ -56,7 +56,7 @@ struct ReportLayout {
   PlaceCodes& At(int hole, int place);
 };
 
-// A choice of a list, with its text and its code.
+// Contains a choice of a list, with its text and its code.
 struct LayoutChoice {
   std::string text;
   std::string code;
@@ -81,7 +81,8 @@ void CopyForward(ReportLayout& layout);
 
 inline constexpr std::string_view kLayoutExtension = ".TR";
 
-// The result of reading a layout. It contains the layout, or the reason why it could not be read.
+// Contains the result of reading a layout. It contains the layout, or the reason why it could not
+// be read.
 struct ReadLayout {
   std::optional<ReportLayout> layout;
   std::string problem;  // a sentence for the operator; empty if there is a layout

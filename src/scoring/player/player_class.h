@@ -101,14 +101,14 @@ class PlayerClass : public TournamentPlayers {
   std::string TourNetTotalTiebreak18to1(OptionalRound round = {});
 
  private:
-  // The tee that a golfer plays in a round.
+  // Identifies the tee that a golfer plays in a round.
   struct PlayedTee {
     int group;      // 0: men, 1: ladies
     int tee_group;  // 1 to 5
     int tee;        // the tee number of the course
   };
 
-  // The sums over several rounds.
+  // Contains the sums over several rounds.
   struct Totals {
     std::int32_t gross = 0;
     float net = 0;

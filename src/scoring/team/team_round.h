@@ -10,14 +10,14 @@
 
 namespace golf {
 
-// The number of golfers of a team whose balls can count.
+// This is the number of golfers of a team whose balls can count.
 inline constexpr int kMostGolfersWithBalls = 10;
 
-// The calculated results of one team's round, in strokes and points. The float type is required, as
-// in RoundResults.
+// Contains the calculated results of one team's round, in strokes and points. The float type is
+// required, as in RoundResults.
 struct TeamRound {
-  // The sums of one of the first ten golfers for the two nines and the round, by entry 19 to 21.
-  // The net sum is 0 if the golfer has played no hole.
+  // Contains the sums of one of the first ten golfers for the two nines and the round, by entry 19
+  // to 21. The net sum is 0 if the golfer has played no hole.
   struct Totals {
     Indexed<std::int32_t, kFirstNine, kWholeRound> gross;
     Indexed<double, kFirstNine, kWholeRound> net;
@@ -44,8 +44,8 @@ struct TeamRound {
   std::optional<ByHole<std::int32_t>> scramble_net;  // calculated when it is first needed
 };
 
-// The balls of a team's first ten golfers, by golfer and hole. `golfer_gross` contains the gross
-// scores of every golfer. The other tables are filled only up to the first golfer who was on
+// Contains the balls of a team's first ten golfers, by golfer and hole. `golfer_gross` contains the
+// gross scores of every golfer. The other tables are filled only up to the first golfer who was on
 // another team in that round.
 struct HoleTables {
   template <class T>
