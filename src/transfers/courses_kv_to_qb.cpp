@@ -16,7 +16,7 @@ namespace {
 constexpr int kSource = 10;
 constexpr int kDestination = 11;
 
-// An index of Quenby's course records by Kelvane number. It is made before the run changes the
+// Finds Quenby's course records by Kelvane number. The index is made before the run changes the
 // file. A search returns the records in file order and does not read the file again.
 class CourseLinks {
  public:

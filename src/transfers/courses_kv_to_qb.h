@@ -17,7 +17,7 @@ struct CoursesKvToQbRequest {};
 struct CoursesKvToQbReport : RunReport {
   std::int16_t added = 0;
   std::int16_t updated = 0;  // the number of courses in use that were overwritten
-  // The error that prevented the rebuild of some or all indexes.
+  // Contains the error that prevented the rebuild of some or all indexes.
   std::optional<NumberedError> index_error;
 };
 

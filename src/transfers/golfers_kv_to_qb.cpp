@@ -12,9 +12,9 @@
 namespace golf {
 namespace {
 
-// An index of Quenby's golfers before the run. It contains the first record of each ID and the free
-// places. Golfers added during the run are not in the index. A search for an ID of 0 finds the
-// first record without a golfer.
+// Finds Quenby's golfers as they were before the run. The index contains the first record of each
+// ID and the free places. Golfers added during the run are not in the index. A search for an ID of
+// 0 finds the first record without a golfer.
 class QuenbyGolfers {
  public:
   QuenbyGolfers(TournamentPlayers& player, std::int32_t length) : places(length) {
@@ -47,7 +47,7 @@ class QuenbyGolfers {
   std::vector<std::int32_t> unread_;
 };
 
-// The loop over the golfers of the open roster.
+// Copies the golfers of the open roster in a loop.
 class GolferCopy {
  public:
   GolferCopy(SharedState& state, RunHost& host, const GolfersKvToQbRequest& request,

@@ -14,11 +14,11 @@ namespace {
 
 constexpr std::size_t kLeagueInLog = 30;  // in characters
 
-// The record number of each league golfer by Kelvane ID number. No ID number changes during a run,
-// so one search of each file is enough.
+// Contains the record number of each league golfer by Kelvane ID number. No ID number changes
+// during a run, so one search of each file is enough.
 using RecordsById = std::unordered_map<std::int32_t, std::int32_t>;
 
-// The rule that converts Kelvane's handicap to the league's. Both are in strokes.
+// Converts Kelvane's handicap to the league's. Both are in strokes.
 struct HandicapRule {
   int percent;
   bool halved;
@@ -26,7 +26,7 @@ struct HandicapRule {
   float Of(float handicap) const {
     double value = percent / 100.0 * double{handicap};
     if (halved) value /= 2;
-    return CheckedSingle(value + 0.001);  // prevents that a half is rounded down later
+    return CheckedSingle(value + 0.001);  // keeps a later step from rounding a half down
   }
 };
 
@@ -46,7 +46,7 @@ void CopyGolferToZd(const Record<KelvaneGolferLayout>& from, const HandicapRule&
   to.Set<"EventHandicap">({event}, rule.Of(from.Get<"Handicap">()));
 }
 
-// An index of the league's golfers before the run.
+// Finds the league's golfers as they were before the run.
 struct League {
   RecordsById players;      // the lowest record of each ID
   RecordsById substitutes;  // the highest record of each ID
@@ -106,7 +106,7 @@ void LeaveOutUnread(RunHost& host, RunReport& report, const std::vector<std::int
   }
 }
 
-// The loop over the golfers of the open roster.
+// Copies the golfers of the open roster in a loop.
 class GolferCopy {
  public:
   GolferCopy(SharedState& state, RunHost& host, const GolfersKvToZdRequest& request,

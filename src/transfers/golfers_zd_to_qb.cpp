@@ -17,7 +17,7 @@ namespace {
 constexpr std::int32_t kHighestID = 99999;
 constexpr std::size_t kQuenbyFirstName = 11;  // in characters
 
-// The errors of a disk. The operator may be able to remove their cause.
+// Lists the errors of a disk. The operator may be able to remove their cause.
 constexpr ErrorNumber kDiskErrors[] = {ErrorNumber::kDeviceFault,      ErrorNumber::kDiskFull,
                                        ErrorNumber::kPermissionDenied, ErrorNumber::kDiskNotReady,
                                        ErrorNumber::kPathAccess,       ErrorNumber::kPathNotFound};
@@ -48,8 +48,8 @@ void CopyGolferToQuenby(const Record<LeaguePlayerLayout>& from, int event, bool 
   if (doubled) to.SetHandicap(2 * LeadingNumber(to.HandicapValue(true)));
 }
 
-// The loop over the golfers of the open league. A function that returns false ends the run, because
-// the operator did not retry an operation.
+// Copies the golfers of the open league in a loop. A function that returns false ends the run,
+// because the operator did not retry an operation.
 class GolferCopy {
  public:
   GolferCopy(SharedState& state, RunHost& host, const GolfersZdToQbRequest& request,
@@ -162,8 +162,8 @@ class GolferCopy {
   RunHost& host_;
   const GolfersZdToQbRequest& request_;
   GolfersZdToQbReport& report_;
-  // An index of Quenby's golfers before the run. Golfers added by the run are not in it. A search
-  // for a name finds its first record in the file.
+  // These members are an index of Quenby's golfers before the run. Golfers added by the run are not
+  // in it. A search for a name finds its first record in the file.
   std::int32_t length_;
   std::unordered_map<std::string, std::int32_t> by_name_;
   FreeGolferPlaces places_;

@@ -83,7 +83,7 @@ void CopyMiscCurrency(Player& to, KelvaneBuffers& from) {
   to.SetMiscCurrency(kNumber, from.golfer.Get<"MiscCurrency">(kNumber));
 }
 
-// The optional items, starting with this row of the grid.
+// Lists the optional items, starting with this row of the grid.
 constexpr int kFirstOptionalRow = 2;
 constexpr CopyStep kOptional[] = {
     [](Player& to, KelvaneBuffers& from) { to.SetFlight(from.golfer.Get<"Flight">()); },

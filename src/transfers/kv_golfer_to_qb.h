@@ -8,11 +8,13 @@
 
 namespace golf {
 
-// The items of a Kelvane golfer that are copied to Quenby in addition to those always copied.
+// Selects the items of a Kelvane golfer that are copied to Quenby in addition to those always
+// copied.
 struct GolferToQbChoice {
   bool halve_handicap = false;   // halves handicap and index of 18 holes, for rounds of 9
   bool double_handicap = false;  // doubles handicap and index of 9 holes, for rounds of 18
-  // The optional items by row of the screen's grid, starting with row 2. True copies the item.
+  // Selects the optional items by row of the screen's grid, starting with row 2. True copies the
+  // item.
   static constexpr int kRows = 16;
   std::array<bool, kRows + 1> item{};
 };

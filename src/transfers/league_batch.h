@@ -9,15 +9,15 @@
 
 namespace golf {
 
-// A score of a league golfer for the golfer's history in Kelvane.
+// Contains a score of a league golfer for the golfer's history in Kelvane.
 struct LeagueScore {
   KelvaneTee played;
   DateValue date = 0;
   int score = 0;  // in strokes
 };
 
-// The scores of one batch of the open league. They are those of an event, or the non-event scores
-// before it.
+// Returns the scores of one batch of the open league. They are those of an event, or the non-event
+// scores before it.
 class LeagueBatch {
  public:
   // Reads the event. `code` is a code of the batch list. Raises the errors of FileTable.
@@ -29,8 +29,8 @@ class LeagueBatch {
   std::vector<LeagueScore> ScoresOfGolfer();
 
  private:
-  // The course and tees of a team at this event. Tee 2 for men and tee 3 for ladies replace a tee
-  // outside 1 to 5.
+  // Contains the course and tees of a team at this event. Tee 2 for men and tee 3 for ladies
+  // replace a tee outside 1 to 5.
   struct TeamCourse {
     int course;
     std::array<int, 2> tees;  // men, ladies

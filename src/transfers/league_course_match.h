@@ -12,7 +12,7 @@
 
 namespace golf {
 
-// The course and tee of a league score for Kelvane's history.
+// Contains the course and tee of a league score for Kelvane's history.
 struct KelvaneTee {
   std::int16_t course_number = 0;  // in Kelvane's library; 0 if no course there matches
   std::uint8_t tee_number = 0;     // of that course, or the tee for scores without a course

@@ -18,7 +18,7 @@ namespace golf {
 // fills the report as it proceeds, so the report is also valid after an error that ends the run. A
 // run does not depend on controls or screens.
 
-// The services that a run uses.
+// Provides the services that a run uses.
 class RunHost {
  public:
   virtual ~RunHost() = default;
@@ -46,7 +46,7 @@ enum class RunEnd {
   kDone,
 };
 
-// A golfer or record that was left out, and the reason.
+// Names a golfer or record that was left out, and the reason.
 struct LeftOutEntry {
   std::string title;  // such as "Smith, Ann" or "Record 7 of the league's players"
   std::string reason;

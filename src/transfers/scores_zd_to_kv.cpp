@@ -26,8 +26,8 @@ NumberedError WithName(const NumberedError& error, ErrorNumber number,
                       " cannot be transferred: " + error.description()};
 }
 
-// The loop over the golfers of the open league. A function that returns false ends the loop,
-// because the operator has cancelled the transfer.
+// Posts the scores of the golfers of the open league in a loop. A function that returns false ends
+// the loop, because the operator has cancelled the transfer.
 class ScorePosting {
  public:
   ScorePosting(SharedState& state, RunHost& host, int batch, ScoresZdToKvReport& report)

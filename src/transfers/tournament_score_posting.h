@@ -11,7 +11,7 @@
 
 namespace golf {
 
-// The options for posting the scores of a round.
+// Contains the options for posting the scores of a round.
 struct TournamentScoreChoice {
   int round = 1;
   std::int32_t course = 0;  // the number in Kelvane's library; 0: an away course
