@@ -7,13 +7,14 @@
 
 namespace golf::bench {
 
-// The time and memory that a process used from its start to its end.
+// Contains the time and memory that a process used from its start to its end.
 struct Measured {
   double seconds = 0;
   double peak_mib = 0;  // the largest resident set, in MiB
 };
 
-// A command that does the work of a benchmark. "{}" in a word is replaced by the work folder.
+// Describes a command that does the work of a benchmark. "{}" in a word is replaced by the work
+// folder.
 struct Contender {
   std::string name;
   std::vector<std::string> command;
@@ -32,7 +33,7 @@ void Print(const std::string& title, const std::vector<Contender>& contenders,
 // Returns the number of rounds given as an argument of the benchmark, but at least 5.
 int RoundsAsked(int argc, char** argv, int if_none = 7);
 
-// A command of the program that is compared with a bare loop that does the same work.
+// Describes a command of the program that is compared with a bare loop that does the same work.
 struct BareLoopRace {
   std::string title;
   std::function<void(const std::filesystem::path& folder)> make_install;
@@ -40,14 +41,14 @@ struct BareLoopRace {
   std::vector<Contender> others = {};
 };
 
-// The main function of a benchmark with a bare loop. Runs the loop on an install if the arguments
-// are "--bare-loop DIR". Otherwise it runs and prints each race. The argument is the number of
-// rounds, at least 5. Returns the seconds of the command in each race.
+// Does the work of the main function of a benchmark with a bare loop. Runs the loop on an install
+// if the arguments are "--bare-loop DIR". Otherwise it runs and prints each race. The argument is
+// the number of rounds, at least 5. Returns the seconds of the command in each race.
 std::vector<double> RaceBareLoop(int argc, char** argv,
                                  void (*bare_loop)(const std::filesystem::path&),
                                  const std::vector<BareLoopRace>& races);
 
-// A folder for one benchmark. The destructor deletes it. It is below TMPDIR if that is set.
+// Creates a folder for one benchmark. The destructor deletes it. It is below TMPDIR if that is set.
 class ScratchFolder {
  public:
   explicit ScratchFolder(const std::string& name);

@@ -25,8 +25,8 @@ std::string AnyBytes(std::size_t size) {
   return bytes;
 }
 
-// A setter of any signature and the field that it sets. The parameters of the setter are the
-// indexes and then the value.
+// Holds a setter of any signature and the name of the field that it sets. The parameters of the
+// setter are the indexes and then the value.
 template <class Object>
 struct Setter {
   template <class... Arguments>

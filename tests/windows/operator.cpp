@@ -2,7 +2,7 @@
 // program in the same way as Quenby, opens the course transfer from the menu, and runs the
 // transfer. It prints the box of the transfer in the form of the command line, and closes the menu.
 // It presses the buttons of the program's windows. It keeps the file HELD open with an exclusive
-// lock until the program ends. It returns the exit code of the program.
+// lock until it ends itself. It returns the exit code of the program.
 
 #include <windows.h>
 
