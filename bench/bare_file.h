@@ -10,7 +10,7 @@
 
 namespace golf::bench {
 
-// An open file of records, counted from 0. Each record costs one system call.
+// Reads and writes an open file of records, counted from 0. Each record costs one system call.
 template <class Layout>
 class BareFile {
  public:

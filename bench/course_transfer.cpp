@@ -1,7 +1,8 @@
-// Measures the course transfer as a whole process: a Kelvane library, and a Quenby library half as
-// long whose courses are all linked. A bare loop runs beside it with one system call for each
-// record: it reads the Quenby links once, reads and writes each Kelvane record once, and reads the
-// Quenby library once more. A plain copy of the same files runs, too.
+// Measures the course transfer as a whole process. The install has a Kelvane library, and a Quenby
+// library half as long whose courses are all linked. The benchmark compares the transfer with a
+// bare loop that makes one system call for each record. The loop reads the Quenby links once, reads
+// and writes each Kelvane record once, and reads the Quenby library again. The benchmark also
+// measures a plain copy of the same files.
 //
 // course_transfer [ROUNDS]            prints medians for 10,000 and for 30,000 courses
 // course_transfer --bare-loop DIR     runs the bare loop

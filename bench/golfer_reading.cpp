@@ -1,6 +1,6 @@
-// Reads all golfers of a roster through the stores, and beside it with a plain loop of one system
-// call for each record: Kelvane's golfers, Quenby's golfers, and a tournament's entries with their
-// golfers.
+// Measures the reading of all golfers through the stores. The files are Kelvane's golfers, Quenby's
+// golfers, and a tournament's entries with their golfers. The benchmark compares each reader with a
+// plain loop that makes one system call for each record.
 //
 // golfer_reading [ROUNDS] [GOLFERS]   prints medians
 
@@ -60,8 +60,8 @@ void MakeInstall(const fs::path& folder, int golfers) {
       });
 }
 
-// Returns the sum of all golfers' IDs. If there is a second file, also reads an entry for each
-// golfer.
+// Returns the sum of all golfers' IDs. Also reads an entry for each golfer if there is a second
+// file.
 std::int64_t BareLoop(const std::vector<std::pair<fs::path, std::size_t>>& files,
                       std::size_t id_offset) {
   std::vector<int> open_files;
@@ -131,13 +131,13 @@ double Seconds(const std::function<std::int64_t()>& read, std::int64_t sum) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// Runs both readers in turn, so that both meet the same conditions.
+// Runs both readers alternately, so that they run under the same conditions.
 void RaceReaders(const char* title, int golfers, int rounds,
                  const std::function<std::int64_t()>& store,
                  const std::function<std::int64_t()>& loop) {
   const std::int64_t sum = std::int64_t{golfers} * (golfers + 1) / 2;
   std::vector<double> of_store, of_loop;
-  Seconds(loop, sum);  // brings the file into the system's memory
+  Seconds(loop, sum);  // loads the file into the system's cache
   for (int round = 0; round < rounds; ++round) {
     of_store.push_back(Seconds(store, sum));
     of_loop.push_back(Seconds(loop, sum));
@@ -159,7 +159,7 @@ int main(int argc, char** argv) {
   using namespace golf;
   using namespace golf::bench;
   const int rounds = std::max(argc > 1 ? std::atoi(argv[1]) : 15, 7);
-  // An entry points to its golfer with 16 bits.
+  // An entry refers to its golfer by a number of 16 bits.
   const int golfers = std::clamp(argc > 2 ? std::atoi(argv[2]) : 30000, 1, 32767);
   const ScratchFolder scratch("bench-golfer-reading");
   MakeInstall(scratch.path(), golfers);

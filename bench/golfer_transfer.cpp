@@ -1,10 +1,10 @@
 // Measures the golfer transfer from Kelvane to Quenby as a whole process. The Kelvane roster and
-// Quenby's file have the same number of golfers, and half of them are the same. A bare loop runs
-// beside it with one system call for each record: it reads Quenby's IDs once, then reads each
-// Kelvane golfer and writes a Quenby record.
+// Quenby's file have the same number of golfers, and half of the golfers are in both. The benchmark
+// compares the transfer with a bare loop that makes one system call for each record. The loop reads
+// Quenby's IDs once, and then reads each Kelvane golfer and writes a Quenby record.
 //
-// The same golfers go into an SQLite database, too: an upsert of each in one transaction, with the
-// database's default durability. TMPDIR says on which disk all of it happens.
+// The benchmark also measures an SQLite database with its default durability. It inserts or updates
+// each golfer in one transaction. TMPDIR selects the disk for all files.
 //
 // golfer_transfer [ROUNDS]            prints medians for 200, 10,000 and 30,000 golfers
 // golfer_transfer --bare-loop DIR     runs the bare loop
@@ -42,7 +42,7 @@ constexpr int kFirstRecord = 10;
 
 constexpr const char* kDatabase = "golfers.db";
 
-// Quenby's golfers in a table by their IDs.
+// Makes a table of Quenby's golfers by ID.
 void MakeDatabase(const fs::path& folder) {
   std::ifstream quenby(folder / "qbdata" / "QBGOLFER.Q9D", std::ios::binary);
   SqliteRecords database(folder / kDatabase);
@@ -73,7 +73,8 @@ void SqliteUpsert(const fs::path& folder) {
   database.Execute("commit");
 }
 
-// The IDs are in no order. The first half of them is in Quenby's file among others.
+// Makes the files and the database. The IDs are in random order. Quenby's file has the golfers with
+// even IDs, and as many others.
 void MakeInstall(const fs::path& folder, int golfers) {
   fs::create_directories(folder / "kvdata");
   fs::create_directories(folder / "qbdata");

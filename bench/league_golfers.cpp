@@ -1,6 +1,7 @@
-// Measures the transfers between a league and the golfers of its siblings as whole processes:
-// 20,000 golfers and a league of 2,000 records. A bare loop runs beside each with one system call
-// for each record: it reads every record of the files once and writes every changed record once.
+// Measures the transfers from Kelvane to a league and from a league to Quenby as whole processes.
+// There are 20,000 golfers and a league of 2,000 players. The benchmark compares each transfer with
+// a bare loop that makes one system call for each record. The loop reads every record of the files
+// once and writes every changed record once.
 //
 // league_golfers [ROUNDS]                 prints medians
 // league_golfers --to-zandel DIR          runs the bare loop from Kelvane to the league
@@ -33,10 +34,10 @@ using Player = Record<LeaguePlayerLayout>;
 
 constexpr int kGolfers = 20000;
 constexpr int kPlayers = 2000;
-constexpr int kInQuenby = 1500;  // of the players; Quenby does not have the others
-constexpr int kIDStep = 3;       // leaves free IDs between
+constexpr int kInQuenby = 1500;  // the number of players that Quenby already has
+constexpr int kIDStep = 3;       // leaves free IDs between the used ones
 
-// Returns the IDs of the players, which are in no order.
+// Returns the golfers' IDs in random order.
 std::vector<int> ShuffledIDs() {
   std::vector<int> ids(kGolfers);
   std::iota(ids.begin(), ids.end(), 1);
@@ -109,8 +110,8 @@ class BareFile {
   int file_;
 };
 
-// The loops do not write what a transfer would. They keep no record that they read, so they cost
-// the reading and the writing alone.
+// The bare loops do not produce the files of a transfer. They only have the cost of reading and
+// writing the same number of records.
 void BareToZandel(const fs::path& folder) {
   const BareFile<LeaguePlayerLayout> league(folder / "zddata" / "00011.ZP8", O_RDWR);
   const BareFile<KelvaneGolferLayout> kelvane(folder / "kvdata" / "CLUB.KVG", O_RDONLY);

@@ -1,7 +1,7 @@
-// Measures the score transfer from Zandel to Kelvane as a whole process: an event of a league of
-// 2,000 golfers, all with a score, and a roster of 20,000 golfers with histories of 20 scores. A
-// bare loop runs beside it with one system call for each record: it reads every file once, and
-// reads and writes the golfer and the history of each score.
+// Measures the score transfer from Zandel to Kelvane as a whole process. The league event has 2,000
+// golfers, all with a score. The roster has 20,000 golfers with histories of 20 scores. The
+// benchmark compares the transfer with a bare loop that makes one system call for each record. The
+// loop reads every file once, and reads and writes the golfer and the history of each score.
 //
 // league_scores [ROUNDS]            prints medians
 // league_scores --bare-loop DIR     runs the bare loop

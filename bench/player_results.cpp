@@ -1,6 +1,6 @@
-// Measures scoring: rounds a second through PlayerClass in this process, with the courses in
-// memory; and `results players` as a whole process, as a table and as JSON, over a tournament of
-// five rounds on five courses.
+// Measures the scoring of players in a tournament of five rounds on five courses. It measures
+// rounds per second through PlayerClass in this process, with the courses in memory. It also
+// measures `results players` as a whole process, as a table and as JSON.
 //
 // player_results [ROUNDS]   prints medians for 2,000 and for 8,000 players
 
@@ -24,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Returns the nanoseconds for each round. Each round is on another course than the one before.
+// Returns the nanoseconds for each round. Consecutive rounds are on different courses.
 double TimeRounds(PlayerClass& player, int repeats) {
   std::int64_t sum = 0;
   const auto start = std::chrono::steady_clock::now();

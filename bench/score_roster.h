@@ -10,12 +10,12 @@ namespace golf::bench {
 
 inline constexpr int kRosterGolfers = 20000;
 
-// Makes the roster CLUB in kvdata. Its golfers have the IDs 1 to kRosterGolfers in no order, and
-// each has a history of 20 scores.
+// Makes the roster CLUB in kvdata. Its golfers have the IDs 1 to kRosterGolfers in random order.
+// Each golfer has a history of 20 scores.
 void MakeScoreRoster(const std::filesystem::path& folder);
 
-// What a bare loop does with that roster: it reads the golfers once, and for each score reads and
-// writes the golfer and his history.
+// Does the work of a bare loop with that roster. The constructor reads the golfers once. Post reads
+// and writes the golfer and the golfer's history for one score.
 class BareRoster {
  public:
   explicit BareRoster(const std::filesystem::path& folder);

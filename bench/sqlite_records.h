@@ -8,11 +8,11 @@
 
 namespace golf::bench {
 
-// The records of a file as a table of an SQLite database, by a number: what a database makes of the
-// same work, with its default durability.
+// Stores the records of a file in a table of an SQLite database, by a number. Benchmarks use it to
+// compare a transfer with a database that has its default durability.
 class SqliteRecords {
  public:
-  // Opens the database, or makes it. An error ends the benchmark.
+  // Opens the database, or creates it. Throws an exception on an error, which ends the benchmark.
   explicit SqliteRecords(const std::filesystem::path& file);
   SqliteRecords(const SqliteRecords&) = delete;
   SqliteRecords& operator=(const SqliteRecords&) = delete;
@@ -20,7 +20,7 @@ class SqliteRecords {
 
   void Execute(const std::string& statement);
   void MakeTable(const std::string& table);
-  // Writes a record; one that has the number is replaced.
+  // Writes a record. Replaces a record that has the same number.
   void Upsert(const std::string& table, int number, std::string_view bytes);
   std::string Read(const std::string& table, int number);
 

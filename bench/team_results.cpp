@@ -1,5 +1,6 @@
-// Measures teams: `results teams` and `results custom` as whole processes, for 50 and for 199 teams
-// of four over five rounds; and one and four best balls in this process.
+// Measures the results of teams of four players over five rounds. It measures `results teams` and
+// `results custom` as whole processes, for 50 and for 199 teams. It also measures one and four best
+// balls in this process.
 //
 // team_results [ROUNDS]   prints medians
 

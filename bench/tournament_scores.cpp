@@ -1,10 +1,11 @@
-// Measures the score transfer from Quenby to Kelvane as a whole process: a tournament of 2,000
-// players, all with a score by hole, and a roster of 20,000 golfers with histories of 20 scores. A
-// bare loop runs beside it with one system call for each record: it reads every file once, reads
-// and writes the golfer and the history of each score, and marks its entry in the tournament.
+// Measures the score transfer from Quenby to Kelvane as a whole process. The tournament has 2,000
+// players, all with a score for each hole. The roster has 20,000 golfers with histories of 20
+// scores. The benchmark compares the transfer with a bare loop that makes one system call for each
+// record. The loop reads every file once, reads and writes the golfer and the history of each
+// score, and marks the entry in the tournament.
 //
-// The same posting is done in an SQLite database, too: three updates for each score, all in one
-// transaction, with the database's default durability.
+// The benchmark also measures an SQLite database with its default durability. It makes three
+// updates for each score, all in one transaction.
 //
 // tournament_scores [ROUNDS]            prints medians
 // tournament_scores --sqlite DIR        runs the posting in the database
@@ -34,7 +35,7 @@ std::ofstream NewFile(const fs::path& path) {
   return std::ofstream(path, std::ios::binary);
 }
 
-// Makes the courses and the index of those with 18 holes.
+// Makes the courses and the index of the courses with 18 holes.
 void MakeCourses(const fs::path& file, const fs::path& index_file) {
   auto courses = NewFile(file);
   auto index = NewFile(index_file);
@@ -112,7 +113,7 @@ void MakeDatabase(const fs::path& folder) {
   database.Execute("commit");
 }
 
-// Reads and writes the golfer, his history and his entry for each score.
+// Reads and writes the golfer, the history and the entry of each score.
 void SqlitePosting(const fs::path& folder) {
   SqliteRecords database(folder / kDatabase);
   database.Execute("begin");

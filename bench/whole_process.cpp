@@ -49,7 +49,7 @@ Measured RunProcess(std::vector<std::string> words) {
 void Restore(const fs::path& pristine, const fs::path& work) {
   fs::remove_all(work);
   fs::copy(pristine, work, fs::copy_options::recursive);
-  sync();  // no contender pays for another's delayed writes
+  sync();  // no contender waits for another's delayed writes
 }
 
 Measured Median(std::vector<Measured> runs) {

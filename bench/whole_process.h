@@ -7,22 +7,22 @@
 
 namespace golf::bench {
 
-// What a process took from its start to its end.
+// Contains the time and memory that a process used from its start to its end.
 struct Measured {
   double seconds = 0;
-  double peak_mib = 0;  // largest resident set
+  double peak_mib = 0;  // the largest resident set, in MiB
 };
 
-// One way to do the work of a benchmark: the words of a command. "{}" in a word stands for the work
+// Describes a command that does the work of a benchmark. "{}" in a word is replaced by the work
 // folder.
 struct Contender {
   std::string name;
   std::vector<std::string> command;
 };
 
-// Returns the medians of the contenders in their order. Before each run the work folder is restored
-// from `pristine`, which is not timed, so all contenders do the same work. A command that fails
-// ends the benchmark.
+// Runs the contenders and returns their medians in the same order. Copies `pristine` to the work
+// folder before each run, so that all contenders do the same work. The time of the copying does not
+// count. Throws an exception if a command fails, which ends the benchmark.
 std::vector<Measured> Race(const std::filesystem::path& pristine, const std::filesystem::path& work,
                            const std::vector<Contender>& contenders, int rounds);
 
@@ -30,25 +30,25 @@ std::vector<Measured> Race(const std::filesystem::path& pristine, const std::fil
 void Print(const std::string& title, const std::vector<Contender>& contenders,
            const std::vector<Measured>& medians, std::size_t base);
 
-// Returns the number of rounds that the benchmark's argument asks for, at least 5.
+// Returns the number of rounds given as an argument of the benchmark, but at least 5.
 int RoundsAsked(int argc, char** argv, int if_none = 7);
 
-// A command of the program, to be compared with the same work as a bare loop.
+// Describes a command of the program that is compared with a bare loop that does the same work.
 struct BareLoopRace {
   std::string title;
   std::function<void(const std::filesystem::path& folder)> make_install;
-  std::vector<std::string> words;  // after "--install FOLDER"; the command's name first
+  std::vector<std::string> words;  // the words after "--install FOLDER", first the command's name
   std::vector<Contender> others = {};
 };
 
-// The main function of a benchmark with a bare loop. With "--bare-loop DIR" it runs the loop on an
-// install. Otherwise it runs and prints each race, in as many rounds as the argument says, at least
-// 5. Returns the seconds of the command in each race.
+// Does the work of the main function of a benchmark with a bare loop. Runs the loop on an install
+// if the arguments are "--bare-loop DIR". Otherwise it runs and prints each race. The argument is
+// the number of rounds, at least 5. Returns the seconds of the command in each race.
 std::vector<double> RaceBareLoop(int argc, char** argv,
                                  void (*bare_loop)(const std::filesystem::path&),
                                  const std::vector<BareLoopRace>& races);
 
-// A folder for one benchmark, deleted at its end. It lies below TMPDIR if that is set.
+// Creates a folder for one benchmark. The destructor deletes it. It is below TMPDIR if that is set.
 class ScratchFolder {
  public:
   explicit ScratchFolder(const std::string& name);

@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// A message box as data. A run asks with it and every host can show it.
+// Describes a message box. A run returns it as data, so every front end can show it.
 
 enum class BoxIcon { kNone, kInformation, kQuestion, kStop, kWarning };
 enum class BoxButton { kOk, kCancel, kYes, kNo, kRetry };

@@ -7,7 +7,7 @@
 namespace golf {
 namespace {
 
-// Stands in for a missing file while changes are refused.
+// Replaces a missing file while changes are refused. It is empty and ignores every change.
 class EmptyFile : public PlatformFile {
  public:
   std::size_t ReadAt(std::int64_t, std::span<char>) override { return 0; }
@@ -34,7 +34,7 @@ std::unique_ptr<PlatformFile> ChangeGate::Open(const std::string& path, FileAcce
 }
 
 void ChangeGate::Write(PlatformFile& file, std::int64_t offset, std::string_view bytes) {
-  if (refuses_) return;  // values that a read corrected stay corrected in memory only
+  if (refuses_) return;  // a value corrected in memory is then not written to the file
   std::size_t written = 0;
   file.WriteAt(ChangePass(), offset, bytes, written);
 }
@@ -65,7 +65,7 @@ void ChangeGate::ReplaceText(const std::string& path, std::string_view text) {
     try {
       platform_.Delete(ChangePass(), fresh);
     } catch (const NumberedError&) {
-      // The first error is the one to report.
+      // This error is ignored, since the first error is rethrown.
     }
     throw;
   }

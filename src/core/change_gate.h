@@ -9,27 +9,27 @@
 
 namespace golf {
 
-// Makes every change of a file that a store or a screen asks for. The platform below may hold it
-// back until the run commits.
+// Makes every file change that a store or a screen requests. The platform may delay the changes
+// until the run commits.
 class ChangeGate {
  public:
   explicit ChangeGate(Platform& platform) : platform_(platform) {}
 
-  // While changes are refused, Write writes nothing and raises no error. Any other change
-  // raises error 75. A missing file that is not opened kReadOnly opens as an empty one, and is not
-  // created.
+  // Refuses or allows changes. While changes are refused, Write writes nothing and raises no error,
+  // and any other change raises error 75. Open returns an empty file for a missing one and does not
+  // create it, unless the access is kReadOnly.
   void RefuseChanges(bool refuse = true) { refuses_ = refuse; }
 
-  // Opens a file. A missing one is created empty first; for kReadOnly it raises error 53.
+  // Opens a file. Creates a missing file, but raises error 53 if the access is kReadOnly.
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access);
 
-  // Writes `bytes` at a position of a file, in bytes.
+  // Writes `bytes` at `offset`, in bytes from the start of the file.
   void Write(PlatformFile& file, std::int64_t offset, std::string_view bytes);
 
   void Delete(const std::string& path);
   void CreateFolder(const std::string& path);
-  // Makes `text` the whole content of the file: a new file takes the place of the old one in one
-  // step. A missing file is created.
+  // Makes `text` the whole content of the file. A new file replaces the old one in one step, so a
+  // failed write leaves the old content unchanged. Creates a missing file.
   void ReplaceText(const std::string& path, std::string_view text);
 
  private:

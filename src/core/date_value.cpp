@@ -36,8 +36,8 @@ std::string Digits(int value, std::size_t least) {
   return text.size() >= least ? text : std::string(least - text.size(), '0') + text;
 }
 
-// Returns the number for one or two letters, the first three letters of the name for three, and the
-// whole name for more.
+// Returns the number in digits if `letters` is 1 or 2, the first three letters of the name if it is
+// 3, and the whole name if it is more.
 std::string NumberOrName(int value, std::string_view name, std::size_t letters) {
   if (letters <= 2) return Digits(value, letters);
   return std::string(letters == 3 ? name.substr(0, 3) : name);
@@ -76,8 +76,8 @@ bool ReadNumber(std::string_view text, std::size_t start, std::size_t length, in
          value <= high;
 }
 
-// Reads the digits of a day, month or year. Returns how many digits it read, 0 if they are not a
-// valid day, month or year.
+// Reads the digits of a day, month or year at the start of `text`. Returns the number of digits
+// read, or 0 if they are not a valid day, month or year.
 std::size_t ReadDatePart(std::string_view text, char kind, CivilTime& civil) {
   const auto end = std::find_if_not(text.begin(), text.end(), IsDigit);
   const auto count = static_cast<std::size_t>(end - text.begin());
@@ -98,7 +98,7 @@ DateValue DateFromCivil(const CivilTime& civil) {
   const auto whole = (DayOf(civil) - kDayZero).count();
   const double part =
       static_cast<double>((civil.hour * 60 + civil.minute) * 60 + civil.second) / kSecondsADay;
-  // Before day 0 the fraction counts away from zero, as the whole days do.
+  // The fraction is subtracted from a day before day 0.
   return whole < 0 ? static_cast<double>(whole) - part : static_cast<double>(whole) + part;
 }
 

@@ -7,7 +7,7 @@
 namespace golf {
 
 // Prepares the program before its first screen: makes the shared objects, detects how dates and
-// times are written, and sets the folders below the program's own. It does not check that the
+// times are written, and sets the data folders below the program's folder. Does not check that the
 // folders exist.
 void PrepareStart(SharedState& state, const RegionalForms& forms, DateValue now);
 

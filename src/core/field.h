@@ -11,19 +11,19 @@
 namespace golf {
 
 enum class FieldType : std::uint8_t {
-  kByte,      // unsigned 8-bit
-  kInt16,     // signed; all numbers are little-endian
-  kInt32,     // signed
+  kByte,      // an unsigned 8-bit integer
+  kInt16,     // a signed 16-bit integer; all numbers are little-endian
+  kInt32,     // a signed 32-bit integer
   kSingle,    // IEEE 754, 4 bytes
   kDouble,    // IEEE 754, 8 bytes
   kDate,      // a double: days since 30 December 1899
-  kCurrency,  // signed 64-bit: the amount times 10000
+  kCurrency,  // a signed 64-bit integer: the amount times 10000
   kText,      // code page 1252, filled with blanks
 };
 
 struct FieldTypeInfo {
   std::string_view name;
-  std::size_t width;  // bytes of one value; 0 for text, since each text field has its own width
+  std::size_t width;  // bytes of one value; 0 for text, since the width differs by field
 };
 
 constexpr FieldTypeInfo InfoOf(FieldType type) {
@@ -32,31 +32,31 @@ constexpr FieldTypeInfo InfoOf(FieldType type) {
   return kInfos[static_cast<std::size_t>(type)];
 }
 
-// The range of one index of a table: `base` to `base` + `count` - 1.
+// Describes the range of one index of a table. It runs from `base` to `base` + `count` - 1.
 struct Dimension {
   int base = 1;
   int count = 1;
 };
 
-// One field of a record: where its bytes lie and what they mean. A field without a name covers
-// bytes whose meaning is unknown. They are kept unchanged.
+// Describes one field of a record: the position, type and indexes of its values. A field without a
+// name covers bytes whose meaning is unknown. These bytes are kept unchanged.
 struct Field {
   static constexpr std::size_t kMaxRank = 3;
 
   std::string_view name;
   FieldType type = FieldType::kByte;
   std::size_t offset = 0;
-  std::size_t width = 1;  // bytes of one value
-  std::size_t rank = 0;   // number of indexes
+  std::size_t width = 1;  // the size of one value in bytes
+  std::size_t rank = 0;   // the number of indexes
   std::array<Dimension, kMaxRank> dimensions{};
-  std::array<std::size_t, kMaxRank> strides{};  // bytes from one value to the next, by index
+  std::array<std::size_t, kMaxRank> strides{};  // bytes from one value to the next, for each index
 
   constexpr std::size_t Count() const {
     std::size_t count = 1;
     for (std::size_t i = 0; i < rank; ++i) count *= static_cast<std::size_t>(dimensions[i].count);
     return count;
   }
-  // Returns the number of bytes of all values.
+  // Returns the size of all values in bytes.
   constexpr std::size_t Size() const { return Count() * width; }
 
   // Returns this field as a table with the given indexes. The first index varies fastest in the
@@ -75,8 +75,8 @@ struct Field {
     return table;
   }
 
-  // Returns this field repeated in each of several entries that lie `stride` bytes apart. The entry
-  // becomes the first index.
+  // Returns this field repeated in each of several entries that start `stride` bytes apart. The
+  // entry number becomes the first index.
   constexpr Field InEach(Dimension entries, std::size_t stride) const {
     Field table = *this;
     for (std::size_t i = rank; i > 0; --i) {
@@ -89,8 +89,8 @@ struct Field {
     return table;
   }
 
-  // Returns the offset in the record of the value with these indexes. Error 9 for an index out of
-  // its range or for a wrong number of indexes.
+  // Returns the offset in the record of the value with these indexes. Raises error 9 if an index is
+  // out of its range or the number of indexes is wrong.
   constexpr std::size_t OffsetOf(std::span<const int> indexes) const {
     if (indexes.size() != rank) FailSubscript();
     std::size_t at = offset;
@@ -104,7 +104,7 @@ struct Field {
 
   [[noreturn]] void FailSubscript() const;
 
-  // Returns the offset of the n-th value, n from 0. The last index varies fastest.
+  // Returns the offset of value number `n`, counted from 0. The last index varies fastest.
   constexpr std::size_t OffsetOfNth(std::size_t n) const {
     std::size_t at = offset;
     for (std::size_t i = rank; i-- > 0;) {
@@ -165,7 +165,7 @@ constexpr bool FieldsTile(std::span<const Field> fields) {
   return size == kLength;
 }
 
-// A layout as data, for code that handles records of any layout.
+// Describes a layout for code that handles records of any layout.
 struct LayoutInfo {
   std::string_view name;
   std::size_t length;
@@ -180,11 +180,12 @@ constexpr LayoutInfo InfoOfLayout() {
 
 using FieldValue = std::variant<std::int64_t, float, double, std::string>;
 
-// Returns the value at `offset` in the bytes of a record. A currency is the stored integer, the
-// amount times 10000. A text keeps its blanks.
+// Returns the value at `offset` in the bytes of a record. Returns a currency as the stored integer,
+// which is the amount times 10000. A text keeps its trailing blanks.
 FieldValue ReadFieldValue(const Field& field, std::string_view record, std::size_t offset);
 
-// Sets every value of a field: numbers to `number`, texts to blanks. `number` must fit the type.
+// Sets every value of a number field to `number`, and every value of a text field to blanks.
+// `number` must fit the type.
 void FillField(const Field& field, std::span<char> record, double number);
 
 }  // namespace golf

@@ -9,9 +9,9 @@ namespace {
 
 constexpr std::string_view kRefused = "\\/:*?\"<>|";
 
-// Names that Windows reserves for devices, with any extension.
+// Windows reserves these names for devices, with any extension.
 constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$", "CLOCK$"};
-// Device names that end in one digit.
+// Each of these texts with one digit after it is also a device name.
 constexpr std::string_view kNumberedDevices[] = {"COM", "LPT"};
 // The last three are superscript digits.
 constexpr std::string_view kDeviceDigits = "0123456789\xB9\xB2\xB3";

@@ -11,8 +11,9 @@
 namespace golf {
 namespace {
 
-// Returns true if the pattern matches the whole name. "*.*" matches every name, with a dot or not.
-// After a mismatch the last star takes one more character; earlier stars need no second try.
+// Returns true if the pattern matches the whole name. "*.*" matches every name, also one without a
+// dot. After a mismatch the last star matches one more character. Earlier stars need no second
+// attempt.
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
   if (pattern == "*.*") return true;
   constexpr std::size_t kNone = std::string_view::npos;
@@ -124,7 +125,7 @@ void FileTable::DeleteFile(const std::string& path) {
   try {
     gate_.Delete(path);
   } catch (const NumberedError&) {
-    // The caller checks afterwards whether the file still exists.
+    // A failed deletion is ignored. The caller checks whether the file still exists.
   }
 }
 

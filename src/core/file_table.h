@@ -13,9 +13,9 @@
 
 namespace golf {
 
-// Holds all open files of the process by their numbers. Fixed numbers lie below 256. A free number
-// is given out only once. So the number of a closed file raises error 52 and never reaches another
-// file.
+// Contains all open files of the process by their numbers. Fixed numbers are below 256. FreeNumber
+// returns each free number only once, so the number of a closed file raises error 52 and never
+// reaches another file.
 class FileTable {
  public:
   explicit FileTable(Platform& platform) : platform_(platform), gate_(platform) {}
@@ -25,30 +25,30 @@ class FileTable {
 
   int FreeNumber() { return next_free_++; }
 
-  // Opens a random-access file of records of `record_length` bytes. A missing file is created
-  // empty; for kReadOnly it raises error 53. A file already open under this number is closed first.
+  // Opens a random-access file of records of `record_length` bytes. Creates a missing file, but
+  // raises error 53 if the access is kReadOnly. First closes a file that is open under this number.
   void Open(int number, const std::string& path, std::size_t record_length,
             FileAccess access = FileAccess::kReadWriteShared);
-  // Close one file or all. A number that is not open is ignored. The errors of a write are raised
-  // where written data may be lost; the files are closed all the same.
+  // Close one file or all files. A number that is not open is ignored. A write error is raised if
+  // written data may be lost. Every file is closed in any case.
   void Close(int number);
   void CloseAll();
 
-  // The members from here to Generation raise error 52 if the number is not open.
+  // All functions from here to Generation raise error 52 if the number is not open.
 
   std::int64_t Length(int number);  // in bytes
-  // Returns the number of whole records. An incomplete record at the end does not count.
+  // Returns the number of whole records. Does not count an incomplete record at the end.
   std::int64_t CountTruncated(int number, std::size_t record_length);
-  // Returns the number of records, rounded to the nearest whole number, half to even. An incomplete
-  // record at the end counts if more than half of it is there.
+  // Returns the number of records, rounded to the nearest whole number, half to even. Counts an
+  // incomplete record at the end if the file contains more than half of it.
   std::int64_t CountRounded(int number, std::size_t record_length);
 
   template <class Layout>
-  std::int32_t RecordCount(int number) {  // truncated
+  std::int32_t RecordCount(int number) {  // counts whole records only
     return static_cast<std::int32_t>(CountTruncated(number, Layout::kLength));
   }
 
-  // Read or write the start of a record, numbered from 1. Errors as for RecordFile.
+  // Read or write the start of a record, numbered from 1. Raise the errors of RecordFile.
   template <class Layout>
   void Read(int number, std::int64_t record, Record<Layout>& into) {
     ReadBytes(number, record, into.MutableBytes());
@@ -60,24 +60,24 @@ class FileTable {
   void ReadBytes(int number, std::int64_t record, std::span<char> into);
   void WriteBytes(int number, std::int64_t record, std::string_view from);
 
-  // Returns a number that changes when a record read before may now read differently.
+  // Returns a number that changes whenever the bytes of records read before may be out of date.
   std::uint64_t Generation(int number) { return At(number).generation(); }
 
-  // Returns true if the path finds a normal file, and false on an error. In the last part of the
-  // path "*" stands for any characters and "?" for any one. A path that ends in a separator finds
-  // any name.
+  // Returns true if a normal file matches the path. Returns false on an error. In the last part of
+  // the path "*" matches any characters and "?" matches any one character. A path that ends in a
+  // separator matches every file in the folder.
   bool FileExists(const std::string& path);
-  // Returns the names of the normal files in a folder that match a pattern of such characters,
-  // sorted by their names in capitals. Error 76 if the folder is missing.
+  // Returns the names of the normal files in a folder that match such a pattern, sorted without
+  // regard to case. Raises error 76 if the folder is missing.
   std::vector<std::string> FilesLike(const std::string& folder, std::string_view pattern);
-  // Returns the content of a text file, at most its first megabyte. Error 53 if the file is
-  // missing.
+  // Returns the content of a text file, but no more than its first megabyte. Raises error 53 if the
+  // file is missing.
   std::string ReadText(const std::string& path);
   // Deletes a file. A failed deletion raises no error.
   void DeleteFile(const std::string& path);
 
-  // Forgets all bytes read ahead. Another program may change or look at the files from here on.
-  // Called at every box and at the end of every click.
+  // Discards all bytes read ahead, so that later reads see the changes of other programs. The
+  // program calls this at every box and at the end of every click.
   void Synchronize();
 
  private:

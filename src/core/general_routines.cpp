@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kRanks = 18;
 
-// The smallest numbers of remaining strokes for which a hole gets 5, 4, 3 and 2 of them.
+// A hole gets 5, 4, 3 or 2 strokes if at least this many strokes remain.
 constexpr std::array<int, 4> kThresholds18 = {73, 55, 37, 19};
 constexpr std::array<int, 4> kThresholds9 = {37, 28, 19, 10};
 

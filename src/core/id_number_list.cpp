@@ -16,7 +16,7 @@ void IdNumberList::Append(std::int32_t id) {
   ++held->second;
   if (id < 1 || id >= next_) return;
   ++passed_;
-  // NextFree counts from the lowest ID, so a new lowest one makes it start again.
+  // NextFree counts from the lowest ID, so it must start again after a new lowest ID.
   if (held == held_.upper_bound(0) && held->second == 1) Rewind();
 }
 
@@ -33,8 +33,8 @@ void IdNumberList::Rewind() {
   passed_ = 0;
 }
 
-// An entry has a gap before it if its ID is above the lowest one plus the number of entries before
-// it. An ID that is in the list twice counts twice.
+// An ID follows a gap if it is greater than the lowest ID plus the number of entries before it. An
+// ID that is in the list twice counts as two entries.
 std::int32_t IdNumberList::NextFree(std::int32_t highest) {
   const auto first = held_.upper_bound(0);
   if (first == held_.end()) return 1;

@@ -6,8 +6,8 @@
 
 namespace golf {
 
-// Load and store the little-endian numbers of the files. The address need not be aligned. Only a
-// big-endian machine reverses the bytes.
+// These functions load and store the little-endian numbers of the files. The address need not be
+// aligned. The bytes are reversed only on a big-endian machine.
 
 template <class T>
 T LoadLittleEndian(const char* at) {

@@ -12,11 +12,12 @@
 namespace golf {
 namespace {
 
-// Is added to a handicap before it is rounded, since a float may hold it slightly too low, such as
-// 12.49999 for 12.5.
+// This is added to a handicap before it is rounded, since a float may be slightly too low, for
+// example 12.49999 instead of 12.5.
 constexpr double kHandicapNudge = 0.00001;
 
-// The number 0.digits x 10^point, without leading or trailing zeros. Zero has no digits.
+// Holds the number 0.digits x 10^point, without leading or trailing zeros. The digits of zero are
+// empty.
 struct Decimal {
   std::string digits;
   int point = 0;
@@ -56,7 +57,7 @@ Decimal WholeDecimal(std::uint64_t magnitude) {
   return decimal;
 }
 
-// Rounds to `places` digits behind the point, half away from zero.
+// Rounds to `places` digits after the decimal point, half away from zero.
 void RoundTo(Decimal& decimal, int places) {
   const int kept = decimal.point + places;
   if (kept >= static_cast<int>(decimal.digits.size())) return;
@@ -77,22 +78,22 @@ void RoundTo(Decimal& decimal, int places) {
   DropTrailingZeros(decimal);
 }
 
-char DigitAt(const Decimal& decimal, int place) {  // place 0 holds the units
+char DigitAt(const Decimal& decimal, int place) {  // place 0 is the units digit
   const int index = decimal.point - 1 - place;
   const bool held = index >= 0 && index < static_cast<int>(decimal.digits.size());
   return held ? decimal.digits[static_cast<std::size_t>(index)] : '0';
 }
 
-// One section of a pattern, parsed.
+// Holds one parsed section of a format pattern.
 struct Section {
   std::string before;
   std::string behind;
-  int least_whole = 0;   // least number of digits before the point
-  int places = 0;        // greatest number of digits behind the point
-  int least_places = 0;  // least number of digits behind the point
+  int least_whole = 0;   // the least number of digits before the point
+  int places = 0;        // the greatest number of digits after the point
+  int least_places = 0;  // the least number of digits after the point
   bool point = false;
   bool grouped = false;
-  bool digits = false;  // false for a section that shows text only
+  bool digits = false;  // false if the section consists of text only
 };
 
 void TakeDigit(Section& section, char mark, bool fraction) {

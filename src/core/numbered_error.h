@@ -5,7 +5,7 @@
 
 namespace golf {
 
-// The numbers of the errors that can reach the operator.
+// Lists the numbers of the errors that the operator may see.
 enum class ErrorNumber : int {
   kBadCall = 5,
   kOverflow = 6,
@@ -17,14 +17,15 @@ enum class ErrorNumber : int {
   kDiskFull = 61,
   kBadRecordNumber = 63,
   kTooManyFiles = 67,
-  kPermissionDenied = 70,  // another program holds the file
+  kPermissionDenied = 70,  // another program has the file open
   kDiskNotReady = 71,
-  kPathAccess = 75,    // access refused, or a read-only file or folder
+  kPathAccess = 75,    // access is refused, or the file or folder is read-only
   kPathNotFound = 76,  // a folder of the path is missing
 };
 
-// A failure with its number. `description` is a full sentence for the operator. It names the file
-// if there is one. A screen or a run may continue only after this kind of exception.
+// Reports an error with its number. `description` is a full sentence for the operator. It names the
+// file if a file is concerned. A screen or a run may continue after this kind of exception, but not
+// after any other kind.
 class NumberedError : public std::exception {
  public:
   NumberedError(ErrorNumber number, std::string description);
@@ -35,7 +36,7 @@ class NumberedError : public std::exception {
   const std::string& description() const { return description_; }
   const char* what() const noexcept override { return description_.c_str(); }
 
-  // Returns the general message for an error that nothing has handled.
+  // Returns the message for an error that no handler has caught.
   std::string Report() const;
 
  private:
@@ -44,8 +45,8 @@ class NumberedError : public std::exception {
   std::string description_;
 };
 
-// The system could not read a record. The buffer does not hold that record: it may hold another
-// one. A run leaves out the golfer concerned and never saves the buffer.
+// Reports that the system could not read a record. The buffer may contain another record, so a run
+// leaves out the golfer concerned and never saves the buffer.
 class ReadError : public NumberedError {
  public:
   explicit ReadError(const NumberedError& cause) : NumberedError(cause) {}

@@ -11,20 +11,21 @@
 
 namespace golf {
 
-// The only interface to the operating system. All other code is portable and can be tested with a
-// platform that fails on purpose.
+// This header is the only interface to the operating system. All other code is portable, and tests
+// replace the platform by one that fails on purpose.
 //
-// A path is text in code page 1252. It starts with ProgramFolder(). That folder's own name may hold
-// characters that the code page lacks, so the platform keeps it in the system's form. Names below
-// it are found without regard to case.
+// A path is text in code page 1252. It starts with ProgramFolder(). The name of that folder may
+// contain characters that the code page lacks, so the platform keeps it in the system's encoding.
+// Names below it are matched without regard to case.
 //
-// A call that fails raises a NumberedError: 70 where another program holds the file, 61 disk full,
-// 75 access refused, 76 no such folder, 53 no such file, 67 too many open files, 57 other faults of
-// a device. Error 75 is also raised for a path that leads up a folder (".."), and where a path for
-// a file names a folder, a pipe or a device. No call waits for a pipe or a device.
+// A call that fails raises a NumberedError: error 53 if the file does not exist, 57 for other
+// device faults, 61 if the disk is full, 67 if too many files are open, 70 if another program has
+// the file open, 75 if access is refused, and 76 if a folder does not exist. Error 75 is also
+// raised if a path contains "..", or if the path of a file names a folder, a pipe or a device. No
+// call waits for a pipe or a device.
 
-// Permits a change of a file. Only the ChangeGate makes one, and the HistoryGate, through which
-// held changes are committed. So no other code changes a file.
+// Permits a change of a file. Only ChangeGate and HistoryGate can make one, so no other code can
+// change a file. HistoryGate commits delayed changes.
 class ChangePass {
  private:
   friend class ChangeGate;
@@ -33,13 +34,13 @@ class ChangePass {
 };
 
 enum class FileAccess {
-  kReadWriteShared,  // raises error 70 where another program holds the file exclusively
-  kDefault,          // the same, but opens a file that may only be read for reading
-  kReadOnly,         // shared; nothing can be written
-  kAlone,            // raises error 70 where anybody else has the file open, in whatever way
+  kReadWriteShared,  // raises error 70 if another program has an exclusive lock
+  kDefault,          // the same, but opens a file without write permission for reading
+  kReadOnly,         // shared; writing raises an error
+  kAlone,            // exclusive; raises error 70 if the file is open anywhere else
 };
 
-// Identifies an open file, whatever name it was opened by.
+// Identifies an open file independently of the name that opened it.
 struct FileIdentity {
   std::uint64_t volume = 0;
   std::uint64_t file = 0;
@@ -50,39 +51,39 @@ class PlatformFile {
  public:
   virtual ~PlatformFile() = default;
 
-  // Reads bytes from `offset` on and returns their number. It is smaller than `into` only at the
-  // end of the file.
+  // Reads bytes from `offset` on and returns their number. The number is smaller than the size of
+  // `into` only at the end of the file.
   virtual std::size_t ReadAt(std::int64_t offset, std::span<char> into) = 0;
-  // Writes all of `bytes`, or raises an error. `written` is the number of bytes that reached the
-  // file, also after an error.
+  // Writes all of `bytes`, or raises an error. Sets `written` to the number of bytes written to the
+  // file, also if it raises an error.
   virtual void WriteAt(ChangePass pass, std::int64_t offset, std::string_view bytes,
                        std::size_t& written) = 0;
   virtual void Truncate(ChangePass pass, std::int64_t length) = 0;
-  // Returns when the bytes written so far, and the length, are on the disk. After an error, bytes
-  // that were written since the last Sync may be lost: write them again before the next one.
+  // Waits until the bytes written so far, and the length, are on the disk. After an error, bytes
+  // written since the last Sync may be lost. The caller must write them again before the next Sync.
   virtual void Sync(ChangePass pass) = 0;
   virtual std::int64_t Length() = 0;  // in bytes
-  // False for a file that could be opened for reading only.
+  // Returns false if the file is open for reading only.
   virtual bool IsWritable() const = 0;
   virtual FileIdentity Identity() const = 0;
-  // Closes the file, also if it raises an error. An error means that bytes written before may not
-  // have reached the file. The destructor closes an open file without an error.
+  // Closes the file, even if it raises an error. An error means that bytes written before may not
+  // be on the disk. The destructor closes an open file and raises no error.
   virtual void Close() = 0;
 };
 
-// The lock that LockRun takes, held during the object's lifetime. The system releases it when the
-// process ends, in whatever way.
+// Holds the lock of LockRun during its lifetime. The system releases the lock when the process ends
+// for any reason.
 class RunLock {
  public:
   virtual ~RunLock() = default;
 };
 
-// Takes note of requests to end the process, while it lives: an interrupt, the end of the session.
+// Records requests to end the process during its lifetime, such as an interrupt or a logoff.
 // Requests that the process ignores stay ignored.
 class StopWatch {
  public:
   virtual ~StopWatch() = default;
-  // The system's number of the last request; 0 with none.
+  // Returns the system's number of the last request, or 0 if there was none.
   virtual int Signal() const = 0;
 };
 
@@ -91,47 +92,49 @@ class Platform {
   virtual ~Platform() = default;
 
   virtual std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) = 0;
-  // Creates an empty file. A file that exists by now is left as it is.
+  // Creates an empty file. Leaves an existing file unchanged.
   virtual void Create(ChangePass pass, const std::string& path) = 0;
   virtual void CreateFolder(ChangePass pass, const std::string& path) = 0;
   virtual void Delete(ChangePass pass, const std::string& path) = 0;
-  // Gives a file another path on the same disk, in one step. A file that is there already is
-  // replaced.
+  // Moves a file to another path on the same disk, in one step. Replaces a file that exists at the
+  // new path.
   virtual void Rename(ChangePass pass, const std::string& from, const std::string& to) = 0;
-  // Returns when the names that were created, changed and deleted in a folder are on the disk.
+  // Waits until the file names created, changed and deleted in a folder are on the disk.
   virtual void SyncFolder(ChangePass pass, const std::string& folder) = 0;
-  // Makes an empty file outside the install, for this process alone. It is gone when it is closed.
+  // Creates an empty file outside the install that only this process can use. Closing the file
+  // deletes it.
   virtual std::unique_ptr<PlatformFile> OpenScratch() = 0;
 
   virtual bool FolderExists(const std::string& path) = 0;
-  // Returns the names of the normal files in a folder, in no order. A folder, a device, and on
-  // Windows a hidden or system file is not a normal file.
+  // Returns the names of the normal files in a folder, in no particular order. A folder or a device
+  // is not a normal file. On Windows a hidden or system file is not a normal file either.
   virtual std::vector<std::string> FileNames(const std::string& folder) = 0;
 
-  // Locks a folder for one run. Error 70 if another process holds the lock. Returns null if the
-  // folder cannot be locked at all.
+  // Locks a folder for one run. Raises error 70 if another process holds the lock. Returns null if
+  // the folder cannot be locked.
   virtual std::unique_ptr<RunLock> LockRun(const std::string& folder) = 0;
 
-  // Null where the system has no such requests.
+  // Returns null if the system has no such requests.
   virtual std::unique_ptr<StopWatch> WatchStops() { return nullptr; }
 
   // Starts a program and does not wait for it. Raises an error if the system cannot start it.
   virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;
 
-  // Ends in a separator.
+  // Returns the folder of the install. It ends in a separator.
   virtual std::string ProgramFolder() const = 0;
   virtual char Separator() const = 0;
   virtual RegionalForms Regional() const = 0;
 };
 
-// Opens the null device for each standard stream that the process was started without, as some
-// schedulers start programs. Otherwise the next file opened would become that stream, and printed
-// text would be written into it. Reading or writing such a stream still fails. A program calls this
-// before anything else.
+// Opens the null device for each standard stream that is closed when the process starts. Some
+// schedulers start programs with closed streams. Without this call the next opened file would
+// become that stream, and printed text would be written into it. Reading or writing such a stream
+// still fails. A program must call this before anything else.
 void TakeStandardStreams();
 
-// Makes the platform of this system over the install in `utf8_folder`. An empty `utf8_folder` means
-// the folder of the running program. Error 76 if the folder is missing or is not a folder.
+// Makes the platform of this system for the install in `utf8_folder`. An empty `utf8_folder` means
+// the folder of the running program. Raises error 76 if the folder does not exist or is not a
+// folder.
 std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder);
 
 }  // namespace golf

@@ -7,7 +7,7 @@ namespace {
 
 struct Meaning {
   ErrorNumber number;
-  std::string_view text;  // %1 is the file
+  std::string_view text;  // %1 is replaced by the file
 };
 
 constexpr Meaning kMeanings[] = {

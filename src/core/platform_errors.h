@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// The reasons for which a call to the operating system fails, the same on every system.
+// Lists the reasons why a call to the operating system fails. They are the same on every system.
 enum class PlatformFault {
   kHeld,
   kDiskFull,
@@ -24,14 +24,15 @@ enum class PlatformFault {
   kIsStandardStream,
 };
 
-// Makes the error for a fault with a file. Here and below, paths are in code page 1252.
+// Returns the error for a fault with a file. All paths here are in code page 1252.
 NumberedError PlatformError(PlatformFault fault, const std::string& path);
-// Makes error 57 for any other fault. `reason` is the system's own description.
+// Returns error 57, which reports any other fault. `reason` is the system's description of the
+// fault.
 NumberedError DeviceFault(const std::string& path, const std::string& reason);
 
-// Makes error 76: the folder of the install is missing.
+// Returns error 76, which reports that the folder of the install does not exist.
 NumberedError NoInstall(const std::string& folder);
-// Makes error 70: another process holds the lock of the install.
+// Returns error 70, which reports that another process holds the lock of the install.
 NumberedError AnotherRun(const std::string& folder);
 
 }  // namespace golf

@@ -60,7 +60,7 @@ constexpr ErrnoMeaning kMeanings[] = {
   throw DeviceFault(path, std::strerror(code));
 }
 
-// Opening a pipe or a device must not block.
+// With these flags the opening of a pipe or a device does not block.
 constexpr int kOpenFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
 class Descriptor {
@@ -77,7 +77,8 @@ class Descriptor {
     if (number_ >= 0) close(number_);
   }
   int get() const { return number_; }
-  // Frees the descriptor also if the system reports an error. An interrupting signal is no error.
+  // Frees the descriptor, even if the system reports an error. An interrupting signal is not an
+  // error.
   void Close(const std::string& native) {
     const int code = close(std::exchange(number_, -1)) == 0 ? 0 : errno;
     if (code != 0 && code != EINTR) FailWith(code, native);
@@ -93,7 +94,7 @@ struct stat StatusOf(const Descriptor& descriptor, const std::string& native) {
   return status;
 }
 
-// The code of the error, or 0. A signal is no failure.
+// Returns the error code of `sync`, or 0. Repeats the call if a signal interrupts it.
 int SyncWith(int (*sync)(int), const Descriptor& descriptor) {
   int result = 0;
   do {
@@ -130,7 +131,8 @@ class PosixFile : public PlatformFile {
           pwrite(descriptor_.get(), rest.data(), rest.size(), offset + static_cast<off_t>(written));
       if (count > 0) written += static_cast<std::size_t>(count);
       if (count == 0) FailWith(EIO, native_);
-      // A write to a descriptor opened for reading only fails with EBADF. It counts as refused.
+      // A write to a descriptor opened for reading only fails with EBADF. This is reported as
+      // refused access.
       if (count < 0 && errno != EINTR) FailWith(errno == EBADF ? EACCES : errno, native_);
     }
   }
@@ -139,7 +141,7 @@ class PosixFile : public PlatformFile {
     if (ftruncate(descriptor_.get(), length) != 0) FailWith(errno, native_);
   }
 
-  // The length belongs to the data that fdatasync waits for; the times of the file do not.
+  // fdatasync waits for the data and the length, but not for the times of the file.
   void Sync(ChangePass) override {
     if (const int code = SyncWith(fdatasync, descriptor_)) FailWith(code, native_);
   }
@@ -164,11 +166,11 @@ class PosixRunLock : public RunLock {
   explicit PosixRunLock(Descriptor folder) : folder_(std::move(folder)) {}
 
  private:
-  Descriptor folder_;  // closing it releases the system's lock
+  Descriptor folder_;  // closing it releases the lock
 };
 
 constexpr int kStopSignals[] = {SIGINT, SIGTERM, SIGHUP};
-volatile std::sig_atomic_t last_stop = 0;  // a signal's handler can reach nothing else
+volatile std::sig_atomic_t last_stop = 0;  // a signal handler may safely access only this type
 
 class PosixStopWatch : public StopWatch {
  public:
@@ -201,8 +203,8 @@ std::string NameOf(const fs::directory_entry& entry) {
   return path.substr(path.rfind('/') + 1);
 }
 
-// Returns the entry of a folder that has this name without regard to case. Of several it returns
-// the first in byte order, so that all spellings reach the same entry.
+// Returns the entry of a folder that has this name without regard to case. Returns the first in
+// byte order if several match, so that all spellings refer to the same entry.
 std::optional<std::string> FindEntry(const std::string& folder, std::string_view name) {
   std::optional<std::string> found;
   std::error_code error;
@@ -221,7 +223,8 @@ bool IsFolder(const std::string& native) {
   return fs::is_directory(native, error);
 }
 
-// Attributes that reset the signals ignored here to their defaults in a started program.
+// Holds the attributes of a started program. They reset the signals that this process ignores to
+// their default actions.
 class DefaultSignals {
  public:
   DefaultSignals() {
@@ -242,7 +245,7 @@ class DefaultSignals {
   posix_spawnattr_t attributes_{};
 };
 
-// The picture for a strftime letter that occurs in date and time forms.
+// Holds the picture for one strftime letter in a date or time form.
 struct PictureOf {
   char letter;
   std::string_view picture;
@@ -322,7 +325,7 @@ class PosixPlatform : public Platform {
     const Descriptor descriptor(open(native.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (descriptor.get() < 0) FailWith(errno == ENOENT ? ENOTDIR : errno, native);
     const int code = SyncWith(fsync, descriptor);
-    // EINVAL comes from a file system that cannot sync folders.
+    // A file system that cannot sync folders returns EINVAL.
     if (code != 0 && code != EINVAL) FailWith(code, native);
   }
 
@@ -422,7 +425,7 @@ class PosixPlatform : public Platform {
     FailWith(code, native);
   }
 
-  // For file systems without O_TMPFILE.
+  // Creates a file and deletes its name. This serves file systems without O_TMPFILE.
   static Descriptor MakeUnnamed(const std::string& folder) {
     std::string native = folder + "/golf-transfer-XXXXXX";
     Descriptor made(mkostemp(native.data(), O_CLOEXEC));
@@ -431,8 +434,8 @@ class PosixPlatform : public Platform {
     return made;
   }
 
-  // Refuses anything but a regular file before it is opened, since opening a device may have an
-  // effect.
+  // Raises an error for anything but a regular file. This happens before the file is opened, since
+  // opening a device may have an effect.
   static void RefuseNoFile(const std::string& native) {
     struct stat status {};
     if (stat(native.c_str(), &status) == 0) CheckMode(status.st_mode, native);
@@ -443,8 +446,8 @@ class PosixPlatform : public Platform {
     if (!S_ISREG(mode)) throw PlatformError(PlatformFault::kIsNoFile, TextFromUtf8(native));
   }
 
-  // Checks the file again after opening, since another file may have replaced it after the first
-  // check.
+  // Checks the file again after it was opened, since another file may have replaced it after the
+  // first check.
   static FileIdentity CheckOpened(const Descriptor& descriptor, const std::string& native) {
     if (descriptor.get() <= STDERR_FILENO) {
       throw PlatformError(PlatformFault::kIsStandardStream, TextFromUtf8(native));
@@ -454,8 +457,9 @@ class PosixPlatform : public Platform {
     return {status.st_dev, status.st_ino};
   }
 
-  // Returns the system's path for a text path. Each name below the root is spelt as on the disk; a
-  // missing last name is spelt as given. Error 76 if a folder on the way is missing.
+  // Returns the system's path for a path in code page 1252. Each name below the root is spelt as on
+  // the disk. A missing last name is spelt as given. Raises error 76 if a folder of the path does
+  // not exist.
   std::string Resolve(const std::string& path) const {
     if (path.compare(0, root_.size(), root_) != 0) return Utf8FromText(path);
     std::string native = native_root_;
@@ -497,8 +501,9 @@ std::string Absolute(const std::string& native) {
 
 }  // namespace
 
-// Opens each closed stream again: input only for writing, output only for reading. Using it then
-// fails, as using a closed stream does. The system assigns the lowest free number.
+// Reopens each closed stream, input for writing only and output for reading only. Using such a
+// stream then fails, as using a closed stream does. The loop relies on the system to assign the
+// lowest free number.
 void TakeStandardStreams() {
   for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
     if (fcntl(number, F_GETFD) >= 0 || errno != EBADF) continue;
@@ -508,7 +513,8 @@ void TakeStandardStreams() {
 }
 
 std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
-  // A write beyond the file size limit then raises an error and does not end the program.
+  // With this setting a write beyond the file size limit raises an error and does not end the
+  // program.
   std::signal(SIGXFSZ, SIG_IGN);
   std::string folder = utf8_folder.empty() ? OwnFolder() : Absolute(utf8_folder);
   if (!folder.ends_with('/')) folder += '/';

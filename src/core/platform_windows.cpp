@@ -14,15 +14,16 @@ namespace golf {
 namespace {
 
 constexpr wchar_t kSeparator = L'\\';
-// Prefixes of a path that the system takes unchanged and at any length.
+// With these prefixes the system accepts a path of any length and does not change it.
 constexpr std::wstring_view kVerbatim = L"\\\\?\\";
 constexpr std::wstring_view kVerbatimShare = L"\\\\?\\UNC\\";
-// A longer path must have such a prefix. A folder's path must leave room for an 8.3 name.
+// A path longer than this needs such a prefix. 14 characters less than MAX_PATH leave space in a
+// folder's path for an 8.3 name.
 constexpr std::size_t kLongestPlain = MAX_PATH - 14;
 
 constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE;
 
-// Codes that the compiler's headers lack.
+// The compiler's headers lack these codes.
 constexpr DWORD kElevationRequired = 740;
 constexpr DWORD kDiskQuotaExceeded = 1295;
 
@@ -77,7 +78,7 @@ std::string TextFromWide(std::wstring_view wide) {
 
 std::wstring WideFromText(std::string_view text) { return WideFromUtf8(Utf8FromText(text)); }
 
-// Returns the path without the prefix, as people know it.
+// Returns the path without the prefix, as a user would write it.
 std::wstring Plain(const std::wstring& path) {
   if (path.starts_with(kVerbatimShare)) return L"\\\\" + path.substr(kVerbatimShare.size());
   return path.starts_with(kVerbatim) ? path.substr(kVerbatim.size()) : path;
@@ -108,7 +109,7 @@ std::string Words(DWORD code) {
 
 [[noreturn]] void FailWith(DWORD code, const std::wstring& native) {
   const std::string path = TextFromWide(Plain(native));
-  // The system gives only this code for a folder in place of a file.
+  // The system also returns this code if the path of a file names a folder.
   if (code == ERROR_ACCESS_DENIED && IsFolder(native)) {
     throw PlatformError(PlatformFault::kIsFolder, path);
   }
@@ -230,7 +231,7 @@ class WindowsFile : public PlatformFile {
     return place;
   }
 
-  // Returns `size`, at most what one call may transfer.
+  // Returns `size`, limited to the bytes that one call may transfer.
   static DWORD Part(std::size_t size) {
     return static_cast<DWORD>(std::min<std::size_t>(size, 1u << 30));
   }
@@ -249,7 +250,7 @@ class WindowsRunLock : public RunLock {
   Handle file_;  // the system deletes the file when the last handle to it closes
 };
 
-// The events that end a process, with the number that a shell gives to a process they have ended.
+// Describes an event that ends a process, and the signal number that a shell reports for it.
 struct StopEvent {
   DWORD event;
   int signal;
@@ -260,11 +261,11 @@ constexpr StopEvent kStopEvents[] = {{CTRL_C_EVENT, 2},
                                      {CTRL_CLOSE_EVENT, 1},
                                      {CTRL_LOGOFF_EVENT, 15},
                                      {CTRL_SHUTDOWN_EVENT, 15}};
-std::atomic<int> last_stop = 0;  // the system tells of an event in a thread of its own
+std::atomic<int> last_stop = 0;  // the system calls NoteStop in a separate thread
 std::atomic<bool> stops_watched = false;
 
-// The system ends the process when this returns from the closing of the console or of the session,
-// so it waits until the run has ended.
+// Records a stop event. The system ends the process when this function returns from a close, logoff
+// or shutdown event, so it waits until the run has ended.
 BOOL WINAPI NoteStop(DWORD event) {
   constexpr DWORD kPause = 10;  // milliseconds
   for (const StopEvent& stop : kStopEvents) {
@@ -301,7 +302,7 @@ bool IsNormal(const WIN32_FIND_DATAW& entry) {
                                     FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) == 0;
 }
 
-// Starts a program that needs more rights. The system asks the operator for them.
+// Starts a program that needs administrator rights. The system asks the operator to permit it.
 bool StartElevated(const std::wstring& program, const std::wstring& arguments) {
   SHELLEXECUTEINFOW start{};
   start.cbSize = sizeof start;
@@ -350,7 +351,7 @@ class WindowsPlatform : public Platform {
     if (!DeleteFileW(native.c_str())) FailWith(GetLastError(), native);
   }
 
-  // The system refuses to rename a file that is open, and to replace one.
+  // Renames a file. The system raises an error if the old or the new file is open.
   void Rename(ChangePass, const std::string& from, const std::string& to) override {
     const std::wstring old_native = Resolve(from);
     const std::wstring new_native = Resolve(to);
@@ -362,8 +363,9 @@ class WindowsPlatform : public Platform {
     }
   }
 
-  // NTFS journals its names; flushing a folder's handle writes the journal. Where the folder may
-  // not be opened for that, or has no flush, the system's own order of changes must do.
+  // Flushing the handle of a folder writes the journal of NTFS, which contains the file names.
+  // Nothing is raised if the folder cannot be opened for this or does not support it. The system's
+  // own order of changes must then suffice.
   void SyncFolder(ChangePass, const std::string& folder) override {
     const std::wstring native = Resolve(folder);
     if (!IsFolder(native)) throw PlatformError(PlatformFault::kNoFolder, folder);
@@ -408,7 +410,7 @@ class WindowsPlatform : public Platform {
     std::vector<std::string> names;
     DWORD code = GetLastError();
     if (search.get() == INVALID_HANDLE_VALUE) {
-      // The root of a drive may be empty.
+      // The root folder of a drive may be empty.
       if (code == ERROR_FILE_NOT_FOUND && FolderExists(folder)) return names;
       FailWith(code == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : code, Resolve(folder));
     }
@@ -464,7 +466,8 @@ class WindowsPlatform : public Platform {
     bool writable;
   };
 
-  // For kDefault it opens a file for reading if it cannot be opened for writing.
+  // Opens an existing file. If the access is kDefault, opens a file that cannot be opened for
+  // writing for reading only.
   static Opened OpenExisting(const std::wstring& native, FileAccess access) {
     const bool writes = access != FileAccess::kReadOnly;
     const DWORD wanted = writes ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ;
@@ -526,8 +529,8 @@ std::wstring Absolute(const std::wstring& path) {
 
 }  // namespace
 
-// A program with windows has no standard streams unless its caller passed some. The handles stay
-// open until the process ends.
+// A program with windows has no standard streams unless its parent process passed some. The handles
+// stay open until the process ends.
 void TakeStandardStreams() {
   for (const DWORD stream : kStandardStreams) {
     const HANDLE handle = GetStdHandle(stream);

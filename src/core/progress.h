@@ -5,8 +5,8 @@
 
 namespace golf {
 
-// The progress of a run: `done` of `total` items, and a text that says what the run is doing. An
-// empty text leaves the former text in place.
+// Contains the progress of a run: `done` of `total` items, and a text that describes the current
+// step. An empty text keeps the previous text on the display.
 struct Progress {
   std::int64_t done = 0;
   std::int64_t total = 0;

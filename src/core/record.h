@@ -17,18 +17,19 @@
 
 namespace golf {
 
-// The name of a field as a template argument.
+// Makes the name of a field usable as a template argument.
 template <std::size_t kSize>
 struct FieldName {
   char characters[kSize]{};
 
-  consteval FieldName(const char (&text)[kSize]) {  // NOLINT: a literal is meant to convert
+  consteval FieldName(const char (&text)[kSize]) {  // NOLINT: a literal must convert implicitly
     for (std::size_t i = 0; i < kSize; ++i) characters[i] = text[i];
   }
   constexpr std::string_view View() const { return {characters, kSize - 1}; }
 };
 
-// Returns the field of a layout with this name. A name that the layout lacks does not compile.
+// Returns the field of a layout with this name. The code does not compile if the layout has no such
+// field.
 template <class Layout, FieldName kName>
 consteval Field FieldOf() {
   for (const Field& field : Layout::kFields) {
@@ -76,8 +77,8 @@ struct ValueOf<FieldType::kText> {
 
 }  // namespace detail
 
-// A record is its Layout::kLength bytes, all 0 at first. A field is read and written in place.
-// Setting a field changes no other byte. An index out of its range raises error 9.
+// Holds a record of Layout::kLength bytes, all 0 at first. Get and Set access the bytes of a field
+// directly. Setting a field changes no other byte. An index out of its range raises error 9.
 template <class Layout>
 class Record {
   static_assert(FieldsTile<Layout::kLength>(Layout::kFields),
@@ -86,12 +87,12 @@ class Record {
  public:
   template <FieldName kName>
   using Value = typename detail::ValueOf<FieldOf<Layout, kName>().type>::Type;
-  // The type from which a field is set.
+  // This is the parameter type of Set.
   template <FieldName kName>
   using Source =
       std::conditional_t<std::is_same_v<Value<kName>, std::string>, std::string_view, Value<kName>>;
 
-  // Returns the stored value. A text keeps its blanks.
+  // Returns the stored value. A text keeps its trailing blanks.
   template <FieldName kName, class... Indexes>
   Value<kName> Get(Indexes... indexes) const {
     constexpr Field kField = FieldOf<Layout, kName>();
@@ -104,7 +105,7 @@ class Record {
     }
   }
 
-  // Sets a field that is not a table. Text is cut at the field's width or filled with blanks.
+  // Sets a field that is not a table. Cuts a text at the field's width, or fills it with blanks.
   template <FieldName kName>
   void Set(Source<kName> value) {
     Set<kName>({}, value);
@@ -124,7 +125,7 @@ class Record {
     }
   }
 
-  // Sets every value of a field, also of a table: numbers to `number`, texts to blanks.
+  // Sets every value of a field or table: numbers to `number`, texts to blanks.
   template <FieldName kName>
   void Fill(double number = 0) {
     FillField(FieldOf<Layout, kName>(), bytes_, number);

@@ -49,8 +49,8 @@ void RecordFile::Read(std::int64_t record, std::span<char> into) {
   next_offset_ = offset + static_cast<std::int64_t>(record_length_);
 }
 
-// Reads at least `size` bytes into the window. A read of the next record in sequence reads ahead,
-// each time twice as far as before. Any other read fetches its own bytes only.
+// Reads at least `size` bytes into the window. Reads ahead if the record follows the last one read,
+// each time twice as far as before. Otherwise reads only the requested bytes.
 void RecordFile::FillWindow(std::int64_t offset, std::size_t size) {
   const bool follows = offset == next_offset_;
   ahead_ = follows ? std::clamp(ahead_ * 2, kFirstWindow, kLargestWindow) : 0;
@@ -71,7 +71,7 @@ void RecordFile::Write(std::int64_t record, std::string_view bytes) {
   gate_.Write(*file_, (record - 1) * static_cast<std::int64_t>(record_length_), bytes);
 }
 
-// An error in closing a file that was only read is ignored, since no data can be lost.
+// Closes the file. Ignores an error if the file was only read, since no data can be lost.
 void RecordFile::Close() {
   try {
     file_->Close();
@@ -83,7 +83,7 @@ void RecordFile::Close() {
 void RecordFile::ForgetWindow() {
   window_.clear();
   window_held_ = 0;
-  next_offset_ = -1;  // so a loop that reads and writes each record does not read ahead
+  next_offset_ = -1;  // a loop that reads and writes each record does not read ahead
   ++generation_;
 }
 

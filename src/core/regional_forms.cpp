@@ -31,7 +31,8 @@ DateForms DetectDateForms(const RegionalForms& forms, DateValue now) {
   try {
     const std::string marks = ReplaceText(FormatPicture(CivilFromDate(now), forms.short_date), "",
                                           "", ReplaceMode::kDigitsToMarks);
-    // Only as many characters are searched as the default mask has, however long the date is.
+    // The search covers only as many characters as the default mask has, even if the date is
+    // longer.
     const std::string separator = SeparatorOf(marks, found.mask.size());
     found.format = Joined("mm", "dd", "yy", separator);
     found.mask = Joined("##", "##", "##", separator);
@@ -40,7 +41,7 @@ DateForms DetectDateForms(const RegionalForms& forms, DateValue now) {
     if (first == 13) found.format = Joined("dd", "mm", "yy", separator);
     if (first >= 98 || first == 19) found.format = Joined("yy", "mm", "dd", separator);
   } catch (const NumberedError&) {
-    // `found` holds what was detected before the error.
+    // `found` contains the results detected before the error.
   }
   return found;
 }

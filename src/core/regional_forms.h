@@ -6,14 +6,14 @@
 
 namespace golf {
 
-// The platform's forms of dates and times, as pictures for FormatPicture.
+// Contains the platform's formats of dates and times, as pictures for FormatPicture.
 struct RegionalForms {
   std::string short_date = "MM/dd/yy";
   std::string long_time = "HH:mm:ss";
-  bool decimal_comma = false;  // true if numbers are written with a decimal comma
+  bool decimal_comma = false;  // true if numbers have a decimal comma
 };
 
-// The forms in which dates are shown and typed.
+// Contains the formats in which the program shows and reads dates.
 struct DateForms {
   std::string format = "mm/dd/yy";
   std::string mask = "##/##/##";
@@ -24,8 +24,8 @@ struct TimeForms {
   std::string mask = "##:##";
 };
 
-// Detect the separator, and for dates the order of day, month and year, from a sample written in
-// the platform's form. After an error DetectDateForms returns what it has found so far.
+// Detect the separator from a sample in the platform's format. DetectDateForms also detects the
+// order of day, month and year. After an error it returns what it has detected so far.
 DateForms DetectDateForms(const RegionalForms& forms, DateValue now);
 TimeForms DetectTimeForms(const RegionalForms& forms);
 

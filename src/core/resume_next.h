@@ -8,8 +8,8 @@
 namespace golf {
 
 // Runs one statement and passes a NumberedError to the handler, so that the caller continues with
-// its next statement. Any other exception is a fault of the program and is not caught. The handler
-// may throw an error again that must end the run.
+// its next statement. Does not catch any other exception, which is a fault of the program. The
+// handler may rethrow an error that must end the run.
 class ResumeNext {
  public:
   explicit ResumeNext(std::function<void(const NumberedError&)> handler)
@@ -31,8 +31,8 @@ class ResumeNext {
   std::function<void(const NumberedError&)> handler_;
 };
 
-// Makes a ResumeNext that does not catch a ReadError, since the next statements would work on
-// another record.
+// Returns a ResumeNext that does not catch a ReadError, since the next statements would use another
+// record's data.
 inline ResumeNext ResumeNextButReads(std::function<void(const NumberedError&)> handler) {
   return ResumeNext([handler = std::move(handler)](const NumberedError& error) {
     if (dynamic_cast<const ReadError*>(&error) != nullptr) throw;

@@ -25,8 +25,8 @@ class Transactions;
 struct KelvaneBuffers;
 struct ZandelBuffers;
 
-// The store objects that all screens share. This room knows only the names of their classes; the
-// composition root makes them.
+// Holds the store objects that all screens share. This header only declares their classes. The
+// composition root makes the objects.
 struct StoreObjects {
   std::shared_ptr<CourseClass> SpareCourse;
   std::shared_ptr<CourseClass> Course;
@@ -36,28 +36,28 @@ struct StoreObjects {
   std::shared_ptr<TeamClass> Team1;
   std::shared_ptr<TeamClass> Team2;
   std::shared_ptr<ESCClass> ESC;
-  // The same tournament, player and first team objects by their record classes, for the rooms below
-  // scoring.
+  // These are the tournament, player and first team objects above, as their record classes. Code
+  // below the scoring layer uses these.
   std::shared_ptr<TournamentControl> TournamentRecord;
   std::shared_ptr<TournamentPlayers> PlayerRecords;
   std::shared_ptr<TeamRecords> Team1Records;
-  // Record buffers, which are made once and kept.
+  // These are the record buffers. They are made once and kept.
   std::shared_ptr<KelvaneBuffers> Kelvane;
   std::shared_ptr<ZandelBuffers> Zandel;
 };
 
-// Replaces the objects by new ones, in the order of the members.
+// Replaces all objects by new ones, in the order of the members.
 using StoreFactory = std::function<void(SharedState&, StoreObjects&)>;
 
-// The state that every screen and store shares. It is made once and passed on by reference.
+// Holds the state that all screens and stores share. It is made once and passed by reference.
 class SharedState {
  public:
   SharedState(Platform& platform, StoreFactory factory);
 
   FileTable files;
 
-  // Folders; each ends in a separator. CourseClass opens its library in CourseDataPath, and the
-  // Quenby stores open their files in StoreDataPath. Screens set both.
+  // These are the data folders. Each ends in a separator. CourseClass opens its library in
+  // CourseDataPath, and the Quenby stores open their files in StoreDataPath. Screens set both.
   std::string ProgramPath;
   std::string KVDataPath;
   std::string QBDataPath;
@@ -65,26 +65,26 @@ class SharedState {
   std::string CourseDataPath;
   std::string StoreDataPath;
 
-  // True if screens remember what was entered on them. False where a command's arguments set
-  // everything.
+  // True if screens save the operator's input for the next run. False if the arguments of a command
+  // set all input.
   bool remembers_settings = true;
 
-  // The Kelvane roster picked last, without folder or extension.
+  // This is the name of the Kelvane roster selected last, without folder or extension.
   std::string KVRosterName;
 
   std::string DateFormat;
   std::string DateMask;
   std::string TimeMask;
   std::string TimeSeparator;
-  // True if the machine writes numbers with a decimal comma. An operator may then enter either
-  // mark.
+  // True if the machine writes numbers with a decimal comma. An operator may then enter a comma or
+  // a point.
   bool decimal_comma = false;
 
-  // The word that the calling application passed: "ZD", "QB" or "KV" names the sibling. Any other
-  // word names none.
+  // This is the word that the calling application passed. "ZD", "QB" or "KV" is the name of that
+  // application. Any other word is ignored.
   std::string CommandLine;
 
-  // No caller keeps these references across InitSharedObjects.
+  // InitSharedObjects invalidates these references, so no caller keeps them across it.
   CourseClass& SpareCourse() { return *objects_.SpareCourse; }
   CourseClass& Course() { return *objects_.Course; }
   ProgramClass& Program() { return *objects_.Program; }
@@ -94,8 +94,8 @@ class SharedState {
   TeamClass& Team2() { return *objects_.Team2; }
   ESCClass& ESC() { return *objects_.ESC; }
 
-  // The same tournament, player and first team by their record classes, for the rooms below
-  // scoring.
+  // Return the same tournament, player and first team as their record classes, for code below the
+  // scoring layer.
   TournamentControl& TournamentRecord() { return *objects_.TournamentRecord; }
   TournamentPlayers& PlayerRecords() { return *objects_.PlayerRecords; }
   TeamRecords& Team1Records() { return *objects_.Team1Records; }
@@ -104,14 +104,15 @@ class SharedState {
   ZandelBuffers& Zandel() { return *objects_.Zandel; }
   IdNumberList id_numbers;
 
-  // Returns the present moment. The front end sets it.
+  // Returns the current date and time. The front end sets this function.
   std::function<DateValue()> Now;
 
-  // Makes each run that changes files happen whole or not at all. The composition root sets it.
+  // Applies the file changes of each run completely or not at all. The composition root sets this
+  // pointer.
   Transactions* transactions = nullptr;
 
-  // Closes every file of the process and makes the shared objects anew. The first error of closing
-  // is raised after all of that is done.
+  // Closes every file of the process and makes new shared objects. Then raises the first error of
+  // closing.
   void InitSharedObjects();
 
  private:

@@ -8,9 +8,9 @@
 
 namespace golf {
 
-// Calls `take(record)`, which reads the record, for the records `first` to `last` in order. A
-// record that raises a ReadError is tried once more at the end. Returns the records that failed
-// again, in ascending order. Any other error is passed to the caller.
+// Calls `take(record)`, which reads the record, for the records `first` to `last` in order. Then
+// calls it a second time for each record that raised a ReadError. Returns the records that failed
+// twice, in ascending order. Passes any other error to the caller.
 template <class Take>
 std::vector<std::int32_t> TakeRecords(std::int32_t first, std::int32_t last, Take&& take) {
   std::vector<std::int32_t> unread;

@@ -13,7 +13,7 @@ struct CasePair {
   unsigned char upper;
 };
 
-// Letters of code page 1252 whose capital is not 32 codes below them.
+// Lists the letters of code page 1252 whose capital code is not 32 less than their own.
 constexpr CasePair kIrregularPairs[] = {{0x9A, 0x8A}, {0x9C, 0x8C}, {0x9E, 0x8E}, {0xFF, 0x9F}};
 
 constexpr bool HasRegularCapital(unsigned char code) {
@@ -53,7 +53,7 @@ unsigned char UpperCode(char c) {
   return static_cast<unsigned char>(kUpper[static_cast<unsigned char>(c)]);
 }
 
-// Returns true for a sign and digits with at most one point or comma among them.
+// Returns true if the text is a sign and digits with at most one point or comma among them.
 bool IsSignedNumber(std::string_view text) {
   text.remove_prefix(1);
   const std::size_t point = std::min(text.find_first_of(".,"), text.size());

@@ -4,7 +4,7 @@
 
 namespace golf {
 
-// Sets a flag to a value during its own lifetime, and then restores the former value.
+// Sets a flag to a value during its lifetime. The destructor restores the previous value.
 class WhileSet {
  public:
   explicit WhileSet(bool& flag, bool value = true)

@@ -9,7 +9,7 @@
 
 namespace golf {
 
-// A table with the indexes `kFirst` to `kLast`. Any other index raises error 9.
+// Holds a table with the indexes `kFirst` to `kLast`. Any other index raises error 9.
 template <class T, int kFirst, int kLast>
 class Indexed {
  public:

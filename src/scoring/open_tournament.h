@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// Opens all files from which scores are calculated, in the shared objects: Quenby's courses and
+// Opens all files that the calculation of scores needs, in the shared objects: Quenby's courses and
 // golfers, and the control file, entries and teams of a tournament. Reads the control record. Sets
 // CourseDataPath and StoreDataPath to Quenby's folder. Raises the errors of FileTable.
 void OpenTournament(SharedState& state, std::int32_t tournament);

@@ -5,16 +5,17 @@
 
 namespace golf {
 
-// The places of rows that are sorted by their results. Rows that tie share a place.
+// Contains the places of rows that are sorted by their results. Rows with equal results share a
+// place.
 struct Places {
-  std::vector<int> dense;        // 1, 2, 2, 3
-  std::vector<int> competition;  // 1, 2, 2, 4
+  std::vector<int> dense;        // such as 1, 2, 2, 3
+  std::vector<int> competition;  // such as 1, 2, 2, 4
 };
 
-// Numbers the places of the rows 0 to `count` - 1. `tie(a, b)` returns true if two rows have the
-// same result. Each row is compared with the first row of the ties before it. `same_group(a, b)` is
-// called where the results differ. In a new group the competition places start again at 1; the
-// dense places continue.
+// Numbers the places of the rows 0 to `count` - 1. `tie(a, b)` must return true if two rows have
+// the same result. It compares each row with the first of the tied rows before it. `same_group(a,
+// b)` is called only if the results differ. In a new group the competition places start again at 1,
+// but the dense places continue.
 template <class Tie, class SameGroup>
 Places NumberPlaces(std::size_t count, Tie&& tie, SameGroup&& same_group) {
   Places places;
@@ -40,7 +41,7 @@ Places NumberPlaces(std::size_t count, Tie&& tie, SameGroup&& same_group) {
   return places;
 }
 
-// Does the same for rows of a single group.
+// Does the same for rows of one group.
 template <class Tie>
 Places NumberPlaces(std::size_t count, Tie&& tie) {
   return NumberPlaces(count, tie, [](std::size_t, std::size_t) { return true; });

@@ -9,15 +9,15 @@
 
 namespace golf {
 
-// A result that is a text in some cases and a number in others.
+// Holds a result that is a text in some cases and a number in others.
 using TextOrNumber = std::variant<std::string, std::int32_t>;
 
-// A table by hole has these sums behind the holes 1 to 18.
+// A table by hole contains these sums after holes 1 to 18.
 inline constexpr int kFirstNine = 19;
 inline constexpr int kSecondNine = 20;
 inline constexpr int kWholeRound = 21;
 
-// The holes that an entry of a table by hole covers, `first` and `last` included.
+// Describes the holes that an entry of a table by hole covers, including `first` and `last`.
 struct CoveredHoles {
   int first;
   int last;
@@ -34,7 +34,8 @@ constexpr int NineOf(int hole) { return hole > 9 ? kSecondNine : kFirstNine; }
 template <class T>
 using ByHole = Indexed<T, 1, kWholeRound>;
 
-// A table by score minus par, -5 to 5. A larger difference counts as 5, a smaller one as -5.
+// ByDifference is a table by score minus par, -5 to 5. A larger difference counts as 5, and a
+// smaller one as -5.
 inline constexpr int kMostDifference = 5;
 template <class T>
 using ByDifference = Indexed<T, -kMostDifference, kMostDifference>;
@@ -43,15 +44,16 @@ constexpr int LimitedDifference(int score, int par) {
   return std::clamp(score - par, -kMostDifference, kMostDifference);
 }
 
-// The calculated results of one golfer's round, in strokes and points. A negative handicap is a
-// plus handicap. Floats stay floats, since the rounding of each step can change a stroke.
+// Contains the calculated results of one golfer's round, in strokes and points. A negative handicap
+// is a plus handicap. The float type is required, since its rounding at each step can change a
+// stroke.
 struct RoundResults {
   float gross_handicap = 0;
   float handicap = 0;
   std::int32_t adjusted = 0;
-  ByHole<std::int32_t> gross;  // sums only; the scores of the holes are in the record
+  ByHole<std::int32_t> gross;  // sums only; the record contains the scores of the holes
   ByHole<std::int32_t> net;
-  float decimal_net = 0;  // for the round
+  float decimal_net = 0;  // of the round
   ByDifference<ByHole<std::int32_t>> gross_statistics;
   ByDifference<ByHole<std::int32_t>> net_statistics;
   ByHole<std::int32_t> gross_points;

@@ -45,7 +45,7 @@ void AddPlaces(std::vector<StandingsRow>& rows) {
   }
 }
 
-// The row of a team without a score shows only number, name, players and handicap.
+// Returns only the number, name, players and handicap of a team without a score.
 StandingsRow TeamTotalsRow(TeamClass& team) {
   StandingsRow row;
   row.cells = {std::to_string(team.TeamNumber()), team.TeamName(), team.NameofPlayersOnTeam(0),

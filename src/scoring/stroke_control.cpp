@@ -15,12 +15,12 @@ constexpr std::int32_t kNoCap = 0;
 constexpr std::int32_t kCustomMaxima = 100;
 constexpr std::int32_t kRunningAllowance = 119;
 
-// The maximum for a handicap below `below` to which no earlier row applies. The last row of a table
-// applies to all remaining handicaps, NaN included.
+// Defines the maximum score of a hole for a handicap below `below`. The first row that fits
+// applies. The last row of a table applies to all other handicaps, including NaN.
 struct CapRow {
   float below;
   std::int32_t strokes;
-  bool over_par;  // true if `strokes` is added to the hole's par
+  bool over_par;  // true if `strokes` is added to the par of the hole
 };
 
 constexpr float kAny = std::numeric_limits<float>::infinity();
@@ -49,8 +49,9 @@ constexpr Scheme kSchemes[] = {{9, kTableOfNine},    {18, kTableOfEighteen},
                                {19, kParPlusOfNine}, {28, kParPlusOfEighteen},
                                {219, kFloorOfSix},   {319, kFloorOverPar}};
 
-// The strokes over par that a capped hole keeps, for the first `holes` capped holes. Every later
-// capped hole keeps one less. If `holes` is 0, every capped hole keeps `over_par`.
+// Contains the strokes over par that a capped hole keeps. The first `holes` capped holes keep
+// `over_par`. Every later one keeps one stroke less. All capped holes keep `over_par` if `holes` is
+// 0.
 struct Allowance {
   std::int32_t over_par;
   std::int32_t holes;
@@ -99,7 +100,8 @@ void ESCClass::CapByTable() {
   }
 }
 
-// A hole of any par other than 3 to 6 has the maximum of the hole before it.
+// Caps the scores by the custom maxima. A hole with a par outside 3 to 6 has the maximum of the
+// previous hole.
 void ESCClass::CapByPar() {
   std::int32_t maximum = 0;
   for (int hole = 1; hole <= kHolesOfRound; ++hole) {

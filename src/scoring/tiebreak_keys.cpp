@@ -14,8 +14,8 @@ namespace {
 constexpr std::string_view kThreeDigits = "000";
 constexpr std::string_view kTwoDigits = "00";
 
-// Some of the last holes, and their share of the handicap. The shares are these decimals, not exact
-// fractions.
+// Describes some of the last holes and their share of the handicap. The shares are exactly these
+// decimals, not the fractions that they approximate.
 struct LastHoles {
   int first;
   int last;
@@ -30,7 +30,7 @@ constexpr LastHoles kOfEighteen[] = {{kSecondNine, kSecondNine, 0.5, kThreeDigit
 constexpr LastHoles kOfNine[] = {
     {4, 9, 0.66666, kThreeDigits}, {7, 9, 0.33333, kTwoDigits}, {9, 9, 0.11111, kTwoDigits}};
 
-// Is added to a share, so that a share ending in .5 rounds up.
+// This is added to a share so that a share ending in .5 rounds up.
 constexpr double kShareNudge = 0.0001;
 
 }  // namespace

@@ -7,7 +7,7 @@
 namespace golf {
 
 // Returns the index of the item with the longest common beginning with `name`, without regard to
-// case. Of several it returns the last. If no item shares a character, it returns 0.
+// case. Returns the last of several such items. Returns 0 if no item has the same first character.
 int ItemWithLongestCommonBeginning(const std::vector<std::string>& items, std::string_view name);
 
 }  // namespace golf

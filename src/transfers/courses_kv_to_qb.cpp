@@ -16,8 +16,8 @@ namespace {
 constexpr int kSource = 10;
 constexpr int kDestination = 11;
 
-// An index of Quenby's course records by Kelvane number, made before the run changes the file. A
-// search returns the records in file order without reading the file again.
+// Finds Quenby's course records by Kelvane number. The index is made before the run changes the
+// file. A search returns the records in file order and does not read the file again.
 class CourseLinks {
  public:
   using Link = std::pair<std::int16_t, std::int64_t>;  // Kelvane number, Quenby record
@@ -43,8 +43,8 @@ class CourseLinks {
   std::vector<Link> links_;
 };
 
-// Copies the courses between the two open files. The numbers of records are rounded, so an
-// incomplete record counts if more than half of it is there.
+// Copies the courses between the two open files. The number of records is rounded, so an incomplete
+// record counts if the file contains more than half of it.
 void CopyCourses(FileTable& files, RunHost& host, const CourseLinks& links,
                  std::int64_t quenby_count, CoursesKvToQbReport& report) {
   const std::int64_t kelvane_count = files.CountRounded(kSource, KelvaneCourseLayout::kLength);
@@ -53,8 +53,8 @@ void CopyCourses(FileTable& files, RunHost& host, const CourseLinks& links,
     files.Read(kSource, source, course);
     const std::int16_t kelvane_number = CheckedInt16(source);
     course.Set<"KVCourseNum">(kelvane_number);
-    // A course not in use is also copied, so that the numbers stay linked. It is neither shown nor
-    // counted as an update.
+    // A course that is not in use is also copied, so that its number stays linked. It is not shown,
+    // and an update of it is not counted.
     const bool in_use = (course.Get<"activeflag">() & 1) != 0;
     host.Report({source, kelvane_count, in_use ? course.Get<"Name">() : std::string()});
     host.Group(Trim(course.Get<"Name">()));
@@ -100,7 +100,7 @@ void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest&,
   try {
     RebuildQuenbyCourseIndexes(state);
   } catch (const NumberedError& error) {
-    report.index_error = error;  // the courses are copied all the same
+    report.index_error = error;  // the courses are already copied
   }
   report.end = RunEnd::kDone;
 }

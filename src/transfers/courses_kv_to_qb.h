@@ -8,22 +8,22 @@
 
 namespace golf {
 
-// This transfer copies the whole Kelvane course library into Quenby's. Each Quenby course carries
-// the number of the Kelvane course that it was copied from. A course that was copied before is
-// overwritten in place. Any other course is appended. Deleted courses are copied too, so that the
-// numbers stay linked.
+// This transfer copies the whole Kelvane course library into Quenby's library. A Quenby course
+// record contains the number of the Kelvane course that it was copied from. The transfer overwrites
+// a course that was copied before, and appends any other course. It also copies deleted courses, so
+// that their numbers stay linked.
 struct CoursesKvToQbRequest {};
 
 struct CoursesKvToQbReport : RunReport {
   std::int16_t added = 0;
-  std::int16_t updated = 0;  // courses in use that were overwritten
-  // The error on which the indexes were not rebuilt, or not all of them.
+  std::int16_t updated = 0;  // the number of courses in use that were overwritten
+  // Contains the error that prevented the rebuild of some or all indexes.
   std::optional<NumberedError> index_error;
 };
 
-// Stops at the first error. The progress shows the name of a course in use. When all courses are
-// copied, the three indexes of Quenby's library are rebuilt from its courses in use, sorted by
-// name. At its end the run closes all files and makes the shared objects anew.
+// Copies the courses and stops at the first error. The progress shows the name of a course in use.
+// After the copying it rebuilds the three indexes of Quenby's library from its courses in use,
+// sorted by name. At the end it closes all files and makes new shared objects.
 void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest& request,
          CoursesKvToQbReport& report);
 

@@ -12,9 +12,9 @@
 namespace golf {
 namespace {
 
-// Quenby's golfers before the run: the first record of each ID, as a search from the first record
-// finds it, and the free places. Golfers added during the run are not found. An ID of 0 finds the
-// first record without a golfer.
+// Finds Quenby's golfers as they were before the run. The index contains the first record of each
+// ID and the free places. Golfers added during the run are not in the index. A search for an ID of
+// 0 finds the first record without a golfer.
 class QuenbyGolfers {
  public:
   QuenbyGolfers(TournamentPlayers& player, std::int32_t length) : places(length) {
@@ -26,8 +26,8 @@ class QuenbyGolfers {
     });
   }
 
-  // Raises a ReadError if some record could not be read. A golfer who was not found may be in it,
-  // and adding him could duplicate him.
+  // Raises a ReadError if some record could not be read. That record may contain a golfer who was
+  // not found, and adding the golfer could create a duplicate.
   void CheckAllRead() const {
     if (unread_.empty()) return;
     throw ReadError({ErrorNumber::kDeviceFault,
@@ -47,7 +47,7 @@ class QuenbyGolfers {
   std::vector<std::int32_t> unread_;
 };
 
-// The loop over the golfers of the open roster.
+// Copies the golfers of the open roster in a loop.
 class GolferCopy {
  public:
   GolferCopy(SharedState& state, RunHost& host, const GolfersKvToQbRequest& request,
@@ -95,7 +95,7 @@ class GolferCopy {
     next_([&] { Save(record); });
   }
 
-  // Puts the player to be changed into the buffer: the one of `record`, or a blank one for 0.
+  // Reads the player of `record` into the buffer, or makes a blank player if `record` is 0.
   void Prepare(std::int32_t record) {
     if (record > 0) {
       state_.PlayerRecords().GetRecord(record, false);
@@ -105,7 +105,8 @@ class GolferCopy {
     }
   }
 
-  // A golfer without an ID makes his record free, even if it was not free before.
+  // Writes the player. A golfer without an ID makes the record free, even if it was not free
+  // before.
   void Save(std::int32_t record) {
     state_.PlayerRecords().SaveRecord(record, false);
     quenby_.places.Note(record, state_.PlayerRecords().StoredID());

@@ -9,12 +9,12 @@
 
 namespace golf {
 
-// This transfer copies the golfers of a Kelvane roster into Quenby's golfer file and onto one of
-// Quenby's rosters. A golfer whose ID number Quenby already has is updated. Any other golfer is
-// added.
+// This transfer copies the golfers of a Kelvane roster into Quenby's golfer file and adds them to
+// one of Quenby's rosters. It updates a golfer whose ID number Quenby already has. It adds any
+// other golfer.
 struct GolfersKvToQbRequest {
   std::string roster;      // Kelvane's roster, without folder or extension
-  double destination = 0;  // the number of Quenby's roster; 0 for none
+  double destination = 0;  // the number of Quenby's roster; 0: none
   bool marked_only = false;
   GolferToQbChoice choice;
 };
@@ -24,9 +24,9 @@ struct GolfersKvToQbReport : RunReport {
   std::int32_t added = 0;
 };
 
-// Raises the errors of opening the files. Once they are open, the run continues after a fault. A
-// value that cannot be set or saved stays as it was. A golfer who cannot be read is left out. The
-// files stay open.
+// Raises the errors of opening the files. After that the run continues after a fault. A value that
+// cannot be set or saved stays unchanged. A golfer who cannot be read is left out. The files stay
+// open.
 void Run(SharedState& state, RunHost& host, const GolfersKvToQbRequest& request,
          GolfersKvToQbReport& report);
 

@@ -12,13 +12,13 @@
 namespace golf {
 namespace {
 
-constexpr std::size_t kLeagueInLog = 30;  // characters
+constexpr std::size_t kLeagueInLog = 30;  // in characters
 
-// The record number of each league golfer by Kelvane ID number. No ID number changes during a run,
-// so each file is searched only once.
+// Contains the record number of each league golfer by Kelvane ID number. No ID number changes
+// during a run, so one search of each file is enough.
 using RecordsById = std::unordered_map<std::int32_t, std::int32_t>;
 
-// Converts Kelvane's handicap to the league's, both in strokes.
+// Converts Kelvane's handicap to the league's. Both are in strokes.
 struct HandicapRule {
   int percent;
   bool halved;
@@ -26,12 +26,12 @@ struct HandicapRule {
   float Of(float handicap) const {
     double value = percent / 100.0 * double{handicap};
     if (halved) value /= 2;
-    return CheckedSingle(value + 0.001);  // so that a half is not rounded down later
+    return CheckedSingle(value + 0.001);  // keeps a later step from rounding a half down
   }
 };
 
-// Copies a Kelvane golfer into a league's record, with his handicap for one event. All other fields
-// stay unchanged.
+// Copies a Kelvane golfer into a league's record, with the handicap for one event. Leaves all other
+// fields unchanged.
 void CopyGolferToZd(const Record<KelvaneGolferLayout>& from, const HandicapRule& rule, int event,
                     Record<LeaguePlayerLayout>& to) {
   to.Set<"LastName">(from.Get<"NameLast">());
@@ -46,16 +46,16 @@ void CopyGolferToZd(const Record<KelvaneGolferLayout>& from, const HandicapRule&
   to.Set<"EventHandicap">({event}, rule.Of(from.Get<"Handicap">()));
 }
 
-// The league's golfers before the run.
+// Finds the league's golfers as they were before the run.
 struct League {
   RecordsById players;      // the lowest record of each ID
   RecordsById substitutes;  // the highest record of each ID
   int scores = 0;           // number of players with a score for the current event
-  // Records that cannot be read. Their golfers are not known.
+  // These records cannot be read, so their golfers are unknown.
   std::vector<std::int32_t> unread_players;
   std::vector<std::int32_t> unread_substitutes;
 
-  // Error 9 if there are players and the current event is outside 1 to 50.
+  // Reads the league. Raises error 9 if there are players and the current event is outside 1 to 50.
   explicit League(SharedState& state) {
     const auto& control = state.Zandel().control;
     auto& player = state.Zandel().player;
@@ -106,7 +106,7 @@ void LeaveOutUnread(RunHost& host, RunReport& report, const std::vector<std::int
   }
 }
 
-// The loop over the golfers of the open roster.
+// Copies the golfers of the open roster in a loop.
 class GolferCopy {
  public:
   GolferCopy(SharedState& state, RunHost& host, const GolfersKvToZdRequest& request,

@@ -8,13 +8,13 @@
 
 namespace golf {
 
-// This transfer copies names, addresses and handicaps from a Kelvane roster to the same golfers'
-// records in a league, for its current event. It adds no golfers to the league.
+// This transfer copies names, addresses and handicaps from a Kelvane roster to the records of the
+// same golfers in a league, for its current event. It adds no golfers to the league.
 struct GolfersKvToZdRequest {
   std::string roster;       // Kelvane's roster, without folder or extension
   std::string league;       // the base of the division
   std::string league_text;  // the name for the log
-  int percent = 100;        // of the handicap, 10 to 100
+  int percent = 100;        // percent of the handicap, 10 to 100
   bool halved = false;      // for rounds of 9 holes
 };
 
@@ -22,8 +22,9 @@ struct GolfersKvToZdReport : RunReport {
   std::int16_t transferred = 0;  // league records; a golfer may have two
 };
 
-// Asks first if the current event already has scores. A golfer who cannot be read is left out. Any
-// other error ends the run. Error 9 for a current event outside 1 to 50.
+// Copies the golfers. Asks the operator first if the current event already has scores. Leaves out a
+// golfer who cannot be read. Any other error ends the run. Raises error 9 if the current event is
+// outside 1 to 50.
 void Run(SharedState& state, RunHost& host, const GolfersKvToZdRequest& request,
          GolfersKvToZdReport& report);
 

@@ -15,9 +15,9 @@ namespace golf {
 namespace {
 
 constexpr std::int32_t kHighestID = 99999;
-constexpr std::size_t kQuenbyFirstName = 11;  // characters
+constexpr std::size_t kQuenbyFirstName = 11;  // in characters
 
-// Errors of a disk, which the operator may be able to remove.
+// Lists the errors of a disk. The operator may be able to remove their cause.
 constexpr ErrorNumber kDiskErrors[] = {ErrorNumber::kDeviceFault,      ErrorNumber::kDiskFull,
                                        ErrorNumber::kPermissionDenied, ErrorNumber::kDiskNotReady,
                                        ErrorNumber::kPathAccess,       ErrorNumber::kPathNotFound};
@@ -27,12 +27,12 @@ bool IsOfDisk(const NumberedError& error) {
                      [&](ErrorNumber number) { return error.Is(number); });
 }
 
-// Returns the key by which a golfer is found in both programs.
+// Returns the key for finding a golfer in both programs.
 std::string NameKey(std::string_view last, std::string_view first) {
   return UpperCase(std::string(Trim(last)) + std::string(Trim(first)));
 }
 
-// Copies the fields of a league's golfer that Quenby has too. Sets his index to 0.
+// Copies those fields of a league's golfer that Quenby has too. Sets the index to 0.
 void CopyGolferToQuenby(const Record<LeaguePlayerLayout>& from, int event, bool doubled,
                         RosterPlayers& to) {
   to.SetNameLast(from.Get<"LastName">());
@@ -48,8 +48,8 @@ void CopyGolferToQuenby(const Record<LeaguePlayerLayout>& from, int event, bool 
   if (doubled) to.SetHandicap(2 * LeadingNumber(to.HandicapValue(true)));
 }
 
-// The loop over the golfers of the open league. A member that returns false ends the run, because
-// the operator did not retry an operation.
+// Copies the golfers of the open league in a loop. A function that returns false ends the run,
+// because the operator did not retry an operation.
 class GolferCopy {
  public:
   GolferCopy(SharedState& state, RunHost& host, const GolfersZdToQbRequest& request,
@@ -79,7 +79,7 @@ class GolferCopy {
   }
 
  private:
-  // Runs an operation, and repeats it after a disk error as long as the operator wants a retry.
+  // Runs an operation. Repeats it after a disk error as long as the operator answers Retry.
   bool Try(const std::function<void()>& operation) {
     for (;;) {
       try {
@@ -162,8 +162,8 @@ class GolferCopy {
   RunHost& host_;
   const GolfersZdToQbRequest& request_;
   GolfersZdToQbReport& report_;
-  // Quenby's golfers before the run. Golfers added by the run are not found. A name finds the first
-  // record that has it, as a search over all records does.
+  // These members are an index of Quenby's golfers before the run. Golfers added by the run are not
+  // in it. A search for a name finds its first record in the file.
   std::int32_t length_;
   std::unordered_map<std::string, std::int32_t> by_name_;
   FreeGolferPlaces places_;

@@ -16,8 +16,8 @@ bool HasNoIndex(const KelvaneBuffers& from) {
   return from.header.Get<"HandicapMethod">() >= kFirstMethodWithoutIndex;
 }
 
-// Returns true if Kelvane shows a blank or "*" as the handicap, since the golfer has too few
-// scores.
+// Returns true if Kelvane shows a blank or "*" as the handicap, which means that the golfer has too
+// few scores.
 bool HasNoHandicap(const KelvaneBuffers& from) {
   return CompareIgnoringCase(Trim(from.golfer.Get<"HandicapText">()), "*") <= 0;
 }
@@ -83,7 +83,7 @@ void CopyMiscCurrency(Player& to, KelvaneBuffers& from) {
   to.SetMiscCurrency(kNumber, from.golfer.Get<"MiscCurrency">(kNumber));
 }
 
-// The optional items, from this row of the grid on.
+// Lists the optional items, starting with this row of the grid.
 constexpr int kFirstOptionalRow = 2;
 constexpr CopyStep kOptional[] = {
     [](Player& to, KelvaneBuffers& from) { to.SetFlight(from.golfer.Get<"Flight">()); },
@@ -106,8 +106,8 @@ constexpr CopyStep kOptional[] = {
     CopyMiscCurrency<5>,
 };
 
-// Multiplies index and handicap. Both are read from their texts. The text of a negative index has a
-// plus sign, so the index becomes positive. A negative handicap stays negative.
+// Multiplies the index and the handicap. Reads both from their texts. The text of a negative index
+// has a plus sign, so the index becomes positive. A negative handicap stays negative.
 void Convert(Player& player, double factor, const ResumeNext& next) {
   next([&] { player.SetIndex(LeadingNumber(player.Index()) * factor); });
   next([&] { player.SetHandicap(LeadingNumber(player.HandicapValue(true)) * factor); });

@@ -8,19 +8,21 @@
 
 namespace golf {
 
-// The items of a Kelvane golfer that are copied to Quenby in addition to those always copied.
+// Selects the items of a Kelvane golfer that are copied to Quenby in addition to those always
+// copied.
 struct GolferToQbChoice {
   bool halve_handicap = false;   // halves handicap and index of 18 holes, for rounds of 9
   bool double_handicap = false;  // doubles handicap and index of 9 holes, for rounds of 18
-  // The optional items by rows of the screen's grid, from row 2 on; true copies the item.
+  // Selects the optional items by row of the screen's grid, starting with row 2. True copies the
+  // item.
   static constexpr int kRows = 16;
   std::array<bool, kRows + 1> item{};
 };
 
 // Copies the golfer of `from` into the player in the buffer of `to`. The roster header of `from`
-// says whether the handicap replaces the index. Other fields stay unchanged. HandicapText is
-// trimmed in `from`. Each value is set by one statement of `next`. Halving and doubling make a
-// negative index positive.
+// determines whether the handicap replaces the index. Other fields stay unchanged. HandicapText is
+// trimmed in `from`. Calls `next` once for each value. Halving and doubling make a negative index
+// positive.
 void CopyGolferToQb(KelvaneBuffers& from, const GolferToQbChoice& choice, RosterPlayers& to,
                     const ResumeNext& next);
 

@@ -9,30 +9,31 @@
 
 namespace golf {
 
-// A score of a league golfer for his history in Kelvane.
+// Contains a score of a league golfer for the golfer's history in Kelvane.
 struct LeagueScore {
   KelvaneTee played;
   DateValue date = 0;
-  int score = 0;  // strokes
+  int score = 0;  // in strokes
 };
 
-// The scores of one batch of the open league: those of an event, or the non-event scores before it.
+// Returns the scores of one batch of the open league. They are those of an event, or the non-event
+// scores before it.
 class LeagueBatch {
  public:
-  // Takes a code of the batch list and reads the event. Raises the errors of FileTable.
+  // Reads the event. `code` is a code of the batch list. Raises the errors of FileTable.
   LeagueBatch(SharedState& state, int code, LeagueCourseMatch& courses);
 
   // Returns the scores of this batch for the golfer in the league player buffer. For the score of
-  // an event, error 9 is raised for an event outside 1 to 50 and for a sex outside 0 to 1. Error 6
-  // is raised if the event has no date. Raises the errors of FileTable.
+  // an event it raises error 9 if the event is outside 1 to 50 or the sex is outside 0 to 1. Raises
+  // error 6 if the event has no date. Also raises the errors of FileTable.
   std::vector<LeagueScore> ScoresOfGolfer();
 
  private:
-  // The course and tees of a team at this event. A tee outside 1 to 5 is replaced by tee 2 for men
-  // and tee 3 for ladies.
+  // Contains the course and tees of a team at this event. Tee 2 for men and tee 3 for ladies
+  // replace a tee outside 1 to 5.
   struct TeamCourse {
     int course;
-    std::array<int, 2> tees;  // men's, ladies'
+    std::array<int, 2> tees;  // men, ladies
   };
 
   std::vector<LeagueScore> EventScore();

@@ -8,7 +8,7 @@ namespace golf {
 namespace {
 
 // Return the rating and slope of a tee of the current record, read from the text that a library
-// shows. So two libraries agree if they show the same.
+// shows. The values of two libraries are equal if the shown texts are equal.
 float RatingOf(const CourseClass& course, int tee, int sex) {
   return CheckedSingle(LeadingNumber(course.Rating(tee, sex)));
 }
@@ -17,7 +17,7 @@ int SlopeOf(const CourseClass& course, int tee, int sex) {
   return RoundToInt16(LeadingNumber(course.slope(tee, sex)));
 }
 
-// Returns true if the course has a tee in use. A course without one never matches.
+// Returns true if the course has a tee in use. Only such a course can match.
 bool HasTee(const Record<CourseLayout>& course) {
   for (int tee = 1; tee <= kShownTees; ++tee) {
     if (course.Get<"ActiveTees">(tee) != 0) return true;
@@ -42,7 +42,8 @@ KelvaneTee LeagueCourseMatch::Match(std::int32_t league_course, int tee, int sex
   return played;
 }
 
-// Of several matches the last course and tee are taken.
+// Finds the course and tee with the same names, rating and slope. The last of several matches
+// counts.
 void LeagueCourseMatch::FindInKelvane(const std::string& course, const std::string& tee, int sex,
                                       KelvaneTee& played) {
   CourseClass& kelvane = state_.Course();

@@ -12,7 +12,7 @@
 
 namespace golf {
 
-// The course and tee of a league score for Kelvane's history.
+// Contains the course and tee of a league score for Kelvane's history.
 struct KelvaneTee {
   std::int16_t course_number = 0;  // in Kelvane's library; 0 if no course there matches
   std::uint8_t tee_number = 0;     // of that course, or the tee for scores without a course
@@ -21,22 +21,23 @@ struct KelvaneTee {
 };
 
 // Finds the tees of league courses in Kelvane's library. The shared Course must have that library
-// open, and SpareCourse Zandel's. Each tee is searched for once. Each Kelvane course is read once
-// for its name.
+// open, and the shared SpareCourse must have Zandel's library open. Each tee is searched for once.
+// Each Kelvane course is read once for its name.
 class LeagueCourseMatch {
  public:
   LeagueCourseMatch(SharedState& state, std::uint8_t tee_without_course)
       : state_(state), tee_without_course_(tee_without_course) {}
 
-  // Takes a course number of Zandel's library, a tee 1 to 5 of that course, and a sex: 0 for men, 1
-  // for ladies. Error 9 for any other sex. Raises the errors of FileTable too.
+  // Returns the Kelvane tee for a tee of a league course. `league_course` is a number in Zandel's
+  // library, `tee` is 1 to 5, and `sex` is 0 for men and 1 for ladies. Raises error 9 for any other
+  // sex. Also raises the errors of FileTable.
   const KelvaneTee& Find(std::int32_t league_course, int tee, int sex);
 
  private:
   KelvaneTee Match(std::int32_t league_course, int tee, int sex);
   void FindInKelvane(const std::string& course, const std::string& tee, int sex,
                      KelvaneTee& played);
-  // Returns the numbers of the courses with this name, without regard to case, ascending.
+  // Returns the numbers of the courses with this name, without regard to case, in ascending order.
   const std::vector<std::int32_t>& KelvaneCoursesNamed(const std::string& name);
 
   SharedState& state_;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kNoRound = 20;          // a score up to this is not a round
 constexpr int kNoRoundEither = 200;   // a score from this on is not a round
-constexpr int kRefusalsToCancel = 3;  // number in a row after which the run asks whether to cancel
+constexpr int kRefusalsToCancel = 3;  // consecutive refusals before the run asks whether to cancel
 
 }  // namespace
 
@@ -87,7 +87,7 @@ void LeagueScorePosting::PostEntry(std::int32_t place, const LeagueScore& score)
   PostKVScore(state_, place);
 }
 
-// Writes the history first. If the golfer's record then cannot be written, the half still waits.
+// Writes the history first. The waiting half is then kept if the golfer's record cannot be written.
 void LeagueScorePosting::PostHalf(std::int32_t place, const LeagueScore& score) {
   const NineHoleHalf half{static_cast<double>(score.score), score.played.rating,
                           static_cast<double>(score.played.slope)};

@@ -14,17 +14,17 @@ struct LeagueScoreReport : RunReport {
 };
 
 // Posts league scores to the histories of the open Kelvane roster and writes the log. Asks the
-// operator about a score that a history already has, but not about a half. Raises the errors of
-// FileTable. Raises error 6 for a number too large for an entry, and leaves the golfer unchanged
-// then.
+// operator about a score that a history already contains, but not about a half. Raises the errors
+// of FileTable. Raises error 6 if a number is too large for an entry, and leaves the golfer
+// unchanged in that case.
 class LeagueScorePosting {
  public:
-  // The report gets a log line for each score, and their number.
+  // Adds a log line for each score to the report, and counts the scores there.
   LeagueScorePosting(SharedState& state, RunHost& host, LeagueScoreReport& report);
 
   // Posts a score of the golfer in the league player buffer to the golfer in the Kelvane buffer,
-  // who is at `place` of the roster. Ignores a score of 20 strokes or fewer and one of 200 or more.
-  // Returns false if the operator has cancelled the transfer.
+  // whose place in the roster is `place`. Ignores a score of 20 strokes or fewer and a score of 200
+  // or more. Returns false if the operator has cancelled the transfer.
   bool Post(std::int32_t place, const LeagueScore& score);
 
  private:
@@ -39,7 +39,7 @@ class LeagueScorePosting {
   RunHost& host_;
   LeagueScoreReport& report_;
   bool halves_;       // true if a round of nine holes is half of an entry
-  int refusals_ = 0;  // number of refusals in a row
+  int refusals_ = 0;  // the number of consecutive refusals
 };
 
 }  // namespace golf

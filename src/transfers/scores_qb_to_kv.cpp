@@ -16,7 +16,7 @@ constexpr int kNine = 9;
 
 bool IsBackNine(SharedState& state, std::int32_t number, const ResumeNext& next) {
   CourseClass course(state);
-  // The course file is open even if opening an index failed.
+  // The course file is open even if the opening of an index failed.
   next([&] { OpenCourseLibrary(state, course, kKelvaneCourses); });
   bool back_nine = false;
   next([&] {
@@ -33,7 +33,7 @@ bool OpenRoster(SharedState& state, const std::string& roster, const ResumeNext&
   return opened;
 }
 
-// Marks in the roster's header that scores were posted.
+// Marks in the header of the roster that scores were posted.
 void MarkRoster(SharedState& state) {
   auto& header = state.Kelvane().header;
   state.files.Read(kKelvaneHeaderFile, 1, header);
@@ -51,8 +51,8 @@ void OpenTournamentFiles(SharedState& state, const ScoresQbToKvRequest& request,
   next([&] { report.course_played = state.Tournament().CourseNamePlayed(request.choice.round); });
 }
 
-// Returns true if the scores can be posted. Nine holes are posted to a roster of 18 as halves if
-// the operator agrees.
+// Returns true if the scores can be posted. Nine holes are posted to a roster of 18 holes as halves
+// if the operator agrees.
 bool HolesFit(SharedState& state, RunHost& host, bool& join_nines) {
   const int holes = state.Kelvane().header.Get<"Holes">();
   const int played = state.Tournament().RoundType();
@@ -88,8 +88,8 @@ std::string CountLine(std::int16_t count, const char* what) {
   return std::to_string(count) + what + std::string(kReportLineEnd);
 }
 
-// Puts the counts in front of the log, which has a line for each score still to transfer. Omits the
-// counts of scores to transfer and already transferred if they are 0.
+// Inserts the counts before the log, which has a line for each score that was not transferred.
+// Omits the counts of scores to transfer and of scores already transferred if they are 0.
 void PutCountsFirst(TournamentScoreReport& report) {
   std::string counts;
   if (report.to_transfer > 0) counts += CountLine(report.to_transfer, " Scores TO transfer.");

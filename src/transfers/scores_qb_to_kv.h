@@ -10,11 +10,11 @@
 namespace golf {
 
 // This transfer posts the scores of a tournament round to the score histories of a Kelvane roster.
-// It posts the scores of each golfer whose ID number both have.
+// It posts the scores of each golfer whose ID number is in both.
 struct ScoresQbToKvRequest {
   std::string roster;  // Kelvane's roster, without folder or extension
   std::int32_t tournament = 0;
-  // The run itself sets whether nines are joined and whether the course is a back nine.
+  // The run itself sets `join_nines` and `back_nine`.
   TournamentScoreChoice choice;
 };
 
@@ -22,9 +22,10 @@ struct ScoresQbToKvReport : TournamentScoreReport {
   std::string course_played;  // the name of the round's course in Quenby's library
 };
 
-// Asks before it posts nine holes to a roster of 18, and about scores that were transferred before.
-// Marks the roster's header first, even if the holes then do not fit. Continues after faults, but
-// raises ReadError for a record that concerns all players. The files stay open.
+// Posts the scores. Asks before it posts nine holes to a roster of 18 holes, and before it posts a
+// score again. Marks the header of the roster first, even if the numbers of holes do not fit.
+// Continues after faults, but raises ReadError for a record that concerns all players. The files
+// stay open.
 void Run(SharedState& state, RunHost& host, const ScoresQbToKvRequest& request,
          ScoresQbToKvReport& report);
 

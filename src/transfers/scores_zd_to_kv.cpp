@@ -19,15 +19,15 @@ constexpr std::uint8_t kTeeIn9Holes = 2;
 
 bool Has18Holes(SharedState& state) { return state.Kelvane().header.Get<"Holes">() == 18; }
 
-// Returns an error about a golfer's records with his name.
+// Returns an error about a golfer's records that contains the golfer's name.
 NumberedError WithName(const NumberedError& error, ErrorNumber number,
                        const Record<LeaguePlayerLayout>& player) {
   return {number, "The scores of " + LeagueGolferName(player) +
                       " cannot be transferred: " + error.description()};
 }
 
-// The loop over the golfers of the open league. A member that returns false ends it, because the
-// operator has cancelled the transfer.
+// Posts the scores of the golfers of the open league in a loop. A function that returns false ends
+// the loop, because the operator has cancelled the transfer.
 class ScorePosting {
  public:
   ScorePosting(SharedState& state, RunHost& host, int batch, ScoresZdToKvReport& report)
@@ -69,7 +69,7 @@ class ScorePosting {
     return player.Get<"GolferID">() <= 0 || PostGolfer(player);
   }
 
-  // Posts the player's scores to all golfers of the roster with his ID.
+  // Posts the player's scores to all golfers of the roster with the player's ID.
   bool PostGolfer(const Record<LeaguePlayerLayout>& player) {
     const auto name = [&] { return LeagueGolferName(player); };
     std::vector<std::int32_t> places;

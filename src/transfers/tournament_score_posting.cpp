@@ -13,7 +13,7 @@ namespace golf {
 namespace {
 
 constexpr int kNineHoles = 9;
-constexpr double kHighestNoScore = 20;  // a total up to here is not the score of a round
+constexpr double kHighestNoScore = 20;  // a total up to this is not the score of a round
 
 }  // namespace
 
@@ -39,7 +39,7 @@ void TournamentScorePosting::Take(std::int32_t record) {
   });
 }
 
-// Reads the entry and its player into the buffers. Returns false for an entry without a player.
+// Reads the entry and its player into the buffers. Returns false if the entry has no player.
 bool TournamentScorePosting::IsRead(std::int32_t record) {
   PlayerClass& player = state_.Player();
   name_ = "Entry " + std::to_string(record) + " of the tournament";
@@ -50,7 +50,7 @@ bool TournamentScorePosting::IsRead(std::int32_t record) {
   return exists;
 }
 
-// Posts the score. If its figures or the history cannot be read, it does not count as transferred.
+// Posts the score. Does not count it as transferred if its values or the history cannot be read.
 bool TournamentScorePosting::IsPosted() {
   next_([&] { CountUp(report_.transferred); });
   BlankKVScore(state_);
@@ -73,7 +73,7 @@ void TournamentScorePosting::NoteFault(const NumberedError& fault) {
   }
 }
 
-// Returns true if the score is to be posted. The golfer is in the Kelvane buffer then.
+// Returns true if the score is to be posted. The Kelvane buffer then contains the golfer.
 bool TournamentScorePosting::IsToBePosted() {
   if (!IsWantedAgain()) {
     CountUp(report_.already);
@@ -94,7 +94,8 @@ bool TournamentScorePosting::IsToBePosted() {
   return AdjustedScore() > 0;
 }
 
-// A score that was transferred before is transferred again only if the operator agrees.
+// Returns true for a score that was not transferred before. Asks the operator about any other
+// score.
 bool TournamentScorePosting::IsWantedAgain() {
   PlayerClass& player = state_.Player();
   if (!player.TourScoreTransferredtoKV(choice_.round)) return true;
@@ -129,8 +130,8 @@ void TournamentScorePosting::Log(const std::string& reason) {
   report_.log += state_.Player().NameLF() + reason + "\r\n";
 }
 
-// Fills each figure in its own statement. A figure that does not fit leaves only its own field
-// unchanged.
+// Fills the entry, each value in its own statement. A value that does not fit leaves only its own
+// field unchanged.
 void TournamentScorePosting::FillEntry() {
   PlayerClass& player = state_.Player();
   auto& entry = state_.Kelvane().score;
@@ -164,7 +165,7 @@ void TournamentScorePosting::SetTee() {
   state_.Kelvane().score.Set<"TeeNumber">(tees[static_cast<std::size_t>(group) - 1]);
 }
 
-// An invalid date raises error 5, and the entry keeps the present moment.
+// Sets the date. An invalid date raises error 5 and leaves the current date and time in the entry.
 void TournamentScorePosting::SetDate() {
   const DateValue date = state_.Tournament().Stored().Get<"DateofRound">(choice_.round);
   if (!IsDate(date)) {
@@ -174,7 +175,7 @@ void TournamentScorePosting::SetDate() {
   state_.Kelvane().score.Set<"Date">(std::trunc(date));
 }
 
-// On a back nine course the scores are those of Kelvane's holes 10 to 18.
+// Fills the hole scores. The scores of a back nine course are those of Kelvane's holes 10 to 18.
 void TournamentScorePosting::FillHoles() {
   auto& entry = state_.Kelvane().score;
   const int holes = choice_.back_nine ? kNineHoles : kHoles;
@@ -185,7 +186,8 @@ void TournamentScorePosting::FillHoles() {
   }
 }
 
-// Points do not depend on the course, so the entry has no course, tee or rating.
+// Replaces the score by points. Points do not depend on the course, so the entry has no course, tee
+// or rating.
 void TournamentScorePosting::FillPoints() {
   auto& entry = state_.Kelvane().score;
   figure_([&] {
@@ -201,7 +203,8 @@ void TournamentScorePosting::PostEntry() {
   PostKVScore(state_, place_);
 }
 
-// A half that is kept is always the adjusted score, even if points are posted.
+// Posts half of an entry. A half that is kept is always the adjusted score, even if points are
+// posted.
 void TournamentScorePosting::PostHalf() {
   PlayerClass& player = state_.Player();
   const int round = choice_.round;

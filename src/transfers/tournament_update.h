@@ -15,8 +15,8 @@ struct TournamentUpdateRequest {
 
 using TournamentUpdateReport = RunReport;
 
-// Leaves out an entry that cannot be read, and stops at any other error. The tournament's control
-// file must be open in the shared Tournament. The files stay open.
+// Copies the values. Leaves out an entry that cannot be read, and stops at any other error. The
+// shared Tournament must have the control file of the tournament open. The files stay open.
 void Run(SharedState& state, RunHost& host, const TournamentUpdateRequest& request,
          TournamentUpdateReport& report);
 

@@ -19,7 +19,8 @@ class ChangeGateTest : public FilesTest {
   }
 };
 
-// Each call to the system fails once. The error is raised, and the old records are still there.
+// Makes each call to the system fail once. The test expects that the error is raised and that the
+// old records are unchanged.
 TEST_F(ChangeGateTest, AFaultAtAnyCallIsToldAndSparesOldRecords) {
   const auto run = [&] {
     files.Open(3, At("a.dat"), 3);
@@ -75,8 +76,8 @@ TEST_F(ChangeGateTest, RefusedChangesAreError75AndLeaveNothing) {
 
 static_assert(!std::is_default_constructible_v<ChangePass>, "only the gates change files");
 
-// Each write reaches the platform at once, on its own. A new text takes the place of the old one in
-// one step, and a fault on the way leaves the old one.
+// Each write reaches the platform immediately and separately. A new text replaces the old one in
+// one step, and after a fault in between the old text is unchanged.
 TEST_F(ChangeGateTest, ChangesReachThePlatformOneByOne) {
   files.Open(3, At("new.dat"), 3);
   files.WriteBytes(3, 2, "123");

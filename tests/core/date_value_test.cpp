@@ -74,7 +74,7 @@ TEST(RegionalForms, DatesAreReadOffWhatThePlatformWrites) {
       {"yy/MM/dd", "yy/mm/dd", "##/##/##"},
       {"d MMMM yyyy", "dd mm yy", "## ## ##"},
       {"ddd d.M.yy", "mmSddSyy", "##S##S##"},
-      {"ddMMyyyy.", "dd/mm/yy", "##/##/##"},  // the separator comes too late
+      {"ddMMyyyy.", "dd/mm/yy", "##/##/##"},  // the search does not reach this separator
       {"", "mm/dd/yy", "##/##/##"},
   };
   for (const auto& row : rows) {

@@ -41,7 +41,7 @@ TEST_F(FileTableTest, NumbersThatAreNotOpenAreError52) {
   EXPECT_EQ(ErrorOf([&] { files.WriteBytes(number, 1, "abc"); }), 52);
   EXPECT_EQ(ErrorOf([&] { files.CountTruncated(number, 3); }), 52);
 
-  // Opening a number closes its old file, even if the opening fails.
+  // Opening a file under a number closes the number's old file, even if the opening fails.
   files.Open(1, At("a.dat"), 3);
   files.Open(1, At("b.dat"), 2);
   files.WriteBytes(1, 1, "bb");
@@ -53,7 +53,7 @@ TEST_F(FileTableTest, NumbersThatAreNotOpenAreError52) {
   EXPECT_EQ(ErrorOf([&] { files.Length(1); }), 52);
 }
 
-// Closing a file that was only read cannot lose anything, so its error is not raised.
+// Closing a file that was only read cannot lose data, so its error is not raised.
 TEST_F(FileTableTest, AnErrorOfClosingIsToldLikeOneOfAWrite) {
   for (const bool written : {true, false}) {
     for (const bool all : {true, false}) {
@@ -130,7 +130,7 @@ TEST_F(FileTableTest, ErrorsHaveTheirNumbers) {
   EXPECT_EQ(folder.Read("file"), "abc");
   EXPECT_FALSE(folder.Exists("none"));
 
-  // Errors of the system reach the caller unchanged.
+  // Errors of the system are passed to the caller unchanged.
   const std::pair<Operation, std::function<void()>> calls[] = {
       {Operation::kOpen, [&] { files.Open(3, At("other"), 3); }},
       {Operation::kCreate, [&] { files.Open(3, At("other"), 3); }},
@@ -167,13 +167,13 @@ TEST_F(FileTableTest, ReadAheadEndsAtSynchronizeAndAtWrites) {
   files.WriteBytes(2, 500, "two");
   EXPECT_NE(files.Generation(1), generation);
 
-  // A failed read leaves no bytes behind that could be taken for the file.
+  // After a failed read the read-ahead buffer contains no old bytes.
   platform.Fail({ErrorNumber::kDeviceFault, 1, Operation::kRead});
   EXPECT_EQ(ErrorOf([&] { Read(2, 10, 3); }), 57);
   EXPECT_EQ(Read(2, 10, 3), "new");
 }
 
-// Two numbers on one file act as one string of bytes, whatever is read ahead.
+// Two numbers with the same file open see the same bytes, whatever is read ahead.
 TEST_F(FileTableTest, ActsAsPlainBytesWouldUnderAnyOrderOfCalls) {
   std::mt19937 random(20240229);
   const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };

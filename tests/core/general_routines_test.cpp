@@ -19,7 +19,7 @@ using Ints = std::vector<std::int32_t>;
 TEST(GeneralRoutines, FilterKey) {
   const std::string keys = "AZaz 09\b-/:@[`{\xE9";
   const std::pair<unsigned, std::string> rows[] = {
-      // "." stands for a refused key.
+      // In the expected texts "." means a refused key.
       {0, "AZaz.09\b........"}, {1, "AZaz 09\b........"}, {2, "AZAZ.09\b........"},
       {3, "AZAZ 09\b........"}, {4, "AZaz...\b........"}, {7, "AZAZ ..\b........"}};
   for (const auto& [options, passed] : rows) {
@@ -34,11 +34,11 @@ TEST(GeneralRoutines, LimitNumber) {
     double value;
     std::optional<double> if_low, if_high;
     int result;
-    double left;  // the caller's variable afterwards
+    double left;  // the caller's variable after the call
   } rows[] = {{LeadingNumber("7"), {}, {}, 5, 5},
               {LeadingNumber("x"), {}, {}, 1, 1},
               {0, 3, {}, 3, 3},
-              {0, -4, {}, 1, 1},  // a replacement below `low` is raised to it
+              {0, -4, {}, 1, 1},  // a replacement below `low` is raised to `low`
               {0, 9, {}, 5, 5},
               {0, 9, 2, 2, 2},
               {9, {}, 12, 5, 5},
@@ -67,7 +67,8 @@ TEST(GeneralRoutines, StrokesAreAllocatedOverNineHolesOrOverEighteen) {
   }
 }
 
-// The rows are worked out by hand. Exchanges across a gap carry equal keys past each other.
+// The expected rows were calculated by hand. An exchange across a gap can change the order of equal
+// keys.
 TEST(GeneralRoutines, ShellSort) {
   using Floats = std::vector<float>;
   const struct {
@@ -77,12 +78,13 @@ TEST(GeneralRoutines, ShellSort) {
     unsigned options;
     Floats sorted;
     Ints carried;
-  } rows[] = {// Gap 2 exchanges places 1 and 3; gap 1 finds nothing to do.
+  } rows[] = {// Gap 2 exchanges places 1 and 3. Gap 1 exchanges nothing.
               {{2, 2, 1, 3}, {10, 20, 30, 40}, 4, 0, {1, 2, 2, 3}, {30, 20, 10, 40}},
               {{2, 2, 3, 1}, Ints(4), 4, 5, {3, 2, 2, 1}, {3, 2, 1, 4}},
-              // Gap 3 sorts 1-4-7 to the records 4, 1, 7, and 3-6 to 6, 3. Gap 1 exchanges nothing.
+              // With gap 3, places 1, 4 and 7 get the records 4, 1 and 7, and places 3 and 6 get
+              // the records 6 and 3. Gap 1 exchanges nothing.
               {{5, 1, 5, 1, 5, 1, 5}, Ints(7), 7, 4, {1, 1, 1, 5, 5, 5, 5}, {4, 2, 6, 1, 5, 3, 7}},
-              // Gap 3 leaves the records 4 2 6 1 5 3. Gap 1 exchanges places 2-3, 4-5 and 5-6.
+              // After gap 3 the records are 4 2 6 1 5 3. Gap 1 exchanges places 2-3, 4-5 and 5-6.
               {{4, 2, 2, 1, 2, 1}, Ints(6), 6, 4, {1, 1, 2, 2, 2, 4}, {4, 6, 2, 5, 3, 1}},
               {{3, 2, 1}, {7, 8, 9}, 2, 0, {2, 3, 1}, {8, 7, 9}},
               {{3, 2}, {7, 8}, 1, 4, {3, 2}, {1, 8}},
@@ -109,7 +111,7 @@ TEST(IdNumberList, FreeIds) {
       {{3, 4, 5}, 5, 1},
       {{3, 4, 5}, 6, 6},
       {{0, 8, -3, 7}, 99, 9},
-      {{3, 3, 5}, 99, 6},  // an ID that occurs twice raises the offset, too
+      {{3, 3, 5}, 99, 6},  // an ID that occurs twice also counts twice
       {{3, 3, 6}, 99, 5},
       {{kMost}, kMost, 1},
   };
@@ -122,18 +124,18 @@ TEST(IdNumberList, FreeIds) {
 
 TEST(IdNumberList, ForgottenIds) {
   IdNumberList list;
-  list.Forget(8);  // is not in the list
+  list.Forget(8);  // the ID is not in the list
   EXPECT_FALSE(list.Contains(0));
   for (const std::int32_t id : {3, 4, 5, 6}) list.Append(id);
   list.Forget(4);
   EXPECT_TRUE(list.Contains(3) && !list.Contains(4) && !list.Contains(7));
-  EXPECT_TRUE(list.Contains(0));  // takes the place of the forgotten ID
+  EXPECT_TRUE(list.Contains(0));  // 0 replaces the forgotten ID
   EXPECT_EQ(list.NextFree(99), 4);
   list.Append(4);
   EXPECT_EQ(list.NextFree(99), 7);
   list.Append(5);
   list.Forget(5);
-  EXPECT_TRUE(list.Contains(5));  // it occurred twice
+  EXPECT_TRUE(list.Contains(5));  // the ID occurred twice
   list.AppendNew(4);
   list.Forget(4);
   EXPECT_FALSE(list.Contains(4));

@@ -20,14 +20,14 @@ TEST(NumberText, FormatNumber) {
       {"000", {{7, "007"}, {123456, "123456"}}},
       {"00.0", {{71.25, "71.3"}, {9.96, "10.0"}, {-3.2, "-03.2"}}},
       {"0.0", {{0.049, "0.0"}, {0.05, "0.1"}}},
-      // Rounds the decimal text and not the binary value. The sign is that of the value before
-      // rounding.
+      // The decimal text is rounded, not the binary value. The value before rounding determines the
+      // sign.
       {"0.00", {{1.005, "1.01"}, {2.675, "2.68"}, {-0.001, "-0.00"}}},
       {" 0", {{3, " 3"}, {12, " 12"}}},
       {"#0.0;+0.0", {{5.25, "5.3"}, {0.4, "0.4"}, {-1.5, "+1.5"}}},
       {"0.00;-0.00", {{-0.04, "-0.04"}, {12.49501, "12.50"}}},
       {"$#,##0.00", {{1234567.891, "$1,234,567.89"}, {-999.999, "-$1,000.00"}, {0.5, "$0.50"}}},
-      {"#0; ; ", {{4, "4"}, {0, " "}, {-4, " "}}},  // a section without digits shows none
+      {"#0; ; ", {{4, "4"}, {0, " "}, {-4, " "}}},  // a section without digits shows no digits
       {"0;;", {{0, ""}, {-17, ""}, {17, "17"}}},
       {"0.##", {{0.199, "0.2"}}},
       {"0 \"of; 9\"", {{3, "3 of; 9"}}},
@@ -37,7 +37,7 @@ TEST(NumberText, FormatNumber) {
       EXPECT_EQ(FormatNumber(value, pattern), text) << value << " " << pattern;
     }
   }
-  // Rounds a single by its shortest text. As a double this one is 2.3499999.
+  // A float is rounded by its shortest text. As a double this value is 2.3499999.
   EXPECT_EQ(FormatNumber(2.35f, "0.0"), "2.4");
   EXPECT_EQ(FormatNumber(-0.05f, "0.0;+0.0"), "+0.1");
   EXPECT_EQ(FormatNumber(std::numeric_limits<std::int64_t>::min(), "0"), "-9223372036854775808");

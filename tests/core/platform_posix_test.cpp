@@ -11,7 +11,7 @@ namespace {
 
 using PlatformPosixTest = FilesTest;
 
-// Opening them must not wait.
+// Opening a pipe or a device must not wait.
 TEST_F(PlatformPosixTest, WhatIsNoFileIsError75) {
   ASSERT_EQ(mkfifo(folder.Path("pipe.dat").c_str(), 0666), 0);
   ASSERT_EQ(symlink("/dev/zero", folder.Path("device.dat").c_str()), 0);
@@ -25,7 +25,8 @@ TEST_F(PlatformPosixTest, WhatIsNoFileIsError75) {
   }
 }
 
-// If a process starts without standard streams, the next opened files get their numbers.
+// A process may start without standard streams. The next opened files then get the numbers of these
+// streams.
 TEST_F(PlatformPosixTest, NoDataFileGetsThePlaceOfAStandardStream) {
   folder.Write("a.dat", "abcd");
   const pid_t child = fork();
@@ -42,7 +43,8 @@ TEST_F(PlatformPosixTest, NoDataFileGetsThePlaceOfAStandardStream) {
   EXPECT_EQ(status, 0);
 }
 
-// Its folder is empty while it is open, and where the folder is not there, another one serves.
+// The folder of a scratch file is empty while the file is open. Another folder is used if TMPDIR
+// does not exist.
 TEST_F(PlatformPosixTest, AScratchFileHasNoName) {
   const char* before = std::getenv("TMPDIR");
   const std::string kept = before == nullptr ? "" : before;
@@ -96,7 +98,7 @@ TEST_F(PlatformPosixTest, StartsPrograms) {
   folder.Write("KVM.EXE", "#!/bin/sh\necho \"$1,$#\" > \"$0.out\"\n");
   platform.StartProgram(At("KVM.EXE"), "QB");
   EXPECT_EQ(platform.started(), std::vector<std::string>{At("KVM.EXE QB")});
-  EXPECT_EQ(wait(nullptr), -1);  // only noted, not started
+  EXPECT_EQ(wait(nullptr), -1);  // the platform only recorded it and started nothing
   EXPECT_EQ(ErrorOf([&] { real->StartProgram(At("none.exe"), ""); }), 53);
   EXPECT_EQ(ErrorOf([&] { real->StartProgram(At("kvm.exe"), ""); }), 75);
   chmod(folder.Path("KVM.EXE").c_str(), 0755);

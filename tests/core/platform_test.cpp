@@ -1,4 +1,4 @@
-// Tests what the platform must do on every system.
+// These tests check the behaviour that the platform has on every system.
 
 #include "support/change_pass.h"
 #include "support/files_test.h"
@@ -20,7 +20,7 @@ TEST_F(PlatformTest, AFileThatAnotherProgramHoldsIsError70) {
     }
   }
   files.Open(1, At("a.dat"), 3);
-  EXPECT_FALSE(HeldFile(folder.Path("a.dat")).held());  // and the program holds it against others
+  EXPECT_FALSE(HeldFile(folder.Path("a.dat")).held());  // the open file refuses an exclusive lock
   files.Close(1);
   EXPECT_TRUE(HeldFile(folder.Path("a.dat")).held());
 }

@@ -66,7 +66,7 @@ TEST_F(PlatformWindowsTest, TheLockGoesWithTheRun) {
   EXPECT_FALSE(folder.Exists("golf-transfer.lock"));
   EXPECT_EQ(child(), 7);
   EXPECT_FALSE(folder.Exists("golf-transfer.lock"));
-  folder.Write("golf-transfer.lock", "");  // left by a machine that lost its power
+  folder.Write("golf-transfer.lock", "");  // left over after a power failure
   EXPECT_NE(real->LockRun(At("")), nullptr);
   EXPECT_FALSE(folder.Exists("golf-transfer.lock"));
 }
@@ -87,7 +87,7 @@ TEST_F(PlatformWindowsTest, StartsPrograms) {
   EXPECT_EQ(folder.Read("KVM.EXE.out"), "QB,1");
 }
 
-// Changes a setting of the user and restores it at the end.
+// Changes a setting of the user. The destructor restores it.
 class Setting {
  public:
   explicit Setting(const wchar_t* name) : name_(name) {

@@ -19,7 +19,7 @@ struct Sample {
       CurrencyField("Money", 27),
       TextField("Name", 35, 4),
       Int16Field("Columns", 39).By(Dimension{1, 2}, Dimension{0, 3}),
-      // Entries of three bytes that follow each other.
+      // The entries have three bytes each and follow each other directly.
       ByteField("Rows", 51).By(Dimension{0, 3}).InEach(Dimension{1, 2}, 3),
       TextField("Lines", 57, 3).By(Dimension{-1, 2}),
       KeptBytes(63, 2),
@@ -27,8 +27,8 @@ struct Sample {
   static constexpr std::size_t kLength = 65;
 };
 
-// Sets a field in a record filled with a byte that no value here holds. Returns where and what
-// changed.
+// Fills a record with a byte that no value here contains, and sets a field. Returns the offset and
+// the content of the changed bytes.
 template <class Setter>
 std::pair<std::size_t, std::string> Changed(Setter setter) {
   Record<Sample> record;

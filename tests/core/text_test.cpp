@@ -17,7 +17,7 @@ TEST(Text, CaseOfTheLettersOfTheCodePage) {
   EXPECT_EQ(LowerCase(upper), lower);
   EXPECT_TRUE(EqualIgnoringCase(lower, upper));
   EXPECT_FALSE(EqualIgnoringCase("ab", "abc"));
-  EXPECT_LT(CompareIgnoringCase("Zoe", "\xE9va"), 0);  // by codes, not by the alphabet
+  EXPECT_LT(CompareIgnoringCase("Zoe", "\xE9va"), 0);  // compared by codes, not by the alphabet
   EXPECT_GT(CompareIgnoringCase("ab", "A"), 0);
   EXPECT_LT(CompareIgnoringCase("a", "_"), 0);  // compared as capitals
 }
@@ -78,11 +78,11 @@ TEST(Text, ReplaceText) {
       {"a\xE9-A\xC9", "A\xC9", "x", kExact, "a\xE9-x"},
       {"abc", "", "x", kExact, "abc"},
       {"none", "x", "axx", kExact, "none"},
-      // The search continues one character after the start of the last hit.
+      // The search continues one character after the start of the last match.
       {"aaaa", "a", "", kExact, "aa"},
       {"abab", "ab", "aba", kExact, "abaaba"},
       {"xaab", "ab", "b", kExact, "xab"},
-      {"abb", "ab", "xa", kExact, "xxa"},  // the replacement makes a hit together with what follows
+      {"abb", "ab", "xa", kExact, "xxa"},  // the replacement and the text after it match together
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ReplaceText(row.text, row.find, row.replace, row.mode), row.result) << row.text;
@@ -105,7 +105,7 @@ TEST(CodePage, ComesBackFromUtf8) {
       {"\u0081\u009D", "\x81\x9D"},
       {"a\u0142\u2192\u0905\U0001F3CC", "a????"},
       {"\u0080", "?"},  // that byte is the Euro sign
-      // Invalid UTF-8: a lone byte, a truncated sequence, and a sequence that is too long.
+      // These texts are invalid UTF-8: a single byte, a truncated sequence, and overlong sequences.
       {"caf\xE9 x\xE2\x82", "caf\xE9 x\xE2\x82"},
       {"\xE0\x80\xAF\xC0\xAF", "\xE0\x80\xAF\xC0\xAF"},
   };

@@ -1,8 +1,8 @@
-// Takes arbitrary bytes as a history file: reads it, lists it, recovers from it and undoes it. The
-// lowest bit of the first byte says what follows the second one: the file itself, or its portions
-// without checksums, which the target adds. The other bits of the first byte are the marks of such
-// a file. The second byte is the choice of the operator. A NumberedError is an answer; anything
-// else ends the program.
+// Uses arbitrary bytes as a history file. The target reads the file, lists it, recovers from it and
+// undoes it. If the lowest bit of the first byte is 0, the bytes after the second one are the whole
+// file. If it is 1, they are the portions of the file, and the target adds the header, the marks
+// and the checksums. The other bits of the first byte select these marks. The second byte selects
+// the operator's choice. A NumberedError is a valid result. Any other exception ends the program.
 
 #include <zlib.h>
 
@@ -25,7 +25,8 @@ void AppendFixed(std::string& to, std::size_t number) {
   for (int shift = 0; shift < 32; shift += 8) to += static_cast<char>(number >> shift);
 }
 
-// Each portion is its kind, its length in two bytes, and its bytes.
+// Makes a history file. A portion in `portions` consists of its kind, its length in two bytes, and
+// its bytes.
 std::string FileOf(std::string_view portions, unsigned marks) {
   std::string file = "Golf Transfer history 1\r\n";
   for (unsigned mark = 1; mark <= kMarks; ++mark) {

@@ -1,4 +1,4 @@
-// Runs the fuzz target over the files of a folder, without a fuzzer.
+// Runs the fuzz target on the files of a folder, without a fuzzer.
 
 #include <cstdint>
 #include <cstdio>
@@ -19,5 +19,5 @@ int main(int argc, char** argv) {
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
     ++count;
   }
-  return count == 0 ? 1 : 0;  // an empty corpus proves nothing
+  return count == 0 ? 1 : 0;  // an empty folder is an error
 }

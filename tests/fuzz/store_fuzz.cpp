@@ -1,7 +1,7 @@
-// Takes arbitrary bytes as each kind of file. The first byte picks the kind, and the others are the
-// file. All other files are those of a made-up club. The target shows the record, opens every
-// screen and presses its buttons, runs transfers, and calculates all results. A NumberedError is an
-// answer; anything else ends the program.
+// Uses arbitrary bytes as each kind of file. The first byte selects the kind, and the other bytes
+// are the file. All other files are those of a made-up club. The target shows the record, opens
+// every screen and presses its buttons, runs transfers, and calculates all results. A NumberedError
+// is a valid result. Any other exception ends the program.
 
 #include <cstdint>
 #include <cstdlib>
@@ -39,7 +39,7 @@ void Need(bool holds) {
   if (!holds) std::abort();
 }
 
-// Shows a record in the forms for people and for programs.
+// Shows a record in the form for people and in the form for programs.
 void ShowRecord(const LayoutInfo& layout, std::string_view record) {
   for (const Field& field : layout.fields) {
     PlainLines(field, record);
@@ -47,7 +47,7 @@ void ShowRecord(const LayoutInfo& layout, std::string_view record) {
   }
 }
 
-// Runs the timers, and chooses the first row of each list that has no choice.
+// Runs the timers, and selects the first row of each list that has no selection.
 void Choose(HeadlessHost& host, Screen& screen) {
   for (Control* control : screen.controls()) {
     if (auto* timer = dynamic_cast<Timer*>(control); timer != nullptr && timer->IsRunning()) {
@@ -60,8 +60,8 @@ void Choose(HeadlessHost& host, Screen& screen) {
   }
 }
 
-// Presses each button except the one that leaves, forwards and then backwards. On the way back, a
-// transfer starts with the files that were picked on the way forwards.
+// Presses each button except the one that closes the screen, first in forward order and then in
+// reverse order. In reverse order a transfer uses the files that were selected before.
 void WorkScreen(HeadlessHost& host, Screen& screen) {
   std::vector<Control*> controls = screen.controls();
   if (screen.name() != "TransferMenu") {
@@ -91,7 +91,7 @@ void WalkScreens(SharedState& state) {
   }
 }
 
-// Calls what no screen calls.
+// Calls the store functions that no screen calls.
 void WalkStores(SharedState& state) {
   state.InitSharedObjects();
   state.StoreDataPath = state.CourseDataPath = state.QBDataPath;

@@ -1,4 +1,4 @@
-// Compares the picks of balls with a second, step-by-step calculation.
+// These tests compare the selection of balls with a second, step-by-step calculation.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -16,7 +16,7 @@ struct Card {
   int strokes;
 };
 
-// One hole of one team, calculated in the order of the rules with flags and loops.
+// Calculates one hole of one team with flags and loops, in the order of the rules.
 struct PlainHole {
   std::vector<Card> cards;
   PlaceCodes places[2];

@@ -1,4 +1,4 @@
-// Compares rounds with a second, plain calculation from the records alone.
+// These tests compare calculated rounds with a second, plain calculation from the records alone.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -31,12 +31,12 @@ class Dice {
     return static_cast<std::int16_t>(
         low + static_cast<int>(random_() % static_cast<unsigned>(high - low + 1)));
   }
-  // Returns a usual number or, one time in `n`, an odd one.
+  // Returns a number from `low` to `high`, or with a probability of 1 in `n` one of `odd`.
   std::int16_t Mostly(int low, int high, int n, std::initializer_list<int> odd) {
     return random_() % static_cast<unsigned>(n) == 0 ? static_cast<std::int16_t>(Of(odd))
                                                      : From(low, high);
   }
-  // Returns a handicap in hundredths, in tenths, or in halves, where rounding rules differ.
+  // Returns a handicap in hundredths, tenths or halves. The rounding rules differ for these values.
   float Handicap() {
     const int steps = Of({100, 10, 2});
     return static_cast<float>(From(-9 * steps, 54 * steps)) / static_cast<float>(steps);
@@ -80,7 +80,7 @@ ScoredRound AnyRound(Dice& dice) {
     }
     any.entry.Set<"TourGroupTee">({round}, dice.From(0, 6));
     any.entry.Set<"TourIndex">({round}, dice.Handicap());
-    // A very large handicap shows the width of each step.
+    // A very large handicap shows the precision of each step.
     any.entry.Set<"TourGrossHandicap">({round}, dice.Handicap() * dice.Of({1.0F, 1.0F, 29999.0F}));
     any.entry.Set<"TourQuota">({round}, dice.Handicap());
     any.entry.Set<"TourScoreGrossTotal">({round}, dice.Mostly(60, 120, 5, {0, -1, 32767}));
@@ -95,7 +95,7 @@ ScoredRound AnyRound(Dice& dice) {
     }
     std::array<std::int16_t, kHoles> ranks{};
     std::iota(ranks.begin(), ranks.end(), std::int16_t{1});
-    const bool shared_ranks = dice.From(1, 3) == 1;  // 0 is none, 19 does not exist
+    const bool shared_ranks = dice.From(1, 3) == 1;  // 0 is no rank, and 19 is not valid
     for (std::int16_t& rank : ranks) rank = shared_ranks ? dice.From(0, 19) : rank;
     dice.Shuffle(ranks);
     for (int hole = 1; hole <= kHoles; ++hole) {
@@ -128,7 +128,7 @@ int Capped(int flag, float handicap, int par, int score) {
   return score == 0 ? 0 : std::min(score, maximum);
 }
 
-// Places 19 to 21 hold the sums.
+// Calculates a round in a plain way. Elements 19 to 21 of a table are the sums.
 struct PlainRound {
   PlainRound(const ScoredRound& all, int round);
 
@@ -214,7 +214,7 @@ void PlainRound::GiveStrokes(const ByHole<int>& rank, int given) {
   }
 }
 
-// The quota of any round uses the handicap of the active round.
+// Calculates the quota. The quota of any round uses the handicap of the active round.
 std::string QuotaText(const ScoredRound& all, int round) {
   const PlainRound active(all, all.control.Get<"ActiveRound">());
   const double from = all.control.Get<"PointQuotaFromHandicap">();
@@ -273,8 +273,8 @@ RC_GTEST_PROP(ScoringProperties, ARoundIsWhatPlainReckoningMakesIt, ()) {
     std::array<int, kRounds> rounds{};
     std::iota(rounds.begin(), rounds.end(), 1);
     dice.Shuffle(rounds);
-    // The quota of any round calculates the active round. Strokes and pars belong to the round that
-    // was calculated last.
+    // The quota of any round calculates the active round, so the active round is compared first.
+    // Strokes and pars belong to the round that was calculated last.
     const int active = all.control.Get<"ActiveRound">();
     std::swap(rounds[0], *std::find(rounds.begin(), rounds.end(), active));
     for (const int round : rounds) SameRound(player, all, round);
@@ -284,17 +284,17 @@ RC_GTEST_PROP(ScoringProperties, ARoundIsWhatPlainReckoningMakesIt, ()) {
 RC_GTEST_PROP(ScoringProperties, StrokeControlCapsAsPlainReckoningDoes, ()) {
   Dice dice(*rc::gen::arbitrary<unsigned>());
   ESCClass control;
-  ByHole<int> adjusted;  // kept under an unknown scheme
+  ByHole<int> adjusted;  // unchanged under an unknown scheme
   RC_ASSERT(ErrorOf([&] { control.SetHolePar(19, 4); }) == 9);
   RC_ASSERT(ErrorOf([&] { control.AdjGross(0); }) == 9);
   for (int times = 0; times < 50; ++times) {
     const int flag = dice.Of({0, 9, 18, 19, 28, 100, 119, 219, 319, 7});
     const float handicap = dice.Handicap();
-    const int custom = dice.From(0, 6);  // on a par 3; two more for each stroke of par
+    const int custom = dice.From(0, 6);  // the maximum on a par 3; two more for each stroke of par
     for (int i = 1; i <= 4; ++i) control.SetCustomMax(i, custom + 2 * i - 2);
     control.Setflag(flag);
     control.SetHandicap(handicap);
-    // The allowance over par is one stroke less after so many capped holes.
+    // The allowance over par is one stroke less after `holes` capped holes.
     int over = handicap <= 0 ? 1 : handicap <= 9 ? 2 : handicap <= 18 ? 3 : 4;
     int holes = handicap <= 0   ? 0
                 : handicap > 27 ? 9

@@ -1,4 +1,4 @@
-// Tests what must hold for every record, not only for those of the tables.
+// These tests check properties of every possible record, with random bytes.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -25,8 +25,8 @@ std::string AnyBytes(std::size_t size) {
   return bytes;
 }
 
-// A setter of any form and the field that it sets. The setter takes the indexes first, then the
-// value.
+// Holds a setter of any signature and the name of the field that it sets. The parameters of the
+// setter are the indexes and then the value.
 template <class Object>
 struct Setter {
   template <class... Arguments>
@@ -63,8 +63,8 @@ class StoreProperties : public testing::Test {
     program.OpenMasterFile();
   }
 
-  // A random record comes back unchanged. Each setter changes only the bytes of its own, random
-  // element.
+  // Checks that a random record is unchanged after it was read and saved. Then checks that each
+  // setter changes only the bytes of its own element, whose indexes are random.
   template <class Layout, class Object>
   void TouchesItsElementOnly(Object& object, const std::vector<Setter<Object>>& setters,
                              std::string file, const std::function<void()>& load,
@@ -72,7 +72,7 @@ class StoreProperties : public testing::Test {
     std::string& bytes = memory.Bytes("qbdata/" + file);
     bytes = AnyBytes(Layout::kLength);
     state.files.Synchronize();
-    if (file == "X0001.Q9C") bytes.replace(966, 4, "2005");  // others are brought up to date
+    if (file == "X0001.Q9C") bytes.replace(966, 4, "2005");  // reading changes other versions
     const std::string before = bytes;
     for (const auto& setter : setters) {
       const auto field = std::find_if(Layout::kFields.begin(), Layout::kFields.end(),

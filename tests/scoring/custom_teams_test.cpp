@@ -1,4 +1,5 @@
-// Tests of report layouts: their files, their builder, and the ranking of teams under them.
+// These tests cover report layouts: their files, their builder, and the ranking of teams under
+// them.
 
 #include <numeric>
 
@@ -18,7 +19,7 @@ class CustomTeamsTest : public QuenbyTest {
     program.SaveMasterRecord();
   }
 
-  // Opens the builder and works on it once its timer has fired.
+  // Opens the builder and calls `work` after its timer has fired.
   void Build(const std::string& name, const std::function<void(XReportsCustomTeamResults&)>& work) {
     install.events().clear();
     install.host->drive = [&](Screen& screen) {
@@ -96,7 +97,7 @@ TEST_F(CustomTeamsTest, LayoutsThatAreOutOfTheOrdinary) {
   };
   const struct {
     std::string bytes;
-    const char* told;  // by the builder, before it closes
+    const char* told;  // a text that the builder shows before it closes
   } kCases[] = {
       {good, "Cancel?"},
       {good.substr(0, 400), "lacks the end of a text."},
@@ -155,7 +156,7 @@ TEST_F(CustomTeamsTest, StylesOfSelection) {
 
 TEST_F(CustomTeamsTest, RanksTeams) {
   ReportLayout layout;
-  layout.At(18, 0) = {"10", "L1", "NONE"};  // of the golfers 1 and 10
+  layout.At(18, 0) = {"10", "L1", "NONE"};  // golfers 1 and 10
   layout.At(19, 0) = {"10", "L12", "NONE"};
   CustomBalls balls(layout);
   const int scores[] = {5, 0, 4, 5, 6};  // on hole 18; the second team has not played

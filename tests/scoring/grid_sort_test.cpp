@@ -9,7 +9,7 @@ namespace {
 using Rows = std::vector<std::vector<std::string>>;
 constexpr SortOrder kDown = SortOrder::kDescending;
 
-// Fills the columns from 1 on.
+// Fills the columns, starting with column 1.
 void Fill(Grid& grid, const Rows& rows) {
   grid.SetRows(static_cast<int>(rows.size()));
   for (std::size_t r = 0; r < rows.size(); ++r) {

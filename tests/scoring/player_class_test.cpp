@@ -113,7 +113,7 @@ TEST_F(PlayerClassTest, TotalsOnly) {
   EXPECT_EQ(player.TourScoreGross(19), TextOrNumber("0"));
   EXPECT_EQ(player.TourScoreGross(21), TextOrNumber("95"));
   EXPECT_EQ(player.TourGrossTotalTiebreakUSGA(), "095,000,000,00,00");
-  EXPECT_TRUE(player.TourNetTotalTiebreak1to18().starts_with("082,00,"));  // a tie, to even
+  EXPECT_TRUE(player.TourNetTotalTiebreak1to18().starts_with("082,00,"));  // 82.5, to even
   EXPECT_EQ(player.TourPointsNet(21) + player.TourPBEStatsGross(1, 21), "00");
 }
 
@@ -131,12 +131,12 @@ TEST_F(PlayerClassTest, TotalsOverRounds) {
   scored.entry.Fill<"TourGrossHandicap">(12.5);
   scored.entry.Fill<"TourQuota">(20.5);
   PlayerClass& player = Load();
-  EXPECT_EQ(player.TourTotalGross() + player.TourTotalNet(), "270233");  // 232.5, away from zero
+  EXPECT_EQ(player.TourTotalGross() + player.TourTotalNet(), "270233");  // 232.5 is rounded up
   EXPECT_EQ(player.TourTotalNet(2, 3) + player.TourTotalNet(3), "15578");
-  EXPECT_EQ(player.TourTotalGross({}, 1), "270");  // without a start the end is ignored
+  EXPECT_EQ(player.TourTotalGross({}, 1), "270");  // the end is ignored without a start
   EXPECT_EQ(player.TourTotalQuotaResults() + player.TourTotalPutts(), "-7.5090");
   EXPECT_EQ(player.TourTotalFairways() + player.TourTotalGreens(2), "2110");
-  EXPECT_EQ(player.TourTotalEarnings(), "30.03");  // each counts in whole cents
+  EXPECT_EQ(player.TourTotalEarnings(), "30.03");  // each amount counts in whole cents
   EXPECT_EQ(player.TourTotalGross(3, 2), "0");
   EXPECT_EQ(ErrorOf([&] { player.TourTotalGross(7, 8); }), 9);
 }
@@ -149,7 +149,7 @@ TEST_F(PlayerClassTest, ARoundIsWorkedOutOnceForEachRead) {
   EXPECT_EQ(StrokesOf(player, 1), 12);
   player.SetTourGrossHandicap(1, 5);
   EXPECT_EQ(player.TourHandicap(), "12");
-  // The quota of round 2 comes from round 1, while its strokes stay those of the round before.
+  // The quota of round 2 is based on round 1. TourQuota does not change the strokes of round 1.
   EXPECT_EQ(player.TourQuota(false, 2), "24");
   player.TourHandicap(2);
   EXPECT_EQ(StrokesOf(player, 1), 3);
@@ -159,7 +159,7 @@ TEST_F(PlayerClassTest, ARoundIsWorkedOutOnceForEachRead) {
 
 TEST_F(PlayerClassTest, AnErrorLeavesTheRoundToBeWorkedOut) {
   scored.PlayInTurn(1, 18);
-  scored.entry.Set<"TourGroupTee">({1}, 9);  // mended to 1
+  scored.entry.Set<"TourGroupTee">({1}, 9);  // corrected to 1
   scored.control.Set<"TeeNumberPlayed">({0, 1, 1}, 0);
   PlayerClass& player = Load();
   for (int time = 1; time <= 2; ++time) EXPECT_EQ(ErrorOf([&] { player.TourScoreNet(21); }), 9);
@@ -189,7 +189,7 @@ TEST_F(PlayerClassTest, CoursesAreReadOnceUntilTheyChange) {
   state.SpareCourse().SetHolePar(1, 18, 5);
   state.SpareCourse().SaveRecord(1);
   EXPECT_EQ(recalculated(), 5);
-  scored.course.Set<"HolePar">({1, 18}, 3);  // by another program; seen at the next click
+  scored.course.Set<"HolePar">({1, 18}, 3);  // by another program; visible after the next click
   install.folder.Write("qbdata/qbcrs.dat", scored.course.Bytes());
   state.files.Synchronize();
   EXPECT_EQ(recalculated(), 3);
@@ -218,7 +218,7 @@ TEST_F(PlayerClassTest, StatisticsOfATournament) {
   player.SetTourScoreGross(1, 1, 8);
   player.SaveRecord(3, true);
   player.SetTourRosterRecordPointer(0);
-  player.SaveRecord(2, true);  // free, and so not counted
+  player.SaveRecord(2, true);  // a free entry, which is not counted
   TournamentClass& tournament = install.state().Tournament();
   tournament.CalculateTotals();
   EXPECT_EQ(tournament.ScoreTotalGross(1), 13);

@@ -7,8 +7,8 @@
 namespace golf {
 namespace {
 
-// A team of tournament 1. Its golfers are named A, B, C ... and have these scores on holes 1, 2,
-// ...
+// Makes a team of tournament 1. Its golfers are named A, B, C and so on. `scores` contains their
+// scores on holes 1, 2, 3 and so on.
 class TeamClassTest : public testing::Test {
  protected:
   struct Golfer {
@@ -41,7 +41,7 @@ class TeamClassTest : public testing::Test {
     player.TourBlankPlayerRecord();
     const auto last = static_cast<std::int32_t>(golfers.size()) + 1;
     for (std::int32_t record = player.TourFileLength(); record > last; --record) {
-      player.SaveRecord(record, true);  // an entry of the load before
+      player.SaveRecord(record, true);  // an entry of the previous load
     }
     TeamClass& team = install.state().Team1();
     team.BlankTeamRecord();
@@ -66,7 +66,8 @@ TEST_F(TeamClassTest, BestBallsOfAHole) {
       {{{{0}}, {{0}}, {{5}}}, 2, "5", "5", "1", "5"},
       {{}, 1, "0", "0", "0", "0"},
       {{{{1000}}, {{9}}}, 2, "9", "9", "0", "1009"},
-      // The second golfer has the lowest gross score and, with a stroke, the lowest net score.
+      // The second golfer has the lowest gross score. A stroke also gives this golfer the lowest
+      // net score.
       {{{{5}}, {{4}, 18}, {{6}, 36}}, 1, "4", "3", "2", "8"},
       {std::vector<Golfer>(10, {{5}}), 12, "50", "50", "10", "10"},
       {{{{4}}, {{3}, 0, 2}}, 1, "4", "4", "2", "4"},
@@ -105,7 +106,7 @@ TEST_F(TeamClassTest, SumsAndHandicaps) {
     EXPECT_EQ(team.Quota(), c.quota);
     EXPECT_EQ(team.ScoreGross(21), 15);
     EXPECT_EQ(team.ScoreNet(1), 9);
-    EXPECT_EQ(team.ScoreNet(21), c.decimals ? 10 : 12);  // a net score below 0 has a plus
+    EXPECT_EQ(team.ScoreNet(21), c.decimals ? 10 : 12);  // a net score below 0 has a plus sign
     EXPECT_EQ(team.PointsNet(19), 2 + 1 + 4);
     EXPECT_EQ(team.Results().first_scorer, 2);
   }

@@ -124,7 +124,8 @@ TEST_F(CourseTest, RebuildSortsAndLeavesWhatLiesBehind) {
   EXPECT_EQ(course().Course9Name(0),
             ".(Rating\\Slope)   9 Hole away course" + std::string(38, ' ') + "00000 ");
   EXPECT_EQ(ErrorOf([&] { course().Course9Name(3); }), 9);
-  // What the lists read last stays: the last entry of the nine-hole list.
+  // The current record and Index are those that the lists read last, from the last entry of the
+  // nine-hole list.
   EXPECT_EQ(course().Name(), "\xE9toile");
   EXPECT_EQ(course().Index(), 2);
 }

@@ -19,7 +19,7 @@ class KelvaneTest : public testing::Test {
     state.Now = [] { return kNow; };
   }
 
-  // Sets a history with these dates, the newest first, and the course numbers 1, 2, ...
+  // Sets a history with these dates, newest first. The course numbers are 1, 2, 3 and so on.
   void SetHistory(const std::vector<double>& dates) {
     buffers.history = {};
     for (int i = 1; i <= static_cast<int>(dates.size()); ++i) {
@@ -109,7 +109,7 @@ TEST_F(KelvaneTest, SystemFileOfAnotherVersionIsRewritten) {
     LoadKVSystemFile(state);
     EXPECT_EQ(install.folder.Read("kvsystem.fil"), after);
     EXPECT_EQ(buffers.system.Bytes(), after.substr(0, 733));
-    EXPECT_EQ(ErrorOf([&] { state.files.Length(20); }), 0);  // it stays open
+    EXPECT_EQ(ErrorOf([&] { state.files.Length(20); }), 0);  // the file stays open
   }
 }
 
@@ -119,7 +119,7 @@ TEST_F(KelvaneTest, OpeningARoster) {
   state.files.Open(201, state.KVDataPath + "other", 1);
   const std::size_t changes = install.platform->changes().size();
   EXPECT_FALSE(OpenKVRoster(state, "Clubs"));
-  EXPECT_EQ(state.files.Length(1), 0);  // still the other file
+  EXPECT_EQ(state.files.Length(1), 0);  // number 1 is still the other file
   EXPECT_EQ(install.platform->changes().size(), changes);
   EXPECT_TRUE(OpenKVRoster(state, "CLUB"));
   EXPECT_EQ(state.files.Length(1), 4);
@@ -142,7 +142,7 @@ TEST_F(KelvaneTest, AddingAScore) {
     Ints courses;  // 99 is the added score
   } rows[] = {{{}, 5, {99, 0}},
               {{30, 20, 10}, 40, {99, 1, 2, 3, 0}},
-              {{30, 20, 10}, 30, {99, 1, 2, 3, 0}},  // before the equal date
+              {{30, 20, 10}, 30, {99, 1, 2, 3, 0}},  // before the entry with the same date
               {{30, 20, 10}, 25, {1, 99, 2, 3, 0}},
               {{30, 20, 20, 10}, 20, {1, 99, 2, 3, 4, 0}},
               {{30, 20, 10}, 5, {1, 2, 3, 99, 0}},
@@ -193,14 +193,14 @@ TEST_F(KelvaneTest, CountersGoByTheDatesOfTheHeader) {
 TEST_F(KelvaneTest, RepositioningAnEntry) {
   const struct {
     int place;
-    double date;  // of the entry at that place; the dates are 50 40 30 20 10
+    double date;  // of the entry at `place`; the other dates are 50 40 30 20 10
     int counter;
     Ints courses;
   } rows[] = {{1, 25, 5, {2, 3, 1, 4, 5}},  {1, 5, 5, {2, 3, 4, 5, 1}},
               {1, 45, 5, {1, 2, 3, 4, 5}},  {1, 40, 5, {1, 2, 3, 4, 5}},
               {5, 45, 5, {1, 5, 2, 3, 4}},  {5, 60, 5, {5, 1, 2, 3, 4}},
               {3, 40, 5, {1, 3, 2, 4, 5}},  {3, 20, 5, {1, 2, 3, 4, 5}},
-              {3, 15, 5, {1, 2, 4, 3, 5}},  {1, 5, 3, {2, 3, 1, 4, 5}},  // not all are counted
+              {3, 15, 5, {1, 2, 4, 3, 5}},  {1, 5, 3, {2, 3, 1, 4, 5}},  // some do not count
               {5, 5, 3, {1, 2, 3, 5, 4}},   {4, 5, 0, {4, 1, 2, 3, 5}},
               {4, 60, -1, {1, 2, 3, 4, 5}}, {5, 60, 400, {5, 1, 2, 3, 4}}};
   for (const auto& row : rows) {

@@ -6,7 +6,7 @@
 namespace golf {
 namespace {
 
-// Tournament 12 with two rounds and ten teams, and twelve golfers in the roster file.
+// Makes tournament 12 with two rounds and ten teams, and a roster file with twelve golfers.
 class EntriesTest : public QuenbyTest {
  protected:
   EntriesTest() {
@@ -22,7 +22,8 @@ class EntriesTest : public QuenbyTest {
     player.TourOpenTournamentFile(12);
   }
 
-  // Returns an entry of golfer `pointer` with his team and his place there by round.
+  // Returns an entry of the golfer in record `pointer`, with the golfer's team and position by
+  // round.
   std::string Entry(int pointer, std::initializer_list<int> teams = {},
                     std::initializer_list<int> places = {}) {
     std::string entry(3052, '\0');
@@ -96,18 +97,18 @@ TEST_F(EntriesTest, CountingAndFreeEntries) {
   EXPECT_EQ(player.TourFindAvailableRecordInFile(1), 3);
   player.TourDeleteTournamentFile(12);
   EXPECT_FALSE(install.folder.Exists("qbdata/X0012.Q9G"));
-  player.TourDeleteTournamentFile(12);  // its error is ignored
+  player.TourDeleteTournamentFile(12);  // the error is ignored
   EXPECT_EQ(ErrorOf([&] { player.TourFileLength(); }), 52);
 }
 
-// In round 1 the records 1, 3, 4, 5 have the keys 2001, 1, 1002, 1001; team 12 counts as none. In
-// round 2 they have 1001, 1001, 5, 2001: the exchange over two places carries record 1 behind
-// record 3.
+// In round 1 the records 1, 3, 4 and 5 have the keys 2001, 1, 1002 and 1001, since team 12 counts
+// as no team. In round 2 they have the keys 1001, 1001, 5 and 2001. The exchange over two places
+// then moves record 1 after record 3.
 TEST_F(EntriesTest, IndexByTeam) {
   WriteSix();
   std::string expected = Read("X0012.Q9G");
   Put16(expected, 2 * 3052 + 2, {0});
-  EXPECT_EQ(ErrorOf([&] { player.TourIndexPlayerbyTeam(1, 1); }), 9);  // there is no index yet
+  EXPECT_EQ(ErrorOf([&] { player.TourIndexPlayerbyTeam(1, 1); }), 9);  // no index exists yet
   EXPECT_EQ(player.TourIndexNumberofPlayersInIndex(), 4);
   EXPECT_EQ(Read("X0012.Q9G"), expected);
   const struct {
@@ -271,7 +272,7 @@ TEST_F(TeamsTest, NamedByTheirPlayers) {
   EXPECT_EQ(name_of(3), "Stored");
   tournament.SetActiveRound(2);
   EXPECT_EQ(name_of(1), "Last11, Last10");
-  // A golfer without a last name keeps a place in the row.
+  // A golfer without a last name still adds a separator.
   player.GetRecord(11, false);
   player.SetNameLast("");
   player.SaveRecord();

@@ -175,7 +175,7 @@ TEST_F(RosterPlayersTest, RosterNames) {
               {{256, -1, 0, 0}, 2, "(Not in another roster)" + none},
               {{2, 0, 0, 0}, 1, "Club 2" + far + "002"},
               {{0, 0, 0, 3}, 4, "Club 3" + far + "003"},
-              {{255, 0, 0, 0}, 1, "Club 3" + far + "255"}};  // not in the list: the name read last
+              {{255, 0, 0, 0}, 1, "Club 3" + far + "255"}};  // not in the list: name read last
   for (const auto& row : rows) {
     LoadWith16(8, row.slots);
     EXPECT_EQ(player.RosterNames(row.which), row.text);

@@ -88,7 +88,7 @@ TEST_F(TournamentTest, DatesOfRounds) {
     tournament.SetDateofRound(7, date);
     EXPECT_EQ(tournament.DateofRound(7), text) << date;
   }
-  for (const OptionalRound round : {OptionalRound(), OptionalRound(8)}) {  // the active one is 0
+  for (const OptionalRound round : {OptionalRound(), OptionalRound(8)}) {  // the active round is 0
     EXPECT_EQ(tournament.DateofRound(round), "");
   }
 }
@@ -106,11 +106,11 @@ TEST_F(TournamentTest, RecordOfAnOlderReleaseIsBroughtUpToDateInTheBuffer) {
   current.replace(966, 4, "2005");
   Load(current);
   EXPECT_EQ(Saved(), current);
-  Load("");  // keeps the buffer
+  Load("");  // the buffer is unchanged
   EXPECT_EQ(Saved(), current);
 }
 
-// Returns what CreateBlankTournament must make of a buffer.
+// Returns the control record that CreateBlankTournament must make of `record`.
 std::string BlankControl(std::string record) {
   PutText(record, 0, 50);
   Put16(record, 50, {1, 10, 4, 4, 4, 1, 1, 18, 0, 0, 0, 0, 1});
@@ -204,7 +204,7 @@ TEST_F(ProgramTest, OpeningTheMasterFileAgainWritesTheBufferBack) {
   EXPECT_TRUE(program.OpenMasterFile());
   program.SetActiveRoster(3);
   program.SetRosterColumnSortedHow(1, true);
-  program.GetMasterRecord();  // of an empty file
+  program.GetMasterRecord();  // the file is empty
   EXPECT_EQ(program.ActiveRoster(), 3);
   EXPECT_EQ(Read("QBMASTER.Q9D"), "");
   EXPECT_TRUE(program.OpenMasterFile());

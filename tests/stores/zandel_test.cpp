@@ -30,7 +30,7 @@ TEST_F(ZandelTest, TheListOfLeaguesClosesAllFiles) {
 }
 
 TEST_F(ZandelTest, BatchesOfScores) {
-  std::string events(4 * 222 - 1, '\0');  // the last one is torn, and the fifth does not exist
+  std::string events(4 * 222 - 1, '\0');  // event 4 is incomplete, and event 5 does not exist
   Put<float>(events, 2, {45432});
   Put<float>(events, 222 + 2, {1e30f});
   install.folder.Write("zddata/00011.ZE8", events);

@@ -12,10 +12,10 @@ TEST(CommonBeginningTest, TheLastOfTheLongest) {
     int chosen;
   } kCases[] = {
       {{"Away", "Elm", "Elm Hill", "Oak"}, "elm hills", 2},
-      {{"Away", "ELM", "Elm Hill", "Oak"}, "Elm", 2},  // both are equally long: the last one
+      {{"Away", "ELM", "Elm Hill", "Oak"}, "Elm", 2},  // both have the same length: the last item
       {{"Away", "Elm Hill", "Elk", "Oak"}, "Elm", 1},
       {{"Away", "Elm", "Oak"}, "Ohio", 2},  // one letter is enough
-      {{"Away", "Elm", "Oak"}, "Pine", 0},  // no item begins so: the first one
+      {{"Away", "Elm", "Oak"}, "Pine", 0},  // no item begins like this: the first item
       {{"Oak", "Elm", ""}, "", 0},
       {{}, "Elm", 0},
   };

@@ -1,10 +1,11 @@
-// A program for the tests to start.
+// The tests start this program.
 //
 //   golf_child forms        shows how this system writes dates and times
-//   golf_child lock FOLDER  takes the lock of a run and ends without releasing it
+//   golf_child lock FOLDER  locks a folder for a run and ends without releasing the lock
 //
-// Under any other name, or with any other arguments, it stands in for a sibling: it leaves a file
-// beside itself that holds the first argument and the number of arguments.
+// If it has any other name or any other arguments, it replaces one of the other golf programs in a
+// test. It then writes a file next to itself that contains the first argument and the number of
+// arguments.
 
 #include <windows.h>
 
@@ -36,7 +37,7 @@ int LeaveFile(const std::string& program, const std::string& first, int count) {
   if (file == nullptr) return 1;
   std::fprintf(file, "%s,%d", first.c_str(), count);
   std::fclose(file);
-  fs::rename(program + ".new", program + ".out");  // the file is whole once it exists
+  fs::rename(program + ".new", program + ".out");  // the file is complete as soon as it exists
   return 0;
 }
 

@@ -1,8 +1,8 @@
-// golf_operator PROGRAM INSTALL [HELD]: an operator at the desktop program. It starts the program
-// as Quenby would, opens the course transfer from the menu, runs it, prints its box as the command
-// line prints it, and leaves by the menu's Close. It presses the real buttons of the real windows.
-// It holds the file HELD against the program until the box has come. It ends with the program's
-// exit code.
+// golf_operator PROGRAM INSTALL [HELD] acts as an operator of the desktop program. It starts the
+// program in the same way as Quenby, opens the course transfer from the menu, and runs the
+// transfer. It prints the box of the transfer in the form of the command line, and closes the menu.
+// It presses the buttons of the program's windows. It keeps the file HELD open with an exclusive
+// lock until it ends itself. It returns the exit code of the program.
 
 #include <windows.h>
 
@@ -31,7 +31,7 @@ std::string ClassOf(HWND window) {
   return name;
 }
 
-// Returns the caption of a button without the mark of its key and blanks at its end.
+// Returns the caption of a button without the "&" of its access key and without blanks at its end.
 std::string CaptionOf(HWND button) {
   std::string caption = TextOf(button);
   caption.erase(std::remove(caption.begin(), caption.end(), '&'), caption.end());
@@ -62,7 +62,7 @@ class Operator {
   }
   Operator(const Operator&) = delete;
   Operator& operator=(const Operator&) = delete;
-  // Ends a program that is still running, which means that it has failed.
+  // Ends the program if it is still running, which means that the test has failed.
   ~Operator() { TerminateProcess(program_.hProcess, 99); }
 
   // Waits for the window of the program with this title.
@@ -72,7 +72,7 @@ class Operator {
     return found;
   }
 
-  // Presses a button once it is enabled.
+  // Presses a button as soon as it is enabled.
   void Press(const std::string& title, const std::string& caption) {
     HWND button = nullptr;
     Until(title + ": " + caption, [&] {

@@ -10,23 +10,24 @@
 
 namespace golf {
 
-// The balls of teams as tables, for reports that count them by a layout. A table has five blocks of
-// 18 holes, one block a round. Hole 19 is the first hole of the second block. A block has 22
-// columns: the 18 holes and four sums.
+// These tables contain the balls of teams. A ball is the score of one golfer on one hole. Reports
+// count the balls by a layout. A table has five blocks, one for each round. A block has 22 columns,
+// which are 18 holes and four sums. Holes are numbered from 1 to 90, so hole 19 is the first hole
+// of the second block.
 
 inline constexpr int kBlocks = 5;
 inline constexpr int kBlockWidth = 22;
 inline constexpr int kTableColumns = kBlocks * kBlockWidth;
 inline constexpr int kSumsOfBlock = 4;
 
-// Returns the column of a hole 1 to 90, or 0 for any other.
+// Returns the column of a hole 1 to 90, or 0 for any other hole.
 constexpr int HoleColumn(int hole) {
   if (hole < 1 || hole > kLayoutHoles) return 0;
   const int in_block = (hole - 1) % kHoles + 1;
   return (hole - 1) / kHoles * kBlockWidth + in_block + (in_block > 9 ? 1 : 0);
 }
 // Returns the column of a sum of a block. `sum` is 1 for the first nine, 2 for the second nine, 3
-// for the total and 4 for the running total of all blocks so far.
+// for the total of the block, and 4 for the running total of the blocks up to this one.
 constexpr int SumColumn(int block, int sum) {
   constexpr int kInBlock[] = {10, 20, 21, 22};
   return (block - 1) * kBlockWidth + kInBlock[sum - 1];
@@ -36,7 +37,7 @@ enum class BallTable { kGross, kNet, kGrossPoints, kNetPoints };
 inline constexpr BallTable kBallTables[] = {BallTable::kGross, BallTable::kNet,
                                             BallTable::kGrossPoints, BallTable::kNetPoints};
 
-// How a ball may be used. The values are the colours of a sheet.
+// Defines how a ball may be used. The values are the colours of the cells on the screen.
 enum class BallMark : std::int32_t {
   kNone = 0xFFFFFF,
   kGross = 65280,
@@ -45,13 +46,13 @@ enum class BallMark : std::int32_t {
 };
 
 struct Ball {
-  std::optional<std::int32_t> value;  // strokes or points; none for a hole not played
+  std::optional<std::int32_t> value;  // in strokes or points; no value if the hole was not played
   BallMark mark = BallMark::kNone;
   bool selected = false;
 };
 
-// The four tables of one team: a row for each of ten golfers and a row of sums. Error 9 for a
-// golfer outside 1 to 10 or a column outside 1 to 110.
+// Holds the four tables of one team. A table has a row for each of ten golfers and a row of sums.
+// An access raises error 9 for a golfer outside 1 to 10 or a column outside 1 to 110.
 class TeamBalls {
  public:
   using Sum = std::optional<std::int32_t>;  // no value if no ball counted
@@ -67,7 +68,7 @@ class TeamBalls {
     return sums_[static_cast<int>(table)][column];
   }
 
-  // Return the gross and the net sum together, of scores and of points.
+  // Return the gross sum plus the net sum, of scores and of points.
   Sum Score(int column) const;
   Sum Points(int column) const;
 
@@ -76,8 +77,8 @@ class TeamBalls {
   Indexed<Indexed<Sum, 1, kTableColumns>, 0, 3> sums_;
 };
 
-// Adds two sums. A sum without a value counts as 0; two of them give no value. Error 6 if the
-// result does not fit.
+// Adds two sums. A sum without a value counts as 0. The result has no value if both sums have none.
+// Raises error 6 if the result does not fit.
 TeamBalls::Sum AddSums(const TeamBalls::Sum& a, const TeamBalls::Sum& b);
 
 }  // namespace golf

@@ -13,14 +13,14 @@
 namespace golf {
 namespace {
 
-// A low ball must be below this value, a high ball above its negative.
+// A low ball must be below this value, and a high ball must be above its negative.
 constexpr std::int32_t kNoBall = 1000;
 
-// A parsed code of a layout: L the `count` low balls, H the `count` high balls, X the ball of the
-// number `count`.
+// Holds a parsed code of a layout. The letter L selects the `count` lowest balls, H the `count`
+// highest balls, and X only the ball with the number `count` in ascending order.
 struct BallCode {
   char letter = 'N';
-  int count = 0;  // 0 for any other code
+  int count = 0;  // 0 for an invalid code
 };
 
 BallCode ParseBallCode(std::string_view code) {
@@ -50,8 +50,8 @@ bool Allows(BallMark mark, Kind kind) {
          mark == (kind == Kind::kGross ? BallMark::kGross : BallMark::kNet);
 }
 
-// Returns true if a golfer's balls of a kind may count on a hole: a place that uses such balls
-// lists him.
+// Returns true if a golfer's balls of a kind may count on a hole. This is so if a place that uses
+// such balls lists the golfer.
 bool IsConsidered(const ReportLayout& layout, int hole, Kind kind, int golfer) {
   for (int place = 0; place < kLayoutPlaces; ++place) {
     const PlaceCodes& codes = layout.At(hole, place);
@@ -85,8 +85,8 @@ class HolePicker {
   HolePicker(TeamBalls& team, const ReportLayout& layout, int hole)
       : team_(team), layout_(layout), hole_(hole), column_(HoleColumn(hole)) {}
 
-  // Clears the former selection, selects the balls of both kinds in this order and returns their
-  // sum. A golfer whose ball of one kind is used cannot count with the other kind, unless
+  // Clears the previous selection, selects the balls of both kinds in this order, and returns their
+  // sum. A golfer whose ball of one kind is selected cannot count with the other kind, unless
   // `same_ball` is true.
   std::int32_t Pick(const Order& order, bool same_ball) {
     ClearPicks();
@@ -116,7 +116,7 @@ class HolePicker {
       const int golfer = BestGolfer(kind, code.letter);
       if (golfer == 0) break;
       Used(golfer) = true;
-      // For a numbered ball, the better balls do not count, but their golfers are used.
+      // The balls before a numbered ball do not count, but their golfers are used up.
       if (code.letter == 'X' && pick != code.count) continue;
       Ball& ball = team_.At(ScoresOf(kind), golfer, column_);
       ball.selected = team_.At(PointsOf(kind), golfer, column_).selected = true;
@@ -125,8 +125,9 @@ class HolePicker {
     return sum;
   }
 
-  // Returns the golfer with the best ball, or 0 if there is none. The best ball is the highest for
-  // the letter H, else the lowest. Among equal balls the first golfer's is the best.
+  // Returns the golfer with the best ball, or 0 if there is none. The best ball is the highest if
+  // the letter is H, and otherwise the lowest. The first golfer's ball is the best if balls are
+  // equal.
   int BestGolfer(Kind kind, char letter) {
     int best = 0;
     for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
@@ -138,8 +139,8 @@ class HolePicker {
     return best;
   }
 
-  // Equal net balls are compared by handicap strokes: fewer are better for a low ball, more for a
-  // high one. Equal numbered balls are not compared further.
+  // Compares equal net balls by handicap strokes. A low ball is better with fewer strokes, a high
+  // ball with more strokes. Does not compare equal numbered balls further.
   bool IsBetter(Kind kind, char letter, int golfer, int than) {
     const std::int32_t value = *team_.At(ScoresOf(kind), golfer, column_).value;
     const std::int32_t other = *team_.At(ScoresOf(kind), than, column_).value;
@@ -225,7 +226,7 @@ void CustomBalls::XBallConsiderWhichScores(bool points, const HoleSpan& holes) {
   });
 }
 
-// Marks the balls of a golfer's position in all teams.
+// Marks the balls of one golfer number in all teams.
 void CustomBalls::MarkBalls(bool points, int hole, int golfer, BallMark mark) {
   const int column = HoleColumn(hole);
   for (TeamBalls& team : teams_) {
@@ -291,14 +292,14 @@ void CustomBalls::XBallSortTeamStandings(const RankingOrder& order, int position
   }
 }
 
-// Teams that tie stay in their order.
+// Teams with equal results keep their order.
 void CustomBalls::RankTeams(const RankingOrder& order, int position_option,
                             const std::vector<std::string>& flights, int block, int sum) {
-  constexpr int kDense = 1;  // the tournament's PositionOption for places 1, 2, 2, 3
+  constexpr int kDense = 1;  // the PositionOption of the tournament for places 1, 2, 2, 3
   struct Row {
     std::string flight;
     TeamBalls::Sum result;
-    std::size_t team;  // from 0
+    std::size_t team;  // counted from 0
   };
   const int column = SumColumn(block, sum);
   std::vector<Row> rows;

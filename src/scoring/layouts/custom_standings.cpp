@@ -59,7 +59,8 @@ void CustomStandings::FillTiebreaks(std::vector<CustomStanding>& standings) cons
   try {
     stroke_order = state_.Team1().HolesByStrokes();
   } catch (const NumberedError&) {
-    // A round without a tee has no stroke order. The teams are ranked all the same.
+    // A round without a tee has no stroke order. This error is ignored, so that the teams are still
+    // ranked.
   }
   for (std::size_t i = 0; i < standings.size(); ++i) {
     standings[i].tiebreaks =

@@ -8,8 +8,8 @@
 
 namespace golf {
 
-// The standing of a team under a layout. Sums and places are by block and column. There are as many
-// blocks as the tournament has rounds.
+// Contains the standing of a team under a layout. Sums and places are stored by block and column.
+// The number of blocks is the number of rounds of the tournament.
 struct CustomStanding {
   using Sums = std::vector<std::array<TeamBalls::Sum, kSumsOfBlock>>;
   using Places = std::vector<std::array<int, kSumsOfBlock>>;
@@ -22,7 +22,7 @@ struct CustomStanding {
   Sums Points;
   Places Positions;
   Places PointsPositions;
-  std::array<std::string, 4> tiebreaks;  // of the active round, as CustomBalls::TiebreakKeys
+  std::array<std::string, 4> tiebreaks;  // CustomBalls::TiebreakKeys of the active round
 };
 
 // Calculates the standings of the open tournament's teams under a layout.
@@ -31,12 +31,12 @@ class CustomStandings {
   // The layout must outlive the object.
   CustomStandings(SharedState& state, const ReportLayout& layout);
 
-  // Adds the team in the first team object. Raises the errors of TeamClass; the team is not added
-  // then.
+  // Adds the team of the first team object. Raises the errors of TeamClass, and adds nothing in
+  // that case.
   void AddTeam();
-  // Counts the balls and ranks the teams. Returns them in the order in which they were added.
+  // Counts the balls and ranks the teams. Returns the teams in the order in which they were added.
   std::vector<CustomStanding> WorkOut();
-  // Returns the tables, valid after WorkOut.
+  // Returns the tables. They are valid after WorkOut.
   const CustomBalls& balls() const { return balls_; }
 
  private:

@@ -1,4 +1,4 @@
-// The lists of choices for a layout's codes.
+// This file makes the lists of choices for the codes of a layout.
 
 #include <algorithm>
 #include <utility>
@@ -16,7 +16,7 @@ std::string Ordinal(int n) {
   return std::to_string(n) + (n <= 3 ? kEndings[n - 1] : "th");
 }
 
-// Adds each combination of `size` numbers up to `players`, in ascending order.
+// Adds each combination of `size` numbers from 1 to `players`, in ascending order.
 void AddCombinations(int players, int size, std::vector<LayoutChoice>& choices) {
   std::vector<int> numbers;
   for (int n = 1; n <= size; ++n) numbers.push_back(n);
@@ -35,8 +35,8 @@ void AddCombinations(int players, int size, std::vector<LayoutChoice>& choices) 
   }
 }
 
-// Adds the choices for the sum of the 2 to `players` best or worst balls. Their code is `letter`
-// and as many digits as balls.
+// Adds the choices for the sum of the 2 to `players` best or worst balls. The code of a choice is
+// `letter` and the digits from 1 to its number of balls.
 void AddTotals(int players, char letter, const std::string& words, const std::string& side,
                std::vector<LayoutChoice>& choices) {
   for (int n = 2; n <= players; ++n) {

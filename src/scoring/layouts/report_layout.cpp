@@ -1,4 +1,4 @@
-// The two text files of a layout. Values are separated by commas.
+// This file reads and writes the two text files of a layout. Commas separate the values.
 
 #include "scoring/layouts/report_layout.h"
 
@@ -32,14 +32,14 @@ class LayoutWriter {
   std::string line_;
 };
 
-// Reads the values in the order of the format. After the first value that is not of the wanted kind
-// it reads nothing more.
+// Reads the values in the order of the format. Reads nothing more after a value of a wrong kind.
 class LayoutReader {
  public:
   LayoutReader(std::string text, std::string name)
       : text_(std::move(text)), name_(std::move(name)) {}
 
-  // A text ends at a quote that a comma or the line end follows. So it may hold quotes.
+  // Reads a text in quotes. The text ends at a quote before a comma or the line end, so it may
+  // contain quotes itself.
   LayoutReader& Text(std::string& value) {
     const std::size_t start = BeginValue();
     if (!problem_.empty()) return *this;
@@ -64,7 +64,7 @@ class LayoutReader {
     return *this;
   }
 
-  // Reads a number as it is written.
+  // Reads a number as it is written in the file.
   LayoutReader& NumberText(std::string& value) {
     const std::size_t start = BeginValue();
     if (!problem_.empty()) return *this;
@@ -125,8 +125,8 @@ class LayoutReader {
   std::string name_;
   std::string problem_;
   std::string_view line_;
-  std::size_t at_ = 0;    // start of the next line in the text
-  std::size_t next_ = 0;  // end of the last value in the line
+  std::size_t at_ = 0;    // the start of the next line in the text
+  std::size_t next_ = 0;  // the end of the last value in the line
   int line_number_ = 0;
   bool at_line_start_ = true;
 };
@@ -203,7 +203,7 @@ std::string SecondFile(const ReportLayout& layout) {
 
 ReadLayout ReadReportLayout(FileTable& files, const std::string& path) {
   ReportLayout layout;
-  // Returns the problem of one file, or an empty text.
+  // Reads one file. Returns a description of its fault, or an empty text.
   const auto read_file = [&](char number, void (*values)(LayoutReader&, ReportLayout&)) {
     const std::string file = path + number;
     const std::string name = file.substr(file.find_last_of("/\\") + 1);

@@ -1,4 +1,4 @@
-// The results of a calculated round as text.
+// This file returns the results of a calculated round as text.
 
 #include "scoring/player/player_class.h"
 
@@ -9,7 +9,7 @@
 namespace golf {
 namespace {
 
-constexpr int kFinished = 99;  // shown as a hole that was not finished
+constexpr int kFinished = 99;  // the score of a hole that was not finished
 
 // Formats a whole number as the pattern "0" does.
 std::string Shown(std::int32_t value) { return std::to_string(value); }

@@ -11,19 +11,19 @@
 
 namespace golf {
 
-// Calculates a golfer's results from his entry, the course played and the tournament's options. It
-// is the third storey of a player. A round is calculated when a member first needs it, and again
-// after the next read or save of a record. A setter alone causes no new calculation.
+// Calculates a golfer's results from the golfer's entry, the course played and the tournament's
+// options. A round is calculated when a function first needs it, and again after the next read or
+// save of a record. A setter alone does not cause a new calculation.
 //
-// A round is 1 to 7. An omitted round is the active one. A hole is 1 to 18, or 19 for the first
-// nine, 20 for the second nine and 21 for the round. Error 9 is raised for an index out of its
-// range, also for a round without a tee (tee 0). Error 6 is raised for a figure too large for its
-// type, and for NaN where a number is needed. After an error the round is calculated again at the
-// next call. Functions on files raise the errors of FileTable.
+// A round is 1 to 7. An omitted round is the active round. A hole is 1 to 18, or 19 for the first
+// nine, 20 for the second nine and 21 for the round. The functions raise error 9 for an index out
+// of its range and for a round without a tee (tee 0). They raise error 6 for a value too large for
+// its type, and for NaN if a number is required. After an error the next call calculates the round
+// again. Functions on files raise the errors of FileTable.
 //
-// Most members make the course of the round current in the shared course object, which must have
-// Quenby's library open. Handicaps and indexes are in strokes; negative means plus. Scores and
-// ratings are in strokes, slopes 55 to 155.
+// Most functions make the course of the round current in the shared course object, which must have
+// Quenby's library open. Handicaps and indexes are in strokes. A negative one is a plus handicap or
+// index. Scores and ratings are in strokes. Slopes are 55 to 155.
 class PlayerClass : public TournamentPlayers {
  public:
   using TournamentPlayers::TournamentPlayers;
@@ -32,42 +32,42 @@ class PlayerClass : public TournamentPlayers {
   // Returns all calculated results of a round as numbers.
   const RoundResults& Results(OptionalRound round = {});
 
-  // Return handicaps as text. The members named Value show a plus handicap with a minus sign, the
-  // others with a plus sign.
+  // Return handicaps as text. The functions whose names end in Value show a plus handicap with a
+  // minus sign. The others show it with a plus sign.
   std::string TourHandicap(OptionalRound round = {});
   std::string TourHandicapValue(OptionalRound round = {});
   std::string TourHandicapWholeNumber(OptionalRound round = {});
   std::string TourGrossHandicap(bool decimals, OptionalRound round = {});
   std::string TourGrossHandicapValue(bool decimals, OptionalRound round = {});
-  // Returns the quota in points. A quota that comes from the handicap uses the active round's
-  // handicap for every round.
+  // Returns the quota in points. A quota that is based on the handicap uses the handicap of the
+  // active round for every round.
   std::string TourQuota(bool decimals, OptionalRound round = {});
 
   // Return the handicap strokes and the par of a hole 1 to 18 in the round that was calculated
-  // last, which is not always `round`.
+  // last. That round is not always `round`.
   std::int32_t TourHoleStrokes(int hole, OptionalRound round = {});
   std::int32_t TourHolePar(int hole, OptionalRound round = {});
 
-  // Returns "F" for a hole score of 99 or more. If the tournament has total scores only, returns
-  // the number 0 for a hole.
+  // Returns "F" for a hole score of 99 or more. Returns the number 0 for a hole if the tournament
+  // has total scores only.
   TextOrNumber TourScoreGross(int hole, OptionalRound round = {});
   std::int32_t TourScoreGrossValue(int hole, OptionalRound round = {});
   std::string TourScoreNet(int hole, OptionalRound round = {});
   std::string TourScoreAdjusted(OptionalRound round = {});
-  // Returns the score of a hole as stroke control caps it. Only the whole part of `hole` counts.
-  // Runs stroke control on the round.
+  // Runs stroke control on the round, and returns the capped score of a hole. Only the whole part
+  // of `hole` counts.
   std::int32_t TourHoleAdjusted(double hole, OptionalRound round = {});
-  // Return how often score minus par was `difference`, -5 to 5.
+  // Return the number of holes at which score minus par is `difference`, -5 to 5.
   std::string TourPBEStatsGross(int difference, int hole, OptionalRound round = {});
   std::string TourPBEStatsNet(int difference, int hole, OptionalRound round = {});
   std::string TourPointsGross(int hole, OptionalRound round = {});
   std::string TourPointsNet(int hole, OptionalRound round = {});
-  // Returns the points above the quota: `part` 1 for the first nine, 2 for the second, 3 for the
-  // round.
+  // Returns the points above the quota. `part` is 1 for the first nine, 2 for the second nine and 3
+  // for the round.
   std::string TourPointsQuotaResults(int part, OptionalRound round = {});
 
-  // Return sums over the rounds `from` to `to`. Without `from` they are rounds 1 to the active one;
-  // without `to` the last one is the active round.
+  // Return sums over the rounds `from` to `to`. They are rounds 1 to the active one if `from` is
+  // omitted. The last one is the active round if `to` is omitted.
   std::string TourTotalGross(OptionalRound from = {}, OptionalRound to = {});
   std::string TourTotalNet(OptionalRound from = {}, OptionalRound to = {});
   std::string TourTotalGrossPoints(OptionalRound from = {}, OptionalRound to = {});
@@ -85,12 +85,12 @@ class PlayerClass : public TournamentPlayers {
   std::string TourCourseTeePlayedName(OptionalRound round = {});
   std::string TourCourseTeePlayedRating(OptionalRound round = {});
   std::string TourCourseTeePlayedSlope(OptionalRound round = {});
-  // Return the time and hole of the golfer's team, or "None" without a team. They read the team
-  // into the first team object.
+  // Return the tee time and the start hole of the golfer's team, or "None" if there is no team.
+  // They read the team into the first team object.
   std::string TourTeeTime(OptionalRound round = {});
   std::string TourTeeStartHole(OptionalRound round = {});
 
-  // Return keys that break ties when they are sorted as texts; see tiebreak_keys.h.
+  // Return keys that break ties when they are sorted as texts. See tiebreak_keys.h.
   std::string TourGrossTotalTiebreakUSGA(OptionalRound round = {});
   std::string TourNetTotalTiebreakUSGA(OptionalRound round = {});
   std::string TourGrossTotalTiebreakHandicapHole(OptionalRound round = {});
@@ -101,14 +101,14 @@ class PlayerClass : public TournamentPlayers {
   std::string TourNetTotalTiebreak18to1(OptionalRound round = {});
 
  private:
-  // The tee that a golfer plays in a round.
+  // Identifies the tee that a golfer plays in a round.
   struct PlayedTee {
-    int group;      // 0 men, 1 ladies
+    int group;      // 0: men, 1: ladies
     int tee_group;  // 1 to 5
     int tee;        // the tee number of the course
   };
 
-  // Sums over rounds.
+  // Contains the sums over several rounds.
   struct Totals {
     std::int32_t gross = 0;
     float net = 0;
@@ -121,13 +121,13 @@ class PlayerClass : public TournamentPlayers {
     std::int64_t earnings = 0;  // the amount times 10000
   };
 
-  // player_course.cpp
+  // These functions are defined in player_course.cpp.
   bool LoadCoursePlayed(int round);
   bool LoadTeamForRound(int round);
   PlayedTee TeePlayed(int round);
   PlayedTee LoadTeePlayed(OptionalRound round);
 
-  // player_round.cpp
+  // These functions are defined in player_round.cpp.
   void CalculateRound(int round);
   void WorkOutRound(int round, RoundResults& results);
   float CourseHandicap(int round, const PlayedTee& played);
@@ -140,10 +140,10 @@ class PlayerClass : public TournamentPlayers {
   void RunStrokeControl(int round, int tee);
   double HandicapNumber(OptionalRound round);
 
-  // player_totals.cpp
+  // This function is defined in player_totals.cpp.
   const Totals& AccumulateTotals(OptionalRound from, OptionalRound to);
 
-  // player_tiebreaks.cpp
+  // These functions are defined in player_tiebreaks.cpp.
   ScoreOfHole GrossOfHole(int round);
   std::vector<int> HolesByStrokes(int round);
   std::string GrossKey(OptionalRound round, const std::vector<int>& holes);
@@ -152,7 +152,7 @@ class PlayerClass : public TournamentPlayers {
   bool UsesDecimals() const;
 
   Indexed<RoundResults, 1, kRounds> results_;
-  // Of the round that was calculated last.
+  // These tables belong to the round that was calculated last.
   Indexed<int, 1, kHoles> hole_strokes_;
   Indexed<int, 1, kHoles> hole_pars_;
   Totals totals_;

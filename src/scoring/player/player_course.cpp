@@ -1,4 +1,4 @@
-// The course, the tee and the team that a golfer plays in a round.
+// This file finds the course, the tee and the team that a golfer plays in a round.
 
 #include "scoring/player/player_class.h"
 #include "scoring/team/team_class.h"
@@ -18,7 +18,8 @@ bool PlayerClass::LoadTeamForRound(int round) {
   return true;
 }
 
-// SexIndice may mend the golfer's sex. It comes first because the tee group depends on it.
+// SexIndice may correct the golfer's sex. It is called first, since the tee group depends on the
+// sex.
 PlayerClass::PlayedTee PlayerClass::TeePlayed(int round) {
   const int group = SexIndice();
   const int tee_group = TourGroupTee(round);

@@ -1,4 +1,4 @@
-// Calculates a round from its entry, the course and the tournament's options.
+// This file calculates a round from its entry, the course and the tournament's options.
 
 #include <array>
 #include <cmath>
@@ -13,7 +13,7 @@ namespace golf {
 namespace {
 
 constexpr double kStandardSlope = 113;
-constexpr double kIndexNudge = 0.00001;  // makes a course handicap that ends in .5 round up
+constexpr double kIndexNudge = 0.00001;  // rounds up a course handicap that ends in .5
 constexpr double kNineNudge = 0.0001;    // makes the two halves of an odd quota differ
 constexpr int kParPlusScheme = 10;       // added to the code of a table scheme of stroke control
 
@@ -31,11 +31,11 @@ void PlayerClass::CalculateRound(int round) {
   RoundResults& results = results_[round];
   bool& stale = recalculate_[static_cast<std::size_t>(round) - 1];
   if (!stale) return;
-  stale = false;  // first, since the calculation calls members that need the round
+  stale = false;  // first, since the calculation calls functions that need the round
   try {
     WorkOutRound(round, results);
   } catch (...) {
-    stale = true;  // so that no figures of another golfer are used
+    stale = true;  // the next call calculates again and uses no old values
     throw;
   }
 }
@@ -87,7 +87,7 @@ void PlayerClass::TakeTotals(int round, int tee, RoundResults& results) {
   results.adjusted = control.AdjGross(3);
 }
 
-// If scores are entered by hole, ScoreHoles adds up the net total later.
+// Calculates the net total. ScoreHoles adds up the net total later if scores are entered by hole.
 void PlayerClass::TakeNetTotal(int round, RoundResults& results) {
   const double gross = results.gross[kWholeRound];
   if (gross < 1) return;
@@ -121,8 +121,8 @@ void PlayerClass::AllocateStrokes(int round, int tee, int holes) {
   AllocateHoleStrokes(hole_strokes_.span(), ranks, holes, strokes);
 }
 
-// A quota that comes from the handicap makes TourQuota calculate the active round, if it is
-// another.
+// Calculates the points above the quota. TourQuota calculates the active round if the quota is
+// based on the handicap.
 void PlayerClass::TakeQuotaResults(int round, RoundResults& results) {
   const double quota = LeadingNumber(TourQuota(UsesDecimals(), round));
   const auto& points = results.gross_points;
@@ -132,8 +132,8 @@ void PlayerClass::TakeQuotaResults(int round, RoundResults& results) {
   quota_results[3] = CheckedSingle(points[kWholeRound] - quota);
 }
 
-// The gross handicap, before percentage and adjustment, determines the cap. All 18 holes are set,
-// also in a tournament of nine holes.
+// Caps the scores of all 18 holes, also in a tournament of nine holes. The gross handicap, before
+// percentage and adjustment, determines the cap.
 void PlayerClass::RunStrokeControl(int round, int tee) {
   TournamentControl& tournament = state().TournamentRecord();
   ESCClass& control = state().ESC();

@@ -1,4 +1,4 @@
-// The keys that break ties between golfers.
+// This file makes the keys that break ties between golfers.
 
 #include <vector>
 

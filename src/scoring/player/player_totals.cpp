@@ -1,4 +1,4 @@
-// Sums over the rounds of a tournament.
+// This file adds up the results of several rounds of a tournament.
 
 #include <string>
 

@@ -1,4 +1,4 @@
-// The best balls of a team.
+// This file finds the best balls of a team.
 
 #include <algorithm>
 #include <string>
@@ -16,8 +16,9 @@ constexpr double kNoBall = 1000;            // a ball this high does not count
 constexpr std::int32_t kNoPair = 1001;      // a ball of a pair this high counts as 0
 constexpr std::int32_t kNoPartner = 10000;  // a ball this high cannot be one of a pair
 
-// Returns the sum of the `balls` lowest values, at least of one value. If there are fewer values it
-// is the sum of all. Ties make no difference, since each value is one golfer's.
+// Returns the sum of the `balls` lowest values, but of at least one value. Returns the sum of all
+// values if there are fewer. Each value belongs to a different golfer, so equal values make no
+// difference.
 double SumOfLowest(std::vector<double> values, int balls) {
   const auto count = std::min(values.size(), static_cast<std::size_t>(std::max(balls, 1)));
   const auto end = values.begin() + static_cast<std::ptrdiff_t>(count);
@@ -36,8 +37,9 @@ std::string SumOverHoles(int hole, OfHole of_hole) {
   return std::to_string(sum);
 }
 
-// Returns the golfer other than `without` with the lowest score among those who played the hole, or
-// 0 for none. Of golfers who tie it returns the first.
+// Returns the golfer with the lowest score on a hole, or 0 if there is none. Ignores the golfer
+// `without` and the golfers who did not play the hole. Returns the first of several golfers with
+// equal scores.
 int LowestGolfer(const HoleTables& tables, const HoleTables::ByGolfer<std::int32_t>& scores,
                  int hole, int without) {
   int lowest = 0;
@@ -134,7 +136,7 @@ std::int32_t TeamClass::HighestBallOnHole(bool gross, int balls, int hole, int r
   return RoundToInt32(-SumOfLowest(std::move(values), balls));
 }
 
-// Tries both orders. They differ if one golfer has the lowest gross and the lowest net.
+// Both orders are tried. They differ if one golfer has the lowest gross and the lowest net score.
 std::int32_t TeamClass::LowestGrossNetPairOnHole(int hole, int round) {
   const HoleTables& tables = LoadTeamHoleTables(round);
   return std::min(LowestPair(tables, tables.gross, tables.net, hole),

@@ -1,4 +1,4 @@
-// The results of a team's calculated round as text.
+// This file returns the results of a team's calculated round as text.
 
 #include "scoring/team/team_class.h"
 
@@ -13,7 +13,7 @@ const TeamRound& TeamClass::Results(OptionalRound round) {
   bool& stale = recalculate_[static_cast<std::size_t>(of) - 1];
   if (stale) {
     CalculateTeamRound(of, results);
-    stale = false;  // only now, so that after an error the round is calculated again
+    stale = false;  // last, so that a round is calculated again after an error
   }
   return results;
 }

@@ -11,13 +11,13 @@
 
 namespace golf {
 
-// Calculates the results of a team from those of its golfers. It is the second storey of a team.
-// The golfers are those of the active round, for every round asked for. A calculation reads them
-// into the shared player. Its results are kept until the next read or save of a team record.
+// Calculates the results of a team from those of its golfers. The golfers are those of the active
+// round, even for the results of another round. A calculation reads them into the shared player.
+// Its results are kept until the next read or save of a team record.
 //
-// A round is 1 to 7. An omitted round is the active one. A hole is 1 to 18, or 19 for the first
-// nine, 20 for the second nine and 21 for the round. Scores and handicaps are in strokes; a
-// negative handicap is a plus handicap. Errors as for PlayerClass.
+// A round is 1 to 7. An omitted round is the active round. A hole is 1 to 18, or 19 for the first
+// nine, 20 for the second nine and 21 for the round. Scores and handicaps are in strokes. A
+// negative handicap is a plus handicap. The functions raise the same errors as PlayerClass.
 class TeamClass : public TeamRecords {
  public:
   using TeamRecords::TeamRecords;
@@ -30,7 +30,7 @@ class TeamClass : public TeamRecords {
 
   std::string Handicap(OptionalRound round = {});
   std::int32_t ScoreGross(int hole, OptionalRound round = {});
-  // Returns a whole number, or for the sums of a tournament with decimals a number with decimals.
+  // Returns a whole number. Returns a number with decimals for a sum if ShowsDecimals() is true.
   double ScoreNet(int hole, OptionalRound round = {});
   std::int32_t PointsGross(int hole, OptionalRound round = {});
   std::int32_t PointsNet(int hole, OptionalRound round = {});
@@ -40,13 +40,13 @@ class TeamClass : public TeamRecords {
   // Returns the amount times 10000.
   std::int64_t Earnings(OptionalRound round = {}) { return Results(round).earnings; }
   std::string Quota(OptionalRound round = {});  // in points
-  // Returns points above the quota: `part` 1 for the first nine, 2 for the second, 3 for the round.
+  // Returns the points above the quota. `part` is 1 for the first nine, 2 for the second, 3 for the
+  // round.
   std::string QuotaResults(int part, OptionalRound round = {});
-  // Returns all last names for 0, or a golfer's name for 1 to 8.
+  // Returns all last names if `i` is 0, or the name of golfer `i`, 1 to 8.
   std::string NameofPlayersOnTeam(int i, OptionalRound round = {});
 
-  // Return scores for a team that plays one ball. The net score is empty while no golfer has a
-  // score.
+  // Return scores for a team that plays one ball. The net score is empty if no golfer has a score.
   std::string ScrambleGross(int hole, OptionalRound round = {});
   std::string ScrambleNet(int hole, OptionalRound round = {});
 
@@ -55,28 +55,29 @@ class TeamClass : public TeamRecords {
   std::string TotalNet();
   std::string TotalNetScramble();
 
-  // Return the sum of the best `balls` scores of different golfers on a hole; for 19 to 21 the sum
-  // over those holes. Only the first ten golfers count, on holes that they have played.
+  // Return the sum of the best `balls` scores of different golfers on a hole. Return the sum over
+  // the covered holes if `hole` is 19 to 21. Only the first ten golfers count, and only on holes
+  // that they have played.
   std::string BestBallGross(int balls, int hole, OptionalRound round = {});
   std::string BestBallNet(int balls, int hole, OptionalRound round = {});
   std::string BestBallPointsGross(int balls, int hole, OptionalRound round = {});
   std::string BestBallPointsNet(int balls, int hole, OptionalRound round = {});
-  // Returns the lowest sum of one golfer's gross and another golfer's net score.
+  // Returns the lowest sum of one golfer's gross score and another golfer's net score.
   std::string BestBallGrossNet(int hole, OptionalRound round = {});
-  // Return the sum of the best `x` nines (hole 19 or 20) or rounds (hole 21), or "0" for a hole 1
-  // to 18.
+  // Return the sum of the best `x` nines (hole 19 or 20) or rounds (hole 21). Return "0" for a hole
+  // 1 to 18.
   std::string BestTotalXofYGross(int x, int hole, OptionalRound round = {});
   std::string BestTotalXofYNet(int x, int hole, OptionalRound round = {});
 
-  // Puts the balls of the team's first ten golfers into its tables, one block a round. The golfers
-  // of a block are those of its round.
+  // Copies the balls of the team's first ten golfers into its tables, one block for each round. The
+  // golfers of a block are those of its round.
   void PopulateTeamGrid(TeamBalls& balls, int rounds);
 
   // Returns the 18 holes in the order in which they get handicap strokes. Uses the tee of the first
   // tee group, since a team has no tee of its own. Makes the course of the round current.
   std::vector<int> HolesByStrokes(OptionalRound round = {});
 
-  // Return keys that break ties when they are sorted as texts; see tiebreak_keys.h.
+  // Return keys that break ties when they are sorted as texts. See tiebreak_keys.h.
   std::string GrossTotalTiebreakUSGA(OptionalRound round = {});
   std::string NetTotalTiebreakUSGA(OptionalRound round = {});
   std::string GrossTotalTiebreakHandicapHole(OptionalRound round = {});
@@ -85,7 +86,7 @@ class TeamClass : public TeamRecords {
   std::string NetTotalTiebreak1to18(OptionalRound round = {});
   std::string GrossTotalTiebreak18to1(OptionalRound round = {});
   std::string NetTotalTiebreak18to1(OptionalRound round = {});
-  // For the active round.
+  // The functions without a parameter return the keys of the active round.
   std::string GrossScrambleTiebreakUSGA() { return GrossTotalTiebreakUSGA(); }
   std::string GrossScrambleTiebreak1to18() { return GrossTotalTiebreak1to18(); }
   std::string GrossScrambleTiebreak18to1() { return GrossTotalTiebreak18to1(); }
@@ -101,21 +102,21 @@ class TeamClass : public TeamRecords {
     float scramble_net = 0;
   };
 
-  // team_round.cpp
+  // These functions are defined in team_round.cpp.
   void CalculateTeamRound(int round, TeamRound& results);
   void AddGolfer(std::int32_t record, int round, TeamRound& results);
   void AddHoles(int round, TeamRound& results);
   ByHole<std::int32_t> WorkOutScramble(int round);
   Totals AccumulateTeamTotals();
 
-  // team_balls.cpp
+  // These functions are defined in team_balls.cpp.
   const HoleTables& LoadTeamHoleTables(int round);
   std::int32_t LowestBallOnHole(bool gross, int balls, int hole, int round);
   std::int32_t HighestBallOnHole(bool gross, int balls, int hole, int round);
   std::int32_t LowestGrossNetPairOnHole(int hole, int round);
   std::string LowestTotals(bool gross, int x, int hole, OptionalRound round);
 
-  // team_tiebreaks.cpp
+  // These functions are defined in team_tiebreaks.cpp.
   std::string GrossKey(OptionalRound round, const std::vector<int>& holes);
   std::string NetKey(OptionalRound round, const std::vector<int>& holes);
   std::string ScrambleKey(OptionalRound round, const std::vector<int>& holes);

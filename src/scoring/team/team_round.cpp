@@ -1,4 +1,4 @@
-// Calculates a team's round from its golfers, and the sums over rounds.
+// This file calculates a team's round from its golfers, and the sums over rounds.
 
 #include <array>
 
@@ -13,7 +13,7 @@
 namespace golf {
 namespace {
 
-constexpr int kSumTimesPercent = 2;  // the team handicap is a percentage of the sum, not an average
+constexpr int kSumTimesPercent = 2;  // the team handicap is a percentage of the sum
 
 }  // namespace
 
@@ -76,8 +76,9 @@ void TeamClass::AddHoles(int round, TeamRound& results) {
   }
 }
 
-// The handicap strokes come from the tee of the first golfer with a score and from the team
-// handicap as it is shown. So a plus handicap counts like an ordinary one of its size.
+// Calculates the net scores of a team that plays one ball. The handicap strokes come from the tee
+// of the first golfer with a score and from the team handicap as it is shown. A plus handicap is
+// shown without its minus sign, so it counts like an ordinary handicap of its size.
 ByHole<std::int32_t> TeamClass::WorkOutScramble(int round) {
   const TeamRound& results = Results(round);
   PlayerClass& player = state().Player();

@@ -10,14 +10,14 @@
 
 namespace golf {
 
-// The number of golfers of a team whose balls can count.
+// This is the number of golfers of a team whose balls can count.
 inline constexpr int kMostGolfersWithBalls = 10;
 
-// The calculated results of one team's round, in strokes and points. Floats stay floats, as for a
-// golfer.
+// Contains the calculated results of one team's round, in strokes and points. The float type is
+// required, as in RoundResults.
 struct TeamRound {
-  // The nines and the total of one of the first ten golfers, by entry 19 to 21. The net is 0 if
-  // nothing was played.
+  // Contains the sums of one of the first ten golfers for the two nines and the round, by entry 19
+  // to 21. The net sum is 0 if the golfer has played no hole.
   struct Totals {
     Indexed<std::int32_t, kFirstNine, kWholeRound> gross;
     Indexed<double, kFirstNine, kWholeRound> net;
@@ -34,7 +34,7 @@ struct TeamRound {
   ByHole<std::int32_t> gross_points;
   ByHole<std::int32_t> net_points;
   std::int32_t golfers = 0;
-  std::int32_t first_scorer = 0;  // the record of the first golfer with a score; 0 for none
+  std::int32_t first_scorer = 0;  // the record of the first golfer with a score; 0: none
   std::int32_t putts = 0;
   std::int32_t greens = 0;
   std::int32_t fairways = 0;
@@ -44,8 +44,8 @@ struct TeamRound {
   std::optional<ByHole<std::int32_t>> scramble_net;  // calculated when it is first needed
 };
 
-// The balls of a team's first ten golfers, by golfer and hole. `golfer_gross` holds the gross
-// scores of every golfer. The other tables are filled only up to the first golfer who was on
+// Contains the balls of a team's first ten golfers, by golfer and hole. `golfer_gross` contains the
+// gross scores of every golfer. The other tables are filled only up to the first golfer who was on
 // another team in that round.
 struct HoleTables {
   template <class T>

@@ -1,4 +1,4 @@
-// The keys that break ties between teams.
+// This file makes the keys that break ties between teams.
 
 #include "core/number_text.h"
 #include "scoring/team/team_class.h"
@@ -8,7 +8,7 @@
 
 namespace golf {
 
-// Returns all 18 places, also for a round of nine holes.
+// Returns all 18 holes, also for a round of nine holes.
 std::vector<int> TeamClass::HolesByStrokes(OptionalRound round) {
   TournamentClass& tournament = state().Tournament();
   const int group = tournament.TeeCount(0) < 1 ? 1 : 0;
@@ -61,7 +61,7 @@ std::string TeamClass::NetTotalTiebreak18to1(OptionalRound round) {
   return NetKey(round, HolesBackward(state().Tournament().RoundType()));
 }
 
-// Returns the net score for a key, 0 for a team without a score.
+// Returns the net score for a key, or 0 if the team has no score.
 std::int32_t TeamClass::ScrambleNumber(int hole, int round) {
   return RoundToInt32(LeadingNumber(ScrambleNet(hole, round)));
 }

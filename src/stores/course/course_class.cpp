@@ -12,8 +12,8 @@
 namespace golf {
 namespace {
 
-// Entry 0 of the lists. In the last two the course number ends one column early. A reader of the
-// number stops at the blank behind it.
+// These texts begin entry 0 of the lists. In the lists of 9 holes and of 18 holes its course number
+// ends one column early, so a reader of the number must stop at the blank after it.
 constexpr std::string_view kAway18 = ".(Rating\\Slope)   18 Hole away course";
 constexpr std::string_view kAway9 = ".(Rating\\Slope)   9 Hole away course";
 constexpr std::string_view kAwayAll = ".(Rating\\Slope)   Away course";
@@ -34,7 +34,7 @@ std::string CourseEntry(std::string_view name, std::int32_t record) {
 
 constexpr std::int16_t kNewSlope = 113;
 
-// The name and the number of holes of a course without a record.
+// Contains the name and the number of holes of a course that has no record.
 struct SpecialCourse {
   std::int32_t number;
   std::string_view name;
@@ -113,8 +113,8 @@ void CourseClass::GetRecord(std::int32_t record) {
   if (has_record) Keep(record);
 }
 
-// Takes the course from the kept ones, since scores need the same few courses many times. Returns
-// false if it is not kept.
+// Makes a kept course current. Returns false if the course is not kept. Courses are kept since the
+// calculation of scores reads the same few courses many times.
 bool CourseClass::TakeKept(std::int32_t record) {
   const std::uint64_t generation = state_.files.Generation(course_file_);
   if (generation != kept_generation_ || course_file_ != kept_file_) kept_.clear();
@@ -130,7 +130,7 @@ bool CourseClass::TakeKept(std::int32_t record) {
 }
 
 void CourseClass::Keep(std::int32_t record) {
-  constexpr std::size_t kMostKept = 8;  // a tournament has up to 7 rounds, each with a course
+  constexpr std::size_t kMostKept = 8;  // a tournament has up to 7 rounds, each with its own course
   const KeptCourse course{record, record_, tees_};
   if (kept_.size() < kMostKept) {
     kept_.push_back(course);
@@ -168,7 +168,7 @@ void CourseClass::UpdateAllCourseLists() {
 std::vector<std::int32_t> CourseClass::ReadIndexEntries() {
   FileTable& files = state_.files;
   files.Read(index_file_, 1, index_);
-  // The stored count may exceed the entries of the file. The next rebuild corrects it.
+  // The stored count may exceed the number of entries in the file. The next rebuild corrects it.
   const std::int64_t held = files.CountTruncated(index_file_, CourseIndexLayout::kLength) - 1;
   const std::int64_t count = std::clamp<std::int64_t>(Index(), 0, std::max<std::int64_t>(held, 0));
   std::vector<std::int32_t> entries;
@@ -189,7 +189,7 @@ void CourseClass::BuildCourseList(std::string_view list_name, std::string_view a
     const CourseDigest* course = digests_.Find(record);
     list.entries.push_back(CourseEntry(course == nullptr ? "" : course->Name(), record));
   }
-  // The course of the last entry becomes the current record.
+  // The course of the last entry becomes the current record, even if the list is not used.
   if (entries.empty()) return;
   record_ = {};
   if (IsCourseRecord(entries.back())) state_.files.Read(course_file_, entries.back(), record_);
@@ -224,15 +224,15 @@ void CourseClass::SetIndex(double value) { index_.Set<"Index">(RoundToInt16(valu
 
 std::vector<std::int32_t> CourseClass::ActiveCoursesByName() {
   const std::int32_t length = CourseFileLength();
-  // The digests replace a GetRecord of each record. The last record becomes current, as after
-  // those.
+  // The digests replace one GetRecord call for each record. The last record becomes current, as it
+  // would after these calls.
   std::vector<std::int32_t> records = digests_.ReadActive(course_file_, length);
   if (length > 0) GetRecord(length);
   std::vector<std::pair<std::string, std::int32_t>> named;
   for (const std::int32_t record : records) {
     named.emplace_back(UpperCase(Trim(digests_.Find(record)->Name())), record);
   }
-  std::sort(named.begin(), named.end());  // equal names are sorted by record number
+  std::sort(named.begin(), named.end());  // sorts equal names by record number
   records.clear();
   for (const auto& [name, record] : named) records.push_back(record);
   return records;
@@ -252,8 +252,8 @@ void CourseClass::WriteIndexFile(std::string_view list_name,
 }
 
 void CourseClass::RebuildCourseIndexes(const std::vector<std::int32_t>& sorted_records) {
-  // The digests replace a GetRecord of each course for each list. The last course becomes current,
-  // as after those.
+  // The digests replace one GetRecord call for each course and list. The last course becomes
+  // current, as it would after these calls.
   digests_.Read(course_file_, CourseFileLength(), sorted_records);
   const auto holes = [this](std::int32_t record) {
     const CourseDigest* course = digests_.Find(record);

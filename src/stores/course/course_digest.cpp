@@ -13,7 +13,7 @@ constexpr Field kActive = FieldOf<CourseLayout, "activeflag">();
 constexpr Field kHoles = FieldOf<CourseLayout, "HoleNumFlag">();
 constexpr Field kName = FieldOf<CourseLayout, "Name">();
 constexpr Field kLink = FieldOf<CourseLayout, "KVCourseNum">();
-constexpr std::int32_t kMostCourses = 32767;  // the highest number that an index can hold
+constexpr std::int32_t kMostCourses = 32767;  // the highest number that an index can contain
 constexpr std::size_t kHeadLength = kLink.offset + kLink.width;
 static_assert(kActive.offset < kHeadLength && kHoles.offset < kHeadLength &&
               kName.offset + kName.width < kHeadLength);

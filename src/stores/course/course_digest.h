@@ -10,7 +10,7 @@
 
 namespace golf {
 
-// The fields of a course that lists and indexes need.
+// Contains the fields of a course that lists and indexes need.
 struct CourseDigest {
   std::int16_t activeflag = 0;
   std::int16_t hole_num_flag = 0;
@@ -20,21 +20,22 @@ struct CourseDigest {
   std::string_view Name() const { return {name.data(), name.size()}; }
 };
 
-// The digests of an open course file. Records are read in file order, each only once until the
-// file's read-ahead window is forgotten. So a digest is as fresh as a read of its record would be.
+// Caches the digests of an open course file. Records are read in file order. Each record is read
+// only once until the read-ahead buffer of the file is discarded, so a digest is as recent as a new
+// read of its record would be.
 class CourseDigests {
  public:
   explicit CourseDigests(FileTable& files) : files_(files) {}
 
-  // Reads the digests of these records, as far as they are not held. The file has `length` records.
-  // Numbers outside 1 to `length` are ignored.
+  // Reads the digests of these records that are not in the cache. The file has `length` records.
+  // Ignores numbers outside 1 to `length`.
   void Read(int file_number, std::int32_t length, std::vector<std::int32_t> records);
 
-  // Reads the whole file of `length` records. Returns the records of active courses, ascending, and
-  // holds their digests.
+  // Reads the whole file of `length` records. Caches the digests of the active courses, and returns
+  // their records in ascending order.
   std::vector<std::int32_t> ReadActive(int file_number, std::int32_t length);
 
-  // Returns the digest of a record, or null if it is not held.
+  // Returns the digest of a record, or null if it is not in the cache.
   const CourseDigest* Find(std::int32_t record) const;
 
  private:

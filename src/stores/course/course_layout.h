@@ -7,9 +7,10 @@
 
 namespace golf {
 
-// The record of a course in all three siblings' libraries. A course has six tee slots; tee 6 is
-// never shown. Group 0 is the men's, 1 the ladies'. Ratings and pars are in strokes. Lengths are in
-// yards, or in metres if YardsOrMeters says so.
+// This header describes the record of a course, which is the same in the libraries of all three
+// programs. A course has six tees, and tee 6 is never shown. Group 0 is the men, and group 1 is the
+// ladies. Ratings and pars are in strokes. Lengths are in yards, or in metres if YardsOrMeters is
+// 1.
 
 inline constexpr std::size_t kCourseRecordLength = 3226;
 inline constexpr int kTeeSlots = 6;
@@ -23,8 +24,8 @@ inline constexpr Dimension kHoles{1, kCourseHoles};
 inline constexpr Dimension kGroups{0, 2};
 
 inline constexpr auto kShared = std::to_array<Field>({
-    Int16Field("activeflag", 0),   // 0: deleted, skipped everywhere
-    Int16Field("HoleNumFlag", 2),  // 18; 9 front nine; -9 back nine
+    Int16Field("activeflag", 0),   // 0: deleted, ignored everywhere
+    Int16Field("HoleNumFlag", 2),  // 18; 9: front nine; -9: back nine
     TextField("Name", 4, 30),
     TextField("Address1", 34, 30),
     TextField("Address2", 64, 30),
@@ -33,9 +34,9 @@ inline constexpr auto kShared = std::to_array<Field>({
     TextField("Zipcode", 113, 10),
     TextField("GolfPro", 123, 20),
     TextField("Phone", 143, 15),
-    ByteField("ActiveTees", 158).By(kTees),  // 255 active, 0 not
-    Int16Field("ParsFlag", 164),             // bit t: tee t has a par on its first hole
-    Int16Field("HandicapFlag", 166),         // bit t: tee t has a HoleHandicap on its first hole
+    ByteField("ActiveTees", 158).By(kTees),  // 255: active, 0: not active
+    Int16Field("ParsFlag", 164),             // bit t is set if tee t has a par on its first hole
+    Int16Field("HandicapFlag", 166),  // bit t is set if tee t has a handicap on its first hole
     TextField("TeeName", 168, 7).By(kTees),
     TextField("TeeNameAbv", 210, 1).By(kTees),
     SingleField("Rating", 216).By(kTees, kGroups),
@@ -48,14 +49,14 @@ inline constexpr auto kShared = std::to_array<Field>({
     Int16Field("ParOut", 756).By(kTees),
     Int16Field("ParIn", 768).By(kTees),
     Int16Field("ParTotal", 780).By(kTees),
-    Int16Field("HoleHandicap", 792).By(kTees, kHoles),  // 1 to 18, 0 none
-    Int16Field("StrkSqnc", 1008).By(kTees, kHoles),     // the hole that gets the n-th stroke
-    Int16Field("KVCourseNum", 1224),                    // the Kelvane record copied from, 0 none
-    Int16Field("HoleNumber", 1226).By(kTees, kHoles),   // printed number, 1 to 72
+    Int16Field("HoleHandicap", 792).By(kTees, kHoles),  // 1 to 18; 0: none
+    Int16Field("StrkSqnc", 1008).By(kTees, kHoles),     // the hole that gets stroke n
+    Int16Field("KVCourseNum", 1224),  // the Kelvane record it was copied from; 0: none
+    Int16Field("HoleNumber", 1226).By(kTees, kHoles),  // the printed number, 1 to 72
 });
 
 inline constexpr auto kQuenbyTail = std::to_array<Field>({
-    ByteField("YardsOrMeters", 1442),  // 1 meters, anything else yards
+    ByteField("YardsOrMeters", 1442),  // 1: meters, any other value: yards
     KeptBytes(1443, 1783),
 });
 
@@ -71,22 +72,23 @@ constexpr auto WithTail(const std::array<Field, kTailSize>& tail) {
 
 }  // namespace course_fields
 
-// The layout that all code but the course transfer uses.
+// Describes the layout that all code uses, except the course transfer.
 struct CourseLayout {
   static constexpr std::string_view kName = "course";
   static constexpr std::size_t kLength = kCourseRecordLength;
   static constexpr auto kFields = course_fields::WithTail(course_fields::kQuenbyTail);
 };
 
-// Kelvane's own layout: the same bytes without YardsOrMeters.
+// Describes Kelvane's own layout. It has the same bytes, but no YardsOrMeters.
 struct KelvaneCourseLayout {
   static constexpr std::string_view kName = "kelvane course";
   static constexpr std::size_t kLength = kCourseRecordLength;
   static constexpr auto kFields = course_fields::WithTail(course_fields::kKelvaneTail);
 };
 
-// A course index. Record 1 holds the number of entries. The next records hold course numbers in the
-// order of display. Records behind them are remains of a longer list and have no meaning.
+// Describes a course index. Record 1 contains the number of entries. The next records contain the
+// course numbers in display order. Any records after them are left over from a longer list and have
+// no meaning.
 struct CourseIndexLayout {
   static constexpr std::string_view kName = "course index";
   static constexpr std::size_t kLength = 2;

@@ -8,9 +8,9 @@
 
 namespace golf {
 
-// The course library of one sibling.
+// Identifies the course library of one of the three programs.
 struct CourseLibrary {
-  std::string_view program;  // its sign in file names
+  std::string_view program;  // its abbreviation in file names
   std::string_view sibling;  // its name
   std::string SharedState::*folder;
 };
@@ -27,16 +27,16 @@ inline constexpr const CourseLibrary& kZandelCourses = kCourseLibraries[2];
 // Returns the library of `program` without regard to case, or null if there is none.
 const CourseLibrary* FindCourseLibrary(std::string_view program);
 
-// "kvcrs.dat"
+// Returns the name of the course file of `program`, for example "kvcrs.dat".
 std::string CourseFileName(std::string_view program);
 std::string CourseFilePath(const SharedState& state, const CourseLibrary& library);
 
-// Opens the library in `course`, or in the shared Course. Sets CourseDataPath to the library's
-// folder. Raises the errors of CourseClass.
+// Open the library in `course`, or in the shared Course. Set CourseDataPath to the folder of the
+// library. Raise the errors of CourseClass.
 void OpenCourseLibrary(SharedState& state, CourseClass& course, const CourseLibrary& library);
 void OpenCourseLibrary(SharedState& state, const CourseLibrary& library);
 
-// Returns "18", "9F" for the front nine or "9B" for the back nine.
+// Returns "18" for 18 holes, "9F" for the front nine and "9B" for the back nine.
 std::string HolesText(int hole_num_flag);
 
 }  // namespace golf

@@ -1,4 +1,4 @@
-// The current record of CourseClass: getters and setters of its fields.
+// This file contains the getters and setters of the current record of CourseClass.
 
 #include <algorithm>
 

@@ -47,8 +47,8 @@ TeeFault HandicapFault(int hole) {
               std::to_string(hole) + " is a repeat number or zero."};
 }
 
-// Returns a hole handicap as a whole number. A value below 0 or above 19 becomes 19, which is not
-// valid for any hole.
+// Returns a hole handicap as a whole number. Returns 19, which is not valid for any hole, for a
+// value below 0 or above 19.
 int WholeHandicap(double value) {
   constexpr double kNone = kCourseHoles + 1;
   return value < 0 ? static_cast<int>(kNone) : RoundToInt32(std::min(value, kNone));

@@ -5,9 +5,10 @@
 
 namespace golf {
 
-// The one buffer of the process for each Kelvane record. They outlive InitSharedObjects.
+// Contains one buffer for each Kelvane record. There is one such object in the process. It remains
+// when InitSharedObjects replaces the other objects.
 struct KelvaneBuffers {
-  KelvaneBuffers();  // fills the texts of the header with blanks, as without a roster
+  KelvaneBuffers();  // fills the texts of the header with blanks
 
   Record<KelvaneSystemLayout> system;
   Record<KelvaneHeaderLayout> header;
@@ -15,7 +16,7 @@ struct KelvaneBuffers {
   Record<KelvaneHistoryLayout> history;  // the score history of that golfer
   Record<KelvaneScoreLayout> score;      // the working entry
 
-  // Read or replace an entry of the history, 1 to 300. Error 9 for any other number.
+  // Read or replace entry `i` of the history, 1 to 300. Raise error 9 for any other number.
   Record<KelvaneScoreLayout> Entry(int i) const;
   void SetEntry(int i, const Record<KelvaneScoreLayout>& entry);
 };

@@ -7,9 +7,9 @@ namespace golf {
 namespace {
 
 constexpr std::int16_t kSystemVersion = 500;
-constexpr int kUnusedFile = 201;  // closed with the others, but never opened
+constexpr int kUnusedFile = 201;  // never opened, but closed like the other files
 
-// Sets the numbers of a new roster that are not 0.
+// Sets those numbers of a new roster whose default is not 0.
 void FillNumbers(Record<KelvaneHeaderLayout>& header) {
   header.Fill<"Version">(5000);
   header.Fill<"Setting154">(639);

@@ -7,20 +7,20 @@
 
 namespace golf {
 
-// The golfers of the open roster by their IDs, from one pass over the golfer file. A look-up
-// returns what a search from the first place would find, as long as no ID and no status changes.
+// Finds the golfers of the open roster by ID. The index is built by reading the golfer file once. A
+// look-up finds the same golfers as a search of the file, as long as no ID and no status changes.
 // Posting scores changes neither.
 class KelvaneGolferIndex {
  public:
   explicit KelvaneGolferIndex(SharedState& state) : state_(state) {}
 
-  // Returns all places with a golfer of this ID, ascending. The first look-up reads the file.
-  // Raises the errors of FileTable. Raises ReadError if no place is found but some place could not
-  // be read, since the golfer may be there.
+  // Returns all places with a golfer of this ID, in ascending order. The first call reads the file.
+  // Raises the errors of FileTable. Raises ReadError if it finds no place but could not read some
+  // place, since the golfer may be stored there.
   std::vector<std::int32_t> PlacesOf(std::int32_t id);
 
-  // Reads the first golfer of this ID into the golfer buffer and returns his place, or 0 if there
-  // is none. Errors as PlacesOf.
+  // Reads the first golfer with this ID into the golfer buffer. Returns the place of the golfer, or
+  // 0 if there is none. Raises the same errors as PlacesOf.
   std::int32_t Find(std::int32_t id);
 
  private:

@@ -27,7 +27,7 @@ void KeepKVHalf(SharedState& state, const NineHoleHalf& half) {
 void JoinKVHalves(SharedState& state, const NineHoleHalf& half) {
   auto& golfer = state.Kelvane().golfer;
   const std::uint8_t score = KVByte(half.score + golfer.Get<"HalfScore">());
-  // The mean of the slopes. The 0.1 makes a mean that ends in .5 round up.
+  // This is the mean of the slopes. The 0.1 rounds up a mean that ends in .5.
   const std::uint8_t slope = KVByte((half.slope + golfer.Get<"HalfSlope">()) / 2 + 0.1);
   const float rating = CheckedSingle(half.rating + double{golfer.Get<"HalfRating">()});
   auto& entry = state.Kelvane().score;

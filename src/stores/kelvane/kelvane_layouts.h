@@ -7,16 +7,16 @@
 
 namespace golf {
 
-// The files of a Kelvane roster, and Kelvane's system file. A field named "Setting" with a number
-// is for Kelvane's own use. It gets its default in a new roster and is otherwise left unchanged.
-// Only Setting153 of the header becomes 1 when scores are posted. A table by sex has index 0 for
-// men and 1 for ladies. Handicaps, indexes and ratings are in strokes. A negative handicap or index
-// is a plus one.
+// This header describes the files of a Kelvane roster, and Kelvane's system file. Only Kelvane uses
+// a field named "Setting" with a number. The field gets its default in a new roster and is
+// otherwise left unchanged. The one exception is Setting153 of the header, which becomes 1 when
+// scores are posted. In a table by sex, index 0 is men and index 1 is ladies. Handicaps, indexes
+// and ratings are in strokes. A negative handicap or index is a plus handicap or index.
 
 inline constexpr int kKelvaneScores = 300;
 inline constexpr std::size_t kKelvaneScoreLength = 49;
 
-// The one record of a ".kv5" file.
+// Describes the only record of a ".kv5" file.
 struct KelvaneHeaderLayout {
   static constexpr std::string_view kName = "kelvane header";
   static constexpr std::size_t kLength = 781;
@@ -26,7 +26,7 @@ struct KelvaneHeaderLayout {
       TextField("Title", 2, 40),
       TextField("Address", 42, 30).By(Dimension{1, 3}),
       TextField("Phone", 132, 20),
-      ByteField("Holes", 152),  // 18: handicaps for 18 holes; any other value: for 9
+      ByteField("Holes", 152),  // 18: handicaps for 18 holes, any other value: for 9
       ByteField("Setting153", 153),
       Int32Field("Setting154", 154),
       Int16Field("Setting158", 158),
@@ -43,7 +43,7 @@ struct KelvaneHeaderLayout {
       ByteField("Slope213", 213),
       Int16Field("Setting214", 214),
       Int16Field("Setting216", 216).By(kSexes),
-      DateField("CounterDate", 220).By(Dimension{1, 4}),  // dates 1 to 3: of counters 3, 4, 2
+      DateField("CounterDate", 220).By(Dimension{1, 4}),  // dates 1 to 3: counters 3, 4 and 2
       ByteField("HandicapMethod", 252),                   // 100 or more: not based on the index
       SingleField("Setting253", 253),
       Int16Field("Setting257", 257),
@@ -66,19 +66,19 @@ struct KelvaneHeaderLayout {
   });
 };
 
-// A place of a ".kvg" file.
+// Describes a place of a ".kvg" file. It contains one golfer or is free.
 struct KelvaneGolferLayout {
   static constexpr std::string_view kName = "kelvane golfer";
   static constexpr std::size_t kLength = 2804;
   static constexpr Dimension kLines{1, 4};
   static constexpr auto kFields = std::to_array<Field>({
-      Int16Field("Status", 0),  // 1 or more: the place holds a golfer
+      Int16Field("Status", 0),  // 1 or more: the place contains a golfer
       ByteField("MarkedToPrint", 2),
       ByteField("Reserved3", 3),
       Int32Field("IDNum", 4),
       TextField("NameFirst", 8, 11),
       TextField("NameLast", 19, 16),
-      ByteField("Sex", 35),  // 1 female, any other value male
+      ByteField("Sex", 35),  // 1: female, any other value: male
       TextField("AddressHomeLine", 36, 30).By(kLines),
       TextField("AddressWorkLine", 156, 30).By(kLines),
       TextField("PhoneHome", 276, 20),
@@ -91,15 +91,15 @@ struct KelvaneGolferLayout {
       SingleField("Index", 418),
       TextField("IndexText", 422, 5),
       SingleField("Handicap", 427),
-      TextField("HandicapText", 431, 6),  // blank or "*": none
+      TextField("HandicapText", 431, 6),  // blank or "*": no handicap
       ByteField("Setting437", 437),
       SingleField("Value438", 438),
       SingleField("Value442", 442),
-      Int16Field("HalfCourse", 446),  // this field to HalfScore: a waiting nine-hole half
+      Int16Field("HalfCourse", 446),  // the waiting half is stored from here to HalfScore
       ByteField("HalfTee", 448),
       SingleField("HalfRating", 449),
       ByteField("HalfSlope", 453),
-      ByteField("HalfScore", 454),  // 0: no half is waiting
+      ByteField("HalfScore", 454),  // 0: there is no waiting half
       Int16Field("ScoreCounter", 455).By(Dimension{1, 4}),
       TextField("MiscText1", 463, 30),
       TextField("MiscText2", 493, 20),
@@ -108,7 +108,7 @@ struct KelvaneGolferLayout {
       TextField("MiscText5", 543, 10),
       DateField("MiscDate", 553).By(Dimension{1, 2}),
       CurrencyField("MiscCurrency", 569).By(Dimension{1, 5}),
-      CurrencyField("Value609", 609),  // for Kelvane's own use
+      CurrencyField("Value609", 609),  // used only by Kelvane
       CurrencyField("Value617", 617),
       TextField("Text625", 625, 30),
       TextField("Comments", 655, 200),
@@ -118,17 +118,17 @@ struct KelvaneGolferLayout {
 
 namespace kelvane_fields {
 
-// An entry of a score history.
+// Describes an entry of a score history.
 inline constexpr auto kScore = std::to_array<Field>({
-    Int16Field("CourseNumber", 0),  // in Kelvane's library; 0 an away course
-    ByteField("TeeNumber", 2),      // 0 none
+    Int16Field("CourseNumber", 0),  // in Kelvane's library; 0: an away course
+    ByteField("TeeNumber", 2),      // 0: none
     SingleField("Rating", 3),
     ByteField("Slope", 7),
     DateField("Date", 8),
     ByteField("HoleScore", 16).By(Dimension{1, 18}),
     ByteField("Gross", 34),
     ByteField("Adjusted", 35),   // strokes for handicap purposes
-    ByteField("ScoreType", 36),  // 0 plain, 2 tournament, 4 two nines joined
+    ByteField("ScoreType", 36),  // 0: plain, 2: tournament, 4: two nines combined
     Int16Field("HandicapPlayed", 37),
     ByteField("Putts", 39),
     ByteField("Fairways", 40),
@@ -152,15 +152,15 @@ struct KelvaneScoreLayout {
   static constexpr auto kFields = kelvane_fields::kScore;
 };
 
-// A record of a ".kvs" file: the score history, newest first, of the golfer with the same record
-// number.
+// Describes a record of a ".kvs" file. It contains the score history, newest first, of the golfer
+// with the same record number.
 struct KelvaneHistoryLayout {
   static constexpr std::string_view kName = "kelvane history";
   static constexpr std::size_t kLength = kKelvaneScores * kKelvaneScoreLength;
   static constexpr auto kFields = kelvane_fields::InEachEntry();
 };
 
-// The one record of KVSYSTEM.FIL.
+// Describes the only record of KVSYSTEM.FIL.
 struct KelvaneSystemLayout {
   static constexpr std::string_view kName = "kelvane system";
   static constexpr std::size_t kLength = 733;
@@ -174,7 +174,7 @@ struct KelvaneSystemLayout {
   });
 };
 
-// REPORTS.CFG, which is opened with a roster and never read or written.
+// Describes a record of REPORTS.CFG, which is opened with a roster but never read or written.
 struct KelvaneReportsLayout {
   static constexpr std::string_view kName = "kelvane reports";
   static constexpr std::size_t kLength = 4744;

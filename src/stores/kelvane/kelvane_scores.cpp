@@ -10,11 +10,11 @@
 namespace golf {
 namespace {
 
-// A counter of the golfer's scores, and the date of the header from which it counts.
+// Describes a counter of the golfer's scores. It counts the scores after a date of the header.
 struct CounterRule {
   int counter;
-  int date;         // number of the CounterDate; 0 counts every score
-  bool on_the_day;  // true if a score on that date counts too
+  int date;         // number of the CounterDate; 0: counts every score
+  bool on_the_day;  // true if it also counts a score on that date
 };
 
 constexpr CounterRule kCounterRules[] = {{2, 3, true}, {3, 1, false}, {4, 2, false}, {1, 0, false}};
@@ -35,8 +35,8 @@ void CountScore(KelvaneBuffers& buffers) {
   }
 }
 
-// Moves the entries `first` to `last` by one place: towards the end if `by` is 1, towards the start
-// if it is -1.
+// Moves the entries `first` to `last` by one place, towards the end if `by` is 1 and towards the
+// start if `by` is -1.
 void Shift(KelvaneBuffers& buffers, int first, int last, int by) {
   if (by > 0) {
     for (int i = last; i >= first; --i) buffers.SetEntry(i + 1, buffers.Entry(i));
@@ -45,8 +45,8 @@ void Shift(KelvaneBuffers& buffers, int first, int last, int by) {
   }
 }
 
-// Returns how many entries precede the first other entry that is not newer than the one at `place`.
-// The entry at `place` may be one of them.
+// Finds the first entry, other than the one at `place`, that is not newer than the entry at
+// `place`. Returns the number of entries before it. This number may include the entry at `place`.
 int EntriesInFront(const KelvaneBuffers& buffers, int place) {
   const double date = buffers.history.Get<"Date">(place);
   const int count = std::min<int>(buffers.golfer.Get<"ScoreCounter">(1), kKelvaneScores);

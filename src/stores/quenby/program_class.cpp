@@ -36,7 +36,7 @@ void ProgramClass::SaveMasterRecord() {
   try {
     state_.files.Write(master_file_, 1, master_);
   } catch (const NumberedError&) {
-    // The file keeps its old content.
+    // This error is ignored. The file keeps its old content.
   }
 }
 

@@ -9,23 +9,24 @@
 
 namespace golf {
 
-// The program master QBMASTER.Q9D and the roster list QBROSTER.Q9D in StoreDataPath, with a buffer
-// for the one master record and one for a roster. Getters trim texts; setters cut them to the width
-// of their field. An index out of its range raises error 9, a number too large for its field error
-// 6. Functions on files raise the errors of FileTable unless they say otherwise.
+// Reads and writes the program master QBMASTER.Q9D and the roster list QBROSTER.Q9D in
+// StoreDataPath. The object has one buffer for the master record and one for a roster. Getters trim
+// texts. Setters cut them to the width of their field. An index out of its range raises error 9. A
+// number too large for its field raises error 6. Functions on files raise the errors of FileTable
+// unless their comment differs.
 class ProgramClass {
  public:
   explicit ProgramClass(SharedState& state) : state_(state) {}
   ProgramClass(const ProgramClass&) = delete;
   ProgramClass& operator=(const ProgramClass&) = delete;
 
-  // Opens the master file. If it is open, writes the master buffer to it first. Returns false after
-  // an error of its own; only the error of a write that was kept back is raised.
+  // Opens the master file. First writes the master buffer to the file if it is open. Returns false
+  // if an error occurs. Only the error of a delayed write is raised.
   bool OpenMasterFile();
   void CloseMasterFile();
   // Reads the master record. An empty file leaves the buffer unchanged.
   void GetMasterRecord();
-  // Writes the master record. A failure of this write raises no error.
+  // Writes the master record. Ignores an error of this write.
   void SaveMasterRecord();
 
   std::int16_t ActiveRoster() const { return master_.Get<"ActiveRoster">(); }
@@ -51,13 +52,13 @@ class ProgramClass {
 
   void OpenRosterListFile();
   void CloseRosterListFile();
-  // Returns the number of roster records, those of deleted rosters included.
+  // Returns the number of roster records, including those of deleted rosters.
   std::int32_t RosterListFileLength();
-  // Reads a roster. A number without a record leaves the buffer unchanged.
+  // Reads a roster. Leaves the buffer unchanged if there is no such record.
   void GetRosterRecord(std::int32_t roster);
-  // Writes a roster, numbered from 1. A number beyond the end makes the file grow.
+  // Writes a roster, numbered from 1. A number beyond the end extends the file.
   void SaveRosterRecord(std::int32_t roster);
-  // Marks a roster as deleted. Its record stays and can be used for another roster.
+  // Marks a roster as deleted. Keeps its record, which can be used for another roster.
   void DeleteRosterRecord(std::int32_t roster);
 
   bool IsRosterActive() const { return roster_.Get<"IsRosterActive">() != 0; }

@@ -7,8 +7,9 @@
 
 namespace golf {
 
-// Quenby's files except its course library. Rounds are 1 to 7. Group 0 is men, 1 ladies. Scores,
-// handicaps and indexes are in strokes. A negative handicap or index is a plus one.
+// This header describes the files of Quenby, except its course library. Round numbers are 1 to 7.
+// Group 0 is the men, and group 1 is the ladies. Scores, handicaps and indexes are in strokes. A
+// negative handicap or index is a plus handicap or index.
 
 inline constexpr int kRounds = 7;
 inline constexpr int kHoles = 18;
@@ -29,7 +30,7 @@ inline constexpr Dimension kOfFive{1, 5};
 inline constexpr Dimension kOfTen{1, 10};
 }  // namespace quenby_fields
 
-// The one record of QBMASTER.Q9D.
+// Describes the only record of QBMASTER.Q9D.
 struct MasterLayout {
   static constexpr std::string_view kName = "quenby master";
   static constexpr std::size_t kLength = 1042;
@@ -49,12 +50,12 @@ struct MasterLayout {
   });
 };
 
-// A roster of QBROSTER.Q9D; its record number is the roster's number.
+// Describes a roster of QBROSTER.Q9D. Its record number is the number of the roster.
 struct RosterLayout {
   static constexpr std::string_view kName = "quenby roster";
   static constexpr std::size_t kLength = 413;
   static constexpr auto kFields = std::to_array<Field>({
-      Int16Field("IsRosterActive", 0),  // -1 in use, 0 deleted
+      Int16Field("IsRosterActive", 0),  // -1: in use, 0: deleted
       KeptBytes(2, 60),
       KeptBytes(62, 5),
       TextField("ClubName", 67, 40),
@@ -64,7 +65,7 @@ struct RosterLayout {
   });
 };
 
-// The one record of a tournament's ".Q9C" file.
+// Describes the only record of a tournament's ".Q9C" file.
 struct TournamentLayout {
   static constexpr std::string_view kName = "tournament";
   static constexpr std::size_t kLength = 1208;
@@ -77,7 +78,7 @@ struct TournamentLayout {
       Int16Field("NumTeamFlights", 58),
       Int16Field("NumTeesMenPlay", 60),
       Int16Field("NumTeesLadiesPlay", 62),
-      Int16Field("RoundType", 64),  // 18 or 9 holes
+      Int16Field("RoundType", 64),  // the holes of a round: 18 or 9
       Int16Field("IndextoHandicap", 66),
       Int16Field("HandicapDecimalPlaces", 68),
       Int16Field("ScoreEntryTotal", 70),
@@ -118,18 +119,18 @@ struct TournamentLayout {
   });
 };
 
-// A golfer of QBGOLFER.Q9D.
+// Describes a golfer of QBGOLFER.Q9D.
 struct PlayerLayout {
   static constexpr std::string_view kName = "quenby golfer";
   static constexpr std::size_t kLength = 1867;
   static constexpr auto kFields = std::to_array<Field>({
-      Int16Field("PrintPlayer", 0),  // bit 0
-      Int16Field("Cart", 2),         // bit 0
-      Int32Field("IDNum", 4),        // 1 or more: a golfer; -1: never used again; else free
+      Int16Field("PrintPlayer", 0),  // in bit 0
+      Int16Field("Cart", 2),         // in bit 0
+      Int32Field("IDNum", 4),        // 1 or more: a golfer; -1: never used again; other: free
       Int16Field("Rosters", 8).By(quenby_fields::kOfFour),
       TextField("NameFirst", 16, 11),
       TextField("NameLast", 27, 16),
-      ByteField("Sex", 43),  // 0 male, 1 female
+      ByteField("Sex", 43),  // 0: male, 1: female
       TextField("AddressHomeLine", 44, 30).By(quenby_fields::kOfFour),
       TextField("AddressWorkLine", 164, 30).By(quenby_fields::kOfFour),
       TextField("PhoneHome", 284, 20),
@@ -139,7 +140,7 @@ struct PlayerLayout {
       TextField("GroupText", 404, 20),
       TextField("Flight", 424, 1),
       Int16Field("GroupTee", 425),
-      Int16Field("PreferredTime", 427),  // 0 none, 1 early, 2 middle, 3 late
+      Int16Field("PreferredTime", 427),  // 0: none, 1: early, 2: middle, 3: late
       TextField("ReportFlags", 429, 12),
       SingleField("Index", 441),
       SingleField("Handicap", 445),
@@ -155,15 +156,15 @@ struct PlayerLayout {
   });
 };
 
-// A golfer's entry of a tournament's ".Q9G" file.
+// Describes a golfer's entry of a tournament's ".Q9G" file.
 struct TournamentPlayerLayout {
   static constexpr std::string_view kName = "tournament player";
   static constexpr std::size_t kLength = 3052;
   static constexpr auto kFields = std::to_array<Field>({
-      Int16Field("TourRosterRecordPointer", 0),  // record of QBGOLFER.Q9D; 0 free
+      Int16Field("TourRosterRecordPointer", 0),  // record of QBGOLFER.Q9D; 0: free
       Int16Field("TourTeamOn", 2).By(quenby_fields::kByRound),
       Int16Field("TourTeamPositionIn", 16).By(quenby_fields::kByRound),
-      Int16Field("TourFlags", 30).By(quenby_fields::kByRound),  // bit 0 locked; 1 sent to Kelvane
+      Int16Field("TourFlags", 30).By(quenby_fields::kByRound),  // bit 0: locked, bit 1: sent
       KeptBytes(44, 14),
       SingleField("TourIndex", 58).By(quenby_fields::kByRound),
       SingleField("TourGrossHandicap", 86).By(quenby_fields::kByRound),
@@ -189,7 +190,7 @@ struct TournamentPlayerLayout {
   });
 };
 
-// A team of a tournament's ".Q9T" file; its record number is the team's number.
+// Describes a team of a tournament's ".Q9T" file. Its record number is the number of the team.
 struct TeamLayout {
   static constexpr std::string_view kName = "team";
   static constexpr std::size_t kLength = 1339;
@@ -198,7 +199,7 @@ struct TeamLayout {
       TextField("Sponsor", 40, 40),
       TextField("Flight", 80, 1).By(quenby_fields::kByRound),
       Int16Field("CourseNumberPlayed", 87).By(quenby_fields::kByRound),
-      SingleField("TeeTimeValue", 101).InEach(quenby_fields::kByRound, 8),  // fraction of a day
+      SingleField("TeeTimeValue", 101).InEach(quenby_fields::kByRound, 8),  // a fraction of a day
       KeptBytes(105, 4).InEach(quenby_fields::kByRound, 8),
       TextField("TeeStartHole", 157, 3).InEach(quenby_fields::kByRound, 6),
       KeptBytes(160, 3).InEach(quenby_fields::kByRound, 6),

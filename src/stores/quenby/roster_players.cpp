@@ -148,7 +148,8 @@ std::string RosterPlayers::NameLF() const {
   return name.starts_with(',') ? std::string() : name;
 }
 
-// Without a last name there is no trailing blank. Without a first name there is a leading one.
+// Returns the first name alone if there is no last name. Returns a blank and the last name if there
+// is no first name.
 std::string RosterPlayers::NameFL() const {
   const std::string last = NameLast();
   return last.empty() ? NameFirst() : NameFirst() + " " + last;

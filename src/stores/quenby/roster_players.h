@@ -11,16 +11,17 @@
 
 namespace golf {
 
-// Records before this one are never used for a golfer.
+// Lower records are never used for a golfer.
 inline constexpr std::int16_t kFirstGolferRecord = 10;
-// The ID of a record that is never used again.
+// This is the ID of a record that is never used again.
 inline constexpr std::int32_t kNeverAgain = -1;
 
-// The golfers of all Quenby rosters, QBGOLFER.Q9D in StoreDataPath, with one golfer in a buffer. It
-// is the first storey of a player. Getters trim texts; setters trim them and cut them to the width
-// of their field. A getter that mends replaces a stored value out of its range, in the buffer only.
-// An index out of its range raises error 9, a number too large for its field error 6. Functions on
-// files raise the errors of FileTable.
+// Reads and writes the golfers of all Quenby rosters, in the file QBGOLFER.Q9D of StoreDataPath.
+// The buffer contains one golfer. This is the base class of the tournament players. Getters trim
+// texts. Setters trim them and cut them to the width of their field. A getter marked "corrects"
+// replaces a stored value that is out of its range, in the buffer only. An index out of its range
+// raises error 9. A number too large for its field raises error 6. Functions on files raise the
+// errors of FileTable.
 class RosterPlayers {
  public:
   explicit RosterPlayers(SharedState& state) : state_(state) {}
@@ -33,44 +34,45 @@ class RosterPlayers {
   bool IsRosterFileOpen() const { return file_ > 0; }
   std::int32_t RosterFileLength();
   void BlankPlayerRecord();
-  // Returns the first free record from `start` on. If there is none, returns the record behind the
-  // end of the file, or `start` if that is higher. A lower `start` is set to 10. The buffer holds
-  // the last record read.
+  // Returns the first free record from `start` on. Returns the record after the end of the file, or
+  // `start` if that is higher, if no record is free. First raises `start` to 10 if it is lower.
+  // Afterwards the buffer contains the last record read.
   std::int32_t FindAvailableRecordInRosterFile(std::int16_t& start);
   // Returns the number of the record in the buffer, in the format "000".
   std::string RecordNumber() const;
   bool PlayerExists() const { return player_.Get<"IDNum">() >= 1; }
 
   bool PrintPlayer() const { return IsFlagged<"PrintPlayer">(); }
-  // "Y" sets the flag, any other text clears it.
+  // Sets the flag for "Y", and clears it for any other text.
   void SetPrintPlayer(std::string_view value);
   int Cart() const { return IsFlagged<"Cart">() ? 1 : 0; }
   void SetCart(bool value) { SetFlag<"Cart">(value); }
   std::string CartString() const { return IsFlagged<"Cart">() ? "Y" : " "; }
 
-  // Returns the ID as text, empty for a record without a golfer.
+  // Returns the ID as text, or an empty text for a record without a golfer.
   std::string IDNum() const;
   void SetIDNum(double value);
   std::int32_t StoredID() const { return player_.Get<"IDNum">(); }
 
-  // Roster numbers in slots 1 to 4; 0 is none. SetRosters clears the same number in the other slots
-  // 1 to 3, and then moves the slots 1 to 3 up so that no empty slot precedes a used one.
+  // Return or set the roster numbers in slots 1 to 4. 0 means no roster. SetRosters clears the same
+  // number in the other slots 1 to 3. Then it moves these three slots up, so that no empty slot
+  // precedes a used one.
   std::int16_t Rosters(int n) const { return player_.Get<"Rosters">(n); }
   void SetRosters(int n, double value);
-  // Returns the names of the golfer's rosters in slots 1 to 3 for 0, or for 1 to 4 the text of the
-  // box of that slot, with the roster number at its end. Reads the roster list of the shared
-  // Program.
+  // Returns the names of the rosters in slots 1 to 3 if `which` is 0. If `which` is 1 to 4, returns
+  // the display text of that slot, with the roster number at its end. Reads the roster list of the
+  // shared Program.
   std::string RosterNames(int which);
 
   std::string NameFirst() const { return Text<"NameFirst">(); }
   void SetNameFirst(std::string_view value) { SetText<"NameFirst">(value); }
   std::string NameLast() const { return Text<"NameLast">(); }
   void SetNameLast(std::string_view value) { SetText<"NameLast">(value); }
-  // Returns "Last, First", or an empty text without a last name.
+  // Returns "Last, First". Returns an empty text if there is no last name.
   std::string NameLF() const;
   std::string NameFL() const;
 
-  std::uint8_t SexIndice();  // mends to 0
+  std::uint8_t SexIndice();  // corrects to 0
   std::string sex() const { return player_.Get<"Sex">() == 0 ? "M" : "F"; }
   void Setsex(std::string_view value);
 
@@ -101,34 +103,36 @@ class RosterPlayers {
   std::string MiscInTourText(int n) const { return Text<"MiscInTourText">(n); }
   void SetMiscInTourText(int n, std::string_view value) { SetText<"MiscInTourText">(n, value); }
 
-  std::string Flight();  // mends to "A"
+  std::string Flight();  // corrects to "A"
   void SetFlight(std::string_view value);
-  std::int16_t GroupTee();  // mends to 1
+  std::int16_t GroupTee();  // corrects to 1
   // Sets `value` to 1 in place if it is outside 1 to 5.
   void SetGroupTee(double& value);
   std::string PreferredTime() const;  // "Early", "Middle", "Late" or "None"
   void SetPreferredTime(std::string_view value);
 
-  // The handicap index in strokes. A negative index is a plus index: Index() shows it with a plus
-  // sign, IndexValue() with a minus sign, both with one decimal.
+  // Return or set the handicap index in strokes, with one decimal. A negative index is a plus
+  // index. Index() shows it with a plus sign, IndexValue() with a minus sign.
   std::string Index() const;
   std::string IndexValue() const;
   void SetIndex(double value) { player_.Set<"Index">(CheckedSingle(value)); }
-  // The handicap in strokes, as text with two decimals or none. A negative handicap is a plus
-  // handicap: Handicap() shows it with a plus sign, HandicapValue() with a minus sign.
+  // Return or set the handicap in strokes. The getters return text with two decimals or none. A
+  // negative handicap is a plus handicap. Handicap() shows it with a plus sign, HandicapValue()
+  // with a minus sign.
   std::string Handicap(bool decimals) const;
   std::string HandicapValue(bool decimals) const;
   void SetHandicap(double value) { player_.Set<"Handicap">(CheckedSingle(value)); }
 
   DateValue MiscDate(int n) const { return player_.Get<"MiscDate">(n); }
   void SetMiscDate(int n, DateValue value) { player_.Set<"MiscDate">({n}, value); }
-  // Returns the date in the date format of the shared state, or an empty text for an n other than 1
+  // Returns the date in the date format of the shared state. Returns an empty text if `n` is not 1
   // or 2.
   std::string MiscDateString(int n) const;
   DateValue DueDate() const { return player_.Get<"DueDate">(); }
   void SetDueDate(DateValue value) { player_.Set<"DueDate">(value); }
   std::string DueDateString() const;
-  // The setters take the amount times 10000. The getters return it in the format "0.00".
+  // The parameter of a setter is the amount times 10000. A getter returns the amount in the format
+  // "0.00".
   std::string MiscCurrency(int n) const;
   void SetMiscCurrency(int n, std::int64_t value) { player_.Set<"MiscCurrency">({n}, value); }
   std::string DueAmount() const;
@@ -137,11 +141,13 @@ class RosterPlayers {
  protected:
   SharedState& state() const { return state_; }
 
-  // Reads a golfer's record into the buffer. Returns false and reads nothing for a number below 1.
+  // Reads a golfer's record into the buffer. Returns false and reads nothing if the number is below
+  // 1.
   bool ReadPlayer(std::int32_t record);
   void WritePlayer();
 
-  // By round: true if the results must be calculated again. Every read and save sets all of them.
+  // Contains an element per round. It is true if the results must be calculated again. Every read
+  // and save sets all elements.
   std::array<bool, kRounds> recalculate_{};
 
   std::int32_t held_ = 0;            // the number of the record in the buffer
@@ -168,7 +174,7 @@ class RosterPlayers {
   bool IsFlagged() const {
     return (player_.Get<kName>() & 1) != 0;
   }
-  // Clearing the flag also clears the bits 9 to 15.
+  // Clearing the flag also clears bits 9 to 15.
   template <FieldName kName>
   void SetFlag(bool value) {
     const int word = player_.Get<kName>();
@@ -182,8 +188,8 @@ class RosterPlayers {
   Record<PlayerLayout> player_;
 };
 
-// Convert between 1, 2, 3 and "Early", "Middle", "Late". Any other number gives "None", any other
-// text 0.
+// Convert between 1, 2, 3 and "Early", "Middle", "Late". Any other number is converted to "None",
+// and any other text to 0.
 std::string PreferredTimeName(int number);
 std::int16_t PreferredTimeNumber(std::string_view name);
 

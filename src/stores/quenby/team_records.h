@@ -12,9 +12,9 @@
 
 namespace golf {
 
-// The teams of a tournament, the ".Q9T" file, with one team in a buffer. It is the first storey of
-// a team. An omitted round is the active round of the shared tournament. "Mends" and errors as for
-// RosterPlayers.
+// Reads and writes the teams of a tournament, in its ".Q9T" file. The buffer contains one team. An
+// omitted round is the active round of the shared tournament. "Corrects" and the errors have the
+// same meaning as in RosterPlayers.
 class TeamRecords {
  public:
   explicit TeamRecords(SharedState& state) : state_(state) {}
@@ -24,7 +24,7 @@ class TeamRecords {
 
   void OpenTeamFile(std::int32_t tournament);
   void CloseTeamFile();
-  // Deletes the file. A failure raises no error.
+  // Deletes the file. Ignores an error.
   void DeleteTeamFile(std::int32_t tournament);
   // Reads a team, 1 to 199. Returns false and reads nothing for any other number.
   bool GetRecord(std::int32_t team);
@@ -33,21 +33,21 @@ class TeamRecords {
   void BlankTeamRecord();
   std::int16_t TeamNumber() const { return number_; }
 
-  // Returns the team's name. If the tournament names teams by their players, returns the last names
-  // of the team's golfers in the active round, and the player buffers hold another entry
+  // Returns the name of the team. Returns the last names of its golfers in the active round if the
+  // tournament names teams by their players. In that case the player buffers contain another entry
   // afterwards.
   std::string TeamName();
   void SetTeamName(std::string_view value);
   std::string Sponsor() const;
   void SetSponsor(std::string_view value);
-  std::string Flight(OptionalRound round = {});  // mends to "A"
+  std::string Flight(OptionalRound round = {});  // corrects to "A"
   void SetFlight(OptionalRound round, std::string_view value);
-  // The tee time as a fraction of a day. The setter keeps only the fraction of `value`, without its
-  // sign.
+  // Return or set the tee time as a fraction of a day. The setter stores only the fraction of
+  // `value`, without its sign.
   float TeeTimeValue(OptionalRound round = {}) const;
   void SetTeeTimeValue(OptionalRound round, double value);
-  std::string TeeTimeHHMMAMPM(OptionalRound round = {}) const;  // "05:00 pm"
-  std::string TeeStartHole(OptionalRound round = {});           // "01", "10B"; mends
+  std::string TeeTimeHHMMAMPM(OptionalRound round = {}) const;  // for example "05:00 pm"
+  std::string TeeStartHole(OptionalRound round = {});  // for example "01" or "10B"; corrects
   void SetTeeStartHole(OptionalRound round, std::string_view value);
   std::string Cart1(OptionalRound round = {}) const;
   void SetCart1(OptionalRound round, std::string_view value);
@@ -55,7 +55,7 @@ class TeamRecords {
   void SetCart2(OptionalRound round, std::string_view value);
   std::int16_t CourseNumberPlayed(OptionalRound round = {}) const;
   void SetCourseNumberPlayed(OptionalRound round, double value);
-  // Returns the course's name and makes that course current in the shared course object.
+  // Returns the name of the course, and makes that course current in the shared course object.
   std::string CourseNamePlayed(OptionalRound round = {});
 
  protected:
@@ -63,11 +63,12 @@ class TeamRecords {
   int RoundOr(OptionalRound round) const;
 
   // Reads the entries of the team's golfers in a round into the player buffers, in team order.
-  // Calls `action` with the record number of each until it returns false. A team number above the
+  // Calls `action` with the record number of each entry until it returns false. A team above the
   // tournament's number of teams has no golfers.
   void ForEachGolfer(int round, const std::function<bool(std::int32_t record)>& action);
 
-  // By round: true if the results must be calculated again. Every read and save sets all of them.
+  // These tables have an element per round. It is true if the results must be calculated again.
+  // Every read and save sets all elements.
   std::array<bool, kRounds> recalculate_{};
   std::array<bool, kRounds> recalculate_holes_{};
 

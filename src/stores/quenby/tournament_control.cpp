@@ -16,11 +16,11 @@ constexpr std::int32_t kDefaults = -1;
 constexpr std::string_view kCurrentVersion = "2005";
 constexpr std::string_view kNewTeamNames = "Team #";
 
-// Points of a new tournament, by score minus par from -5 on.
+// Contains the points of a new tournament by score minus par, from -5 to 5.
 constexpr int kNewPoints[] = {8, 8, 8, 8, 4, 2, 1, 0, 0, 0, 0};
 
-// Returns the number at the start of a text, rounded to a whole one. A number outside 0 to 100 is
-// replaced.
+// Returns the number at the start of a text, rounded to a whole number. Returns the replacement for
+// a number outside 0 to 100.
 std::int32_t Percentage(std::string_view text, double replacement) {
   return LimitNumber(text, 0, 100, replacement, replacement);
 }
@@ -68,7 +68,7 @@ void TournamentControl::GetRecord() {
   BringUpToDate();
 }
 
-// Fills the fields that an older release did not have, also in a buffer that never held a record.
+// Fills the fields that a record of an older release lacks. Also does this in an empty buffer.
 void TournamentControl::BringUpToDate() {
   if (record_.Get<"Version">() == kCurrentVersion) return;
   record_.Fill<"HandicapMax">(99);

@@ -12,19 +12,20 @@
 
 namespace golf {
 
-// A round, 1 to 7. An omitted round is the active round of the shared tournament object.
+// Holds a round, 1 to 7. An omitted round is the active round of the shared tournament object.
 using OptionalRound = std::optional<int>;
 
-// Returns the name of a file of a tournament without its folder: "X0012" and the extension.
+// Returns the name of a tournament's file without its folder, for example "X0012.Q9C".
 std::string TournamentFileName(std::int32_t tournament, std::string_view extension);
-// Returns the tournament whose control file has this name, or no value if it is not the name of a
-// control file.
+// Returns the tournament whose control file has this name. Returns no value if no control file can
+// have this name.
 std::optional<std::int32_t> TournamentOfFile(std::string_view name);
 
-// The control record of a tournament, one file at a time in StoreDataPath. It is the base of
-// TournamentClass. A getter that mends replaces a stored value out of its range in the buffer, and
-// the next save writes it. An index out of its range raises error 9, a number too large for its
-// field error 6. Functions on files raise the errors of FileTable.
+// Reads and writes the control record of a tournament in StoreDataPath. One control file is open at
+// a time. This is the base class of TournamentClass. A getter marked "corrects" replaces a stored
+// value that is out of its range in the buffer, and the next save writes it. An index out of its
+// range raises error 9. A number too large for its field raises error 6. Functions on files raise
+// the errors of FileTable.
 class TournamentControl {
  public:
   explicit TournamentControl(SharedState& state) : state_(state) {}
@@ -32,15 +33,15 @@ class TournamentControl {
   TournamentControl& operator=(const TournamentControl&) = delete;
   virtual ~TournamentControl() = default;
 
-  // Opens the control file; -1 is the file of defaults. A missing file is created empty.
+  // Opens the control file of a tournament, or the file of defaults for -1. Creates a missing file.
   void OpenTournamentControlFile(std::int32_t tournament);
   void CloseTournamentControlFile();
   // Fills the buffer for a new tournament, writes its team file and opens its control file. Does
   // not write the control record.
   void CreateBlankTournament(std::int32_t tournament);
   void DeleteTournamentControlFile(std::int32_t tournament);
-  // Reads the control record. An empty file leaves the buffer unchanged. A record of an older
-  // release is brought up to date in the buffer.
+  // Reads the control record. Leaves the buffer unchanged if the file is empty. Adds the missing
+  // fields to a record of an older release, in the buffer only.
   void GetRecord();
   void SaveRecord();
   std::int32_t IDNum() const { return id_; }
@@ -48,8 +49,8 @@ class TournamentControl {
   std::string Name() const;
   void SetName(std::string_view value);
 
-  // These getters return decimal text and mend: rounds 1 to 5, teams 1 to 200, flights 1 to 26,
-  // tees 0 to 5.
+  // These getters return decimal text and correct the stored value. The ranges are: rounds 1 to 5,
+  // teams 1 to 200, flights 1 to 26, tees 0 to 5.
   std::string NumRounds() { return std::to_string(RoundCount()); }
   void SetNumRounds(double value) { SetInt16<"NumRounds">(value); }
   std::string NumTeams() { return std::to_string(TeamCount()); }
@@ -62,17 +63,17 @@ class TournamentControl {
   void SetNumTeesMenPlay(double value) { SetInt16<"NumTeesMenPlay">(value); }
   std::string NumTeesLadiesPlay() { return std::to_string(TeeCount(1)); }
   void SetNumTeesLadiesPlay(double value) { SetInt16<"NumTeesLadiesPlay">(value); }
-  // These return the same values as numbers, and mend too.
+  // These functions return the same values as numbers. They correct the stored value too.
   int RoundCount() { return Mended<"NumRounds">(1, 5); }
   int TeamCount() { return Mended<"NumTeams">(1, kMostTeams); }
   int FlightCount() { return Mended<"NumFlights">(1, kMostFlights); }
-  int TeeCount(int group);  // 0 men, 1 ladies
-  // Returns the larger of the two tee counts, at least 1.
+  int TeeCount(int group);  // 0: men, 1: ladies
+  // Returns the larger of the two tee counts, but at least 1.
   int NumTeeGroups();
 
   std::int16_t NumPlayersPerTeam() const { return record_.Get<"NumPlayersPerTeam">(); }
   void SetNumPlayersPerTeam(double value) { SetInt16<"NumPlayersPerTeam">(value); }
-  // These getters mend to the lowest value of their range, RoundType to 18.
+  // These getters correct a value to the lowest one of its range, and RoundType to 18.
   std::int16_t RoundType();  // 18 or 9
   void SetRoundType(double value) { SetInt16<"RoundType">(value); }
   std::int16_t TeamHandicapOption() { return MendedOption<"TeamHandicapOption">(1, 3); }
@@ -88,7 +89,8 @@ class TournamentControl {
   std::int16_t TeamFlightsDeterminedBy() { return MendedOption<"TeamFlightsDeterminedBy">(0, 4); }
   void SetTeamFlightsDeterminedBy(double value) { SetInt16<"TeamFlightsDeterminedBy">(value); }
 
-  // These getters return 1 if the option is on, else 0. HandicapDecimalPlaces returns 2 or 0.
+  // These getters return 1 if the option is on, and otherwise 0. HandicapDecimalPlaces returns 2 or
+  // 0.
   int IndextoHandicap() const { return IsOn<"IndextoHandicap">() ? 1 : 0; }
   void SetIndextoHandicap(bool on) { SetFlag<"IndextoHandicap">(on); }
   int HandicapDecimalPlaces() const { return IsOn<"HandicapDecimalPlaces">() ? 2 : 0; }
@@ -100,8 +102,9 @@ class TournamentControl {
   int ShowTeamsonSheet() const { return IsOn<"ShowTeamsonSheet">() ? 1 : 0; }
   void SetShowTeamsonSheet(bool on) { SetFlag<"ShowTeamsonSheet">(on); }
 
-  // The getters return text in the format "0". A set value outside 0 to 100 is replaced by 25
-  // percent for TeamHandicapPercent and by 36 points for PointQuotaFromHandicap.
+  // The getters return text in the format "0". If a set value is outside 0 to 100,
+  // SetTeamHandicapPercent stores 25 percent instead, and SetPointQuotaFromHandicap stores 36
+  // points.
   std::string TeamHandicapPercent() const;
   void SetTeamHandicapPercent(std::string_view value);
   std::string PointQuotaFromHandicap() const;
@@ -109,27 +112,28 @@ class TournamentControl {
   std::string PointsGiven(int difference) const;  // by score minus par, -5 to 5
   void SetPointsGiven(int difference, double value);
 
-  // Returns the date in the date format of the shared state, or an empty text for a round outside 1
-  // to 7.
+  // Returns the date in the date format of the shared state. Returns an empty text if the round is
+  // outside 1 to 7.
   std::string DateofRound(OptionalRound round = {});
   void SetDateofRound(OptionalRound round, DateValue value);
   std::int16_t CourseNumberPlayed(OptionalRound round = {});
   void SetCourseNumberPlayed(OptionalRound round, double value);
-  // Return the name, and make that course current in the shared course object.
+  // Return the name, and make the course current in the shared course object.
   std::string CourseNamePlayed(OptionalRound round = {});
   std::string TeeNamePlayed(int group, int n, OptionalRound round = {});
 
   std::int16_t TeeNumberPlayed(int group, int n, OptionalRound round = {});
   void SetTeeNumberPlayed(int group, int n, OptionalRound round, double value);
-  // The percentage of the handicap that counts. A set value above 200 or below 1 becomes 100.
+  // Return or set the percentage of the handicap that counts. The setter replaces a value above 200
+  // or below 1 by 100.
   float TeeHandicapPercent(int group, int n, OptionalRound round = {});
   void SetTeeHandicapPercent(int group, int n, OptionalRound round, double value);
-  // In strokes. The setter takes text.
+  // Return or set the adjustment of the handicap in strokes. The parameter of the setter is text.
   float TeeHandicapAdjustment(int group, int n, OptionalRound round = {});
   void SetTeeHandicapAdjustment(int group, int n, OptionalRound round, std::string_view value);
 
   std::string ActiveRound() const;
-  // Sets the active round. A value outside 1 to the stored number of rounds becomes 1.
+  // Sets the active round. Sets it to 1 if the value is outside 1 to the stored number of rounds.
   void SetActiveRound(double value);
   int RoundOr(OptionalRound round) const { return round.value_or(record_.Get<"ActiveRound">()); }
 
@@ -165,11 +169,11 @@ class TournamentControl {
     record_.Set<"TeamSheetColumnSortedHow">({i}, value ? -1 : 0);
   }
 
-  // The highest handicap of a group, in strokes. The getter returns text in the format "0.00". A
-  // negative value set becomes 0.
+  // Return or set the highest handicap of a group, in strokes. The getter returns text in the
+  // format "0.00". The setter replaces a negative value by 0.
   std::string HandicapMax(int group) const;
   void SetHandicapMax(int group, double value);
-  // The pattern of new team names. An empty one is set to "Team #".
+  // Return or set the pattern of new team names. The setter replaces an empty pattern by "Team #".
   std::string TeamNamesMat() const;
   void SetTeamNamesMat(std::string_view value);
   std::int32_t PlayerFlightRange(int i) const { return record_.Get<"PlayerFlightRange">(i); }
@@ -177,11 +181,11 @@ class TournamentControl {
   std::int32_t TeamFlightRange(int i) const { return record_.Get<"TeamFlightRange">(i); }
   void SetTeamFlightRange(int i, double value);
 
-  // Returns the number of live entries of the open player file. The player buffers hold the last
-  // record read.
+  // Returns the number of entries with a golfer in the open player file. Afterwards the player
+  // buffers contain the last record read.
   std::int32_t NumPlayersInTournament();
 
-  // Returns the record itself, for calculations with its numbers. Nothing is mended.
+  // Returns the record itself, for calculations with its numbers. Its values are not corrected.
   const Record<TournamentLayout>& Stored() const { return record_; }
 
  protected:

@@ -1,4 +1,4 @@
-// The entry of a tournament player in the buffer: getters and setters of its fields.
+// This file contains the getters and setters of the entry of a tournament player in the buffer.
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ namespace {
 constexpr int kMostPutts = 200;
 constexpr double kMostAdjusted = 250;
 
-// Bits of the flag word. Clearing one also clears the bits 9 to 15.
+// These are the bits of the flag word. Clearing one of them also clears bits 9 to 15.
 constexpr int kLocked = 1;
 constexpr int kSentToKelvane = 2;
 constexpr int kLowBits = 0x1FF;

@@ -1,4 +1,4 @@
-// The file of a tournament's players and their index by team.
+// This file reads and writes the file of a tournament's players and maintains the index by team.
 
 #include "stores/quenby/tournament_players.h"
 
@@ -16,7 +16,7 @@ namespace {
   throw NumberedError(ErrorNumber::kSubscript, "The index by teams has no such place.");
 }
 
-// Returns an element of a table that counts from 0. Error 9 if there is none.
+// Returns an element of a table that counts from 0. Raises error 9 if there is no such element.
 template <class Vector>
 auto& ElementOf(Vector& table, std::int64_t i) {
   if (i < 0 || i >= static_cast<std::int64_t>(table.size())) FailIndex();
@@ -147,7 +147,8 @@ void TournamentPlayers::IndexPlayersByTeam() {
   index_stale_ = false;
 }
 
-// Sorts the records of the live entries by team and place into records_. Returns their number.
+// Stores the records of the entries with a golfer in records_, sorted by team and position. Returns
+// their number.
 std::int32_t TournamentPlayers::SortedEntries(int round, int teams, std::int32_t length) {
   keys_.clear();
   records_.clear();
@@ -175,7 +176,7 @@ void TournamentPlayers::IndexRound(int round, int teams, std::int32_t length) {
       SaveRecord(record, true);
     }
     const int team = TourTeamOn(round);
-    // No caller asks for a team below 0.
+    // No caller requests a team below 0.
     if (team != team_before && team >= 0) ElementOf(OfRound(first_on_team_, round), team) = place;
     team_before = team;
   }

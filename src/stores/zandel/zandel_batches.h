@@ -10,33 +10,34 @@
 
 namespace golf {
 
-// The code of the scores before event e is this number plus e.
+// The batch code of the scores before event e is this number plus e.
 inline constexpr int kNonEventCode = 500;
 
-// The scores of a league that are posted together: those of an event, or the non-event scores that
-// were played before it.
+// Describes the scores of a league that are posted together. They are the scores of one event, or
+// the non-event scores played before it.
 struct ScoreBatch {
-  int code;  // the event's number, or 500 more for the scores before it; 501 is practice
+  int code;  // number of the event; plus 500 for the scores before it; 501: practice
   std::string text;
-  std::size_t blanks;  // between text and code, so that a list does not show the code
+  std::size_t blanks;  // blanks between text and code; they keep the code out of sight in a list
 
-  // Returns the item for a list: text, blanks and code.
+  // Returns the list item, which consists of text, blanks and code.
   std::string Item() const;
 };
 
-// Return the code at the end of such an item, and the text in front of it.
+// Return the code at the end of such an item, and the text before it.
 int BatchCode(std::string_view item);
 std::string BatchHeading(const std::string& item);
 
 struct ScoreBatches {
   std::vector<ScoreBatch> list;
-  // Index of the batch that is selected first: the current event, or practice. -1: none.
+  // This is the index of the batch that is selected first: the current event, or practice. -1 means
+  // none.
   int selected = 0;
 };
 
-// Closes the league files, opens those of the league chosen from the list and reads its batches. If
-// the base is not a valid file name or LeadingNumber of it is 0, returns no value and leaves the
-// files closed. Raises the errors of FileTable.
+// Closes the league files, opens those of the league chosen from the list, and reads its batches.
+// Returns no value and leaves the files closed if the base is not a valid file name or its
+// LeadingNumber is 0. Raises the errors of FileTable.
 std::optional<ScoreBatches> LoadScoreBatches(SharedState& state, std::string_view chosen);
 
 }  // namespace golf

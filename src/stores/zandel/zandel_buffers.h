@@ -5,7 +5,8 @@
 
 namespace golf {
 
-// The one buffer of the process for each Zandel record. They outlive InitSharedObjects.
+// Contains one buffer for each Zandel record. There is one such object in the process. It remains
+// when InitSharedObjects replaces the other objects.
 struct ZandelBuffers {
   Record<LeagueControlLayout> control;
   Record<LeaguePlayerLayout> player;  // a player or a substitute

@@ -10,11 +10,11 @@ namespace golf {
 namespace {
 
 constexpr std::size_t kBaseLength = 5;
-constexpr std::size_t kLeagueLength = 4;  // of a base, without its division
+constexpr std::size_t kLeagueLength = 4;  // the length of a base without its division
 constexpr std::size_t kBlanksBeforeBase = 60;
 constexpr const char* kControlExtension = ".ZL8";
 
-// A file of a league. The table lists them in the order in which they are opened.
+// Describes a file of a league. The table contains the files in the order of opening.
 struct LeagueFile {
   int number;
   bool of_league;  // true for a file that the divisions share
@@ -97,7 +97,7 @@ std::vector<ListedLeague> ListLeagues(SharedState& state) {
   for (const std::string& name : files.FilesLike(state.ZDDataPath, "0*.ZL8")) {
     const std::string base = name.substr(0, kBaseLength);
     const std::string file = base + kControlExtension;
-    // A name of another length gives the name of a file that may not exist. Listing must not create
+    // The base of a name of another length may belong to no file. Opening such a file would create
     // it.
     if (!EqualIgnoringCase(name, file) && !LeagueExists(state, base)) continue;
     ReadControlOnce(state, state.ZDDataPath + file);
