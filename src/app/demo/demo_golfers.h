@@ -5,7 +5,7 @@
 
 namespace golf {
 
-// A golfer of the demonstration data.
+// Describes a golfer of the demonstration data.
 struct DemoGolfer {
   int id;
   std::string_view first;
