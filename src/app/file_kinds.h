@@ -10,7 +10,7 @@ namespace golf {
 
 // Describes a kind of file of Kelvane, Quenby or Zandel.
 struct FileKind {
-  std::string_view name;  // in capitals; "*" at the start stands for any text
+  std::string_view name;  // in capitals; "*" at the start matches any text
   LayoutInfo layout;
 };
 

@@ -446,7 +446,7 @@ int RunCommandLine(int argc, const char* const* argv) {
   AddCommands(app, options, arguments, chosen);
   try {
     std::vector<std::string> words = Utf8Arguments(argc, argv);
-    std::reverse(words.begin(), words.end());  // the parser takes the last word first
+    std::reverse(words.begin(), words.end());  // the parser needs the last word first
     app.parse(std::move(words));
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? static_cast<int>(ExitCode::kDone)

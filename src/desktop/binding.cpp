@@ -169,7 +169,7 @@ void Binding::HoldInput(bool held) {
   if (held_ == held) return;
   held_ = held;
   changed_ = true;
-  shown_focus_ = nullptr;  // the toolkit takes the focus from disabled widgets
+  shown_focus_ = nullptr;  // the toolkit removes it from disabled widgets
   Refresh();
 }
 
