@@ -1,4 +1,5 @@
-# Options that all targets share, and a function that makes the library of a room.
+# Defines the compiler options of all targets, and a function that creates the library of a room. A
+# room is a folder of the source; see docs/architecture.md.
 
 add_library(golf_options INTERFACE)
 target_compile_options(golf_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
@@ -6,8 +7,8 @@ if(GOLF_WARNINGS_ARE_ERRORS)
   target_compile_options(golf_options INTERFACE -Werror)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # This release warns falsely where strings are joined or copied (GCC bug 105651 and its kin): of
-  # overlaps, and at -O3 also of writes past the end.
+  # This release gives false warnings where texts are joined or copied (GCC bug 105651 and related
+  # ones): about overlaps, and at -O3 also about writes past the end of a buffer.
   target_compile_options(golf_options INTERFACE -Wno-restrict -Wno-stringop-overflow -Wno-array-bounds)
 endif()
 target_include_directories(golf_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
@@ -17,17 +18,19 @@ if(GOLF_SANITIZE)
   target_link_options(golf_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# The system whose seams are built: core/platform_*, cli/console_*, and the tests' own.
+# GOLF_SYSTEM selects the source files that exist once for each system: core/platform_*,
+# cli/console_* and some files of the tests.
 set(GOLF_SYSTEM posix)
 if(WIN32)
   set(GOLF_SYSTEM windows)
-  # Optimizing, this compiler warns falsely of what an empty optional holds (GCC bug 80635).
+  # With optimization, this compiler gives false warnings about the value of an empty optional (GCC
+  # bug 80635).
   target_compile_options(golf_options INTERFACE -Wno-maybe-uninitialized)
 endif()
 
-# golf_room(NAME SOURCES... USES targets... HEADERS headers...): the static library golf_NAME. The
-# standard headers are compiled once for all rooms; a room that names heavy headers of its own
-# compiles those once for itself.
+# golf_room(NAME SOURCES... USES targets... HEADERS headers...) creates the static library
+# golf_NAME. The standard headers are precompiled once for all rooms. A room with HEADERS
+# precompiles these and the standard headers for itself.
 set(standard_headers <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <string>
                      <string_view> <utility> <vector>)
 function(golf_room name)

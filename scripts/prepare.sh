@@ -1,5 +1,5 @@
-# What the project needs of the system, and how it is built. run and test source it in the folder of
-# the checkout.
+# Defines the packages that the project needs, and functions that install them and build the
+# project. The scripts run and test source it in the folder of the checkout.
 
 build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev zlib1g-dev)
 test_packages=(libgtest-dev librapidcheck-dev xvfb xauth)
@@ -11,7 +11,8 @@ as_root() {
   if [[ $(id -u) == 0 ]]; then "$@"; else sudo "$@"; fi
 }
 
-# need_packages NAMES... installs the packages that are missing. It uses the network only then.
+# need_packages NAMES... installs the packages that are missing. It uses the network only if there
+# are any.
 need_packages() {
   local package missing=()
   if ! command -v apt-get >/dev/null; then
@@ -29,7 +30,7 @@ need_packages() {
     apt-get -qq install -y --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# build_preset NAME brings build/NAME up to date.
+# build_preset NAME configures and builds build/NAME.
 build_preset() {
   say "Building the $1 preset in build/$1"
   cmake --preset "$1" >/dev/null

@@ -1,5 +1,5 @@
-// make_icon FILE: draws the icon of the programs, a flag and a ball on a green, and writes it in
-// the sizes that Windows shows.
+// make_icon FILE draws the icon of the programs, a flag and a ball on a green, and writes it in the
+// sizes that Windows shows.
 
 #include <algorithm>
 #include <cmath>
@@ -37,8 +37,8 @@ bool InRoundedSquare(double x, double y) {
   return std::hypot(far_x, far_y) <= kRadius;
 }
 
-// Returns the colour at a point of the drawing. Coordinates run from 0 to 1, y downwards. Small
-// sizes need a thicker `pole`.
+// Returns the colour at a point of the drawing. Coordinates are from 0 to 1, with y downwards.
+// Small sizes need a thicker `pole`.
 Colour At(double x, double y, double pole) {
   if (!InRoundedSquare(x, y)) return {};
   if (InEllipse(x, y, 0.31, 0.74, 0.12, 0.12)) {
@@ -82,7 +82,8 @@ class Bytes {
   std::string data_;
 };
 
-// Returns a picture as an icon file holds it: from the lowest row up, with an empty mask behind it.
+// Returns a picture in the format of an icon file: the rows from the lowest up, and then an empty
+// mask.
 std::string Picture(int size) {
   const auto wide = static_cast<std::size_t>(size);
   Bytes bytes;

@@ -1,9 +1,9 @@
-# The resources of an .exe.
+# Adds resources to the Windows programs.
 
 enable_language(RC)
 set(GOLF_PACKAGING ${CMAKE_CURRENT_LIST_DIR})
 
-# A program of the build machine draws the icon.
+# A program that runs on the build machine draws the icon.
 find_program(GOLF_HOST_CXX NAMES g++ c++ REQUIRED)
 set(GOLF_ICON ${PROJECT_BINARY_DIR}/golf-transfer.ico)
 add_custom_command(

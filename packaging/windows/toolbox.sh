@@ -1,6 +1,7 @@
-# The tools and libraries for the Windows programs. The scripts of this folder source it in the
-# folder of the checkout, after scripts/prepare.sh. What takes long to make is kept in a cache
-# outside the checkout, by a hash of everything that it was made from.
+# Provides the tools and libraries for the Windows programs. The scripts of this folder source it in
+# the folder of the checkout, after scripts/prepare.sh. Libraries that take long to build are stored
+# in a cache outside the checkout. The name of the cache folder contains a hash of everything from
+# which they are built.
 
 windows_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build xz-utils zip googletest
                   libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev libz-mingw-w64-dev)
@@ -9,9 +10,9 @@ cache=${XDG_CACHE_HOME:-$HOME/.cache}/golf-transfer
 
 version_of() { dpkg-query -W -f='${source:Version}' "$1"; }
 
-# fetch_wxwidgets FOLDER fetches the source of the same release that the Linux program uses from
-# Debian's archive, and checks its signature. The machine's own list of package sources stays as it
-# is.
+# fetch_wxwidgets FOLDER downloads the source of wxWidgets from Debian's archive, in the same
+# release that the Linux program uses, and checks its signature. It does not change the machine's
+# list of package sources.
 fetch_wxwidgets() {
   local apt=$1/apt file
   mkdir -p "$apt/sources.list.d" "$apt/lists/partial"
@@ -35,7 +36,8 @@ fetch_wxwidgets() {
   tar -C "$1/wxwidgets" --strip-components=1 -xf "$apt"/wxwidgets3.2_*.orig.tar.*
 }
 
-# build_for_windows SOURCE FOLDER PREFIX OPTIONS...
+# build_for_windows SOURCE FOLDER PREFIX OPTIONS... builds the library in SOURCE with CMake in
+# FOLDER and installs it into PREFIX.
 build_for_windows() {
   cmake -G Ninja -S "$1" -B "$2" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
     -DCMAKE_INSTALL_PREFIX="$3" "${@:4}" >"$2.log"
@@ -43,8 +45,8 @@ build_for_windows() {
   cmake --install "$2" >>"$2.log"
 }
 
-# make_libraries sets `libraries` to the folder of all libraries for Windows, and makes the folder
-# if needed.
+# make_libraries sets `libraries` to the folder of all libraries for Windows. It builds them if the
+# folder does not exist.
 make_libraries() {
   local recipe
   recipe=$(

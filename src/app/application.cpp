@@ -35,7 +35,8 @@
 namespace golf {
 namespace {
 
-// Makes new store objects and drops the old ones. The buffers are made once and stay.
+// Creates new store objects, which replace the old ones. The buffers of Kelvane and Zandel are
+// created only once.
 void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   objects.SpareCourse = std::make_shared<CourseClass>(state);
   objects.Course = std::make_shared<CourseClass>(state);
@@ -49,7 +50,7 @@ void MakeStoreObjects(SharedState& state, StoreObjects& objects) {
   if (!objects.Zandel) objects.Zandel = std::make_shared<ZandelBuffers>();
 }
 
-// Opens what the transfers have open when they open the manager of Quenby's rosters.
+// Opens the files that a transfer has open when it opens the manager of Quenby's rosters.
 void OpenForLoadRosters(SharedState& state) {
   state.StoreDataPath = state.QBDataPath;
   state.Program().OpenRosterListFile();

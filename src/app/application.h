@@ -12,14 +12,14 @@
 
 namespace golf {
 
-// Replacements for the system's regional forms of dates and times.
+// Replaces the operating system's formats of dates and times.
 struct RegionalOverrides {
   std::optional<std::string> short_date;
   std::optional<std::string> long_time;
 };
 
-// The assembled program: the platform, the shared state with its store objects, and the screens by
-// their names. A front end adds a host.
+// Creates and owns the platform, the shared state with its store objects, and the transactions. A
+// front end adds a host.
 class Application {
  public:
   explicit Application(std::unique_ptr<Platform> platform);
@@ -27,7 +27,7 @@ class Application {
   SharedState& state() { return state_; }
   static ScreenCatalogue Screens();
 
-  // Prepares the shared state. Must be called before the first screen.
+  // Prepares the shared state. It must be called before the first screen is opened.
   void Start(DateValue now, const RegionalOverrides& overrides);
 
  private:
@@ -37,12 +37,12 @@ class Application {
   Transactions transactions_;
 };
 
-// True if the operator can open a screen of this name directly. Other screens open the message box
-// with a memory, the sort dialog and the screens of one course.
+// True if the operator can open a screen of this name directly. False for the tip box, the sort
+// dialog and the screens of one course, which only other screens open.
 bool CanOpenScreen(const ScreenHost& host, std::string_view name);
 
-// Opens a screen by its name as its opener does, and returns when it is closed. `word` controls the
-// behaviour of the screen; it is often empty. Error 5 if CanOpenScreen is false.
+// Opens a screen by its name, and returns when it is closed. `word` controls the behaviour of the
+// screen; it is often empty. Raises error 5 if CanOpenScreen is false.
 void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name, std::string_view word);
 
 }  // namespace golf

@@ -8,16 +8,16 @@
 
 namespace golf {
 
-// A kind of file that a sibling keeps.
+// Describes a kind of file of Kelvane, Quenby or Zandel.
 struct FileKind {
-  std::string_view name;  // in capitals; "*" at the start stands for any text
+  std::string_view name;  // in capitals; "*" at the start matches any text
   LayoutInfo layout;
 };
 
 std::span<const FileKind> FileKinds();
 
-// Returns the layout of a sibling's file by its name, without a folder and in any case. Nothing for
-// a name that no sibling uses.
+// Returns the layout of a file of Kelvane, Quenby or Zandel by its name, without a folder and
+// without regard to case. Returns nothing for any other name.
 std::optional<LayoutInfo> LayoutOfFile(std::string_view file_name);
 
 }  // namespace golf

@@ -12,15 +12,15 @@
 
 namespace golf {
 
-// Reads single records of an install's files, which it keeps open. Files are named by their paths
-// below the install, with "/". What cannot be read reads as not there.
+// Reads single records of an install's files and keeps the files open. Files are named by their
+// paths below the install, with "/". An unreadable file is treated as a missing one.
 class InstallReader {
  public:
   explicit InstallReader(SharedState& state) : state_(state) {}
 
   SharedState& state() { return state_; }
 
-  // Nothing where the file has no such whole record.
+  // Returns nothing if the file does not have the whole record.
   template <class Layout>
   std::optional<Record<Layout>> Read(std::string_view file, std::int64_t record) {
     Record<Layout> read;
@@ -28,7 +28,7 @@ class InstallReader {
     return read;
   }
 
-  // Calls `each` with every whole record of a file.
+  // Calls `each` with the number, from 1, and the contents of every whole record of a file.
   template <class Layout, class Each>
   void ForEach(std::string_view file, Each each) {
     Record<Layout> read;
@@ -44,7 +44,7 @@ class InstallReader {
   std::map<std::string, std::unique_ptr<PlatformFile>, std::less<>> files_;
 };
 
-// A record with these bytes, which are zeros where there are too few.
+// Returns a record with these bytes. If there are too few, the rest of the record is zeros.
 template <class Layout>
 Record<Layout> RecordOf(std::string_view bytes) {
   Record<Layout> record;

@@ -21,14 +21,15 @@
 namespace golf {
 namespace {
 
-// Who refers to a record, by its number. The first one found stands for all.
+// Maps the number of a record to a text that names something that refers to it. Only the first one
+// found is stored.
 using References = std::map<std::int64_t, std::string>;
 
 std::string Quoted(std::string_view kind, std::string_view name) {
   return std::string(kind).append(" \"").append(name).append("\"");
 }
 
-// Calls `each` with the files of a folder, by their paths below the install.
+// Calls `each` with the path, below the install, of each file of a folder that matches the pattern.
 void ForEachFile(InstallReader& reader, const std::string& folder, std::string_view pattern,
                  const std::function<void(const std::string&)>& each) {
   const HistoryPaths& paths = reader.state().transactions->history().paths();
@@ -37,7 +38,7 @@ void ForEachFile(InstallReader& reader, const std::string& folder, std::string_v
   }
 }
 
-// Quenby's golfers by their record numbers: the tournaments that they play.
+// Maps the record numbers of Quenby's golfers to a tournament that they play in.
 References TournamentsOfGolfers(InstallReader& reader) {
   References references;
   ForEachFile(reader, reader.state().QBDataPath, "*.Q9G", [&](const std::string& file) {
@@ -119,7 +120,8 @@ constexpr ReferenceKind kReferences[] = {{"QBGOLFER.Q9D", TournamentsOfGolfers},
                                          {"ZDCRS.DAT", LeaguesOfCourses},
                                          {"KVCRS.DAT", ScoresOfCourses}};
 
-// Reads who refers to whom when it is asked first.
+// Finds what refers to a record. Reads the references to the records of a file on the first query
+// for that file.
 class ReferenceIndex {
  public:
   std::string Find(InstallReader& reader, std::string_view file, std::int64_t record) {
@@ -138,7 +140,8 @@ class ReferenceIndex {
   std::map<std::string, References> known_;
 };
 
-// A deleted golfer, course or roster keeps his name.
+// True if both records have the same name and it is not blank. A deleted golfer, course or roster
+// keeps its name in its record, so that this recognises a record that was restored.
 bool HaveSameName(std::string_view file, std::string_view remains, std::string_view bytes) {
   const auto layout = LayoutOfFile(FileNameOf(file));
   if (!layout) return false;
@@ -153,7 +156,8 @@ bool HaveSameName(std::string_view file, std::string_view remains, std::string_v
   return named;
 }
 
-// "qbdata/qbcrs.dat" for "qbdata/18CRSQB.INX".
+// Returns the course library of an index, such as "qbdata/qbcrs.dat" for "qbdata/18CRSQB.INX".
+// Returns an empty text if the file is not a course index.
 std::string LibraryOfIndex(std::string_view file) {
   constexpr std::string_view kIndex = ".INX";
   constexpr std::size_t kProgram = 2;

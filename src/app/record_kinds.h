@@ -5,9 +5,9 @@
 
 namespace golf {
 
-// Makes what the history must know of the siblings' records. It reads files of the install through
-// the state's platform, with the changes that are held, and changes none of the state's buffers. It
-// keeps the files open that it has read.
+// Returns the functions that describe the siblings' records to the history. They read files of the
+// install through the state's platform, which includes the changes of a pending transaction. They
+// change none of the state's buffers. They keep the files open that they have read.
 RecordKinds MakeRecordKinds(SharedState& state);
 
 }  // namespace golf

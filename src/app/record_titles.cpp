@@ -28,7 +28,7 @@ std::string Stem(std::string_view file) {
   return std::string(name.substr(0, name.rfind('.')));
 }
 
-// Without the blanks and NULs that fill a field.
+// Returns the text without the blanks and NULs that pad a field.
 std::string Shown(std::string text) {
   std::erase(text, '\0');
   return std::string(Trim(text));
@@ -43,7 +43,7 @@ std::string TitleOf(const RecordPlace&, const Record<KelvaneGolferLayout>& golfe
   return GolferTitleLF(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">(), golfer.Get<"IDNum">());
 }
 
-// A score history belongs to the golfer in the same place of the roster.
+// Returns the name of the golfer whose record in the roster has the same number.
 std::string TitleOf(const RecordPlace& place, const Record<KelvaneHistoryLayout>&) {
   const std::string roster = WithExtension(place.file, ".kvg");
   const auto golfer = place.reader.Read<KelvaneGolferLayout>(roster, place.record);

@@ -8,14 +8,16 @@
 
 namespace golf {
 
-// "Last, First", or "Golfer #12" for a golfer without a name.
+// Returns "Last, First", or for example "Golfer #12" if the golfer has no full name.
 std::string GolferTitleLF(std::string_view first, std::string_view last, std::int64_t id);
 
-// The name of the tournament whose control file is beside one of its files.
+// Returns the name of the tournament to which `file` belongs. Its control file has the same name
+// with the extension .Q9C. Returns the file name without its extension if the control file cannot
+// be read.
 std::string TournamentTitle(InstallReader& reader, std::string_view file);
 
-// What a record is called. Empty where nobody lives in it, and for a file whose records have no
-// names.
+// Returns the name of a record. Returns an empty text if the record is unused or if records of this
+// file have no names.
 std::string TitleOfRecord(InstallReader& reader, std::string_view file, std::int64_t record,
                           std::string_view bytes);
 

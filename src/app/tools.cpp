@@ -29,7 +29,8 @@ bool IsWanted(ScreenHost& host, const std::string& sibling, const std::string& p
   return host.Ask(question) == BoxButton::kYes;
 }
 
-// Returns false, and shows the operator why, if another program holds the library.
+// Opens the library. If another program has locked it, shows the operator a message and returns
+// false.
 bool OpenUnlessHeld(SharedState& state, ScreenHost& host, const CourseLibrary& library) {
   try {
     OpenCourseLibrary(state, library);
@@ -66,7 +67,7 @@ Tool CourseTool(const CourseLibrary& library) {
                              ScreenHost& host) { OpenForOperator(state, host, library); }};
 }
 
-// Opens a screen about the teams of Quenby's tournaments.
+// Returns a tool that opens a screen for the teams of Quenby's tournaments.
 Tool TeamTool(std::string caption, std::string screen) {
   return {
       .caption = std::move(caption),

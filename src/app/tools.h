@@ -10,7 +10,8 @@
 
 namespace golf {
 
-// An entry of the menu "Tools" of the main window. It opens a screen that is not a transfer.
+// Describes an entry of the menu "Tools" of the main window. It opens a screen that is not a
+// transfer.
 struct Tool {
   std::string caption;
   // True if this install has the data that the screen needs.
@@ -21,8 +22,8 @@ struct Tool {
 // Returns all tools in the order of the menu.
 std::vector<Tool> Tools();
 
-// Shows the courses of the library "KV", "QB" or "ZD", and closes the library afterwards. Error 5
-// for any other word.
+// Shows the courses of the library "KV", "QB" or "ZD", and closes the library afterwards. Raises
+// error 5 for any other word.
 void ShowCourseTable(SharedState& state, ScreenHost& host, std::string_view program);
 
 }  // namespace golf

@@ -8,7 +8,8 @@
 namespace golf {
 namespace {
 
-// The indexes follow a library by themselves where the run has changed them with it.
+// True if the course indexes of a library must be rebuilt. They need not be if the undo restores
+// them together with the library.
 bool MustRebuild(const RecordKinds& kinds, const UndoResult& result, const std::string& library) {
   if (result.stale.contains(library)) return true;
   return result.put_back.contains(library) &&

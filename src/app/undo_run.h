@@ -6,8 +6,9 @@
 
 namespace golf {
 
-// Holds in a new transaction what puts a run back, with the course indexes that it makes out of
-// date. The caller commits it, or drops it where conflicts are to refuse the undo.
+// Begins a transaction that undoes a run and rebuilds the course indexes that the undo makes out of
+// date. The caller commits the transaction, or drops it if the result reports conflicts that it
+// does not accept.
 UndoResult HoldUndoOfRun(SharedState& state, const RecordKinds& kinds, const HistoryRun& run);
 
 }  // namespace golf

@@ -12,10 +12,12 @@
 namespace golf {
 namespace {
 
-// Elements of one field of which only one index differs from each to the next, by 1.
+// Holds consecutive elements of one field. From each element to the next, exactly one index
+// differs, always the same one, and by 1.
 using Range = std::vector<FieldElement>;
 
-// The index in which two elements are neighbours; none where they are not.
+// Returns the position of the only index that differs, if it is higher by 1 in `after`. Returns
+// nothing for any other two elements.
 std::optional<std::size_t> Neighbours(const std::vector<int>& before,
                                       const std::vector<int>& after) {
   std::optional<std::size_t> differs;
@@ -29,7 +31,7 @@ std::optional<std::size_t> Neighbours(const std::vector<int>& before,
 
 std::vector<Range> RangesInOrder(std::span<const FieldElement> elements) {
   std::vector<Range> ranges;
-  std::optional<std::size_t> along;  // the index that the last range runs along
+  std::optional<std::size_t> along;  // the index that varies in the last range
   std::vector<int> last;
   for (const FieldElement& element : elements) {
     const std::vector<int> indexes = IndexesOf(element.field, element.nth);
@@ -45,7 +47,8 @@ std::vector<Range> RangesInOrder(std::span<const FieldElement> elements) {
   return ranges;
 }
 
-// Ranges of the elements of one field, along its last or its first index, whichever makes fewer.
+// Splits the elements of one field into ranges along its last or its first index, whichever gives
+// fewer ranges.
 std::vector<Range> RangesOf(std::vector<FieldElement> elements) {
   std::vector<Range> by_last = RangesInOrder(elements);
   std::stable_sort(elements.begin(), elements.end(), [](const auto& a, const auto& b) {
@@ -76,7 +79,7 @@ std::string NameOfRange(const Range& range) {
   return name + " to (" + IndexList(IndexesOf(field, range.back().nth)) + ")";
 }
 
-// "-" where there is no record.
+// Returns the values of a range as text, or "-" if there is no record.
 std::string ValuesOf(const Range& range, std::string_view record) {
   if (record.empty()) return "-";
   const bool is_text = range.front().field.type == FieldType::kText;
@@ -101,7 +104,8 @@ std::string Heading(const std::string& file, std::int64_t record, const std::str
   return heading;
 }
 
-// What tells values apart. A text of NULs was never filled: it is as blank as one of blanks.
+// Returns the bytes by which values are compared. A text of NULs, which was never filled, equals a
+// text of blanks.
 std::string ValueOf(const FieldElement& element, std::string_view record) {
   std::string value(element.In(record));
   if (element.field.type != FieldType::kText || element.field.name.empty()) return value;

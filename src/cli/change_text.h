@@ -11,30 +11,30 @@
 
 namespace golf {
 
-// Write changes and conflicts for people and programs: the elements of fields that differ, each in
-// the form in which `dump` shows it.
+// These functions describe changes and conflicts for people and programs. They show the elements of
+// fields that differ, each in the form that `dump` uses.
 
-// The elements whose values differ. Missing bytes count as zeros.
+// Returns the elements whose values differ. Missing bytes count as zeros.
 std::vector<FieldElement> ChangedElements(const RecordChange& change);
 
-// The event "change".
+// Returns the event "change".
 Json ChangeJson(const RecordChange& change);
-// A block: what changed, and a line for each field with the values before and after. Elements of a
-// table that follow each other share a line.
+// Writes what changed and a line for each field with the values before and after. Consecutive
+// elements of a table share a line.
 void WriteChange(const RecordChange& change);
 
-// The events "conflict": one for each element, or one where there are none.
+// Returns the events "conflict": one for each element, or one event if there are no elements.
 std::vector<Json> ConflictJson(const UndoConflict& conflict);
-// The conflict as lines for people.
+// Returns the conflict as lines for people.
 std::string ConflictText(const UndoConflict& conflict);
 
 // Counts changes by file and kind.
 class ChangeCounts {
  public:
   void Add(const RecordChange& change);
-  // Of records, and of files that have no records.
+  // Returns the number of changed records plus the number of changed files without records.
   std::int64_t Count() const;
-  // A table with a line for each file.
+  // Writes a table with a line for each file.
   void Write() const;
 
  private:
@@ -42,7 +42,7 @@ class ChangeCounts {
     std::int64_t added = 0;
     std::int64_t changed = 0;
     std::int64_t removed = 0;
-    std::string whole{};  // what became of the file as a whole
+    std::string whole{};  // the changes of the file as a whole
   };
   std::map<std::string, Counts> files_;
 };

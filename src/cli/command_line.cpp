@@ -38,7 +38,8 @@ constexpr const char* kScriptLines =
     "  caller WORD\n"
     "Begin with: open TransferMenu, show.\n\n";
 
-// Names an unknown command. The parser's own text only says that a command is required.
+// Returns the message for wrong usage. It names an unknown command, which the parser's own message
+// does not.
 std::string FailureText(const CLI::App* app, const CLI::Error& error) {
   const std::vector<std::string> unknown = app->remaining(true);
   const bool wants_command = std::string_view(error.what()) == "A subcommand is required";
@@ -77,8 +78,8 @@ void AddGlobalOptions(CLI::App& app, Options& options) {
   app.add_flag("--quiet", options.quiet, "No progress");
 }
 
-// Adds an option or argument that is a whole number. The parser would read a number with a leading
-// zero in another base, and codes are listed with leading zeros.
+// Adds an option or argument that is a whole number. The parser is not used for it, since it reads
+// a number with a leading zero in another base, and codes are listed with leading zeros.
 template <class Number>
 CLI::Option* AddNumber(CLI::App& command, const std::string& name, Number& number,
                        const std::string& help) {
@@ -102,7 +103,7 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& 
   return added;
 }
 
-// Adds a command that runs a transfer.
+// Adds a command that runs a transfer, with the options of all transfers.
 CLI::App* AddTransfer(CLI::App& app, Options& options, const std::string& name,
                       const std::string& help, const std::string& example, Command& chosen,
                       Command command) {
@@ -114,7 +115,7 @@ CLI::App* AddTransfer(CLI::App& app, Options& options, const std::string& name,
   return added;
 }
 
-// The arguments of all commands.
+// Holds the arguments of all commands.
 struct Arguments {
   std::string demo_folder;
   ListRequest list;
@@ -396,7 +397,7 @@ void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chos
                    "Really start programs instead of reporting them");
 }
 
-// Checks that the result has reached standard output.
+// Flushes standard output. Returns an error code if the result could not be written.
 ExitCode CheckOutput(ExitCode code) {
   if (std::cout.flush()) return code;
   NoteProblem("Standard output could not be written to: the result is not complete.");
@@ -445,7 +446,7 @@ int RunCommandLine(int argc, const char* const* argv) {
   AddCommands(app, options, arguments, chosen);
   try {
     std::vector<std::string> words = Utf8Arguments(argc, argv);
-    std::reverse(words.begin(), words.end());  // the parser takes the last word first
+    std::reverse(words.begin(), words.end());  // the parser needs the last word first
     app.parse(std::move(words));
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? static_cast<int>(ExitCode::kDone)

@@ -11,9 +11,10 @@
 
 namespace golf {
 
-// Each command has one function. It raises NumberedError, ScriptError or Refusal if it fails.
+// Each of these functions runs one command. It raises NumberedError, ScriptError or Refusal if the
+// command fails.
 
-// Raised for a name, a number or a file that does not exist. Nothing was changed.
+// Is raised for a name, a number or a file that does not exist. Nothing has been changed then.
 class Refusal : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;  // the text is UTF-8

@@ -5,7 +5,7 @@
 
 namespace golf {
 
-// The calls to a terminal and to the arguments of the process.
+// These functions access the terminal and the arguments of the process.
 
 // Sets the standard streams to UTF-8 and to unchanged line ends.
 void PrepareConsole();

@@ -6,8 +6,8 @@
 
 namespace golf {
 
-// A reader of the output that goes away must not end a run halfway. CheckOutput notes the lost
-// output.
+// Ignores SIGPIPE, so that a run does not end halfway when the reader of the output ends.
+// CheckOutput reports the lost output.
 void PrepareConsole() { std::signal(SIGPIPE, SIG_IGN); }
 
 bool ErrorOutputIsTerminal() { return isatty(STDERR_FILENO) != 0; }

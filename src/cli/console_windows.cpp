@@ -20,7 +20,7 @@ void PrepareConsole() {
   output_page_before = GetConsoleOutputCP();
   if (output_page_before == 0) return;  // there is no console
   SetConsoleOutputCP(CP_UTF8);
-  // The console outlives this program, so its code page is restored.
+  // The console exists longer than this program, so its code page is restored.
   std::atexit([] { SetConsoleOutputCP(output_page_before); });
 }
 
@@ -31,7 +31,8 @@ bool ErrorOutputIsTerminal() {
          SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
 }
 
-// The arguments of main are in the system's code page, which cannot hold every name.
+// Reads the arguments from the system, since those of main are in the system's code page, which
+// does not have every character.
 std::vector<std::string> Utf8Arguments(int, const char* const*) {
   std::vector<std::string> arguments;
   int count = 0;

@@ -14,7 +14,7 @@
 namespace golf {
 namespace {
 
-// A group: its name, the word for its values, and the start of its keys.
+// Describes a group: its name, its possessive form, and the prefix of its JSON keys.
 struct Group {
   const char* name;
   const char* owner;
@@ -23,7 +23,7 @@ struct Group {
 
 constexpr Group kGroups[] = {{"men", "men's", "mens"}, {"ladies", "ladies'", "ladies"}};
 
-// A text of a course with its names in JSON and in plain output.
+// Describes a text of a course with its names in JSON and in plain output.
 struct CourseDetail {
   const char* key;
   const char* heading;
@@ -39,7 +39,8 @@ constexpr CourseDetail kDetails[] = {{"address1", "Address", &CourseClass::Addre
                                      {"golfPro", "Golf pro", &CourseClass::GolfPro},
                                      {"unit", "Lengths in", &CourseClass::YardsOrMeters}};
 
-// A value of a tee by hole, with its totals of the first nine, the second nine and all holes.
+// Describes a value of a tee by hole, with its totals of the first nine, the second nine and all
+// holes.
 struct HoleRow {
   const char* key;
   const char* heading;
@@ -66,7 +67,7 @@ const HoleRow kRows[] = {
      {}},
     {"sequence",
      "Sequence",
-     // The stored value, which is 0 where there is none.
+     // This shows the stored value, which is 0 if there is none.
      [](CourseClass& course, int tee, int n) {
        return std::to_string(course.Stored().Get<"StrkSqnc">(tee, n));
      },
@@ -189,7 +190,7 @@ void ShowFinding(const CourseClass& course, std::int32_t number, const TeeKey& t
   std::cout << number << ' ' << PlainCell(course.Name()) << ", tee " << tee.number << ' '
             << PlainCell(tee.name) << ": ";
   if (IsByGroup(fault)) std::cout << kGroups[fault.group].owner << ' ' << FieldName(fault) << ": ";
-  // The further lines say what to do on the screen.
+  // Only the first line is shown. The others explain what to do on the screen.
   std::cout << PlainCell(fault.text.substr(0, fault.text.find('\r'))) << '\n';
 }
 

@@ -22,7 +22,7 @@ struct TeeKey {
 // Returns the active tees of the current course.
 std::vector<TeeKey> ActiveTeesOf(const CourseClass& course);
 
-// Return the keys that identify a course and a tee.
+// These return the JSON keys that identify a course and a tee.
 Json CourseKeys(const CourseClass& course, std::int32_t number);
 Json TeeKeys(const TeeKey& tee);
 

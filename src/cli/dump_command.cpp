@@ -22,11 +22,11 @@ constexpr int kNumber = 1;
 struct FoundFile {
   std::unique_ptr<Application> application;
   std::string path;
-  std::optional<std::string> folder;  // its own, UTF-8; nothing where it is below the install
+  std::optional<std::string> folder;  // its own folder, UTF-8; nothing if below the install
 };
 
-// Finds the file by the path as given, or else below the install folder. The case of its name does
-// not matter.
+// Finds the file by the path as given, or else below the install folder. Ignores the case of its
+// name. Raises Refusal if there is no such file.
 FoundFile FindFile(const Options& options, const std::string& file) {
   namespace fs = std::filesystem;
   const fs::path named = PathFromUtf8(file).make_preferred();
@@ -46,7 +46,8 @@ FoundFile FindFile(const Options& options, const std::string& file) {
   throw Refusal("There is no file " + file + ".");
 }
 
-// A file that is found by its own path lies a folder below the install, as a rule.
+// Reports an unfinished run of the install that contains the file. If the file was found by its own
+// path, also checks the folder above, since an install has its files in subfolders.
 void NoteUnfinishedAround(const Options& options, const FoundFile& found) {
   NoteUnfinished(found.application->state());
   if (!found.folder) return;
@@ -65,7 +66,7 @@ LayoutInfo LayoutOf(const std::string& file) {
   return *layout;
 }
 
-// Returns the first and the last record to show of the file that is open as kNumber.
+// Returns the first and the last record to show of the file that is open as number kNumber.
 std::pair<std::int64_t, std::int64_t> RecordsOf(FileTable& files, const DumpRequest& request,
                                                 std::size_t length) {
   const std::int64_t count = files.CountTruncated(kNumber, length);

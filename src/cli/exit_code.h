@@ -11,12 +11,12 @@ namespace golf {
 enum class ExitCode : int {
   kDone = 0,
   kRefused = 1,  // the screen refuses, or a name, number or file does not exist
-  kUsage = 2,    // wrong usage, or a script that cannot be followed
-  kError = 3,    // an error ended the run, or the run went on after faults
-  kHeld = 4,     // another program holds the files
+  kUsage = 2,    // wrong usage, or a script with a wrong line
+  kError = 3,    // an error ended the run, or the run continued after faults
+  kHeld = 4,     // another program has locked the files
 };
 
-// As the shell tells of a process that a signal has ended.
+// Returns 128 plus the number of the signal, as a shell does for a process that a signal has ended.
 inline ExitCode ExitCodeOf(const Stopped& stopped) {
   constexpr int kSignalled = 128;
   return static_cast<ExitCode>(kSignalled + stopped.signal());
@@ -26,7 +26,7 @@ inline ExitCode ExitCodeOf(const NumberedError& error) {
   return error.Is(ErrorNumber::kPermissionDenied) ? ExitCode::kHeld : ExitCode::kError;
 }
 
-// Returns the exit code of a run that went on after faults. There must be at least one.
+// Returns the exit code of a run that continued after faults. There must be at least one.
 inline ExitCode ExitCodeOfFaults(const std::vector<NumberedError>& faults) {
   const bool held = std::any_of(faults.begin(), faults.end(), [](const NumberedError& fault) {
     return fault.Is(ErrorNumber::kPermissionDenied);

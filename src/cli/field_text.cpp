@@ -21,7 +21,7 @@ std::string Hex(std::string_view bytes) {
   return hex;
 }
 
-// Returns the shortest text that names a number, or "" for NaN and the infinities.
+// Returns the shortest text that identifies a number, or "" for NaN and the infinities.
 template <class T>
 std::string NumberName(T value) {
   if constexpr (std::is_floating_point_v<T>) {
@@ -47,7 +47,7 @@ std::string PlainTextOf(const Field& field, const FieldValue& value) {
                                                 : TextOf(field, value);
 }
 
-// The start of long bytes, for people.
+// Returns bytes as hex text. Long ones are cut.
 std::string PlainBytes(const Field& field, std::string_view bytes) {
   constexpr std::size_t kMostBytes = 24;
   if (bytes.size() <= kMostBytes) return Hex(bytes);

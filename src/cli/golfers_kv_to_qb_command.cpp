@@ -12,8 +12,8 @@ namespace {
 
 constexpr int kFirstOptionalRow = 2;
 
-// Returns the row of an optional item by its number or by either of its names, or 0 if there is
-// none.
+// Returns the row of an optional item by its number or by either of its names, or 0 if there is no
+// such item.
 int RowOfItem(const Grid& grid, const std::string& item) {
   if (item.empty()) return 0;
   const auto number = ReadWholeNumber(item);

@@ -9,25 +9,26 @@
 
 namespace golf {
 
-// Says on standard error that a run is unfinished, if one is. Changes nothing.
+// Writes a line to standard error if a run is unfinished. Changes nothing.
 void NoteUnfinished(SharedState& state);
 
-// Returns the runs that are kept, and notes damaged files on standard error.
+// Returns the runs in the history. Reports damaged files on standard error.
 KeptRuns ListKeptRuns(SharedState& state);
 
-// Returns the run of a number. Raises Refusal if there is none.
+// Returns the run with this number. Raises Refusal if there is none.
 const HistoryRun& RunOfNumber(const KeptRuns& list, std::int64_t number);
 
-// "2026-11-22 18:30:05"
+// Returns a moment as a text such as "2026-11-22 18:30:05".
 std::string MomentText(DateValue moment);
 
-// Calls a function with each change, each time it is called.
+// Calls the given function once for each change. It can be called several times.
 using EachChange = std::function<void(const std::function<void(const RecordChange&)>&)>;
 
-// Writes changes: as events, or for people their counts. Returns their number.
+// Writes each change as an event if `json` is true, or else a table of their counts. Returns the
+// number of changes.
 std::int64_t WriteChangeCounts(bool json, const EachChange& for_each);
-// Writes for people what changed, field by field. Records that can be worked out from others are
-// left out.
+// Writes for people what changed, field by field. Leaves out files such as course indexes, which
+// are derived from other files.
 void WriteChangeDetails(const RecordKinds& kinds, const EachChange& for_each);
 
 }  // namespace golf

@@ -7,7 +7,7 @@
 
 namespace golf {
 
-// Writes every event of a run as a line of JSON. Notes faults and errors on standard error, too.
+// Writes every event of a run as a line of JSON. Also reports faults and errors on standard error.
 class JsonListener : public HostListener {
  public:
   void OnOpen(const Screen& screen) override;
@@ -23,7 +23,7 @@ class JsonListener : public HostListener {
   void OnNotice(const std::string& text) override;
   void OnEnd() override;
 
-  // Sets the script line that causes the next events; 0 if there is none.
+  // Sets the number of the script line that causes the next events, or 0 if there is no script.
   void SetLine(int line) { line_ = line; }
 
  private:

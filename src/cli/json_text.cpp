@@ -57,8 +57,8 @@ void AddKindKeys(Json& event, const Control& control) {
   }
 }
 
-// Escapes U+007F to U+009F, which a terminal obeys. The library escapes only the control characters
-// below U+0020. These characters occur in texts only.
+// Escapes U+007F to U+009F, which a terminal would interpret. The library escapes only the control
+// characters below U+0020. In JSON these characters occur only inside texts.
 std::string WithoutControls(const std::string& json) {
   constexpr char kDelete = '\x7F';
   constexpr char kLead = '\xC2';  // the first UTF-8 byte of U+0080 to U+00BF

@@ -9,13 +9,14 @@
 
 namespace golf {
 
-// Writes a list: as JSON, a line for each entry at once; for people, a table at the end.
+// Writes a list. As JSON, it writes each entry as a line at once. For people, it writes a table in
+// Finish.
 class ListWriter {
  public:
   explicit ListWriter(bool json) : json_(json) {}
 
   void SetHeadings(std::vector<std::string> headings) { headings_ = std::move(headings); }
-  // Adds an entry in both forms. The cells are UTF-8.
+  // Adds an entry, given in both forms. The cells are UTF-8.
   void Add(const Json& object, std::vector<std::string> cells);
   void Finish() const;
 
@@ -25,7 +26,7 @@ class ListWriter {
   std::vector<std::vector<std::string>> rows_;
 };
 
-// Each function lists one kind of entry. They read files and change nothing.
+// Each of these functions lists one kind of entry. They read files and change nothing.
 void ListCourses(SharedState& state, const ListRequest& request, ListWriter& out);
 void ListRosters(SharedState& state, const ListRequest& request, ListWriter& out);
 void ListQuenbyRosters(SharedState& state, const ListRequest& request, ListWriter& out);

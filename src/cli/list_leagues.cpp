@@ -11,7 +11,7 @@
 namespace golf {
 namespace {
 
-// Returns the league's name. A truncated control file may hold part of it or nothing.
+// Returns the league's name. It is cut or empty if the control file is truncated.
 std::string NameOf(const Record<LeagueControlLayout>& control) {
   const std::string name = control.Get<"LeagueName">();
   return std::string(Trim(std::string_view(name).substr(0, name.find('\0'))));
@@ -44,7 +44,8 @@ void ListEvents(SharedState& state, const ListRequest& request, ListWriter& out)
   const auto batches = LoadScoreBatches(state, base).value_or(ScoreBatches{});
   int place = 0;
   for (const ScoreBatch& batch : batches.list) {
-    // Place 0 is practice. It is selected if there is no current event, but is not current.
+    // Place 0 is practice. It is selected if there is no current event, but it is not a current
+    // event.
     const bool current = place > 0 && place == batches.selected;
     out.Add({{"code", batch.code}, {"text", JsonText(batch.text)}, {"current", current}},
             {FormatNumber(batch.code, "000"), PlainCell(batch.text), current ? "*" : ""});

@@ -27,7 +27,8 @@ int CountKelvaneGolfers(SharedState& state) {
   return count;
 }
 
-// Returns the golfers of each roster by its number. A golfer counts on each of his rosters.
+// Returns the number of golfers of each roster, by the roster's number. A golfer counts on each of
+// his rosters.
 std::map<int, int> CountQuenbyGolfers(TournamentPlayers& player) {
   std::map<int, int> counts;
   player.OpenRosterFile();
@@ -40,12 +41,12 @@ std::map<int, int> CountQuenbyGolfers(TournamentPlayers& player) {
   return counts;
 }
 
-// A control file without a record is listed without a name.
+// Adds a tournament. Its name is empty if its control file has no record.
 void AddTournament(SharedState& state, std::int32_t number, ListWriter& out) {
   const auto control = state.files.gate().Open(
       state.QBDataPath + TournamentFileName(number, ".Q9C"), FileAccess::kReadOnly);
   const bool holds_record = control->Length() > 0;
-  state.InitSharedObjects();  // an empty control file must not show the one before it
+  state.InitSharedObjects();  // otherwise an empty control file would show the previous record
   TournamentControl& tournament = state.Tournament();
   state.Player().OpenRosterFile();
   tournament.OpenTournamentControlFile(number);

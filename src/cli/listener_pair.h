@@ -4,7 +4,7 @@
 
 namespace golf {
 
-// Passes each event on to two listeners.
+// Passes each event to two listeners, in this order.
 class ListenerPair : public HostListener {
  public:
   ListenerPair(HostListener& first, HostListener& second) : both_{&first, &second} {}

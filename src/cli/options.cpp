@@ -16,7 +16,7 @@ DateValue LocalMoment(std::time_t moment) {
 
 std::function<DateValue()> ClockOf(const Options& options) {
   if (options.now) return [given = DateFromCivil(*options.now)] { return given; };
-  // A run asks for each golfer, so the system converts the time only once a second.
+  // A run reads the clock for each golfer, so the time is converted only once a second.
   return [last = std::time_t{-1}, moment = DateValue{}]() mutable {
     const std::time_t now = std::time(nullptr);
     if (now != last) moment = LocalMoment(last = now);

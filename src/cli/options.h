@@ -10,22 +10,23 @@
 
 namespace golf {
 
-// The global options.
+// Holds the options that are common to several commands.
 struct Options {
   std::optional<std::string> install;  // UTF-8; the program's own folder if left out
   std::optional<CivilTime> now;
   RegionalOverrides regional;
   bool json = false;
   bool quiet = false;
-  bool dry_run = false;  // of a transfer: nothing is changed
-  std::string log;       // of a transfer: the file for its report, UTF-8; empty for none
+  bool dry_run = false;  // for a transfer: change nothing
+  std::string log;       // for a transfer: the file for its report, UTF-8; or empty
 };
 
-// Returns a clock: the given moment, or the local time.
+// Returns a function that returns the moment of the option --now, or the local time if that is left
+// out.
 std::function<DateValue()> ClockOf(const Options& options);
 
-// Returns the program on the install of the options, ready for its first screen. Error 76 if there
-// is no such folder.
+// Creates the application for the install folder of the options and prepares it for its first
+// screen. Raises error 76 if the folder does not exist.
 std::unique_ptr<Application> StartApplication(const Options& options);
 
 }  // namespace golf

@@ -12,7 +12,7 @@
 namespace golf {
 namespace {
 
-// Makes the row with this text in a column active. Returns false if there is none.
+// Makes the row with this text in a column active. Returns false if there is no such row.
 bool ChooseRow(HeadlessHost& host, Screen& screen, Grid& grid, int column,
                const std::string& text) {
   for (int row = 1; row <= grid.rows(); ++row) {
@@ -35,7 +35,7 @@ void PickKelvaneRoster(HeadlessHost& host, Screen& picker, const std::string& na
 
 void PickQuenbyRoster(HeadlessHost& host, Screen& picker, int number) {
   auto& rosters = dynamic_cast<LoadRosters&>(picker);
-  constexpr int kMostRoster = 999;  // a transfer keeps three digits of the number
+  constexpr int kMostRoster = 999;  // the transfer screens store three digits of the number
   if (number > kMostRoster) throw Refusal("A roster above 999 cannot be transferred to.");
   if (number < 0) throw Refusal("Quenby has no roster " + std::to_string(number) + ".");
   const std::string key = std::to_string(number == 0 ? -1 : number);

@@ -19,7 +19,7 @@ struct Column {
   bool of_numbers = false;
 };
 
-// True for a number and for "-", which stands for no number.
+// True for a number and for "-", which is shown for a missing number.
 bool IsNumber(std::string_view cell) {
   return cell.find_first_not_of("+-.0123456789") == std::string_view::npos;
 }
@@ -33,7 +33,7 @@ bool HoldsNumbers(const std::vector<std::vector<std::string>>& rows, std::size_t
                      [column](const auto& row) { return IsNumber(row[column]); });
 }
 
-// Numbers are aligned to the right.
+// Writes a row. Numbers are aligned to the right.
 void WriteRow(const std::vector<std::string>& cells, const std::vector<Column>& columns) {
   std::string line;
   for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -44,7 +44,8 @@ void WriteRow(const std::vector<std::string>& cells, const std::vector<Column>& 
   std::cout << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
 }
 
-// Undefined bytes of the code page become control characters in UTF-8, so they are replaced, too.
+// Returns "?" for a control character and any other character unchanged. Undefined bytes of the
+// code page count as control characters, since they would become such in UTF-8.
 char Harmless(char c) {
   constexpr std::string_view kUndefined = "\x81\x8D\x8F\x90\x9D";
   const auto code = static_cast<unsigned char>(c);
@@ -58,7 +59,7 @@ std::string PlainText(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool pair = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
-    if (pair || text[i] == '\0') continue;  // a field that was never filled holds NULs
+    if (pair || text[i] == '\0') continue;  // a field that was never filled contains NULs
     const bool line_end = text[i] == '\r' || text[i] == '\n';
     plain += line_end ? '\n' : Harmless(text[i]);
   }

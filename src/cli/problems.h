@@ -9,14 +9,14 @@
 
 namespace golf {
 
-// Writes a line to standard error. The text is in code page 1252 and may hold line ends.
+// Writes a line to standard error. The text is in code page 1252 and may contain line ends.
 void NoteProblem(std::string_view text);
 
-// Closes all files before the process ends. Notes and returns an error, which means that changes
-// may be lost.
+// Closes all files. It must be called before the process ends. Reports and returns an error, which
+// means that changes may be lost.
 std::optional<NumberedError> CloseFiles(FileTable& files);
 
-// Notes how many faults a run went on after. Writes nothing if there were none.
+// Writes the number of faults to standard error. Writes nothing if it is 0.
 void NoteFaultCount(std::size_t count);
 
 }  // namespace golf

@@ -6,7 +6,8 @@
 
 namespace golf {
 
-// Shows how far a run is on a line of standard error. Shows nothing if that is no terminal.
+// Shows the progress of a run on a line of standard error. Shows nothing if standard error is not a
+// terminal.
 class ProgressBar {
  public:
   explicit ProgressBar(bool wanted);

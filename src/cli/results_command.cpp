@@ -33,7 +33,7 @@ void OpenForReading(SharedState& state, std::int32_t tournament) {
   OpenTournament(state, tournament);
 }
 
-// Sets the active round in memory; nothing is saved.
+// Sets the active round in memory and saves nothing. Raises Refusal if there is no such round.
 void MakeActive(TournamentClass& tournament, int round) {
   const int rounds = tournament.RoundCount();
   if (round < 1 || round > rounds) {

@@ -16,21 +16,21 @@ enum class ResultsForm { kTable, kCsv, kJson };
 // Writes the standings as a table or as CSV. Their texts are in code page 1252.
 void WriteStandings(ResultsForm form, const StandingsTable& table);
 
-// One run of the command: the request, and the errors of results that could not be calculated. Each
-// such error is noted on standard error, and the next result follows.
+// Holds the request of the command and the errors of results that could not be calculated. The
+// command reports each such error on standard error and continues with the next result.
 struct ResultsRun {
   SharedState& state;
   const ResultsRequest& request;
   ResultsForm form;
   std::vector<NumberedError> faults;
 
-  // Runs `show`. After an error, notes it with the text of `what`, adds it to the faults and calls
-  // `failed`.
+  // Calls `show`. If that raises an error, reports it after the text that `what` returns, adds it
+  // to the faults and calls `failed`.
   void Try(const std::function<void()>& show, const std::function<std::string()>& what,
            const std::function<void(const NumberedError&)>& failed);
 };
 
-// Each function writes one kind of results of the open tournament for its active round.
+// Each of these functions writes one kind of results of the open tournament for its active round.
 void ShowPlayers(ResultsRun& run);
 void ShowTeams(ResultsRun& run);
 void ShowCustom(ResultsRun& run);

@@ -7,9 +7,7 @@
 
 namespace golf {
 
-// The common JSON parts of the results of players and of teams.
-
-// A member and the key of its value.
+// Holds a member function and the JSON key of its value.
 template <class Member>
 struct Named {
   const char* name;
@@ -22,7 +20,7 @@ inline Json AsJson(const TextOrNumber& value) {
   return std::visit([](const auto& held) { return AsJson(held); }, value);
 }
 
-// Returns the values of the indexes 1 to `last`.
+// Returns an array of the values for the indexes 1 to `last`.
 template <class ValueOf>
 Json Array(int last, ValueOf value_of) {
   Json array = Json::array();

@@ -17,7 +17,7 @@ std::string TextOf(const TextOrNumber& value) {
   return text != nullptr ? *text : std::to_string(std::get<std::int32_t>(value));
 }
 
-// A golfer without a score has only a name and a handicap.
+// Returns the row of a golfer. It has only a name and a handicap if the golfer has no score.
 StandingsRow RowOf(PlayerClass& player, bool decimals) {
   const RoundResults& results = player.Results();
   StandingsRow row;
@@ -37,8 +37,8 @@ StandingsRow RowOf(PlayerClass& player, bool decimals) {
   return row;
 }
 
-// Calls `action(record)` for each live entry in file order, with its golfer in the buffers. After
-// an error it calls `failed(record, error)` and goes on.
+// Reads each entry that is not deleted, in the order of the file, and calls `action(record)`. After
+// an error, calls `failed(record, error)` and continues.
 template <class Action, class Failed>
 void ForEachPlayer(ResultsRun& run, Action action, Failed failed) {
   PlayerClass& player = run.state.Player();

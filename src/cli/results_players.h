@@ -5,8 +5,8 @@
 
 namespace golf {
 
-// Adds every calculated value of the player's current entry for a round, each under the name of its
-// member. Raises the errors of the calculation.
+// Adds every calculated value of the player's current entry for a round. The key of a value is the
+// name of its member function. Raises the errors of the calculation.
 void AddResults(PlayerClass& player, bool decimals, int round, Json& object);
 
 }  // namespace golf

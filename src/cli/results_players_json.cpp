@@ -54,7 +54,8 @@ void AddByHole(PlayerClass& player, int round, Json& object) {
   const auto add = [&](const char* name, int last, auto member) {
     object[name] = Array(last, [&](int hole) { return (player.*member)(hole, round); });
   };
-  // These three belong to the round that was calculated last, so they come before any total.
+  // The next three values are those of the round that was calculated last, so they must be read
+  // before any total.
   add("TourHoleStrokes", kHoles, &PlayerClass::TourHoleStrokes);
   add("TourHolePar", kHoles, &PlayerClass::TourHolePar);
   add("TourHoleAdjusted", kHoles, &PlayerClass::TourHoleAdjusted);

@@ -9,12 +9,12 @@
 
 namespace golf {
 
-// Calls `action(number)` for each team of the tournament with the team in the first team object.
-// Notes a team that has golfers but cannot be read.
+// Reads each team of the tournament into the object Team1 and calls `action(number)`. Reports a
+// team that has golfers but cannot be read.
 void ForEachTeam(ResultsRun& run, const std::function<void(int team)>& action);
 
-// Adds every value of the current team for a round, each under the name of its member. Raises the
-// errors of the calculation.
+// Adds every value of the current team for a round. The key of a value is the name of its member
+// function. Raises the errors of the calculation.
 void AddResults(TeamClass& team, int round, Json& object);
 
 }  // namespace golf

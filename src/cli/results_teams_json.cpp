@@ -27,7 +27,7 @@ constexpr Named<TextMember> kTexts[] = {
     {"NetScrambleTiebreak18to1", &TeamClass::NetScrambleTiebreak18to1},
 };
 
-// Members of the active round, or of all rounds up to it.
+// Lists the members that apply to the active round or to all rounds up to it.
 constexpr Named<std::string (TeamClass::*)()> kWithoutRound[] = {
     {"GrossScrambleTiebreakUSGA", &TeamClass::GrossScrambleTiebreakUSGA},
     {"GrossScrambleTiebreak1to18", &TeamClass::GrossScrambleTiebreak1to18},
@@ -49,7 +49,8 @@ constexpr Named<BallsMember> kBestTotals[] = {
     {"BestTotalXofYNet", &TeamClass::BestTotalXofYNet},
 };
 
-// Returns values by number of balls: for each an array of the indexes `first` to 21.
+// Returns an object with a key for each number of balls. Each value is an array for the indexes
+// `first` to 21.
 Json ByBalls(TeamClass& team, BallsMember member, int first, int round) {
   Json object = Json::object();
   for (int balls = 1; balls <= kMostBalls; ++balls) {

@@ -7,7 +7,7 @@
 namespace golf {
 namespace {
 
-// Chooses the item of a list with this number. Returns false if there is none.
+// Chooses the list item with this number. Returns false if there is none.
 bool ChooseNumber(HeadlessHost& host, Screen& screen, List& list,
                   std::int32_t (*number_of)(const std::string&), std::int32_t number) {
   const auto& items = list.items();
@@ -19,7 +19,7 @@ bool ChooseNumber(HeadlessHost& host, Screen& screen, List& list,
   return false;
 }
 
-// A tournament of one round has no list of rounds.
+// Chooses a round. A tournament with one round has no list of rounds.
 void ChooseRound(HeadlessHost& host, QBtoKV& screen, int round) {
   const bool listed = screen.RoundList.IsShown();
   const int rounds = listed ? static_cast<int>(screen.RoundList.items().size()) : 1;

@@ -11,7 +11,7 @@ namespace golf {
 
 namespace {
 
-// An empty file is a script. A folder, or a file that cannot be read, raises Refusal.
+// Raises Refusal if the file is a folder or cannot be read. An empty file is a valid script.
 void CheckReadable(const std::string& file) {
   std::error_code error;
   if (std::filesystem::is_regular_file(PathFromUtf8(file), error)) {

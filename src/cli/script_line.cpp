@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r";
 
-// Takes a quoted word off the start of `rest`.
+// Removes a quoted word from the start of `rest` and returns it.
 std::string TakeQuoted(std::string_view& rest) {
   std::string word;
   rest.remove_prefix(1);

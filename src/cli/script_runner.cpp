@@ -33,8 +33,8 @@ bool TakesFocus(const Control& control) {
   return active && control.IsShown() && control.IsUsable();
 }
 
-// Returns the cell text that `text` stands for in this column. In a drop-down that is the item with
-// this text or code. In a check box it is a tick for any number but 0.
+// Returns the text to store in a cell of this column for the script's `text`. For a drop-down this
+// is the item with this text or code. For a check box it is "1" for any number but 0.
 std::string CellText(const Grid& grid, int column, const std::string& text) {
   if (grid.cell_type(column) == CellType::kCheckBox) {
     const auto number = ReadLeadingNumber(text);
@@ -84,7 +84,7 @@ void ScriptRunner::FollowUntilGone(Screen& screen) {
 bool ScriptRunner::FollowNextLine() {
   std::string line;
   if (!std::getline(lines_, line)) {
-    FireTimers();  // while the screen is still there
+    FireTimers();  // before the screen closes
     return false;
   }
   if (line_ == 0 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
@@ -252,7 +252,8 @@ const std::vector<std::string>& ScriptRunner::ItemsOf(const std::string& name) c
   return Usable<List>(name).items();
 }
 
-// Picking from a drop-down with free text moves the focus to it, as typing does.
+// Selects an item. Selecting from a drop-down with free text also moves the focus to it, as typing
+// does.
 void ScriptRunner::SelectItem(const std::string& name, int index) {
   Screen& screen = Top();
   auto* combo = dynamic_cast<TextCombo*>(&Usable<Control>(name));

@@ -12,15 +12,15 @@
 
 namespace golf {
 
-// Follows a script line by line. A line acts on the screen in front. A click that opens a modal
+// Executes a script line by line. A line acts on the screen in front. A click that opens a modal
 // screen returns when later lines have closed that screen.
 class ScriptRunner {
  public:
   ScriptRunner(SharedState& state, HeadlessHost& host, JsonListener& listener, std::istream& lines);
 
-  // Follows the script to its end. Screens that are then still open are left by their buttons.
-  // ScriptError, with the number of the line, if it cannot be followed. ClickEnded if a click ends
-  // with an error.
+  // Executes the whole script. Screens that are open at its end are closed by their leave buttons.
+  // Raises ScriptError with the number of a line that cannot be executed, and ClickEnded if an
+  // event ends with an error.
   void Run();
 
  private:
@@ -56,8 +56,8 @@ class ScriptRunner {
 
   Screen& Top() const;
   Control& Named(const std::string& name) const;
-  // Returns the control of this name. ScriptError if it is of another kind or the operator cannot
-  // reach it.
+  // Returns the control with this name. Raises ScriptError if it has another type or the operator
+  // cannot reach it.
   template <class Kind>
   Kind& Usable(const std::string& name) const;
   // Returns the items of a list or of a drop-down with free text.

@@ -18,8 +18,8 @@
 namespace golf {
 namespace {
 
-// Keeps the texts of the boxes until it is known whether the run was refused. Puts problems into
-// the log, and notes them on standard error unless another listener does.
+// Stores the texts of the boxes until it is known whether the run was refused. Writes problems to
+// the log, and also to standard error if `notes` is true.
 class ReportListener : public HostListener {
  public:
   ReportListener(ProgressBar& bar, TransferLog& log, bool notes)
@@ -47,7 +47,7 @@ class ReportListener : public HostListener {
   void WriteLog() const {
     for (const std::string& text : texts_) log_.Add(text);
   }
-  // Notes a problem, of which no listener tells.
+  // Reports a problem that no event reports.
   void NoteInLog(const std::string& text) {
     NoteProblem(text);
     log_.Add(PlainText(text));
@@ -74,7 +74,7 @@ class ReportListener : public HostListener {
   std::vector<std::string> texts_;
 };
 
-// Runs the command's screen. Returns the exit code of an error that ended a click, or nothing.
+// Runs the command's screen. Returns the exit code of an error that ended an event, or nothing.
 std::optional<ExitCode> Work(Application& application, HeadlessHost& host, ReportListener& report,
                              const TransferCommand& command) {
   application.state().remembers_settings = false;
@@ -130,7 +130,7 @@ void WriteResult(const TransferCommand& command, const HeadlessHost& host, bool 
   WriteJsonLine(result);
 }
 
-// What a dry run would have changed.
+// Writes what a dry run would have changed.
 void WriteHeldChanges(const Options& options, SharedState& state) {
   Transactions& transactions = *state.transactions;
   const RecordKinds kinds = MakeRecordKinds(state);

@@ -8,15 +8,16 @@
 
 namespace golf {
 
-// The file to which a transfer appends its report. Every run leaves an entry, whatever its end.
+// Appends the report of a transfer to a file. Every run adds an entry, also if it fails.
 class TransferLog {
  public:
-  // Opens the file of the options, if they name one. Raises Refusal if it cannot be written.
+  // Opens the file that the options name, if any. Raises Refusal if it cannot be written.
   TransferLog(const Options& options, const std::string& command);
 
-  // Appends texts in UTF-8.
+  // Appends a text in UTF-8.
   void Add(const std::string& text);
-  // Appends how the run ended, and its running number in the history; 0 for none.
+  // Appends how the run ended and its number in the history, which is 0 if it is not in the
+  // history.
   void End(ExitCode code, std::int32_t history);
 
  private:

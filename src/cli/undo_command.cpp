@@ -13,7 +13,7 @@
 namespace golf {
 namespace {
 
-// Note what a click tells the operator.
+// These listeners report on standard error what an event shows the operator.
 class ProblemListener : public HostListener {
  public:
   void OnMessage(const Box& box, BoxButton) override { NoteProblem(box.text); }
@@ -28,7 +28,7 @@ class JsonProblemListener : public JsonListener {
   }
 };
 
-// Returns the run to undo. Raises Refusal for one that cannot be undone.
+// Returns the run to undo. Raises Refusal if it cannot be undone.
 const HistoryRun& ChosenRun(const KeptRuns& list, const UndoRequest& request) {
   if (!request.number) {
     const auto newest = std::find_if(list.runs.begin(), list.runs.end(), [](const HistoryRun& run) {
@@ -52,7 +52,7 @@ const HistoryRun& ChosenRun(const KeptRuns& list, const UndoRequest& request) {
   return run;
 }
 
-// Works one undo, with the install locked.
+// Undoes one run. The install must be locked.
 class UndoCommand {
  public:
   UndoCommand(const Options& options, const UndoRequest& request, SharedState& state)
@@ -180,7 +180,8 @@ class UndoCommand {
   UndoResult result_;
 };
 
-// A dry run changes nothing, so it finishes no interrupted run either.
+// Shows what an undo would change. It does not finish an interrupted run, since a dry run changes
+// nothing.
 ExitCode TryUndo(const Options& options, const UndoRequest& request, SharedState& state) {
   const auto lock = state.files.platform().LockRun(state.ProgramPath);
   if (state.transactions->IsUnfinished()) {

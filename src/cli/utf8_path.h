@@ -5,7 +5,7 @@
 
 namespace golf {
 
-// Convert paths of the command line, which are UTF-8 on every system.
+// These convert paths of the command line, which are UTF-8 on every system.
 inline std::filesystem::path PathFromUtf8(const std::string& utf8) {
   return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
 }

@@ -9,8 +9,8 @@
 namespace golf {
 namespace {
 
-// True if the control and all that holds it are visible, up to a page of a tab. The toolkit shows
-// and hides the pages.
+// True if the control and everything that contains it, up to a page of a tab control, is visible.
+// The toolkit itself shows and hides the pages.
 bool IsVisibleOnItsPage(const Control& control) {
   for (const Control* at = &control; at != nullptr; at = at->parent()) {
     if (!at->visible()) return false;
@@ -19,7 +19,8 @@ bool IsVisibleOnItsPage(const Control& control) {
   return true;
 }
 
-// Labels and frames stay enabled in a run, so that they stay readable.
+// True if the operator can enter something in the control. Labels and frames stay enabled during a
+// run, so that they stay readable.
 bool TakesInput(const Control& control) {
   return control.kind() != ControlKind::kLabel && control.kind() != ControlKind::kFrame;
 }
@@ -39,7 +40,8 @@ void Binding::Tie(Control& control, wxWindow& widget, std::function<void()> show
 void Binding::FollowFocus(Control& control, wxWindow& widget) {
   widget.Bind(wxEVT_SET_FOCUS, [this, &control](wxFocusEvent& event) {
     event.Skip();
-    // When a widget goes, the toolkit itself moves the focus. That is not the operator's choice.
+    // The toolkit moves the focus itself when a widget disappears. That is not a choice of the
+    // operator.
     if (held_ || showing_ > 0) return;
     if (std::exchange(shown_focus_, &control) == &control) return;
     OperateSoon(control, [this, &control] { screen_->MoveFocus(&control); });
@@ -63,8 +65,8 @@ bool Binding::OperateKeySoon(std::string_view key) {
   return button != nullptr;
 }
 
-// A refused event leaves the widget with a value that the control does not have, so the widget is
-// shown again.
+// Runs an event. If the control refuses it, the widget may show a value that the control does not
+// have, so the widget is marked and shown again.
 void Binding::Run(const Control& control, const Event& event) {
   if (screen_ == nullptr || host_.ended()) return;
   for (Tied& tied : ties_) {
@@ -90,7 +92,7 @@ void Binding::ShowChanges() {
   bool rearranged = false;
   for (Tied& tied : ties_) {
     if (std::exchange(tied.changed, false)) tied.show();
-    // Shows the state of every control, since one control can hide or disable others.
+    // The state of every control is shown, since one control can hide or disable others.
     if (ShowState(tied)) rearranged = true;
   }
   for (const auto& show : shows_also_) show();
@@ -103,7 +105,8 @@ bool Binding::ShowState(const Tied& tied) {
   return tied.widget->Show(IsVisibleOnItsPage(*tied.control));
 }
 
-// Does nothing while events wait, since the operator may have moved the focus meanwhile.
+// Gives the focus to the right widget. Does nothing while events wait, since the operator may have
+// moved the focus since then.
 void Binding::ShowFocus() {
   if (held_ || !waiting_.IsEmpty()) return;
   const Tied* place = PlaceOfFocus();
@@ -120,8 +123,7 @@ void Binding::GiveFocus(const Tied& tied) {
   tied.widget->SetFocus();
 }
 
-// Returns the widget that must have the focus. Null if the screen has given the focus to no
-// control.
+// Returns the widget that must have the focus, or null if no control of the screen has the focus.
 const Binding::Tied* Binding::PlaceOfFocus() {
   const auto place = std::find_if(ties_.cbegin(), ties_.cend(), [this](const Tied& tied) {
     return tied.control == screen_->focus();
@@ -130,8 +132,9 @@ const Binding::Tied* Binding::PlaceOfFocus() {
   return CanHaveFocus(*place->control) ? &*place : PlaceInsteadOf(place);
 }
 
-// Returns a replacement for the focused control, which can no longer have the focus: the nearest
-// control before it, going round the end, among those with the least Harm. Null if there is none.
+// Returns a replacement for the focused control, which can no longer have the focus, or null if
+// there is none. Chooses among the controls with the least Harm the nearest one before it. The
+// search continues from the end after the first control.
 const Binding::Tied* Binding::PlaceInsteadOf(std::list<Tied>::const_iterator lost) {
   const Tied* best = nullptr;
   const auto before = [this](auto at) {
@@ -144,14 +147,15 @@ const Binding::Tied* Binding::PlaceInsteadOf(std::list<Tied>::const_iterator los
   return best;
 }
 
-// Rates the harm of an accidental Enter or Space: 0 none, 1 presses a button, 2 leaves the screen.
+// Returns the harm that an accidental Enter or Space would do: 0 for none, 1 if it would press a
+// button, 2 if it would leave the screen.
 int Binding::Harm(const Control& control) {
   if (control.kind() != ControlKind::kButton) return 0;
   const bool leaves = &control == screen_->LeaveButton() || &control == screen_->PanelLeaveButton();
   return leaves ? 2 : 1;
 }
 
-// The toolkit would choose by the position of the widgets, not by their order.
+// The first widget is chosen here, since the toolkit would choose by position and not by order.
 void Binding::BeginFocus() {
   if (screen_ == nullptr || screen_->focus() != nullptr) return;
   const auto first = std::find_if(ties_.begin(), ties_.end(),
@@ -165,7 +169,7 @@ void Binding::HoldInput(bool held) {
   if (held_ == held) return;
   held_ = held;
   changed_ = true;
-  shown_focus_ = nullptr;  // the toolkit takes the focus from disabled widgets
+  shown_focus_ = nullptr;  // the toolkit removes it from disabled widgets
   Refresh();
 }
 

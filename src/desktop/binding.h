@@ -14,10 +14,10 @@
 
 namespace golf {
 
-// Ties the widgets of one window to the controls of its screen. A changed control is marked and
-// shown at the next Refresh, so a run may change it often. The operator's events go through
-// Operate, which refuses those of a hidden or disabled control. Release unties all widgets, since a
-// screen can outlive its window, and a window can briefly outlive its screen.
+// Connects the widgets of one window to the controls of its screen. A changed control is marked and
+// shown at the next Refresh, so a run may change it often. The operator's events pass through
+// Operate, which refuses those of a hidden or disabled control. Release disconnects all widgets,
+// since a screen can exist longer than its window, and a window slightly longer than its screen.
 class Binding {
  public:
   using Event = std::function<void()>;
@@ -27,44 +27,45 @@ class Binding {
   Binding& operator=(const Binding&) = delete;
   ~Binding() { Release(); }
 
-  // Names the widget after its control. From now on Refresh calls `show` after a change and keeps
-  // the widget's visibility, enabled state and focus up to date.
+  // Connects a widget to a control and gives it the control's name. Refresh then calls `show` after
+  // a change and updates the widget's visibility, enabled state and focus.
   void Tie(Control& control, wxWindow& widget, std::function<void()> show);
 
-  // Adds a function to call after any control has changed, for widgets that show several controls.
+  // Adds a function that is called after any control has changed. It is for widgets that show
+  // several controls.
   void ShowAlso(std::function<void()> show) { shows_also_.push_back(std::move(show)); }
 
-  // Moves the screen's focus to the control soon after this part of its widget gets the focus. Tie
-  // does this for the widget itself.
+  // Moves the screen's focus to the control after `part`, a part of the control's widget, has
+  // received the focus. Tie does this for the widget itself.
   void FollowFocus(Control& control, wxWindow& part);
 
   // Runs the waiting events, then this event of the operator, and shows the changes.
   void Operate(const Control& control, const Event& event);
 
-  // Runs an event once the toolkit has finished with the key, the choice or the change of focus
-  // that caused it. An event that may open a box must not run earlier. A box opened within a key
-  // event may receive the same key again, on some systems endlessly. A box opened while the focus
-  // moves misdirects the focus.
+  // Runs an event after the toolkit has finished with the key, the choice or the change of focus
+  // that caused it. An event that may open a box must be run in this way. A box that is opened
+  // within a key event may receive the same key again, on some systems endlessly. A box that is
+  // opened while the focus moves disturbs the focus.
   void OperateSoon(const Control& control, Event event);
-  // Presses the button of a key in the same way. Returns false if the screen has no use for the
-  // key; an open menu or an edited cell may then take it.
+  // Presses the button of a key in the same way. Returns false if the screen does not use the key.
+  // An open menu or an edited cell can handle it then.
   bool OperateKeySoon(std::string_view key);
-  // Runs the waiting events. Must be called for each new key: fast typing brings the next key
-  // before the toolkit comes to the waiting events, and the key must find the screen as the earlier
-  // keys leave it.
+  // Runs the waiting events. It must be called for each new key. During fast typing a new key can
+  // arrive while events of earlier keys wait, and the screen must have handled those first.
   void RunWaiting() { waiting_.Run(); }
 
-  // Gives the focus to the first widget that can have it, unless the screen has placed it already.
+  // Gives the focus to the first widget that can have it, unless a control of the screen has it
+  // already.
   void BeginFocus();
   // Shows all changes.
   void Refresh();
-  // Called when widgets have appeared or disappeared.
+  // Is called after widgets have appeared or disappeared.
   std::function<void()> on_rearranged;
 
-  // Disables all widgets that take input, or enables them again.
+  // Disables all widgets that accept input, or enables them again.
   void HoldInput(bool held);
-  // Unties all widgets, since the screen goes before they do. Its controls must not be used after
-  // that.
+  // Disconnects all widgets. It must be called before the screen is destroyed, if widgets still
+  // exist.
   void Release();
   bool IsReleased() const { return screen_ == nullptr; }
 
@@ -89,7 +90,7 @@ class Binding {
   HostBase& host_;
   Screen* screen_;
   std::vector<std::function<void()>> shows_also_;
-  std::list<Tied> ties_;  // observers keep the addresses of its elements
+  std::list<Tied> ties_;  // the observers store the addresses of its elements
   EventQueue waiting_;
   const Control* shown_focus_ = nullptr;
   bool changed_ = false;

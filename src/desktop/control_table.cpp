@@ -25,7 +25,7 @@ wxString ControlTable::GetRowLabelValue(int row) {
 }
 
 wxString ControlTable::GetValue(int row, int column) {
-  const bool there = row < control_.rows();  // false until the view has caught up
+  const bool there = row < control_.rows();  // false until CatchUp is called
   return there ? WxText(Shown(ControlColumn(column), row + 1)) : wxString();
 }
 
@@ -54,7 +54,7 @@ wxGridCellAttr* ControlTable::GetAttr(int row, int column, wxGridCellAttr::wxAtt
   auto* attributes = new wxGridCellAttr;
   const int control_column = ControlColumn(column);
   const bool locked = control_.IsLocked(control_column, row + 1);
-  attributes->SetReadOnly(locked || IsTick(column));  // ticks change by TurnTick only
+  attributes->SetReadOnly(locked || IsTick(column));  // only TurnTick changes ticks
   if (IsTick(column) || control_.IsCentred(control_column)) {
     attributes->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
   }
@@ -98,7 +98,7 @@ bool ControlTable::CatchUp() {
   return rows || columns;
 }
 
-// Returns what a cell shows. For an item of a drop-down that is its text alone.
+// Returns what a cell shows. This is only the text if the cell contains an item of a drop-down.
 const std::string& ControlTable::Shown(int control_column, int row) const {
   const std::string& text = control_.text(control_column, row);
   for (const DropDownItem& item : control_.items(control_column)) {
@@ -111,8 +111,8 @@ bool ControlTable::IsTick(int column) const {
   return control_.cell_type(ControlColumn(column)) == CellType::kCheckBox;
 }
 
-// Makes one editor for each column. An editor must outlive the attributes it is asked for through,
-// which come and go while it is open.
+// Creates one editor for each column of drop-downs. An editor must exist longer than the attributes
+// of a cell that return it, since these are created and destroyed while the editor is open.
 void ControlTable::FillDropDowns() {
   for (const int column : columns_) {
     if (control_.cell_type(column) != CellType::kDropDown) continue;
@@ -145,7 +145,7 @@ void ControlTable::ChooseColumns() {
 
 bool ControlTable::NotifyView(int more, int now, int appended, int deleted) {
   if (more == 0 || GetView() == nullptr) return false;
-  GetView()->ClearSelection();  // the selection may name deleted columns
+  GetView()->ClearSelection();  // the selection may include deleted columns
   if (more > 0) {
     wxGridTableMessage message(this, appended, more);
     return GetView()->ProcessTableMessage(message);

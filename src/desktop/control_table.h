@@ -11,12 +11,12 @@
 
 namespace golf {
 
-// Presents the cells of a grid control to the toolkit's grid. Rows and columns count from 0, and
-// hidden columns are left out. It keeps no copy of the cells. What the operator enters goes to the
-// control.
+// Provides the cells of a grid control to the toolkit's grid. Rows and columns count from 0, and
+// hidden columns are left out. It stores no copy of the cells and passes the operator's entries to
+// the control.
 class ControlTable : public wxGridTableBase {
  public:
-  // `labelled`: column 0 of the control holds the row labels.
+  // If `labelled` is true, column 0 of the control contains the row labels.
   ControlTable(Binding& binding, Grid& control, bool labelled);
 
   int GetNumberRows() override { return rows_; }
@@ -30,12 +30,13 @@ class ControlTable : public wxGridTableBase {
   bool GetValueAsBool(int row, int column) override;
   wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind kind) override;
 
-  // Turns the tick of a cell over. Returns false if the cell has no tick or is locked.
+  // Toggles the tick of a cell. Returns false if the cell has no tick or is locked.
   bool TurnTick(int row, int column);
-  // Returns the column of ticks if there is exactly one, or -1.
+  // Returns the column of ticks if there is exactly one, or -1 otherwise.
   int OnlyTickColumn() const;
 
-  // Tells the view which rows and columns have been added or removed. Returns true if any have.
+  // Notifies the view of rows and columns that have been added or removed. Returns true if there
+  // were any.
   bool CatchUp();
 
  private:

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kTextWidth = 320;  // in device-independent pixels
 
-// Lays out the texts of the course, each after its name.
+// Lays out the texts of the course, each with its name before it.
 wxSizer* Texts(ScreenPanel& panel, CourseForm& screen) {
   Binding& binding = panel.binding();
   auto* fields = new wxFlexGridSizer(2, CloseGap(panel), GroupGap(panel));

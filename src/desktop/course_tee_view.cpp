@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kNine = 9;
 
-// In device-independent pixels.
+// These are in device-independent pixels.
 constexpr int kHoleWidth = 52;
 constexpr int kCardLabelWidth = 72;
 constexpr int kTotalWidth = 60;
@@ -61,7 +61,7 @@ class TeeFiller {
     return row;
   }
 
-  // Lays out the name, the ratings and the slopes. The faults follow them.
+  // Lays out the name, the ratings and the slopes, each row with a text for a fault at its end.
   wxPanel* Entries() {
     wxPanel* frame = MakeFrame(binding_, &panel_, screen_.TeeFrame);
     auto* rows = new wxFlexGridSizer(6, CloseGap(panel_), GroupGap(panel_));
@@ -145,7 +145,7 @@ class TeeFiller {
     return frame;
   }
 
-  // Shows the unit beside the second nine, too.
+  // Returns a text that shows the unit also beside the second nine.
   wxStaticText* UnitAgain(wxWindow* frame) {
     wxStaticText* unit = Text(frame, "");
     binding_.ShowAlso([unit, this_unit = &screen_.YardOrMeter] {

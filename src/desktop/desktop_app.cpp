@@ -20,7 +20,7 @@ bool DesktopApp::Initialize(int& count, wxChar** arguments) {
   if (invocation_.answer.empty() && invocation_.complaint.empty()) {
     return wxApp::Initialize(count, arguments);
   }
-#ifdef __WXMSW__  // a Windows program with windows has no streams
+#ifdef __WXMSW__  // a Windows program with windows has no standard streams
   const wxString text = wxString::FromUTF8(invocation_.answer + invocation_.complaint);
   MessageBoxW(nullptr, text.wc_str(), L"Golf Transfer",
               invocation_.complaint.empty() ? MB_ICONINFORMATION : MB_ICONSTOP);
@@ -28,7 +28,7 @@ bool DesktopApp::Initialize(int& count, wxChar** arguments) {
   std::cout << invocation_.answer << std::flush;
   std::cerr << invocation_.complaint << std::flush;
 #endif
-  // Returning false would make the toolkit report a failure.
+  // The process ends here, since the toolkit would report a failure if this returned false.
   std::exit(invocation_.complaint.empty() ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
@@ -52,7 +52,8 @@ bool DesktopApp::OnInit() {
   return true;
 }
 
-// The end of the operator's session must not press Close, since Close starts the calling sibling.
+// Refuses to end the operator's session during a run. It does not press Close, since Close starts
+// the sibling that started this program.
 void DesktopApp::OnQueryEndSession(wxCloseEvent& event) {
   if (host_->in_run()) event.Veto();
 }

@@ -10,10 +10,10 @@
 
 namespace golf {
 
-// The desktop program.
+// Runs the desktop program.
 class DesktopApp : public wxApp {
  public:
-  // Shows the help or the version first, so that they need no display.
+  // Shows the help or the version, if requested, before the display is opened.
   bool Initialize(int& count, wxChar** arguments) override;
   bool OnInit() override;
   int OnRun() override;

@@ -56,7 +56,7 @@ void Yield(long categories) {
   if (wxEventLoopBase* loop = wxEventLoopBase::GetActive()) loop->YieldFor(categories);
 }
 
-// Returns a line for each of the first faults, and the number of the others.
+// Returns a text with a line for each of the first faults and the number of the others.
 std::string FaultsText(const std::vector<NumberedError>& faults) {
   constexpr std::size_t kMostShown = 10;
   std::string text = faults.size() == 1 ? "The transfer has carried on over a fault:"
@@ -71,7 +71,8 @@ std::string FaultsText(const std::vector<NumberedError>& faults) {
   return text;
 }
 
-// Keeps the pointer normal for its lifetime. The toolkit has a class for it on some systems only.
+// Makes the pointer normal as long as this object exists. The toolkit has such a class only on some
+// systems.
 class PlainPointer {
  public:
   PlainPointer() {
@@ -130,7 +131,7 @@ void DesktopHost::RunModal(Screen& screen) {
   auto& dialog = dynamic_cast<wxDialog&>(panel.window());
   dialog.ShowModal();
   dialog.Destroy();
-  // Some window managers give the focus to the main window, which takes no input then.
+  // Some window managers would give the focus to the main window, which accepts no input then.
   if (wxTopLevelWindow* below = TopWindow()) below->Raise();
 }
 
@@ -147,8 +148,8 @@ void DesktopHost::Close(Screen& screen) {
   }
 }
 
-// Prepares a box over the top window. The window shows the present state first. In a run, what was
-// typed before is dropped, so that it does not answer the box.
+// Returns the parent window for a box. Shows all changes first. During a run, drops earlier keys
+// and clicks, so that they do not answer the box.
 wxWindow* DesktopHost::ReadyForBox() {
   if (in_run()) ForgetTypedInput();
   PaintNow();
@@ -232,8 +233,8 @@ void DesktopHost::EndRun() {
   if (faults().size() > faults_before_) ShowFaultsSoon();
 }
 
-// Shows the faults after the run's own boxes, over the menu: the screen of the run may be gone by
-// then.
+// Shows the faults after the boxes of the run, over the main window, since the screen of the run
+// may be closed by then.
 void DesktopHost::ShowFaultsSoon() {
   std::vector<NumberedError> noted(faults().begin() + static_cast<std::ptrdiff_t>(faults_before_),
                                    faults().end());
@@ -242,8 +243,8 @@ void DesktopHost::ShowFaultsSoon() {
   });
 }
 
-// Painting leaves the operator's keys and clicks waiting. This takes and drops them while the run
-// holds off input.
+// Drops the operator's keys and clicks, which stay in the queue while windows are painted. It must
+// be called while the widgets are disabled.
 void DesktopHost::ForgetTypedInput() { Yield(wxEVT_CATEGORY_ALL); }
 
 void DesktopHost::StartProgram(const std::string& path, const std::string& arguments) {
@@ -257,7 +258,7 @@ void DesktopHost::CopyText(const std::string& text) {
 
 void DesktopHost::EndProcess() {
   HostBase::EndProcess();
-  // ExitMainLoop does nothing while a dialog's own loop runs.
+  // ExitMainLoop is not used, since it does nothing while the event loop of a dialog runs.
   if (wxEventLoopBase* loop = wxTheApp->GetMainLoop()) loop->ScheduleExit();
 }
 

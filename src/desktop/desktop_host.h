@@ -13,14 +13,14 @@
 
 namespace golf {
 
-// The host with windows. It opens only screens that have a view. It must not outlive the toolkit,
-// and destroys its windows at its end.
+// Implements the host that shows windows. It opens only screens that have a view. It must be
+// destroyed before the toolkit is shut down; its destructor destroys its windows.
 class DesktopHost : public HostBase {
  public:
   DesktopHost(SharedState& state, const ScreenCatalogue& screens, ViewCatalogue views);
   ~DesktopHost() override;
 
-  // Returns the present moment; by default that of the system clock.
+  // Returns the current date and time. The default is the system clock.
   std::function<DateValue()> clock;
 
   void Beep() override;
@@ -44,7 +44,7 @@ class DesktopHost : public HostBase {
   void ErrorEndsClick(const NumberedError& error) override;
   void RunStopped() override { EndProcess(); }
 
-  // Shows all changes and lets the windows paint. Takes no input.
+  // Shows all changes and paints the windows. Accepts no input.
   void PaintNow();
 
  private:

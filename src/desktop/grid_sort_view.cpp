@@ -14,7 +14,7 @@ wxChoice* MakeColumnList(ScreenPanel& panel, ComboBox& control) {
   return choice;
 }
 
-// Lays out a row for each key: its name, its list of columns, and its two orders.
+// Lays out a row for each key: its name, its list of columns, and its two sort orders.
 wxSizer* Keys(ScreenPanel& panel, GridSort& screen) {
   auto* rows = new wxFlexGridSizer(4, CloseGap(panel), GroupGap(panel));
   rows->AddGrowableCol(1);

@@ -14,7 +14,7 @@ namespace {
 constexpr int kMostRowsMeasured = 500;  // rows up to which column widths are measured
 constexpr int kMargin = 8;              // around a cell's text, both sides together
 
-// The widget of a grid control.
+// Is the widget of a grid control.
 class GridView : public wxGrid {
  public:
   GridView(Binding& binding, wxWindow* parent, Grid& control, GridMarks marks)
@@ -86,7 +86,8 @@ class GridView : public wxGrid {
     SpendSpareWidth();
   }
 
-  // Gives the spare width to the widest column, or takes it back.
+  // Sets the widest column to the width that the other columns leave, but not below the width of
+  // its contents.
   void SpendSpareWidth() {
     if (GetNumberCols() == 0) return;
     if (widest_ < 0) NoteWidest();
@@ -105,13 +106,14 @@ class GridView : public wxGrid {
   void OnSelect(wxGridEvent& event) {
     event.Skip();
     const int row = event.GetRow() + 1;
-    // Moving along the row has unmarked it.
+    // The toolkit deselects the row when the cursor moves along it.
     const bool marks_row = marks_ == GridMarks::kRows && !showing_;
     if (marks_row && !IsInSelection(row - 1, 0)) SelectRow(row - 1);
     if (!showing_) Activate(row);
   }
 
-  // Activates a row soon. The rows may have changed by then, so the row is checked.
+  // Activates a row after the current event. The row is checked then, since the rows may have
+  // changed.
   void Activate(int row) {
     binding_.OperateSoon(control_, [this, row] {
       if (row != control_.active_row() && row <= control_.rows()) control_.SetActiveRow(row);
@@ -124,14 +126,14 @@ class GridView : public wxGrid {
     GetGridWindow()->Refresh();
   }
 
-  // Without the focus the toolkit paints the selection grey. Its own text colour is hard to read on
-  // it.
+  // Sets the text colour of the selection. The toolkit paints the selection grey without the focus,
+  // and its own text colour is hard to read on grey.
   void ColourSelection(bool focused) {
     SetSelectionForeground(wxSystemSettings::GetColour(focused ? wxSYS_COLOUR_HIGHLIGHTTEXT
                                                                : wxSYS_COLOUR_WINDOWTEXT));
   }
 
-  // A single click turns a tick over. The toolkit would only move its cursor at the first click.
+  // Toggles a tick at a single click. The toolkit would only move its cursor at the first click.
   void OnClick(wxGridEvent& event) {
     event.Skip();
     const bool selects = event.ControlDown() || event.ShiftDown();
@@ -144,36 +146,38 @@ class GridView : public wxGrid {
     binding_.OperateSoon(control_, control_.on_double_click);
   }
 
-  // Rows are marked as a whole, so the tab key leaves the grid.
+  // Moves the focus out of the grid. Rows are selected as a whole, so the tab key does not move
+  // between cells.
   void LeaveByTab(bool backward) {
     Navigate(backward ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
   }
 
-  // While a cell is edited, Escape cancels the edit rather than the screen.
+  // Makes Escape cancel the edit of a cell, and not the screen, while a cell is edited.
   void OnCharHook(wxKeyEvent& event) {
     if (event.GetKeyCode() != WXK_ESCAPE || !IsCellEditControlShown()) return event.Skip();
     wxGridCellEditorPtr(GetCellEditor(GetGridCursorRow(), GetGridCursorCol()))->Reset();
     DisableCellEditControl();
   }
 
-  // The toolkit's cursor is in the first row before any row is marked, so Down must mark that row.
+  // True if the key must select the first row. The toolkit's cursor is already in that row before
+  // any row is selected, so Down would skip it.
   bool MarksFirstRow(int key) const {
     return (key == WXK_DOWN || key == WXK_NUMPAD_DOWN) && marks_ == GridMarks::kRows &&
            control_.active_row() == 0 && control_.rows() > 0;
   }
 
-  // Turns the tick under the toolkit's cursor, or the only tick of the row.
+  // Toggles the tick under the toolkit's cursor, or else the only tick of the row.
   bool TurnTick() {
     const int row = GetGridCursorRow();
     return table_->TurnTick(row, GetGridCursorCol()) ||
            table_->TurnTick(row, table_->OnlyTickColumn());
   }
 
-  // Handles the keys that the screen knows. All other keys move within the grid.
+  // Handles the keys that the screen uses. All other keys move within the grid.
   void OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     if (MarksFirstRow(key)) return Activate(1);
-    if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // it would unmark the active row
+    if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // it would deselect the row
     if (key == WXK_TAB && marks_ == GridMarks::kRows) return LeaveByTab(event.ShiftDown());
     const bool turns = key == WXK_SPACE && !event.HasAnyModifiers() && !IsCellEditControlShown();
     if (turns && TurnTick()) return;
@@ -186,8 +190,8 @@ class GridView : public wxGrid {
     if (!binding_.OperateKeySoon(name)) event.Skip();
   }
 
-  // The control takes or refuses the key too late for the toolkit to handle it. So a refused Enter
-  // moves the cursor down here.
+  // Passes a key to the control after the current event. The toolkit cannot handle a refused key by
+  // then, so a refused Enter moves the cursor down here.
   void TakeKeySoon(const std::string& name) {
     binding_.OperateSoon(control_, [this, name] {
       if (control_.on_key(name) || binding_.OperateKeySoon(name)) return;
@@ -201,7 +205,7 @@ class GridView : public wxGrid {
   ControlTable* table_;
   bool showing_ = false;
   bool measured_ = false;
-  int widest_ = -1;  // a column; -1 before it is known
+  int widest_ = -1;  // a column, or -1 if it is not known yet
   int widest_needs_ = 0;
 };
 

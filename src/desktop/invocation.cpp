@@ -9,7 +9,7 @@
 namespace golf {
 namespace {
 
-// Takes the parser's output instead of printing it.
+// Collects the output of the parser, which would otherwise be printed.
 class CaughtOutput : public wxMessageOutput {
  public:
   CaughtOutput() : before_(Set(this)) {}

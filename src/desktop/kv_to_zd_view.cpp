@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kPercentWidth = 60;  // in device-independent pixels
 
-// Lays out a choice: its heading, what was chosen, and the button that chooses.
+// Lays out a choice: its heading, what was chosen, and the button that opens the list.
 wxSizer* Choice(Binding& binding, wxWindow* parent, Label& heading, Label& chosen, Button& finder,
                 Shown shown) {
   wxStaticText* title = MakeLabel(binding, parent, heading);

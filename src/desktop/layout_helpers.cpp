@@ -46,7 +46,7 @@ int EdgeGap(const wxWindow& window) { return window.FromDIP(14); }
 wxSizer* Column(std::initializer_list<wxWindow*> controls) {
   auto* column = new wxBoxSizer(wxVERTICAL);
   for (wxWindow* control : controls) {
-    // Uses a border and not a spacer, so that a hidden control leaves no gap.
+    // A border is used and not a spacer, so that a hidden control leaves no gap.
     const int gap = column->GetItemCount() > 0 ? CloseGap(*control) : 0;
     column->Add(control, wxSizerFlags().Expand().Border(wxTOP, gap));
   }
@@ -83,8 +83,8 @@ wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBo
   wxStaticText* title = MakeLabel(binding, parent, heading);
   MakeBold(*title);
   wxTextCtrl* box = MakeTextBox(binding, parent, name);
-  // A box that gets the focus by a key scrolls to its end, past the blanks before the number. So it
-  // scrolls back when it loses the focus.
+  // The box scrolls to its end when it gets the focus by a key, past the blanks before the number.
+  // It scrolls back here when it loses the focus.
   box->Bind(wxEVT_KILL_FOCUS, [box](wxFocusEvent& event) {
     event.Skip();
     box->SetInsertionPoint(0);

@@ -17,7 +17,7 @@ wxSizer* ListButtons(ScreenPanel& panel, LoadRosters& screen) {
                  button(screen.CancelButton)});
 }
 
-// Lays out the fields of a roster, each after its name.
+// Lays out the fields of a roster, each with its name before it.
 wxSizer* Entry(ScreenPanel& panel, LoadRosters& screen) {
   Binding& binding = panel.binding();
   auto* fields = new wxFlexGridSizer(2, CloseGap(panel), GroupGap(panel));

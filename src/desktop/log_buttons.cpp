@@ -22,7 +22,8 @@ void Copy(const wxTextCtrl& log) {
   wxTheClipboard->Flush();  // keeps the text after the program has ended
 }
 
-// Saves the log. The toolkit shows an error, and the old file is then kept.
+// Saves the log to a file that the operator chooses. After an error, the toolkit shows a message
+// and an existing file is not changed.
 void Save(wxTextCtrl& log) {
   wxFileDialog dialog(wxGetTopLevelParent(&log), "Save Messages",
                       wxStandardPaths::Get().GetDocumentsDir(), "transfer messages.txt",
@@ -34,7 +35,7 @@ void Save(wxTextCtrl& log) {
   if (file.IsOpened() && file.Write(wxTextBuffer::Translate(log.GetValue()))) file.Commit();
 }
 
-// Makes a button that is enabled while there is a log and no run.
+// Creates a button that is enabled if the log is not empty and no run is in progress.
 wxButton* MakeLogButton(wxWindow* parent, wxTextCtrl& log, const wxString& caption,
                         std::function<void()> work) {
   auto* button = new wxButton(parent, wxID_ANY, caption);

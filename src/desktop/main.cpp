@@ -3,7 +3,8 @@
 
 wxIMPLEMENT_APP_NO_MAIN(golf::DesktopApp);
 
-// The toolkit's own main would open the display before the standard streams are taken.
+// The program has its own main function, since the toolkit's one would open the display before
+// TakeStandardStreams is called.
 #ifdef __WXMSW__
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, wxCmdLineArgType, int show) {
   golf::TakeStandardStreams();

@@ -12,8 +12,8 @@
 namespace golf {
 namespace {
 
-// A button in the toolkit's dialog. The toolkit has no Retry button, so its OK button gets that
-// caption.
+// Describes a button in the toolkit's dialog. The toolkit has no Retry button, so its OK button
+// gets that caption.
 struct NativeButton {
   BoxButton button;
   unsigned long style;
@@ -44,8 +44,9 @@ bool Has(const Box& box, BoxButton button) {
   return std::find(box.buttons.begin(), box.buttons.end(), button) != box.buttons.end();
 }
 
-// An input dialog whose proposed answer is selected, so that typing replaces it. When the dialog
-// opens, the toolkit sets the answer again and moves the cursor to its start.
+// Is an input dialog that selects the proposed answer, so that typing replaces it. This must be
+// done when the dialog opens, since the toolkit then sets the answer again and moves the cursor to
+// its start.
 class InputDialog : public wxTextEntryDialog {
  public:
   using wxTextEntryDialog::wxTextEntryDialog;

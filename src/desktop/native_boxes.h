@@ -9,12 +9,13 @@
 
 namespace golf {
 
-// The system's own dialogs. `parent` may be null.
+// These functions show dialogs of the operating system. `parent` may be null.
 
-// Closing a box without a button answers Cancel, or the last button if there is no Cancel.
+// Returns the answer. If the operator closes the box without a button, that is Cancel, or the last
+// button if the box has no Cancel.
 BoxButton ShowMessageDialog(wxWindow* parent, const Box& box);
 std::string ShowInputDialog(wxWindow* parent, const InputBox& box);
-// Cancel returns the current font.
+// Returns the chosen font, or the current one if the operator cancels.
 Font ShowFontDialog(wxWindow* parent, std::string_view title, const Font& current);
 
 }  // namespace golf

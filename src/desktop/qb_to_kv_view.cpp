@@ -7,7 +7,7 @@
 namespace golf {
 namespace {
 
-// In device-independent pixels.
+// These are in device-independent pixels.
 constexpr int kTournamentWidth = 340;
 constexpr int kRoundWidth = 110;
 constexpr int kListHeight = 110;
@@ -29,7 +29,7 @@ wxListBox* MakeList(ScreenPanel& panel, ListBox& control, int width, Shown shown
   return list;
 }
 
-// The rounds keep their space if there is only one round.
+// Lays out the tournaments and the rounds. The list of rounds keeps its space while it is hidden.
 wxSizer* Source(ScreenPanel& panel, QBtoKV& screen) {
   auto* lists = new wxBoxSizer(wxHORIZONTAL);
   lists->Add(MakeList(panel, screen.TournamentList, kTournamentWidth, QBtoKV::TournamentHeading),
@@ -42,7 +42,7 @@ wxSizer* Source(ScreenPanel& panel, QBtoKV& screen) {
   return source;
 }
 
-// Puts the source of the scores beside their destination.
+// Lays out the source of the scores beside their destination.
 wxSizer* Ends(ScreenPanel& panel, QBtoKV& screen) {
   auto* ends = new wxBoxSizer(wxHORIZONTAL);
   ends->Add(Source(panel, screen), wxSizerFlags(3).Expand());
@@ -60,7 +60,7 @@ wxChoice* MakePartner(ScreenPanel& panel, ComboBox& control, int width, Shown sh
   return choice;
 }
 
-// Lays out Quenby's course and its match in Kelvane.
+// Lays out Quenby's course and the corresponding course of Kelvane.
 wxSizer* Courses(ScreenPanel& panel, QBtoKV& screen) {
   Binding& binding = panel.binding();
   wxStaticText* partner = MakeLabel(binding, &panel, screen.Label1[1]);
@@ -76,7 +76,8 @@ wxSizer* Courses(ScreenPanel& panel, QBtoKV& screen) {
   return rows;
 }
 
-// Lays out the tees of one sex and their matches, a row each. Hidden ones leave no gap.
+// Lays out the tees of one sex and the corresponding tees of Kelvane, each in a row. Hidden rows
+// leave no gap.
 wxSizer* Tees(ScreenPanel& panel, QBtoKV::Labels& sexes, QBtoKV::Labels& tees,
               QBtoKV::Combos& partners) {
   Binding& binding = panel.binding();

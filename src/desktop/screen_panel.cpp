@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kGaugeSteps = 1000;
 
-// The toolkit's timer for a timer control. It runs as long as the window has its screen.
+// Is the toolkit's timer for a timer control. It exists as long as the panel.
 class RunningTimer : public wxTimer {
  public:
   RunningTimer(Binding& binding, Timer& control) : binding_(binding), control_(control) {
@@ -53,7 +53,7 @@ ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& scree
   });
 }
 
-// Destroys the widgets first, since they still report to the binding.
+// Destroys the widgets before the binding, since they send events to it.
 ScreenPanel::~ScreenPanel() { DestroyChildren(); }
 
 wxGauge* ScreenPanel::MakeGauge(wxWindow* parent) {
@@ -83,7 +83,7 @@ void ScreenPanel::FollowTimers() {
   }
 }
 
-// May be called within a timer's event.
+// An event of a timer may call this.
 void ScreenPanel::Detach() {
   for (const auto& timer : timers_) timer->Stop();
   for (Control* control : screen_->controls()) control->Observe(nullptr);
@@ -101,7 +101,7 @@ void ScreenPanel::OnClose(wxCloseEvent& event) {
   if (screen_ != nullptr) press(screen_->LeaveButton());
 }
 
-// In an open menu, Escape closes the menu rather than the screen.
+// Handles Escape for the screen, unless a menu is open. Escape closes the menu then.
 void ScreenPanel::OnCharHook(wxKeyEvent& event) {
   binding_.RunWaiting();
   const bool leaves = event.GetKeyCode() == WXK_ESCAPE && !menu_is_open_;

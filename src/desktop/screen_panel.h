@@ -12,8 +12,8 @@
 
 namespace golf {
 
-// The contents of a screen's window. The screen's view fills it, and the host tells it when a run
-// begins and ends.
+// Contains the widgets of a screen's window. The view of the screen adds them. The host calls
+// SetInRun when a run begins and ends.
 class ScreenPanel : public wxPanel {
  public:
   ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen);
@@ -22,13 +22,13 @@ class ScreenPanel : public wxPanel {
   wxTopLevelWindow& window() const { return window_; }
   Binding& binding() { return binding_; }
 
-  // Makes a gauge that is visible during a run. The caller must reserve its space.
+  // Creates a gauge that is visible during a run. The caller must reserve its space.
   wxGauge* MakeGauge(wxWindow* parent);
 
   void SetInRun(bool in_run);
   void ShowProgress(const Progress& progress);
 
-  // Unties the window from its screen.
+  // Disconnects the window from its screen.
   void Detach();
 
  private:

@@ -84,7 +84,8 @@ class BuilderFiller {
     return rows;
   }
 
-  // Makes a frame with its caption above its contents.
+  // Creates a frame with its caption above its contents. Returns the sizer for the contents in
+  // `column`.
   wxPanel* NewFrame(wxWindow* page, Frame& control, wxSizer*& column) {
     wxPanel* frame = MakeFrame(binding_, page, control);
     auto* caption = new wxStaticText(frame, wxID_ANY, WxText(control.caption()));

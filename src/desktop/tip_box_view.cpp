@@ -21,8 +21,8 @@ wxStaticBitmap* NewPicture(wxWindow* parent, const TipBox& screen) {
                             wxArtProvider::GetBitmapBundle(art, wxART_MESSAGE_BOX));
 }
 
-// Returns the size for the message: as high as its text, up to a limit. Wrapping leaves room for a
-// scroll bar.
+// Returns the size of the message box's text: as high as the text, up to a limit. The text is
+// wrapped so that a scroll bar has space.
 wxSize MessageSize(wxWindow* parent, const wxString& message, int width) {
   wxStaticText measure(parent, wxID_ANY, "");
   const int line = measure.GetCharHeight();

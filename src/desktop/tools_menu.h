@@ -6,8 +6,8 @@
 
 namespace golf {
 
-// Adds the menu "Tools" to the main window. Each time it opens, it lists the tools that have
-// something to work on.
+// Adds the menu "Tools" to the main window. Each time the menu opens, it lists the tools whose data
+// exists.
 void AddToolsMenu(wxFrame& window, SharedState& state, HostBase& host);
 
 }  // namespace golf

@@ -8,7 +8,7 @@
 namespace golf {
 namespace {
 
-// A longer text for a button with a short caption.
+// Describes the tooltip of a button.
 struct ButtonHelp {
   Button TransferMenu::*button;
   const char* text;

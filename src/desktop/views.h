@@ -25,16 +25,17 @@ class XReportsCustomTeamResults;
 class ZDtoKV;
 class ZDtoQB;
 
-// A dialog opens in the middle of its opener, or at the opener's top left corner.
+// Says where a window opens. kDialog opens in the centre of its parent window, and
+// kDialogOverOpener at the parent's top left corner.
 enum class WindowKind { kMain, kDialog, kDialogOverOpener };
 
-// How the window of a screen is made.
+// Says how the window of a screen is created.
 struct View {
   WindowKind kind;
   void (*fill)(ScreenPanel&, Screen&);
-  bool grows = false;  // true for a screen whose list or log needs room
+  bool grows = false;  // true if the operator can resize the window
 };
-// Views by the names of their screens.
+// Maps the names of screens to their views.
 using ViewCatalogue = std::map<std::string, View, std::less<>>;
 
 ViewCatalogue Views();

@@ -16,7 +16,7 @@ wxString TextToShow(const std::string& text, Shown shown) {
   return WxText(shown == nullptr ? text : shown(text));
 }
 
-// Ties a list to a widget of any kind.
+// Connects a list control to a widget of any type.
 template <class Widget>
 void TieList(Binding& binding, List& control, Widget& widget, wxEventTypeTag<wxCommandEvent> chosen,
              Shown shown) {
@@ -88,8 +88,9 @@ wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& cont
 wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown) {
   auto* list = new wxListBox(parent, wxID_ANY);
   TieList(binding, control, *list, wxEVT_LISTBOX, shown);
-  // Waits, since the same key would also press the button that then gets the focus. One key may
-  // cause both events; by the second, the list is hidden.
+  // The event waits, since the same key would otherwise also press the button that then gets the
+  // focus. One key may cause both of the following events. The list is already hidden at the second
+  // one, which is refused then.
   list->Bind(wxEVT_LISTBOX_DCLICK, [&binding, &control](wxCommandEvent&) {
     if (control.on_double_click) binding.OperateSoon(control, control.on_double_click);
   });
@@ -118,7 +119,8 @@ void ShowSelection(Entry& entry, const TextBox& control) {
   if (control.selected() > 0) entry.SetSelection(0, static_cast<long>(control.selected()));
 }
 
-// Setting the same text again would move the operator's cursor.
+// Shows the text of the control. Does not set the same text again, since that would move the
+// operator's cursor.
 template <class Entry>
 void ShowText(Entry& entry, const TextBox& control) {
   const wxString text = WxText(control.text());
@@ -126,7 +128,7 @@ void ShowText(Entry& entry, const TextBox& control) {
   if (entry.HasFocus()) ShowSelection(entry, control);
 }
 
-// Shows a selection that a screen made while it moved the focus, once the focus arrives.
+// Shows a selection when the entry gets the focus, since the screen may have set it before that.
 template <class Entry>
 void SelectOnFocus(const Binding& binding, Entry& entry, const TextBox& control) {
   entry.Bind(wxEVT_SET_FOCUS, [&binding, &entry, &control](wxFocusEvent& event) {
@@ -142,7 +144,7 @@ void FollowText(Binding& binding, TextBox& control, Entry& entry) {
   });
 }
 
-// Colours a field with a wrong entry and explains it in its tooltip.
+// Colours a field with a wrong entry and shows the explanation in its tooltip.
 void MarkNote(wxWindow& widget, const Control& control) {
   const bool noted = !control.note().empty();
   if (noted == (widget.GetBackgroundColour() == kNotedField)) return;
@@ -156,7 +158,7 @@ void MarkNote(wxWindow& widget, const Control& control) {
   widget.Refresh();
 }
 
-// Filters typed keys. Pasted text passes unfiltered.
+// Filters typed keys. Pasted text is not filtered.
 void FilterKeys(wxTextCtrl& box, const TextBox& control) {
   box.Bind(wxEVT_CHAR, [&box, &control](wxKeyEvent& event) {
     const wxChar typed = event.GetUnicodeKey();

@@ -17,12 +17,14 @@
 
 namespace golf {
 
-// Each function makes a widget and ties it to its control. The order of the calls is the tab order.
+// Each of these functions creates a widget and connects it to its control. The order of the calls
+// is the tab order.
 
-// Returns the part of a text that is shown, without the key behind it.
+// Is a function that returns the part of a text that is shown, without the key at its end.
 using Shown = std::string (*)(const std::string& text);
 
-// Shows "&" as a plain character, since the caption is data. A text that is too long ends in dots.
+// Shows "&" as a plain character, since the caption is data. A text that is too long is cut and
+// ends in dots.
 wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Shown shown = nullptr);
 // Wraps the text at this width, in pixels.
 wxStaticText* MakeWrappedLabel(Binding& binding, wxWindow* parent, Label& control, int width);
@@ -35,13 +37,13 @@ wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Sho
 wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown = nullptr);
 wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, long style = 0);
 wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control);
-// Makes a text that shows the first line of the first visible note among these controls. It wraps
-// at this width in pixels and keeps room for this number of lines.
+// Creates a text that shows the first line of the first visible note of these controls. It wraps
+// the text at `width` pixels and reserves space for this number of lines.
 wxStaticText* MakeNote(Binding& binding, wxWindow* parent, std::vector<const Control*> controls,
                        int width, int lines);
-// Makes a frame, which holds the widgets of its controls.
+// Creates a frame, which contains the widgets of its controls.
 wxPanel* MakeFrame(Binding& binding, wxWindow* parent, Frame& control);
-// Makes a tab with an empty panel for each page.
+// Creates a tab control with an empty panel for each page.
 wxNotebook* MakeTab(Binding& binding, wxWindow* parent, Tab& control);
 
 }  // namespace golf

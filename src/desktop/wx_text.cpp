@@ -6,7 +6,7 @@ namespace golf {
 
 wxString WxText(std::string_view text) {
   std::string filled(text);
-  std::erase(filled, '\0');  // a field that was never filled holds NULs
+  std::erase(filled, '\0');  // a field that was never filled contains NULs
   wxString shown = wxString::FromUTF8(Utf8FromText(filled));
   shown.Replace("\r\n", "\n");
   shown.Replace("\r", "\n");

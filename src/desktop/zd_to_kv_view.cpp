@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kBatchesWidth = 370;  // for the longest name of a batch; in device-independent pixels
 
-// Puts the league and its scores beside the roster that they go to.
+// Lays out the league and its batches of scores beside the roster that receives them.
 wxSizer* Ends(Binding& binding, wxWindow* parent, ZDtoKV& screen) {
   auto* league = new wxBoxSizer(wxVERTICAL);
   league->Add(

@@ -23,8 +23,8 @@ enum class ControlKind {
   kTimer,
 };
 
-// An element of a screen: a value that announces its changes. It knows nothing about drawing. A
-// screen owns its controls as members. Several controls may share one name.
+// Represents an element of a screen, without drawing it. It calls its observer after each change. A
+// screen owns its controls as members. Several controls may have the same name.
 class Control {
  public:
   Control(ControlKind kind, std::string name) : kind_(kind), name_(std::move(name)) {}
@@ -35,7 +35,7 @@ class Control {
   ControlKind kind() const { return kind_; }
   const std::string& name() const { return name_; }
 
-  // Returns the frame or tab that holds this control, or null if the screen holds it directly.
+  // Returns the frame or tab that contains this control, or null if there is none.
   Control* parent() const { return parent_; }
   void SetParent(Control& parent) { parent_ = &parent; }
 
@@ -43,7 +43,7 @@ class Control {
   bool enabled() const { return enabled_; }
   void SetVisible(bool visible) { Assign(visible_, visible); }
   void SetEnabled(bool enabled) { Assign(enabled_, enabled); }
-  // IsShown and IsUsable also consider the frames and tabs that hold the control.
+  // True if the control, and each frame or tab that contains it, is visible or enabled.
   bool IsShown() const { return visible_ && (parent_ == nullptr || parent_->ShowsInside(*this)); }
   bool IsUsable() const { return enabled_ && (parent_ == nullptr || parent_->IsUsable()); }
   // True if the operator can act on the control with the mouse, a key or a script.
@@ -52,19 +52,20 @@ class Control {
   const std::string& tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
 
-  // Returns the explanation of a wrong entry, which the window shows beside it. Empty for a right
-  // entry.
+  // Returns the explanation of a wrong entry, which the window shows beside the control. The note
+  // of a right entry is empty.
   const std::string& note() const { return note_; }
   void SetNote(std::string note) { Assign(note_, std::move(note)); }
 
-  // Sets the function that is called after each change of what the control shows. There is one
-  // observer.
+  // Sets the function that is called after each change of what the control shows. It replaces the
+  // previous function.
   void Observe(std::function<void()> changed) { changed_ = std::move(changed); }
 
-  // Events: the control gets the focus, and the control loses it.
+  // These run when the control gets the focus and when it loses it.
   std::function<void()> on_enter;
   std::function<void()> on_leave;
-  // Event: a key such as "Insert" is pressed in the control. Returns true if the control takes it.
+  // Runs when a key such as "Insert" is pressed in the control. Returns true if the control has
+  // handled the key.
   std::function<bool(std::string_view)> on_key;
 
  protected:
@@ -77,7 +78,7 @@ class Control {
   void Changed() const {
     if (changed_) changed_();
   }
-  // True if this control shows the given control, which it holds.
+  // True if this control, which contains the given control, shows it.
   virtual bool ShowsInside(const Control&) const { return IsShown(); }
 
  private:
@@ -91,8 +92,8 @@ class Control {
   std::function<void()> changed_;
 };
 
-// A control with a caption. In a caption, "&" precedes the letter that reaches the control with
-// Alt.
+// Represents a control with a caption. In a caption, "&" precedes the letter that selects the
+// control together with Alt.
 class Captioned : public Control {
  public:
   Captioned(ControlKind kind, std::string name, std::string caption)
@@ -122,7 +123,7 @@ class Button : public Captioned {
   Button(std::string name, std::string caption)
       : Captioned(ControlKind::kButton, std::move(name), std::move(caption)) {}
 
-  // The default button is pressed by Enter, the cancel button by Escape.
+  // Enter presses the default button, and Escape presses the cancel button.
   bool is_default() const { return default_; }
   bool is_cancel() const { return cancel_; }
   void SetDefault(bool is_default) { Assign(default_, is_default); }
@@ -138,7 +139,7 @@ class Button : public Captioned {
   bool cancel_ = false;
 };
 
-// A check box or an option button.
+// Represents a check box or an option button.
 class Toggle : public Captioned {
  public:
   Toggle(ControlKind kind, std::string name, std::string caption)
@@ -147,7 +148,8 @@ class Toggle : public Captioned {
   bool value() const { return value_; }
   void SetValue(bool value) { Assign(value_, value); }
 
-  // Enters the operator's choice: sets the value and runs the event, even if the value is the same.
+  // Enters the operator's choice: sets the value and calls on_click, even if the value does not
+  // change.
   void Choose(bool value) {
     SetValue(value);
     if (on_click) on_click();
@@ -179,7 +181,7 @@ class TextBox : public Control {
     selected_ = 0;
     if (text_ != text) Enter(std::move(text));
   }
-  // Enters the operator's text: sets it and runs the event, even if the text is the same.
+  // Enters the operator's text: sets it and calls on_change, even if the text does not change.
   void Enter(std::string text) {
     selected_ = 0;
     Assign(text_, std::move(text));
@@ -189,17 +191,18 @@ class TextBox : public Control {
   bool read_only() const { return read_only_; }
   void SetReadOnly(bool read_only) { Assign(read_only_, read_only); }
 
-  // Returns how many characters from the start are selected. Setting the text clears the selection.
+  // Returns how many characters are selected, from the start of the text. A new text clears the
+  // selection.
   std::size_t selected() const { return selected_; }
   void SelectFirst(std::size_t count) { Assign(selected_, std::min(count, text_.size())); }
 
-  // Enters a key that the filter has passed. The key replaces the selected characters, or follows
-  // the text if none are selected.
+  // Enters a character that the filter has passed. It replaces the selected characters. It is
+  // appended if none are selected.
   void TypeKey(char key) { Enter(selected_ > 0 ? key + text_.substr(selected_) : text_ + key); }
 
-  // Event: the program has changed the text, or the operator has entered one.
+  // Runs when the program has changed the text or the operator has entered one.
   std::function<void()> on_change;
-  // Returns the key to enter in place of a typed one, or 0 to refuse it.
+  // Returns the character to enter in place of a typed one, or 0 to refuse it.
   std::function<char(char)> key_filter;
 
  protected:
@@ -211,14 +214,14 @@ class TextBox : public Control {
   bool read_only_ = false;
 };
 
-// A drop-down list that also takes free text.
+// Represents a drop-down list that also accepts free text.
 class TextCombo : public TextBox {
  public:
   TextCombo(std::string name, std::vector<std::string> items)
       : TextBox(ControlKind::kComboBox, std::move(name)), items_(std::move(items)) {}
 
   const std::vector<std::string>& items() const { return items_; }
-  // Returns the index of the first item equal to the text, from 0, or -1.
+  // Returns the index, from 0, of the first item that equals the text, or -1.
   int index() const;
   // Enters the item as the text. Returns false and changes nothing if there is no such index.
   bool Select(int index);
@@ -227,7 +230,7 @@ class TextCombo : public TextBox {
   std::vector<std::string> items_;
 };
 
-// A list box or a drop-down list.
+// Represents a list box or a drop-down list.
 class List : public Control {
  public:
   List(ControlKind kind, std::string name) : Control(kind, std::move(name)) {}
@@ -237,12 +240,12 @@ class List : public Control {
   // Removes all items and the selection.
   void Clear();
 
-  // Returns the index of the selected item, from 0, or -1.
+  // Returns the index of the selected item, from 0, or -1 if none is selected.
   int index() const { return index_; }
-  // Selects an item, or none with -1, and runs the event. Returns false and changes nothing if
+  // Selects an item, or none with -1, and calls on_click. Returns false and changes nothing if
   // there is no such index.
   bool Select(int index);
-  // Returns the selected item, or an empty text.
+  // Returns the selected item, or an empty text if none is selected.
   std::string text() const;
 
   std::function<void()> on_click;
@@ -263,8 +266,8 @@ class ComboBox : public List {
   explicit ComboBox(std::string name) : List(ControlKind::kComboBox, std::move(name)) {}
 };
 
-// Pages behind each other. Each control that Hold has put on a page shows only while that page is
-// in front.
+// Represents a tab control with several pages, of which it shows one. A control that Hold has added
+// to a page is visible only while the tab shows that page.
 class Tab : public Control {
  public:
   Tab(std::string name, std::vector<std::string> pages)
@@ -272,11 +275,11 @@ class Tab : public Control {
 
   const std::vector<std::string>& pages() const { return pages_; }
   int page() const { return page_; }
-  // Brings a page to the front and runs the event. Pages count from 0. Returns false and changes
-  // nothing if there is no such page.
+  // Shows a page and calls on_click. Pages count from 0. Returns false and changes nothing if there
+  // is no such page.
   bool Choose(int page);
 
-  // Puts a control on a page.
+  // Adds a control to a page.
   void Hold(Control& control, int page);
 
   std::function<void()> on_click;
@@ -290,7 +293,7 @@ class Tab : public Control {
   int page_ = 0;
 };
 
-// A timer that fires repeatedly while its interval is above 0. The host calls on_timer.
+// Represents a timer. The host calls on_timer repeatedly while the interval is above 0.
 class Timer : public Control {
  public:
   explicit Timer(std::string name) : Control(ControlKind::kTimer, std::move(name)) {}

@@ -8,17 +8,17 @@
 
 namespace golf {
 
-// Names for the parts of a message box, and the data of an input box and of a font choice.
-
 // Returns "none", "information", "question", "stop" or "warning".
 std::string_view NameOf(BoxIcon icon);
 // Returns "OK", "Cancel", "Yes", "No" or "Retry".
 std::string_view NameOf(BoxButton button);
 
-// Returns the button of the box with this name, in any case. Nothing if the box does not have it.
+// Returns the button of the box that has this name, without regard to case. Returns nothing if the
+// box has no such button.
 std::optional<BoxButton> ButtonNamed(const Box& box, std::string_view name);
 
-// A box that takes a line of text. Cancel answers with an empty text.
+// Describes a box that asks for a line of text. The answer is an empty text if the operator presses
+// Cancel.
 struct InputBox {
   std::string title;
   std::string text;
@@ -38,7 +38,8 @@ struct Font {
 
 // Writes a font as "Arial, 12, bold italic".
 std::string DescribeFont(const Font& font);
-// Reads what DescribeFont writes. Nothing if the text has no comma.
+// Reads what DescribeFont writes. Returns nothing if the text has no comma, no name or no size
+// above 0.
 std::optional<Font> ParseFont(std::string_view description);
 
 }  // namespace golf

@@ -72,7 +72,7 @@ void Grid::SetHidden(int column, bool hidden) {
 
 std::vector<int> Grid::SortedRows(const std::vector<SortKey>& keys, int last_row,
                                   std::string_view date_format) const {
-  // Ranks each cell once rather than at every comparison.
+  // Each cell is ranked once, not again at every comparison.
   std::vector<std::vector<CellRank>> ranks;
   for (const SortKey& key : keys) {
     std::vector<CellRank>& column = ranks.emplace_back();

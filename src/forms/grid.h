@@ -11,8 +11,8 @@ namespace golf {
 
 enum class CellType { kText, kCheckBox, kDropDown };
 
-// An item of a drop-down cell. `text` is shown, and `code` identifies the item. `cell` is the text
-// of a cell that shows the item; if it is empty, that is `text`.
+// Describes an item of a drop-down cell. The list shows `text`, and `code` identifies the item. A
+// cell with this item shows `cell`, or `text` if `cell` is empty.
 struct DropDownItem {
   std::string text;
   std::string code;
@@ -21,25 +21,25 @@ struct DropDownItem {
   const std::string& CellText() const { return cell.empty() ? text : cell; }
 };
 
-// A table of text cells. Columns count from 0; column 0 carries a key and is often hidden. Rows
-// count from 1; the headings are not a row. A check box cell holds "1" or "0".
+// Represents a table of text cells. Columns count from 0; column 0 contains a key and is often
+// hidden. Rows count from 1; the headings are not a row. A check box cell contains "1" or "0".
 class Grid : public Control {
  public:
-  // Makes the columns 0 to `columns` and no rows.
+  // Creates the columns 0 to `columns` and no rows.
   Grid(std::string name, int columns);
 
   int columns() const { return columns_; }
   int rows() const { return static_cast<int>(cells_.size()); }
-  // New rows are empty. The active row stays if it still exists, and becomes 0 otherwise.
+  // Sets the number of rows. New rows are empty. The active row becomes 0 if it no longer exists.
   void SetRows(int rows);
 
-  // Error 9 for a column or a cell that does not exist.
+  // These raise error 9 for a column or a cell that does not exist.
   const std::string& heading(int column) const { return Column(column).heading; }
   void SetHeading(int column, std::string heading);
   const std::string& text(int column, int row) const;
   void SetText(int column, int row, std::string text);
 
-  // Enters the operator's text: sets it and runs the event.
+  // Enters the operator's text: sets it and calls on_change.
   void Enter(int column, int row, std::string text);
 
   CellType cell_type(int column) const { return Column(column).type; }
@@ -49,10 +49,10 @@ class Grid : public Control {
 
   SortKind sort_kind(int column) const { return Column(column).sort_kind; }
   void SetSortKind(int column, SortKind kind) { Column(column).sort_kind = kind; }
-  // Sorts rows 1 to `last_row` by the first key, ties by the next key, and so on. Rows that tie in
-  // all keys keep their order. The locks and the active row move with their rows; if the active row
-  // moves, on_row_change runs. `date_format` is the format of dates in the cells. Error 9 for a row
-  // or column that does not exist.
+  // Sorts rows 1 to `last_row` by the first key, rows that tie by the next key, and so on. Rows
+  // that tie in all keys keep their order. The locks and the active row move with their rows. Calls
+  // on_row_change if the active row moves. `date_format` is the format of dates in the cells.
+  // Raises error 9 for a row or column that does not exist.
   void SortRows(const std::vector<SortKey>& keys, int last_row, std::string_view date_format);
 
   bool IsCentred(int column) const { return Column(column).centred; }
@@ -63,11 +63,13 @@ class Grid : public Control {
   void LockColumn(int column, bool locked) { Column(column).locked = locked; }
   void LockRow(int row, bool locked) { locked_rows_[row] = locked; }
 
-  // From 1; 0 if no row is active. Setting it runs on_row_change. Error 9 for any other row.
+  // Returns the active row, from 1, or 0 if no row is active. SetActiveRow calls on_row_change. It
+  // raises error 9 for a row that does not exist.
   int active_row() const { return active_row_; }
   void SetActiveRow(int row);
 
-  // Turning repainting off keeps the view from following each change. Turning it on shows them all.
+  // Switches the notification of the observer on or off. Switching it on notifies the observer of
+  // all changes that were made meanwhile.
   void SetRepainting(bool on);
 
   std::function<void()> on_row_change;

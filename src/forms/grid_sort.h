@@ -10,43 +10,45 @@
 
 namespace golf {
 
-// Up to three keys, the most important first. A column below 1 is no key: column 0 carries a
-// record's key and is never sorted by.
+// Holds up to three keys, the most important first. An entry with a column below 1 is not used:
+// column 0 contains the key of a record, and no grid is sorted by it.
 using SortKeys = std::array<SortKey, 3>;
 
-// Which rows of a sorted grid tie, in any case of letters: those with the same text under the first
-// key, or the same joined texts under the first two keys. kGroups also ties by two keys, and the
-// text under the first key names a row's group.
+// Says which rows of a sorted grid tie, without regard to case. With kOneKey, rows tie if their
+// texts in the column of the first key are equal. With kTwoKeys and kGroups, rows tie if the joined
+// texts of the first two keys are equal. With kGroups, the text of the first key is also the name
+// of the row's group.
 enum class PositionMode : int { kOneKey = 0, kTwoKeys = 1, kGroups = 11 };
 
-// Sorts any grid and then numbers its rows. Rows that tie share a place. Code that sorts without
-// the dialog uses it directly, and the dialog GridSort uses one, too.
+// Sorts a grid and then numbers its rows. Rows that tie share a place. The dialog GridSort uses a
+// GridSorter; other code can sort with one directly, without the dialog.
 class GridSorter {
  public:
-  // Reads dates in cells by the date format of the shared state.
+  // Reads dates in cells in the date format of the shared state.
   explicit GridSorter(const SharedState& state) : state_(&state) {}
 
-  // The grid must outlive its use here.
+  // Sets the grid. It must outlive its use by this object.
   void SetGridToSort(Grid& grid) { grid_ = &grid; }
-  // Error 5 if no grid is set, here and in all members that use the grid.
+  // Returns the grid. Raises error 5 if none is set, as do all members that use the grid.
   Grid& GridToSort() const;
 
-  // Returns the last row of the next sort. Below 1 stands for the last row of the grid.
+  // Returns the last row of the next sort. A value below 1 means the last row of the grid.
   int LastRowToSort() const { return last_row_; }
   void SetLastRowToSort(int row) { last_row_ = row; }
 
   // Sorts the rows and resets LastRowToSort to 0.
   void Sort(const SortKeys& keys);
-  // Return the keys of the last sort, for i from 0 to 2: the column, 0 for no key; and the order, 0
-  // ascending or -1 descending. Error 9 for any other i.
+  // These return a key of the last sort, for i from 0 to 2: its column, 0 if there is no such key,
+  // and its order, 0 for ascending or -1 for descending. They raise error 9 for any other i.
   std::int16_t ColumnSorted(int i) const;
   std::int16_t ColumnSortedHow(int i) const;
 
-  // Numbers the rows by their order. With kGroups, PositionNumber122446 begins again in each group,
-  // while PositionNumber122334 runs on. Changes nothing if `first_row` is above `last_row`.
+  // Numbers the rows in their order. With kGroups, PositionNumber122446 starts again at 1 in each
+  // group, while PositionNumber122334 continues. Changes nothing if `first_row` is above
+  // `last_row`.
   void CalculatePositions(int first_row, int last_row, PositionMode mode);
-  // Return the place of the n-th numbered row, from 1: without gaps after a tie, and with gaps. 0
-  // if that row was not numbered.
+  // These return the place of the n-th numbered row, with n from 1: without gaps after a tie, or
+  // with gaps. They return 0 if that row was not numbered.
   int PositionNumber122334(int n) const { return At(places_.dense, n); }
   int PositionNumber122446(int n) const { return At(places_.competition, n); }
 

@@ -8,7 +8,7 @@
 namespace golf {
 
 void HeadlessHost::QueueAnswer(std::string title, std::string answer, bool always) {
-  // A standing answer replaces an older one to the same title.
+  // An answer with `always` replaces the previous one for the same title.
   if (always) {
     std::erase_if(answers_, [&](const QueuedAnswer& q) { return q.always && q.title == title; });
   }
@@ -109,7 +109,7 @@ void HeadlessHost::AnswerTip(Screen& screen, const TipView& tip) {
 }
 
 void HeadlessHost::NoteBadAnswer(std::string_view title, std::string_view answer) {
-  // An answer that stands for all boxes of a title need not fit each of them.
+  // An answer with `always` need not fit every box of its title.
   if (!bad_answer_.empty() || answer_stands_) return;
   bad_answer_ =
       "\"" + std::string(answer) + "\" does not answer the box \"" + std::string(title) + "\".";

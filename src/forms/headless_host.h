@@ -29,45 +29,47 @@ class HostListener {
   virtual void OnEnd() {}
 };
 
-// Thrown when a numbered error has ended a click. It is not a NumberedError, so no screen handles
-// it.
+// Is thrown when a numbered error has ended an event. It is not a NumberedError, so that no screen
+// catches it.
 struct ClickEnded {
   NumberedError error;
 };
 
-// A host that draws nothing. A queue answers its boxes, and its user works the screens through
-// their controls. It serves scripts, the commands of the command line, and tests.
+// Implements a host that draws nothing. It answers boxes from a queue, and its caller operates the
+// screens through their controls. Scripts, the commands of the command line and tests use it.
 class HeadlessHost : public HostBase {
  public:
   HeadlessHost(SharedState& state, ScreenCatalogue catalogue, HostListener& listener)
       : HostBase(state, std::move(catalogue)), listener_(listener) {}
 
-  // Works a modal screen in place of the operator until the screen closes. If the screen is still
-  // open afterwards, the host presses its leave button, and then unloads it if it must.
+  // Operates a modal screen in place of the operator. The host calls it when the screen opens. If
+  // the screen is still open when it returns, the host presses the leave button. If the screen is
+  // open even then, the host unloads it.
   std::function<void(Screen&)> drive;
-  // Returns the present moment.
+  // Returns the current date and time.
   std::function<DateValue()> clock;
-  // True: programs are really started. False: a start only opens the program's file.
+  // True if StartProgram starts programs. If false, StartProgram only opens the program's file,
+  // which raises an error if it cannot be read.
   bool starts_programs = false;
 
-  // Queues the answer to the next box with exactly this title, or, with `always`, to all boxes with
-  // it for which no other answer is queued. The answer is the name of a button, the text for an
-  // input box, or the description of a font.
+  // Queues the answer to the next box with exactly this title. With `always`, the answer applies to
+  // all boxes with this title for which no other answer is queued. The answer is the name of a
+  // button, the text for an input box, or the description of a font.
   void QueueAnswer(std::string title, std::string answer, bool always = false);
 
-  // Presses a button of a screen as the operator would. Error 5 if the screen has no such button or
-  // the operator cannot reach it.
+  // Presses a button of a screen as the operator would. Raises error 5 if the screen has no such
+  // button or the operator cannot reach it.
   void Press(Screen& screen, std::string_view button);
 
-  // Leaves a screen as the operator would, its open panel first. Returns false if no button could
-  // be pressed.
+  // Presses the leave button of the screen's open panel, and then the one of the screen. Returns
+  // false if neither could be pressed.
   bool Leave(Screen& screen);
 
-  // Returns the last answer to a message box with this title. Nothing if there was none.
+  // Returns the last answer to a message box with this title, or nothing if no such box was shown.
   std::optional<BoxButton> AnswerTo(std::string_view title) const;
 
-  // Describes the first queued answer that did not fit its box; empty if all did. Such a box takes
-  // its default answer, so the run does not stop halfway. An answer with `always` is not reported.
+  // Describes the first queued answer that did not fit its box; empty if all did. The host gives
+  // such a box its default answer and continues. Answers with `always` are not reported.
   const std::string& bad_answer() const { return bad_answer_; }
 
   void Show(Screen& screen) override;

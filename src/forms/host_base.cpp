@@ -102,7 +102,7 @@ void HostBase::ShowModal(Screen& screen) {
   }
   BringUp(screen);
   if (!IsShown(screen)) return;
-  const WhileSet takes_input(in_run_, false);  // a modal screen takes input, also in a run
+  const WhileSet takes_input(in_run_, false);  // a modal screen accepts input in a run
   RunModal(screen);
 }
 

@@ -14,25 +14,27 @@
 namespace golf {
 
 using ScreenMaker = std::function<std::shared_ptr<Screen>(const ScreenContext&)>;
-// The screens by their names.
+// Maps the names of the screens to the functions that create them.
 using ScreenCatalogue = std::map<std::string, ScreenMaker, std::less<>>;
 
-// The common part of all hosts. It keeps the loaded and the shown screens, delimits each event of
-// the operator, and writes waiting changes to the files whenever the operator may look at them.
+// Implements the common part of all hosts. It keeps the loaded and the shown screens and runs each
+// event of the operator. It writes pending changes to the files after each event and before each
+// box or screen.
 class HostBase : public ScreenHost {
  public:
-  // Sets the clock of the shared state to this host's Now for the life of the host.
+  // Sets the clock of the shared state to Now of this host. The destructor removes it.
   HostBase(SharedState& state, ScreenCatalogue catalogue);
   ~HostBase() override;
 
-  // Runs one event of the operator, of a screen if one is given. A numbered error that the event
-  // does not handle ends it and goes to ErrorEndsClick. Does nothing during a run.
+  // Runs one event of the operator. A numbered error that the event does not handle ends the event
+  // and is passed to ErrorEndsClick. Does nothing during a run. A given screen stays alive until
+  // the event has ended.
   void Operate(const std::function<void()>& event);
   void Operate(Screen& screen, const std::function<void()>& event);
-  // Runs an event of one control. Does nothing if the operator cannot reach the control.
+  // Runs an event of a control. Does nothing if the operator cannot reach the control.
   void Operate(Screen& screen, const Control& control, const std::function<void()>& event);
 
-  // Returns the screen in front, leaving out message boxes with a memory. Null if there is none.
+  // Returns the screen in front, without regard to tip boxes, or null if there is none.
   Screen* Top() const;
   bool IsShown(const Screen& screen) const;
   bool IsShown(std::string_view name) const;
@@ -57,34 +59,35 @@ class HostBase : public ScreenHost {
   void EndProcess() override { ended_ = true; }
   std::uint32_t Seed() override;
 
-  // Whether a change was refused because an interrupted run stands in the way.
+  // True if a change was refused because of an interrupted run.
   bool met_unfinished_run() const { return met_unfinished_run_; }
   bool in_run() const { return in_run_; }
-  // Return the counts and the faults of all runs so far.
+  // These return the counts and the faults of all runs so far.
   const std::vector<std::pair<std::string, std::int64_t>>& counts() const { return counts_; }
   const std::vector<NumberedError>& faults() const { return faults_; }
-  // Returns the error that ended the last run whose screen handled its error itself.
+  // Returns the error that ended a run and that the screen itself showed. If there were several,
+  // returns the last one.
   const std::optional<NumberedError>& run_ended_by() const { return run_ended_by_; }
   // True after EndProcess.
   bool ended() const { return ended_; }
 
  protected:
   SharedState& state() const { return state_; }
-  // Forgets all screens after EndProcess, for a host that is used again.
+  // Removes all screens after EndProcess. A host that is used again must call it.
   void ForgetScreens();
 
-  // Opens the window of a screen that has become the top one.
+  // Opens the window of a screen that has become the front screen.
   virtual void Open(Screen& screen) = 0;
   // Lets the operator work until the screen is no longer shown.
   virtual void RunModal(Screen& screen) = 0;
-  // Closes the window of a screen that has been taken off the stack.
+  // Closes the window of a screen that has been hidden or unloaded.
   virtual void Close(Screen& screen) = 0;
   virtual BoxButton ShowBox(const Box& box) = 0;
   virtual std::string ShowInputBox(const InputBox& box) = 0;
   virtual Font ShowFontChoice(std::string_view title, const Font& current) = 0;
   virtual void ErrorEndsClick(const NumberedError& error) = 0;
-  // A request to end the process has ended a run. Called while Stopped is handled, which goes on
-  // where this raises it again.
+  // Is called from the handler of the exception Stopped, when a request to end the process has
+  // ended a run. The default throws the exception again.
   virtual void RunStopped() { throw; }
 
  private:

@@ -14,13 +14,14 @@ namespace golf {
 class ScreenHost;
 class SharedState;
 
-// What the composition root gives to each screen.
+// Holds what each screen gets when it is created.
 struct ScreenContext {
   SharedState& state;
   ScreenHost& host;
 };
 
-// What a host shows of a screen that is a message box with a memory.
+// Describes what a host shows of a tip box. A tip box is a message box that the operator can switch
+// off; see screens/tip_box.h.
 struct TipView {
   int type = 0;
   std::string caption;
@@ -29,8 +30,8 @@ struct TipView {
   std::vector<Button*> buttons;  // the visible ones, the one with the focus first
 };
 
-// The base of all screens. A screen owns its controls as members, adds them in a fixed order, and
-// handles their events. A whole run takes place inside one event.
+// Is the base class of all screens. A screen owns its controls as members, adds them in a fixed
+// order, and handles their events. A whole run takes place inside one event.
 class Screen : public std::enable_shared_from_this<Screen> {
  public:
   Screen(std::string name, const ScreenContext& context)
@@ -44,13 +45,13 @@ class Screen : public std::enable_shared_from_this<Screen> {
   const std::string& caption() const { return caption_; }
   void SetCaption(std::string caption) { caption_ = std::move(caption); }
 
-  // A word with which the opener of a screen controls its behaviour.
+  // The caller that opens a screen sets this word to control the behaviour of the screen.
   const std::string& tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
 
   const std::vector<Control*>& controls() const { return controls_; }
-  // Returns the first control with this name, in any case, or null. "Name(2)" finds the third
-  // control with the name "Name".
+  // Returns the first control with this name, without regard to case, or null. "Name(2)" finds the
+  // third control with the name "Name".
   Control* FindControl(std::string_view name) const;
   // Returns the name by which FindControl finds exactly this control.
   std::string ScriptName(const Control& control) const;
@@ -60,26 +61,26 @@ class Screen : public std::enable_shared_from_this<Screen> {
   virtual void OnLoad() {}
   virtual void OnActivate() {}
   virtual void OnUnload() {}
-  // Opens the files of OnLoad again, after an error has ended a run of this screen and all files
-  // were closed.
+  // Opens again the files that OnLoad opened. The caller calls it after an error has ended a run of
+  // this screen and has closed all files.
   virtual void OpenAgain() {}
-  // Returns the button that a key such as "Escape" or "Alt+N" presses if no control takes the key.
-  // Null if there is none.
+  // Returns the button that a key such as "Escape" or "Alt+N" presses if no control handles the
+  // key. Returns null if there is none.
   const Button* ButtonOfKey(std::string_view key) const;
-  // Presses the button of the key. Returns false if there is none.
+  // Presses the button of the key. Returns false if the key has none.
   bool OnKey(std::string_view key);
 
-  // Return the button that leaves the screen, and the one that leaves its open panel. Null if there
-  // is none.
+  // These return the button that leaves the screen, and the button that leaves its open panel. They
+  // return null if there is none.
   virtual Button* LeaveButton() = 0;
   virtual Button* PanelLeaveButton() { return nullptr; }
 
-  // Returns what to show of a screen that is a message box with a memory. Null for any other
-  // screen.
+  // Returns what to show if the screen is a tip box, and null for any other screen.
   virtual const TipView* Tip() const { return nullptr; }
 
-  // The control that gets typed keys; null if none does. Moving the focus runs on_leave and
-  // on_enter. A control that cannot be reached does not get the focus, but may keep it.
+  // Returns the control that receives typed keys, or null. MoveFocus calls on_leave of the old
+  // control and on_enter of the new one. It does nothing if the new control cannot be reached. A
+  // control that has the focus keeps it when it becomes unreachable.
   Control* focus() const { return focus_; }
   void MoveFocus(Control* control);
 
@@ -88,7 +89,7 @@ class Screen : public std::enable_shared_from_this<Screen> {
   ScreenHost& host() const { return context_.host; }
 
   void Add(std::initializer_list<Control*> controls);
-  // Adds controls and puts them into a frame.
+  // Adds controls as part of a frame.
   void AddInto(Frame& frame, const std::vector<Control*>& controls);
 
  private:
@@ -100,7 +101,7 @@ class Screen : public std::enable_shared_from_this<Screen> {
   Control* focus_ = nullptr;
 };
 
-// Returns the letter after "&" in a caption, in capitals. 0 if there is none.
+// Returns the letter after "&" in a caption, in capitals, or 0 if there is none.
 char MnemonicOf(std::string_view caption);
 
 }  // namespace golf

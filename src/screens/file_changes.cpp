@@ -17,7 +17,8 @@ Recovery Recover(SharedState& state, ScreenHost& host) {
 }  // namespace
 
 void RecoverInterruptedRun(SharedState& state, ScreenHost& host) {
-  // What a run at work, or an error, prevents here is told by the click that changes files.
+  // Errors are ignored here, also the one of a locked install. An event that changes files reports
+  // them.
   const ResumeNext anyway(nullptr);
   anyway([&] {
     const auto lock = state.files.platform().LockRun(state.ProgramPath);

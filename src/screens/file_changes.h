@@ -9,14 +9,14 @@
 
 namespace golf {
 
-// Finishes a run that was interrupted before, and tells the operator. Called before a screen that
-// can change files reads them. A run that cannot be finished by itself, or an install that another
-// process has locked, is left alone until something is to be changed.
+// Finishes an earlier run that was interrupted, and notifies the operator. It must be called before
+// a screen that can change files reads them. It raises no numbered error: it does nothing if
+// another process has locked the install or if the run needs a decision of the operator.
 void RecoverInterruptedRun(SharedState& state, ScreenHost& host);
 
-// A click that changes files. While it lives, the install is locked against other processes that
-// change it. Error 70 where another process has the lock. A run that was interrupted before is
-// finished first, and the operator is told.
+// Must exist while an event changes files. It locks the install against other processes that change
+// it, from its construction to its destruction. The constructor raises error 70 if another process
+// has the lock. It finishes an earlier run that was interrupted, and notifies the operator.
 class ChangingClick {
  public:
   ChangingClick(SharedState& state, ScreenHost& host);
@@ -24,8 +24,8 @@ class ChangingClick {
   ChangingClick& operator=(const ChangingClick&) = delete;
   ~ChangingClick();
 
-  // False where an interrupted run stands in the way, which the operator was told. Nothing may be
-  // changed then.
+  // False if an interrupted run needs a decision of the operator, who has been notified. Nothing
+  // may be changed then.
   bool IsAllowed() const { return allowed_; }
 
  private:
@@ -34,9 +34,9 @@ class ChangingClick {
   bool allowed_ = false;
 };
 
-// Runs `change` as a transaction of its own. What it has changed before a numbered error is
-// committed as well, and the error goes on. CommitFailed where nothing could be changed. Returns
-// false, with nothing done, where an interrupted run stands in the way.
+// Runs `change` as a transaction of its own. If `change` raises a numbered error, commits what it
+// has changed so far and raises the error again. Raises CommitFailed if nothing could be changed.
+// Returns false and does nothing if an interrupted run needs a decision of the operator.
 bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std::string about,
                  const std::function<void()>& change);
 

@@ -7,16 +7,18 @@
 
 namespace golf {
 
-// The entries of a screen, kept in a small text file under the screen's name in StoreDataPath. The
-// file has a value a line and no names: a value belongs to a control by its place alone, so the
-// order of `controls` must never change. Kept are ticks, the index of a list, texts, and column 2
-// of a grid from row 2 on. Other controls keep nothing.
+// These functions save and restore the entries of a screen in a text file. The file is in
+// StoreDataPath and has the screen's name and the extension .DAT. It has one value a line and no
+// names: the position of a value says to which control it belongs, so the order of `controls` must
+// never change. The values are those of check boxes and option buttons, the index of a list, texts,
+// and column 2 of a grid from row 2 on. Other controls have no values.
 
-// Replaces the file. Errors as ChangeGate::ReplaceText. Does nothing if remembers_settings is off.
+// Writes the values of the controls, which replace the file. Raises the errors of
+// ChangeGate::ReplaceText. Does nothing if remembers_settings is off.
 void WriteSettings(SharedState& state, const Screen& screen, std::span<Control* const> controls);
 
-// Puts the values back. A control keeps what it has if the file is missing, short or damaged or the
-// control cannot take its value. No message is shown. Does nothing if remembers_settings is off.
+// Restores the values of the controls. A control stays unchanged if its value is missing or damaged
+// or if it cannot accept the value. Shows no message. Does nothing if remembers_settings is off.
 void ReadSettings(SharedState& state, const Screen& screen, std::span<Control* const> controls);
 
 }  // namespace golf

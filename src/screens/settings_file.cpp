@@ -32,7 +32,8 @@ std::optional<std::string> SettingsReader::Word() {
   return std::string(RestOfLine());
 }
 
-// The text ends at the next quote, line ends included. The line must end after that quote.
+// Reads a text in quotes, which may contain line ends. Returns nothing if the closing quote is
+// missing or is not the last character of its line.
 std::optional<std::string> SettingsReader::QuotedText() {
   const std::size_t end = text_.find('"', at_ + 1);
   if (end == std::string::npos) {

@@ -8,7 +8,8 @@
 
 namespace golf {
 
-// The text of a settings file: a value a line, texts in double quotes, no names.
+// Builds the text of a settings file. The file has one value a line and no names; texts are in
+// double quotes.
 class SettingsWriter {
  public:
   void Number(int value) { Word(std::to_string(value)); }
@@ -21,7 +22,7 @@ class SettingsWriter {
 };
 
 // Reads the values of a settings file in their order. Each call consumes the next value. It returns
-// nothing if that value is of another kind or if none is left.
+// nothing if that value has another type or if no value is left.
 class SettingsReader {
  public:
   explicit SettingsReader(std::string text) : text_(std::move(text)) {}
@@ -39,9 +40,10 @@ class SettingsReader {
   std::size_t at_ = 0;
 };
 
-// The settings file `path`, if state.remembers_settings is on. Reading gives no values if it is off
-// or the file is missing or unreadable. Writing replaces the file, with the errors of
-// ChangeGate::ReplaceText, or does nothing if it is off.
+// These read and write a settings file. ReadSettingsFile returns no values if
+// state.remembers_settings is off or the file is missing or unreadable. WriteSettingsFile replaces
+// the file and raises the errors of ChangeGate::ReplaceText. It does nothing if
+// state.remembers_settings is off.
 SettingsReader ReadSettingsFile(SharedState& state, const std::string& path);
 void WriteSettingsFile(SharedState& state, const std::string& path, const SettingsWriter& values);
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kKeyLength = 30;
 
-// How the box looks and behaves for one type of message.
+// Describes the appearance and the behaviour of the box for one type of message.
 struct TipKind {
   int type;
   std::string_view caption;
@@ -105,7 +105,7 @@ void TipBox::Prepare() {
 }
 
 void TipBox::OnActivate() {
-  // Enter answers a question with No.
+  // The focus is on the button No of a question, so Enter means No.
   if (!view_.buttons.empty()) MoveFocus(view_.buttons.front());
 }
 

@@ -8,15 +8,15 @@
 
 namespace golf {
 
-// A message box that remembers which messages the operator does not want to see again: by title,
-// and as long as the process lives. A caller sets MessageType, MessageTitle and MessageText in this
-// order; MessageText shows the message. SharedTipBox gives the only one of the process. It hides
-// and is never unloaded.
+// Is a message box that the operator can switch off for each title. It is not shown again for that
+// title until the process ends. A caller sets MessageType, MessageTitle and MessageText in this
+// order; SetMessageText shows the message. SharedTipBox returns the only TipBox of the process,
+// which is hidden but never unloaded.
 class TipBox : public Screen {
  public:
   static constexpr const char* kName = "TipBox";
 
-  // The types of message. Any other type sets the text and shows nothing.
+  // These are the types of messages. Any other type sets the text and shows nothing.
   static constexpr int kModelessNoButton = -1;  // the caller hides it
   static constexpr int kModelessNotice = 0;
   static constexpr int kNotice = 1;
@@ -48,7 +48,7 @@ class TipBox : public Screen {
   Button OKButton{"OKButton", "&OK"};
   Button YesButton{"YesButton", "&Yes"};
   Button NoButton{"NoButton", "&No"};
-  // The box shows one of two pictures: 0 for a notice, 1 for a question.
+  // The box shows one of two pictures: Image1[0] for a notice, Image1[1] for a question.
   Frame Picture1{"Picture1"};
   std::array<Label, 2> Image1{Label("Image1"), Label("Image1")};
 
@@ -70,7 +70,7 @@ class TipBox : public Screen {
   TipView view_;
 };
 
-// Returns the message box of this process.
+// Returns the tip box of this process.
 TipBox& SharedTipBox(ScreenHost& host);
 
 }  // namespace golf

@@ -10,11 +10,11 @@
 namespace golf {
 namespace {
 
-// A sibling: its name, the folder of its data, and its program.
+// Describes one of the sibling programs.
 struct Sibling {
   std::string_view name;
   std::string SharedState::*folder;
-  std::string_view word;  // the calling sibling's word on the command line
+  std::string_view word;  // the command line argument of a start by this sibling
   std::string_view program;
 };
 
@@ -69,7 +69,7 @@ void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_
   bool installed = true;
   for (const TransferEntry& transfer : kTransfers) {
     if (transfer.screen != screen_name) continue;
-    // Checks both siblings, even if the first is missing.
+    // Both siblings are checked, even if the first is missing.
     for (const Sibling* sibling : {transfer.first, transfer.second}) {
       if (!CheckProgram(state, host, *sibling)) installed = false;
     }

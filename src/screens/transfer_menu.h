@@ -8,8 +8,8 @@
 
 namespace golf {
 
-// The first and the last screen. It opens the six transfers and starts the transfer program of
-// prior versions. Close starts the sibling that has called.
+// Is the main screen. It opens the six transfers and starts the transfer program of earlier
+// versions. Its button Close starts the sibling that started this program.
 class TransferMenu : public Screen {
  public:
   static constexpr const char* kName = "TransferMenu";
@@ -36,10 +36,9 @@ class TransferMenu : public Screen {
   void Exit();
 };
 
-// Opens a transfer as its button on the menu does: by its screen's name, modally, and only if the
-// data folders of both siblings exist. A box names each folder's sibling that is missing. Any other
-// screen is opened without this check. `tag` controls the behaviour of the screen; it is often
-// empty.
+// Opens the screen of a transfer modally, like its button on the menu. Shows a message instead if
+// the data folder of one of its two siblings does not exist. Any other screen is opened without
+// this check. `tag` controls the behaviour of the screen; it is often empty.
 void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_name,
                   std::string_view tag = {});
 

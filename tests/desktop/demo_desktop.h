@@ -15,7 +15,7 @@
 
 namespace golf {
 
-// A host that answers boxes itself and lets the test paint the windows.
+// Is a host that answers boxes without showing them. Its function PaintNow is public for the tests.
 class BoxlessHost : public DesktopHost {
  public:
   using DesktopHost::DesktopHost;
@@ -26,7 +26,7 @@ class BoxlessHost : public DesktopHost {
   std::string ShowInputBox(const InputBox& box) override { return box.default_answer; }
 };
 
-// Sets what an opener sets before it opens a screen.
+// Prepares the shared state as a caller does before it opens a screen.
 inline void Prepare(SharedState& state) {
   state.StoreDataPath = state.QBDataPath;
   state.Program().OpenMasterFile();
@@ -36,7 +36,7 @@ inline void Prepare(SharedState& state) {
   state.Course().GetRecord(1);
 }
 
-// The desktop program on the demonstration install.
+// Runs the desktop program on the demonstration install.
 template <class Host>
 struct Demo {
   Demo() {
@@ -45,7 +45,7 @@ struct Demo {
     install.state().Now = [this] { return host.Now(); };
   }
 
-  // Shows a screen alone and returns its window.
+  // Shows a screen without any other one and returns its window.
   wxTopLevelWindow& Show(const std::string& name) {
     Prepare(install.state());
     Screen& screen = host.Load(name);

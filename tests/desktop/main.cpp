@@ -5,8 +5,9 @@
 
 #include "support/temp_folder.h"
 
-// Runs the tests inside the toolkit, each with a main loop of its own. Desktops differ in selecting
-// a text when it gets the focus, so that is turned off here: the program itself must select it.
+// Runs the tests within the toolkit. Each test runs its own main loop. Some desktops select a text
+// when it gets the focus. This is switched off here, so that the tests show whether the program
+// selects the text.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const golf::TempFolder settings;

@@ -49,7 +49,8 @@ wxWindow* Operator::Find(const std::string& name) {
   return nullptr;
 }
 
-// The window system shows the widget once it reports the pointer over it.
+// Moves the pointer to a place of the widget. Returns true after the widget has received a motion
+// event, which means that the window system shows it.
 bool Operator::PointAt(wxWindow* widget, const wxRect& place) {
   if (!CanBeUsed(widget)) return false;
   if (target_ != widget) {
@@ -64,8 +65,8 @@ bool Operator::PointAt(wxWindow* widget, const wxRect& place) {
   return felt_;
 }
 
-// Moves to the middle of the place. Never moves to the same point twice, since the window system
-// would not report that.
+// Moves the pointer to the middle of the place. It never moves to the same point twice, since the
+// window system would not report that.
 void Operator::MoveTo(const wxWindow& widget, const wxRect& place) {
   nudge_ = 1 - nudge_;
   const wxPoint middle(place.x + place.width / 2 + nudge_, place.y + place.height / 2);
@@ -180,7 +181,7 @@ void Operator::Notify() {
   step.action();
 }
 
-// Null stands for a screen's dialog among the boxes.
+// Adds a dialog to the list. Null is added for a screen's dialog, which is not a box.
 int Operator::Enter(wxDialog* dialog) {
   EXPECT_FALSE(in_input_) << "a key or the focus opens " << dialog->GetTitle();
   watching_ = false;
@@ -189,8 +190,9 @@ int Operator::Enter(wxDialog* dialog) {
   return wxID_NONE;
 }
 
-// The delayed call runs once the toolkit has finished with the event, before any call that the
-// program delays. Pressing a button is an event of its own, also by a key.
+// Notes that a key or a change of the focus is being handled. CallAfter runs after the toolkit has
+// finished with the event and before any later CallAfter of the program. The press of a button is a
+// separate event, also if a key caused it.
 int Operator::FilterEvent(wxEvent& event) {
   const wxEventType type = event.GetEventType();
   if (type == wxEVT_BUTTON) watching_ = in_input_ = false;

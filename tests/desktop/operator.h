@@ -15,10 +15,11 @@
 
 namespace golf {
 
-// An operator at a real display. He follows a list of steps, and each step waits until it can be
-// done. He uses the mouse and the keyboard of the window system. If a step cannot be done in time,
-// the whole test program ends, since no window can be closed in an orderly way then. The test fails
-// if a step opens a window before the program has returned from a key or a change of the focus.
+// Simulates an operator at a real display, with the mouse and the keyboard of the window system. It
+// executes a list of steps, each of which waits for its condition. If a step cannot be done in
+// time, the whole test program ends, since the windows cannot be closed properly then. The test
+// fails if a step opens a window before the program has returned from a key event or a change of
+// the focus.
 class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilter {
  public:
   using Condition = std::function<bool()>;
@@ -27,7 +28,7 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
   Operator();
   ~Operator() override;
 
-  // Runs the action once the condition holds.
+  // Adds a step that runs the action when the condition is true.
   void When(const std::string& what, Condition condition, Action action) {
     steps_.push_back({what, std::move(condition), std::move(action)});
   }
@@ -38,30 +39,30 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
     When(
         "action", [] { return true; }, std::move(action));
   }
-  // Clicks the widget of this name once it is visible and enabled.
+  // Clicks the widget of this name when it is visible and enabled.
   void Press(const std::string& name);
-  // Clicks a cell of a grid once it is visible and enabled.
+  // Clicks a cell of a grid when it is visible and enabled.
   void PressCell(const std::string& name, int row, int column);
-  // Waits for a message box, checks its title and text, and answers it by a key.
+  // Waits for a message box, checks its title and text, and answers it with a key.
   void Answer(const std::string& title, const std::string& text, int key = WXK_RETURN);
   // Waits for an input box, checks its title and its proposed answer, and types another answer.
   // Checks that it has replaced the proposed one, and presses Enter.
   void AnswerInput(const std::string& title, const std::string& before, const std::string& typed);
-  // Types a key once a widget of this name is visible and enabled.
+  // Types a key when a widget of this name is visible and enabled.
   void Type(const std::string& name, int key);
-  // Runs code that may show windows as an event of its own.
+  // Runs code that may show windows as a separate event.
   void Do(Action action);
 
-  // Act at once, wherever the widget is.
+  // These act at once, without a condition.
   void ClickNow(const std::string& name);
   void TypeNow(int key) { simulator_.Char(key); }
 
-  // Runs the program until it ends. All steps must be done by then.
+  // Runs the program until it ends. All steps must have been executed by then.
   void RunProgram();
-  // Processes events until the condition holds.
+  // Processes events until the condition is true.
   void RunUntil(const std::string& what, Condition condition);
 
-  // Returns the widget of this name in the newest window that shows one. Null if there is none.
+  // Returns the widget of this name in the newest window that shows one, or null if there is none.
   static wxWindow* Find(const std::string& name);
 
  private:

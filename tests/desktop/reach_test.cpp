@@ -1,5 +1,5 @@
-// Tests every control of every screen by the events of its own widget. An event gets through
-// exactly if the operator can reach the control.
+// Tests every control of every screen with the events of its own widget. An event must reach the
+// screen exactly if the operator can reach the control.
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
@@ -19,7 +19,7 @@ namespace {
 
 using Controls = std::vector<Control*>;
 
-// An action of the operator on a widget, as the toolkit reports it.
+// Describes an action of the operator on a widget, as the toolkit reports it.
 struct Deed {
   std::string what;
   std::function<void()> done;
@@ -38,7 +38,7 @@ void SendKey(wxWindow& widget, const wxEventTypeTag<wxKeyEvent>& type, int key) 
   Send(widget, event);
 }
 
-// The commands of the widgets. They choose the first item, or enter a text.
+// Describes a command event of a widget. It chooses the first item or enters a text.
 struct Command {
   const wxClassInfo* widget;
   const wxEventTypeTag<wxCommandEvent>& type;
@@ -64,7 +64,7 @@ std::vector<Deed> DeedsOf(wxWindow& widget) {
   };
   for (const Command& command : kCommands) {
     if (!widget.IsKindOf(command.widget)) continue;
-    // A combo box may be a choice as well.
+    // A combo box may also have the class of a choice.
     if (command.type == wxEVT_CHOICE && widget.IsKindOf(wxCLASSINFO(wxComboBox))) continue;
     deeds.push_back({command.what, [&widget, &command] {
                        wxCommandEvent event(command.type, widget.GetId());
@@ -97,12 +97,12 @@ std::vector<Deed> DeedsOf(wxWindow& widget) {
   return deeds;
 }
 
-// Returns the outermost control around a control, or the control itself.
+// Returns the outermost control that contains a control, or the control itself.
 const Control& OutermostHolder(const Control& control) {
   return control.parent() == nullptr ? control : OutermostHolder(*control.parent());
 }
 
-// A screen whose events only count.
+// Replaces the event handlers of a screen by ones that only count their calls.
 class CountingScreen {
  public:
   CountingScreen(Screen& screen, BoxlessHost& host) : screen_(screen), host_(host) {
@@ -163,7 +163,7 @@ class CountingScreen {
     return widgets;
   }
 
-  // Makes a control and everything around it reachable.
+  // Makes a control and everything that contains it reachable.
   static void Reach(Control& control) {
     if (control.parent() != nullptr) Reach(*control.parent());
     control.SetVisible(true);
@@ -175,7 +175,7 @@ class CountingScreen {
     for (Control* control : controls) Reach(*control);
   }
 
-  // Returns a control that can keep the focus while the given controls come and go.
+  // Returns a control that can keep the focus while the given controls appear and disappear.
   Control& Elsewhere(const Controls& controls) {
     const auto stays = [&](const auto& named) {
       const Control& other = *named.second.front();
@@ -187,7 +187,7 @@ class CountingScreen {
     return *std::find_if(named_.begin(), named_.end(), stays)->second.front();
   }
 
-  // Empties all controls, since a deed that changes nothing has no event.
+  // Clears all controls, since an action that changes nothing causes no event.
   void Blank() {
     for (Control* control : screen_.controls()) {
       if (auto* text = dynamic_cast<TextBox*>(control)) text->SetText("");
@@ -198,7 +198,7 @@ class CountingScreen {
     }
   }
 
-  // True if the deed has run an event or moved the focus.
+  // True if the action has run an event handler or moved the focus.
   bool GetsThrough(const Deed& deed, Control& elsewhere) {
     Blank();
     Reach(elsewhere);

@@ -6,7 +6,7 @@
 namespace golf {
 namespace {
 
-// A screen with one control of most kinds.
+// Is a screen with one control of each of several kinds.
 class Sampler : public Screen {
  public:
   explicit Sampler(const ScreenContext& context) : Screen("Sampler", context) {
@@ -57,8 +57,8 @@ TEST(ControlsTest, NamesKeysAndFocus) {
   EXPECT_EQ(screen.pressed, "find ok left ");
 }
 
-// A hidden or disabled control, or one in a hidden frame, gets no events. If it has the focus, it
-// keeps it.
+// A hidden or disabled control, or one in a hidden or disabled frame, gets no events. If it has the
+// focus, it keeps it.
 TEST(ControlsTest, WhatCannotBeReachedHasNoEvents) {
   TestInstall install;
   const auto screen = std::make_shared<Sampler>(ScreenContext{install.state(), *install.host});
@@ -117,12 +117,12 @@ TEST(HeadlessHostTest, QueuedAnswersFitTheirBox) {
   const Box box{"T", "", BoxIcon::kQuestion, {BoxButton::kYes, BoxButton::kNo}, 1};
   host.QueueAnswer("T", "Yes", true);
   host.QueueAnswer("T", "no");
-  EXPECT_EQ(host.Ask(box), BoxButton::kNo);  // the answer for the next box comes first
+  EXPECT_EQ(host.Ask(box), BoxButton::kNo);  // an answer without `always` is used first
   EXPECT_EQ(host.Ask(box), BoxButton::kYes);
   EXPECT_EQ(host.Ask(box), BoxButton::kYes);
   EXPECT_EQ(host.bad_answer(), "");
   host.QueueAnswer("T", "Retry");
-  EXPECT_EQ(host.Ask(box), BoxButton::kNo);  // the default, so that a run goes on
+  EXPECT_EQ(host.Ask(box), BoxButton::kNo);  // the default, so that a run continues
   EXPECT_NE(host.bad_answer(), "");
   EXPECT_EQ(host.Ask(InputBox{"Kind?", "", "18"}), "18");
 }

@@ -1,4 +1,5 @@
-// Tests what the operator can see, change and reach by Enter and Escape when each screen opens.
+// Tests which controls are hidden, disabled or read-only, and which buttons Enter and Escape press,
+// when each screen opens.
 
 #include <map>
 
@@ -8,8 +9,8 @@
 namespace golf {
 namespace {
 
-// Returns the marks of each column: hidden, or open with the number of open rows. A visible locked
-// column has no mark.
+// Returns the marks of all columns: "h" for a hidden column, the number of its rows that are not
+// locked, or "." for a visible column whose rows are all locked.
 std::string MarksOf(const Grid& grid) {
   std::string marks;
   for (int column = 0; column <= grid.columns(); ++column) {
@@ -21,7 +22,9 @@ std::string MarksOf(const Grid& grid) {
   return marks;
 }
 
-// Returns the marks of a control: hidden, disabled, read-only, the button of Enter or of Escape.
+// Returns the mark of a control: "h" if it is hidden, "d" if it is disabled, "r" if it is
+// read-only, "E" or "X" for the button of Enter or Escape, and "." otherwise. A grid has the marks
+// of its columns.
 std::string MarksOf(const Control& control) {
   if (!control.visible()) return "h";
   if (!control.enabled()) return "d";
@@ -33,8 +36,8 @@ std::string MarksOf(const Control& control) {
   return button->is_default() ? "E" : button->is_cancel() ? "X" : ".";
 }
 
-// Returns a line with the marked controls. Controls whose names differ only in a number share an
-// entry.
+// Returns a line with the controls that have a mark other than ".". Controls whose names differ
+// only in a number share an entry.
 std::string FlagsOf(const Screen& screen) {
   std::map<std::string, std::string> marks;
   for (const Control* control : screen.controls()) {

@@ -20,7 +20,7 @@ class TipBoxTest : public testing::Test {
 TEST_F(TipBoxTest, RemembersByTitle) {
   constexpr bool kTicked = true, kNotTicked = false;
   const std::string long_title = "A title of which thirty charac";
-  // A message, what the operator does, and the result.
+  // Each entry is a message, the action of the operator, and the expected result.
   const struct {
     int type;
     std::string title;
@@ -30,10 +30,10 @@ TEST_F(TipBoxTest, RemembersByTitle) {
     std::string result;
   } kMessages[] = {
       {10, "Q", kTicked, "No", true, "NO"},
-      {10, "q", kNotTicked, "No", false, "YES"},  // Yes is assumed, whatever was answered before
+      {10, "q", kNotTicked, "No", false, "YES"},  // Yes is assumed, also after another answer
       {1, "N", kTicked, "OK", true, "OK"},
       {11, "Other", kNotTicked, "No", true, "NO"},
-      {1, "N", kNotTicked, "OK", false, "NO"},  // the last answer stays
+      {1, "N", kNotTicked, "OK", false, "NO"},  // the last answer is kept
       {2, "N", kNotTicked, "OK", true, "OK"},   // always shown, and the tick is cleared
       {1, "N", kNotTicked, "OK", true, "OK"},
       {11, "Q", kNotTicked, "Yes", true, "YES"},

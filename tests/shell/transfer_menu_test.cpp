@@ -12,7 +12,7 @@ std::string Missing(TestInstall& install, const std::string& name) {
          " program is not installed in the '" + install.state().ProgramPath + "' folder -> OK";
 }
 
-// Opens the menu, presses a button and leaves by Close.
+// Opens the menu, presses a button and closes the menu with Close. Returns all events.
 Events PressOnMenu(TestInstall& install, const std::string& button) {
   install.Open("TransferMenu", [&](Screen& screen) {
     if (screen.name() == "TransferMenu") install.host->Press(screen, button);

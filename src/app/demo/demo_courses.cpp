@@ -28,7 +28,8 @@ struct DemoHoles {
   std::array<int, kCourseHoles> lengths;
 };
 
-// A nine-hole course uses the first or the second half of the tables by hole.
+// Describes a course. A course of nine holes uses the first or the second half of `card` and
+// `ranks`.
 struct DemoCourse {
   std::string_view name;
   std::string_view city;
@@ -71,12 +72,13 @@ const std::vector<DemoCourse>& KelvaneCourses() {
 
 constexpr std::int32_t kClosedCourse = 6;
 
-// Returns the first and the last hole.
+// Returns the first and the last hole that the course has.
 std::pair<int, int> HolesOf(const DemoCourse& course) {
   return {course.holes == -9 ? 10 : 1, course.holes == 9 ? 9 : kCourseHoles};
 }
 
-// A course of a back nine stores its holes in both nines.
+// Copies holes 10 to 18 to holes 1 to 9. A course with only a back nine stores its holes in both
+// nines.
 void CopyBackNineToFront(CourseClass& course, int tee) {
   for (int hole = 1; hole <= 9; ++hole) {
     const Record<CourseLayout>& stored = course.Stored();
@@ -110,7 +112,7 @@ void FillHoles(CourseClass& course, const DemoCourse& demo, int tee, int percent
     course.SetHoleYard(tee, hole, demo.card.lengths[at] * percent / 100);
     by_rank.emplace_back(demo.ranks[at], hole);
   }
-  // The handicaps of a nine run from 1 to 9.
+  // Handicaps are numbered from 1, also on a course of nine holes.
   std::sort(by_rank.begin(), by_rank.end());
   for (std::size_t i = 0; i < by_rank.size(); ++i) {
     course.SetHoleHandicap(tee, by_rank[i].second, static_cast<double>(i + 1));

@@ -5,7 +5,7 @@
 
 namespace golf {
 
-// A golfer of the demonstration data.
+// Describes a golfer of the demonstration data.
 struct DemoGolfer {
   int id;
   std::string_view first;
@@ -18,6 +18,6 @@ struct DemoGolfer {
 
 std::span<const DemoGolfer> DemoMembers();     // golfers who play 18 holes
 std::span<const DemoGolfer> DemoNineHolers();  // golfers who play 9 holes
-std::span<const DemoGolfer> DemoGuests();      // golfers whom only Quenby knows
+std::span<const DemoGolfer> DemoGuests();      // golfers who are only in Quenby
 
 }  // namespace golf

@@ -4,7 +4,7 @@
 
 namespace golf {
 
-// Fills the empty install folder of `state` with the data of a made-up club.
+// Writes the data of a made-up club into the install folder of `state`, which must be empty.
 void MakeDemoInstall(SharedState& state);
 
 }  // namespace golf

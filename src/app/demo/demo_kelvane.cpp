@@ -17,7 +17,7 @@ constexpr int kRoundsASeason = 9;
 constexpr CivilTime kSeasonStarts[] = {{2023, 4, 8}, {2024, 4, 6}};
 constexpr int kDaysBetweenRounds = 21;
 
-// Returns a plausible score, the same in every run.
+// Returns the strokes of a golfer on a hole. The same arguments give the same strokes.
 int HoleScore(int golfer, int round, int hole, float handicap) {
   const int wobble = (golfer * 31 + round * 17 + hole * 7) % 5 - 2;
   return std::max(2, 4 + static_cast<int>(std::lround(handicap / 18)) + wobble / 2);

@@ -4,8 +4,8 @@
 
 namespace golf {
 
-// Makes Kelvane's rosters of a demonstration install: CLUB18 of 18 holes and NINE9 of 9 holes. Each
-// golfer has the scores of two seasons. Errors as FileTable.
+// Creates Kelvane's rosters of a demonstration install: CLUB18 for 18 holes and NINE9 for 9 holes.
+// Each golfer has the scores of two seasons. Raises the errors of FileTable.
 void MakeDemoKelvaneRosters(SharedState& state);
 
 }  // namespace golf

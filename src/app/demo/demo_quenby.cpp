@@ -51,7 +51,8 @@ void MakeRosterList(ProgramClass& program) {
   }
 }
 
-// Returns the golfers in the order of their records and of their entries.
+// Returns the golfers of Quenby, members first. Their records and their tournament entries have the
+// same order.
 std::vector<DemoGolfer> GolfersInQuenby() {
   const auto members = DemoMembers().first(kMembersInQuenby);
   const auto guests = DemoGuests();

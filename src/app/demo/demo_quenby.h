@@ -4,9 +4,9 @@
 
 namespace golf {
 
-// Makes Quenby's data of a demonstration install: two rosters, their golfers, and a tournament of
-// two rounds with teams of four and the scores of the first round. The course library must exist.
-// Errors as FileTable.
+// Creates Quenby's data of a demonstration install: two rosters, their golfers, and a tournament of
+// two rounds with teams of four and all scores. The course library must exist. Raises the errors of
+// FileTable.
 void MakeDemoQuenby(SharedState& state);
 
 }  // namespace golf

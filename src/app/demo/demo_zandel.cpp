@@ -18,7 +18,7 @@ constexpr int kEvents = 12;
 constexpr int kDaysBetweenEvents = 7;
 constexpr int kGuestTeam = 1;  // the team that has substitutes
 
-// Guests of the leagues. Kelvane does not know them.
+// These golfers play in the leagues but are not in Kelvane.
 constexpr DemoGolfer kGuests[] = {{0, "Rosa", "Tiller", true, 17.0f, 19, 'C'},
                                   {0, "Max", "Underhill", false, 10.3f, 11, 'B'}};
 
@@ -109,7 +109,7 @@ void AddScore(Record<LeaguePlayerLayout>& player, const DemoLeague& league, int 
   const int score = league.par + static_cast<int>(std::lround(handicap)) + wobble;
   player.Set<"EventTeam">({event}, static_cast<std::int16_t>(team));
   player.Set<"EventScore">({event}, static_cast<std::int16_t>(score));
-  // Stroke control lowers a high score.
+  // Stroke control lowers a high score before it is posted.
   player.Set<"EventPostScore">({event}, static_cast<std::int16_t>(score - std::max(0, wobble - 3)));
 }
 

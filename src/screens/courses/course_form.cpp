@@ -19,7 +19,7 @@ constexpr int kOptionFlags[] = {18, 9, -9};  // the HoleNumFlag of each option
 constexpr std::int16_t kUnslopedCourse = 113;
 constexpr int kTooFlat = 50;
 
-// The texts of a course and their boxes.
+// Links a text box to the text of a course that it edits.
 struct CourseText {
   TextBox CourseForm::*box;
   std::string (CourseClass::*get)() const;
@@ -141,7 +141,7 @@ void CourseForm::ShowTees() {
   grid1.SetRepainting(true);
 }
 
-// A course with active tees keeps its number of holes.
+// Lets the operator choose the number of holes only while no tee is active.
 void CourseForm::ShowHoles() {
   bool any_active = false;
   for (int tee = 1; tee <= kShownTees; ++tee) any_active |= course().ActiveTees(tee);
@@ -178,9 +178,9 @@ void CourseForm::EditTee() {
   OnActivate();
 }
 
-// The mended group is one too high. A men's slope that is too flat sets the ladies' slope to 113. A
-// ladies' slope that is too flat has no group to mend: error 9 ends the click, and nothing is
-// saved.
+// Corrects slopes of 50 or less of a tee that has a rating. Sets the ladies' slope to 113 if the
+// men's slope is too low: the group that is set is one too high. Raises error 9 if the ladies'
+// slope is too low, since there is no third group. Nothing is saved then.
 void CourseForm::MendSlopes(int tee) {
   const auto too_flat = [&](int group) {
     return IsAbove(course().Rating(tee, group), 0) &&

@@ -11,17 +11,17 @@ namespace golf {
 
 class CourseTee;
 
-// The screen of one course: its texts, its number of holes, and its tees. It works on the current
-// record of the shared Course object. Tees change in that record at once, while the texts stay in
-// the controls until CopyToRecord. The screen hides with the tag "OK" or "CANCEL", and its opener
-// saves.
+// Edits one course: its texts, its number of holes, and its tees. It uses the current record of the
+// shared Course object. Tees change in that record at once, while the texts stay in the controls
+// until CopyToRecord. The screen hides with the tag "OK" or "CANCEL", and the caller that opened it
+// saves the record.
 class CourseForm : public Screen {
  public:
   static constexpr const char* kName = "CourseForm";
 
   explicit CourseForm(const ScreenContext& context);
 
-  // BeginAdd empties the controls for a new course. BeginEdit fills them from the current record.
+  // BeginAdd clears the controls for a new course. BeginEdit fills them from the current record.
   void BeginAdd();
   void BeginEdit(std::int32_t number);
   // Copies the texts and the number of holes into the current record.
@@ -66,7 +66,8 @@ class CourseForm : public Screen {
   void ShowEditCaption();
   void EditTee();
   void FillTee(CourseTee& screen);
-  // Error 6, with the record unchanged, if a number is too large for it.
+  // Copies the entries of the tee screen into the current record. Raises error 6 and leaves the
+  // record unchanged if a number does not fit into it.
   void SaveTeeData(CourseTee& screen);
   void MendSlopes(int tee);
   void Accept();

@@ -16,7 +16,7 @@ AnyControl& At(HoleControls<AnyControl>& controls, int hole) {
   return controls[static_cast<std::size_t>(hole) - 1];
 }
 
-// The totals of a tee and their labels.
+// Links a label of the tee screen to the total of the course that it shows.
 struct TeeTotal {
   Label CourseTee::*label;
   void (CourseClass::*set)(int, double);
@@ -29,7 +29,8 @@ constexpr TeeTotal kTotals[] = {{&CourseTee::FYardOut, &CourseClass::SetYardOut}
                                 {&CourseTee::FParIn, &CourseClass::SetParIn},
                                 {&CourseTee::FParTotal, &CourseClass::SetParTotal}};
 
-// What the operator enters for each hole, and its name in messages.
+// Describes what the operator enters for each hole: the text boxes, and the word for them in
+// messages.
 struct HoleEntry {
   HoleControls<TextBox> CourseTee::*boxes;
   const char* name;
@@ -50,7 +51,7 @@ void CheckFits(const std::string& number, const std::string& name) {
   }
 }
 
-// Error 6 if a number is too large for the record.
+// Raises error 6 if a number does not fit into the record.
 void CheckNumbersFit(CourseTee& screen) {
   for (const HoleEntry& entry : kHoleEntries) {
     for (int hole = 1; hole <= kCourseHoles; ++hole) {
@@ -83,8 +84,8 @@ void CourseForm::FillTee(CourseTee& screen) {
     At(screen.FYardage, hole).SetText(course().HoleYard(tee_, hole));
     At(screen.FPar, hole).SetText(course().HolePar(tee_, hole));
     At(screen.FHandicap, hole).SetText(course().HoleHandicap(tee_, hole));
-    // The stored value, so that a sequence that the screen does not calculate again stays
-    // unchanged.
+    // This shows the stored value, so that saving does not change a sequence that the screen does
+    // not calculate again.
     At(screen.FSequence, hole)
         .SetCaption(std::to_string(course().Stored().Get<"StrkSqnc">(tee_, hole)));
   }

@@ -98,8 +98,8 @@ std::int32_t CourseTable::CourseInHand() const {
   return RoundToInt32(LeadingNumber(CourseGrid.text(kNumberColumn, CourseGrid.active_row())));
 }
 
-// Warns that the course comes from Kelvane. Returns true if the operator cancels. `what` is "edit"
-// or "delete".
+// Warns that the course was transferred from Kelvane. Returns true if the operator cancels. `what`
+// is "edit" or "delete".
 bool CourseTable::WarnedOff(std::string_view what) {
   const std::string done(what == "edit" ? "new 'edited'" : "'deleted'");
   const BoxButton answer = host().Ask(
@@ -168,7 +168,7 @@ void CourseTable::DeleteCourse() {
   LoadGrid(0);
 }
 
-// Saves the course in the buffer.
+// Saves the course in the buffer as a transaction.
 void CourseTable::Save(const char* command, std::int32_t record) {
   CourseClass& course = state().Course();
   ChangeFiles(state(), host(), command, std::string(Trim(course.Name())),

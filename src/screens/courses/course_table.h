@@ -8,8 +8,9 @@
 
 namespace golf {
 
-// The list of active courses, by name. The operator adds, edits and deletes courses. It works on
-// the shared Course object, whose library must be open. Closing it rewrites the library's indexes.
+// Lists the active courses by name. The operator adds, edits and deletes courses. The screen uses
+// the shared Course object, whose library must be open. Closing the screen rewrites the library's
+// indexes.
 class CourseTable : public Screen {
  public:
   static constexpr const char* kName = "CourseTable";
@@ -29,7 +30,7 @@ class CourseTable : public Screen {
   Button Help{"Help", "&Help"};
 
  private:
-  // Makes the row of this course active if the course is listed.
+  // Lists the courses. Makes the row of the given course active if the course is listed.
   void LoadGrid(std::int32_t course_in_hand);
   std::int32_t CourseInHand() const;
   bool WarnedOff(std::string_view what);

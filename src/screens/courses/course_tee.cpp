@@ -22,7 +22,7 @@ HoleValues ValuesOf(const HoleControls<TextBox>& boxes) {
   return values;
 }
 
-// Shows the exact sum. The record rounds it when it is stored.
+// Returns the exact sum as text. The record rounds it when it is stored.
 std::string SumText(double sum) {
   return FormatNumber(sum, sum == std::floor(sum) ? "0" : "0.0###");
 }
@@ -115,7 +115,7 @@ void CourseTee::TieEntries() {
   }
 }
 
-// The numbers of a nine follow from its first hole.
+// Makes the numbers of a nine's other holes follow the number that is chosen for its first hole.
 void CourseTee::TieNine(ComboBox& first_number, std::size_t first_hole) {
   HoleNumber[first_hole].SetVisible(false);
   first_number.on_click = [this, &first_number, first_hole] {
@@ -236,7 +236,8 @@ std::vector<Control*> CourseTee::Entries() {
   return entries;
 }
 
-// A field shows its fault from the moment it loses the focus until the fault is mended.
+// Updates the notes of all entries. An entry shows its fault after it has lost the focus, until the
+// fault is corrected. `left` is the entry that has lost the focus.
 void CourseTee::ShowNotes(const Control* left) {
   const auto faults = ActiveTee.value() ? Faults() : std::vector<std::pair<Control*, TeeFault>>();
   for (Control* entry : Entries()) {
@@ -247,7 +248,8 @@ void CourseTee::ShowNotes(const Control* left) {
   }
 }
 
-// Enter must count as leaving the field that has the focus.
+// The focus moves first, so that the event handler on_leave of the focused entry runs also when the
+// operator presses Enter.
 void CourseTee::Accept() {
   MoveFocus(&OKButton);
   if (!ActiveTee.value()) return Finish();
@@ -301,7 +303,8 @@ void CourseTee::ShowStrokeSequence() {
   }
 }
 
-// A course of a back nine stores its holes in both nines.
+// Copies holes 10 to 18 to holes 1 to 9. A course with only a back nine stores its holes in both
+// nines.
 void CourseTee::CopyBackNineToFront() {
   FrontHoleNumber.Select(BackHoleNumber.index());
   for (std::size_t i = 0; i < kNine; ++i) {

@@ -13,17 +13,17 @@ namespace golf {
 template <class AnyControl>
 using HoleControls = std::array<AnyControl, kCourseHoles>;
 
-// The screen of one tee, laid out as a scorecard. Its opener fills the controls, sets FHoles to
-// "18", "9F" or "9B", starts Timer1 and shows the screen. The screen hides with the tag "OK" or
-// "CANCEL". It writes nothing to a record or file.
+// Edits one tee in the form of a scorecard. The caller fills the controls, sets FHoles to "18",
+// "9F" or "9B", starts Timer1 and shows the screen. The screen hides with the tag "OK" or "CANCEL".
+// It writes nothing to a record or file.
 class CourseTee : public Screen {
  public:
   static constexpr const char* kName = "CourseTee";
 
   explicit CourseTee(const ScreenContext& context);
 
-  // Shows the frames that FHoles asks for. Must run before the window is made, since the window
-  // takes its size from what is visible.
+  // Shows the frames of the nines that FHoles selects. It must be called before the window is
+  // created, since the size of the window depends on what is visible.
   void ShowHolesPlayed();
 
   Button* LeaveButton() override { return &CancelButton; }
@@ -84,7 +84,7 @@ class CourseTee : public Screen {
   void LeaveTeeName();
   Control* NextAfter(const HoleControls<TextBox>& boxes, std::size_t hole);
 
-  // Returns the present faults, each with its control.
+  // Returns the faults of the current entries, each with its control.
   std::vector<std::pair<Control*, TeeFault>> Faults();
   void ShowNotes(const Control* left);
   std::vector<Control*> Entries();

@@ -9,22 +9,22 @@
 
 namespace golf {
 
-// A box for a course rating from 0 to 99.9, with one or two decimals. It stores the value that it
-// shows. When the operator enters the box, its text is selected.
+// Is a text box for a course rating from 0 to 99.9, with one or two decimals. The stored value is
+// always the one shown. The text is selected when the box gets the focus.
 class RatingBox : public TextBox {
  public:
   // `screen` must outlive the box.
   RatingBox(std::string name, Screen& screen, const ScreenContext& context);
 
-  // Reads the text, limits and rounds the number, and shows and returns it.
+  // Reads the text, limits the number to 0 to 99.9 and rounds it. Shows the result and returns it.
   float RatingValue();
   void SetRatingValue(double value);
 
   // Sets the number of decimals to 1 or 2. Any other number changes nothing.
   void SetDecimalPlaces(int places);
 
-  // Checks the rating for 18 or 9 `holes` and for the `group` 0 men or 1 ladies. If it is not
-  // valid, shows the fault and moves the focus to the box.
+  // True if the rating is valid for 18 or 9 `holes` and for the `group`: 0 for men, 1 for ladies.
+  // Otherwise shows the fault and moves the focus to the box.
   bool RatingValid(int holes, int group);
 
  private:
@@ -34,18 +34,17 @@ class RatingBox : public TextBox {
   float value_ = 0;
 };
 
-// A box for a slope: a whole number up to 155. When the operator enters the box, its text is
-// selected.
+// Is a text box for a slope, a whole number up to 155. The text is selected when the box gets the
+// focus.
 class SlopeBox : public TextBox {
  public:
   SlopeBox(std::string name, Screen& screen, const ScreenContext& context);
 
-  // Reads the text, rounds and limits the number, and shows and returns it.
+  // Reads the text, rounds and limits the number, shows it and returns it.
   std::int16_t SlopeValue();
   void SetSlopeValue(double value);
 
-  // Checks that the slope is from 55 to 155. If it is not, shows the fault and moves the focus to
-  // the box.
+  // True if the slope is from 55 to 155. Otherwise shows the fault and moves the focus to the box.
   bool SlopeValid();
 
  private:
@@ -54,8 +53,8 @@ class SlopeBox : public TextBox {
   std::int16_t value_ = 0;
 };
 
-// Shows a fault of an entry in a box and beside the control, and moves the focus to the control if
-// it is visible.
+// Shows a fault in a message box and beside the control. Moves the focus to the control if it is
+// visible.
 void ShowFault(Screen& screen, ScreenHost& host, Control& control, const TeeFault& fault);
 
 }  // namespace golf

@@ -22,7 +22,7 @@ std::string OnOneLine(std::string heading) {
   return std::string(Trim(heading));
 }
 
-// Returns 0 for "No sort".
+// Returns the column number at the end of a list entry, or 0 for "No sort".
 int ColumnOf(const std::string& entry) {
   return RoundToInt16(LeadingNumber(LastCharacters(entry, kDigits)));
 }

@@ -9,25 +9,25 @@
 
 namespace golf {
 
-// A sort key by the heading of a column, in any case. An empty name, or a name that is no heading,
-// is no key.
+// Names the column of a sort key by its heading, without regard to case. An empty name, or a name
+// that is not a heading, means that there is no such key.
 struct NamedSortKey {
   std::string name;
   SortOrder order = SortOrder::kAscending;
 };
 using NamedSortKeys = std::array<NamedSortKey, 3>;
 
-// The sort dialog for any grid. A caller sets the grid, then the parameters, and shows the dialog
-// modally or sorts at once. SharedGridSort gives the only one of the process. It hides and is never
-// unloaded.
+// Is the sort dialog for all grids. A caller sets the grid, then the parameters, and shows the
+// dialog modally or sorts at once. SharedGridSort returns the only GridSort of the process, which
+// is hidden but never unloaded.
 class GridSort : public Screen {
  public:
   static constexpr const char* kName = "GridSort";
 
   explicit GridSort(const ScreenContext& context);
 
-  // The members of the dialog's GridSorter. The grid must be set before each use, since it belongs
-  // to another screen.
+  // These call the members of the same names of the dialog's GridSorter. A caller must set the grid
+  // before each use, since the grid belongs to another screen.
   void SetGridToSort(Grid& grid) { sorter_.SetGridToSort(grid); }
   Grid& GridToSort() const { return sorter_.GridToSort(); }
   int LastRowToSort() const { return sorter_.LastRowToSort(); }
@@ -40,16 +40,16 @@ class GridSort : public Screen {
   int PositionNumber122334(int n) const { return sorter_.PositionNumber122334(n); }
   int PositionNumber122446(int n) const { return sorter_.PositionNumber122446(n); }
 
-  // Fills the dialog from the grid and chooses these keys. Sorts nothing.
+  // Fills the dialog from the grid and chooses these keys. It does not sort.
   void GridSetSortParameters(const NamedSortKeys& keys = {});
   // Fills the dialog, chooses these keys and sorts, without showing the dialog.
   void GridAutoSort(const NamedSortKeys& keys = {});
 
-  // Returns "OK" or "Cancel", by the button that closed the dialog.
+  // Returns "OK" or "Cancel", according to the button that closed the dialog.
   const std::string& Action() const { return action_; }
 
-  // Describe the choices of the dialog in words. The first writes a line for each key into a cell,
-  // where row 0 is the heading. The second returns a short form.
+  // These describe the choices of the dialog in words. The first writes a line for each key into a
+  // cell, or into the heading if `row` is 0. The second returns a short form.
   void HowPlayersAreSorted(Grid& grid, int column, int row) const;
   std::string HowSortedDescription() const;
 
@@ -70,15 +70,15 @@ class GridSort : public Screen {
   Button SortOK{"SortOK", "&OK"};
   Button SortCancel{"SortCancel", "&Cancel"};
   Button Help{"Help", "&Help"};
-  // Always hidden: a sort is too short for them to be read.
+  // These are always hidden, since a sort is too short for the operator to read them.
   Label WorkingLabel{"WorkingLabel"};
   Label WorkingTime{"WorkingTime"};
   Frame Frame1{"Frame1"};
 
-  // The two options of each key.
+  // Holds the two options of each key.
   const std::array<Options*, 3> options{&Sort1Option, &Sort2Option, &Sort3Option};
 
-  // Returns the heading in an entry of SortList, without the column number behind it.
+  // Returns the heading in an entry of SortList, without the column number after it.
   static std::string HeadingOf(const std::string& entry);
 
  private:

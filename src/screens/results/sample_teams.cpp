@@ -39,7 +39,7 @@ int SampleTeams::MadeUp(std::uint32_t most) {
   return static_cast<int>((random_ >> 16) % (most + 1));  // the low bits have short periods
 }
 
-// Gross scores are 3 to 7. A random half of the holes gets a stroke.
+// Gross scores are 3 to 7. Each net score is equal to the gross score or one lower, at random.
 void SampleTeams::Generate() {
   balls_.XBallInitializeTeamGrid(kTeams);
   for (int team = 1; team <= kTeams; ++team) {

@@ -7,9 +7,10 @@
 
 namespace golf {
 
-// Shows in the builder's grid, beside the codes of a layout, what sample teams would score under
-// it. The grid's rows are the columns of the ball tables. Each team has columns for its gross
-// balls, its net balls and the score that counts. The layout and the grid must outlive this object.
+// Shows the scores of made-up sample teams under a layout, in the grid of the layout builder beside
+// the codes of the layout. The grid's rows are the columns of the ball tables. Each team has
+// columns for its gross balls, its net balls and the score that counts. The layout and the grid
+// must outlive this object.
 class SampleTeams {
  public:
   static constexpr int kTeams = 2;
@@ -21,13 +22,13 @@ class SampleTeams {
       : layout_(layout), grid_(grid), balls_(layout) {}
 
   void HeadColumns();
-  // Hides the columns of golfers whom a team of the layout does not have.
+  // Hides the columns of the golfers that exceed the team size of the layout.
   void HideColumns();
-  // The same seed gives the same scores.
+  // Sets the start value of the random number generator. The same value gives the same scores.
   void SetSeed(std::uint32_t seed) { random_ = seed; }
-  // Makes new random scores and calculates them.
+  // Fills the teams with new random scores and calculates their results.
   void Generate();
-  // Calculates the same scores under the present layout.
+  // Calculates the results of the same scores under the current layout.
   void Calculate();
 
  private:
@@ -39,7 +40,7 @@ class SampleTeams {
   const ReportLayout& layout_;
   Grid& grid_;
   CustomBalls balls_;
-  std::uint32_t random_ = 0;  // the state of the random numbers
+  std::uint32_t random_ = 0;  // the state of the random number generator
 };
 
 }  // namespace golf

@@ -45,7 +45,7 @@ std::string CodeOfCell(const std::string& text) {
   return bar == std::string::npos ? std::string() : text.substr(bar + 1);
 }
 
-// Returns the hole of a row, or 0 for a row of sums.
+// Returns the hole that a row shows, or 0 if the row shows sums.
 int HoleOfRow(int row) {
   for (int hole = 1; hole <= kLayoutHoles; ++hole) {
     if (HoleColumn(hole) == row) return hole;
@@ -181,7 +181,7 @@ void XReportsCustomTeamResults::SetReportFileName(std::string name) {
   file_name_ = std::move(name);
 }
 
-// Timer1 runs it once the screen is shown.
+// Reads the layout and shows it. Timer1 calls it once after the screen is shown.
 void XReportsCustomTeamResults::Begin() {
   sample_.SetSeed(host().Seed());
   if (state().Program().ActiveTournament() <= 0) {
@@ -276,7 +276,7 @@ void XReportsCustomTeamResults::ShowLists() {
 void XReportsCustomTeamResults::ShowCodes() {
   grid1.SetRepainting(false);
   for (int hole = 1; hole <= kLayoutHoles; ++hole) {
-    grid1.LockRow(HoleColumn(hole), hole > layout_.HoleNumberUsed);  // copies of earlier holes
+    grid1.LockRow(HoleColumn(hole), hole > layout_.HoleNumberUsed);  // locks copied holes
   }
   for (int place = 0; place < kLayoutPlaces; ++place) {
     for (const Code code : {Code::kPlayers, Code::kGross, Code::kNet}) {
@@ -319,7 +319,7 @@ void XReportsCustomTeamResults::ChangeLayout() {
   sample_.Calculate();
 }
 
-// A place without players takes no balls.
+// Stores the new code of a cell and shows its effects. A place without players has no balls.
 void XReportsCustomTeamResults::ChangeCell(int column, int row) {
   const int hole = HoleOfRow(row);
   if (hole == 0 || column < 1 || column >= SampleTeams::kFirstColumn || column % 4 == 0) return;
@@ -354,7 +354,8 @@ void XReportsCustomTeamResults::GoTo(int page, Control& control) {
   MoveFocus(&control);
 }
 
-// Returns false, and shows the operator why, if a text cannot be written.
+// True if all texts can be stored in a layout file. Otherwise shows the operator a message and
+// returns false.
 bool XReportsCustomTeamResults::HasTextThatFits() {
   TextBox* const boxes[] = {&ReportDescription, &HeaderText[0], &HeaderText[1], &HeaderText[2],
                             &ReportNumber};
@@ -369,7 +370,8 @@ bool XReportsCustomTeamResults::HasTextThatFits() {
   return false;
 }
 
-// Returns true, and shows the operator why, if the layout cannot be saved under this name.
+// True if the layout cannot be saved under this name, or if the operator does not want to replace
+// an existing layout. Shows the operator a message first.
 bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
   const auto refuse = [this](std::string text) {
     host().Ask(Box{.title = "Notice", .text = std::move(text)});

@@ -10,9 +10,10 @@
 
 namespace golf {
 
-// The builder of team report layouts. Its opener sets the action and the name before showing it.
-// Program must hold the master record. The grid's rows are the columns of the ball tables: holes,
-// and the sums of each round. Beside its codes, a hole shows what sample teams would score on it.
+// Edits a team report layout. The caller sets the action and the name before it shows the screen.
+// The shared Program object must contain the master record. The grid's rows are the columns of the
+// ball tables: the holes, and the sums of each round. Next to its codes, each hole shows the scores
+// of sample teams.
 class XReportsCustomTeamResults : public Screen {
  public:
   static constexpr const char* kName = "XReportsCustomTeamResults";
@@ -32,14 +33,16 @@ class XReportsCustomTeamResults : public Screen {
   int PlayersPerTeam() const { return layout_.PlayersPerTeam; }
   const std::string& BallSelectionOption() const { return layout_.BallSelectionOption; }
   const std::string& BallSelection() const { return layout_.BallSelection; }
-  // Holes count from 1 to 90, places are 0 and 1. Error 9 for any other.
+  // These return a code of the layout. Holes count from 1 to 90; `place` is 0 or 1. They raise
+  // error 9 for any other value.
   const std::string& ConsiderPlayers(int hole, int place) const;
   const std::string& GrossScoresToUse(int hole, int place) const;
   const std::string& NetScoresToUse(int hole, int place) const;
   const std::string& ReportHeaderItem(int i) const;  // i from 1 to 3
   void SetReportHeaderItem(int i, std::string text);
 
-  // Saves under the entered name and closes the screen. Returns false if the layout was refused.
+  // Saves the layout under the entered name and closes the screen. Returns false if the layout was
+  // not saved.
   bool SaveReport();
 
   void OnLoad() override;
@@ -89,7 +92,7 @@ class XReportsCustomTeamResults : public Screen {
   Timer Timer1{"Timer1"};
 
  private:
-  // One of the three codes of a place.
+  // Names the three codes of a place.
   enum class Code { kPlayers, kGross, kNet };
   static int ColumnOf(int place, Code code) { return place * 4 + 1 + static_cast<int>(code); }
   static std::string PlaceCodes::*FieldOf(Code code);

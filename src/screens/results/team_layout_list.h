@@ -7,10 +7,12 @@
 
 namespace golf {
 
-// Opens the builder for a layout in Quenby's folder: for a new one, or for the one with this name.
+// Opens the layout builder for the layout with this name in Quenby's folder, or for a new one if
+// `name` is empty.
 void OpenTeamLayoutBuilder(SharedState& state, ScreenHost& host, const std::string& name);
 
-// The screen on which the operator chooses a team report layout of the Quenby folder to build on.
+// Lists the team report layouts in Quenby's folder. The operator edits one of them or starts a new
+// one.
 class TeamLayouts : public Screen {
  public:
   static constexpr const char* kName = "TeamLayouts";

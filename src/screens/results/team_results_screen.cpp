@@ -26,12 +26,12 @@ constexpr int kStandingsColumns = 21;  // three for each of five rounds, and six
 constexpr int kCardColumns = kBlockWidth;
 constexpr const char* kTotals = "Team totals";
 
-// Returns the card's column for a column of a block.
+// Returns the column of the card that shows a column of a block.
 constexpr int CardColumn(int in_block) { return in_block + 1; }
 
 std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
 
-// Breaks a long heading into lines, since a wide column would push others out of sight.
+// Breaks a long heading into lines, so that its column stays narrow.
 std::string OnLines(std::string heading) {
   for (const char* part : {" (", " for ", " 1 to "}) {
     const std::size_t end = heading.find(part);
@@ -101,7 +101,8 @@ void TeamResults::FillLists() {
   RoundList.Select(std::clamp(tournament.RoundOr({}), 1, rounds) - 1);
 }
 
-// Checks that the control file exists, since opening it would create it.
+// Opens the active tournament. If there is none, shows a message and returns false. It checks first
+// that the control file exists, since opening a missing file would create it.
 bool TeamResults::OpenActiveTournament() {
   state().StoreDataPath = state().QBDataPath;
   ProgramClass& program = state().Program();
@@ -120,7 +121,7 @@ bool TeamResults::OpenActiveTournament() {
   return false;
 }
 
-// Takes the totals if the chosen layout cannot be read.
+// Reads the chosen layout. If it cannot be read, shows a message and selects the totals.
 void TeamResults::TakeLayout() {
   layout_ = {};
   if (LayoutList.index() <= 0) return;
@@ -159,7 +160,8 @@ void TeamResults::LoadStandings() {
   }
 }
 
-// Returns why the team is left out of the standings. Empty if it is in them or has no golfers.
+// Adds a team to the standings. Returns the reason if it is left out because of an error. Returns
+// an empty text if it was added or has no golfers.
 std::string TeamResults::AddTeam(int team, std::vector<StandingsRow>& totals) {
   if (!state().Team1().GetRecord(team)) {
     const bool has_golfers = state().Player().TourIndex1stPlayerOnTeam(team) > 0;
@@ -269,7 +271,7 @@ void TeamResults::Sort() {
   if (dialog.Action() == "OK") SortedLabel.SetCaption(dialog.HowSortedDescription());
 }
 
-// Returns the standings as the grid shows them, headings first.
+// Returns the rows of the standings as the grid shows them, after a row of headings.
 std::vector<std::vector<std::string>> TeamResults::Lines() const {
   std::vector<std::vector<std::string>> lines(static_cast<std::size_t>(grid1.rows()) + 1);
   for (int column = 1; column <= grid1.columns(); ++column) {
@@ -282,7 +284,8 @@ std::vector<std::vector<std::string>> TeamResults::Lines() const {
   return lines;
 }
 
-// Separates the cells by tabs, which a spreadsheet splits again.
+// Copies the standings to the clipboard. Tabs separate the cells, so that a spreadsheet can paste
+// them.
 void TeamResults::Copy() {
   std::string text;
   for (const auto& line : Lines()) {

@@ -10,9 +10,10 @@
 
 namespace golf {
 
-// The standings of the teams in the active tournament: over all scores, or under a report layout.
-// Below them a card shows the active row's team hole by hole and marks the balls that count. The
-// chosen round becomes active in memory only, and mended values of records stay in memory, too.
+// Shows the standings of the teams in the active tournament, either over all scores or under a
+// report layout. A card below shows the team of the active row hole by hole and marks the balls
+// that count. The screen changes no data file: the chosen round and corrected values of records
+// stay in memory.
 class TeamResults : public Screen {
  public:
   static constexpr const char* kName = "TeamResults";
@@ -60,7 +61,7 @@ class TeamResults : public Screen {
   bool loading_ = false;
   ReportLayout layout_;
   std::optional<CustomStandings> standings_;
-  std::vector<int> teams_;  // by their order in the tables
+  std::vector<int> teams_;  // the team numbers, in the order of the tables
 };
 
 }  // namespace golf

@@ -8,8 +8,8 @@
 namespace golf {
 namespace {
 
-// Returns the text of a league that a screen keeps. If the item begins with "L" and has a colon,
-// that is only the part after the colon.
+// Returns the text of a chosen league that a screen stores. If the item begins with "L" and has a
+// colon, this is only the part after the colon.
 std::string ChosenLeague(std::string_view item) {
   const std::size_t colon = item.starts_with('L') ? item.find(':') : std::string_view::npos;
   return std::string(Trim(colon == std::string_view::npos ? item : item.substr(colon + 1)));

@@ -9,7 +9,7 @@
 
 namespace golf {
 
-// The differences between the screens that pick a league.
+// Describes how a screen uses the picker.
 struct LeaguePickerUse {
   const char* panel;  // the name of the picker's frame
   const char* tag;    // the tag of the list while it is open: "SOURCE" or "DEST"
@@ -17,27 +17,29 @@ struct LeaguePickerUse {
   Frame& main;     // hidden while the picker is open
   Button& finder;  // opens the picker
   Button& leave;   // closes the screen; Escape presses it while the picker is closed
-  // Takes the picked league; its last five characters are its base.
+  // Is called with the text of the picked league. Its last five characters are the base of the
+  // league's file names.
   std::function<void(std::string)> take;
-  // True: Escape presses `leave` again after a pick. False: only after a cancel.
+  // If true, Escape presses `leave` again after the operator picks a league or cancels. If false,
+  // only after a cancel.
   bool pick_gives_escape_back = true;
 };
 
-// The panel on which the operator picks one of Zandel's leagues. It replaces the main panel. Its
-// screen adds the panel and puts the picker's controls into it.
+// Is a panel on which the operator picks one of Zandel's leagues. It is shown in place of the main
+// panel. Its screen must add the panel and the controls of the picker.
 class LeaguePicker {
  public:
   LeaguePicker(SharedState& state, Screen& screen, LeaguePickerUse use);
   LeaguePicker(const LeaguePicker&) = delete;
   LeaguePicker& operator=(const LeaguePicker&) = delete;
 
-  // Closes all files of the process and lists the leagues. Errors as ListLeagues.
+  // Closes all files of the process and lists the leagues. Raises the errors of ListLeagues.
   void Fill();
   std::vector<Control*> Controls() {
     return {&LoadLeagueLabel, &LeagueList, &OKLEague, &CancelLeague};
   }
   bool IsOpen() const { return Panel.visible(); }
-  // Returns the part of an item that is shown to the operator, without the base.
+  // Returns an item without the base at its end, as the operator sees it.
   static std::string HeadingOf(const std::string& item);
 
   Frame Panel;

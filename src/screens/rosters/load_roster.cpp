@@ -15,8 +15,8 @@ constexpr std::string_view kExtension = ".KV5";
 constexpr int kTypeColumn = 1;
 constexpr int kNameColumn = 2;
 
-// Reads the header of a roster into the buffer and returns its number of holes. Returns 0 if the
-// header cannot be read.
+// Reads the header of a roster into the buffer and returns its number of holes, or 0 if the header
+// cannot be read.
 int HolesOf(SharedState& state, const std::string& file_name) {
   auto& header = state.Kelvane().header;
   header = {};
@@ -204,12 +204,13 @@ void LoadRoster::Delete(const std::string& name) {
       for (const char* extension : {".kvg", ".kvx", ".kvs", ".kv5"}) {
         const std::string path = state().KVDataPath + name + extension;
         state().files.DeleteFile(path);
-        // Another program holds it: then the others stay as well.
+        // The file could not be deleted, since another program has it open. The other files are not
+        // deleted then.
         if (state().files.FileExists(path)) return state().transactions->Drop();
       }
     });
   } catch (const CommitFailed&) {
-    // The list shows that the roster is still there.
+    // No message is needed: the list still shows the roster.
   }
   FillList();
   if (current) CancelButton.Click();

@@ -7,9 +7,8 @@
 
 namespace golf {
 
-// The screen on which the operator picks, makes or deletes a Kelvane roster. A pick sets
-// KVRosterName of the shared state; without a pick it keeps its old value. With the tag "OPENONLY"
-// the operator can only pick.
+// Lists Kelvane's rosters. The operator picks, creates or deletes one. A pick sets KVRosterName of
+// the shared state. With the tag "OPENONLY" the operator can only pick.
 class LoadRoster : public Screen {
  public:
   static constexpr const char* kName = "LoadRoster";
@@ -38,7 +37,7 @@ class LoadRoster : public Screen {
 
  private:
   void FillList();
-  // Empty if no row is active.
+  // Returns the name in the active row, or an empty text if no row is active.
   std::string SelectedName() const;
   void Pick();
   void AskForNew();
@@ -49,8 +48,8 @@ class LoadRoster : public Screen {
   bool OpensOnly() const { return tag() == "OPENONLY"; }
 };
 
-// Lets the operator pick a Kelvane roster and nothing more. Returns KVRosterName, which keeps its
-// old value without a pick.
+// Lets the operator pick a Kelvane roster, but not create or delete one. Returns KVRosterName,
+// which does not change if the operator picks none.
 const std::string& AskForKelvaneRoster(SharedState& state, ScreenHost& host);
 
 }  // namespace golf

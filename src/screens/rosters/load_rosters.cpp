@@ -58,7 +58,7 @@ LoadRosters::LoadRosters(const ScreenContext& context) : Screen(kName, context) 
 }
 
 void LoadRosters::OnActivate() {
-  // Deleting a roster changes its golfers, so their file must be open.
+  // The golfers' file must be open, since deleting a roster changes its golfers.
   if (DeleteButton.enabled() && !state().Player().IsRosterFileOpen()) {
     const ResumeNext without([this](const NumberedError&) { DeleteButton.SetEnabled(false); });
     without([this] { state().Player().OpenRosterFile(); });
@@ -101,8 +101,8 @@ void LoadRosters::LoadList() {
 }
 
 void LoadRosters::ShowRowButtons() {
-  // Row 1 is the entry of all rosters, unless a name sorts before it. So its number is checked,
-  // too.
+  // Row 1 is the entry for all rosters, unless a roster's name sorts before it. The number of the
+  // roster is checked for that case.
   const bool is_roster = grid1.active_row() > 1 && RosterInHand() > 0;
   EditButton.SetVisible(is_roster);
   DeleteButton.SetVisible(is_roster);
@@ -148,7 +148,8 @@ void LoadRosters::BeginEdit() {
   EnterPanel(EditRosterCancel);
 }
 
-// The operator leaves the panel by its buttons only, and the active row must not change meanwhile.
+// Shows the panel that edits a roster. The grid is disabled, so that the active row does not change
+// until the operator leaves the panel by one of its buttons.
 void LoadRosters::EnterPanel(Button& cancel) {
   ButtonFrame.SetVisible(false);
   grid1.SetEnabled(false);
@@ -226,7 +227,7 @@ void LoadRosters::AskToDelete() {
   LoadList();
 }
 
-// Takes all golfers off a deleted roster. A golfer who is then on no roster is deleted, too.
+// Removes all golfers from a deleted roster. A golfer who is then on no roster is deleted, too.
 void LoadRosters::TakeGolfersOut(std::int32_t roster) {
   TournamentPlayers& player = state().Player();
   const std::int32_t length = player.RosterFileLength();

@@ -8,10 +8,9 @@
 
 namespace golf {
 
-// The screen on which the operator picks a Quenby roster and edits the list of rosters. The roster
-// list of the shared Program object must be open. A pick sets its ActiveRoster, -1 for all rosters;
-// without a pick it keeps its old value. The screen hides when the operator leaves it. Its opener
-// may disable DeleteButton.
+// Lists Quenby's rosters. The operator picks one and edits the list. The roster list of the shared
+// Program object must be open. A pick sets ActiveRoster of that object, to -1 for all rosters. The
+// screen hides when the operator leaves it. The caller may disable DeleteButton.
 class LoadRosters : public Screen {
  public:
   static constexpr const char* kName = "LoadRosters";

@@ -5,8 +5,7 @@
 
 namespace golf {
 
-// The screen on which the operator transfers the course library. It shows the counts before it
-// writes Quenby's course indexes anew.
+// Transfers Kelvane's course library to Quenby and shows the numbers of courses added and updated.
 class KVCoursestoQB : public Screen {
  public:
   static constexpr const char* kName = "KVCoursestoQB";

@@ -79,7 +79,7 @@ void KVtoQB::FillItemGrid() {
   ShowItem(2, "Flight", "Flight");
   ShowItem(3, "Group #", "Tee Group");
   ShowItem(4, "Group Text", "Group Text");
-  // Trims the name in the header, too.
+  // Trims the name in the header as well.
   const auto trimmed = [&]<FieldName kName>(int i) {
     const std::string name(Trim(header.Get<kName>(i)));
     header.Set<kName>({i}, name);
@@ -131,7 +131,7 @@ void KVtoQB::Transfer() {
   TransferButton.SetVisible(true);
   host().NoteCount("updated", report.updated);
   host().NoteCount("added", report.added);
-  // These steps belong to the run, so they go on after a fault, too.
+  // These steps belong to the run, which continues after a fault.
   const ResumeNext next([this](const NumberedError& fault) {
     if (dynamic_cast<const CommitFailed*>(&fault) != nullptr) throw;
     host().NoteFault(fault);
@@ -141,8 +141,8 @@ void KVtoQB::Transfer() {
   next([&] { host().Unload(*this); });
 }
 
-// Returns false after an error, which has been shown to the operator. The button that the run has
-// hidden stays hidden in this case.
+// Runs the transfer. After an error, shows it to the operator and returns false. The button that
+// the run has hidden stays hidden then.
 bool KVtoQB::CopyGolfers(const GolfersKvToQbRequest& request, GolfersKvToQbReport& report) {
   try {
     RunWhole(state(), host(),

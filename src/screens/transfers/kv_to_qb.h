@@ -9,9 +9,8 @@
 
 namespace golf {
 
-// The screen on which the operator copies golfers from Kelvane to Quenby. The operator chooses a
-// Kelvane roster, a Quenby roster and the data to copy. After the transfer the screen offers to
-// update the active tournament.
+// Copies golfers from a Kelvane roster to a Quenby roster. The operator chooses the rosters and the
+// data to copy. After the transfer the screen offers to update the active tournament.
 class KVtoQB : public Screen {
  public:
   static constexpr const char* kName = "KVtoQB";
@@ -22,12 +21,12 @@ class KVtoQB : public Screen {
   void OnUnload() override;
   Button* LeaveButton() override { return &ExitButton; }
 
-  // The headings of the two rosters, and the arrow between them.
+  // These are the headings of the two rosters and the arrow between them.
   std::array<Label, 3> Label1{Label("Label1", "Kelvane Roster"), Label("Label1", "Quenby Roster"),
                               Label("Label1", "---->--->")};
   TextBox HandicapRoster{"HandicapRoster"};
   Button SourceButton{"SourceButton", "Find Handicap Roster"};
-  TextBox TournamentRoster{"TournamentRoster"};  // the last three characters are its number
+  TextBox TournamentRoster{"TournamentRoster"};  // ends with the roster's three-digit number
   Button DestButton{"DestButton", "Find Tournament Roster"};
   CheckBox MarkedtoPrint{"MarkedtoPrint",
                          "Transfer only golfers in the handicap roster who are marked to print."};
@@ -40,7 +39,7 @@ class KVtoQB : public Screen {
   Button TransferButton{"TransferButton", ">> &Transfer Golfers >>"};
   Button ExitButton{"ExitButton", "Cancel"};
 
-  // The columns of the grid.
+  // These are the columns of the grid.
   static constexpr int kItemColumn = 1;
   static constexpr int kTickColumn = 2;
   static constexpr int kQuenbyItemColumn = 3;

@@ -59,7 +59,8 @@ void KVtoZD::OnUnload() {
   WriteSettingsFile(state(), SettingsPath(), to);
 }
 
-// This file lies beside the program, unlike the settings of other screens.
+// Returns the path of the settings file. It is in the program's folder, unlike the settings files
+// of other screens.
 std::string KVtoZD::SettingsPath() const { return state().ProgramPath + "KVtoZD.DAT"; }
 
 void KVtoZD::ReadOwnSettings() {
@@ -69,8 +70,8 @@ void KVtoZD::ReadOwnSettings() {
     SourcePath.SetCaption(*roster);
   }
   if (const auto league = from.Text()) DestLabel.SetCaption(*league);
-  // The value is written as a word but read as a number, and a word reads as 0. So the screen
-  // always opens with handicaps of 18 holes, as operators are used to.
+  // The value is written as a word but read as a number, and a word reads as 0. The screen
+  // therefore always opens with handicaps of 18 holes, which operators expect.
   if (const auto nine = from.Word()) SelectHandicap(LeadingNumber(*nine) == 0 ? 1 : 0);
   if (const auto percent = from.Text()) HandicapPrct.SetText(*percent);
 }
@@ -114,7 +115,7 @@ void KVtoZD::Transfer() {
   Message.SetText(report.log + std::to_string(report.transferred) + " golfers transferred.");
 }
 
-// A number outside the range counts as the highest percentage.
+// A number outside the range is replaced by the highest percentage.
 int KVtoZD::Percent() const {
   const double entered = std::clamp(LeadingNumber(HandicapPrct.text()), 0.0, 1000.0);
   const int percent = RoundToInt16(entered);

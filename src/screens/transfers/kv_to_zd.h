@@ -9,8 +9,8 @@
 
 namespace golf {
 
-// The screen on which the operator updates the golfers of a league from a Kelvane roster. The
-// operator chooses the roster, the league and how its handicaps are calculated.
+// Updates the golfers of a Zandel league from a Kelvane roster. The operator chooses the roster,
+// the league and how the handicaps are calculated.
 class KVtoZD : public Screen {
  public:
   static constexpr const char* kName = "KVtoZD";
@@ -23,8 +23,8 @@ class KVtoZD : public Screen {
   Button* PanelLeaveButton() override { return picker.IsOpen() ? &picker.CancelLeague : nullptr; }
 
   Frame Frame1{"Frame1"};
-  // The heading of the screen, the headings of the roster, the league and the log, the words around
-  // the percentage, and the text beside the handicap of nine holes.
+  // These are the heading of the screen, the headings of the roster, the league and the log, the
+  // words around the percentage, and the text beside the handicap of nine holes.
   std::array<Label, 8> Label1{Label("Label1", "--->--->--->Transfer GOLFERS to--->--->--->"),
                               Label("Label1", "Kelvane Roster"),
                               Label("Label1", "LEAGUE to Transfer to..."),
@@ -36,7 +36,7 @@ class KVtoZD : public Screen {
   Button FindKVMButton{"FindKVMButton", "Find Handicap Roster"};
   Label SourcePath{"SourcePath"};
   Button FindZDButton{"FindZDButton", "Find League"};
-  Label DestLabel{"DestLabel"};  // the last five characters are its base
+  Label DestLabel{"DestLabel"};  // the last five characters are the league's base
   std::array<OptionButton, 2> HandicapType{OptionButton("HandicapType", " 9 Hole Handicap"),
                                            OptionButton("HandicapType", "18 Hole Handicap")};
   TextBox HandicapPrct{"HandicapPrct"};
@@ -54,7 +54,7 @@ class KVtoZD : public Screen {
   void SelectHandicap(std::size_t type);
 
   void Transfer();
-  // Returns a whole number from 10 to 100. The box shows it once the copying begins.
+  // Returns a whole number from 10 to 100. The box shows it after the copying has begun.
   int Percent() const;
 };
 

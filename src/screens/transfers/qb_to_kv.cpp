@@ -26,7 +26,7 @@ std::string WithoutKey(const std::string& item, std::size_t key) {
       Trim(std::string_view(item).substr(0, item.size() - std::min(item.size(), key))));
 }
 
-// Error 5 if the list is empty.
+// Selects the item that matches the tee best. Raises error 5 if the list is empty.
 void SelectTee(ComboBox& list, const std::string& tee) {
   if (!list.Select(ItemWithLongestCommonBeginning(list.items(), tee))) {
     throw NumberedError(ErrorNumber::kBadCall, "The course has no tees.");
@@ -75,7 +75,8 @@ std::size_t QBtoKV::TeesPlayed(const Sex& sex) {
   return static_cast<std::size_t>(state().Tournament().TeeCount(sex.group));
 }
 
-// The log comes last: if a golfer's name in it has a quote, reading ends there.
+// Returns the controls whose values are saved. The log is the last one: if a golfer's name in it
+// contains a quote, reading ends there.
 std::vector<Control*> QBtoKV::Remembered() {
   std::vector<Control*> controls = {&FirstTimeLoaded, &HandicapRoster, &TCheck,     &TCheck2,
                                     &TournamentList,  &RoundList,      &CourseCombo};
@@ -90,7 +91,7 @@ void QBtoKV::OnLoad() {
   const ResumeNext silently = ResumeNextButReads(nullptr);
   state().StoreDataPath = state().QBDataPath;
   ReadSettings(state(), *this, Remembered());
-  TieEvents();  // until here the lists were empty, so they had no events
+  TieEvents();  // the handlers must not run while the settings are read
   if (FirstTimeLoaded.text() != "NO") TCheck2.SetValue(false);
   FirstTimeLoaded.SetText("NO");
   Message.SetText("");
@@ -106,7 +107,8 @@ void QBtoKV::OpenAgain() {
   if (TournamentList.index() >= 0) ReadTournament();
 }
 
-// Each new choice shows the transfer button again, which a run has hidden.
+// Connects the lists to their event handlers. Each new choice shows the transfer button again,
+// which a run has hidden.
 void QBtoKV::TieEvents() {
   const auto offering = [this](void (QBtoKV::*choose)()) {
     return [this, choose] {
@@ -119,8 +121,8 @@ void QBtoKV::TieEvents() {
   CourseCombo.on_click = offering(&QBtoKV::ChooseCourse);
 }
 
-// Chooses and matches. If a record that matching needs cannot be read, it clears the list of
-// courses: the course selected before does not belong to this round.
+// Calls `choose`, which matches the course and the tees. Clears the list of courses if a record
+// that matching needs cannot be read, since the selected course does not belong to the round then.
 void QBtoKV::Match(const std::function<void()>& choose) {
   try {
     choose();
@@ -250,7 +252,7 @@ void QBtoKV::MatchCourse() {
   CourseCombo.Select(ItemWithLongestCommonBeginning(CourseCombo.items(), name));
 }
 
-// An away course has no tees.
+// Matches the tees of the chosen course. Item 0 is the away course, which has no tees.
 void QBtoKV::ChooseCourse() {
   MatchTees();
   for (const Sex& sex : Sexes()) {
@@ -340,7 +342,7 @@ void QBtoKV::Transfer() {
                      std::to_string(selected_round_) + ", to " + request.roster},
            request, report);
   if (report.end == RunEnd::kNoRoster) {
-    // The operator's next choice needs the tournament.
+    // The next choice of the operator needs the tournament.
     const ResumeNext next([this](const NumberedError& fault) { host().NoteFault(fault); });
     next([&] { OpenAgain(); });
     return ShowBox("Notice", "Cannot open Handicap Roster.");

@@ -12,9 +12,9 @@
 
 namespace golf {
 
-// The screen on which the operator posts the scores of a tournament round to a Kelvane roster. It
-// shows the course and the tees of the round beside the course and the tees of Kelvane's library
-// whose names match best. The operator may choose others.
+// Posts the scores of a tournament round to a Kelvane roster. It shows the course and the tees of
+// the round beside the course and the tees of Kelvane's library whose names match best. The
+// operator may choose others.
 class QBtoKV : public Screen {
  public:
   static constexpr const char* kName = "QBtoKV";
@@ -40,7 +40,8 @@ class QBtoKV : public Screen {
   TextBox HandicapRoster{"HandicapRoster"};
   Label QBCourse{"QBCourse"};
   ComboBox CourseCombo{"CourseCombo"};  // the last five characters are the course's number
-  // The tees of the round, and those of Kelvane. The last character of a Kelvane tee is its number.
+  // These show the tees of the round and the tees of Kelvane. The last character of a Kelvane tee
+  // is its number.
   Labels QBMTee{Label("QBMTee(1)"), Label("QBMTee(2)"), Label("QBMTee(3)"), Label("QBMTee(4)"),
                 Label("QBMTee(5)")};
   Labels QBMTeeLabel{Label("QBMTeeLabel(1)", "Men"), Label("QBMTeeLabel(2)", "Men"),
@@ -63,16 +64,16 @@ class QBtoKV : public Screen {
   Button TransferButton{"TransferButton", "Transfer Scores"};
   Button ExitButton{"ExitButton", "Exit"};
 
-  // Return the number at the end of an item.
+  // These return the number at the end of an item.
   static std::int32_t TournamentOf(const std::string& item);
   static std::int32_t CourseOf(const std::string& item);
-  // Return the part of an item that is shown to the operator, without the key at its end.
+  // These return an item without the key at its end, as the operator sees it.
   static std::string TournamentHeading(const std::string& item);
   static std::string CourseHeading(const std::string& item);
   static std::string TeeHeading(const std::string& item);
 
  private:
-  // The tees of the round for one sex: 0 men, 1 ladies.
+  // Groups the controls of the tees for one sex. `group` is 0 for men and 1 for ladies.
   struct Sex {
     int group;
     Labels& tees;
@@ -109,7 +110,7 @@ class QBtoKV : public Screen {
   void ShowBox(std::string title, std::string text);
 
   int selected_round_ = 1;
-  bool round_list_ready_ = false;  // true: choices in RoundList are the operator's
+  bool round_list_ready_ = false;  // false while the program fills RoundList
 };
 
 }  // namespace golf

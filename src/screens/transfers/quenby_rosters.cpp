@@ -19,7 +19,7 @@ void OpenQuenbyRosters(SharedState& state) {
   ProgramClass& program = state.Program();
   if (!program.OpenMasterFile()) {
     const std::string master = state.StoreDataPath + "QBMASTER.Q9D";
-    // If a folder or a device has that name, opening it raises an error of its own.
+    // Opening a missing file raises an error of its own if a folder or a device has its name.
     if (!state.files.FileExists(master)) {
       state.files.platform().Open(master, FileAccess::kReadWriteShared);
     }
@@ -36,7 +36,7 @@ std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_de
   auto& picker = Load<LoadRosters>(host);
   picker.DeleteButton.SetEnabled(may_delete);
   host.ShowModal(picker);
-  host.Unload(picker);  // the next opener sets its own DeleteButton
+  host.Unload(picker);  // the next caller sets DeleteButton itself
   ProgramClass& program = state.Program();
   const std::int16_t roster = std::max<std::int16_t>(program.ActiveRoster(), 0);
   std::string name = "Show ALL Rosters";

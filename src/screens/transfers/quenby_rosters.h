@@ -8,19 +8,18 @@
 
 namespace golf {
 
-// The common part of the screens that transfer golfers to a Quenby roster.
-
-// Opens Quenby's master and roster list and reads the master record. Error 70 if another program
-// holds the master or it may not be written to.
+// Opens Quenby's master file and roster list and reads the master record. Raises error 70 if
+// another program has locked the master file or if it is read-only.
 void OpenQuenbyRosters(SharedState& state);
 
-// Lets the operator pick a roster, and delete rosters if `may_delete`. Returns the roster's name,
-// blanks, and its number in three digits, 000 for all rosters.
+// Lets the operator pick a roster, and delete rosters if `may_delete` is true. Returns a text that
+// consists of the roster's name, blanks, and its number in three digits. The number is 000 for all
+// rosters.
 std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_delete);
 
-// Returns the number at the end of such a text.
+// Returns the number at the end of a text that AskForQuenbyRoster has returned.
 double QuenbyRosterNumber(std::string_view roster);
-// Returns such a text as "Members (1)".
+// Formats a text that AskForQuenbyRoster has returned as "Members (1)".
 std::string QuenbyRosterTitle(std::string_view roster);
 
 }  // namespace golf

@@ -19,7 +19,8 @@ class InputHeldOff {
   ScreenHost& host_;
 };
 
-// A list's entry has many blanks before the number at its end.
+// Replaces each run of blanks by one blank. A list's entry has many blanks before the number at its
+// end.
 std::string WithSingleBlanks(std::string text) {
   const auto both_blank = [](char a, char b) { return a == ' ' && b == ' '; };
   text.erase(std::unique(text.begin(), text.end(), both_blank), text.end());
@@ -34,7 +35,7 @@ void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
   if (!click.IsAllowed()) return;
   const InputHeldOff held_off(host);
   const auto open_again = [&] {
-    // The operator is shown the error that ended the run, not an error of closing the files.
+    // The operator sees the error that ended the run, not an error of closing the files.
     const ResumeNext anyway(nullptr);
     anyway([&] { state.InitSharedObjects(); });
     anyway([&] { screen.OpenAgain(); });
@@ -45,7 +46,7 @@ void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
     open_again();
     throw;
   } catch (...) {
-    // The run was stopped. What it held is gone before anybody reads.
+    // The run was stopped. Its pending changes are dropped before the files are read again.
     state.transactions->EndClick();
     open_again();
     throw;
@@ -105,7 +106,7 @@ void ScreenRun::Report(const Progress& progress) {
                 shown ? std::string_view(look_.working->caption()) : std::string_view()});
 }
 
-// The pointer is normal after a fault, although the run goes on: operators are used to that.
+// Shows the normal pointer after a fault, although the run continues. Operators expect this.
 void ScreenRun::NoteFault(const NumberedError& fault) {
   host_.SetPointer(Pointer::kNormal);
   host_.NoteFault(fault);

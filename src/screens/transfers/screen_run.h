@@ -12,30 +12,30 @@
 
 namespace golf {
 
-// Runs a transfer of a screen as a click that changes files, with the operator's input held off.
-// After an error that `run` does not take itself all files are closed, the shared objects are new,
-// the screen has opened again what its load opens, and the error goes on.
+// Runs a transfer of a screen as an event that changes files. The host accepts no input until it
+// ends. If `run` raises an error, closes all files, creates new shared objects, calls OpenAgain of
+// the screen, and raises the error again.
 void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
                  const std::function<void()>& run);
 
-// How a screen looks while its run copies. Any of them may be left out.
+// Describes the controls of a screen that a run changes. A screen may leave out any of them.
 struct RunLook {
-  Label* working = nullptr;          // shows what the run is at
-  Label* count = nullptr;            // and how far it is
-  Button* button = nullptr;          // starts the run
-  bool hides_button = false;         // while the run copies
-  TextBox* message = nullptr;        // shows the log after the run
-  bool shows_log = false;            // in `message`, when the operator is asked
-  std::function<void()> begin = {};  // what else changes when the copying begins
+  Label* working = nullptr;    // shows what the run is doing
+  Label* count = nullptr;      // shows how many items the run has handled
+  Button* button = nullptr;    // starts the run
+  bool hides_button = false;   // hides `button` while the run copies
+  TextBox* message = nullptr;  // shows the log after the run
+  bool shows_log = false;      // shows the log in `message` also when the run asks the operator
+  std::function<void()> begin = {};  // is called when the copying begins
 };
 
-// Says whether to try a failed commit again.
+// Is called after a failed commit. Returns true to try it again.
 using CommitRetry = std::function<bool(RunHost&, const CommitFailed&)>;
 
-// The screen's side of a run: it asks through the screen's host, shows the progress, and commits.
-// In whatever way the run ends, the labels are empty afterwards, a button that the run hides is
-// back and the pointer is normal. After a failed commit, or a run that was stopped, the button and
-// the log are as before.
+// Implements the host of a run for a screen. It shows the questions and the progress of the run,
+// and commits it. When the run has ended in any way, the labels are empty, a button that the run
+// hides is visible, and the pointer is normal. After a failed commit, or a run that was stopped,
+// the button and the log are restored.
 class ScreenRun : public RunHost {
  public:
   ScreenRun(SharedState& state, ScreenHost& host, RunLook look, RunTitle title);
@@ -51,7 +51,8 @@ class ScreenRun : public RunHost {
   bool AskAgain(const std::string& title, const std::string& text, const std::string& log) override;
   void Beep() override { host_.Beep(); }
 
-  // Makes the run's changes. Where that fails, `retry` says whether to try again. CommitFailed.
+  // Commits the run. If the commit fails, calls `retry` to decide whether to try again. Otherwise
+  // drops the changes and raises CommitFailed.
   void Commit(const RunReport& report, const CommitRetry& retry = nullptr);
 
  private:
@@ -60,12 +61,12 @@ class ScreenRun : public RunHost {
   RunLook look_;
   bool begun_ = false;
   bool committed_ = false;
-  bool button_before_ = false;  // whether it was visible
+  bool button_before_ = false;  // true if it was visible
   std::string message_before_;
 };
 
-// Runs a transfer as one transaction: runs, and commits. What the run has done before an error that
-// ended it is committed as well, and the error goes on. CommitFailed where nothing has changed.
+// Runs a transfer as one transaction and commits it. If an error ends the run, commits what the run
+// has done before and raises the error again. Raises CommitFailed if nothing has changed.
 template <class Request, class AnyReport>
 void RunWhole(SharedState& state, ScreenHost& host, RunLook look, RunTitle title,
               const Request& request, AnyReport& report, const CommitRetry& retry = nullptr) {

@@ -48,7 +48,7 @@ void ZDtoKV::OnLoad() {
 
 void ZDtoKV::OnUnload() { WriteSettings(state(), *this, Remembered()); }
 
-// The list on the screen and the chosen batch stay as they are.
+// Opens the league's files again and leaves the list and the chosen batch unchanged.
 void ZDtoKV::OpenAgain() { LoadScoreBatches(state(), listed_league_); }
 
 void ZDtoKV::TakeLeague(std::string league) {
@@ -89,7 +89,7 @@ void ZDtoKV::Transfer() {
   TransferButton.SetVisible(false);
 }
 
-// The log shows the posted scores, also after an error.
+// Posts the scores and shows the log, also after an error.
 void ZDtoKV::PostScores(ScoresZdToKvReport& report) {
   const auto show_log = [&] {
     if (!report.log.empty()) Message.SetText(report.log);

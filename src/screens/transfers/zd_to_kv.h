@@ -10,9 +10,8 @@
 
 namespace golf {
 
-// The screen on which the operator transfers the scores of a league. The operator chooses the
-// league, one of its batches of scores, and a Kelvane roster. The league's files stay open while
-// its batches are listed.
+// Posts the scores of a Zandel league to a Kelvane roster. The operator chooses the league, one of
+// its batches of scores, and the roster. The league's files stay open while its batches are listed.
 class ZDtoKV : public Screen {
  public:
   static constexpr const char* kName = "ZDtoKV";
@@ -27,7 +26,7 @@ class ZDtoKV : public Screen {
 
   Frame Frame2{"Frame2"};
   Button SourceButton{"SourceButton", "Find League to transfer scores from"};
-  TextBox LeagueRoster{"LeagueRoster"};  // the last five characters are its base
+  TextBox LeagueRoster{"LeagueRoster"};  // the last five characters are the league's base
   ComboBox EventList{"EventList"};       // the last three characters are the batch's code
   Button DestButton{"DestButton", "Find Handicap Roster to transfer score to"};
   TextBox HandicapRoster{"HandicapRoster"};
@@ -35,7 +34,7 @@ class ZDtoKV : public Screen {
   Button ExitButton{"ExitButton", "Exit"};
   TextBox Message{"Message"};
   Label Working{"Working"};
-  // The headings of the log, the roster and the league.
+  // These are the headings of the log, the roster and the league.
   std::array<Label, 3> Label1{Label("Label1", "  Transfer Messages"),
                               Label("Label1", "To Kelvane ROSTER..."),
                               Label("Label1", "Transfer scores from LEAGUE ...")};
@@ -50,7 +49,7 @@ class ZDtoKV : public Screen {
   void Transfer();
   void PostScores(ScoresZdToKvReport& report);
 
-  std::string listed_league_;  // the league whose files are open for the list; or empty
+  std::string listed_league_;  // the league whose files are open for the list, or empty
 };
 
 }  // namespace golf

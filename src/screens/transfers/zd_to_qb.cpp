@@ -63,7 +63,8 @@ void ZDtoQB::OnUnload() { WriteSettings(state(), *this, Remembered()); }
 
 void ZDtoQB::OpenAgain() { OpenQuenbyRosters(state()); }
 
-// A golfer is known by his name, so one whose name was cut is not found the next time.
+// Notifies the operator of names that were cut. Golfers are found by their names, so the next
+// transfer does not find a golfer with a cut name.
 void ZDtoQB::NotifyOfLongNames(std::int32_t count) {
   if (count == 0) return;
   host().Notify(std::to_string(count) + (count == 1 ? " first name does" : " first names do") +

@@ -8,7 +8,7 @@
 
 namespace golf {
 
-// The screen on which the operator copies the golfers of a league into a Quenby roster.
+// Copies the golfers of a Zandel league into a Quenby roster.
 class ZDtoQB : public Screen {
  public:
   static constexpr const char* kName = "ZDtoQB";
@@ -23,9 +23,9 @@ class ZDtoQB : public Screen {
 
   Frame Frame2{"Frame2"};
   Button SourceButton{"SourceButton", "Find Source League"};
-  TextBox LeagueRoster{"LeagueRoster"};  // the last five characters are its base
+  TextBox LeagueRoster{"LeagueRoster"};  // the last five characters are the league's base
   Button DestButton{"DestButton", "Find Tournament Roster"};
-  TextBox TournamentRoster{"TournamentRoster"};  // the last three characters are its number
+  TextBox TournamentRoster{"TournamentRoster"};  // ends with the roster's three-digit number
   CheckBox Handicapto18{"Handicapto18", "Convert to 18 hole handicap (Double handicap)"};
   CheckBox TransferSubs{"TransferSubs", "Transfer Substitutes"};
   Button TransferButton{"TransferButton", "&Transfer Golfers"};
@@ -33,7 +33,7 @@ class ZDtoQB : public Screen {
   TextBox Message{"Message"};
   Label Working{"Working"};
   Label WorkingCount{"WorkingCount"};
-  // The heading of the screen, and the headings of the league, the roster and the log.
+  // These are the heading of the screen and the headings of the league, the roster and the log.
   std::array<Label, 4> Label1{Label("Label1", "------>----> Transfer golfers to ------->---->"),
                               Label("Label1", "LEAGUE to Transfer"),
                               Label("Label1", "Quenby Roster"),
@@ -42,7 +42,8 @@ class ZDtoQB : public Screen {
 
  private:
   std::array<Control*, 6> Remembered();
-  // Returns false if something was missing, which the operator has been shown.
+  // Runs the transfer. If the operator has not chosen a league or a roster, shows a message and
+  // returns false.
   bool Transfer();
   void NotifyOfLongNames(std::int32_t count);
 };
