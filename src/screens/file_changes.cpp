@@ -17,7 +17,7 @@ Recovery Recover(SharedState& state, ScreenHost& host) {
 }  // namespace
 
 void RecoverInterruptedRun(SharedState& state, ScreenHost& host) {
-  // What a run at work, or an error, prevents here is told by the click that changes files.
+  // Ignores errors here. ChangingClick raises them when the operator changes files.
   const ResumeNext anyway(nullptr);
   anyway([&] {
     const auto lock = state.files.platform().LockRun(state.ProgramPath);

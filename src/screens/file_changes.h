@@ -9,14 +9,14 @@
 
 namespace golf {
 
-// Finishes a run that was interrupted before, and tells the operator. Called before a screen that
-// can change files reads them. A run that cannot be finished by itself, or an install that another
-// process has locked, is left alone until something is to be changed.
+// Recovers an interrupted run and notifies the operator. Must be called before a screen that can
+// change files reads them. Does nothing if the operator must decide about the run, or if another
+// process holds the lock of the install. Raises no numbered error.
 void RecoverInterruptedRun(SharedState& state, ScreenHost& host);
 
-// A click that changes files. While it lives, the install is locked against other processes that
-// change it. Error 70 where another process has the lock. A run that was interrupted before is
-// finished first, and the operator is told.
+// Begins a click that changes files, and ends it in the destructor. Holds the lock of the install
+// meanwhile. The constructor raises error 70 if another process holds the lock. It first recovers
+// an interrupted run and notifies the operator.
 class ChangingClick {
  public:
   ChangingClick(SharedState& state, ScreenHost& host);
@@ -24,8 +24,8 @@ class ChangingClick {
   ChangingClick& operator=(const ChangingClick&) = delete;
   ~ChangingClick();
 
-  // False where an interrupted run stands in the way, which the operator was told. Nothing may be
-  // changed then.
+  // False if the operator must decide about an interrupted run. The operator was notified then, and
+  // the caller must not change files.
   bool IsAllowed() const { return allowed_; }
 
  private:
@@ -34,9 +34,9 @@ class ChangingClick {
   bool allowed_ = false;
 };
 
-// Runs `change` as a transaction of its own. What it has changed before a numbered error is
-// committed as well, and the error goes on. CommitFailed where nothing could be changed. Returns
-// false, with nothing done, where an interrupted run stands in the way.
+// Runs `change` as a click with one transaction. If `change` raises a numbered error, commits the
+// changes made before and raises the error again. Raises CommitFailed if the commit fails. Returns
+// false and does not call `change` if the operator must decide about an interrupted run.
 bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std::string about,
                  const std::function<void()>& change);
 

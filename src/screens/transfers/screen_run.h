@@ -12,30 +12,29 @@
 
 namespace golf {
 
-// Runs a transfer of a screen as a click that changes files, with the operator's input held off.
-// After an error that `run` does not take itself all files are closed, the shared objects are new,
-// the screen has opened again what its load opens, and the error goes on.
+// Runs a transfer of a screen as a click that changes files. The host takes no input meanwhile. If
+// `run` raises an exception, closes all files, makes the shared objects again, calls OpenAgain of
+// the screen, and raises the exception again.
 void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
                  const std::function<void()>& run);
 
-// How a screen looks while its run copies. Any of them may be left out.
+// Contains the controls that a run changes on its screen. Any member may be left out.
 struct RunLook {
-  Label* working = nullptr;          // shows what the run is at
-  Label* count = nullptr;            // and how far it is
+  Label* working = nullptr;          // shows what the run does at present
+  Label* count = nullptr;            // shows the number of records that are done
   Button* button = nullptr;          // starts the run
-  bool hides_button = false;         // while the run copies
+  bool hides_button = false;         // the button is hidden while the run copies
   TextBox* message = nullptr;        // shows the log after the run
-  bool shows_log = false;            // in `message`, when the operator is asked
-  std::function<void()> begin = {};  // what else changes when the copying begins
+  bool shows_log = false;            // `message` also shows the log before a question of AskAgain
+  std::function<void()> begin = {};  // is called when the copying begins
 };
 
-// Says whether to try a failed commit again.
+// Returns true if a failed commit must be tried again.
 using CommitRetry = std::function<bool(RunHost&, const CommitFailed&)>;
 
-// The screen's side of a run: it asks through the screen's host, shows the progress, and commits.
-// In whatever way the run ends, the labels are empty afterwards, a button that the run hides is
-// back and the pointer is normal. After a failed commit, or a run that was stopped, the button and
-// the log are as before.
+// Connects a run to its screen. It asks the operator, shows the progress, and commits. The
+// destructor clears the labels, shows a button that the run has hidden, and sets the normal
+// pointer. It also restores the button and the message if nothing was committed.
 class ScreenRun : public RunHost {
  public:
   ScreenRun(SharedState& state, ScreenHost& host, RunLook look, RunTitle title);
@@ -51,7 +50,8 @@ class ScreenRun : public RunHost {
   bool AskAgain(const std::string& title, const std::string& text, const std::string& log) override;
   void Beep() override { host_.Beep(); }
 
-  // Makes the run's changes. Where that fails, `retry` says whether to try again. CommitFailed.
+  // Commits the changes of the run. If the commit fails and no file has changed, calls `retry` and
+  // tries again if it returns true. Otherwise drops the changes and raises CommitFailed.
   void Commit(const RunReport& report, const CommitRetry& retry = nullptr);
 
  private:
@@ -60,12 +60,12 @@ class ScreenRun : public RunHost {
   RunLook look_;
   bool begun_ = false;
   bool committed_ = false;
-  bool button_before_ = false;  // whether it was visible
+  bool button_before_ = false;  // true if the button was visible
   std::string message_before_;
 };
 
-// Runs a transfer as one transaction: runs, and commits. What the run has done before an error that
-// ended it is committed as well, and the error goes on. CommitFailed where nothing has changed.
+// Runs a transfer as one transaction and commits it. If the run raises a numbered error, commits
+// the changes made before and raises the error again. Raises CommitFailed if the commit fails.
 template <class Request, class AnyReport>
 void RunWhole(SharedState& state, ScreenHost& host, RunLook look, RunTitle title,
               const Request& request, AnyReport& report, const CommitRetry& retry = nullptr) {
