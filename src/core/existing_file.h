@@ -7,11 +7,12 @@
 
 namespace golf {
 
-// Opens a file. Returns null if there is no such file. Other errors as Platform::Open.
+// Opens a file. Returns null if the file does not exist. Raises all other errors of Platform::Open.
 std::unique_ptr<PlatformFile> OpenIfExists(Platform& platform, const std::string& path,
                                            FileAccess access);
 
-// True if a file can be opened for reading. Raises any error other than 53.
+// True if the file exists. Opens it for reading, and raises all errors of Platform::Open other than
+// 53.
 bool FileExists(Platform& platform, const std::string& path);
 
 }  // namespace golf

@@ -8,8 +8,8 @@
 
 namespace golf {
 
-// Forwards every call to another platform. A platform that changes some of the calls derives from
-// it.
+// Forwards every call to another platform. It is the base class of platforms that change some of
+// the calls.
 class PlatformOver : public Platform {
  public:
   // `real` must outlive this object.

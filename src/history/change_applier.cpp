@@ -19,7 +19,7 @@ bool HasConflict(const std::set<PlaceConflict>& conflicts, const std::string& pa
   return first != conflicts.end() && first->path == path;
 }
 
-// A file that gets its bytes of before or after the run.
+// Writes the new bytes into a file, or the old bytes if the direction is kBack.
 class Target {
  public:
   Target(HistoryGate& gate, std::shared_ptr<PlatformFile> file, std::string path,
@@ -31,11 +31,12 @@ class Target {
         entry_(std::move(entry)),
         direction_(direction) {}
 
-  // Writes a place. Places that follow each other are written with one call. With `fills_gaps`,
-  // bytes that only the other side has become zeros; otherwise the length of the file ends them.
+  // Writes a place. Writes adjoining places with one call. If `fills_gaps` is true, writes zeros
+  // behind the wanted bytes where the place is longer than they are. Otherwise Finish truncates the
+  // file there. If `untouched` is true, raises error 70 if another program has changed the place.
   void Write(const HistoryPlace& place, bool untouched, bool fills_gaps) {
     const std::size_t first = place.FirstChanged();
-    // Reading the bytes between two places may overwrite those of the place.
+    // Copies the bytes, since Join may read again and overwrite them.
     now_ = reader_.Read(place.offset + static_cast<std::int64_t>(first), place.ChangedSize());
     if (untouched && !IsUntouched(place, now_)) throw ChangedByOthers(path_);
     const std::string& wanted =
@@ -57,10 +58,10 @@ class Target {
     }
   }
 
-  // A place that stays as it is keeps the file long enough to hold it.
+  // Leaves a place unchanged. Finish does not truncate the file before its end.
   void Keep(const HistoryPlace& place) { kept_end_ = std::max(kept_end_, place.End()); }
 
-  // Writes what is pending and sets the length.
+  // Writes the pending bytes and sets the length of the file.
   void Finish() {
     Flush();
     const bool forward = direction_ == Direction::kForward;
@@ -74,8 +75,9 @@ class Target {
   void Sync() { gate_.Sync(*file_); }
 
  private:
-  // Extends what is pending to the byte at `start`. The unchanged bytes between two records that
-  // follow each other are written again, so that one call writes both records.
+  // Prepares the pending bytes for an append at `start`. If the place adjoins the last one, appends
+  // the unchanged bytes between them, so that one call writes both places. Otherwise writes the
+  // pending bytes.
   void Join(const HistoryPlace& place, std::int64_t start) {
     const std::int64_t end = start_ + std::ssize(pending_);
     const bool follows = !pending_.empty() && place.offset == place_end_ && start >= end &&
@@ -102,11 +104,11 @@ class Target {
   std::string path_;
   HistoryFileEntry entry_;
   Direction direction_;
-  std::string now_;         // the changed bytes of a place as the file has them
-  std::int64_t start_ = 0;  // of what is pending
+  std::string now_;         // the present bytes of the place in the file
+  std::int64_t start_ = 0;  // offset of the pending bytes in the file
   std::string pending_;
-  std::int64_t place_end_ = 0;  // of the last place
-  std::int64_t kept_end_ = 0;   // of the last place that stays as it is
+  std::int64_t place_end_ = 0;  // end of the last place
+  std::int64_t kept_end_ = 0;   // end of the last place that is left unchanged
 };
 
 class Application {
@@ -148,8 +150,8 @@ class Application {
     is_open_ = true;
   }
 
-  // A deleted file is renamed into the history. Its folders are synced also if a process that was
-  // killed has renamed it, since that change may not be on the disk.
+  // Moves a deleted file into the history folder. Also syncs the folders if the file was moved
+  // already: the process that moved it may have been killed before the sync.
   void Delete(const HistoryFileEntry& entry) {
     deleted_.push_back(entry);
     folders_.insert(files_.paths().FolderOf(path_));
@@ -159,9 +161,10 @@ class Application {
     if (forward_) files_.gate().Rename(path_, files_.KeptPath(entry));
   }
 
-  // Returns true if the bytes of the file are to be written.
+  // Creates the file, or records that it must be deleted if the direction is kBack. Returns true if
+  // the bytes of the file must be written.
   bool Create(const HistoryFileEntry& entry) {
-    // Another program has created a file of this name. It stays as it is.
+    // Another program has created or changed the file. It is left unchanged.
     if (HasConflict(options_.skipped, path_)) return false;
     folders_.insert(files_.paths().FolderOf(path_));
     if (!forward_) {
@@ -175,8 +178,8 @@ class Application {
   void Write(const HistoryPlace& place) {
     if (!is_open_) return;
     if (options_.skipped.contains({path_, place.offset})) return targets_.back()->Keep(place);
-    // A place that stays behind the old end keeps the file long. What was added before that place
-    // becomes zeros then.
+    // An unchanged place behind the old end prevents the truncation of the file. Zeros then replace
+    // the added bytes before that place.
     const bool fills_gaps = !forward_ && !options_.skipped.empty();
     targets_.back()->Write(place, options_.untouched, fills_gaps);
   }
@@ -205,10 +208,10 @@ class Application {
   std::vector<std::unique_ptr<Target>> targets_;
   std::vector<HistoryFileEntry> created_;
   std::vector<HistoryFileEntry> deleted_;
-  std::set<std::string> folders_;      // in which names change
-  std::set<std::string> still_there_;  // files that the run deletes, in capitals
-  std::string path_;                   // of the file that the history describes now
-  bool is_open_ = false;               // whether the last target gets its places
+  std::set<std::string> folders_;      // folders to sync
+  std::set<std::string> still_there_;  // files to be deleted that exist, in capitals
+  std::string path_;                   // path of the current file
+  bool is_open_ = false;               // true if the current file is the last target
 };
 
 }  // namespace

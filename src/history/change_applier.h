@@ -10,14 +10,15 @@ enum class Direction { kForward, kBack };
 
 struct ApplyOptions {
   Direction direction = Direction::kForward;
-  // Compares each place once more before it is written: error 70 if another program has changed it.
+  // Compares each place before it is written. Raises error 70 if another program has changed it.
   bool untouched = false;
-  // These places and files stay as they are.
+  // These places and files are left unchanged.
   std::set<PlaceConflict> skipped = {};
 };
 
-// Changes the files of a run to their bytes of after the run, or of before it: writes the places,
-// creates and deletes files, sets lengths, and syncs everything that it changed.
+// Applies a run's changes, or puts them back if the direction is kBack. Writes the places, creates
+// and deletes files, sets lengths, and syncs everything that it has changed. Raises error 70 if a
+// file that the run changes does not exist.
 void ApplyChanges(RunFiles& files, HistoryFile& history, const ApplyOptions& options);
 
 }  // namespace golf

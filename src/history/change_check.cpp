@@ -15,7 +15,8 @@ namespace {
 
 enum class Expected { kOld, kMixture };
 
-// Compares the files of a run with its history file.
+// Compares the files of a run with its history file, and calls `differs` for each unexpected
+// difference.
 class ChangeCheck {
  public:
   ChangeCheck(RunFiles& files, Expected expected, std::function<void(PlaceConflict)> differs)
@@ -36,7 +37,7 @@ class ChangeCheck {
     if (entry.fate == FileFate::kDeleted) return CheckDeleted(entry);
     if (entry.fate == FileFate::kCreated) {
       there_again_.erase(UpperCase(path_));
-      // The file that replaces a deleted one does not exist before the other one is gone.
+      // The run replaces a deleted file by this one. The deleted file is still at this path.
       if (still_there_.contains(UpperCase(path_))) return;
     }
     file_ = files_.Open(path_);
@@ -55,7 +56,7 @@ class ChangeCheck {
     }
   }
 
-  // Whether the file exists, or not, and has a length as it should.
+  // True if the existence and the length of the file are as expected.
   bool IsRightAsWhole(const HistoryFileEntry& entry) {
     const bool is_created = entry.fate == FileFate::kCreated;
     if (file_ == nullptr) return is_created;
@@ -83,8 +84,8 @@ class ChangeCheck {
   std::string path_;
   std::shared_ptr<PlatformFile> file_;
   std::optional<PlaceReader> reader_;
-  std::set<std::string> still_there_;               // files that the run deletes, in capitals
-  std::map<std::string, std::string> there_again_;  // files that it has deleted, by capitals
+  std::set<std::string> still_there_;               // files to be deleted that exist, in capitals
+  std::map<std::string, std::string> there_again_;  // deleted files that exist, by capitals
 };
 
 }  // namespace

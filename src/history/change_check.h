@@ -10,9 +10,8 @@
 
 namespace golf {
 
-// A place whose bytes are neither those of before the run nor those of after it: another program
-// has changed it. An offset below 0 means the file as a whole: it is missing, exists again, or has
-// grown.
+// Identifies a place or a file with a conflict. An offset below 0 means the file as a whole: its
+// existence or its length is not as expected.
 struct PlaceConflict {
   std::string path;
   std::int64_t offset = -1;
@@ -21,18 +20,19 @@ struct PlaceConflict {
   }
 };
 
-// Returns error 70 for a file that another program has changed during the run.
+// Returns error 70, which reports that another program has changed a file during the run.
 NumberedError ChangedByOthers(const std::string& path);
 
-// Raises error 70 if a file is not as it was before the run, in its length or at a place that the
-// run changes.
+// Raises error 70 if a file differs from its state before the run: in its existence, at a place
+// that the run changes, or in its length if the run changes the length.
 void RequireUntouched(RunFiles& files, HistoryFile& history);
 
-// True if all files are as they were before the run.
+// True if RequireUntouched would raise no error for these files.
 bool IsAllOld(RunFiles& files, HistoryFile& history);
 
-// Returns the places whose bytes are neither old, nor new, nor a mixture of both as a crash leaves
-// it.
+// Returns the conflicts of a run that was applied in part: places with bytes that are neither old
+// nor new, and files that are missing, exist again or are too long. A mixture of old and new bytes
+// is no conflict, since a crash may leave it.
 std::set<PlaceConflict> FindConflicts(RunFiles& files, HistoryFile& history);
 
 }  // namespace golf

@@ -9,14 +9,16 @@
 
 namespace golf {
 
-// What is told of held changes, net and in the order of a history file. Groups that were joined are
-// one.
+// Contains the callbacks of ReadHeld.
 struct HeldReader {
   std::function<void(ChangeGroup, std::string_view title)> group;
   std::function<void(const HistoryFileEntry&)> file;
   std::function<void(const HeldPlace&, std::string_view code)> place;
 };
 
+// Calls the reader for the held changes, in the order of a history file: the groups, then each file
+// with its places. Leaves out files that have no net change. Reports joined groups as one. Raises
+// HoldFailed if held changes cannot be read.
 void ReadHeld(HeldChanges& changes, const HistoryPaths& paths, const HeldReader& reader);
 
 }  // namespace golf

@@ -34,19 +34,20 @@ std::size_t HeldFileChanges::ReadAt(std::int64_t offset, std::span<char> into) {
   if (offset >= length_) return 0;
   const auto size =
       static_cast<std::size_t>(std::min<std::int64_t>(length_ - offset, std::ssize(into)));
-  // What a truncation has cut off and what grew again since is held, where it differs.
+  // A file may be truncated and extended again. The new bytes behind the truncation are then in the
+  // held places, if they differ from the bytes of the real file.
   const std::int64_t from_file =
       std::clamp<std::int64_t>(std::min(old_length_, length_) - offset, 0, std::ssize(into));
   std::size_t read = 0;
   if (from_file > 0) {
     read = real_->ReadAt(offset, into.first(static_cast<std::size_t>(from_file)));
-    // A record is read before it is written: these are its old bytes.
+    // A record is read before it is written, so these bytes are the old ones.
     window_.Note(offset, into.first(read));
   }
   std::fill(into.begin() + static_cast<std::ptrdiff_t>(read), into.end(), '\0');
 
   const std::int64_t end = offset + static_cast<std::int64_t>(size);
-  // A place may begin in an earlier portion and reach into this one.
+  // A place may start in an earlier portion and extend into this one.
   auto portion = portions_.lower_bound(PortionOf(std::max<std::int64_t>(offset - longest_, 0)));
   for (; portion != portions_.end() && portion->first * kPortion < end; ++portion) {
     for (const HeldPlace& place : portion->second) {
@@ -67,7 +68,8 @@ void HeldFileChanges::WriteAt(std::int64_t offset, std::string_view bytes, Chang
   WriteOver(offset, bytes, group);
 }
 
-// What a truncation has cut off reads as zeros where the file grows again.
+// Holds zeros for bytes that a truncation has cut off, up to `end`, since the file is extended
+// again.
 void HeldFileChanges::FillCut(std::int64_t end, ChangeGroup group) {
   const std::int64_t cut = std::min(end, old_length_) - length_;
   if (cut > 0) WriteOver(length_, std::string(static_cast<std::size_t>(cut), '\0'), group);
@@ -82,7 +84,7 @@ void HeldFileChanges::WriteOver(std::int64_t offset, std::string_view bytes, Cha
   if (!Overlaps(offset, end)) {
     return Insert(offset, group, OldBytes(offset, bytes.size()), bytes);
   }
-  // Several places become one.
+  // Replaces the overlapping places by one place.
   const std::vector<HeldPlace> taken = TakeOverlapping(offset, end);
   const std::int64_t first = std::min(offset, taken.front().offset);
   std::int64_t last = end;
@@ -96,7 +98,8 @@ void HeldFileChanges::WriteOver(std::int64_t offset, std::string_view bytes, Cha
     const auto at = static_cast<std::size_t>(place.offset - first);
     const HistoryPlace& held = Bytes(place);
     new_bytes.replace(at, held.new_bytes.size(), held.new_bytes);
-    // The bytes as they were at the first write hold, whatever the disk says by now.
+    // The bytes that were read before the first write remain the old ones, even if another program
+    // has changed the file since.
     if (at < old_bytes.size()) old_bytes.replace(at, held.old_bytes.size(), held.old_bytes);
   }
   new_bytes.replace(static_cast<std::size_t>(offset - first), bytes.size(), bytes);
@@ -201,7 +204,7 @@ std::vector<HeldPlace> HeldFileChanges::TakeOverlapping(std::int64_t offset, std
   return taken;
 }
 
-// A place that is as it was before the run is none.
+// Stores a place. Stores nothing if its old and new bytes are equal.
 void HeldFileChanges::Insert(std::int64_t offset, ChangeGroup group, std::string_view old_bytes,
                              std::string_view new_bytes) {
   code_.clear();
@@ -222,7 +225,7 @@ std::string HeldFileChanges::OldBytes(std::int64_t offset, std::size_t size) {
       std::clamp<std::int64_t>(old_length_ - offset, 0, static_cast<std::int64_t>(size)));
   if (wanted == 0) return {};
   if (offset < window_.offset || offset + static_cast<std::int64_t>(wanted) > window_.End()) {
-    // Writes that follow each other read ahead.
+    // Reads ahead if the writes are sequential.
     const bool follows =
         offset >= window_.offset && offset <= window_.End() && !window_.bytes.empty();
     window_.bytes.resize(follows ? std::max(wanted, kWindow) : wanted);

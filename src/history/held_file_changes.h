@@ -16,34 +16,34 @@
 
 namespace golf {
 
-// A place that a run has written, usually a record. Its bytes of before the first write and after
-// the last one lie in a store, coded.
+// Describes a place that a run has written. The store contains the code of its bytes before the
+// first write and after the last one.
 struct HeldPlace {
   std::int64_t offset = 0;
-  std::uint32_t old_size = 0;  // fewer bytes than new ones where the file ended there
-  std::uint32_t new_size = 0;  // fewer than old ones where the file is cut there
+  std::uint32_t old_size = 0;  // bytes; below `new_size` if the file ended in the place
+  std::uint32_t new_size = 0;  // bytes; below `old_size` if the file is truncated there
   ChangeGroup group = 0;
-  std::uint32_t code_size = 0;
-  std::int64_t stored = 0;
+  std::uint32_t code_size = 0;  // bytes of the code
+  std::int64_t stored = 0;      // position of the code in the store
 
   std::int64_t End() const { return offset + std::max(old_size, new_size); }
 };
 
-// Bytes of a file as they were when they were read.
+// Contains bytes of a file as they were when they were read.
 struct FileWindow {
   std::int64_t offset = 0;
   std::string bytes;
 
   std::int64_t End() const { return offset + std::ssize(bytes); }
-  // Replaces the window by what was read, unless that is longer than a record: only a record is
-  // read in order to be written.
+  // Replaces the window by bytes that were read. Does nothing if they are longer than a record,
+  // since only a record is read in order to be written.
   void Note(std::int64_t read_offset, std::span<const char> read);
 };
 
-// What a run holds back of one file.
+// Holds the changes of a run in one file.
 class HeldFileChanges {
  public:
-  // `real` is the file on the disk; null where the file comes into being with this run.
+  // `real` is the file on the disk. It is null if the run creates the file.
   HeldFileChanges(std::string path, std::shared_ptr<PlatformFile> real, SpillStore& store);
 
   const std::string& path() const { return path_; }
@@ -51,39 +51,41 @@ class HeldFileChanges {
   // The file stays open through this pointer until the changes are committed or dropped.
   const std::shared_ptr<PlatformFile>& real() const { return real_; }
 
-  // Bytes. The old length is that of the moment of the first change.
+  // Both lengths are in bytes. The old length is that at the first change.
   std::int64_t old_length() const { return old_length_; }
   std::int64_t length() const { return length_; }
 
-  // As the file reads with its changes; fewer bytes than asked for at its end only.
+  // Reads bytes of the file with its held changes, and returns their number. The number is smaller
+  // than the size of `into` only at the end of the file.
   std::size_t ReadAt(std::int64_t offset, std::span<char> into);
-  // Notes what was read of the file before its first change. These bytes count as old ones, also if
-  // another program has changed them since.
+  // Records bytes that were read before the first change. They count as old bytes, even if another
+  // program has changed them since.
   void NoteRead(FileWindow read) { window_ = std::move(read); }
+  // Both functions hold a change. They raise HoldFailed if it cannot be held.
   void WriteAt(std::int64_t offset, std::string_view bytes, ChangeGroup group);
   void Truncate(std::int64_t length, ChangeGroup group);
 
-  // Joins two groups where a place belongs to both.
+  // Is called with two groups that have changed the same place.
   std::function<void(ChangeGroup, ChangeGroup)> on_shared;
 
-  // Whether anything differs from before the run.
+  // True if the file differs from its state before the run.
   bool HasNetChange() const;
-  // Calls `each` with every place that differs and its code, by rising offsets. Bytes that a
-  // truncation cuts off are among them.
+  // Calls `each` for every place that differs, by rising offsets, with its code. Bytes that a
+  // truncation cuts off are among them. Raises HoldFailed if the held bytes cannot be read.
   void ForEach(const std::function<void(const HeldPlace&, std::string_view code)>& each);
 
  private:
-  // Places in the order of their offsets, in portions of the file by where they start.
+  // Contains the places that start in one portion of the file, by rising offsets.
   using Portion = std::vector<HeldPlace>;
 
   const HeldPlace* FindExact(std::int64_t offset, std::size_t size) const;
   void Replace(const HeldPlace& place, std::string_view bytes, ChangeGroup group);
   bool Overlaps(std::int64_t offset, std::int64_t end);
-  // Takes all places out that overlap the range.
+  // Removes and returns all places that overlap the range.
   std::vector<HeldPlace> TakeOverlapping(std::int64_t offset, std::int64_t end);
   void Insert(std::int64_t offset, ChangeGroup group, std::string_view old_bytes,
               std::string_view new_bytes);
-  // Reads the bytes of a place back.
+  // Returns the bytes of a place. They are valid until the next call.
   const HistoryPlace& Bytes(const HeldPlace& place);
   void FillCut(std::int64_t end, ChangeGroup group);
   void WriteOver(std::int64_t offset, std::string_view bytes, ChangeGroup group);
@@ -96,11 +98,11 @@ class HeldFileChanges {
   std::int64_t old_length_ = 0;
   std::int64_t length_ = 0;
   std::map<std::int64_t, Portion> portions_;
-  std::int64_t longest_ = 0;  // bytes of a place
-  // Buffers that are used again.
+  std::int64_t longest_ = 0;  // size of the longest place, in bytes
+  // These buffers are reused.
   std::string code_;
   HistoryPlace bytes_;
-  FileWindow window_;  // of the real file
+  FileWindow window_;  // bytes of the real file
 };
 
 }  // namespace golf

@@ -11,7 +11,7 @@
 namespace golf {
 namespace {
 
-// Files that are not on the disk yet are told apart by a volume that no system has.
+// The volume in the identity of a file that a run has created. No system uses this number.
 constexpr std::uint64_t kVolumeOfCreated = ~std::uint64_t{0};
 
 FileIdentity IdentityOfCreated(const HeldFileChanges& file) {
@@ -99,7 +99,7 @@ void HeldChanges::Rename(const std::string& from, const std::string& to) {
   target->Truncate(std::ssize(bytes), groups_.Current());
 }
 
-// An open file. It reads through the changes that are held of it.
+// Implements an open file. Its reads return the held changes.
 class HeldPlatform::File : public PlatformFile {
  public:
   File(HeldPlatform& platform, std::string path, std::shared_ptr<PlatformFile> real,
@@ -131,7 +131,7 @@ class HeldPlatform::File : public PlatformFile {
     Begin().Truncate(length, platform_.held_->groups().Current());
   }
 
-  // What is held is synced when it is committed.
+  // Does nothing while changes are held, since the commit syncs them.
   void Sync(ChangePass pass) override {
     if (!Holds()) Real().Sync(pass);
   }
@@ -147,7 +147,8 @@ class HeldPlatform::File : public PlatformFile {
     return real_ != nullptr ? real_->Identity() : IdentityOfCreated(*changes_);
   }
 
-  // A file with held changes stays open until they are committed or dropped.
+  // Keeps the real file open if it has held changes. HeldFileChanges closes it after the commit or
+  // the drop.
   void Close() override {
     const HeldFileChanges* changes = Changes();
     const bool needed = real_ == nullptr || (changes != nullptr && changes->real() == real_);
@@ -156,7 +157,8 @@ class HeldPlatform::File : public PlatformFile {
   }
 
  private:
-  // A file that may only be read refuses a write by itself, so its write is not held.
+  // True if a write is held. A write to a read-only file is not held, so that the real file raises
+  // its error.
   bool Holds() const { return platform_.held_ != nullptr && IsWritable(); }
 
   HeldFileChanges* Changes() {
@@ -164,7 +166,7 @@ class HeldPlatform::File : public PlatformFile {
       turn_ = platform_.turn_;
       if (real_ == nullptr) OpenCommitted();
       changes_ = nullptr;
-      read_ = {};  // of a run before this one
+      read_ = {};  // these bytes were read in an earlier run
     }
     if (changes_ == nullptr && platform_.held_ != nullptr) {
       changes_ = platform_.held_->Of(real_->Identity());
@@ -186,7 +188,8 @@ class HeldPlatform::File : public PlatformFile {
     return *real_;
   }
 
-  // The file that was created in a run is on the disk once the run is committed.
+  // Opens the real file of a file that an earlier run has created. Raises error 53 if that run was
+  // not committed.
   void OpenCommitted() { real_ = platform_.real().Open(path_, FileAccess::kReadWriteShared); }
 
   HeldPlatform& platform_;
@@ -194,7 +197,7 @@ class HeldPlatform::File : public PlatformFile {
   std::shared_ptr<PlatformFile> real_;
   std::shared_ptr<HeldFileChanges> changes_;
   std::uint64_t turn_;
-  FileWindow read_;  // what was read last while no change of the file was held
+  FileWindow read_;  // the last bytes that were read before the first held change
 };
 
 void HeldPlatform::Hold() {

@@ -13,14 +13,14 @@
 
 namespace golf {
 
-// A file that was deleted in a run. It is still there until the commit.
+// Describes a file that a run deletes. It exists on the disk until the commit.
 struct HeldDeletion {
   std::string path;
   FileIdentity identity;
   std::int64_t length = 0;  // bytes
 };
 
-// Everything that a run has changed so far and that is held back from the disk.
+// Contains all held changes of a run.
 class HeldChanges {
  public:
   explicit HeldChanges(Platform& real) : real_(real), store_(real) {}
@@ -28,23 +28,25 @@ class HeldChanges {
   HeldChanges& operator=(const HeldChanges&) = delete;
 
   ChangeGroups& groups() { return groups_; }
-  // In the order of their first changes.
+  // Returns the changed files in the order of their first changes.
   const std::vector<std::shared_ptr<HeldFileChanges>>& files() const { return files_; }
   const std::vector<HeldDeletion>& deletions() const { return deletions_; }
   bool IsEmpty() const { return files_.empty() && deletions_.empty(); }
 
-  // The changes of a file; null where it has none.
+  // Both functions return the changes of a file, or null if it has none.
   std::shared_ptr<HeldFileChanges> Of(const FileIdentity& identity) const;
   std::shared_ptr<HeldFileChanges> CreatedAt(const std::string& path) const;
   bool IsDeleted(const std::string& path) const;
 
+  // Begins to hold changes of a file. `real` is null if the run creates the file.
   std::shared_ptr<HeldFileChanges> Begin(const std::string& path,
                                          std::shared_ptr<PlatformFile> real);
-  // Does nothing where there is such a file.
+  // Does nothing if the file exists.
   void Create(const std::string& path);
-  // Error 53 where there is no such file.
+  // Raises error 53 if the file does not exist.
   void Delete(const std::string& path);
-  // The bytes of the first file become those of the other one, and the first file goes.
+  // Replaces the bytes of `to` by those of `from`, and deletes `from`. Creates `to` if it does not
+  // exist. Raises error 53 if `from` does not exist.
   void Rename(const std::string& from, const std::string& to);
 
  private:
@@ -55,21 +57,22 @@ class HeldChanges {
   std::vector<HeldDeletion> deletions_;
 };
 
-// A platform that can hold changes back. While it holds, nothing that is changed through it reaches
-// the disk, and everybody who reads through it sees the changes. Files are really opened, with
-// their locks. While it does not hold it hands every call on.
+// Implements a platform that can hold changes. While it holds, no change through it reaches the
+// disk, and every read through it returns the changed bytes. It opens the real files meanwhile, so
+// their locks apply. While it does not hold, it forwards every call to the real platform.
 class HeldPlatform : public PlatformOver {
  public:
   using PlatformOver::PlatformOver;
 
-  // Begins to hold. Files that are open already are held as well.
+  // Begins to hold changes, also those of files that are already open. Drops changes that were held
+  // before.
   void Hold();
-  // Null while nothing is held back.
+  // Returns the held changes, or null if the platform does not hold.
   HeldChanges* held() const { return held_.get(); }
-  // Ends holding and gives the changes away: to be committed, or to be dropped.
+  // Stops holding and returns the changes that were held.
   std::shared_ptr<HeldChanges> Release();
 
-  // Called at each change that is held. An exception ends the run.
+  // Is called before each change is held. An exception that it raises ends the run.
   std::function<void()> on_change;
 
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override;
@@ -87,7 +90,8 @@ class HeldPlatform : public PlatformOver {
   }
 
   std::shared_ptr<HeldChanges> held_;
-  // Tells open files that what they knew of held changes is out of date.
+  // Counts the calls of Hold and Release. An open file compares it to find out that its pointer to
+  // held changes is out of date.
   std::uint64_t turn_ = 0;
 };
 

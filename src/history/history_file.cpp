@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view kTitle = "Golf Transfer history 1\r\n";
 constexpr std::string_view kMark = "Golf Transfer mark ";
-constexpr std::size_t kPortionHead = 9;  // kind, length, checksum
+constexpr std::size_t kPortionHead = 9;  // bytes of the kind, the length and the checksum
 constexpr std::size_t kMostInPortion = std::size_t{1} << 24;
 constexpr std::size_t kFullPortion = std::size_t{64} << 10;
 constexpr std::size_t kFullBuffer = std::size_t{256} << 10;
@@ -111,7 +111,7 @@ void HistoryWriter::Finish() {
   Portion(HistoryPortion::kEnd, changes);
   Flush();
   std::string first(kTitle);
-  first.resize(static_cast<std::size_t>(kContentStart), '\0');  // room for the marks
+  first.resize(static_cast<std::size_t>(kContentStart), '\0');  // the blocks of the marks are zeros
   gate_.Write(*file_, 0, first);
   gate_.Sync(*file_);
 }
@@ -219,7 +219,7 @@ void HistoryFile::Read(const Reader& reader) {
   std::int64_t at = kContentStart;
   const RunTitle title = Title(at);
   if (reader.run) reader.run(title);
-  std::int64_t next_offset = -1;  // no file yet
+  std::int64_t next_offset = -1;  // below 0 before the first file
   while (true) {
     const Portion portion = ReadPortion(at);
     switch (portion.kind) {

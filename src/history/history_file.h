@@ -13,23 +13,25 @@
 
 namespace golf {
 
-// Writes the content of a new history file. The file is open alone while this lives.
+// Writes a new history file without marks. Keeps the file open exclusively until it is taken or
+// this object is destroyed. Raises errors of the platform.
 class HistoryWriter {
  public:
-  // Makes the file. Errors of the platform.
+  // Creates the file.
   HistoryWriter(HistoryGate& gate, const std::string& path);
 
+  // Writes the title of the run. Must be called first.
   void Run(const RunTitle& title);
   void Group(ChangeGroup group, std::string_view title);
   void File(const HistoryFileEntry& file);
-  // A place of the file that was written last, by rising offsets, with its code.
+  // Writes a place of the last file, with its code. Places must come by rising offsets.
   void Place(const HeldPlace& place, std::string_view code);
   void Report(std::string_view report);
 
-  // Writes what is left, and the title. The content is on the disk afterwards.
+  // Writes the rest of the content and the first block, and syncs the file.
   void Finish();
 
-  // Gives the open file away.
+  // Returns the open file.
   std::unique_ptr<PlatformFile> Take() { return std::move(file_); }
 
  private:
@@ -41,33 +43,37 @@ class HistoryWriter {
   HistoryGate& gate_;
   std::unique_ptr<PlatformFile> file_;
   std::int64_t end_ = kContentStart;
-  std::string pending_;  // portions that follow
+  std::string pending_;  // portions to be written at `end_`
   std::string places_;
   std::string groups_;
   std::int64_t next_offset_ = 0;
   std::uint64_t changes_ = 0;
 };
 
-// A history file that is there. Reads any bytes without harm: DamagedHistory where they are none.
+// Reads an existing history file and writes its marks. Functions that read the content raise
+// DamagedHistory if the bytes are not those of a history file. Any bytes can be read safely.
 class HistoryFile {
  public:
   HistoryFile(std::string path, std::unique_ptr<PlatformFile> file);
 
   const std::string& path() const { return path_; }
 
+  // True if the mark is complete.
   bool Has(HistoryMark mark);
-  // True where the place of the mark is neither empty nor a whole mark.
+  // True if the block of the mark is neither zeros nor a complete mark.
   bool IsTorn(HistoryMark mark);
-  // Whether the file ends inside the marks. The writer makes it whole up to there in one call.
+  // True if the file is not empty, but ends before the content. HistoryWriter makes no such file,
+  // because its first write begins at kContentStart.
   bool IsCutInMarks();
-  // Writes a mark, or takes it away; it is on the disk afterwards.
+  // Put writes a mark, and Clear overwrites it with zeros. Both sync the file.
   void Put(HistoryGate& gate, HistoryMark mark);
   void Clear(HistoryGate& gate, HistoryMark mark);
-  // What was read so far is on the disk afterwards. A process that was killed may have written a
-  // mark that was not synced.
+  // Syncs the file. A mark that was read may not be on the disk yet if the process that wrote it
+  // was killed before the sync.
   void Sync(HistoryGate& gate) { gate.Sync(*file_); }
 
-  // What is told of the content, in its order. A member that is left out is passed over.
+  // Contains the callbacks of Read, which are called in the order of the content. A member may be
+  // null. `parts` says which bytes of a place are read.
   struct Reader {
     std::function<void(const RunTitle&)> run = nullptr;
     std::function<void(ChangeGroup, std::string_view title)> group = nullptr;
@@ -76,13 +82,13 @@ class HistoryFile {
     std::function<void(std::string_view)> report = nullptr;
     PlaceParts parts = PlaceParts::kWhole;
   };
-  // Reads the whole content from the first portion to the last.
+  // Reads the whole content.
   void Read(const Reader& reader);
-  // Reads the title alone.
+  // Reads only the title of the run.
   RunTitle Title();
-  // The number of places and of deleted files. It is read from the end alone.
+  // Returns the number of places and of deleted files. Reads only the end of the file.
   std::int64_t CountChanges();
-  // Whether everything can be read.
+  // True if the whole content can be read.
   bool IsWhole();
 
  private:
@@ -90,7 +96,7 @@ class HistoryFile {
     HistoryPortion kind = HistoryPortion::kEnd;
     std::string bytes;
   };
-  // Reads the portion at `at` and moves on to the next one.
+  // Reads the portion at the offset `at`, and sets `at` to the offset of the next portion.
   Portion ReadPortion(std::int64_t& at);
   RunTitle Title(std::int64_t& at);
   RunTitle TitleOf(const Portion& portion) const;

@@ -14,7 +14,7 @@ constexpr std::string_view kFolder = "transfer-history";
 constexpr std::string_view kEnding = ".run";
 constexpr std::size_t kNumberDigits = 6;
 
-// Takes a number and what follows it off the front of a text.
+// Removes the leading number from a text and returns it. Returns nothing if there is none.
 std::optional<std::int32_t> TakeNumber(std::string_view& text) {
   std::int32_t number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -58,7 +58,7 @@ bool HistoryFolder::Exists() { return gate_.platform().FolderExists(paths_.histo
 
 void HistoryFolder::Make() {
   if (!Exists()) gate_.CreateFolder(paths_.install + std::string(kFolder));
-  // Also where the folder is there: the process that made it may have died before this.
+  // Also syncs if the folder exists: the process that created it may have ended before the sync.
   gate_.SyncFolder(paths_.install);
 }
 
@@ -107,7 +107,7 @@ void HistoryFolder::Forget(const HistoryName& name) {
       gate_.Delete(paths_.history + text);
     }
   }
-  gate_.Delete(Path(name));  // last: without it nobody would find the kept files
+  gate_.Delete(Path(name));  // last, since only its name leads to the kept files
   gate_.SyncFolder(paths_.history);
 }
 

@@ -12,15 +12,15 @@
 
 namespace golf {
 
-// The name of a history file: "000012-20261122-183005.run" for a run, and "-2" before the ending
-// for its second part.
+// Describes the name of a history file: "000012-20261122-183005.run" for the first part of a run,
+// and "000012-20261122-183005-2.run" for the second part.
 struct HistoryName {
-  std::int32_t run = 0;   // the running number
-  std::int32_t part = 1;  // a click may have several
+  std::int32_t run = 0;   // the running number of the run, from 1
+  std::int32_t part = 1;  // the number of the part, from 1
   std::string text;
 };
 
-// The folder of an install in which its history lies.
+// Manages the history files in the history folder of an install. Raises errors of the platform.
 class HistoryFolder {
  public:
   explicit HistoryFolder(Platform& platform);
@@ -29,21 +29,25 @@ class HistoryFolder {
   const HistoryPaths& paths() const { return paths_; }
 
   bool Exists();
-  // Makes the folder where it is not there.
+  // Creates the folder if it does not exist.
   void Make();
 
-  // The history files, by rising running numbers and parts. None where there is no folder.
+  // Returns the history files, by rising running numbers and parts. Returns none if the folder does
+  // not exist.
   std::vector<HistoryName> List();
-  // The name of the next run's file, or of the next part of the last run.
+  // Returns the name for the first part of the next run, or for the next part of the last run if
+  // `continues` is true.
   HistoryName Next(DateValue moment, bool continues);
-  // The name under which a deleted file is kept for a run.
+  // Returns the name under which the history folder keeps a file that the run deletes. `number` is
+  // unique among the deleted files of the run.
   static std::string KeptName(const HistoryName& run, std::size_t number);
 
   std::string Path(const HistoryName& name) const { return paths_.history + name.text; }
-  // Errors of the platform: 70 where another process has it open.
+  // Opens a history file. Raises error 70 if another process has it open exclusively, or has it
+  // open at all if `access` is kAlone.
   std::unique_ptr<HistoryFile> Open(const HistoryName& name, FileAccess access);
 
-  // Deletes a history file and the deleted files that it keeps.
+  // Deletes a history file and the deleted files that are kept for it.
   void Forget(const HistoryName& name);
 
  private:

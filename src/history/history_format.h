@@ -10,61 +10,62 @@
 
 namespace golf {
 
-// The format of a history file, which docs/file-formats.md describes. All numbers are little
-// endian.
+// Describes the format of a history file. docs/file-formats.md documents it. All numbers are
+// little-endian. transactions.h defines the terms.
 
-// The first block has eight places of 512 bytes: the title and a place for each mark. The content
-// follows it.
+// A history file begins with eight blocks of 512 bytes: the title, a block for each mark, and an
+// unused block. The content follows them.
 inline constexpr std::size_t kMarkSize = 512;
 inline constexpr std::int64_t kContentStart = 8 * kMarkSize;
 
-// What has become of a run. Each mark has its own place, so that no mark overwrites another.
+// Lists the marks. The value of a mark is the index of its block, from 0. No mark overwrites
+// another one.
 enum class HistoryMark : std::uint8_t {
-  kCommitted = 1,  // the content is complete: from here on the changes are applied
-  kPutBack = 2,    // applying has failed: the changes are being put back
-  kClosed = 3,     // everything was put back
-  kDone = 4,       // everything was applied
+  kCommitted = 1,  // the content is complete, and applying begins
+  kPutBack = 2,    // applying has failed, and putting back begins
+  kClosed = 3,     // every change was put back
+  kDone = 4,       // every change was applied
   kLeft = 5,       // the operator has left an interrupted run as it is
-  kUndone = 6,     // a later run has put the changes back
+  kUndone = 6,     // the run was undone, but the history has no run that undid it
 };
 inline constexpr int kMarks = 6;
 
-// The kinds of portions of the content. A portion is its kind, its length, the checksum of its kind
-// and its bytes, and the bytes.
+// Lists the kinds of portions of the content. A portion consists of its kind, its length, the
+// checksum of its kind and bytes, and its bytes.
 enum class HistoryPortion : std::uint8_t {
-  kRun = 1,     // what the run was
-  kGroups = 2,  // titles of groups
-  kFile = 3,    // a file; its places follow
+  kRun = 1,     // the RunTitle
+  kGroups = 2,  // numbers and titles of groups
+  kFile = 3,    // a HistoryFileEntry; portions with its places follow
   kPlaces = 4,
   kReport = 5,
   kEnd = 6,
 };
 
-// Raised for a history file that does not say what it was written to say.
+// Reports error 57 for a history file whose content is not as HistoryWriter has written it.
 class DamagedHistory : public NumberedError {
  public:
   explicit DamagedHistory(const std::string& path)
       : NumberedError(ErrorNumber::kDeviceFault, "The history file " + path + " is damaged.") {}
 };
 
-// What a run was, as the history tells it.
+// Describes a run in the history.
 struct RunTitle {
   DateValue moment = 0;
-  std::string command = {};  // "golfers-kv-to-qb"
-  std::string about = {};    // "CLUB18, roster 3"
-  std::int32_t undoes = 0;   // the running number of the run that this one puts back; 0 for none
-  bool continues = false;    // a further part of the run before it with the same number
+  std::string command = {};  // such as "golfers-kv-to-qb"
+  std::string about = {};    // such as "CLUB18, roster 3"
+  std::int32_t undoes = 0;   // the running number of the run that this run puts back; 0 for none
+  bool continues = false;    // true for the second and later parts of a run
 };
 
 enum class FileFate : std::uint8_t { kChanged = 0, kCreated = 1, kDeleted = 2 };
 
-// A file in a history file.
+// Describes a file that a run changes, creates or deletes.
 struct HistoryFileEntry {
   FileFate fate = FileFate::kChanged;
-  std::string path;             // below the install folder, with "/"
-  std::int64_t old_length = 0;  // bytes
+  std::string path;             // relative to the install folder, with "/"
+  std::int64_t old_length = 0;  // in bytes, before the run
   std::int64_t new_length = 0;
-  std::string kept_as;  // the name of a deleted file in the history folder
+  std::string kept_as;  // the name of a deleted file in the history folder; empty for other files
 };
 
 }  // namespace golf

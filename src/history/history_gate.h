@@ -7,8 +7,7 @@
 
 namespace golf {
 
-// The one place through which transactions, recovery and undo change files. Errors as the platform
-// raises them.
+// Makes every file change of src/history. Raises errors of the platform.
 class HistoryGate {
  public:
   explicit HistoryGate(Platform& platform) : platform_(platform) {}

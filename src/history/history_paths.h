@@ -5,17 +5,18 @@
 
 namespace golf {
 
-// The folders of an install that the history uses. Each ends in a separator.
+// Contains the folders of an install that the history uses. Each ends in a separator.
 struct HistoryPaths {
   std::string install;
   std::string history;
   char separator = '/';
 
-  // Converts the name of a file in the history, which has "/" between folders, to its path.
+  // Converts the name of a file in the history to its path. A name is relative to the install
+  // folder and has "/" between folders.
   std::string Path(std::string_view name) const;
   // Converts a path to a name in the history.
   std::string Name(std::string_view path) const;
-  // The folder of a path, with its separator.
+  // Returns the folder of a path, with the separator at its end.
   std::string FolderOf(std::string_view path) const;
 };
 

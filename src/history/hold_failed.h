@@ -6,9 +6,10 @@
 
 namespace golf {
 
-// The changes of a run cannot be held: there is no room for them, or the bytes that a change
-// replaces cannot be read. The run ends and nothing has changed. No run carries on over it, since
-// the changes that belong to the lost one would be made without it. So it is no NumberedError.
+// Reports that a change cannot be held, because there is no space for it or because the bytes that
+// it replaces cannot be read. It ends the run, and no file has changed. It is not a NumberedError,
+// since a run continues after some numbered errors and would then commit its other changes without
+// this one.
 class HoldFailed : public std::runtime_error {
  public:
   explicit HoldFailed(const NumberedError& cause)
@@ -20,7 +21,7 @@ class HoldFailed : public std::runtime_error {
   NumberedError cause_;
 };
 
-// Runs a statement on which holding depends.
+// Runs a statement. Raises HoldFailed if the statement raises a numbered error.
 template <class Statement>
 auto OrHoldFailed(Statement&& statement) {
   try {

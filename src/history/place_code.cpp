@@ -6,7 +6,7 @@
 namespace golf {
 namespace {
 
-// A shorter run of one byte is not worth its own operation.
+// The fewest equal bytes that get a fill operation.
 constexpr std::size_t kShortestFill = 8;
 
 void AppendCode(std::string& to, PlaceCode code, std::size_t count) {
@@ -14,12 +14,12 @@ void AppendCode(std::string& to, PlaceCode code, std::size_t count) {
   AppendNumber(to, count);
 }
 
-// How many bytes from `at` on are the same byte.
+// Returns the number of bytes from `at` on that equal the byte at `at`.
 std::size_t FillLength(std::string_view bytes, std::size_t at) {
   const char first = bytes[at];
   std::size_t end = at + 1;
   if (end == bytes.size() || bytes[end] != first) return 1;
-  // A stretch that equals itself one byte later is one byte all along.
+  // All bytes of a range are equal if the range equals itself moved by one byte.
   constexpr std::size_t kStretch = 64;
   while (end + kStretch <= bytes.size() &&
          std::memcmp(bytes.data() + end, bytes.data() + end - 1, kStretch) == 0) {
@@ -29,7 +29,7 @@ std::size_t FillLength(std::string_view bytes, std::size_t at) {
   return end - at;
 }
 
-// Codes bytes that both sides have, or only one.
+// Codes bytes that do not change, or that only the longer side has.
 void AppendBytes(std::string& to, std::string_view bytes, PlaceCode plain, PlaceCode filled) {
   std::size_t literal = 0;
   const auto flush = [&](std::size_t end) {
@@ -50,7 +50,7 @@ void AppendBytes(std::string& to, std::string_view bytes, PlaceCode plain, Place
   flush(bytes.size());
 }
 
-// Codes bytes of which all differ.
+// Codes bytes that all change.
 void AppendPair(std::string& to, std::string_view old_bytes, std::string_view new_bytes) {
   std::size_t literal = 0;
   const auto flush = [&](std::size_t end) {
@@ -73,7 +73,8 @@ void AppendPair(std::string& to, std::string_view old_bytes, std::string_view ne
   flush(old_bytes.size());
 }
 
-// The end of the bytes from `at` on that are equal, or differ, on both sides.
+// Both functions return the end of the range from `at` on in which all bytes of `a` and `b` are
+// equal, or all are different.
 std::size_t EndOfEqual(std::string_view a, std::string_view b, std::size_t at) {
   constexpr std::size_t kWord = sizeof(std::uint64_t);
   while (at + kWord <= a.size() && std::memcmp(a.data() + at, b.data() + at, kWord) == 0) {

@@ -8,59 +8,61 @@
 
 namespace golf {
 
-// The number of a group of changes that belong together: a golfer with all his records, a course, a
-// roster. Group 0 is the run as a whole.
+// Identifies a group, for example a golfer with all his records. Group 0 is the run as a whole.
+// transactions.h defines the terms.
 using ChangeGroup = std::uint32_t;
 
-// Bytes of a place that follow each other and that all change.
+// Describes a range of bytes of a place that all change.
 struct ChangedBytes {
-  std::size_t at = 0;  // in the place
+  std::size_t at = 0;  // index in the place, from 0
   std::size_t size = 0;
 
   std::size_t End() const { return at + size; }
 };
 
-// Bytes of a file, usually a record, before and after a run: whole, with those that do not change.
+// Contains the old and the new bytes of a place, including bytes that do not change.
 struct HistoryPlace {
-  std::int64_t offset = 0;  // in the file
+  std::int64_t offset = 0;  // of the first byte in the file
   ChangeGroup group = 0;
-  std::string old_bytes;              // fewer than new ones where the file ended there
-  std::string new_bytes;              // fewer than old ones where the file is cut there
+  std::string old_bytes;              // shorter than `new_bytes` if the file ended in the place
+  std::string new_bytes;              // shorter than `old_bytes` if the file is truncated there
   std::vector<ChangedBytes> changed;  // by rising positions
 
   std::int64_t End() const {
     return offset + static_cast<std::int64_t>(std::max(old_bytes.size(), new_bytes.size()));
   }
-  // The range from the first changed byte to the last one, in the place. At least one byte changes.
+  // Both functions describe the range from the first changed byte of the place to the last one.
+  // `changed` must not be empty.
   std::size_t FirstChanged() const { return changed.front().at; }
   std::size_t ChangedSize() const { return changed.back().End() - changed.front().at; }
 };
 
-// The operations over the bytes of a place that its code is made of. docs/file-formats.md describes
-// them.
+// Lists the operations of which the code of a place consists. docs/file-formats.md documents them.
+// Each comment lists the operands.
 enum class PlaceCode : std::uint8_t {
   kSame = 0,      // count, bytes that do not change
-  kSameFill = 1,  // count, byte: it stands `count` times
+  kSameFill = 1,  // count, one byte that is repeated and does not change
   kPair = 2,      // count, old bytes, new bytes
-  kPairFill = 3,  // count, old byte, new byte
+  kPairFill = 3,  // count, old byte, new byte; each is repeated
   kOne = 4,       // count, bytes that only the longer side has
-  kOneFill = 5,   // count, byte
+  kOneFill = 5,   // count, one such byte that is repeated
 };
 
 // Appends a number in groups of seven bits, the lowest first.
 void AppendNumber(std::string& to, std::uint64_t number);
-// Appends the length of a text, and the text.
+// Appends the length of a text in bytes, then the text.
 void AppendText(std::string& to, std::string_view text);
 
-// Appends the code of a place. Nothing is appended, and false is returned, where nothing changes.
+// Appends the code of a place. Appends nothing and returns false if the old and new bytes are
+// equal.
 bool AppendPlace(std::string& to, std::string_view old_bytes, std::string_view new_bytes);
 
-// What is read of a place: all of its bytes, or only those that change. The others have no meaning
-// then.
+// Says which bytes of a place are read: all bytes, or only those that change. With kChanged the
+// other bytes are undefined.
 enum class PlaceParts { kWhole, kChanged };
 
-// Reads what was coded, and checks every length. A reader that has failed stays failed: it gives
-// zeros and empty texts.
+// Decodes numbers, texts and places, and checks every length. After a failure it returns only zeros
+// and empty texts.
 class CodeReader {
  public:
   explicit CodeReader(std::string_view bytes) : rest_(bytes) {}
@@ -69,11 +71,13 @@ class CodeReader {
   bool AtEnd() const { return rest_.empty(); }
 
   std::uint64_t Number();
-  // A number that may not be above `most`.
+  // Returns a number, and fails if it is above `most`.
   std::uint64_t Number(std::uint64_t most);
   std::string_view Text();
+  // Returns the next `size` bytes.
   std::string_view Take(std::size_t size);
-  // The bytes of a place of these sizes.
+  // Decodes the bytes of a place of these sizes into `into`. Both sizes are in bytes. Leaves the
+  // offset and the group of `into` unchanged.
   void Place(std::size_t old_size, std::size_t new_size, PlaceParts parts, HistoryPlace& into);
 
  private:

@@ -6,7 +6,8 @@
 namespace golf {
 namespace {
 
-// Whether the byte at `at` of a place is the one that `side`, its old or new bytes, has there.
+// True if the file has the byte of `side` at the index `at` of a place. `side` is the old or the
+// new bytes of the place. `first` is the index at which `now` begins.
 bool IsByteOf(std::string_view side, std::string_view now, std::size_t first, std::size_t at) {
   if (at - first >= now.size()) return at >= side.size();
   return now[at - first] == (at < side.size() ? side[at] : '\0');

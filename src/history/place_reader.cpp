@@ -23,7 +23,7 @@ std::string_view PlaceReader::Read(std::int64_t offset, std::size_t size) {
       Fill(std::max(size, ahead_));
     } catch (const NumberedError&) {
       if (ahead_ <= size) throw;
-      Fill(size);  // the bytes behind the place may be the ones that cannot be read
+      Fill(size);  // perhaps only bytes behind the place cannot be read
     }
   }
   last_end_ = offset + static_cast<std::int64_t>(size);

@@ -6,7 +6,7 @@
 namespace golf {
 namespace {
 
-// Tells of the changes of each record.
+// Converts the places of a run to changes of records, and calls `each` for them.
 class ChangeTeller {
  public:
   ChangeTeller(const RecordKinds& kinds, const std::function<void(const RecordChange&)>& each)
@@ -68,7 +68,7 @@ class ChangeTeller {
   const std::function<void(const RecordChange&)>& each_;
   RecordParts parts_;
   std::map<ChangeGroup, std::string> groups_;
-  RecordChange change_;  // of the file in hand
+  RecordChange change_;  // the values that all changes of the current file share
 };
 
 }  // namespace

@@ -16,30 +16,31 @@ namespace golf {
 
 enum class ChangeKind { kAdded, kChanged, kRemoved, kFileCreated, kFileDeleted, kTextReplaced };
 
-// "added", "changed", "removed", "file-created", "file-deleted", "text-replaced".
+// Returns "added", "changed", "removed", "file-created", "file-deleted" or "text-replaced".
 std::string_view NameOf(ChangeKind kind);
 
-// A change as it is shown to people: of one record, or of a whole file.
+// Describes a change of one record or of a whole file, as it is shown to people.
 struct RecordChange {
   ChangeKind kind = ChangeKind::kChanged;
-  std::string file = {};    // below the install folder, with "/"
+  std::string file = {};    // relative to the install folder, with "/"
   std::int64_t record = 0;  // from 1; 0 for a whole file
-  std::string title = {};   // the record's, or that of its group
+  std::string title = {};   // the title of the record or of its group
   std::optional<LayoutInfo> layout = {};
-  // The whole record before and after; empty where there was none.
+  // The whole record before and after the run. Empty if it did not exist.
   std::string old_bytes = {};
   std::string new_bytes = {};
 };
 
-// Tells of a run's changes in the order of its history file: each file, and in it each record.
+// Calls `each` for the changes of a run, in the order of its history file: for each file, then for
+// each of its records. Raises DamagedHistory if the history file is damaged.
 void ForEachChange(HistoryFile& history, const RecordKinds& kinds,
                    const std::function<void(const RecordChange&)>& each);
 
-// The same of changes that are held, as their history file will tell of them.
+// Does the same for held changes. Raises HoldFailed if they cannot be read.
 void ForEachChange(HeldChanges& changes, const HistoryPaths& paths, const RecordKinds& kinds,
                    const std::function<void(const RecordChange&)>& each);
 
-// The name of a file without its folder.
+// Returns the name of a file without its folder.
 std::string_view FileNameOf(std::string_view file);
 
 }  // namespace golf

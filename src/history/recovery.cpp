@@ -7,7 +7,8 @@
 namespace golf {
 namespace {
 
-// True if a history file that others have open needs no recovery.
+// True if a history file that another process has open needs no recovery: its run has ended, or the
+// process that runs it still writes the file.
 bool IsEndedOrWritten(HistoryFolder& folder, const HistoryName& name) {
   try {
     return HasEnded(StageOf(*folder.Open(name, FileAccess::kReadOnly)));
@@ -17,8 +18,8 @@ bool IsEndedOrWritten(HistoryFolder& folder, const HistoryName& name) {
   }
 }
 
-// Opens the history file of a run for recovery. Returns null if it needs none now: nobody can read
-// the file of a writer that is at work. Error 70 if others read the file of an unfinished run.
+// Opens the history file of a run exclusively. Returns null if it needs no recovery. Raises error
+// 70 if another process has the history file of an interrupted run open.
 std::unique_ptr<HistoryFile> OpenAlone(HistoryFolder& folder, const HistoryName& name) {
   try {
     return folder.Open(name, FileAccess::kAlone);
@@ -33,7 +34,7 @@ std::string Named(const RunTitle& title) {
          (title.about.empty() ? std::string() : " (" + title.about + ")");
 }
 
-// Finishes or puts back one run that was interrupted.
+// Finishes an interrupted run or puts it back.
 class RunRecovery {
  public:
   RunRecovery(HistoryFolder& folder, HistoryFile& history, RecoveryChoice choice,
@@ -44,14 +45,15 @@ class RunRecovery {
         choice_(choice),
         recovery_(recovery) {}
 
-  // True if the run has not begun to be applied, although its mark may be torn.
+  // True if no change of the run was applied. The mark kCommitted may be incomplete, so this
+  // function compares the files.
   bool IsNeverApplied(RunStage stage) {
     if (stage == RunStage::kNeverApplied) return true;
     const bool to_do = stage == RunStage::kToBeFinished || stage == RunStage::kToBePutBack;
     return to_do && !history_.Has(HistoryMark::kCommitted) && IsAllOld(files_, history_);
   }
 
-  // The operator must decide about a run whose history is damaged.
+  // Recovers a run whose history file is damaged, which the operator must decide.
   void RecoverDamaged() {
     const std::string damaged = DamagedHistory(history_.path()).description();
     if (choice_ != RecoveryChoice::kLeave) {
@@ -95,14 +97,14 @@ class RunRecovery {
     recovery_.stuck_text = std::move(text);
   }
 
-  // The marks must be on the disk before a file is changed, since a crash may come again. They are
-  // written anew: a mark that the interrupted process has written may never have reached the disk.
+  // Writes the marks before a file is changed, since another crash may follow. Writes existing
+  // marks again, since the interrupted process may not have synced them.
   void WriteMarks(Direction direction) {
     history_.Put(gate_, HistoryMark::kCommitted);
     if (direction == Direction::kBack) {
       history_.Put(gate_, HistoryMark::kPutBack);
     } else if (history_.Has(HistoryMark::kPutBack)) {
-      history_.Clear(gate_, HistoryMark::kDone);  // of before the putting back
+      history_.Clear(gate_, HistoryMark::kDone);  // if it was written before kPutBack
       history_.Clear(gate_, HistoryMark::kPutBack);
     }
   }
@@ -125,7 +127,8 @@ Recovery Transactions::Recover(RecoveryChoice choice) {
     if (history == nullptr) continue;
     const RunStage stage = StageOf(*history);
     if (HasEnded(stage)) {
-      // The mark must outlast the runs that follow. Only that of the last run may not be synced.
+      // The mark must be on the disk before the next run. Only the mark of the last run may not be
+      // synced yet.
       if (&name == &names.back()) history->Sync(folder_.gate());
       continue;
     }
@@ -148,7 +151,7 @@ bool Transactions::IsUnfinished() {
       const RunStage stage = StageOf(*folder_.Open(name, FileAccess::kReadOnly));
       if (!HasEnded(stage) && stage != RunStage::kNeverApplied) return true;
     } catch (const NumberedError&) {
-      // A file that is open elsewhere belongs to a run that is at work.
+      // Another process has the file open, since its run is still in progress.
     }
   }
   return false;

@@ -10,10 +10,10 @@
 
 namespace golf {
 
-// The siblings' files that a run changes, on the disk.
+// Opens the files that a run changes.
 class RunFiles {
  public:
-  // Returns a file that is open already, or null.
+  // Returns a file that is already open, or null.
   using OpenFile = std::function<std::shared_ptr<PlatformFile>(const std::string& path)>;
 
   RunFiles(HistoryGate& gate, HistoryPaths paths, OpenFile open = nullptr)
@@ -26,11 +26,11 @@ class RunFiles {
   std::shared_ptr<PlatformFile> Open(const std::string& path);
   bool Exists(const std::string& path);
 
-  // The path under which the history keeps a file that the run has deleted.
+  // Returns the path at which the history keeps a file that the run deletes.
   std::string KeptPath(const HistoryFileEntry& entry) const {
     return paths_.history + entry.kept_as;
   }
-  // True if the run's deletion of the file has been carried out.
+  // True if the deletion of the file was applied.
   bool IsKept(const HistoryFileEntry& entry) { return Exists(KeptPath(entry)); }
 
  private:

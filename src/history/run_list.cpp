@@ -9,7 +9,8 @@
 namespace golf {
 namespace {
 
-// The newest undo decides: a run whose undo was undone is done again.
+// Sets the state of the runs that were put back. An undo that was undone itself does not count, so
+// its run is done again.
 void FindUndone(std::vector<HistoryRun>& newest_first) {
   std::set<std::int32_t> undone;
   for (HistoryRun& run : newest_first) {
@@ -79,7 +80,8 @@ void ForgetRun(HistoryFolder& folder, const KeptRuns& list, const HistoryRun& ru
                               undone.state == RunState::kUndone && run.state == RunState::kDone;
     if (stays_undone) MarkUndone(folder, undone);
   }
-  // The last part first: what is left after an error is a run that begins with its first part.
+  // Removes the last part first, so that after an error the remaining parts still begin with the
+  // first one.
   for (auto part = run.parts.rbegin(); part != run.parts.rend(); ++part) folder.Forget(*part);
 }
 

@@ -11,36 +11,38 @@ namespace golf {
 
 enum class RunState { kDone, kUndone, kInterrupted, kLeft };
 
-// "done", "undone", "interrupted", "left".
+// Returns "done", "undone", "interrupted" or "left".
 std::string_view NameOf(RunState state);
 
-// A run that the history keeps.
+// Describes a run in the history.
 struct HistoryRun {
-  std::int32_t number = 0;   // 1 is the newest
-  std::int32_t run = 0;      // the running number, which stays
-  RunTitle title;            // of its first part
-  std::int64_t changes = 0;  // records and whole files
+  std::int32_t number = 0;   // position in the list; 1 is the newest run
+  std::int32_t run = 0;      // the running number, which never changes
+  RunTitle title;            // the title of the first part
+  std::int64_t changes = 0;  // number of changed places and deleted files
   RunState state = RunState::kDone;
-  std::vector<HistoryName> parts;  // in their order
+  std::vector<HistoryName> parts;  // in the order of their numbers
 
   bool IsUndo() const { return title.undoes != 0; }
 };
 
 struct KeptRuns {
   std::vector<HistoryRun> runs;      // the newest first
-  std::vector<std::string> damaged;  // sentences about files that cannot be read
+  std::vector<std::string> damaged;  // one sentence for each damaged history file
 };
 
-// Reads the titles of the runs that are kept. A run that was put back, or never applied, is left
-// out. Changes nothing. Files that another process writes are left out as well.
+// Lists the runs in the history. Leaves out parts that were put back or never applied, and history
+// files that another process has open exclusively. Changes nothing.
 KeptRuns ListRuns(HistoryFolder& folder);
 
-// Notes that a run is as undone, although no run of the history has put it back.
+// Marks a run as undone, if no run in the history has put it back. Raises error 70 if another
+// process has its history file open.
 void MarkUndone(HistoryFolder& folder, const HistoryRun& run);
 
-// Removes a run from the history, for good. A run that it has put back stays undone.
+// Removes a run from the history permanently. If it has put another run of `list` back, that run is
+// marked as undone.
 void ForgetRun(HistoryFolder& folder, const KeptRuns& list, const HistoryRun& run);
-// Removes everything, damaged files as well. None may be unfinished.
+// Removes all runs from the history, including damaged history files. No run may be interrupted.
 void ForgetAllRuns(HistoryFolder& folder);
 
 }  // namespace golf

@@ -4,18 +4,19 @@
 
 namespace golf {
 
-// How far a run has got, by the marks of its history file.
+// Says how far a part of a run was applied, according to the marks of its history file.
 enum class RunStage {
-  kNeverApplied,  // no file has been changed
-  kToBeFinished,  // interrupted: its changes must be applied
-  kToBePutBack,   // interrupted: its changes must be put back
-  kDamaged,       // the history file does not say what the run has changed
+  kNeverApplied,  // no change was applied
+  kToBeFinished,  // interrupted; its changes must be applied
+  kToBePutBack,   // interrupted; its changes must be put back
+  kDamaged,       // interrupted; its history file is damaged
   kDone,          // every change was applied
   kClosed,        // every change was put back
   kLeft,          // the operator has left an interrupted run as it is
 };
 
-// Reads the whole history file of a run that has not ended. Raises errors of the platform only.
+// Returns the stage. Reads the whole history file if the run was interrupted. Raises errors of the
+// platform, but not DamagedHistory.
 RunStage StageOf(HistoryFile& history);
 
 // True if nothing remains to be done about the run.

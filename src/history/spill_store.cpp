@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kBlock = std::size_t{1} << 20;
 constexpr std::size_t kTail = std::size_t{256} << 10;
-// Places in the scratch file lie above all places in memory.
+// Positions from this number on are in the scratch file. Lower positions are in memory.
 constexpr std::int64_t kScratch = std::int64_t{1} << 40;
 
 }  // namespace

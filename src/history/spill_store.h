@@ -11,17 +11,18 @@
 
 namespace golf {
 
-// Keeps pieces of bytes: the first ones in memory, all others in a scratch file. Raises HoldFailed
-// where the scratch file cannot be made, written or read.
+// Stores strings of bytes. Keeps the first ones in memory and all others in a scratch file. Raises
+// HoldFailed if the scratch file cannot be opened, written or read.
 class SpillStore {
  public:
-  // Bytes. With the index of the pieces it is 32 MiB for 300,000 golfers.
+  // Limits the memory for the strings, in bytes. With its HeldPlace index, a run over 300,000
+  // golfers then needs 32 MiB.
   static constexpr std::size_t kMemory = std::size_t{20} << 20;
 
   explicit SpillStore(Platform& platform, std::size_t memory = kMemory)
       : gate_(platform), memory_(memory) {}
 
-  // Returns the place of the piece in the store.
+  // Returns the position at which Read finds the bytes.
   std::int64_t Append(std::string_view bytes);
   void Read(std::int64_t place, std::span<char> into);
 
@@ -33,8 +34,8 @@ class SpillStore {
   std::vector<std::unique_ptr<char[]>> blocks_;
   std::size_t in_memory_ = 0;  // bytes
   std::unique_ptr<PlatformFile> scratch_;
-  std::int64_t in_scratch_ = 0;  // bytes that were written to it
-  std::string tail_;             // follows them
+  std::int64_t in_scratch_ = 0;  // number of bytes written to `scratch_`
+  std::string tail_;             // bytes to be written behind them
 };
 
 }  // namespace golf

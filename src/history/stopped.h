@@ -4,13 +4,14 @@
 
 namespace golf {
 
-// The operator or the system has asked the program to end during a run. It ends the run: nothing
-// has changed. It is no NumberedError, so no run carries on over it.
+// Reports that the operator or the system has requested the process to end during a run. It ends
+// the run, and no file has changed. It is not a NumberedError, since a run continues after some
+// numbered errors.
 class Stopped : public std::exception {
  public:
   explicit Stopped(int signal) : signal_(signal) {}
 
-  // The system's number of the signal; 0 for a request of another kind.
+  // Returns the system's number of the signal, or 0 for another kind of request.
   int signal() const { return signal_; }
   const char* what() const noexcept override { return "The run was stopped. Nothing has changed."; }
 

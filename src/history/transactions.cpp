@@ -23,7 +23,7 @@ bool HasNetChange(const HeldChanges& changes) {
                      [](const auto& file) { return file->HasNetChange(); });
 }
 
-// Applying has failed, and so has putting back.
+// Reports that applying a run has failed, and that putting it back has failed, too.
 class RunInterrupted : public NumberedError {
  public:
   explicit RunInterrupted(const NumberedError& cause)
@@ -72,7 +72,7 @@ void Transactions::EndClick() {
 }
 
 void Transactions::CheckStopped() {
-  // Once a part of the run is committed, the others are finished as well.
+  // The remaining parts of a run are finished after its first commit.
   if (stops_ == nullptr || stops_->Signal() == 0 || committed_in_click_ != 0) return;
   stop_raised_ = true;
   throw Stopped(stops_->Signal());
@@ -123,7 +123,8 @@ std::int32_t Transactions::CommitChanges(HeldChanges& changes, std::string_view 
   return name.run;
 }
 
-// Nothing is applied before the history file is complete and on the disk.
+// Writes the history file and syncs it. Raises error 70 if another program has changed the files.
+// Deletes the history file after an error.
 std::unique_ptr<HistoryFile> Transactions::WriteHistory(const HistoryName& name,
                                                         HeldChanges& changes,
                                                         std::string_view report) {
@@ -146,7 +147,7 @@ std::unique_ptr<HistoryFile> Transactions::WriteHistory(const HistoryName& name,
   }
 }
 
-// Writes what the run has changed, net.
+// Writes the content of the history file.
 void Transactions::WriteContent(HistoryWriter& writer, const HistoryName& name,
                                 HeldChanges& changes, std::string_view report) {
   writer.Run(title_);
@@ -166,7 +167,7 @@ void Transactions::WriteContent(HistoryWriter& writer, const HistoryName& name,
   writer.Finish();
 }
 
-// Each path must still name the file whose changes are held.
+// Raises error 70 if a path no longer belongs to the file whose changes are held.
 void Transactions::CheckPaths(const HeldChanges& changes) {
   const auto identity = [&](const std::string& path) -> std::optional<FileIdentity> {
     const auto file = OpenIfExists(held_.real(), path, FileAccess::kReadOnly);
@@ -184,7 +185,8 @@ void Transactions::CheckPaths(const HeldChanges& changes) {
   }
 }
 
-// From the mark on, a crash leaves a run that recovery finishes. An error puts everything back.
+// Applies the changes, or puts them back after an error. If the process crashes after the mark
+// kCommitted is written, recovery finishes the run.
 void Transactions::Apply(HistoryFile& history, HeldChanges& changes) {
   RunFiles files(folder_.gate(), folder_.paths(), [&](const std::string& path) {
     const auto file =
@@ -207,15 +209,15 @@ void Transactions::Apply(HistoryFile& history, HeldChanges& changes) {
   }
 }
 
-// The file of a run that has not begun to be applied. It may stay where it cannot be deleted:
-// without a mark it means nothing.
+// Deletes the history file of a run that was not applied. Ignores errors, since a history file
+// without marks has no effect.
 void Transactions::Discard(std::unique_ptr<HistoryFile> history, const HistoryName& name) {
   history.reset();
   const ResumeNext anyway(nullptr);
   anyway([&] { folder_.gate().Delete(folder_.Path(name)); });
 }
 
-// Runs that are old, or many, go. One that is unfinished stays.
+// Removes runs that are too old or too many. Does not remove interrupted runs. Ignores errors.
 void Transactions::Prune() {
   const ResumeNext anyway(nullptr);
   anyway([&] {

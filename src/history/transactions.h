@@ -12,73 +12,101 @@
 
 namespace golf {
 
-// A commit has failed. Nothing has changed, or recovery puts it back. No run carries on over it.
+// The comments in src/history use these terms:
+// - A run is one action of the operator that changes files, such as a transfer or an undo. It has
+//   one or more transactions.
+// - A transaction applies all of its changes or none of them.
+// - A part is one committed transaction of a run. Each part has its own history file.
+// - A place is a range of bytes of a file that a run changes, usually a record. Its old bytes are
+//   those before the run. Its new bytes are those after the run.
+// - A group is a set of changes that belong to one golfer, course or roster.
+// - A held change is stored in memory or in a scratch file until the commit.
+// - To commit is to write the held changes into a history file and then to apply them. To apply
+//   them is to write them into the files.
+// - A mark is a block of a history file that records a step of the commit or of the recovery.
+// - To put back is to roll back: to restore the old bytes, lengths and names of files.
+// - A conflict is a place, record or file that must be left unchanged, because another program or a
+//   later run has changed it or refers to it.
+// - A run is interrupted if a crash or an error ended it after the beginning of its commit and
+//   before its end.
+
+// Reports that a commit has failed. No file has changed if interrupted() is false. A run must not
+// continue after this error, although it is a NumberedError.
 class CommitFailed : public NumberedError {
  public:
   CommitFailed(const NumberedError& cause, bool interrupted)
       : NumberedError(cause), interrupted_(interrupted) {}
 
-  // Whether putting back has failed, too. Recovery must come before another commit then.
+  // True if putting back has failed, too. Recover must then be called before the next commit.
   bool interrupted() const { return interrupted_; }
 
  private:
   bool interrupted_;
 };
 
-// What became of runs that a crash, a power cut or a kill has interrupted.
+// Reports what Recover has done with interrupted runs.
 struct Recovery {
-  std::vector<std::string> finished;  // sentences for the operator, one for each run
-  bool stuck = false;                 // whether the operator must decide about a run
-  std::string stuck_text = {};        // and why
+  std::vector<std::string> finished;  // one sentence for each run that was recovered or left
+  bool stuck = false;                 // true if the operator must decide about a run
+  std::string stuck_text = {};        // the reason, as a sentence
 };
 
+// Says how to recover a run that has conflicts. With kByItself, Recover changes nothing in such a
+// run and reports that the operator must decide. If the history file is damaged, only kLeave has an
+// effect.
 enum class RecoveryChoice { kByItself, kFinish, kPutBack, kLeave };
 
-// Makes each run that changes files a transaction: it happens whole or not at all. A run's changes
-// are held until the run commits. The commit writes them into the history first, then into the
-// files, so that a crash at any moment can be recovered from.
+// Executes the transactions of runs. Holds the changes of a transaction until its commit. The
+// commit writes them into the history first, then into the files, so that recovery is possible
+// after a crash at any moment.
 class Transactions {
  public:
-  // `now` is the present moment, for the names of history files.
+  // `now` returns the present date and time, which the names of history files contain.
   Transactions(HeldPlatform& held, std::function<DateValue()> now);
 
   HistoryFolder& history() { return folder_; }
   HeldPlatform& held() { return held_; }
 
-  // A click that changes files begins. It may have several transactions, which are parts of one run
-  // in the history. Requests to end the process are noted until the click ends; one that came after
-  // the last commit raises Stopped here.
+  // Begins a click, which is an event of the operator that changes files. All transactions until
+  // EndClick are parts of one run. Requests to end the process are recorded until EndClick. Raises
+  // Stopped if such a request arrived in the click before, but was too late to stop it.
   void BeginClick();
-  // What is still held is dropped.
+  // Ends the click. Drops changes that are still held.
   void EndClick();
-  // Raises Stopped where the process is to end. Called at each change and at each step of a run.
+  // Raises Stopped if the process is requested to end and no transaction of the click was committed
+  // yet. Is called before each change and at each step of a run.
   void CheckStopped();
 
-  // From now on every change of the program is held, and none is ever applied: a dry run. A commit
-  // says that it is done, and later runs read the changes of the ones before. Interrupted runs
-  // stay.
+  // Begins a dry run, which lasts until the process ends. All changes are held and none is applied.
+  // Commit only calls CheckStopped and returns 0. Later runs read the changes of earlier ones.
+  // Recover does nothing.
   void HoldForGood();
   bool IsDryRun() const { return dry_run_; }
 
-  // Begins to hold. Changes that were held before are dropped, but not in a dry run.
+  // Begins a transaction. Drops changes that were held before, except in a dry run.
   void Begin(RunTitle title);
   bool IsOpen() const { return held_.held() != nullptr; }
-  // The changes that follow belong to one golfer, course or roster.
+  // Begins a group for the following changes. They belong to the run as a whole if `title` is
+  // empty.
   void BeginGroup(std::string_view title);
 
-  // Applies what is held. Returns the running number of the run in the history, or 0 where nothing
-  // changes. CommitFailed means that nothing has changed and that everything is held as before; its
-  // error is 70 where another program has changed the files.
+  // Commits the held changes. Returns the running number of the run in the history, or 0 if nothing
+  // changes. Raises CommitFailed if the commit fails. The changes are still held then. Its number
+  // is 70 if another program has changed the files. Raises HoldFailed if the held changes cannot be
+  // read, and Stopped like CheckStopped.
   std::int32_t Commit(std::string_view report);
+  // Drops the held changes, except in a dry run.
   void Drop();
 
-  // The running number of the last run that was committed; 0 for none.
+  // Returns the running number of the last run that was committed, or 0 if there is none.
   std::int32_t last_committed() const { return last_committed_; }
 
-  // Finishes, or puts back, what was interrupted. Comes before anything that changes files, under
-  // the run lock. A choice is for a run that cannot be finished by itself.
+  // Finishes interrupted runs, or puts them back. The caller must hold the lock of LockRun and must
+  // not have changed files yet. Raises error 70 if another process has the history file of an
+  // interrupted run open.
   Recovery Recover(RecoveryChoice choice = RecoveryChoice::kByItself);
-  // Whether a run is unfinished. Changes nothing.
+  // True if a run is interrupted. Changes nothing. Ignores history files that cannot be opened or
+  // read.
   bool IsUnfinished();
 
  private:
@@ -101,11 +129,11 @@ class Transactions {
   std::unique_ptr<StopWatch> stops_;
   bool dry_run_ = false;
   bool stop_raised_ = false;
-  int missed_signal_ = 0;  // that came when the run could not be stopped any more
+  int missed_signal_ = 0;  // a request that came too late to stop a run; 0 for none
 };
 
-// Runs a statement of an open transaction, then commits. What the statement has changed before a
-// numbered error is committed as well, and the error is raised again.
+// Runs a statement in an open transaction, then commits. If the statement raises a numbered error,
+// commits the changes that it has made before, and raises the error again.
 template <class Statement, class Commit>
 void RunAndCommit(const Statement& statement, const Commit& commit) {
   try {

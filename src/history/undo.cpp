@@ -20,17 +20,18 @@ std::string Filled(std::string bytes, std::size_t length) {
   return bytes;
 }
 
-// A record before the run, as the run has left it, and now. Each has its full length; missing bytes
-// are zeros.
+// Contains a record before the run, as the run has written it, and as it is now. Each string has
+// the full length. Missing bytes are zeros.
 struct Sides {
   std::string old_bytes;
   std::string written;
   std::string found;
-  bool is_added = false;  // nobody lived in the record before the run
+  bool is_added = false;  // the record was free before the run
 };
 
-// What was changed since the run: of an added record anything, of another one what the run has
-// changed. A field is compared as a whole, so that none is made of two halves.
+// Returns the elements that were changed since the run. An element that has its old value again
+// does not count. Compares all elements of an added record, and of another record those that the
+// run has changed. Compares whole elements, so that the undo never mixes bytes of two values.
 std::vector<FieldElement> ChangedSince(const LayoutInfo& layout, const Sides& sides) {
   std::vector<FieldElement> changed;
   for (const Field& field : layout.fields) {
@@ -46,17 +47,17 @@ std::vector<FieldElement> ChangedSince(const LayoutInfo& layout, const Sides& si
   return changed;
 }
 
-// A record by its file and number; number 0 is the file as a whole.
+// Identifies a record by its file and number, from 1. Number 0 is the whole file.
 using Unit = std::pair<std::string, std::int64_t>;
 
-// What the parts of a run know of each other.
+// Contains data that the parts of a run share.
 struct AllParts {
-  std::set<std::string> kept_titles;      // of groups that stay
-  std::map<Unit, std::string> referring;  // who refers to an added record, which stays therefore
-  std::vector<Unit> removed;              // added records that go
+  std::set<std::string> kept_titles;      // of groups that must be left unchanged
+  std::map<Unit, std::string> referring;  // a record that refers to an added one
+  std::vector<Unit> removed;              // added records that the undo removes
 };
 
-// Puts one part of a run back.
+// Puts back one part of a run. Records, groups and files that it leaves unchanged are called kept.
 class PartUndo {
  public:
   PartUndo(HeldPlatform& held, HistoryFolder& folder, Transactions& transactions,
@@ -90,8 +91,9 @@ class PartUndo {
              }});
   }
 
-  // Reads the history file by records. `begin` and `finish` are called for each file, with the file
-  // in hand.
+  // Reads the history file and calls `each` for each record part. Calls `begin` before those of
+  // each file, and `finish` after them. The members of the current file are set during all these
+  // calls.
   void Walk(
       const std::function<void(const RecordPart&)>& each, const std::function<void()>& begin,
       const std::function<void()>& finish = [] {}) {
@@ -121,7 +123,7 @@ class PartUndo {
     entry_ = entry;
     path_ = folder_.paths().Path(entry.path);
     layout_ = kinds_.layout_of(FileNameOf(entry.path));
-    // A text is one record.
+    // A text file counts as one record.
     length_ = layout_ ? layout_->length
                       : static_cast<std::size_t>(
                             std::max({entry.old_length, entry.new_length, std::int64_t{1}}));
@@ -143,7 +145,7 @@ class PartUndo {
   bool HasGrown() const { return file_ != nullptr && file_->Length() > entry_.new_length; }
   bool IsDerived() const { return !kinds_.derived_from(entry_.path).empty(); }
 
-  // First walk: what cannot be put back.
+  // The first walk finds the conflicts.
 
   void CheckFile() {
     if (entry_.fate == FileFate::kDeleted) {
@@ -171,9 +173,9 @@ class PartUndo {
       if (!IsDerived()) kept_groups_.insert(part.group);
       return;
     }
-    if (file_ == nullptr) return;  // what was created is gone already
+    if (file_ == nullptr) return;  // the file that the run has created no longer exists
     const Sides sides = SidesOf(part);
-    if (sides.found == sides.old_bytes) return;  // as before the run already
+    if (sides.found == sides.old_bytes) return;  // the record is already as before the run
     std::vector<FieldElement> elements;
     std::string reason;
     if (!layout_) {
@@ -205,7 +207,8 @@ class PartUndo {
     return !kinds_.title_of(entry_.path, record, bytes).empty();
   }
 
-  // Why an added record cannot go: others follow it or refer to it.
+  // Returns why an added record cannot be removed: other records follow it or refer to it. Returns
+  // an empty string if it can be removed.
   std::string MissedBy(const RecordPart& part, const Sides& sides) {
     if (!sides.is_added) return {};
     if (part.old_bytes.empty() && HasGrown()) return "Other records follow it by now.";
@@ -245,7 +248,7 @@ class PartUndo {
 
   void Keep(const RecordPart& part) { kept_.insert({entry_.path, layout_ ? part.record : 0}); }
 
-  // Second walk: everything of a group that is in conflict stays, in all parts of the run.
+  // The second walk keeps all records of groups with a conflict, in all parts of the run.
   void KeepGroups() {
     kept_groups_.erase(0);
     for (const ChangeGroup group : kept_groups_) all_.kept_titles.insert(titles_[group]);
@@ -260,8 +263,8 @@ class PartUndo {
         [] {});
   }
 
-  // A file that is worked out from one that stays in part is worked out anew, with all others that
-  // are worked out from it.
+  // Keeps derived files that cannot be put back because they or their sources are partly kept. All
+  // files of such a source are kept, and the caller must rebuild them.
   void KeepDerived() {
     std::vector<HistoryFileEntry> derived;
     std::set<std::string> kept_files;
@@ -279,10 +282,11 @@ class PartUndo {
     }
   }
 
-  // Third walk: the bytes.
+  // The third walk puts the bytes back.
 
   void BeginFile() {
-    // Behind the old end the file can only be cut where nothing stays.
+    // The file can be truncated to its old length only if all records behind that length are
+    // removed.
     const std::int64_t first_behind =
         entry_.old_length / static_cast<std::int64_t>(length_) + (layout_ ? 1 : 0);
     const auto behind = kept_.lower_bound({entry_.path, std::max<std::int64_t>(first_behind, 1)});
@@ -310,7 +314,7 @@ class PartUndo {
       if (was_there) wanted.resize(std::max(wanted.size(), at + 1));
       if (at < wanted.size()) wanted[at] = was_there ? part.old_bytes[at] : '\0';
     }
-    // What the cut will take away needs no zeros.
+    // FinishFile truncates the file, so the bytes behind the old length need no zeros.
     if (!keeps_behind_) {
       wanted.resize(std::min(wanted.size(), static_cast<std::size_t>(std::max<std::int64_t>(
                                                 entry_.old_length - offset, 0))));
@@ -321,7 +325,7 @@ class PartUndo {
     NoteGroup(part.group);
   }
 
-  // The groups of the run become those of its undo.
+  // Begins the group of the undo that corresponds to a group of the run.
   void BeginGroup(ChangeGroup group) {
     if (const auto held = groups_.find(group); group != 0 && held != groups_.end()) {
       held_.held()->groups().Resume(held->second);
@@ -340,7 +344,8 @@ class PartUndo {
     }
   }
 
-  // Last, files that were created go and those that were deleted come back.
+  // Deletes the files that the run has created, and restores those that it has deleted. Must be
+  // called after the walks.
   void PutBackFiles() {
     std::vector<HistoryFileEntry> deleted;
     std::vector<HistoryFileEntry> created;
@@ -389,11 +394,11 @@ class PartUndo {
   UndoResult& result_;
   std::map<ChangeGroup, std::string> titles_;
   std::set<std::string> created_;
-  std::set<Unit> added_;  // records that others may refer to
+  std::set<Unit> added_;  // added records that are removed unless others refer to them
   std::set<Unit> kept_;
   std::set<ChangeGroup> kept_groups_;
-  std::map<ChangeGroup, ChangeGroup> groups_;  // of the run, and of its undo
-  // The file in hand.
+  std::map<ChangeGroup, ChangeGroup> groups_;  // the groups of the undo, by those of the run
+  // These members describe the current file of Walk.
   HistoryFileEntry entry_;
   std::string path_;
   std::optional<LayoutInfo> layout_;
@@ -401,7 +406,7 @@ class PartUndo {
   std::unique_ptr<PlatformFile> file_;
   bool is_in_hand_ = false;
   bool keeps_any_ = false;
-  bool keeps_behind_ = false;  // something stays behind the old end
+  bool keeps_behind_ = false;  // true if bytes behind the old length are kept
 };
 
 RunTitle TitleOfUndo(const HistoryRun& run) {
@@ -426,13 +431,14 @@ UndoResult HoldUndo(HeldPlatform& held, HistoryFolder& folder, Transactions& tra
       const auto history = folder.Open(*part, FileAccess::kReadOnly);
       PartUndo(held, folder, transactions, kinds, *history, all, result).Run();
     }
-    // Only those count who would still refer to a record after the undo.
+    // Reads the references with the undo held, so that only references that remain after it count.
     const RecordKinds::ReferredBy referred_by = kinds.references();
     for (const Unit& removed : all.removed) {
       std::string referring = referred_by(removed.first, removed.second);
       if (!referring.empty()) all.referring.emplace(removed, std::move(referring));
     }
-    // A group that stays for the sake of an earlier part stays in the later ones, too.
+    // A group that an earlier part keeps must be kept in the later parts, too. The loop then
+    // repeats the undo.
     const bool more_stay = run.parts.size() > 1 && all.kept_titles.size() != kept_titles;
     if (!more_stay && all.referring.size() == referred) return result;
   }

@@ -14,7 +14,8 @@
 
 namespace golf {
 
-// An element of a field: of a table the n-th one, the last index varying fastest.
+// Identifies an element of a field. `nth` is the index of the element in a table, from 0. The last
+// index of the table varies fastest. A field that is not a table has one element.
 struct FieldElement {
   Field field;
   std::size_t nth = 0;
@@ -24,31 +25,31 @@ struct FieldElement {
   }
 };
 
-// A record that cannot be put back, since somebody has changed since what the run has written in
-// it, or refers to it by now; or such a file. It stays as it is with its whole group.
+// Describes a conflict: a record or file that the undo must leave unchanged with its whole group,
+// because it was changed since the run or because others refer to it now.
 struct UndoConflict {
-  std::string file = {};                    // below the install folder, with "/"
-  std::int64_t record = 0;                  // from 1; 0 for a whole file
-  std::string title = {};                   // the record's, or that of its group
-  std::string reason = {};                  // a sentence; empty where `elements` say it all
-  std::vector<FieldElement> elements = {};  // what the run has written and what differs now
-  // The whole record as the run has left it, and as it is now. Both have its full length where
-  // there are elements.
+  std::string file = {};    // relative to the install folder, with "/"
+  std::int64_t record = 0;  // from 1; 0 for a whole file
+  std::string title = {};   // the title of the record or of its group
+  std::string reason = {};  // a sentence; empty if `elements` gives the whole reason
+  std::vector<FieldElement> elements = {};  // elements that have changed since the run
+  // The whole record as the run has written it, and as it is now. Both have the full length if
+  // `elements` is not empty.
   std::string written = {};
   std::string found = {};
 };
 
 struct UndoResult {
   std::vector<UndoConflict> conflicts;
-  std::set<std::string> put_back;  // files of which something is as before the run again
-  // Files from which others must be worked out anew.
+  std::set<std::string> put_back;  // files of which at least one byte is as before the run again
+  // Files that are sources of derived files, such as course indexes, that must be rebuilt.
   std::set<std::string> stale;
 };
 
-// Begins a transaction and holds in it what puts a run back, through `held`. What is in conflict
-// stays as it is with its whole group; the caller drops the transaction where conflicts are to
-// refuse the undo. What is as before the run already counts as put back. A run of several parts is
-// put back from its last part on.
+// Begins a transaction and holds the changes that put a run back. Leaves conflicts unchanged with
+// their whole groups. The caller must drop the transaction to refuse an undo with conflicts. Bytes
+// that are already as before the run count as put back. The last part of the run is put back first.
+// Raises DamagedHistory if a history file is damaged.
 UndoResult HoldUndo(HeldPlatform& held, HistoryFolder& folder, Transactions& transactions,
                     const RecordKinds& kinds, const HistoryRun& run);
 

@@ -17,8 +17,7 @@ Recovery Recover(SharedState& state, ScreenHost& host) {
 }  // namespace
 
 void RecoverInterruptedRun(SharedState& state, ScreenHost& host) {
-  // Errors are ignored here, also the one of a locked install. An event that changes files reports
-  // them.
+  // Ignores errors here. ChangingClick raises them when the operator changes files.
   const ResumeNext anyway(nullptr);
   anyway([&] {
     const auto lock = state.files.platform().LockRun(state.ProgramPath);

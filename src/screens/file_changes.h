@@ -9,14 +9,14 @@
 
 namespace golf {
 
-// Finishes an earlier run that was interrupted, and notifies the operator. It must be called before
-// a screen that can change files reads them. It raises no numbered error: it does nothing if
-// another process has locked the install or if the run needs a decision of the operator.
+// Recovers an interrupted run and notifies the operator. Must be called before a screen that can
+// change files reads them. Does nothing if the operator must decide about the run, or if another
+// process holds the lock of the install. Raises no numbered error.
 void RecoverInterruptedRun(SharedState& state, ScreenHost& host);
 
-// Must exist while an event changes files. It locks the install against other processes that change
-// it, from its construction to its destruction. The constructor raises error 70 if another process
-// has the lock. It finishes an earlier run that was interrupted, and notifies the operator.
+// Begins a click that changes files, and ends it in the destructor. Holds the lock of the install
+// meanwhile. The constructor raises error 70 if another process holds the lock. It first recovers
+// an interrupted run and notifies the operator.
 class ChangingClick {
  public:
   ChangingClick(SharedState& state, ScreenHost& host);
@@ -24,8 +24,8 @@ class ChangingClick {
   ChangingClick& operator=(const ChangingClick&) = delete;
   ~ChangingClick();
 
-  // False if an interrupted run needs a decision of the operator, who has been notified. Nothing
-  // may be changed then.
+  // False if the operator must decide about an interrupted run. The operator was notified then, and
+  // the caller must not change files.
   bool IsAllowed() const { return allowed_; }
 
  private:
@@ -34,9 +34,9 @@ class ChangingClick {
   bool allowed_ = false;
 };
 
-// Runs `change` as a transaction of its own. If `change` raises a numbered error, commits what it
-// has changed so far and raises the error again. Raises CommitFailed if nothing could be changed.
-// Returns false and does nothing if an interrupted run needs a decision of the operator.
+// Runs `change` as a click with one transaction. If `change` raises a numbered error, commits the
+// changes made before and raises the error again. Raises CommitFailed if the commit fails. Returns
+// false and does not call `change` if the operator must decide about an interrupted run.
 bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std::string about,
                  const std::function<void()>& change);
 

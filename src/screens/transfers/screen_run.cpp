@@ -19,8 +19,7 @@ class InputHeldOff {
   ScreenHost& host_;
 };
 
-// Replaces each run of blanks by one blank. A list's entry has many blanks before the number at its
-// end.
+// Replaces several blanks by one. An entry of a list has many blanks before the number at its end.
 std::string WithSingleBlanks(std::string text) {
   const auto both_blank = [](char a, char b) { return a == ' ' && b == ' '; };
   text.erase(std::unique(text.begin(), text.end(), both_blank), text.end());
@@ -35,7 +34,7 @@ void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
   if (!click.IsAllowed()) return;
   const InputHeldOff held_off(host);
   const auto open_again = [&] {
-    // The operator sees the error that ended the run, not an error of closing the files.
+    // Ignores errors here, since the operator must see the error that ended the run.
     const ResumeNext anyway(nullptr);
     anyway([&] { state.InitSharedObjects(); });
     anyway([&] { screen.OpenAgain(); });
@@ -46,7 +45,7 @@ void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
     open_again();
     throw;
   } catch (...) {
-    // The run was stopped. Its pending changes are dropped before the files are read again.
+    // The run was stopped. Drops the held changes before the screen reads the files.
     state.transactions->EndClick();
     open_again();
     throw;
@@ -106,7 +105,7 @@ void ScreenRun::Report(const Progress& progress) {
                 shown ? std::string_view(look_.working->caption()) : std::string_view()});
 }
 
-// Shows the normal pointer after a fault, although the run continues. Operators expect this.
+// Sets the normal pointer although the run continues, as operators expect.
 void ScreenRun::NoteFault(const NumberedError& fault) {
   host_.SetPointer(Pointer::kNormal);
   host_.NoteFault(fault);

@@ -12,30 +12,29 @@
 
 namespace golf {
 
-// Runs a transfer of a screen as an event that changes files. The host accepts no input until it
-// ends. If `run` raises an error, closes all files, creates new shared objects, calls OpenAgain of
-// the screen, and raises the error again.
+// Runs a transfer of a screen as a click that changes files. The host takes no input meanwhile. If
+// `run` raises an exception, closes all files, makes the shared objects again, calls OpenAgain of
+// the screen, and raises the exception again.
 void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
                  const std::function<void()>& run);
 
-// Describes the controls of a screen that a run changes. A screen may leave out any of them.
+// Contains the controls that a run changes on its screen. Any member may be left out.
 struct RunLook {
-  Label* working = nullptr;    // shows what the run is doing
-  Label* count = nullptr;      // shows how many items the run has handled
-  Button* button = nullptr;    // starts the run
-  bool hides_button = false;   // hides `button` while the run copies
-  TextBox* message = nullptr;  // shows the log after the run
-  bool shows_log = false;      // shows the log in `message` also when the run asks the operator
+  Label* working = nullptr;          // shows what the run does at present
+  Label* count = nullptr;            // shows the number of records that are done
+  Button* button = nullptr;          // starts the run
+  bool hides_button = false;         // the button is hidden while the run copies
+  TextBox* message = nullptr;        // shows the log after the run
+  bool shows_log = false;            // `message` also shows the log before a question of AskAgain
   std::function<void()> begin = {};  // is called when the copying begins
 };
 
-// Is called after a failed commit. Returns true to try it again.
+// Returns true if a failed commit must be tried again.
 using CommitRetry = std::function<bool(RunHost&, const CommitFailed&)>;
 
-// Implements the host of a run for a screen. It shows the questions and the progress of the run,
-// and commits it. When the run has ended in any way, the labels are empty, a button that the run
-// hides is visible, and the pointer is normal. After a failed commit, or a run that was stopped,
-// the button and the log are restored.
+// Connects a run to its screen. It asks the operator, shows the progress, and commits. The
+// destructor clears the labels, shows a button that the run has hidden, and sets the normal
+// pointer. It also restores the button and the message if nothing was committed.
 class ScreenRun : public RunHost {
  public:
   ScreenRun(SharedState& state, ScreenHost& host, RunLook look, RunTitle title);
@@ -51,8 +50,8 @@ class ScreenRun : public RunHost {
   bool AskAgain(const std::string& title, const std::string& text, const std::string& log) override;
   void Beep() override { host_.Beep(); }
 
-  // Commits the run. If the commit fails, calls `retry` to decide whether to try again. Otherwise
-  // drops the changes and raises CommitFailed.
+  // Commits the changes of the run. If the commit fails and no file has changed, calls `retry` and
+  // tries again if it returns true. Otherwise drops the changes and raises CommitFailed.
   void Commit(const RunReport& report, const CommitRetry& retry = nullptr);
 
  private:
@@ -61,12 +60,12 @@ class ScreenRun : public RunHost {
   RunLook look_;
   bool begun_ = false;
   bool committed_ = false;
-  bool button_before_ = false;  // true if it was visible
+  bool button_before_ = false;  // true if the button was visible
   std::string message_before_;
 };
 
-// Runs a transfer as one transaction and commits it. If an error ends the run, commits what the run
-// has done before and raises the error again. Raises CommitFailed if nothing has changed.
+// Runs a transfer as one transaction and commits it. If the run raises a numbered error, commits
+// the changes made before and raises the error again. Raises CommitFailed if the commit fails.
 template <class Request, class AnyReport>
 void RunWhole(SharedState& state, ScreenHost& host, RunLook look, RunTitle title,
               const Request& request, AnyReport& report, const CommitRetry& retry = nullptr) {
