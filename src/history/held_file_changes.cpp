@@ -90,7 +90,7 @@ void HeldFileChanges::WriteOver(std::int64_t offset, std::string_view bytes, Cha
   std::int64_t last = end;
   for (const HeldPlace& place : taken) last = std::max(last, place.End());
   const auto size = static_cast<std::size_t>(last - first);
-  std::string old_bytes = OldBytes(first, size);
+  std::string old_bytes(OldBytes(first, size));
   std::string new_bytes = old_bytes;
   new_bytes.resize(size);
   for (const HeldPlace& place : taken) {
@@ -149,7 +149,7 @@ void HeldFileChanges::ForEach(
     }
   }
   for (std::int64_t offset = length_; offset < old_length_;) {
-    const std::string old_bytes = OldBytes(offset, kWindow);
+    const std::string_view old_bytes = OldBytes(offset, kWindow);
     code_.clear();
     AppendPlace(code_, old_bytes, {});
     each({.offset = offset, .old_size = static_cast<std::uint32_t>(old_bytes.size())}, code_);
@@ -220,7 +220,7 @@ void HeldFileChanges::Insert(std::int64_t offset, ChangeGroup group, std::string
   portion.insert(std::lower_bound(portion.begin(), portion.end(), offset, StartsBefore), place);
 }
 
-std::string HeldFileChanges::OldBytes(std::int64_t offset, std::size_t size) {
+std::string_view HeldFileChanges::OldBytes(std::int64_t offset, std::size_t size) {
   const auto wanted = static_cast<std::size_t>(
       std::clamp<std::int64_t>(old_length_ - offset, 0, static_cast<std::int64_t>(size)));
   if (wanted == 0) return {};
@@ -232,10 +232,10 @@ std::string HeldFileChanges::OldBytes(std::int64_t offset, std::size_t size) {
     window_.offset = offset;
     window_.bytes.resize(OrHoldFailed([&] { return real_->ReadAt(offset, window_.bytes); }));
   }
-  std::string bytes =
-      window_.bytes.substr(static_cast<std::size_t>(offset - window_.offset), wanted);
-  bytes.resize(wanted);
-  return bytes;
+  const auto first = static_cast<std::size_t>(offset - window_.offset);
+  // The file is shorter if another program has cut it since.
+  if (window_.bytes.size() < first + wanted) window_.bytes.resize(first + wanted);
+  return std::string_view(window_.bytes).substr(first, wanted);
 }
 
 void HeldFileChanges::NoteShared(ChangeGroup a, ChangeGroup b) {

@@ -89,7 +89,8 @@ class HeldFileChanges {
   const HistoryPlace& Bytes(const HeldPlace& place);
   void FillCut(std::int64_t end, ChangeGroup group);
   void WriteOver(std::int64_t offset, std::string_view bytes, ChangeGroup group);
-  std::string OldBytes(std::int64_t offset, std::size_t size);
+  // Returns the bytes of before the run. The next call overwrites them.
+  std::string_view OldBytes(std::int64_t offset, std::size_t size);
   void NoteShared(ChangeGroup a, ChangeGroup b);
 
   std::string path_;

@@ -54,6 +54,10 @@ std::string ReadExactly(PlatformFile& file, std::int64_t offset, std::size_t siz
 HistoryWriter::HistoryWriter(HistoryGate& gate, const std::string& path) : gate_(gate) {
   gate_.Create(path);
   file_ = gate_.platform().Open(path, FileAccess::kAlone);
+  if (file_->Length() > 0) {
+    throw NumberedError(ErrorNumber::kPermissionDenied,
+                        "Another run has written " + path + " meanwhile.");
+  }
 }
 
 void HistoryWriter::Run(const RunTitle& title) {

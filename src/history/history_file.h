@@ -17,7 +17,7 @@ namespace golf {
 // this object is destroyed. Raises errors of the platform.
 class HistoryWriter {
  public:
-  // Creates the file.
+  // Creates the file. Raises error 70 if another process writes a history file of this name.
   HistoryWriter(HistoryGate& gate, const std::string& path);
 
   // Writes the title of the run. Must be called first.

@@ -7,7 +7,7 @@
 namespace golf {
 namespace {
 
-constexpr std::size_t kFirstWindow = std::size_t{16} << 10;
+constexpr std::size_t kFirstWindow = std::size_t{4} << 10;
 constexpr std::size_t kLargestWindow = std::size_t{256} << 10;
 
 }  // namespace

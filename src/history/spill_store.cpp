@@ -24,7 +24,7 @@ std::int64_t SpillStore::Append(std::string_view bytes) {
     std::size_t at = in_memory_;
     if (bytes.size() > room) {
       at = blocks_.size() * kBlock;
-      if (at + kBlock <= memory_) blocks_.push_back(std::make_unique<char[]>(kBlock));
+      if (at + kBlock <= memory_) blocks_.push_back(std::make_unique_for_overwrite<char[]>(kBlock));
     }
     if (at + bytes.size() <= blocks_.size() * kBlock) {
       std::copy(bytes.begin(), bytes.end(), blocks_[at / kBlock].get() + at % kBlock);

@@ -128,9 +128,9 @@ std::int32_t Transactions::CommitChanges(HeldChanges& changes, std::string_view 
 std::unique_ptr<HistoryFile> Transactions::WriteHistory(const HistoryName& name,
                                                         HeldChanges& changes,
                                                         std::string_view report) {
+  HistoryWriter writer(folder_.gate(), folder_.Path(name));
   std::unique_ptr<HistoryFile> history;
   try {
-    HistoryWriter writer(folder_.gate(), folder_.Path(name));
     WriteContent(writer, name, changes, report);
     history = std::make_unique<HistoryFile>(folder_.Path(name), writer.Take());
     folder_.gate().SyncFolder(folder_.paths().history);
