@@ -1,14 +1,14 @@
 #include <algorithm>
 #include <iostream>
 
-#include "app/record_kinds.h"
-#include "app/undo_run.h"
 #include "cli/change_text.h"
 #include "cli/history_command.h"
 #include "cli/json_listener.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
+#include "outlets/record_kinds.h"
 #include "screens/file_changes.h"
+#include "transfers/undo_run.h"
 
 namespace golf {
 namespace {
@@ -89,7 +89,7 @@ class UndoCommand {
     if (options_.json) {
       for (const Json& event : ConflictJson(conflict)) WriteJsonLine(event);
     } else {
-      (request_.skip_changed ? std::cout : std::cerr) << ConflictText(conflict);
+      (request_.skip_changed ? std::cout : std::cerr) << ConflictText(conflict, state_.DateFormat);
     }
   }
 
@@ -126,8 +126,8 @@ class UndoCommand {
     const EachChange each_change = [&](const auto& each) {
       ForEachChange(*transactions_.held().held(), transactions_.history().paths(), kinds, each);
     };
-    const std::int64_t changes = WriteChangeCounts(options_.json, each_change);
-    if (!options_.json) WriteChangeDetails(kinds, each_change);
+    const std::int64_t changes = WriteChangeCounts(kinds, options_.json, each_change);
+    if (!options_.json) WriteChangeDetails(state_, kinds, each_change);
     transactions_.Drop();
     WriteEnd(changes, 0);
   }
@@ -137,7 +137,7 @@ class UndoCommand {
     if (committed != 0) {
       HistoryFolder& folder = transactions_.history();
       const RecordKinds kinds = MakeRecordKinds(state_);
-      changes = WriteChangeCounts(options_.json, [&](const auto& each) {
+      changes = WriteChangeCounts(kinds, options_.json, [&](const auto& each) {
         for (const HistoryName& name : folder.List()) {
           if (name.run != committed) continue;
           ForEachChange(*folder.Open(name, FileAccess::kReadOnly), kinds, each);

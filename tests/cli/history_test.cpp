@@ -220,7 +220,10 @@ TEST_F(HistoryTest, ChangesHaveTheFormOfADump) {
   EXPECT_EQ((*added)["fields"][0], json::parse(R"({"name":"IDNum","old":null,"new":111})"));
   const std::string text = In("history show 1").out;
   EXPECT_NE(text.find("10 golfers updated."), std::string::npos);
-  EXPECT_NE(text.find("qbdata/X0001.Q9G, record 3: Duarte, Ines (Autumn Medal) (changed)\n"
+  EXPECT_NE(text.find("\n10 golfers changed, 2 added in Quenby; 12 tournament entries changed in "
+                      "Quenby; 2 files\n"),
+            std::string::npos);
+  EXPECT_NE(text.find("Duarte, Ines (Autumn Medal): changed in qbdata/X0001.Q9G, record 3\n"
                       "  TourIndex(3) to (7)          0 0 0 0 0 -> 22.5 22.5 22.5 22.5 22.5\n"),
             std::string::npos)
       << text;
@@ -333,7 +336,7 @@ TEST_F(HistoryTest, AnAddedGolferWhoPlaysByNowStays) {
   const Ended refused = In("undo");
   EXPECT_EQ(refused.code, 1);
   EXPECT_TRUE(
-      refused.problems.starts_with("qbdata/QBGOLFER.Q9D, record 22: Lindqvist, Nora\n"
+      refused.problems.starts_with("Lindqvist, Nora: qbdata/QBGOLFER.Q9D, record 22\n"
                                    "  Tournament \"Autumn Medal\" refers to it by now.\n"))
       << refused.problems;
   const std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");

@@ -5,7 +5,7 @@
 
 #include "app/application.h"
 #include "app/demo/demo_install.h"
-#include "app/file_kinds.h"
+#include "outlets/file_kinds.h"
 #include "cli/picker_presses.h"
 #include "history/undo.h"
 #include "screens/courses/course_form.h"

@@ -1,4 +1,4 @@
-#include "app/undo_run.h"
+#include "transfers/undo_run.h"
 
 #include <algorithm>
 
