@@ -37,16 +37,6 @@ void WriteRuns(const KeptRuns& list, bool json) {
   }
 }
 
-std::string ReportOf(HistoryFolder& folder, const HistoryRun& run) {
-  std::string report;
-  for (const HistoryName& part : run.parts) {
-    folder.Open(part, FileAccess::kReadOnly)->Read({.report = [&](std::string_view text) {
-      if (!text.empty()) report.append(report.empty() ? "" : "\n").append(text);
-    }});
-  }
-  return report;
-}
-
 void WriteReport(const HistoryRun& run, const std::string& report, bool json) {
   if (json) {
     if (!report.empty()) WriteJsonLine({{"event", "report"}, {"text", JsonText(report)}});
@@ -126,11 +116,7 @@ ExitCode RunHistoryShow(const Options& options, std::int32_t number) {
   HistoryFolder& folder = state.transactions->history();
   WriteReport(run, ReportOf(folder, run), options.json);
   const RecordKinds kinds = MakeRecordKinds(state);
-  const EachChange each_change = [&](const auto& each) {
-    for (const HistoryName& part : run.parts) {
-      ForEachChange(*folder.Open(part, FileAccess::kReadOnly), kinds, each);
-    }
-  };
+  const EachChange each_change = [&](const auto& each) { ForEachChange(folder, run, kinds, each); };
   WriteChangeCounts(kinds, options.json, each_change);
   if (!options.json) WriteChangeDetails(state, kinds, each_change);
   return ExitCode::kDone;

@@ -31,10 +31,8 @@ class JsonProblemListener : public JsonListener {
 // Returns the run to undo. Raises Refusal if it cannot be undone.
 const HistoryRun& ChosenRun(const KeptRuns& list, const UndoRequest& request) {
   if (!request.number) {
-    const auto newest = std::find_if(list.runs.begin(), list.runs.end(), [](const HistoryRun& run) {
-      return run.state == RunState::kDone && !run.IsUndo();
-    });
-    if (newest == list.runs.end()) throw Refusal("There is no run to undo.");
+    const HistoryRun* const newest = NewestToUndo(list);
+    if (newest == nullptr) throw Refusal("There is no run to undo.");
     return *newest;
   }
   const HistoryRun& run = RunOfNumber(list, *request.number);
@@ -71,11 +69,7 @@ class UndoCommand {
       ShowHeld();
       return ExitCode::kDone;
     }
-    const std::int32_t committed = transactions_.Commit(Report());
-    if (committed == 0 && result_.conflicts.empty()) {
-      MarkUndone(transactions_.history(), run_);
-    }
-    ShowCommitted(committed);
+    ShowCommitted(CommitUndoOfRun(transactions_, run_, result_));
     return ExitCode::kDone;
   }
 
@@ -106,19 +100,6 @@ class UndoCommand {
   std::string CountText() const {
     const std::size_t count = result_.conflicts.size();
     return std::to_string(count) + (count == 1 ? " record has" : " records have");
-  }
-
-  std::string Report() const {
-    std::string report =
-        "Undo of the run of " + MomentText(run_.title.moment) + ": " + run_.title.command;
-    if (!run_.title.about.empty()) report += " " + run_.title.about;
-    if (!result_.conflicts.empty()) report += "\r\nLeft as they are:";
-    for (const UndoConflict& conflict : result_.conflicts) {
-      report += "\r\n" + conflict.file;
-      if (conflict.record > 0) report += ", record " + std::to_string(conflict.record);
-      report += ": " + conflict.title;
-    }
-    return report;
   }
 
   void ShowHeld() {
