@@ -127,18 +127,6 @@ int ClickErrorOf(Action&& action) {
   });
 }
 
-// Runs `run(n)` with the fault at the n-th call to the system, for n from 1, until it returns that
-// the fault has not occurred.
-template <class Run>
-void ForEachFault(Run&& run) {
-  constexpr int kMost = 500;  // a run has fewer calls
-  for (int nth = 1; nth < kMost; ++nth) {
-    SCOPED_TRACE(nth);
-    if (!run(nth)) return;
-  }
-  ADD_FAILURE() << "the faults do not end";
-}
-
 // Chooses from a list of rosters as the operator. Returns false on any other screen.
 template <class Picker>
 bool PickRoster(HeadlessHost& host, Screen& screen, int row) {
