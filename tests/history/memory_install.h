@@ -5,10 +5,8 @@
 #include <memory>
 #include <span>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "forms/headless_host.h"
 #include "history/transactions.h"
 #include "support/memory_platform.h"
 
@@ -30,10 +28,7 @@ std::unique_ptr<Platform> ProcessOn(const MemoryPlatform& disk);
 // Something that an operator does on a screen and that changes files.
 struct Deed {
   const char* name;
-  const char* screen;
-  const char* word;
-  std::vector<std::pair<std::string, std::string>> answers;  // by the titles of boxes
-  std::function<void(HeadlessHost&, Screen&)> drive;
+  const char* script;  // its lines
 };
 
 // All of them, on the demonstration install.

@@ -253,7 +253,10 @@ TEST_F(ZDtoKVTest, ASecondRunAsksFirst) {
 // A golfer whose records cannot be read is left out. A golfer and his history change together.
 TEST_F(ZDtoKVTest, AReadFaultLeavesOutByNameAndTheNextRunPostsTheRest) {
   Prepare(18, 18);
+  // Fewer records make fewer reads.
   install.folder.Write("zddata/00011.ZP8", Player(11, 0, 1, 85) + Player(12, 1, 2, 86));
+  install.folder.Write("zddata/zdcrs.dat", Course("Pine", 2, "Blue", 0, 71.2f, 125));
+  install.folder.Write("kvdata/kvcrs.dat", Course("Pine", 2, "Blue", 0, 71.2f, 125));
   const auto run = [this] {
     install.host->QueueAnswer("Cancel Transfer?", "No", true);
     Run(kEvent2);
