@@ -15,22 +15,12 @@ namespace golf {
 namespace {
 
 // The states in which a deed may leave the files: before it, after each of its transactions.
-std::vector<DataFiles> StatesOf(const Deed& deed) {
+States StatesOf(const Deed& deed) {
   const MemoryPlatform disk = DemoDisk().Copy();
-  std::vector<DataFiles> states = {DataOf(disk)};
-  const auto look = [&] {
-    if (DataFiles state = DataOf(disk); state != states.back()) states.push_back(std::move(state));
-  };
-  Do(deed, ProcessOn(disk), look);
-  look();
+  States states;
+  states.Note(disk);
+  Do(deed, ProcessOn(disk), [&] { states.Note(disk); });
   return states;
-}
-
-void ExpectOneOf(const std::vector<DataFiles>& states, const MemoryPlatform& disk) {
-  const DataFiles state = DataOf(disk);
-  if (std::find(states.begin(), states.end(), state) != states.end()) return;
-  ADD_FAILURE() << "before: " << Difference(state, states.front())
-                << "\nafter: " << Difference(state, states.back());
 }
 
 bool IsTold(const std::vector<std::string>& events) {
@@ -40,11 +30,6 @@ bool IsTold(const std::vector<std::string>& events) {
   });
 }
 
-void Recover(const MemoryPlatform& disk) {
-  const auto platform = ProcessOn(disk);
-  EXPECT_FALSE(HistoryProgram(*platform).transactions.Recover().stuck);
-}
-
 constexpr Operation kChanges[] = {
     Operation::kCreate, Operation::kCreateFolder, Operation::kDelete, Operation::kRename,
     Operation::kWrite,  Operation::kTruncate,     Operation::kSync,   Operation::kSyncFolder};
@@ -52,7 +37,7 @@ constexpr Operation kChanges[] = {
 // Each call that changes something fails once, or with all calls of its kind behind it. The first
 // puts everything back at once, the other at the next start.
 void FailEachChange(const Deed& deed, Operation operation, bool stays) {
-  const std::vector<DataFiles> states = StatesOf(deed);
+  const States states = StatesOf(deed);
   constexpr ErrorNumber kErrors[] = {ErrorNumber::kDiskFull, ErrorNumber::kDeviceFault,
                                      ErrorNumber::kPermissionDenied};
   for (int nth = 1;; ++nth) {
@@ -68,14 +53,14 @@ void FailEachChange(const Deed& deed, Operation operation, bool stays) {
       EXPECT_EQ(Difference(DataOf(disk), states.back()), "");
       return;
     }
-    const bool unfinished = HistoryProgram(disk).transactions.IsUnfinished();
+    const bool unfinished = IsUnfinished(disk);
     EXPECT_TRUE(stays || !unfinished);
-    if (!unfinished) ExpectOneOf(states, disk);
+    if (!unfinished) states.ExpectOneIn(disk);
     // The list of rosters itself shows that a roster could not be deleted.
     const bool told = IsTold(events) || std::string_view(deed.name) == "delete-kv-roster";
     EXPECT_TRUE(told || DataOf(disk) == states.back());
-    Recover(disk);
-    ExpectOneOf(states, disk);
+    EXPECT_FALSE(Recover(disk).stuck);
+    states.ExpectOneIn(disk);
     if (testing::Test::HasFailure()) return;
   }
 }
@@ -99,19 +84,16 @@ TEST(CommitTest, DISABLED_AFailedCommitOfAnyTransaction) {
 
 // The file of the history itself cannot be read, opened or closed.
 TEST(CommitTest, AFaultOfTheHistoryFileHasChangedNothing) {
-  const MemoryPlatform before = SmallDisk();
-  const MemoryPlatform done = before.Copy();
-  CommitEveryKind(*ProcessOn(done));
-  const std::vector<DataFiles> states = {DataOf(before), DataOf(done)};
+  const DataFiles states[] = {DataOf(SmallDisk()), DataOf(DiskAfterEveryKind())};
   for (int nth = 1;; ++nth) {
     SCOPED_TRACE(nth);
-    MemoryPlatform disk = before.Copy();
+    MemoryPlatform disk = SmallDisk();
     FailingPlatform failing(disk);
     failing.Fail({.nth = nth, .name = ".RUN"});
     const int error = ErrorOf([&] { CommitEveryKind(failing); });
     if (!failing.Failed()) break;
     EXPECT_EQ(Difference(DataOf(disk), states[error == 0 ? 1 : 0]), "");
-    Recover(disk);
+    EXPECT_FALSE(Recover(disk).stuck);
     EXPECT_EQ(Difference(DataOf(disk), states[error == 0 ? 1 : 0]), "");
   }
 }
@@ -142,7 +124,7 @@ class StoppingPlatform : public MemoryPlatform {
 
 TEST(CommitTest, ARunThatIsStoppedHasChangedNothing) {
   for (const Deed& deed : Deeds()) {
-    const std::vector<DataFiles> states = StatesOf(deed);
+    const States states = StatesOf(deed);
     int stopped = 0;
     for (int nth = 1;; nth += 1 + nth / 3) {
       SCOPED_TRACE(std::string(deed.name) + ", look " + std::to_string(nth));
@@ -155,8 +137,8 @@ TEST(CommitTest, ARunThatIsStoppedHasChangedNothing) {
         EXPECT_EQ(stop.signal(), 15);
         ++stopped;
       }
-      ExpectOneOf(states, disk);
-      EXPECT_FALSE(HistoryProgram(*ProcessOn(disk)).transactions.IsUnfinished());
+      states.ExpectOneIn(disk);
+      EXPECT_FALSE(IsUnfinished(disk));
       if (!ended) continue;
       EXPECT_EQ(Difference(DataOf(disk), states.back()), "");
       break;

@@ -93,15 +93,6 @@ std::string Told(const MemoryPlatform& disk) {
   }
 }
 
-// The disk of a run that was killed in the nth call.
-MemoryPlatform KilledAt(int nth) {
-  MemoryPlatform disk = SmallDisk();
-  disk.DieAt(nth);
-  EXPECT_THROW(CommitEveryKind(*ProcessOn(disk)), Died);
-  disk.Revive();
-  return disk;
-}
-
 // The file reads as it was written or is damaged. Recovery finishes the run, puts it back or says
 // that it cannot, and then it has touched nothing.
 void CheckDamaged(const MemoryPlatform& disk, const std::string& whole, const DataFiles& before,
@@ -127,15 +118,14 @@ void CheckDamaged(const MemoryPlatform& disk, const std::string& whole, const Da
 
 TEST(HistoryFormatTest, DamagedFilesAreFoundOut) {
   const DataFiles before = DataOf(SmallDisk());
-  const MemoryPlatform done = SmallDisk();
-  CommitEveryKind(*ProcessOn(done));
+  const MemoryPlatform done = DiskAfterEveryKind();
   const DataFiles after = DataOf(done);
   const std::string whole = Told(done);
   ASSERT_NE(whole, "damaged");
   const int calls = done.ChangingCalls();
   // Nothing is applied yet, some of it, all of it.
   for (const int nth : {12, calls - 14, calls - 1}) {
-    const MemoryPlatform killed = KilledAt(nth);
+    const MemoryPlatform killed = *DiskKilledAt(nth);
     const std::string bytes = killed.Copy().Bytes(kRun);
     ASSERT_LT(bytes.size(), 6000U);
     // Without a place for the commit mark, the file says that nothing was applied.

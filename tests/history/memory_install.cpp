@@ -85,6 +85,18 @@ std::string Difference(const DataFiles& found, const DataFiles& expected) {
   return text;
 }
 
+void States::Note(const MemoryPlatform& disk) {
+  DataFiles state = DataOf(disk);
+  if (empty() || back() != state) push_back(std::move(state));
+}
+
+void States::ExpectOneIn(const MemoryPlatform& disk) const {
+  const DataFiles state = DataOf(disk);
+  if (std::find(begin(), end(), state) != end()) return;
+  ADD_FAILURE() << "before: " << Difference(state, front())
+                << "\nafter: " << Difference(state, back());
+}
+
 const MemoryPlatform& DemoDisk() {
   static const MemoryPlatform kDisk = [] {
     MemoryPlatform disk;
@@ -107,7 +119,7 @@ std::span<const Deed> Deeds() {
       {"courses-kv-to-qb", "open KVCoursestoQB\nclick TransferCourses"},
       {"golfers-kv-to-qb",
        "open KVtoQB\nclick SourceButton\nrow grid1 1\nclick LoadButton\n"
-       "click DestButton\nrow grid1 2\nclick LoadButton\n"
+       "click DestButton\nrow grid1 3\nclick LoadButton\n"
        "answer \"Update Handicaps?\" YES\nclick TransferButton"},
       {"golfers-kv-to-zd",
        "open KVtoZD\nclick FindZDButton\npick LeagueList 00021\nclick OKLEague\n"
@@ -115,7 +127,7 @@ std::span<const Deed> Deeds() {
        "answer Question Yes\nclick TransferButton"},
       {"golfers-zd-to-qb",
        "open ZDtoQB\nclick SourceButton\npick LeagueList 00011\nclick OKLEague\n"
-       "click DestButton\nrow grid1 2\nclick LoadButton\n"
+       "click DestButton\nrow grid1 3\nclick LoadButton\n"
        "check TransferSubs on\nclick TransferButton"},
       {"scores-qb-to-kv",
        "open QBtoKV\nclick DestButton\nrow grid1 1\nclick LoadButton\n"
@@ -218,6 +230,38 @@ void CommitEveryKind(Platform& platform) {
   HistoryProgram program(platform);
   HoldEveryKind(program);
   program.transactions.Commit("A report.");
+}
+
+MemoryPlatform DiskAfterEveryKind() {
+  MemoryPlatform disk = SmallDisk();
+  CommitEveryKind(*ProcessOn(disk));
+  return disk;
+}
+
+std::optional<MemoryPlatform> DiskKilledAt(int nth) {
+  MemoryPlatform disk = SmallDisk();
+  disk.DieAt(nth);
+  if (!DiesIn([&] { CommitEveryKind(*ProcessOn(disk)); })) return std::nullopt;
+  disk.Revive();
+  return disk;
+}
+
+bool DiesIn(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const Died&) {
+    return true;
+  }
+  return false;
+}
+
+Recovery Recover(const MemoryPlatform& disk, RecoveryChoice choice) {
+  const auto platform = ProcessOn(disk);
+  return HistoryProgram(*platform).transactions.Recover(choice);
+}
+
+bool IsUnfinished(const MemoryPlatform& disk) {
+  return HistoryProgram(*ProcessOn(disk)).transactions.IsUnfinished();
 }
 
 std::size_t UndoNewest(Platform& platform) {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -18,6 +19,13 @@ using DataFiles = std::map<std::string, std::string>;
 DataFiles DataOf(const MemoryPlatform& disk);
 // The names of the files that differ, with their lengths; empty where none does.
 std::string Difference(const DataFiles& found, const DataFiles& expected);
+
+// The states of the files in the order in which a run passes through them.
+struct States : std::vector<DataFiles> {
+  // Adds the state of a disk if it is a new one.
+  void Note(const MemoryPlatform& disk);
+  void ExpectOneIn(const MemoryPlatform& disk) const;
+};
 
 // The demonstration install, all of it on the disk.
 const MemoryPlatform& DemoDisk();
@@ -52,6 +60,17 @@ struct HistoryProgram {
 MemoryPlatform SmallDisk();
 void HoldEveryKind(HistoryProgram& program);
 void CommitEveryKind(Platform& platform);
+MemoryPlatform DiskAfterEveryKind();
+// Returns the disk of a process that was killed in the nth call of CommitEveryKind that changes
+// something; nothing if it makes fewer.
+std::optional<MemoryPlatform> DiskKilledAt(int nth);
+
+// True if the action throws Died.
+bool DiesIn(const std::function<void()>& action);
+
+// Act as another process on a disk.
+Recovery Recover(const MemoryPlatform& disk, RecoveryChoice choice = RecoveryChoice::kByItself);
+bool IsUnfinished(const MemoryPlatform& disk);
 
 // Undoes the newest run that is not an undo itself. Returns the conflicts.
 std::size_t UndoNewest(Platform& platform);
