@@ -60,30 +60,41 @@ class HistoryTest : public CommandLineTest {
     folder.Write("i/" + file, bytes);
   }
 
-  // Takes the mark "done" out of a history file, as if a crash had come before it.
-  void Interrupt(int run) {
-    for (const auto& [name, bytes] : AllFiles()) {
-      if (!name.starts_with("transfer-history/00000" + std::to_string(run))) continue;
-      std::string cut = bytes;
-      cut.replace(4 * 512, 512, 512, '\0');
-      Write(name, cut);
-    }
+  void WriteAll(const Tree& files) {
+    for (const auto& [name, bytes] : files) Write(name, bytes);
+  }
+
+  // Returns the name of a run's history file.
+  std::string HistoryFile(int run) const {
+    const std::string beginning = "transfer-history/00000" + std::to_string(run);
+    return AllFiles().lower_bound(beginning)->first;
+  }
+  // Takes marks out of a history file: "done", as if a crash had come before it, or others.
+  void Interrupt(int run, std::initializer_list<std::size_t> marks = {4}) {
+    std::string bytes = folder.Read("i/" + HistoryFile(run));
+    for (const std::size_t mark : marks) bytes.replace(mark * 512, 512, 512, '\0');
+    Write(HistoryFile(run), bytes);
   }
 };
 
-std::set<std::string> FilesThatDiffer(const std::map<std::string, std::string>& before,
-                                      const std::map<std::string, std::string>& after) {
-  std::set<std::string> files;
-  for (const auto& [name, bytes] : after) {
-    const auto old = before.find(name);
-    if (old == before.end() || old->second != bytes) files.insert(name);
+using Names = std::set<std::string>;
+
+Names FilesThatDiffer(const std::map<std::string, std::string>& some,
+                      const std::map<std::string, std::string>& others) {
+  Names files;
+  for (const auto* each : {&some, &others}) {
+    for (const auto& [name, bytes] : *each) {
+      const bool same =
+          some.contains(name) && others.contains(name) && some.at(name) == others.at(name);
+      if (!same) files.insert(name);
+    }
   }
   return files;
 }
 
 // A run of two transactions tells of a file in both of them, a dry run once.
-std::set<std::string> ChangesIn(const std::vector<json>& events) {
-  std::set<std::string> changes;
+Names ChangesIn(const std::vector<json>& events) {
+  Names changes;
   for (const json& event : events) {
     if (event["event"] == "change") changes.insert(event.dump());
   }
@@ -112,14 +123,14 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
     EXPECT_EQ(WithoutChanges(dry), WithoutChanges(events));
     const int run = events.back()["history"];
     const Tree after = Data();
-    ASSERT_NE(FilesThatDiffer(before, after), std::set<std::string>());
+    ASSERT_NE(FilesThatDiffer(before, after), Names());
 
     const Tree all = AllFiles();
     const auto shown = JsonLines(In("history show 1 --json").out);
     EXPECT_EQ(In("undo --dry-run").code, 0);
     EXPECT_EQ(In("history").code, 0);
     EXPECT_TRUE(AllFiles() == all);
-    std::set<std::string> told;
+    Names told;
     for (const json& change : shown) {
       if (change["event"] == "change") told.insert(change["file"]);
     }
@@ -186,13 +197,11 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachClick) {
     // The indexes of a library follow its courses, also those that another run has written.
     const std::string number = std::to_string(click.runs);
     ASSERT_EQ(In("undo " + number).code, 0);
-    EXPECT_EQ(FilesThatDiffer(before, Data()), std::set<std::string>());
-    EXPECT_EQ(FilesThatDiffer(Data(), before), std::set<std::string>());
+    EXPECT_EQ(FilesThatDiffer(before, Data()), Names());
     ASSERT_EQ(In("undo 1").code, 0);
-    EXPECT_EQ(FilesThatDiffer(after, Data()), std::set<std::string>());
-    EXPECT_EQ(FilesThatDiffer(Data(), after), std::set<std::string>());
+    EXPECT_EQ(FilesThatDiffer(after, Data()), Names());
     ASSERT_EQ(In("history forget all").code, 0);
-    for (const auto& [name, bytes] : before) Write(name, bytes);
+    WriteAll(before);
   }
 }
 
@@ -253,21 +262,14 @@ TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
     const Tree before = Data();
     Transfer(kTransfers[c.transfer]);
     Tree after = Data();
-    const auto file = std::find_if(after.begin(), after.end(), [&](const auto& known) {
-      return EqualIgnoringCase(known.first, c.file);
-    });
-    ASSERT_NE(file, after.end());
-    std::string& bytes = file->second;
-    const std::string& old_bytes = before.at(file->first);
-    const std::size_t at =
-        static_cast<std::size_t>(
-            std::mismatch(old_bytes.begin(), old_bytes.end(), bytes.begin()).first -
-            old_bytes.begin()) +
-        c.behind;
+    std::string& bytes = after.at(c.file);
+    const std::string& old_bytes = before.at(c.file);
+    const auto first = std::mismatch(old_bytes.begin(), old_bytes.end(), bytes.begin()).second;
+    const std::size_t at = static_cast<std::size_t>(first - bytes.begin()) + c.behind;
     ASSERT_LT(at, bytes.size());
     const auto changes = JsonLines(In("history show 1 --json").out);
     bytes[at] = static_cast<char>(bytes[at] + 0x21);
-    Write(file->first, bytes);
+    Write(c.file, bytes);
 
     const Ended refused = In("undo --json");
     EXPECT_EQ(refused.code, 1);
@@ -278,7 +280,7 @@ TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
     const json& conflict = conflicts[0];
     EXPECT_EQ(conflict["event"], "conflict");
     EXPECT_TRUE(EqualIgnoringCase(conflict["file"].get<std::string>(), c.file)) << conflict;
-    EXPECT_EQ(conflict["record"], at / LengthOf(file->first) + 1);
+    EXPECT_EQ(conflict["record"], at / LengthOf(c.file) + 1);
     EXPECT_NE(conflict["written"], conflict["found"]);
     const std::string field = conflict["name"];
     EXPECT_TRUE(field.starts_with(c.field)) << field;
@@ -358,7 +360,7 @@ TEST_F(HistoryTest, OthersWhoFollowAnAddedGolferKeepHim) {
 TEST_F(HistoryTest, WhatIsAsBeforeAlreadyCountsAsUndone) {
   const Tree before = Data();
   Transfer(kTransfers[4]);
-  for (const auto& [name, bytes] : before) Write(name, bytes);
+  WriteAll(before);
   EXPECT_EQ(In("undo").code, 0);
   EXPECT_TRUE(Data() == before);
   EXPECT_EQ(States(), "1 undone");
@@ -397,18 +399,9 @@ TEST_F(HistoryTest, AnInterruptedRunIsInTheWayUntilItIsDecidedAbout) {
                   {"--put-back", "", put_back}};
   for (const auto& c : kChoices) {
     SCOPED_TRACE(c.choice);
+    WriteAll(after);
     Write(golfers, changed);
-    for (const auto& [name, bytes] : after) {
-      if (name != golfers) Write(name, bytes);
-    }
-    Interrupt(1);
-    for (const auto& [name, bytes] : AllFiles()) {
-      if (!name.starts_with("transfer-history/000001")) continue;
-      std::string reset = bytes;
-      reset.replace(2 * 512, 3 * 512, 3 * 512, '\0');
-      reset.replace(5 * 512, 512, 512, '\0');
-      Write(name, reset);
-    }
+    Interrupt(1, {2, 3, 4, 5});
     const Tree all = AllFiles();
     for (const std::string words : kReading) {
       const Ended ended = In(words);
@@ -451,26 +444,22 @@ TEST_F(HistoryTest, ARunThatIsLeftCannotBeUndone) {
 TEST_F(HistoryTest, DamagedHistoryFilesAreTold) {
   Transfer(kTransfers[0]);
   Transfer(kTransfers[4]);
-  const Tree all = AllFiles();
-  for (const auto& [name, bytes] : all) {
-    if (!name.starts_with("transfer-history/000002")) continue;
-    for (const std::size_t size :
-         {std::size_t{100}, std::size_t{4096}, std::size_t{4200}, bytes.size() - 1}) {
-      std::string damaged = bytes.substr(0, size);
-      if (size > 4200) damaged[5000] = static_cast<char>(damaged[5000] + 1);
-      Write(name, damaged);
-      for (const std::string words : {"history", "history show 1", "history show 2",
-                                      "undo 1 --dry-run", "undo 2 --dry-run"}) {
-        const Ended ended = In(words);
-        EXPECT_LE(ended.code, 3) << words;
-        EXPECT_EQ(ended.problems.find("fault of the program"), std::string::npos) << words;
-      }
+  const std::string bytes = folder.Read("i/" + HistoryFile(2));
+  for (const std::size_t size :
+       {std::size_t{100}, std::size_t{4096}, bytes.size() - 1, std::size_t{4200}}) {
+    std::string damaged = bytes.substr(0, size);
+    if (size > 4200) damaged[5000] = static_cast<char>(damaged[5000] + 1);
+    Write(HistoryFile(2), damaged);
+    for (const std::string words :
+         {"history", "history show 1", "history show 2", "undo 1 --dry-run", "undo 2 --dry-run"}) {
+      const Ended ended = In(words);
+      EXPECT_LE(ended.code, 3) << words;
+      EXPECT_EQ(ended.problems.find("fault of the program"), std::string::npos) << words;
     }
-    Write(name, bytes.substr(0, 4200));
-    const Ended ended = In("history");
-    EXPECT_EQ(ended.code, 0);
-    EXPECT_NE(ended.problems.find("is damaged."), std::string::npos);
   }
+  const Ended ended = In("history");
+  EXPECT_EQ(ended.code, 0);
+  EXPECT_NE(ended.problems.find("is damaged."), std::string::npos);
 }
 
 TEST_F(HistoryTest, ALogGetsEveryEnd) {

@@ -98,27 +98,25 @@ TEST(CommitTest, AFaultOfTheHistoryFileHasChangedNothing) {
   }
 }
 
-// Says at the nth look that the process is to end.
+// Reports at the nth look that the process is to end.
 class StoppingPlatform : public MemoryPlatform {
  public:
   StoppingPlatform(const MemoryPlatform& disk, int nth)
       : MemoryPlatform(disk.OnSameDisk()), looks_(nth) {}
 
-  std::unique_ptr<StopWatch> WatchStops() override { return std::make_unique<Watch>(looks_); }
+  std::unique_ptr<StopWatch> WatchStops() override {
+    struct Watch : StopWatch {
+      explicit Watch(int& looks) : left(looks) {}
+      int Signal() const override {
+        if (left > 0) --left;
+        return left == 0 ? 15 : 0;
+      }
+      int& left;
+    };
+    return std::make_unique<Watch>(looks_);
+  }
 
  private:
-  class Watch : public StopWatch {
-   public:
-    explicit Watch(int& looks) : looks_(looks) {}
-    int Signal() const override {
-      if (looks_ > 0) --looks_;
-      return looks_ == 0 ? 15 : 0;
-    }
-
-   private:
-    int& looks_;
-  };
-
   int looks_;
 };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <sstream>
 
 #include "history/history_file.h"
 #include "history/memory_install.h"
@@ -63,28 +64,23 @@ std::string Told(const MemoryPlatform& disk) {
   const auto platform = ProcessOn(disk);
   HistoryFile file(kRun, platform->Open("/" + std::string(kRun), FileAccess::kReadOnly));
   std::string told;
-  const auto add = [&](std::initializer_list<std::string_view> texts) {
-    for (const std::string_view text : texts) told.append(text) += '|';
+  const auto add = [&](const auto&... parts) {
+    std::ostringstream line;
+    ((line << parts << '|'), ...);
+    told += line.str();
   };
   try {
-    file.Read({.run =
-                   [&](const RunTitle& title) {
-                     add({title.command, title.about});
-                   },
-               .group =
-                   [&](ChangeGroup group, std::string_view title) {
-                     add({std::to_string(group), title});
-                   },
+    file.Read({.run = [&](const RunTitle& title) { add(title.command, title.about); },
+               .group = [&](ChangeGroup group, std::string_view title) { add(group, title); },
                .file =
                    [&](const HistoryFileEntry& entry) {
-                     add({entry.path, entry.kept_as, std::to_string(entry.old_length),
-                          std::to_string(entry.new_length)});
+                     add(entry.path, entry.kept_as, entry.old_length, entry.new_length);
                    },
                .place =
                    [&](const HistoryPlace& place) {
-                     add({std::to_string(place.offset), place.old_bytes, place.new_bytes});
+                     add(place.offset, place.old_bytes, place.new_bytes);
                    },
-               .report = [&](std::string_view report) { add({report}); }});
+               .report = [&](std::string_view report) { add(report); }});
     EXPECT_TRUE(file.IsWhole());
     return told;
   } catch (const DamagedHistory&) {

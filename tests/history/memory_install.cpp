@@ -16,40 +16,6 @@ namespace {
 
 DateValue Noon() { return DateFromCivil({2024, 5, 13, 12, 0, 0}); }
 
-// Records the events, and calls `look` at each of them.
-class LookingListener : public RecordingListener {
- public:
-  explicit LookingListener(const std::function<void()>& look) : look_(look) {}
-
-  void OnOpen(const Screen& screen) override {
-    RecordingListener::OnOpen(screen);
-    Look();
-  }
-  void OnClose(const Screen& screen) override {
-    RecordingListener::OnClose(screen);
-    Look();
-  }
-  void OnMessage(const Box& box, BoxButton answer) override {
-    RecordingListener::OnMessage(box, answer);
-    Look();
-  }
-  void OnInput(const InputBox& box, const std::string& answer) override {
-    RecordingListener::OnInput(box, answer);
-    Look();
-  }
-  void OnFault(const NumberedError& fault) override {
-    events.push_back("fault " + std::to_string(fault.number()));
-  }
-  void OnNotice(const std::string& text) override { events.push_back("notice " + text); }
-  void OnProgress(const Progress&) override { Look(); }
-  void Look() const {
-    if (look_) look_();
-  }
-
- private:
-  const std::function<void()>& look_;
-};
-
 RecordKinds NamelessKinds() {
   return {
       .layout_of = [](std::string_view name) { return LayoutOfFile(name); },
@@ -171,22 +137,29 @@ std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform
   Application application(std::move(platform));
   application.Start(Noon(), {});
   application.state().remembers_settings = false;
-  LookingListener listener(look);
+  RecordingListener listener;
+  listener.on_event = look;
+  if (look) listener.on_progress = [&](const Progress&) { look(); };
   HeadlessHost host(application.state(), Application::Screens(), listener);
   host.clock = Noon;
   JsonListener unused;  // it would write the events
   std::istringstream lines(deed.script);
   ScriptRunner runner(application.state(), host, unused, lines);
-  host.drive = [&, follow = host.drive](Screen& screen) {
-    follow(screen);
-    listener.Look();
-  };
+  if (look) {
+    host.drive = [&, follow = host.drive](Screen& screen) {
+      follow(screen);
+      look();
+    };
+  }
   try {
     runner.Run();
   } catch (const ClickEnded&) {
     // The listener was told.
   }
-  listener.Look();
+  if (look) look();
+  for (const NumberedError& fault : host.faults()) {
+    listener.events.push_back("fault " + std::to_string(fault.number()));
+  }
   return std::move(listener.events);
 }
 

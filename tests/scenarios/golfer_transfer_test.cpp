@@ -139,7 +139,6 @@ std::string RosterList() {
 class GolferTransferTest : public testing::Test {
  protected:
   void Prepare(const std::string& kelvane, const std::string& quenby, const Choice& choice) {
-    install.ForgetHistory();
     install.folder.Write("kvdata/club.kv5", Header(choice.holes, choice.method));
     install.folder.Write("kvdata/club.kvg", kelvane);
     install.folder.Write("qbdata/QBGOLFER.Q9D", quenby);

@@ -72,7 +72,6 @@ class QbToKvTest : public testing::Test {
   static constexpr double kDay = 45000, kNow = 45600.5;
 
   void Prepare(const Setting& setting, const std::vector<Player>& players) {
-    install.ForgetHistory();
     ScoredRound made;
     auto& course = made.course;
     course.Set<"HoleNumFlag">(setting.roster_holes == 18 ? 18 : -9);

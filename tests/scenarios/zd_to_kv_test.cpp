@@ -108,7 +108,6 @@ std::string Player(int id, int sex, int team, int score, const std::string& last
 class ZDtoKVTest : public testing::Test {
  protected:
   void Prepare(int roster_holes, int league_holes) {
-    install.ForgetHistory();
     const TempFolder& folder = install.folder;
     header = Pattern(781);
     header[152] = static_cast<char>(roster_holes);

@@ -1,7 +1,6 @@
 #include "support/fault_walk.h"
 
 #include <filesystem>
-#include <map>
 #include <set>
 
 #include "app/file_kinds.h"
@@ -21,19 +20,8 @@ std::size_t LengthOf(const std::string& name) {
   return layout ? layout->length : 0;
 }
 
-Files AllFiles(const TempFolder& folder) {
-  const fs::path install = folder.Path();
-  Files files;
-  for (const auto& entry : fs::recursive_directory_iterator(install)) {
-    if (!entry.is_regular_file()) continue;
-    const std::string name = entry.path().lexically_relative(install).generic_string();
-    files[name] = folder.Read(name);
-  }
-  return files;
-}
-
 Files FilesOfRecords(const TempFolder& folder) {
-  Files files = AllFiles(folder);
+  Files files = folder.Files();
   std::erase_if(files, [](const auto& file) { return LengthOf(file.first) == 0; });
   return files;
 }
@@ -59,7 +47,7 @@ class FaultWalk {
  public:
   FaultWalk(TestInstall& install, const std::function<void()>& run,
             const std::vector<std::string>& together)
-      : install_(install), run_(run), together_(together), before_(AllFiles(install.folder)) {
+      : install_(install), run_(run), together_(together), before_(install.folder.Files()) {
     RunFromStart({});
     after_ = FilesOfRecords(install_.folder);
     events_ = install_.events();
