@@ -35,10 +35,6 @@ struct Outcome {
   int updated = 0;
 };
 
-std::string GetRecord(const std::string& file, std::size_t record) {
-  return RecordAt(file, record, kLength);
-}
-
 std::size_t RoundedCount(const std::string& file) {
   return static_cast<std::size_t>(
       std::nearbyint(static_cast<double>(file.size()) / static_cast<double>(kLength)));
@@ -57,14 +53,12 @@ Outcome Expected(const std::string& kelvane, const std::string& quenby,
   Outcome outcome;
   outcome.library = quenby;
   const std::size_t count = RoundedCount(quenby);
-  std::vector<int> links;
-  for (std::size_t j = 1; j <= count; ++j) links.push_back(Int16At(GetRecord(quenby, j), 1224));
   for (std::size_t s = 1; s <= RoundedCount(kelvane); ++s) {
-    std::string course = GetRecord(kelvane, s);
+    std::string course = RecordAt(kelvane, s, kLength);
     Put16(course, 1224, {static_cast<int>(s)});
     bool found = false;
     for (std::size_t j = 1; j <= count; ++j) {
-      if (links[j - 1] != static_cast<int>(s)) continue;
+      if (Int16At(RecordAt(quenby, j, kLength), 1224) != static_cast<int>(s)) continue;
       if (Int16At(course, 0) & 1) ++outcome.updated;
       PutRecord(outcome.library, j, course);
       found = true;
@@ -74,13 +68,14 @@ Outcome Expected(const std::string& kelvane, const std::string& quenby,
   }
   std::multimap<std::string, int> by_name;  // equal names keep the order of their records
   for (std::size_t j = 1; j <= outcome.library.size() / kLength; ++j) {
-    const std::string course = GetRecord(outcome.library, j);
+    const std::string course = RecordAt(outcome.library, j, kLength);
     const std::string name = UpperCase(Trim(course.substr(4, 30)));
     if (Int16At(course, 0) != 0) by_name.emplace(name, static_cast<int>(j));
   }
   std::vector<int> all, of9, of18;
   for (const auto& [name, record] : by_name) {
-    const int holes = Int16At(GetRecord(outcome.library, static_cast<std::size_t>(record)), 2);
+    const int holes =
+        Int16At(outcome.library, (static_cast<std::size_t>(record) - 1) * kLength + 2);
     all.push_back(record);
     if (std::abs(holes) == 9) of9.push_back(record);
     if (holes == 18) of18.push_back(record);
@@ -177,7 +172,6 @@ TEST(CourseTransferTest, AFaultLosesNothing) {
 TEST(CourseTransferTest, ASecondProcessInTheInstallIsRefusedUntouched) {
   TestInstall install;
   install.folder.Write("kvdata/kvcrs.dat", Course("One"));
-  TestInstall other(false);
   const auto lock = MakePlatform(install.folder.Path())->LockRun(install.state().ProgramPath);
   EXPECT_THROW(RunTransfer(install), ClickEnded);
   EXPECT_EQ(install.events().back(), "error 70");
