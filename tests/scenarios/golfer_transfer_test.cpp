@@ -254,25 +254,19 @@ TEST_F(GolferTransferTest, UpdatesTheActiveTournament) {
   EXPECT_TRUE(install.LastMessage().ends_with("' handicaps updated. -> OK"));
 }
 
-// Returns golfers whom Quenby has and golfers whom it does not have, in turn.
-std::string MixedGolfers() {
-  std::string golfers;
-  for (int id = 1; id <= 16; ++id) {
-    golfers += Golfer(100 + id, "Mixed " + std::to_string(id), static_cast<float>(id), 2);
+class FewGolfersTest : public GolferTransferTest {
+ protected:
+  FewGolfersTest() {
+    Prepare(Golfer(102, "Two", 2, 2) + Golfer(103, "New", 3, 2) + Golfer(104, "Four", 4, 2), quenby,
+            {});
   }
-  return golfers;
-}
-std::string EverySecondPlayer() {
-  std::string file;
-  for (int i = 1; i <= 9; ++i) file += Player(0);
-  for (int id = 2; id <= 16; id += 2) file += Player(100 + id) + Player(0);
-  return file;
-}
+
+  // Quenby has the first and the third golfer.
+  const std::string quenby = std::string(9 * kTo, '\0') + Player(102) + Player(0) + Player(104);
+};
 
 // A golfer or an entry that cannot be read is left out.
-TEST_F(GolferTransferTest, AReadFaultLeavesOutByNameAndTheNextRunBringsTheRest) {
-  Prepare(Golfer(102, "Two", 2, 2) + Golfer(103, "New", 3, 2) + Golfer(104, "Four", 4, 2),
-          std::string(9 * kTo, '\0') + Player(102) + Player(0) + Player(104), {});
+TEST_F(FewGolfersTest, AReadFaultLeavesOutByNameAndTheNextRunBringsTheRest) {
   install.folder.Write("qbdata/QBMASTER.Q9D", Master());
   install.folder.Write("qbdata/X0007.Q9G", Updated(Entry(10), 20, 20) + Updated(Entry(12), 20, 20));
   const auto run = [this] {
@@ -284,16 +278,14 @@ TEST_F(GolferTransferTest, AReadFaultLeavesOutByNameAndTheNextRunBringsTheRest) 
 
 // If a record can never be read, its golfer is left out by name, and so is everybody who may be in
 // that record.
-TEST_F(GolferTransferTest, AReadThatAlwaysFailsLeavesOutByName) {
-  Prepare(MixedGolfers(), EverySecondPlayer(), {});
+TEST_F(FewGolfersTest, AReadThatAlwaysFailsLeavesOutByName) {
   install.Restart();
   install.platform->Fail(
-      {.nth = 3, .only = Operation::kRead, .name = "QBGOLFER.Q9D", .stays = true});
+      {.nth = 2, .only = Operation::kRead, .name = "QBGOLFER.Q9D", .stays = true});
   Run({});
-  EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", EverySecondPlayer()));
-  ASSERT_EQ(install.host->faults().size(), 16u);
-  EXPECT_TRUE(
-      install.host->faults()[0].description().starts_with("Ann Mixed 1 was left out: Record "));
+  EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", quenby));
+  ASSERT_EQ(install.host->faults().size(), 3u);
+  EXPECT_TRUE(install.host->faults()[1].description().starts_with("Ann New was left out: Record "));
 }
 
 TEST_F(GolferTransferTest, RefusalsAndHeldFiles) {
