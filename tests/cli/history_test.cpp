@@ -1,4 +1,4 @@
-// The history of runs, undo and recovery, on the demonstration and with the real program.
+// Tests the history of runs, undo and recovery on the demonstration with the real program.
 
 #include <algorithm>
 #include <set>
@@ -23,7 +23,7 @@ constexpr const char* kTransfers[] = {
     "scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18",
     "scores-zd-to-kv --league 00021 --batch 2 --roster CLUB18 --again no"};
 
-// The size of a record, by how the name of a file ends.
+// Returns the length of a record by the end of the file's name.
 std::size_t LengthOf(const std::string& file) {
   constexpr std::pair<const char*, std::size_t> kLengths[] = {
       {".KVG", 2804}, {".KVS", 14700}, {".KV5", 781},  {"QBGOLFER.Q9D", 1867},
@@ -41,13 +41,13 @@ class HistoryTest : public CommandLineTest {
   }
   void Transfer(const std::string& words) { ASSERT_EQ(In(words).code, 0) << words; }
 
-  // The install's files without the history.
+  // Returns the install's files without the history.
   Tree Data() const {
     Tree files = AllFiles();
     std::erase_if(files, [](const auto& file) { return file.first.starts_with("transfer-"); });
     return files;
   }
-  // "3 done, 2 undone": the kept runs by their running numbers.
+  // Returns the kept runs by their running numbers, such as "3 done, 2 undone".
   std::string States() {
     std::string states;
     for (const json& run : JsonLines(In("history --json").out)) {
@@ -69,7 +69,7 @@ class HistoryTest : public CommandLineTest {
     const std::string beginning = "transfer-history/00000" + std::to_string(run);
     return AllFiles().lower_bound(beginning)->first;
   }
-  // Takes marks out of a history file: "done", as if a crash had come before it, or others.
+  // Erases marks of a history file. Without "done" it is that of a crashed run.
   void Interrupt(int run, std::initializer_list<std::size_t> marks = {4}) {
     std::string bytes = folder.Read("i/" + HistoryFile(run));
     for (const std::size_t mark : marks) bytes.replace(mark * 512, 512, 512, '\0');
@@ -92,7 +92,8 @@ Names FilesThatDiffer(const std::map<std::string, std::string>& some,
   return files;
 }
 
-// A run of two transactions tells of a file in both of them, a dry run once.
+// Returns the changes without repetitions. A run of two transactions may report a change in both, a
+// dry run reports it once.
 Names ChangesIn(const std::vector<json>& events) {
   Names changes;
   for (const json& event : events) {
@@ -101,7 +102,7 @@ Names ChangesIn(const std::vector<json>& events) {
   return changes;
 }
 
-// The other events, and the result without what a dry run says otherwise.
+// Returns the other events, and the result without the values that differ in a dry run.
 std::vector<json> WithoutChanges(std::vector<json> events) {
   std::erase_if(events, [](const json& event) { return event["event"] == "change"; });
   events.back().erase("dryRun");
@@ -147,7 +148,7 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
     EXPECT_TRUE(States().starts_with(std::to_string(run + 2) + " done, " + std::to_string(run + 1) +
                                      " undone, " + first + " done"))
         << States();
-    // Without a number an undo takes the transfer and not the undo of its undo.
+    // An undo without a number undoes the transfer and not the undo of its undo.
     ASSERT_EQ(In("undo").code, 0);
     EXPECT_TRUE(Data() == before);
     EXPECT_EQ(In("undo 4").code, 1);  // undone already

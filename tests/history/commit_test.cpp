@@ -1,4 +1,4 @@
-// Commits that fail, and runs that are asked to stop.
+// Tests commits that fail and runs that are requested to stop.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,8 @@
 namespace golf {
 namespace {
 
-// The states in which a deed may leave the files: before it, after each of its transactions.
+// Returns the states in which a deed may leave the files: those before it and after each of its
+// transactions.
 States StatesOf(const Deed& deed) {
   const MemoryPlatform disk = DemoDisk().Copy();
   States states;
@@ -34,8 +35,8 @@ constexpr Operation kChanges[] = {
     Operation::kCreate, Operation::kCreateFolder, Operation::kDelete, Operation::kRename,
     Operation::kWrite,  Operation::kTruncate,     Operation::kSync,   Operation::kSyncFolder};
 
-// Each call that changes something fails once, or with all calls of its kind behind it. The first
-// puts everything back at once, the other at the next start.
+// Makes each call that changes something fail once, or with all later calls of its kind. After a
+// single fault the run puts everything back at once, otherwise the next start does so.
 void FailEachChange(const Deed& deed, Operation operation, bool stays) {
   const States states = StatesOf(deed);
   constexpr ErrorNumber kErrors[] = {ErrorNumber::kDiskFull, ErrorNumber::kDeviceFault,

@@ -14,12 +14,12 @@ namespace {
 
 using Look = std::function<void()>;
 
-// A transaction, and the disk on which it is made.
+// A transaction and the disk before it.
 struct Run {
   std::string name;
   MemoryPlatform before;
   std::function<void(const MemoryPlatform& disk, const Look& look)> make;
-  // The files after it, where the run itself puts everything back.
+  // The files after a run that puts everything back itself.
   std::optional<DataFiles> after = {};
 };
 
@@ -29,7 +29,7 @@ Run RunOf(const Deed& deed) {
           }};
 }
 
-// Its undo, on the disk that it leaves.
+// Returns the undo of a run, on the disk after the run.
 Run UndoOf(const Run& run) {
   MemoryPlatform disk = run.before.Copy();
   run.make(disk, {});
@@ -39,7 +39,7 @@ Run UndoOf(const Run& run) {
           }};
 }
 
-// What a crash or a power cut may leave of a disk.
+// A disk after a crash or a power cut.
 struct Rest {
   std::string name;
   MemoryPlatform disk;
@@ -58,14 +58,14 @@ std::vector<Rest> RestsOf(const MemoryPlatform& dead, int cuts) {
   return rests;
 }
 
-// What starts next on the disk finishes the run, or puts it back.
+// Checks that the next start on the disk finishes the run or puts it back.
 void ExpectRecovery(const MemoryPlatform& disk) {
   const Recovery recovery = Recover(disk);
   EXPECT_FALSE(recovery.stuck) << recovery.stuck_text;
   EXPECT_FALSE(IsUnfinished(disk));
 }
 
-// How much is tried: a run is killed in each of its changes in any case.
+// The number of cases. A run is killed in each of its changes in any case.
 enum class Depth {
   kSample,  // one way to lose power, and one death of the recovery, in turn
   kMost,    // three ways, and every 7th death
@@ -145,7 +145,7 @@ Run EveryKind() {
           [](const MemoryPlatform& disk, const Look&) { CommitEveryKind(*ProcessOn(disk)); }};
 }
 
-// A run whose commit fails once and puts back.
+// Returns a run whose commit fails once and puts everything back.
 Run FailsAndPutsBack(const Run& run, const Fault& fault) {
   const MemoryPlatform disk = run.before.Copy();
   run.make(disk, {});
@@ -201,7 +201,7 @@ TEST(CrashMatrix, DISABLED_EveryCrashOfEveryRecovery) {
 // A process was killed before its done mark was synced. Another run follows, and then the power
 // fails: the mark must not be lost.
 TEST(CrashMatrix, AMarkOutlastsTheRunsThatFollow) {
-  // It dies in the sync of the done mark.
+  // The killed call is the sync of the done mark.
   MemoryPlatform disk = *DiskKilledAt(DiskAfterEveryKind().ChangingCalls());
   {
     const auto platform = ProcessOn(disk);

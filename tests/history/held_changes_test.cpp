@@ -1,4 +1,4 @@
-// What a run holds back reads as if it were on the disk, and reaches the disk at the commit only.
+// Tests that held changes are read as if they were on the disk, and are written at the commit only.
 
 #include <gtest/gtest.h>
 
@@ -32,7 +32,7 @@ class Random {
   std::mt19937_64 random_;
 };
 
-// Makes the same calls on two platforms and compares what comes back.
+// Makes the same calls on two platforms and compares their results.
 class Pair {
  public:
   Pair(Platform& held, Platform& plain) : sides_{Side(held), Side(plain)} {}
@@ -202,7 +202,8 @@ TEST(HeldChangesTest, NetChangesAreHeld) {
   EXPECT_EQ(places(), "");
 }
 
-// Random writes and truncations of one file, with a store that keeps next to nothing in memory.
+// Makes random writes and truncations of one file, with and without a store that keeps its places
+// in memory.
 TEST(HeldChangesTest, SpilledPlacesReadAsWritten) {
   for (const std::size_t memory : {std::size_t{0}, std::size_t{1} << 20}) {
     Random random(7);
@@ -233,7 +234,7 @@ TEST(HeldChangesTest, SpilledPlacesReadAsWritten) {
   }
 }
 
-// A write that cannot be held ends the run: nobody carries on without it.
+// A write that cannot be held ends the run.
 TEST(HeldChangesTest, WhatCannotBeHeldEndsTheRun) {
   MemoryPlatform disk;
   disk.Bytes("a") = std::string(100, 'a');

@@ -1,4 +1,4 @@
-// The code of places, and history files that are damaged.
+// Tests the code of places, and history files that are damaged.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* kRun = "transfer-history/000001-20240513-120000.run";
 
-// Bytes with stretches of one byte, short and long.
+// Returns bytes with short and long stretches of one byte.
 std::string SomeBytes(std::mt19937& random, std::size_t size) {
   std::string bytes;
   while (bytes.size() < size) {
@@ -59,7 +59,7 @@ TEST(HistoryFormatTest, PlacesComeBackFromTheirCode) {
   }
 }
 
-// All that a history file says, or "damaged".
+// Returns the whole content of a history file, or "damaged".
 std::string Told(const MemoryPlatform& disk) {
   const auto platform = ProcessOn(disk);
   HistoryFile file(kRun, platform->Open("/" + std::string(kRun), FileAccess::kReadOnly));
@@ -89,8 +89,8 @@ std::string Told(const MemoryPlatform& disk) {
   }
 }
 
-// The file reads as it was written or is damaged. Recovery finishes the run, puts it back or says
-// that it cannot, and then it has touched nothing.
+// Checks that the file is read as it was written or reported as damaged. Recovery finishes the run
+// or puts it back. Otherwise it reports that it cannot, and changes nothing.
 void CheckDamaged(const MemoryPlatform& disk, const std::string& whole, const DataFiles& before,
                   const DataFiles& after) {
   const std::string told = Told(disk);
@@ -124,7 +124,7 @@ TEST(HistoryFormatTest, DamagedFilesAreFoundOut) {
     const MemoryPlatform killed = *DiskKilledAt(nth);
     const std::string bytes = killed.Copy().Bytes(kRun);
     ASSERT_LT(bytes.size(), 6000U);
-    // Without a place for the commit mark, the file says that nothing was applied.
+    // A file without a place for the commit mark is one of which nothing was applied.
     constexpr std::size_t kCommitMarkEnd = 1024;
     for (std::size_t at = 0; at < bytes.size(); at += at < 4096 ? 61 : 1) {
       SCOPED_TRACE("killed in call " + std::to_string(nth) + ", byte " + std::to_string(at));

@@ -142,7 +142,7 @@ std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform
   if (look) listener.on_progress = [&](const Progress&) { look(); };
   HeadlessHost host(application.state(), Application::Screens(), listener);
   host.clock = Noon;
-  JsonListener unused;  // it would write the events
+  JsonListener unused;  // gets the numbers of the lines, but no events
   std::istringstream lines(deed.script);
   ScriptRunner runner(application.state(), host, unused, lines);
   if (look) {
@@ -154,7 +154,7 @@ std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform
   try {
     runner.Run();
   } catch (const ClickEnded&) {
-    // The listener was told.
+    // The listener has noted the error.
   }
   if (look) look();
   for (const NumberedError& fault : host.faults()) {

@@ -1,5 +1,4 @@
-// What recovery and a commit do where another program has changed a file, and where two processes
-// meet.
+// Tests recovery and commits after another program has changed a file, and two processes at a time.
 
 #include <gtest/gtest.h>
 
@@ -17,7 +16,7 @@ struct Foreign {
   const char* name;
   const char* file;
   std::function<void(HistoryGate&, PlatformFile*)> change;  // no file: it is deleted
-  // Whether it stands in a place of the run. Otherwise it only changes the length of the file.
+  // True if it is in a place that the run changes. Otherwise it only changes the file's length.
   bool in_place = true;
 };
 
@@ -49,7 +48,7 @@ const Foreign kForeign[] = {
     {"a deleted file that the run deletes", "/gone", nullptr, false},
 };
 
-// Everywhere but in its file, the choice is carried out. Its own bytes stay.
+// The choice is carried out in all other files, and the bytes of the other program stay.
 TEST(RecoveryTest, AChangeOfAnotherProgramWaitsForTheOperator) {
   const DataFiles before = DataOf(SmallDisk());
   const DataFiles after = DataOf(DiskAfterEveryKind());

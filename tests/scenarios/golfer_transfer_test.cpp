@@ -257,11 +257,11 @@ TEST_F(GolferTransferTest, UpdatesTheActiveTournament) {
 class FewGolfersTest : public GolferTransferTest {
  protected:
   FewGolfersTest() {
-    Prepare(Golfer(102, "Two", 2, 2) + Golfer(103, "New", 3, 2) + Golfer(104, "Four", 4, 2), quenby,
+    Prepare(Golfer(103, "New", 3, 2) + Golfer(102, "Two", 2, 2) + Golfer(104, "Four", 4, 2), quenby,
             {});
   }
 
-  // Quenby has the first and the third golfer.
+  // Quenby has the second and the third golfer.
   const std::string quenby = std::string(9 * kTo, '\0') + Player(102) + Player(0) + Player(104);
 };
 
@@ -285,7 +285,7 @@ TEST_F(FewGolfersTest, AReadThatAlwaysFailsLeavesOutByName) {
   Run({});
   EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", quenby));
   ASSERT_EQ(install.host->faults().size(), 3u);
-  EXPECT_TRUE(install.host->faults()[1].description().starts_with("Ann New was left out: Record "));
+  EXPECT_TRUE(install.host->faults()[0].description().starts_with("Ann New was left out: Record "));
 }
 
 TEST_F(GolferTransferTest, RefusalsAndHeldFiles) {

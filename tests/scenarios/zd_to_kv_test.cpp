@@ -263,6 +263,17 @@ TEST_F(ZDtoKVTest, AReadFaultLeavesOutByNameAndTheNextRunPostsTheRest) {
   EXPECT_GT(WalkReadFaults(install, run, {"kvdata/CLUB.kvg", "kvdata/CLUB.kvs"}), 5);
 }
 
+// The scores of the golfer before one who cannot be read are not posted again.
+TEST_F(ZDtoKVTest, NoHalfIsPostedForAGolferWhoCannotBeRead) {
+  Prepare(18, 9);
+  install.platform->Fail({.nth = 2, .only = Operation::kRead, .name = ".ZP8"});
+  Run(kEvent2);
+  std::vector<Posted> posted = Cases()[2].posted;
+  posted.pop_back();  // his second half, as a substitute, is the only one
+  ExpectRoster(After(posted));
+  EXPECT_EQ(install.host->faults().size(), 1u);
+}
+
 TEST_F(ZDtoKVTest, RefusalsAndBadInput) {
   const char* settings = "zddata/ZDtoKV.DAT";
   const struct {

@@ -26,7 +26,7 @@ Files FilesOfRecords(const TempFolder& folder) {
   return files;
 }
 
-// Returns a missing file as an empty one.
+// Returns an empty text for a missing file.
 std::string BytesOf(const Files& files, const std::string& name) {
   const auto file = files.find(name);
   return file == files.end() ? "" : file->second;
@@ -94,7 +94,7 @@ class FaultWalk {
     for (const auto& [name, bytes] : files) {
       const auto changed = Differing(bytes, BytesOf(before_, name), LengthOf(name));
       for (const std::size_t record : Differing(bytes, BytesOf(after_, name), LengthOf(name))) {
-        EXPECT_FALSE(changed.contains(record)) << name << " has a strange record " << record;
+        EXPECT_FALSE(changed.contains(record)) << name << ": record " << record << " is neither";
       }
       const bool is_together =
           std::find(together_.begin(), together_.end(), name) != together_.end();

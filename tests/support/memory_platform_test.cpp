@@ -1,4 +1,4 @@
-// The tests of whole runs rest upon what this memory does when the power or the program fails.
+// Tests what the disk in memory contains after a power cut or the end of a process.
 
 #include "support/memory_platform.h"
 
@@ -17,7 +17,7 @@ constexpr std::size_t kPage = 4096;
 
 using FileBytes = std::map<std::string, std::string>;
 
-// Returns the files with their bytes. Those of the folder "D" come without it.
+// Returns the files with their bytes. The names of the files in the folder "D" lack the folder.
 std::string FilesOf(const MemoryPlatform& memory) {
   std::string files;
   for (const auto& [path, bytes] : memory.Files()) {
@@ -27,7 +27,7 @@ std::string FilesOf(const MemoryPlatform& memory) {
   return files;
 }
 
-// Holds "OLD" and "BUSY", both synced.
+// A disk with the synced files "OLD" and "BUSY".
 class MemoryPlatformTest : public testing::Test {
  protected:
   MemoryPlatformTest() {

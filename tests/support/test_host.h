@@ -47,7 +47,7 @@ class RecordingListener : public HostListener {
   void OnEnd() override { Add("end"); }
 
   std::function<void(const Progress&)> on_progress;
-  std::function<void()> on_event;  // called after each event; a box is still shown
+  std::function<void()> on_event;  // called at each event, while its box is still shown
 
  private:
   void Add(std::string event) {
