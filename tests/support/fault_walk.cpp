@@ -66,12 +66,13 @@ class FaultWalk {
     EXPECT_TRUE(error != 0 || noted || install_.events() != events_ || files == after_);
     CheckRecords(files);
     for (const auto& [name, bytes] : before_) {
-      if (LengthOf(name) == 0) install_.folder.Write(name, bytes);  // the operator's choices
+      if (LengthOf(name) == 0) install_.folder.Write(name, bytes);  // with the operator's choices
     }
     install_.Restart();
     run_();
-    for (const auto& [name, bytes] : FilesOfRecords(install_.folder)) {
-      EXPECT_TRUE(SameFile(name, bytes, BytesOf(after_, name)));
+    const Files complete = FilesOfRecords(install_.folder);
+    for (const auto& [name, bytes] : after_) {
+      EXPECT_TRUE(SameFile(name, BytesOf(complete, name), bytes));
     }
     return failed;
   }
@@ -94,7 +95,8 @@ class FaultWalk {
     for (const auto& [name, bytes] : files) {
       const auto changed = Differing(bytes, BytesOf(before_, name), LengthOf(name));
       for (const std::size_t record : Differing(bytes, BytesOf(after_, name), LengthOf(name))) {
-        EXPECT_FALSE(changed.contains(record)) << name << ": record " << record << " is neither";
+        EXPECT_FALSE(changed.contains(record))
+            << name << ": record " << record << " is new and wrong";
       }
       const bool is_together =
           std::find(together_.begin(), together_.end(), name) != together_.end();
