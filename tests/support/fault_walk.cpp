@@ -81,6 +81,9 @@ class FaultWalk {
  private:
   // Returns the number of the error that ends the run.
   int RunFromStart(const std::optional<Fault>& fault) {
+    // Windows does not delete open files.
+    install_.host.reset();
+    install_.application.reset();
     for (const auto& entry : fs::directory_iterator(install_.folder.Path())) {
       fs::remove_all(entry);
     }
