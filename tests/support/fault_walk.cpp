@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <set>
 
-#include "app/file_kinds.h"
+#include "outlets/file_kinds.h"
 #include "support/bytes.h"
 #include "support/same_file.h"
 
