@@ -45,11 +45,14 @@ class FaultyCallsTest : public CommandLineTest {
   }
   // Restores the install and runs the program with a fault in the nth call; see
   // support/faulty_calls.cpp. Sets `came` to whether there is such a call.
-  Ended InFault(const std::string& words, const std::string& fault, int nth, bool& came) {
+  Ended InFault(const std::string& words, const std::string& fault, int nth, bool& came,
+                const std::string& input = "") {
     Restore();
     folder.Remove("faulty");
-    const Ended ended = In(words, "LD_PRELOAD='" GOLF_FAULTY_CALLS "' GOLF_FAULT='" + fault +
-                                      "' GOLF_CALL=" + std::to_string(nth));
+    const Ended ended = In(words,
+                           "LD_PRELOAD='" GOLF_FAULTY_CALLS "' GOLF_FAULT='" + fault +
+                               "' GOLF_CALL=" + std::to_string(nth),
+                           input);
     came = folder.Exists("faulty");
     return ended;
   }
@@ -151,6 +154,33 @@ TEST_F(FaultyCallsTest, AReplacedFileIsFoundAtTheCommit) {
   }
 }
 
+// The update of the tournament is the second transaction of the run.
+TEST_F(FaultyCallsTest, ARequestToStopInTheFirstCommitWaitsForTheSecond) {
+  Begin({kGolfersAndEntries});
+  bool came = false;
+  EXPECT_EQ(InFault(kGolfersAndEntries, "stop", 5, came).code, 0);
+  EXPECT_TRUE(came);
+  EXPECT_EQ(State(), 1U);
+}
+
+// The operator answers the error with Retry. The second call that fails is one of putting back.
+TEST_F(FaultyCallsTest, ACommitThatCannotBePutBackIsNotRetried) {
+  Begin({"golfers-zd-to-qb --league 00011 --to 2"});
+  int interrupted = 0;
+  bool came = true;
+  for (int nth = 1; came; ++nth) {
+    SCOPED_TRACE(nth);
+    const Ended ended = InFault("script -", std::to_string(ENOSPC) + " 2", nth, came,
+                                "open ZDtoQB\nclick SourceButton\npick LeagueList 00011\n"
+                                "click OKLEague\nclick DestButton\nrow grid1 3\n"
+                                "click LoadButton\nanswer Message Retry\nclick TransferButton\n");
+    if (ended.problems.find("is interrupted") == std::string::npos) continue;
+    ++interrupted;
+    EXPECT_EQ(ended.code, 3);
+  }
+  EXPECT_GT(interrupted, 0);
+}
+
 // The test "faulty_calls_full" of CTest runs these.
 TEST_F(FaultyCallsTest, DISABLED_AnyKilledRunIsRecoveredAsAWhole) {
   for (const char* fault : {"tear", "kill"}) CheckKills(kCases, fault);
@@ -165,7 +195,7 @@ TEST_F(FaultyCallsTest, DISABLED_AFailedCallHasChangedNothing) {
       for (int nth = 1; came; ++nth) {
         SCOPED_TRACE(std::string(run.words) + ", error " + std::to_string(error) + " in call " +
                      std::to_string(nth));
-        const Ended ended = InFault(run.words, std::to_string(error), nth, came);
+        const Ended ended = InFault(run.words, std::to_string(error) + " 1", nth, came);
         const std::size_t state = State();
         ASSERT_LT(state, states_.size());
         const bool done = state == states_.size() - 1;

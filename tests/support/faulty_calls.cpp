@@ -6,7 +6,8 @@
 //   GOLF_FAULT  "kill": the process ends before the call
 //               "tear": the same, but half of the bytes of a write reach the file first
 //               "replace:FILE": the file "replacement" becomes FILE before the call
-//               a number: the call fails with this value of errno
+//               "stop": the process gets SIGTERM before the call
+//               "ERRNO COUNT", two numbers: so many calls, from this one on, fail with this errno
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -38,17 +39,21 @@ Function* Real(const char* name) {
 bool Fails(const std::function<void()>& tear = [] {}) {
   constexpr std::string_view kReplace = "replace:";
   static int calls = 0;
-  if (++calls != std::atoi(Variable("GOLF_CALL").data())) return false;
-  close(Real<decltype(open)>("open")("faulty", O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
   const std::string_view fault = Variable("GOLF_FAULT");
+  int error = 0;
+  int count = 1;
+  std::sscanf(fault.data(), "%d %d", &error, &count);
+  const int first = std::atoi(Variable("GOLF_CALL").data());
+  if (++calls < first || calls >= first + count) return false;
+  close(Real<decltype(open)>("open")("faulty", O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
   if (fault.starts_with(kReplace)) {
     Real<decltype(rename)>("rename")("replacement", fault.data() + kReplace.size());
-    return false;
   }
+  if (fault == "stop") raise(SIGTERM);
   if (fault == "tear") tear();
-  if (fault == "tear" || fault == "kill") kill(getpid(), SIGKILL);
-  errno = std::atoi(fault.data());
-  return true;
+  if (fault == "tear" || fault == "kill") raise(SIGKILL);
+  errno = error;
+  return error != 0;
 }
 
 template <class Function, class... Arguments>
