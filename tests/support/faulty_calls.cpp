@@ -7,7 +7,8 @@
 //               "tear": the same, but half of the bytes of a write reach the file first
 //               "replace:FILE": the file "replacement" becomes FILE before the call
 //               "stop": the process gets SIGTERM before the call
-//               "ERRNO COUNT", two numbers: so many calls, from this one on, fail with this errno
+//               "ERRNO": the call fails with this value of errno
+//               "ERRNO COUNT": so many calls fail, from this one on
 
 #include <dlfcn.h>
 #include <fcntl.h>
