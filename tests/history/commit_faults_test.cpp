@@ -6,6 +6,7 @@
 #include "history/memory_install.h"
 #include "history/run_list.h"
 #include "support/error_of.h"
+#include "support/failing_platform.h"
 
 namespace golf {
 namespace {
@@ -100,6 +101,23 @@ TEST(CommitFaultsTest, AKelvaneRosterIsDeletedWholeOrNotAtAll) {
       Do(DeedNamed("delete-kv-roster"), ProcessOn(disk));
       EXPECT_EQ(Difference(DataOf(disk), before), "");
     }
+  }
+}
+
+// A golfer cannot be read.
+TEST(CommitFaultsTest, AQuenbyRosterIsDeletedWholeOrNotAtAll) {
+  const MemoryPlatform done = DemoDisk().Copy();
+  Do(DeedNamed("delete-qb-roster"), ProcessOn(done));
+  bool failed = true;
+  for (int nth = 1; failed; ++nth) {
+    SCOPED_TRACE(nth);
+    MemoryPlatform disk = DemoDisk().Copy();
+    auto failing = std::make_unique<FailingPlatform>(disk);
+    FailingPlatform& platform = *failing;
+    platform.Fail({.nth = nth, .only = Operation::kRead, .name = "QBGOLFER.Q9D"});
+    Do(DeedNamed("delete-qb-roster"), std::move(failing), [&] { failed = platform.Failed(); });
+    const DataFiles left = DataOf(disk);
+    EXPECT_TRUE(left == DataOf(DemoDisk()) || left == DataOf(done));
   }
 }
 
