@@ -20,6 +20,10 @@ class PreviewTest : public CommandLineTest {
     });
     return files;
   }
+  // Data contain moments.
+  Ended Script(const std::string& lines) {
+    return Run("--install i --now \"2026-05-13 12:00:00\" script -", lines);
+  }
   void Restore(const Tree& files) {
     for (const auto& [name, bytes] : AllFiles()) folder.Remove("i/" + name);
     for (const auto& [name, bytes] : files) folder.Write("i/" + name, bytes);
