@@ -324,6 +324,8 @@ TEST_F(GolferTransferTest, AReadThatAlwaysFailsLeavesOutByName) {
   ASSERT_EQ(install.host->faults().size(), 16u);
   EXPECT_TRUE(
       install.host->faults()[0].description().starts_with("Ann Mixed 1 was left out: Record "));
+  EXPECT_TRUE(LeftOutLines(install).starts_with("Mixed 1, Ann: stopped by an error\n"));
+  EXPECT_EQ(install.host->left_out().Count(), 16u);
 }
 
 TEST_F(GolferTransferTest, RefusalsAndHeldFiles) {
