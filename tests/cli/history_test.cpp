@@ -261,15 +261,14 @@ TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
   const json left_out = JsonLines(In(std::string(kTransfers[5]) + " --json").out).back()["leftOut"];
   ASSERT_EQ(left_out.size(), 9u);
   EXPECT_EQ(left_out[0], json::parse(R"({"title":"Farrow, Ruth","reason":"without a score"})"));
-  EXPECT_EQ(left_out[1], json::parse(R"({"title":"Grimaldi, Hugo (89)",
-      "reason":"already transferred, and not transferred again"
-})"));
+  EXPECT_EQ(left_out[1]["title"], "Grimaldi, Hugo (89)");
+  EXPECT_EQ(left_out[1]["reason"], "already transferred, and not transferred again");
   EXPECT_EQ(JsonLines(In("courses-kv-to-qb --json").out).back()["leftOut"], json::array());
-EXPECT_EQ(In("courses-kv-to-qb").out.find("Left out"), std::string::npos);
-// A second update of the tournament changes nothing.
-Transfer(kGolfersKvToQb);
-EXPECT_NE(In(kGolfersKvToQb).out.find("with the same handicap and index already\n    Bergstrom"),
-          std::string::npos);
+  EXPECT_EQ(In("courses-kv-to-qb").out.find("Left out"), std::string::npos);
+  // A second update of the tournament changes nothing.
+  Transfer(kGolfersKvToQb);
+  EXPECT_NE(In(kGolfersKvToQb).out.find("with the same handicap and index already\n    Bergstrom"),
+            std::string::npos);
 }
 
 // Another program changes a byte of what a run has written, in each kind of file.
