@@ -13,6 +13,9 @@
 #include "screens/courses/course_form.h"
 #include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
+#include "screens/history/change_preview.h"
+#include "screens/history/interrupted_run.h"
+#include "screens/history/transfer_history.h"
 #include "screens/results/grid_sort_screen.h"
 #include "screens/results/team_layout_builder.h"
 #include "screens/results/team_layout_list.h"
@@ -76,11 +79,14 @@ ScreenCatalogue Application::Screens() {
   return {{"TransferMenu", Make<TransferMenu>},
           {"TipBox", Make<TipBox>},
           {"GridSort", Make<GridSort>},
+          {"ChangePreview", Make<ChangePreview>},
+          {"InterruptedRun", Make<InterruptedRun>},
           {"LoadRoster", Make<LoadRoster>},
           {"LoadRosters", Make<LoadRosters>},
           {"CourseTable", Make<CourseTable>},
           {"CourseForm", Make<CourseForm>},
           {"CourseTee", Make<CourseTee>},
+          {"TransferHistory", Make<TransferHistory>},
           {"TeamResults", Make<TeamResults>},
           {"TeamLayouts", Make<TeamLayouts>},
           {"XReportsCustomTeamResults", Make<XReportsCustomTeamResults>},
@@ -101,7 +107,8 @@ void Application::Start(DateValue now, const RegionalOverrides& overrides) {
 }
 
 bool CanOpenScreen(const ScreenHost& host, std::string_view name) {
-  constexpr std::string_view kOpenedByOthers[] = {"TipBox", "GridSort", "CourseForm", "CourseTee"};
+  constexpr std::string_view kOpenedByOthers[] = {"TipBox", "GridSort", "CourseForm", "CourseTee",
+                                                  "ChangePreview"};
   const bool by_others = std::find(std::begin(kOpenedByOthers), std::end(kOpenedByOthers), name) !=
                          std::end(kOpenedByOthers);
   return !by_others && host.HasScreen(name);

@@ -107,8 +107,10 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& 
 CLI::App* AddTransfer(CLI::App& app, Options& options, const std::string& name,
                       const std::string& help, const std::string& example, Command& chosen,
                       Command command) {
-  CLI::App* added =
-      AddCommand(app, name, help, "--install golf-demo " + example, chosen, std::move(command));
+  CLI::App* added = AddCommand(app, name, help,
+                               "--install golf-demo " + example +
+                                   " --dry-run\n  golf-transfer-cli --install golf-demo " + example,
+                               chosen, std::move(command));
   added->add_flag("--dry-run", options.dry_run, "Show what would change, and change nothing");
   added->add_option("--log", options.log, "Append the run's report to this file")
       ->type_name("FILE");

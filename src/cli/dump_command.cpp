@@ -4,7 +4,6 @@
 #include <optional>
 #include <utility>
 
-#include "app/file_kinds.h"
 #include "cli/commands.h"
 #include "cli/field_text.h"
 #include "cli/history_command.h"
@@ -13,6 +12,7 @@
 #include "cli/problems.h"
 #include "cli/utf8_path.h"
 #include "core/code_page.h"
+#include "outlets/file_kinds.h"
 
 namespace golf {
 namespace {

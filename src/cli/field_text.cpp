@@ -1,7 +1,5 @@
 #include "cli/field_text.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
 #include "cli/plain_text.h"
@@ -10,48 +8,16 @@
 namespace golf {
 namespace {
 
-std::string Hex(std::string_view bytes) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  std::string hex;
-  for (const char c : bytes) {
-    const auto byte = static_cast<unsigned char>(c);
-    hex += kDigits[byte >> 4];
-    hex += kDigits[byte & 15];
-  }
-  return hex;
-}
-
-// Returns the shortest text that identifies a number, or "" for NaN and the infinities.
-template <class T>
-std::string NumberName(T value) {
-  if constexpr (std::is_floating_point_v<T>) {
-    if (!std::isfinite(value)) return "";
-  }
-  std::array<char, 400> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-  return {buffer.data(), end.ptr};
-}
-
 std::string TextOf(const Field& field, const FieldValue& value) {
-  if (const auto* text = std::get_if<std::string>(&value)) {
-    return field.name.empty() ? Hex(*text) : Utf8FromText(TrimRight(*text));
-  }
-  if (const auto* whole = std::get_if<std::int64_t>(&value)) return NumberName(*whole);
-  if (const auto* single = std::get_if<float>(&value)) return NumberName(*single);
-  return NumberName(std::get<double>(value));
+  const auto* bytes = std::get_if<std::string>(&value);
+  if (bytes != nullptr && field.name.empty()) return HexText(*bytes);
+  return Utf8FromText(ValueText(value));
 }
 
 std::string PlainTextOf(const Field& field, const FieldValue& value) {
   const auto* text = std::get_if<std::string>(&value);
   return text != nullptr && !field.name.empty() ? PlainCell(TrimRight(*text))
                                                 : TextOf(field, value);
-}
-
-// Returns bytes as hex text. Long ones are cut.
-std::string PlainBytes(const Field& field, std::string_view bytes) {
-  constexpr std::size_t kMostBytes = 24;
-  if (bytes.size() <= kMostBytes) return Hex(bytes);
-  return Hex(bytes.substr(0, kMostBytes)) + "... (" + std::to_string(field.width) + " bytes)";
 }
 
 Json JsonOf(const Field& field, const FieldValue& value) {
@@ -99,16 +65,6 @@ Json NestedJson(const Field& field, std::string_view record, std::vector<int>& i
 
 }  // namespace
 
-std::string IndexList(const std::vector<int>& indexes) {
-  std::string list;
-  for (const int index : indexes) list += (list.empty() ? "" : ",") + std::to_string(index);
-  return list;
-}
-
-std::string FieldLabel(const Field& field) {
-  return field.name.empty() ? "bytes@" + std::to_string(field.offset) : std::string(field.name);
-}
-
 Json FieldJson(const Field& field, std::string_view record) {
   std::vector<int> indexes;
   return NestedJson(field, record, indexes);
@@ -131,36 +87,15 @@ std::vector<std::string> ElementTexts(const Field& field, std::string_view recor
   return texts;
 }
 
-std::vector<int> IndexesOf(const Field& field, std::size_t nth) {
-  std::vector<int> indexes(field.rank);
-  for (std::size_t i = field.rank; i-- > 0;) {
-    const auto count = static_cast<std::size_t>(field.dimensions[i].count);
-    indexes[i] = field.dimensions[i].base + static_cast<int>(nth % count);
-    nth /= count;
-  }
-  return indexes;
-}
-
-std::string ElementName(const Field& field, std::size_t nth) {
-  const std::string list = IndexList(IndexesOf(field, nth));
-  return FieldLabel(field) + (list.empty() ? "" : "(" + list + ")");
-}
-
 Json ElementJson(const Field& field, std::string_view record, std::size_t nth) {
   return JsonOf(field, ReadFieldValue(field, record, field.OffsetOfNth(nth)));
-}
-
-std::string PlainElement(const Field& field, std::string_view record, std::size_t nth) {
-  const std::size_t at = field.OffsetOfNth(nth);
-  if (field.name.empty()) return PlainBytes(field, record.substr(at, field.width));
-  return PlainTextOf(field, ReadFieldValue(field, record, at));
 }
 
 std::vector<std::pair<std::string, std::string>> PlainLines(const Field& field,
                                                             std::string_view record) {
   std::vector<std::pair<std::string, std::string>> lines;
   if (field.name.empty() && field.rank == 0) {
-    return {{FieldLabel(field), PlainBytes(field, record.substr(field.offset, field.width))}};
+    return {{FieldLabel(field), ShortHexText(record.substr(field.offset, field.width))}};
   }
   ForEachElement(field, [&](const std::vector<int>& indexes) {
     const bool new_line =

@@ -8,14 +8,12 @@
 
 #include "cli/json_text.h"
 #include "core/field.h"
+#include "outlets/field_values.h"
 
 namespace golf {
 
 // These functions convert the fields of a record for people and programs. Texts lose their trailing
 // blanks, bytes without a name become hex text, and the output is UTF-8.
-
-// Returns a field's name, or "bytes@OFFSET" if it has none.
-std::string FieldLabel(const Field& field);
 
 // Returns the value of a field. A table becomes nested arrays in the order of its indexes. NaN and
 // the infinities become null.
@@ -26,16 +24,9 @@ Json FieldJson(const Field& field, std::string_view record);
 std::vector<std::string> ElementNames(const Field& field);
 std::vector<std::string> ElementTexts(const Field& field, std::string_view record);
 
-// These return the name of one element, its value as in FieldJson, and its text in one line for
-// people. `nth` counts the elements in the order above, from 0. PlainElement cuts long bytes
-// without a name.
-std::string ElementName(const Field& field, std::size_t nth);
+// Returns the value of one element as in FieldJson. `nth` counts the elements in the order above,
+// from 0.
 Json ElementJson(const Field& field, std::string_view record, std::size_t nth);
-std::string PlainElement(const Field& field, std::string_view record, std::size_t nth);
-// Returns the indexes of an element.
-std::vector<int> IndexesOf(const Field& field, std::size_t nth);
-// Returns indexes as a text such as "1,18".
-std::string IndexList(const std::vector<int>& indexes);
 
 // Returns lines that consist of a label and values. A table of two indexes has a line for each
 // value of the first index. Any other field has one line.

@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <iostream>
 
-#include "app/record_kinds.h"
 #include "cli/change_text.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
 #include "core/number_text.h"
+#include "outlets/change_summary.h"
+#include "outlets/record_kinds.h"
 
 namespace golf {
 namespace {
@@ -34,16 +35,6 @@ void WriteRuns(const KeptRuns& list, bool json) {
   } else {
     WriteTable({"No.", "Moment", "Command", "About", "Changes", "State"}, rows);
   }
-}
-
-std::string ReportOf(HistoryFolder& folder, const HistoryRun& run) {
-  std::string report;
-  for (const HistoryName& part : run.parts) {
-    folder.Open(part, FileAccess::kReadOnly)->Read({.report = [&](std::string_view text) {
-      if (!text.empty()) report.append(report.empty() ? "" : "\n").append(text);
-    }});
-  }
-  return report;
 }
 
 void WriteReport(const HistoryRun& run, const std::string& report, bool json) {
@@ -90,21 +81,22 @@ std::string MomentText(DateValue moment) {
   return FormatPicture(CivilFromDate(moment), "yyyy'-'MM'-'dd HH':'mm':'ss");
 }
 
-std::int64_t WriteChangeCounts(bool json, const EachChange& for_each) {
-  ChangeCounts counts;
+std::int64_t WriteChangeCounts(const RecordKinds& kinds, bool json, const EachChange& for_each) {
+  ChangeSummary summary(kinds);
   for_each([&](const RecordChange& change) {
-    counts.Add(change);
+    summary.Add(change);
     if (json) WriteJsonLine(ChangeJson(change));
   });
-  if (!json) counts.Write();
-  return counts.Count();
+  if (!json) std::cout << summary.Text() << '\n';
+  return summary.Count();
 }
 
-void WriteChangeDetails(const RecordKinds& kinds, const EachChange& for_each) {
+void WriteChangeDetails(SharedState& state, const RecordKinds& kinds, const EachChange& for_each) {
+  ChangeDescriber describer(state);
   for_each([&](const RecordChange& change) {
-    if (change.record == 0 || !kinds.derived_from(change.file).empty()) return;
+    if (!kinds.derived_from(change.file).empty()) return;
     std::cout << '\n';
-    WriteChange(change);
+    WriteChange(describer, change);
   });
 }
 
@@ -124,13 +116,9 @@ ExitCode RunHistoryShow(const Options& options, std::int32_t number) {
   HistoryFolder& folder = state.transactions->history();
   WriteReport(run, ReportOf(folder, run), options.json);
   const RecordKinds kinds = MakeRecordKinds(state);
-  const EachChange each_change = [&](const auto& each) {
-    for (const HistoryName& part : run.parts) {
-      ForEachChange(*folder.Open(part, FileAccess::kReadOnly), kinds, each);
-    }
-  };
-  WriteChangeCounts(options.json, each_change);
-  if (!options.json) WriteChangeDetails(kinds, each_change);
+  const EachChange each_change = [&](const auto& each) { ForEachChange(folder, run, kinds, each); };
+  WriteChangeCounts(kinds, options.json, each_change);
+  if (!options.json) WriteChangeDetails(state, kinds, each_change);
   return ExitCode::kDone;
 }
 

@@ -21,14 +21,11 @@ const HistoryRun& RunOfNumber(const KeptRuns& list, std::int64_t number);
 // Returns a moment as a text such as "2026-11-22 18:30:05".
 std::string MomentText(DateValue moment);
 
-// Calls the given function once for each change. It can be called several times.
-using EachChange = std::function<void(const std::function<void(const RecordChange&)>&)>;
-
-// Writes each change as an event if `json` is true, or else a table of their counts. Returns the
+// Writes each change as an event if `json` is true, or else one line with their counts. Returns the
 // number of changes.
-std::int64_t WriteChangeCounts(bool json, const EachChange& for_each);
+std::int64_t WriteChangeCounts(const RecordKinds& kinds, bool json, const EachChange& for_each);
 // Writes for people what changed, field by field. Leaves out files such as course indexes, which
 // are derived from other files.
-void WriteChangeDetails(const RecordKinds& kinds, const EachChange& for_each);
+void WriteChangeDetails(SharedState& state, const RecordKinds& kinds, const EachChange& for_each);
 
 }  // namespace golf

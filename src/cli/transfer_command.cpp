@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "app/record_kinds.h"
 #include "cli/commands.h"
 #include "cli/history_command.h"
 #include "cli/json_listener.h"
@@ -14,6 +13,7 @@
 #include "cli/problems.h"
 #include "cli/progress_bar.h"
 #include "cli/transfer_log.h"
+#include "outlets/record_kinds.h"
 
 namespace golf {
 namespace {
@@ -152,10 +152,8 @@ void WriteHeldChanges(const Options& options, SharedState& state) {
     ForEachChange(*transactions.held().held(), transactions.history().paths(), kinds, each);
   };
   if (!options.json) std::cout << "\nA dry run: nothing was changed. The run would change:\n\n";
-  const std::int64_t changes = WriteChangeCounts(options.json, each_change);
-  if (options.json) return;
-  if (changes == 0) std::cout << "Nothing.\n";
-  WriteChangeDetails(kinds, each_change);
+  WriteChangeCounts(kinds, options.json, each_change);
+  if (!options.json) WriteChangeDetails(state, kinds, each_change);
 }
 
 ExitCode Transfer(const Options& options, const TransferCommand& command, Application& application,

@@ -1,14 +1,14 @@
 #include <algorithm>
 #include <iostream>
 
-#include "app/record_kinds.h"
-#include "app/undo_run.h"
 #include "cli/change_text.h"
 #include "cli/history_command.h"
 #include "cli/json_listener.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
+#include "outlets/record_kinds.h"
 #include "screens/file_changes.h"
+#include "transfers/undo_run.h"
 
 namespace golf {
 namespace {
@@ -31,10 +31,8 @@ class JsonProblemListener : public JsonListener {
 // Returns the run to undo. Raises Refusal if it cannot be undone.
 const HistoryRun& ChosenRun(const KeptRuns& list, const UndoRequest& request) {
   if (!request.number) {
-    const auto newest = std::find_if(list.runs.begin(), list.runs.end(), [](const HistoryRun& run) {
-      return run.state == RunState::kDone && !run.IsUndo();
-    });
-    if (newest == list.runs.end()) throw Refusal("There is no run to undo.");
+    const HistoryRun* const newest = NewestToUndo(list);
+    if (newest == nullptr) throw Refusal("There is no run to undo.");
     return *newest;
   }
   const HistoryRun& run = RunOfNumber(list, *request.number);
@@ -71,11 +69,7 @@ class UndoCommand {
       ShowHeld();
       return ExitCode::kDone;
     }
-    const std::int32_t committed = transactions_.Commit(Report());
-    if (committed == 0 && result_.conflicts.empty()) {
-      MarkUndone(transactions_.history(), run_);
-    }
-    ShowCommitted(committed);
+    ShowCommitted(CommitUndoOfRun(transactions_, run_, result_));
     return ExitCode::kDone;
   }
 
@@ -89,7 +83,7 @@ class UndoCommand {
     if (options_.json) {
       for (const Json& event : ConflictJson(conflict)) WriteJsonLine(event);
     } else {
-      (request_.skip_changed ? std::cout : std::cerr) << ConflictText(conflict);
+      (request_.skip_changed ? std::cout : std::cerr) << ConflictText(conflict, state_.DateFormat);
     }
   }
 
@@ -108,26 +102,13 @@ class UndoCommand {
     return std::to_string(count) + (count == 1 ? " record has" : " records have");
   }
 
-  std::string Report() const {
-    std::string report =
-        "Undo of the run of " + MomentText(run_.title.moment) + ": " + run_.title.command;
-    if (!run_.title.about.empty()) report += " " + run_.title.about;
-    if (!result_.conflicts.empty()) report += "\r\nLeft as they are:";
-    for (const UndoConflict& conflict : result_.conflicts) {
-      report += "\r\n" + conflict.file;
-      if (conflict.record > 0) report += ", record " + std::to_string(conflict.record);
-      report += ": " + conflict.title;
-    }
-    return report;
-  }
-
   void ShowHeld() {
     const RecordKinds kinds = MakeRecordKinds(state_);
     const EachChange each_change = [&](const auto& each) {
       ForEachChange(*transactions_.held().held(), transactions_.history().paths(), kinds, each);
     };
-    const std::int64_t changes = WriteChangeCounts(options_.json, each_change);
-    if (!options_.json) WriteChangeDetails(kinds, each_change);
+    const std::int64_t changes = WriteChangeCounts(kinds, options_.json, each_change);
+    if (!options_.json) WriteChangeDetails(state_, kinds, each_change);
     transactions_.Drop();
     WriteEnd(changes, 0);
   }
@@ -137,7 +118,7 @@ class UndoCommand {
     if (committed != 0) {
       HistoryFolder& folder = transactions_.history();
       const RecordKinds kinds = MakeRecordKinds(state_);
-      changes = WriteChangeCounts(options_.json, [&](const auto& each) {
+      changes = WriteChangeCounts(kinds, options_.json, [&](const auto& each) {
         for (const HistoryName& name : folder.List()) {
           if (name.run != committed) continue;
           ForEachChange(*folder.Open(name, FileAccess::kReadOnly), kinds, each);

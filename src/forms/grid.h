@@ -75,6 +75,8 @@ class Grid : public Control {
   std::function<void()> on_row_change;
   std::function<void()> on_double_click;
   std::function<void(int column, int row)> on_change;
+  // Runs when the operator clicks the heading of a column.
+  std::function<void(int column)> on_heading_click;
 
  private:
   struct ColumnInfo {

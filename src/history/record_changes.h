@@ -31,6 +31,9 @@ struct RecordChange {
   std::string new_bytes = {};
 };
 
+// Calls the given function once for each change. It can be called several times.
+using EachChange = std::function<void(const std::function<void(const RecordChange&)>&)>;
+
 // Calls `each` for the changes of a run, in the order of its history file: for each file, then for
 // each of its records. Raises DamagedHistory if the history file is damaged.
 void ForEachChange(HistoryFile& history, const RecordKinds& kinds,

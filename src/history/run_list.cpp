@@ -68,6 +68,30 @@ KeptRuns ListRuns(HistoryFolder& folder) {
   return list;
 }
 
+const HistoryRun* NewestToUndo(const KeptRuns& list) {
+  const auto newest = std::find_if(list.runs.begin(), list.runs.end(), [](const HistoryRun& run) {
+    return run.state == RunState::kDone && !run.IsUndo();
+  });
+  return newest == list.runs.end() ? nullptr : &*newest;
+}
+
+std::string ReportOf(HistoryFolder& folder, const HistoryRun& run) {
+  std::string report;
+  for (const HistoryName& part : run.parts) {
+    folder.Open(part, FileAccess::kReadOnly)->Read({.report = [&](std::string_view text) {
+      if (!text.empty()) report.append(report.empty() ? "" : "\n").append(text);
+    }});
+  }
+  return report;
+}
+
+void ForEachChange(HistoryFolder& folder, const HistoryRun& run, const RecordKinds& kinds,
+                   const std::function<void(const RecordChange&)>& each) {
+  for (const HistoryName& part : run.parts) {
+    ForEachChange(*folder.Open(part, FileAccess::kReadOnly), kinds, each);
+  }
+}
+
 void MarkUndone(HistoryFolder& folder, const HistoryRun& run) {
   for (const HistoryName& part : run.parts) {
     folder.Open(part, FileAccess::kAlone)->Put(folder.gate(), HistoryMark::kUndone);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "history/history_folder.h"
+#include "history/record_changes.h"
 
 namespace golf {
 
@@ -34,6 +35,16 @@ struct KeptRuns {
 // Lists the runs in the history. Leaves out parts that were put back or never applied, and history
 // files that another process has open exclusively. Changes nothing.
 KeptRuns ListRuns(HistoryFolder& folder);
+
+// Returns the newest run that is done and is not an undo, or null if there is none.
+const HistoryRun* NewestToUndo(const KeptRuns& list);
+
+// Returns the reports of a run's parts, each in lines of its own.
+std::string ReportOf(HistoryFolder& folder, const HistoryRun& run);
+
+// Calls `each` for the changes of a run, part by part. See ForEachChange of a history file.
+void ForEachChange(HistoryFolder& folder, const HistoryRun& run, const RecordKinds& kinds,
+                   const std::function<void(const RecordChange&)>& each);
 
 // Marks a run as undone, if no run in the history has put it back. Raises error 70 if another
 // process has its history file open.

@@ -65,6 +65,8 @@ void Transactions::HoldForGood() {
 }
 
 void Transactions::EndClick() {
+  preview_ = false;
+  previewed_report_.clear();
   if (IsOpen()) Drop();
   committed_in_click_ = 0;
   if (stops_ != nullptr && !stop_raised_) missed_signal_ = stops_->Signal();
@@ -79,6 +81,7 @@ void Transactions::CheckStopped() {
 }
 
 void Transactions::Begin(RunTitle title) {
+  if (preview_ && IsOpen()) return;
   title_ = std::move(title);
   if (!dry_run_) held_.Hold();
 }
@@ -96,12 +99,19 @@ std::int32_t Transactions::Commit(std::string_view report) {
   HeldChanges& changes = *held_.held();
   CheckStopped();
   if (dry_run_) return 0;
+  std::string reports = previewed_report_;
+  if (!reports.empty() && !report.empty()) reports += "\r\n";
+  reports += report;
+  if (preview_) {
+    previewed_report_ = std::move(reports);
+    return 0;
+  }
   if (!HasNetChange(changes)) {
     Drop();
     return 0;
   }
   try {
-    return CommitChanges(changes, report);
+    return CommitChanges(changes, reports);
   } catch (const RunInterrupted& error) {
     throw CommitFailed(error, true);
   } catch (const NumberedError& error) {

@@ -83,7 +83,14 @@ class Transactions {
   void HoldForGood();
   bool IsDryRun() const { return dry_run_; }
 
-  // Begins a transaction. Drops changes that were held before, except in a dry run.
+  // Begins a preview, which lasts until EndPreview or EndClick. All transactions of the click
+  // become one: Begin keeps the changes that are held, and Commit adds its report to those before
+  // and returns 0. The next Commit after EndPreview commits everything.
+  void BeginPreview() { preview_ = true; }
+  void EndPreview() { preview_ = false; }
+  bool IsPreview() const { return preview_; }
+
+  // Begins a transaction. Drops changes that were held before, except in a dry run or a preview.
   void Begin(RunTitle title);
   bool IsOpen() const { return held_.held() != nullptr; }
   // Begins a group for the following changes. They belong to the run as a whole if `title` is
@@ -128,21 +135,24 @@ class Transactions {
   std::int32_t last_committed_ = 0;
   std::unique_ptr<StopWatch> stops_;
   bool dry_run_ = false;
+  bool preview_ = false;
+  std::string previewed_report_;  // of the transactions of a preview
   bool stop_raised_ = false;
   int missed_signal_ = 0;  // a request that came too late to stop a run; 0 for none
 };
 
 // Runs a statement in an open transaction, then commits. If the statement raises a numbered error,
-// commits the changes that it has made before, and raises the error again.
+// commits the changes that it has made before, and raises the error again. `commit` gets that error
+// or null.
 template <class Statement, class Commit>
 void RunAndCommit(const Statement& statement, const Commit& commit) {
   try {
     statement();
-  } catch (const NumberedError&) {
-    commit();
+  } catch (const NumberedError& error) {
+    commit(&error);
     throw;
   }
-  commit();
+  commit(nullptr);
 }
 
 }  // namespace golf

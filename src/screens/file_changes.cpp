@@ -29,6 +29,7 @@ ChangingClick::ChangingClick(SharedState& state, ScreenHost& host)
     : transactions_(*state.transactions), lock_(state.files.platform().LockRun(state.ProgramPath)) {
   const Recovery recovery = Recover(state, host);
   if (recovery.stuck) {
+    lock_.reset();  // the operator may decide at once
     host.NoteUnfinishedRun(recovery.stuck_text +
                            " Nothing can be changed before you decide what becomes of it: finish "
                            "it, put it back, or leave it as it is (golf-transfer-cli recover "
@@ -50,7 +51,7 @@ bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std:
   Transactions& transactions = *state.transactions;
   transactions.Begin({.command = std::move(command), .about = about});
   transactions.BeginGroup(about);
-  RunAndCommit(change, [&] { transactions.Commit(""); });
+  RunAndCommit(change, [&](const NumberedError*) { transactions.Commit(""); });
   return true;
 }
 

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -28,18 +26,7 @@ class CommandLineTest : public testing::Test {
 
   void SetUp() override { ASSERT_EQ(Run("demo i").code, 0); }
 
-  Tree AllFiles() const {
-    namespace fs = std::filesystem;
-    Tree files;
-    const fs::path install = folder.Path("i");
-    for (const auto& entry : fs::recursive_directory_iterator(install)) {
-      if (!entry.is_regular_file()) continue;
-      std::ifstream file(entry.path(), std::ios::binary);
-      files[entry.path().lexically_relative(install).generic_string()].assign(
-          std::istreambuf_iterator<char>(file), {});
-    }
-    return files;
-  }
+  Tree AllFiles() const { return folder.Files("i"); }
 
   TempFolder folder;
 };

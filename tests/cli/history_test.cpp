@@ -1,4 +1,4 @@
-// The history of runs, undo and recovery, on the demonstration and with the real program.
+// Tests the history of runs, undo and recovery on the demonstration with the real program.
 
 #include <algorithm>
 #include <set>
@@ -23,7 +23,7 @@ constexpr const char* kTransfers[] = {
     "scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18",
     "scores-zd-to-kv --league 00021 --batch 2 --roster CLUB18 --again no"};
 
-// The size of a record, by how the name of a file ends.
+// Returns the length of a record by the end of the file's name.
 std::size_t LengthOf(const std::string& file) {
   constexpr std::pair<const char*, std::size_t> kLengths[] = {
       {".KVG", 2804}, {".KVS", 14700}, {".KV5", 781},  {"QBGOLFER.Q9D", 1867},
@@ -41,13 +41,13 @@ class HistoryTest : public CommandLineTest {
   }
   void Transfer(const std::string& words) { ASSERT_EQ(In(words).code, 0) << words; }
 
-  // The install's files without the history.
+  // Returns the install's files without the history.
   Tree Data() const {
     Tree files = AllFiles();
     std::erase_if(files, [](const auto& file) { return file.first.starts_with("transfer-"); });
     return files;
   }
-  // "3 done, 2 undone": the kept runs by their running numbers.
+  // Returns the kept runs by their running numbers, such as "3 done, 2 undone".
   std::string States() {
     std::string states;
     for (const json& run : JsonLines(In("history --json").out)) {
@@ -60,37 +60,49 @@ class HistoryTest : public CommandLineTest {
     folder.Write("i/" + file, bytes);
   }
 
-  // Takes the mark "done" out of a history file, as if a crash had come before it.
-  void Interrupt(int run) {
-    for (const auto& [name, bytes] : AllFiles()) {
-      if (!name.starts_with("transfer-history/00000" + std::to_string(run))) continue;
-      std::string cut = bytes;
-      cut.replace(4 * 512, 512, 512, '\0');
-      Write(name, cut);
-    }
+  void WriteAll(const Tree& files) {
+    for (const auto& [name, bytes] : files) Write(name, bytes);
+  }
+
+  // Returns the name of a run's history file.
+  std::string HistoryFile(int run) const {
+    const std::string beginning = "transfer-history/00000" + std::to_string(run);
+    return AllFiles().lower_bound(beginning)->first;
+  }
+  // Erases marks of a history file. Without "done" it is that of a crashed run.
+  void Interrupt(int run, std::initializer_list<std::size_t> marks = {4}) {
+    std::string bytes = folder.Read("i/" + HistoryFile(run));
+    for (const std::size_t mark : marks) bytes.replace(mark * 512, 512, 512, '\0');
+    Write(HistoryFile(run), bytes);
   }
 };
 
-std::set<std::string> FilesThatDiffer(const std::map<std::string, std::string>& before,
-                                      const std::map<std::string, std::string>& after) {
-  std::set<std::string> files;
-  for (const auto& [name, bytes] : after) {
-    const auto old = before.find(name);
-    if (old == before.end() || old->second != bytes) files.insert(name);
+using Names = std::set<std::string>;
+
+Names FilesThatDiffer(const std::map<std::string, std::string>& some,
+                      const std::map<std::string, std::string>& others) {
+  Names files;
+  for (const auto* each : {&some, &others}) {
+    for (const auto& [name, bytes] : *each) {
+      const bool same =
+          some.contains(name) && others.contains(name) && some.at(name) == others.at(name);
+      if (!same) files.insert(name);
+    }
   }
   return files;
 }
 
-// A run of two transactions tells of a file in both of them, a dry run once.
-std::set<std::string> ChangesIn(const std::vector<json>& events) {
-  std::set<std::string> changes;
+// Returns the changes without repetitions. A run of two transactions may report a change in both, a
+// dry run reports it once.
+Names ChangesIn(const std::vector<json>& events) {
+  Names changes;
   for (const json& event : events) {
     if (event["event"] == "change") changes.insert(event.dump());
   }
   return changes;
 }
 
-// The other events, and the result without what a dry run says otherwise.
+// Returns the other events, and the result without the values that differ in a dry run.
 std::vector<json> WithoutChanges(std::vector<json> events) {
   std::erase_if(events, [](const json& event) { return event["event"] == "change"; });
   events.back().erase("dryRun");
@@ -112,14 +124,14 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
     EXPECT_EQ(WithoutChanges(dry), WithoutChanges(events));
     const int run = events.back()["history"];
     const Tree after = Data();
-    ASSERT_NE(FilesThatDiffer(before, after), std::set<std::string>());
+    ASSERT_NE(FilesThatDiffer(before, after), Names());
 
     const Tree all = AllFiles();
     const auto shown = JsonLines(In("history show 1 --json").out);
     EXPECT_EQ(In("undo --dry-run").code, 0);
     EXPECT_EQ(In("history").code, 0);
     EXPECT_TRUE(AllFiles() == all);
-    std::set<std::string> told;
+    Names told;
     for (const json& change : shown) {
       if (change["event"] == "change") told.insert(change["file"]);
     }
@@ -136,7 +148,7 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
     EXPECT_TRUE(States().starts_with(std::to_string(run + 2) + " done, " + std::to_string(run + 1) +
                                      " undone, " + first + " done"))
         << States();
-    // Without a number an undo takes the transfer and not the undo of its undo.
+    // An undo without a number undoes the transfer and not the undo of its undo.
     ASSERT_EQ(In("undo").code, 0);
     EXPECT_TRUE(Data() == before);
     EXPECT_EQ(In("undo 4").code, 1);  // undone already
@@ -186,13 +198,11 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachClick) {
     // The indexes of a library follow its courses, also those that another run has written.
     const std::string number = std::to_string(click.runs);
     ASSERT_EQ(In("undo " + number).code, 0);
-    EXPECT_EQ(FilesThatDiffer(before, Data()), std::set<std::string>());
-    EXPECT_EQ(FilesThatDiffer(Data(), before), std::set<std::string>());
+    EXPECT_EQ(FilesThatDiffer(before, Data()), Names());
     ASSERT_EQ(In("undo 1").code, 0);
-    EXPECT_EQ(FilesThatDiffer(after, Data()), std::set<std::string>());
-    EXPECT_EQ(FilesThatDiffer(Data(), after), std::set<std::string>());
+    EXPECT_EQ(FilesThatDiffer(after, Data()), Names());
     ASSERT_EQ(In("history forget all").code, 0);
-    for (const auto& [name, bytes] : before) Write(name, bytes);
+    WriteAll(before);
   }
 }
 
@@ -220,7 +230,10 @@ TEST_F(HistoryTest, ChangesHaveTheFormOfADump) {
   EXPECT_EQ((*added)["fields"][0], json::parse(R"({"name":"IDNum","old":null,"new":111})"));
   const std::string text = In("history show 1").out;
   EXPECT_NE(text.find("10 golfers updated."), std::string::npos);
-  EXPECT_NE(text.find("qbdata/X0001.Q9G, record 3: Duarte, Ines (Autumn Medal) (changed)\n"
+  EXPECT_NE(text.find("\n10 golfers changed, 2 added in Quenby; 12 tournament entries changed in "
+                      "Quenby; 2 files\n"),
+            std::string::npos);
+  EXPECT_NE(text.find("Duarte, Ines (Autumn Medal): changed in qbdata/X0001.Q9G, record 3\n"
                       "  TourIndex(3) to (7)          0 0 0 0 0 -> 22.5 22.5 22.5 22.5 22.5\n"),
             std::string::npos)
       << text;
@@ -298,21 +311,14 @@ TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
     const Tree before = Data();
     Transfer(kTransfers[c.transfer]);
     Tree after = Data();
-    const auto file = std::find_if(after.begin(), after.end(), [&](const auto& known) {
-      return EqualIgnoringCase(known.first, c.file);
-    });
-    ASSERT_NE(file, after.end());
-    std::string& bytes = file->second;
-    const std::string& old_bytes = before.at(file->first);
-    const std::size_t at =
-        static_cast<std::size_t>(
-            std::mismatch(old_bytes.begin(), old_bytes.end(), bytes.begin()).first -
-            old_bytes.begin()) +
-        c.behind;
+    std::string& bytes = after.at(c.file);
+    const std::string& old_bytes = before.at(c.file);
+    const auto first = std::mismatch(old_bytes.begin(), old_bytes.end(), bytes.begin()).second;
+    const std::size_t at = static_cast<std::size_t>(first - bytes.begin()) + c.behind;
     ASSERT_LT(at, bytes.size());
     const auto changes = JsonLines(In("history show 1 --json").out);
     bytes[at] = static_cast<char>(bytes[at] + 0x21);
-    Write(file->first, bytes);
+    Write(c.file, bytes);
 
     const Ended refused = In("undo --json");
     EXPECT_EQ(refused.code, 1);
@@ -323,7 +329,7 @@ TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
     const json& conflict = conflicts[0];
     EXPECT_EQ(conflict["event"], "conflict");
     EXPECT_TRUE(EqualIgnoringCase(conflict["file"].get<std::string>(), c.file)) << conflict;
-    EXPECT_EQ(conflict["record"], at / LengthOf(file->first) + 1);
+    EXPECT_EQ(conflict["record"], at / LengthOf(c.file) + 1);
     EXPECT_NE(conflict["written"], conflict["found"]);
     const std::string field = conflict["name"];
     EXPECT_TRUE(field.starts_with(c.field)) << field;
@@ -378,7 +384,7 @@ TEST_F(HistoryTest, AnAddedGolferWhoPlaysByNowStays) {
   const Ended refused = In("undo");
   EXPECT_EQ(refused.code, 1);
   EXPECT_TRUE(
-      refused.problems.starts_with("qbdata/QBGOLFER.Q9D, record 22: Lindqvist, Nora\n"
+      refused.problems.starts_with("Lindqvist, Nora: qbdata/QBGOLFER.Q9D, record 22\n"
                                    "  Tournament \"Autumn Medal\" refers to it by now.\n"))
       << refused.problems;
   const std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
@@ -403,7 +409,7 @@ TEST_F(HistoryTest, OthersWhoFollowAnAddedGolferKeepHim) {
 TEST_F(HistoryTest, WhatIsAsBeforeAlreadyCountsAsUndone) {
   const Tree before = Data();
   Transfer(kTransfers[4]);
-  for (const auto& [name, bytes] : before) Write(name, bytes);
+  WriteAll(before);
   EXPECT_EQ(In("undo").code, 0);
   EXPECT_TRUE(Data() == before);
   EXPECT_EQ(States(), "1 undone");
@@ -437,23 +443,14 @@ TEST_F(HistoryTest, AnInterruptedRunIsInTheWayUntilItIsDecidedAbout) {
     const char* choice;
     const char* state;
     const std::string& golfers;
-  } kChoices[] = {{"--leave", "1 left", changed},
-                  {"--finish", "1 done", changed},
-                  {"--put-back", "", put_back}};
+  } kChoices[] = {{"--finish", "1 done", changed},
+                  {"--put-back", "", put_back},
+                  {"--leave", "1 left", changed}};
   for (const auto& c : kChoices) {
     SCOPED_TRACE(c.choice);
+    WriteAll(after);
     Write(golfers, changed);
-    for (const auto& [name, bytes] : after) {
-      if (name != golfers) Write(name, bytes);
-    }
-    Interrupt(1);
-    for (const auto& [name, bytes] : AllFiles()) {
-      if (!name.starts_with("transfer-history/000001")) continue;
-      std::string reset = bytes;
-      reset.replace(2 * 512, 3 * 512, 3 * 512, '\0');
-      reset.replace(5 * 512, 512, 512, '\0');
-      Write(name, reset);
-    }
+    Interrupt(1, {2, 3, 4, 5});
     const Tree all = AllFiles();
     for (const std::string words : kReading) {
       const Ended ended = In(words);
@@ -476,46 +473,32 @@ TEST_F(HistoryTest, AnInterruptedRunIsInTheWayUntilItIsDecidedAbout) {
     EXPECT_EQ(In("list courses").problems, "");
     EXPECT_EQ(In("recover --finish").out, "No run is unfinished.\n");
   }
-  EXPECT_EQ(In("recover").code, 2);
-  EXPECT_EQ(In("recover --finish --leave").code, 2);
-}
-
-TEST_F(HistoryTest, ARunThatIsLeftCannotBeUndone) {
-  Transfer(kGolfersKvToQb);
-  std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
-  golfers[9 * 1867 + 44] = '?';
-  Write("qbdata/QBGOLFER.Q9D", golfers);
-  Interrupt(1);
-  ASSERT_EQ(In("recover --leave").code, 0);
-  EXPECT_EQ(In("undo 1").code, 1);
-  EXPECT_EQ(In("undo").code, 1);
+  EXPECT_EQ(In("undo --skip-changed").code, 1);  // a run that is left cannot be undone
   Transfer(kTransfers[0]);
   EXPECT_EQ(In("history forget all").code, 0);
+  EXPECT_EQ(In("recover").code, 2);
+  EXPECT_EQ(In("recover --finish --leave").code, 2);
 }
 
 TEST_F(HistoryTest, DamagedHistoryFilesAreTold) {
   Transfer(kTransfers[0]);
   Transfer(kTransfers[4]);
-  const Tree all = AllFiles();
-  for (const auto& [name, bytes] : all) {
-    if (!name.starts_with("transfer-history/000002")) continue;
-    for (const std::size_t size :
-         {std::size_t{100}, std::size_t{4096}, std::size_t{4200}, bytes.size() - 1}) {
-      std::string damaged = bytes.substr(0, size);
-      if (size > 4200) damaged[5000] = static_cast<char>(damaged[5000] + 1);
-      Write(name, damaged);
-      for (const std::string words : {"history", "history show 1", "history show 2",
-                                      "undo 1 --dry-run", "undo 2 --dry-run"}) {
-        const Ended ended = In(words);
-        EXPECT_LE(ended.code, 3) << words;
-        EXPECT_EQ(ended.problems.find("fault of the program"), std::string::npos) << words;
-      }
+  const std::string bytes = folder.Read("i/" + HistoryFile(2));
+  for (const std::size_t size :
+       {std::size_t{100}, std::size_t{4096}, bytes.size() - 1, std::size_t{4200}}) {
+    std::string damaged = bytes.substr(0, size);
+    if (size > 4200) damaged[5000] = static_cast<char>(damaged[5000] + 1);
+    Write(HistoryFile(2), damaged);
+    for (const std::string words :
+         {"history", "history show 1", "history show 2", "undo 1 --dry-run", "undo 2 --dry-run"}) {
+      const Ended ended = In(words);
+      EXPECT_LE(ended.code, 3) << words;
+      EXPECT_EQ(ended.problems.find("fault of the program"), std::string::npos) << words;
     }
-    Write(name, bytes.substr(0, 4200));
-    const Ended ended = In("history");
-    EXPECT_EQ(ended.code, 0);
-    EXPECT_NE(ended.problems.find("is damaged."), std::string::npos);
   }
+  const Ended ended = In("history");
+  EXPECT_EQ(ended.code, 0);
+  EXPECT_NE(ended.problems.find("is damaged."), std::string::npos);
 }
 
 TEST_F(HistoryTest, ALogGetsEveryEnd) {

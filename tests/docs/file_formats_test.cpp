@@ -6,7 +6,7 @@
 #include <iterator>
 #include <sstream>
 
-#include "app/file_kinds.h"
+#include "outlets/file_kinds.h"
 
 namespace golf {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "app/application.h"
 #include "app/demo/demo_install.h"
-#include "app/file_kinds.h"
+#include "outlets/file_kinds.h"
 #include "cli/field_text.h"
 #include "cli/results_players.h"
 #include "cli/results_teams.h"

@@ -1,4 +1,4 @@
-// Commits that fail, and runs that are asked to stop.
+// Tests commits that fail and runs that are requested to stop.
 
 #include <gtest/gtest.h>
 
@@ -14,23 +14,14 @@
 namespace golf {
 namespace {
 
-// The states in which a deed may leave the files: before it, after each of its transactions.
-std::vector<DataFiles> StatesOf(const Deed& deed) {
+// Returns the states in which a deed may leave the files: those before it and after each of its
+// transactions.
+States StatesOf(const Deed& deed) {
   const MemoryPlatform disk = DemoDisk().Copy();
-  std::vector<DataFiles> states = {DataOf(disk)};
-  const auto look = [&] {
-    if (DataFiles state = DataOf(disk); state != states.back()) states.push_back(std::move(state));
-  };
-  Do(deed, ProcessOn(disk), look);
-  look();
+  States states;
+  states.Note(disk);
+  Do(deed, ProcessOn(disk), [&] { states.Note(disk); });
   return states;
-}
-
-void ExpectOneOf(const std::vector<DataFiles>& states, const MemoryPlatform& disk) {
-  const DataFiles state = DataOf(disk);
-  if (std::find(states.begin(), states.end(), state) != states.end()) return;
-  ADD_FAILURE() << "before: " << Difference(state, states.front())
-                << "\nafter: " << Difference(state, states.back());
 }
 
 bool IsTold(const std::vector<std::string>& events) {
@@ -40,19 +31,14 @@ bool IsTold(const std::vector<std::string>& events) {
   });
 }
 
-void Recover(const MemoryPlatform& disk) {
-  const auto platform = ProcessOn(disk);
-  EXPECT_FALSE(HistoryProgram(*platform).transactions.Recover().stuck);
-}
-
 constexpr Operation kChanges[] = {
     Operation::kCreate, Operation::kCreateFolder, Operation::kDelete, Operation::kRename,
     Operation::kWrite,  Operation::kTruncate,     Operation::kSync,   Operation::kSyncFolder};
 
-// Each call that changes something fails once, or with all calls of its kind behind it. The first
-// puts everything back at once, the other at the next start.
+// Makes each call that changes something fail once, or with all later calls of its kind. After a
+// single fault the run puts everything back at once, otherwise the next start does so.
 void FailEachChange(const Deed& deed, Operation operation, bool stays) {
-  const std::vector<DataFiles> states = StatesOf(deed);
+  const States states = StatesOf(deed);
   constexpr ErrorNumber kErrors[] = {ErrorNumber::kDiskFull, ErrorNumber::kDeviceFault,
                                      ErrorNumber::kPermissionDenied};
   for (int nth = 1;; ++nth) {
@@ -68,14 +54,14 @@ void FailEachChange(const Deed& deed, Operation operation, bool stays) {
       EXPECT_EQ(Difference(DataOf(disk), states.back()), "");
       return;
     }
-    const bool unfinished = HistoryProgram(disk).transactions.IsUnfinished();
+    const bool unfinished = IsUnfinished(disk);
     EXPECT_TRUE(stays || !unfinished);
-    if (!unfinished) ExpectOneOf(states, disk);
+    if (!unfinished) states.ExpectOneIn(disk);
     // The list of rosters itself shows that a roster could not be deleted.
     const bool told = IsTold(events) || std::string_view(deed.name) == "delete-kv-roster";
     EXPECT_TRUE(told || DataOf(disk) == states.back());
-    Recover(disk);
-    ExpectOneOf(states, disk);
+    EXPECT_FALSE(Recover(disk).stuck);
+    states.ExpectOneIn(disk);
     if (testing::Test::HasFailure()) return;
   }
 }
@@ -99,50 +85,45 @@ TEST(CommitTest, DISABLED_AFailedCommitOfAnyTransaction) {
 
 // The file of the history itself cannot be read, opened or closed.
 TEST(CommitTest, AFaultOfTheHistoryFileHasChangedNothing) {
-  const MemoryPlatform before = SmallDisk();
-  const MemoryPlatform done = before.Copy();
-  CommitEveryKind(*ProcessOn(done));
-  const std::vector<DataFiles> states = {DataOf(before), DataOf(done)};
+  const DataFiles states[] = {DataOf(SmallDisk()), DataOf(DiskAfterEveryKind())};
   for (int nth = 1;; ++nth) {
     SCOPED_TRACE(nth);
-    MemoryPlatform disk = before.Copy();
+    MemoryPlatform disk = SmallDisk();
     FailingPlatform failing(disk);
     failing.Fail({.nth = nth, .name = ".RUN"});
     const int error = ErrorOf([&] { CommitEveryKind(failing); });
     if (!failing.Failed()) break;
     EXPECT_EQ(Difference(DataOf(disk), states[error == 0 ? 1 : 0]), "");
-    Recover(disk);
+    EXPECT_FALSE(Recover(disk).stuck);
     EXPECT_EQ(Difference(DataOf(disk), states[error == 0 ? 1 : 0]), "");
   }
 }
 
-// Says at the nth look that the process is to end.
+// Reports at the nth look that the process is to end.
 class StoppingPlatform : public MemoryPlatform {
  public:
   StoppingPlatform(const MemoryPlatform& disk, int nth)
       : MemoryPlatform(disk.OnSameDisk()), looks_(nth) {}
 
-  std::unique_ptr<StopWatch> WatchStops() override { return std::make_unique<Watch>(looks_); }
+  std::unique_ptr<StopWatch> WatchStops() override {
+    struct Watch : StopWatch {
+      explicit Watch(int& looks) : left(looks) {}
+      int Signal() const override {
+        if (left > 0) --left;
+        return left == 0 ? 15 : 0;
+      }
+      int& left;
+    };
+    return std::make_unique<Watch>(looks_);
+  }
 
  private:
-  class Watch : public StopWatch {
-   public:
-    explicit Watch(int& looks) : looks_(looks) {}
-    int Signal() const override {
-      if (looks_ > 0) --looks_;
-      return looks_ == 0 ? 15 : 0;
-    }
-
-   private:
-    int& looks_;
-  };
-
   int looks_;
 };
 
 TEST(CommitTest, ARunThatIsStoppedHasChangedNothing) {
   for (const Deed& deed : Deeds()) {
-    const std::vector<DataFiles> states = StatesOf(deed);
+    const States states = StatesOf(deed);
     int stopped = 0;
     for (int nth = 1;; nth += 1 + nth / 3) {
       SCOPED_TRACE(std::string(deed.name) + ", look " + std::to_string(nth));
@@ -155,8 +136,8 @@ TEST(CommitTest, ARunThatIsStoppedHasChangedNothing) {
         EXPECT_EQ(stop.signal(), 15);
         ++stopped;
       }
-      ExpectOneOf(states, disk);
-      EXPECT_FALSE(HistoryProgram(*ProcessOn(disk)).transactions.IsUnfinished());
+      states.ExpectOneIn(disk);
+      EXPECT_FALSE(IsUnfinished(disk));
       if (!ended) continue;
       EXPECT_EQ(Difference(DataOf(disk), states.back()), "");
       break;
@@ -181,13 +162,14 @@ TEST(CommitTest, ARequestAfterTheCommitEndsTheNextClick) {
   EXPECT_EQ(Difference(DataOf(disk), after), "");
 }
 
-// On a real disk, where an open file can be replaced.
+// On a real disk, an open file can be replaced, here by a file with the same bytes.
 TEST(CommitTest, AFileThatIsReplacedInMidRunIsError70) {
   TestInstall install;
   const std::string courses = DemoDisk().Files().at("/KVDATA/KVCRS.DAT");
+  const std::string library = courses.substr(0, 3226);
   install.folder.Write("kvdata/kvcrs.dat", courses);
-  install.folder.Write("qbdata/qbcrs.dat", courses.substr(0, 3226));
-  install.folder.Write("new.dat", "replaced");
+  install.folder.Write("qbdata/qbcrs.dat", library);
+  install.folder.Write("new.dat", library);
   install.listener.on_progress = [&](const Progress&) {
     if (!install.folder.Exists("new.dat")) return;
     std::filesystem::rename(install.folder.Path("new.dat"),
@@ -198,7 +180,7 @@ TEST(CommitTest, AFileThatIsReplacedInMidRunIsError70) {
                  [&](Screen& screen) { install.host->Press(screen, "TransferCourses"); });
   });
   EXPECT_EQ(error, 70);
-  EXPECT_EQ(install.folder.Read("qbdata/qbcrs.dat"), "replaced");
+  EXPECT_TRUE(install.folder.Read("qbdata/qbcrs.dat") == library);
   EXPECT_FALSE(install.folder.Exists("qbdata/ALLCRSQB.INX"));
 }
 

@@ -14,12 +14,12 @@ namespace {
 
 using Look = std::function<void()>;
 
-// A transaction, and the disk on which it is made.
+// A transaction and the disk before it.
 struct Run {
   std::string name;
   MemoryPlatform before;
   std::function<void(const MemoryPlatform& disk, const Look& look)> make;
-  // The files after it, where the run itself puts everything back.
+  // The files after a run that puts everything back itself.
   std::optional<DataFiles> after = {};
 };
 
@@ -29,7 +29,7 @@ Run RunOf(const Deed& deed) {
           }};
 }
 
-// Its undo, on the disk that it leaves.
+// Returns the undo of a run, on the disk after the run.
 Run UndoOf(const Run& run) {
   MemoryPlatform disk = run.before.Copy();
   run.make(disk, {});
@@ -39,7 +39,7 @@ Run UndoOf(const Run& run) {
           }};
 }
 
-// What a crash or a power cut may leave of a disk.
+// A disk after a crash or a power cut.
 struct Rest {
   std::string name;
   MemoryPlatform disk;
@@ -58,25 +58,14 @@ std::vector<Rest> RestsOf(const MemoryPlatform& dead, int cuts) {
   return rests;
 }
 
-bool DiesIn(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Died&) {
-    return true;
-  }
-  return false;
-}
-
-// What starts next on the disk finishes the run, or puts it back.
-void Recover(const MemoryPlatform& disk) {
-  const auto platform = ProcessOn(disk);
-  HistoryProgram program(*platform);
-  const Recovery recovery = program.transactions.Recover();
+// Checks that the next start on the disk finishes the run or puts it back.
+void ExpectRecovery(const MemoryPlatform& disk) {
+  const Recovery recovery = Recover(disk);
   EXPECT_FALSE(recovery.stuck) << recovery.stuck_text;
-  EXPECT_FALSE(program.transactions.IsUnfinished());
+  EXPECT_FALSE(IsUnfinished(disk));
 }
 
-// How much is tried: a run is killed in each of its changes in any case.
+// The number of cases. A run is killed in each of its changes in any case.
 enum class Depth {
   kSample,  // one way to lose power, and one death of the recovery, in turn
   kMost,    // three ways, and every 7th death
@@ -113,16 +102,12 @@ class Matrix {
   // Notes the states in which the run may leave the files. Returns the number of its changes.
   int MakeOnce() {
     const MemoryPlatform disk = run_.before.Copy();
-    const auto look = [&] {
-      DataFiles state = DataOf(disk);
-      if (states_.empty() || states_.back() != state) states_.push_back(std::move(state));
-    };
-    look();
-    run_.make(disk, look);
-    look();
+    states_.Note(disk);
+    run_.make(disk, [&] { states_.Note(disk); });
+    states_.Note(disk);
     const int calls = disk.ChangingCalls();
     for (const Rest& rest : RestsOf(disk, 8)) {  // once the run says done, nothing is lost
-      Recover(rest.disk);
+      ExpectRecovery(rest.disk);
       EXPECT_EQ(Difference(DataOf(rest.disk), states_.back()), "") << rest.name;
     }
     if (run_.after) states_.push_back(*run_.after);
@@ -132,33 +117,26 @@ class Matrix {
   void CheckRest(const Rest& rest) {
     SCOPED_TRACE(rest.name);
     const MemoryPlatform disk = rest.disk.Copy();
-    Recover(disk);
+    ExpectRecovery(disk);
     const int calls = disk.ChangingCalls();
-    CheckWhole(disk);
+    states_.ExpectOneIn(disk);
     const int step = depth_ == Depth::kAll ? 1 : depth_ == Depth::kMost ? 7 : std::max(calls, 1);
     for (int nth = 1 + turn_++ % step; nth <= calls; nth += step) {
       SCOPED_TRACE("recovery dies in call " + std::to_string(nth));
       const MemoryPlatform again = rest.disk.Copy();
       MemoryPlatform(again.OnSameDisk()).DieAt(nth, 0.5);
-      ASSERT_TRUE(DiesIn([&] { Recover(again); }));
+      ASSERT_TRUE(DiesIn([&] { ExpectRecovery(again); }));
       for (const Rest& second : RestsOf(again, depth_ == Depth::kAll ? 3 : 1)) {
         SCOPED_TRACE(second.name);
-        Recover(second.disk);
-        CheckWhole(second.disk);
+        ExpectRecovery(second.disk);
+        states_.ExpectOneIn(second.disk);
       }
     }
   }
 
-  void CheckWhole(const MemoryPlatform& disk) {
-    const DataFiles state = DataOf(disk);
-    if (std::find(states_.begin(), states_.end(), state) != states_.end()) return;
-    ADD_FAILURE() << "before: " << Difference(state, states_.front())
-                  << "\nafter: " << Difference(state, states_.back());
-  }
-
   const Run& run_;
   Depth depth_;
-  std::vector<DataFiles> states_;
+  States states_;
   int turn_ = 0;
 };
 
@@ -167,7 +145,7 @@ Run EveryKind() {
           [](const MemoryPlatform& disk, const Look&) { CommitEveryKind(*ProcessOn(disk)); }};
 }
 
-// A run whose commit fails once and puts back.
+// Returns a run whose commit fails once and puts everything back.
 Run FailsAndPutsBack(const Run& run, const Fault& fault) {
   const MemoryPlatform disk = run.before.Copy();
   run.make(disk, {});
@@ -223,13 +201,8 @@ TEST(CrashMatrix, DISABLED_EveryCrashOfEveryRecovery) {
 // A process was killed before its done mark was synced. Another run follows, and then the power
 // fails: the mark must not be lost.
 TEST(CrashMatrix, AMarkOutlastsTheRunsThatFollow) {
-  const MemoryPlatform disk = SmallDisk();
-  const MemoryPlatform clean = disk.Copy();
-  CommitEveryKind(*ProcessOn(clean));
-  MemoryPlatform power = disk.OnSameDisk();
-  power.DieAt(clean.ChangingCalls());  // the sync of the done mark
-  EXPECT_TRUE(DiesIn([&] { CommitEveryKind(*ProcessOn(disk)); }));
-  power.Revive();
+  // The killed call is the sync of the done mark.
+  MemoryPlatform disk = *DiskKilledAt(DiskAfterEveryKind().ChangingCalls());
   {
     const auto platform = ProcessOn(disk);
     HistoryProgram program(*platform);
@@ -240,8 +213,8 @@ TEST(CrashMatrix, AMarkOutlastsTheRunsThatFollow) {
     program.transactions.Commit("");
   }
   const DataFiles after = DataOf(disk);
-  power.PowerCut(0);
-  Recover(disk);
+  disk.PowerCut(0);
+  ExpectRecovery(disk);
   EXPECT_EQ(Difference(DataOf(disk), after), "");
 }
 

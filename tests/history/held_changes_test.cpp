@@ -1,4 +1,4 @@
-// What a run holds back reads as if it were on the disk, and reaches the disk at the commit only.
+// Tests that held changes are read as if they were on the disk, and are written at the commit only.
 
 #include <gtest/gtest.h>
 
@@ -32,7 +32,7 @@ class Random {
   std::mt19937_64 random_;
 };
 
-// Makes the same calls on two platforms and compares what comes back.
+// Makes the same calls on two platforms and compares their results.
 class Pair {
  public:
   Pair(Platform& held, Platform& plain) : sides_{Side(held), Side(plain)} {}
@@ -45,33 +45,17 @@ class Pair {
     const std::string path = name();
     const std::string other = name();
     const std::string bytes = random.Bytes(60);
-    switch (random.Below(14)) {
-      case 0:
-      case 1:
-        return Same([&](Side& side) { side.Open(number, path); });
-      case 2:
-        return Same([&](Side& side) { side.files.erase(number); });
-      case 3:
-      case 4:
-      case 5:
-      case 6:
-        return Same([&](Side& side) { side.gate.Write(side.At(number), offset, bytes); });
-      case 7:
-        return Same([&](Side& side) { side.gate.Truncate(side.At(number), offset); });
-      case 8:
-        return Same([&](Side& side) { side.gate.Create(path); });
-      case 9:
-        if (!IsOpen(path)) Same([&](Side& side) { side.gate.Delete(path); });
-        return;
-      case 10: {
-        const bool is_free =
-            !IsOpen(path) && !IsOpen(other) && (path[1] | 0x20) != (other[1] | 0x20);
-        if (is_free) Same([&](Side& side) { side.gate.Rename(path, other); });
-        return;
-      }
-      default:
-        Compare();
-    }
+    const std::int64_t call = random.Below(14);
+    if (call < 2) return Same([&](Side& side) { side.Open(number, path); });
+    if (call < 3) return Same([&](Side& side) { side.files.erase(number); });
+    if (call < 7) return Same([&](Side& side) { side.gate.Write(side.At(number), offset, bytes); });
+    if (call < 8) return Same([&](Side& side) { side.gate.Truncate(side.At(number), offset); });
+    if (call < 9) return Same([&](Side& side) { side.gate.Create(path); });
+    if (call >= 11) return Compare();
+    if (IsOpen(path)) return;
+    if (call < 10) return Same([&](Side& side) { side.gate.Delete(path); });
+    const bool is_free = !IsOpen(other) && (path[1] | 0x20) != (other[1] | 0x20);
+    if (is_free) Same([&](Side& side) { side.gate.Rename(path, other); });
   }
 
   void Compare() {
@@ -88,22 +72,22 @@ class Pair {
   }
 
  private:
+  struct OpenFile {
+    std::string path;
+    std::unique_ptr<PlatformFile> file;
+  };
+
   struct Side {
     explicit Side(Platform& platform) : gate(platform) {}
 
     PlatformFile& At(std::int64_t number) {
-      const auto file = files.find(number);
-      if (file == files.end()) throw NumberedError(ErrorNumber::kBadFileNumber, "Not open.");
-      return *file->second;
+      const auto open = files.find(number);
+      if (open == files.end()) throw NumberedError(ErrorNumber::kBadFileNumber, "Not open.");
+      return *open->second.file;
     }
     void Open(std::int64_t number, const std::string& path) {
       files.erase(number);
-      paths.erase(number);
-      files[number] = gate.platform().Open(path, FileAccess::kReadWriteShared);
-      paths[number] = path;
-    }
-    bool Exists(const std::string& path) {
-      return ErrorOf([&] { gate.platform().Open(path, FileAccess::kReadOnly); }) == 0;
+      files[number] = {path, gate.platform().Open(path, FileAccess::kReadWriteShared)};
     }
     std::string Content(const std::string& path) {
       std::string bytes(1000, '?');
@@ -128,13 +112,12 @@ class Pair {
     }
 
     HistoryGate gate;
-    std::map<std::int64_t, std::unique_ptr<PlatformFile>> files;
-    std::map<std::int64_t, std::string> paths;
+    std::map<std::int64_t, OpenFile> files;
   };
 
   bool IsOpen(const std::string& path) {
-    return std::any_of(sides_[0].files.begin(), sides_[0].files.end(), [&](const auto& file) {
-      return (sides_[0].paths.at(file.first)[1] | 0x20) == (path[1] | 0x20);
+    return std::any_of(sides_[0].files.begin(), sides_[0].files.end(), [&](const auto& open) {
+      return (open.second.path[1] | 0x20) == (path[1] | 0x20);
     });
   }
 
@@ -219,7 +202,8 @@ TEST(HeldChangesTest, NetChangesAreHeld) {
   EXPECT_EQ(places(), "");
 }
 
-// Random writes and truncations of one file, with a store that keeps next to nothing in memory.
+// Makes random writes and truncations of one file, with and without a store that keeps its places
+// in memory.
 TEST(HeldChangesTest, SpilledPlacesReadAsWritten) {
   for (const std::size_t memory : {std::size_t{0}, std::size_t{1} << 20}) {
     Random random(7);
@@ -250,7 +234,7 @@ TEST(HeldChangesTest, SpilledPlacesReadAsWritten) {
   }
 }
 
-// A write that cannot be held ends the run: nobody carries on without it.
+// A write that cannot be held ends the run.
 TEST(HeldChangesTest, WhatCannotBeHeldEndsTheRun) {
   MemoryPlatform disk;
   disk.Bytes("a") = std::string(100, 'a');

@@ -1,8 +1,9 @@
-// The code of places, and history files that are damaged.
+// Tests the code of places, and history files that are damaged.
 
 #include <gtest/gtest.h>
 
 #include <random>
+#include <sstream>
 
 #include "history/history_file.h"
 #include "history/memory_install.h"
@@ -13,7 +14,7 @@ namespace {
 
 constexpr const char* kRun = "transfer-history/000001-20240513-120000.run";
 
-// Bytes with stretches of one byte, short and long.
+// Returns bytes with short and long stretches of one byte.
 std::string SomeBytes(std::mt19937& random, std::size_t size) {
   std::string bytes;
   while (bytes.size() < size) {
@@ -58,33 +59,28 @@ TEST(HistoryFormatTest, PlacesComeBackFromTheirCode) {
   }
 }
 
-// All that a history file says, or "damaged".
+// Returns the whole content of a history file, or "damaged".
 std::string Told(const MemoryPlatform& disk) {
   const auto platform = ProcessOn(disk);
   HistoryFile file(kRun, platform->Open("/" + std::string(kRun), FileAccess::kReadOnly));
   std::string told;
-  const auto add = [&](std::initializer_list<std::string_view> texts) {
-    for (const std::string_view text : texts) told.append(text) += '|';
+  const auto add = [&](const auto&... parts) {
+    std::ostringstream line;
+    ((line << parts << '|'), ...);
+    told += line.str();
   };
   try {
-    file.Read({.run =
-                   [&](const RunTitle& title) {
-                     add({title.command, title.about});
-                   },
-               .group =
-                   [&](ChangeGroup group, std::string_view title) {
-                     add({std::to_string(group), title});
-                   },
+    file.Read({.run = [&](const RunTitle& title) { add(title.command, title.about); },
+               .group = [&](ChangeGroup group, std::string_view title) { add(group, title); },
                .file =
                    [&](const HistoryFileEntry& entry) {
-                     add({entry.path, entry.kept_as, std::to_string(entry.old_length),
-                          std::to_string(entry.new_length)});
+                     add(entry.path, entry.kept_as, entry.old_length, entry.new_length);
                    },
                .place =
                    [&](const HistoryPlace& place) {
-                     add({std::to_string(place.offset), place.old_bytes, place.new_bytes});
+                     add(place.offset, place.old_bytes, place.new_bytes);
                    },
-               .report = [&](std::string_view report) { add({report}); }});
+               .report = [&](std::string_view report) { add(report); }});
     EXPECT_TRUE(file.IsWhole());
     return told;
   } catch (const DamagedHistory&) {
@@ -93,17 +89,8 @@ std::string Told(const MemoryPlatform& disk) {
   }
 }
 
-// The disk of a run that was killed in the nth call.
-MemoryPlatform KilledAt(int nth) {
-  MemoryPlatform disk = SmallDisk();
-  disk.DieAt(nth);
-  EXPECT_THROW(CommitEveryKind(*ProcessOn(disk)), Died);
-  disk.Revive();
-  return disk;
-}
-
-// The file reads as it was written or is damaged. Recovery finishes the run, puts it back or says
-// that it cannot, and then it has touched nothing.
+// Checks that the file is read as it was written or reported as damaged. Recovery finishes the run
+// or puts it back. Otherwise it reports that it cannot, and changes nothing.
 void CheckDamaged(const MemoryPlatform& disk, const std::string& whole, const DataFiles& before,
                   const DataFiles& after) {
   const std::string told = Told(disk);
@@ -127,18 +114,17 @@ void CheckDamaged(const MemoryPlatform& disk, const std::string& whole, const Da
 
 TEST(HistoryFormatTest, DamagedFilesAreFoundOut) {
   const DataFiles before = DataOf(SmallDisk());
-  const MemoryPlatform done = SmallDisk();
-  CommitEveryKind(*ProcessOn(done));
+  const MemoryPlatform done = DiskAfterEveryKind();
   const DataFiles after = DataOf(done);
   const std::string whole = Told(done);
   ASSERT_NE(whole, "damaged");
   const int calls = done.ChangingCalls();
   // Nothing is applied yet, some of it, all of it.
   for (const int nth : {12, calls - 14, calls - 1}) {
-    const MemoryPlatform killed = KilledAt(nth);
+    const MemoryPlatform killed = *DiskKilledAt(nth);
     const std::string bytes = killed.Copy().Bytes(kRun);
     ASSERT_LT(bytes.size(), 6000U);
-    // Without a place for the commit mark, the file says that nothing was applied.
+    // A file without a place for the commit mark is one of which nothing was applied.
     constexpr std::size_t kCommitMarkEnd = 1024;
     for (std::size_t at = 0; at < bytes.size(); at += at < 4096 ? 61 : 1) {
       SCOPED_TRACE("killed in call " + std::to_string(nth) + ", byte " + std::to_string(at));

@@ -1,161 +1,20 @@
 #include "history/memory_install.h"
 
 #include <algorithm>
+#include <sstream>
 #include <stdexcept>
 
 #include "app/application.h"
 #include "app/demo/demo_install.h"
-#include "app/file_kinds.h"
-#include "cli/picker_presses.h"
+#include "cli/script_runner.h"
 #include "history/undo.h"
-#include "screens/courses/course_form.h"
-#include "screens/courses/course_table.h"
-#include "screens/results/team_layout_builder.h"
-#include "screens/rosters/load_roster.h"
-#include "screens/rosters/load_rosters.h"
-#include "screens/transfers/kv_to_zd.h"
-#include "screens/transfers/qb_to_kv.h"
-#include "screens/transfers/zd_to_kv.h"
-#include "screens/transfers/zd_to_qb.h"
+#include "outlets/file_kinds.h"
 #include "support/test_host.h"
 
 namespace golf {
 namespace {
 
 DateValue Noon() { return DateFromCivil({2024, 5, 13, 12, 0, 0}); }
-
-// Records the events, and calls `look` at each of them.
-class LookingListener : public RecordingListener {
- public:
-  explicit LookingListener(const std::function<void()>& look) : look_(look) {}
-
-  void OnOpen(const Screen& screen) override {
-    RecordingListener::OnOpen(screen);
-    Look();
-  }
-  void OnClose(const Screen& screen) override {
-    RecordingListener::OnClose(screen);
-    Look();
-  }
-  void OnMessage(const Box& box, BoxButton answer) override {
-    RecordingListener::OnMessage(box, answer);
-    Look();
-  }
-  void OnInput(const InputBox& box, const std::string& answer) override {
-    RecordingListener::OnInput(box, answer);
-    Look();
-  }
-  void OnFault(const NumberedError& fault) override {
-    events.push_back("fault " + std::to_string(fault.number()));
-  }
-  void OnNotice(const std::string& text) override { events.push_back("notice " + text); }
-  void OnProgress(const Progress&) override { Look(); }
-  void Look() const {
-    if (look_) look_();
-  }
-
- private:
-  const std::function<void()>& look_;
-};
-
-using Drive = std::function<void(HeadlessHost&, Screen&)>;
-
-// Works the screen in hand, and the pickers that it opens.
-Drive Transfer(Drive work) {
-  return [work = std::move(work)](HeadlessHost& host, Screen& screen) {
-    if (screen.name() == "LoadRoster") return PickKelvaneRoster(host, screen, "CLUB18");
-    if (screen.name() == "LoadRosters") return PickQuenbyRoster(host, screen, 1);
-    work(host, screen);
-  };
-}
-
-Drive Presses(std::vector<const char*> buttons) {
-  return [buttons = std::move(buttons)](HeadlessHost& host, Screen& screen) {
-    for (const char* button : buttons) host.Press(screen, button);
-  };
-}
-
-Drive GolfersKvToZd() {
-  return Transfer([](HeadlessHost& host, Screen& screen) {
-    PickLeague(host, screen, "FindZDButton", dynamic_cast<KVtoZD&>(screen).picker, "00021");
-    Presses({"FindKVMButton", "TransferButton"})(host, screen);
-  });
-}
-
-Drive GolfersZdToQb() {
-  return Transfer([](HeadlessHost& host, Screen& screen) {
-    auto& transfer = dynamic_cast<ZDtoQB&>(screen);
-    PickLeague(host, screen, "SourceButton", transfer.picker, "00011");
-    host.Press(screen, "DestButton");
-    host.Operate(screen, [&] { transfer.TransferSubs.Choose(true); });
-    host.Press(screen, "TransferButton");
-  });
-}
-
-Drive ScoresQbToKv() {
-  return Transfer([](HeadlessHost& host, Screen& screen) {
-    auto& transfer = dynamic_cast<QBtoKV&>(screen);
-    host.Press(screen, "DestButton");
-    host.Operate(screen, [&] { transfer.TournamentList.Select(0); });
-    host.Operate(screen, [&] { transfer.RoundList.Select(0); });
-    host.Press(screen, "TransferButton");
-  });
-}
-
-Drive ScoresZdToKv() {
-  return Transfer([](HeadlessHost& host, Screen& screen) {
-    auto& transfer = dynamic_cast<ZDtoKV&>(screen);
-    PickLeague(host, screen, "SourceButton", transfer.picker, "00021");
-    host.Operate(screen, [&] { transfer.EventList.Select(0); });
-    Presses({"DestButton", "TransferButton"})(host, screen);
-  });
-}
-
-void MakeKelvaneRoster(HeadlessHost& host, Screen& screen) {
-  host.Press(screen, "NewButton");
-  dynamic_cast<LoadRoster&>(screen).NewRosterName.SetText("Seniors");
-  host.Press(screen, "OK2Button");
-}
-
-void DeleteKelvaneRoster(HeadlessHost& host, Screen& screen) {
-  auto& picker = dynamic_cast<LoadRoster&>(screen);
-  for (int row = 1; row <= picker.grid1.rows(); ++row) {
-    if (picker.grid1.text(2, row) == "NINE9") picker.grid1.SetActiveRow(row);
-  }
-  host.Press(screen, "DeleteButton");
-}
-
-void MakeQuenbyRoster(HeadlessHost& host, Screen& screen) {
-  host.Press(screen, "NewButton");
-  dynamic_cast<LoadRosters&>(screen).Text1[0].SetText("Seniors");
-  host.Press(screen, "AddEditRosterOK");
-}
-
-void DeleteQuenbyRoster(HeadlessHost& host, Screen& screen) {
-  dynamic_cast<LoadRosters&>(screen).grid1.SetActiveRow(2);
-  host.Press(screen, "DeleteButton");
-}
-
-// Closing the table writes the indexes anew.
-void EditCourse(HeadlessHost& host, Screen& screen) {
-  if (auto* form = dynamic_cast<CourseForm*>(&screen)) {
-    form->FCourseName.SetText("Zebra Links");
-    return host.Press(screen, "OKButton");
-  }
-  dynamic_cast<CourseTable&>(screen).CourseGrid.SetActiveRow(1);
-  host.Press(screen, "EditCourseButton");
-}
-
-void DeleteCourse(HeadlessHost& host, Screen& screen) {
-  dynamic_cast<CourseTable&>(screen).CourseGrid.SetActiveRow(1);
-  host.Press(screen, "DeleteCourseButton");
-}
-
-void SaveLayout(HeadlessHost& host, Screen& screen) {
-  auto& builder = dynamic_cast<XReportsCustomTeamResults&>(screen);
-  builder.ReportName.SetText("Best ball");
-  host.Operate(screen, [&] { builder.SaveReport(); });
-}
 
 RecordKinds NamelessKinds() {
   return {
@@ -192,6 +51,18 @@ std::string Difference(const DataFiles& found, const DataFiles& expected) {
   return text;
 }
 
+void States::Note(const MemoryPlatform& disk) {
+  DataFiles state = DataOf(disk);
+  if (empty() || back() != state) push_back(std::move(state));
+}
+
+void States::ExpectOneIn(const MemoryPlatform& disk) const {
+  const DataFiles state = DataOf(disk);
+  if (std::find(begin(), end(), state) != end()) return;
+  ADD_FAILURE() << "before: " << Difference(state, front())
+                << "\nafter: " << Difference(state, back());
+}
+
 const MemoryPlatform& DemoDisk() {
   static const MemoryPlatform kDisk = [] {
     MemoryPlatform disk;
@@ -210,25 +81,46 @@ std::unique_ptr<Platform> ProcessOn(const MemoryPlatform& disk) {
 }
 
 std::span<const Deed> Deeds() {
-  const std::pair<std::string, std::string> kYes("DELETE Roster?", "YES");
-  static const std::vector<Deed> kDeeds = {
-      {"courses-kv-to-qb", "KVCoursestoQB", "", {}, Presses({"TransferCourses"})},
+  static constexpr Deed kDeeds[] = {
+      {"courses-kv-to-qb", "open KVCoursestoQB\nclick TransferCourses"},
       {"golfers-kv-to-qb",
-       "KVtoQB",
-       "",
-       {{"Update Handicaps?", "YES"}},
-       Transfer(Presses({"SourceButton", "DestButton", "TransferButton"}))},
-      {"golfers-kv-to-zd", "KVtoZD", "", {{"Question", "Yes"}}, GolfersKvToZd()},
-      {"golfers-zd-to-qb", "ZDtoQB", "", {}, GolfersZdToQb()},
-      {"scores-qb-to-kv", "QBtoKV", "", {{"Continue", "Yes"}}, ScoresQbToKv()},
-      {"scores-zd-to-kv", "ZDtoKV", "", {}, ScoresZdToKv()},
-      {"new-kv-roster", "LoadRoster", "", {{"New Roster", "Yes"}}, MakeKelvaneRoster},
-      {"delete-kv-roster", "LoadRoster", "", {kYes}, DeleteKelvaneRoster},
-      {"new-qb-roster", "LoadRosters", "", {{"New Roster", "Yes"}}, MakeQuenbyRoster},
-      {"delete-qb-roster", "LoadRosters", "", {kYes}, DeleteQuenbyRoster},
-      {"edit-course", "CourseTable", "kv", {}, EditCourse},
-      {"delete-course", "CourseTable", "kv", {{"DELETE COURSE?", "YES"}}, DeleteCourse},
-      {"save-layout", "XReportsCustomTeamResults", "new", {}, SaveLayout},
+       "open KVtoQB\nclick SourceButton\nrow grid1 1\nclick LoadButton\n"
+       "click DestButton\nrow grid1 3\nclick LoadButton\n"
+       "answer \"Update Handicaps?\" YES\nclick TransferButton"},
+      {"golfers-kv-to-zd",
+       "open KVtoZD\nclick FindZDButton\npick LeagueList 00021\nclick OKLEague\n"
+       "click FindKVMButton\nrow grid1 1\nclick LoadButton\n"
+       "answer Question Yes\nclick TransferButton"},
+      {"golfers-zd-to-qb",
+       "open ZDtoQB\nclick SourceButton\npick LeagueList 00011\nclick OKLEague\n"
+       "click DestButton\nrow grid1 3\nclick LoadButton\n"
+       "check TransferSubs on\nclick TransferButton"},
+      {"scores-qb-to-kv",
+       "open QBtoKV\nclick DestButton\nrow grid1 1\nclick LoadButton\n"
+       "select TournamentList 0\nselect RoundList 0\n"
+       "answer Continue Yes\nclick TransferButton"},
+      {"scores-zd-to-kv",
+       "open ZDtoKV\nclick SourceButton\npick LeagueList 00021\nclick OKLEague\n"
+       "select EventList 0\nclick DestButton\nrow grid1 1\nclick LoadButton\n"
+       "click TransferButton"},
+      {"new-kv-roster",
+       "open LoadRoster\nanswer \"New Roster\" Yes\nclick NewButton\n"
+       "set NewRosterName Seniors\nclick OK2Button"},
+      {"delete-kv-roster",
+       "open LoadRoster\nrow grid1 2\nanswer \"DELETE Roster?\" YES\nclick DeleteButton"},
+      {"new-qb-roster",
+       "open LoadRosters\nanswer \"New Roster\" Yes\nclick NewButton\n"
+       "set Text1(0) Seniors\nclick AddEditRosterOK"},
+      {"delete-qb-roster",
+       "open LoadRosters\nrow grid1 2\nanswer \"DELETE Roster?\" YES\nclick DeleteButton"},
+      {"edit-course",
+       "open CourseTable kv\nrow CourseGrid 1\nclick EditCourseButton\n"
+       "set FCourseName \"Zebra Links\"\nclick OKButton"},
+      {"delete-course",
+       "open CourseTable kv\nrow CourseGrid 1\nanswer \"DELETE COURSE?\" YES\n"
+       "click DeleteCourseButton"},
+      {"save-layout",
+       "open XReportsCustomTeamResults new\nset ReportName \"Best ball\"\nclick SaveButton"},
   };
   return kDeeds;
 }
@@ -245,20 +137,29 @@ std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform
   Application application(std::move(platform));
   application.Start(Noon(), {});
   application.state().remembers_settings = false;
-  LookingListener listener(look);
+  RecordingListener listener;
+  listener.on_event = look;
+  if (look) listener.on_progress = [&](const Progress&) { look(); };
   HeadlessHost host(application.state(), Application::Screens(), listener);
   host.clock = Noon;
-  for (const auto& [title, answer] : deed.answers) host.QueueAnswer(title, answer, true);
-  host.drive = [&](Screen& screen) {
-    deed.drive(host, screen);
-    listener.Look();
-  };
-  try {
-    host.Operate([&] { OpenScreen(application.state(), host, deed.screen, deed.word); });
-  } catch (const ClickEnded&) {
-    // The listener was told.
+  JsonListener unused;  // gets the numbers of the lines, but no events
+  std::istringstream lines(deed.script);
+  ScriptRunner runner(application.state(), host, unused, lines);
+  if (look) {
+    host.drive = [&, follow = host.drive](Screen& screen) {
+      follow(screen);
+      look();
+    };
   }
-  listener.Look();
+  try {
+    runner.Run();
+  } catch (const ClickEnded&) {
+    // The listener has noted the error.
+  }
+  if (look) look();
+  for (const NumberedError& fault : host.faults()) {
+    listener.events.push_back("fault " + std::to_string(fault.number()));
+  }
   return std::move(listener.events);
 }
 
@@ -302,6 +203,38 @@ void CommitEveryKind(Platform& platform) {
   HistoryProgram program(platform);
   HoldEveryKind(program);
   program.transactions.Commit("A report.");
+}
+
+MemoryPlatform DiskAfterEveryKind() {
+  MemoryPlatform disk = SmallDisk();
+  CommitEveryKind(*ProcessOn(disk));
+  return disk;
+}
+
+std::optional<MemoryPlatform> DiskKilledAt(int nth) {
+  MemoryPlatform disk = SmallDisk();
+  disk.DieAt(nth);
+  if (!DiesIn([&] { CommitEveryKind(*ProcessOn(disk)); })) return std::nullopt;
+  disk.Revive();
+  return disk;
+}
+
+bool DiesIn(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const Died&) {
+    return true;
+  }
+  return false;
+}
+
+Recovery Recover(const MemoryPlatform& disk, RecoveryChoice choice) {
+  const auto platform = ProcessOn(disk);
+  return HistoryProgram(*platform).transactions.Recover(choice);
+}
+
+bool IsUnfinished(const MemoryPlatform& disk) {
+  return HistoryProgram(*ProcessOn(disk)).transactions.IsUnfinished();
 }
 
 std::size_t UndoNewest(Platform& platform) {

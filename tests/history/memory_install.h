@@ -3,40 +3,43 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "forms/headless_host.h"
 #include "history/transactions.h"
 #include "support/memory_platform.h"
 
 namespace golf {
 
-// The siblings' files with their bytes, by paths in capitals. Nothing of the history is among them.
+// The siblings' files with their bytes, by paths in capitals, without the history.
 using DataFiles = std::map<std::string, std::string>;
 
 DataFiles DataOf(const MemoryPlatform& disk);
-// The names of the files that differ, with their lengths; empty where none does.
+// Returns the names of the files that differ, with their lengths; empty if none differs.
 std::string Difference(const DataFiles& found, const DataFiles& expected);
 
-// The demonstration install, all of it on the disk.
+// The states of the files in the order in which a run passes through them.
+struct States : std::vector<DataFiles> {
+  // Adds the state of a disk if it is a new one.
+  void Note(const MemoryPlatform& disk);
+  void ExpectOneIn(const MemoryPlatform& disk) const;
+};
+
+// Returns the demonstration install, with everything synced.
 const MemoryPlatform& DemoDisk();
 
-// Another process on a disk.
+// Returns another process on a disk.
 std::unique_ptr<Platform> ProcessOn(const MemoryPlatform& disk);
 
 // Something that an operator does on a screen and that changes files.
 struct Deed {
   const char* name;
-  const char* screen;
-  const char* word;
-  std::vector<std::pair<std::string, std::string>> answers;  // by the titles of boxes
-  std::function<void(HeadlessHost&, Screen&)> drive;
+  const char* script;  // its lines
 };
 
-// All of them, on the demonstration install.
+// Return the deeds, which work on the demonstration install.
 std::span<const Deed> Deeds();
 const Deed& DeedNamed(std::string_view name);
 
@@ -53,12 +56,24 @@ struct HistoryProgram {
   Transactions transactions;
 };
 
-// A small disk, all of it synced, and a transaction that makes every kind of change on it.
+// Returns a small disk with everything synced. The other functions make every kind of change on it
+// in one transaction.
 MemoryPlatform SmallDisk();
 void HoldEveryKind(HistoryProgram& program);
 void CommitEveryKind(Platform& platform);
+MemoryPlatform DiskAfterEveryKind();
+// Returns the disk of a process that was killed in the nth call of CommitEveryKind that changes
+// something; nothing if it makes fewer calls.
+std::optional<MemoryPlatform> DiskKilledAt(int nth);
 
-// Undoes the newest run that is not an undo itself. Returns the conflicts.
+// True if the action throws Died.
+bool DiesIn(const std::function<void()>& action);
+
+// Act as another process on a disk.
+Recovery Recover(const MemoryPlatform& disk, RecoveryChoice choice = RecoveryChoice::kByItself);
+bool IsUnfinished(const MemoryPlatform& disk);
+
+// Undoes the newest run that is not an undo itself. Returns the number of conflicts.
 std::size_t UndoNewest(Platform& platform);
 
 }  // namespace golf

@@ -1,9 +1,6 @@
-// What recovery and a commit do where another program has changed a file, and where two processes
-// meet.
+// Tests recovery and commits after another program has changed a file, and two processes at a time.
 
 #include <gtest/gtest.h>
-
-#include <optional>
 
 #include "core/text.h"
 #include "history/memory_install.h"
@@ -19,7 +16,7 @@ struct Foreign {
   const char* name;
   const char* file;
   std::function<void(HistoryGate&, PlatformFile*)> change;  // no file: it is deleted
-  // Whether it stands in a place of the run. Otherwise it only changes the length of the file.
+  // True if it is in a place that the run changes. Otherwise it only changes the file's length.
   bool in_place = true;
 };
 
@@ -51,34 +48,10 @@ const Foreign kForeign[] = {
     {"a deleted file that the run deletes", "/gone", nullptr, false},
 };
 
-// The disk after a crash in the nth call of the run. Nothing where the run has fewer.
-std::optional<MemoryPlatform> CrashedAt(int nth) {
-  MemoryPlatform disk = SmallDisk();
-  disk.DieAt(nth);
-  try {
-    CommitEveryKind(*ProcessOn(disk));
-    return std::nullopt;
-  } catch (const Died&) {
-  }
-  disk.Revive();
-  return disk;
-}
-
-Recovery Recover(const MemoryPlatform& disk, RecoveryChoice choice) {
-  const auto platform = ProcessOn(disk);
-  return HistoryProgram(*platform).transactions.Recover(choice);
-}
-
-DataFiles AfterEveryKind() {
-  const MemoryPlatform disk = SmallDisk();
-  CommitEveryKind(*ProcessOn(disk));
-  return DataOf(disk);
-}
-
-// Everywhere but in its file, the choice is carried out. Its own bytes stay.
+// The choice is carried out in all other files, and the bytes of the other program stay.
 TEST(RecoveryTest, AChangeOfAnotherProgramWaitsForTheOperator) {
   const DataFiles before = DataOf(SmallDisk());
-  const DataFiles after = AfterEveryKind();
+  const DataFiles after = DataOf(DiskAfterEveryKind());
   const std::pair<RecoveryChoice, const DataFiles*> kChoices[] = {
       {RecoveryChoice::kFinish, &after},
       {RecoveryChoice::kPutBack, &before},
@@ -87,21 +60,21 @@ TEST(RecoveryTest, AChangeOfAnotherProgramWaitsForTheOperator) {
     int stuck = 0;
     for (int nth = 1;; ++nth) {
       SCOPED_TRACE(std::string(foreign.name) + ", crash in call " + std::to_string(nth));
-      const auto crashed = CrashedAt(nth);
+      const auto crashed = DiskKilledAt(nth);
       if (!crashed) break;
       if (ErrorOf([&] { Make(foreign, *crashed); }) != 0) continue;  // the file is gone by now
       const DataFiles found = DataOf(*crashed);
-      if (!Recover(crashed->Copy(), RecoveryChoice::kByItself).stuck) continue;
+      if (!Recover(crashed->Copy()).stuck) continue;
       ++stuck;
       const std::string path = UpperCase(foreign.file);
       for (const auto& [choice, expected] : kChoices) {
         const MemoryPlatform disk = crashed->Copy();
-        EXPECT_TRUE(Recover(disk, RecoveryChoice::kByItself).stuck);
+        EXPECT_TRUE(Recover(disk).stuck);
         EXPECT_EQ(Difference(DataOf(disk), found), "");
-        EXPECT_TRUE(HistoryProgram(*ProcessOn(disk)).transactions.IsUnfinished());
+        EXPECT_TRUE(IsUnfinished(disk));
         EXPECT_FALSE(Recover(disk, choice).stuck);
         DataFiles left = DataOf(disk);
-        EXPECT_FALSE(HistoryProgram(*ProcessOn(disk)).transactions.IsUnfinished());
+        EXPECT_FALSE(IsUnfinished(disk));
         if (expected == nullptr) {
           EXPECT_EQ(Difference(left, found), "");
           continue;
@@ -175,7 +148,7 @@ TEST(RecoveryTest, ARunAtWorkIsLeftAlone) {
   };
   CommitEveryKind(meeting);
   EXPECT_GT(met, 1);
-  EXPECT_EQ(Difference(DataOf(disk), AfterEveryKind()), "");
+  EXPECT_EQ(Difference(DataOf(disk), DataOf(DiskAfterEveryKind())), "");
 }
 
 }  // namespace

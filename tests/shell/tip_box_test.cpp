@@ -43,7 +43,7 @@ TEST_F(TipBoxTest, RemembersByTitle) {
   };
   for (const auto& message : kMessages) {
     install.events().clear();
-    install.listener.on_tip = [&] { tip.ShowMessage.Choose(message.tick); };
+    install.listener.on_event = [&] { tip.ShowMessage.Choose(message.tick); };
     if (message.shown) install.host->QueueAnswer(message.title, message.answer);
     ShowMessage(message.type, message.title, "text");
     EXPECT_EQ(!install.events().empty(), message.shown) << message.title;
@@ -53,7 +53,7 @@ TEST_F(TipBoxTest, RemembersByTitle) {
 }
 
 TEST_F(TipBoxTest, EnterAnswersAQuestionWithNo) {
-  install.listener.on_tip = [&] {
+  install.listener.on_event = [&] {
     EXPECT_EQ(tip.focus(), &tip.NoButton);
     EXPECT_FALSE(tip.OKButton.visible());
     EXPECT_TRUE(tip.is_question());

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <initializer_list>
-#include <set>
 #include <string>
 #include <utility>
 
@@ -43,24 +42,6 @@ inline std::string RecordAt(const std::string& file, std::size_t record, std::si
   std::string bytes = file.substr(std::min((record - 1) * length, file.size()), length);
   bytes.resize(length, '\0');
   return bytes;
-}
-// Returns the whole records of a file, sorted.
-inline std::multiset<std::string> RecordsOf(const std::string& file, std::size_t length) {
-  std::multiset<std::string> records;
-  for (std::size_t i = 1; i <= file.size() / length; ++i) {
-    records.insert(RecordAt(file, i, length));
-  }
-  return records;
-}
-// Returns the numbers of the records of a file that neither of two other files has in that place.
-inline std::string StrangeRecords(const std::string& file, std::size_t length,
-                                  const std::string& before, const std::string& after) {
-  const auto known = RecordsOf(before + after, length);
-  std::string strange;
-  for (std::size_t i = 1; i <= file.size() / length; ++i) {
-    if (!known.contains(RecordAt(file, i, length))) strange += std::to_string(i) + ' ';
-  }
-  return strange;
 }
 // Puts a record into a file. Zeros fill the file up to it.
 inline void PutRecord(std::string& file, std::size_t record, const std::string& bytes) {

@@ -21,12 +21,12 @@ struct Node {
   std::string synced;  // what is on the disk
   // Each open file has a copy of this pointer.
   std::shared_ptr<int> users = std::make_shared<int>();
-  bool alone = false;  // the user wants no other
+  bool alone = false;  // its only user has opened it for itself
 
   bool InUse() const { return users.use_count() > 1; }
 };
 
-// What stands behind each path in capitals. A folder's path ends in a separator; it has no node.
+// The node of each path in capitals. A folder's path ends in a separator and has no node.
 using Names = std::map<std::string, std::shared_ptr<Node>>;
 
 // A creation has no old path, a deletion no new one.
@@ -51,7 +51,7 @@ std::string FolderKey(std::string_view path) {
   return key;
 }
 
-// The folder that holds a file or a folder.
+// Returns the folder that contains a file or a folder.
 std::string FolderOf(std::string_view key) {
   if (key.ends_with('/')) key.remove_suffix(1);
   return std::string(key.substr(0, key.rfind('/') + 1));
@@ -62,7 +62,7 @@ void Apply(Names& names, const NameChange& change) {
   if (!change.to.empty()) names[change.to] = change.node;
 }
 
-// The names that begin so.
+// Returns the range of names that begin with the folder.
 auto Below(Names& names, const std::string& folder) {
   const auto first = names.lower_bound(folder);
   const auto last = std::find_if(first, names.end(),
@@ -70,7 +70,7 @@ auto Below(Names& names, const std::string& folder) {
   return std::pair(first, last);
 }
 
-// Says of each thing that is not synced whether a power cut takes it.
+// Decides for each unsynced change whether a power cut loses it.
 class Losses {
  public:
   explicit Losses(std::uint64_t seed) : seed_(seed), random_(seed), share_(1 + random_() % 7) {}
@@ -149,7 +149,7 @@ struct MemoryPlatform::Disk {
     throw Died{};
   }
 
-  // Counts a call that changes something; true if it is the one to die in.
+  // Counts a call that changes something. Returns true if the process dies in it.
   bool DiesIn(const std::string& path) {
     Live(path);
     ++changing_calls;
@@ -291,7 +291,7 @@ class MemoryPlatform::File : public PlatformFile {
     }
   }
 
-  // True if the call is the one to die in.
+  // Returns true if the process dies in this call.
   bool Change() {
     Live();
     const bool dies = !IsScratch() && disk_->DiesIn(path_);

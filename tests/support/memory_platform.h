@@ -11,7 +11,7 @@
 
 namespace golf {
 
-// Ends the program that makes a call, as a killed process ends: no handler of errors takes it.
+// Ends the program that makes a call, like a killed process. No error handler catches it.
 struct Died {};
 
 // An install in memory, empty at first, for what runs many thousand times. No file grows above
@@ -26,18 +26,17 @@ class MemoryPlatform : public Platform {
   MemoryPlatform(MemoryPlatform&&) = default;
   MemoryPlatform& operator=(MemoryPlatform&&) = default;
 
-  // The same files in another memory, with what of them is synced. Nobody has them open.
+  // Returns a copy of the files and of their synced states. No file of the copy is open.
   MemoryPlatform Copy() const;
-  // Another process at the same disk, which outlives all of them.
+  // Returns another process on the same disk. The disk exists as long as one of them.
   MemoryPlatform OnSameDisk() const;
 
-  // The bytes of a file in any case of its name, which is a path below the program's folder. The
-  // file, and the folders on the way, are made on the disk where they are missing. Bytes that a
-  // test changes here are not synced.
+  // Returns the bytes of a file by its path below the program's folder, in any case. Makes a
+  // missing file and its folders on the disk. Bytes that a test changes here are not synced.
   std::string& Bytes(std::string_view name);
-  // All files with their bytes, by paths in capitals.
+  // Returns all files with their bytes, by paths in capitals.
   std::map<std::string, std::string> Files() const;
-  // Everything is on the disk as it is now.
+  // Syncs everything.
   void SyncAll();
 
   // The power fails and comes back. Of the pages of 4 KB, the lengths and the names that changed
@@ -49,13 +48,13 @@ class MemoryPlatform : public Platform {
   void PowerCut(std::uint64_t seed);
 
   // The nth call from now on that changes something, and every call behind it, throws Died. If that
-  // call is a write, `share` of its bytes, from 0 to 1, reach the file. A call that is made while
-  // Died is on its way is an error 57, since destructors may make it.
+  // call is a write, `share` of its bytes, from 0 to 1, reach the file. A call raises error 57 if
+  // it is made while Died unwinds the stack, since destructors may make it.
   void DieAt(int nth, double share = 0);
-  // Another process begins: calls work again, no file is open, nobody holds a lock. Calls on files
-  // that were open are errors 57.
+  // Starts another process: calls work again, no file is open and no lock is held. Calls on files
+  // that were open raise error 57.
   void Revive();
-  // Calls that changed something, since this disk was made or copied.
+  // Returns the number of calls that changed something since this disk was made or copied.
   int ChangingCalls() const;
 
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override;

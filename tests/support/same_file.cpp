@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "app/file_kinds.h"
+#include "outlets/file_kinds.h"
 #include "support/bytes.h"
 
 namespace golf {

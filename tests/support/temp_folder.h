@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -47,6 +48,17 @@ class TempFolder {
     std::ifstream file(At(name), std::ios::binary);
     if (!file) throw std::runtime_error("cannot read " + Path(name));
     return {std::istreambuf_iterator<char>(file), {}};
+  }
+  // Returns all files with their bytes, by their paths below a folder, with "/".
+  std::map<std::string, std::string> Files(std::string_view below = "") const {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(At(below))) {
+      if (!entry.is_regular_file()) continue;
+      std::ifstream file(entry.path(), std::ios::binary);
+      files[entry.path().lexically_relative(At(below)).generic_string()].assign(
+          std::istreambuf_iterator<char>(file), {});
+    }
+    return files;
   }
 
  private:

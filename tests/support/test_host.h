@@ -23,34 +23,37 @@ class RecordingListener : public HostListener {
  public:
   std::vector<std::string> events;
 
-  void OnOpen(const Screen& screen) override { events.push_back("open " + screen.name()); }
-  void OnClose(const Screen& screen) override { events.push_back("close " + screen.name()); }
+  void OnOpen(const Screen& screen) override { Add("open " + screen.name()); }
+  void OnClose(const Screen& screen) override { Add("close " + screen.name()); }
   void OnMessage(const Box& box, BoxButton answer) override {
-    events.push_back("message [" + box.title + "] " + box.text + " -> " +
-                     std::string(NameOf(answer)));
+    Add("message [" + box.title + "] " + box.text + " -> " + std::string(NameOf(answer)));
   }
   void OnInput(const InputBox& box, const std::string& answer) override {
-    events.push_back("input [" + box.title + "] " + box.text + " -> " + answer);
+    Add("input [" + box.title + "] " + box.text + " -> " + answer);
   }
   void OnTip(const TipView& tip, const std::string& answer) override {
-    events.push_back("tip " + std::to_string(tip.type) + " [" + tip.title + "] " + tip.text +
-                     " -> " + answer);
-    if (on_tip) on_tip();
+    Add("tip " + std::to_string(tip.type) + " [" + tip.title + "] " + tip.text + " -> " + answer);
   }
-  void OnBeep() override { events.push_back("beep"); }
+  void OnBeep() override { Add("beep"); }
   void OnStart(const std::string& program, const std::string& arguments) override {
-    events.push_back("start " + program.substr(program.find_last_of("/\\") + 1) + "|" + arguments);
+    Add("start " + program.substr(program.find_last_of("/\\") + 1) + "|" + arguments);
   }
   void OnError(const NumberedError& error) override {
-    events.push_back("error " + std::to_string(error.number()));
+    Add("error " + std::to_string(error.number()));
   }
   void OnProgress(const Progress& progress) override {
     if (on_progress) on_progress(progress);
   }
-  void OnEnd() override { events.push_back("end"); }
+  void OnEnd() override { Add("end"); }
 
   std::function<void(const Progress&)> on_progress;
-  std::function<void()> on_tip;  // called while the message is shown
+  std::function<void()> on_event;  // called at each event, while its box is still shown
+
+ private:
+  void Add(std::string event) {
+    events.push_back(std::move(event));
+    if (on_event) on_event();
+  }
 };
 
 // The whole program without a display on an install in a temporary folder. Its calls to the system
@@ -76,8 +79,6 @@ class TestInstall {
     host->clock = [] { return DateFromCivil({2024, 5, 13}); };
     listener.events.clear();
   }
-  // Deletes the history, so that each run of a loop makes the same calls.
-  void ForgetHistory() { std::filesystem::remove_all(folder.Path("transfer-history")); }
   // Opens a screen. `drive` works each screen that opens, until none is left.
   void Open(const char* screen, std::function<void(Screen&)> drive, const char* word = "") {
     host->drive = std::move(drive);
@@ -134,18 +135,6 @@ int ClickErrorOf(Action&& action) {
       throw ended.error;
     }
   });
-}
-
-// Runs `run(n)` with the fault at the n-th call to the system, for n from 1, until it returns that
-// the fault has not occurred.
-template <class Run>
-void ForEachFault(Run&& run) {
-  constexpr int kMost = 500;  // a run has fewer calls
-  for (int nth = 1; nth < kMost; ++nth) {
-    SCOPED_TRACE(nth);
-    if (!run(nth)) return;
-  }
-  ADD_FAILURE() << "the faults do not end";
 }
 
 // Chooses from a list of rosters as the operator. Returns false on any other screen.

@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include "core/file_name.h"
 #include "core/number_text.h"
 #include "core/text.h"
 #include "core/while_set.h"
@@ -14,6 +13,7 @@
 #include "scoring/tournament_class.h"
 #include "screens/results/grid_sort_screen.h"
 #include "stores/quenby/program_class.h"
+#include "screens/table_export.h"
 
 namespace golf {
 namespace {
@@ -272,61 +272,11 @@ void TeamResults::Sort() {
 }
 
 // Returns the rows of the standings as the grid shows them, after a row of headings.
-std::vector<std::vector<std::string>> TeamResults::Lines() const {
-  std::vector<std::vector<std::string>> lines(static_cast<std::size_t>(grid1.rows()) + 1);
-  for (int column = 1; column <= grid1.columns(); ++column) {
-    if (grid1.IsHidden(column)) continue;
-    lines[0].push_back(ReplaceText(grid1.heading(column), "\n", " ", ReplaceMode::kExact));
-    for (int row = 1; row <= grid1.rows(); ++row) {
-      lines[static_cast<std::size_t>(row)].push_back(grid1.text(column, row));
-    }
-  }
-  return lines;
-}
-
-// Copies the standings to the clipboard. Tabs separate the cells, so that a spreadsheet can paste
-// them.
-void TeamResults::Copy() {
-  std::string text;
-  for (const auto& line : Lines()) {
-    for (std::size_t i = 0; i < line.size(); ++i) text += (i > 0 ? "\t" : "") + line[i];
-    text += "\r\n";
-  }
-  host().CopyText(text);
-}
+void TeamResults::Copy() { CopyLines(host(), GridLines(grid1)); }
 
 void TeamResults::SaveAsCsv() {
-  std::string name =
-      host().Ask(InputBox{.title = "Save as CSV",
-                          .text = "Name of the file, in the folder " + state().ProgramPath,
-                          .default_answer = "Team results.csv"});
-  if (name.empty()) return;
-  const std::string fault = FileNameFault(name);
-  if (!fault.empty()) {
-    host().Ask(Box{.title = "Notice", .text = "A file name " + fault});
-    return;
-  }
-  constexpr std::string_view kEnding = ".csv";
-  const std::size_t stem = name.size() - std::min(name.size(), kEnding.size());
-  if (!EqualIgnoringCase(name.substr(stem), kEnding)) name += kEnding;
-  const std::string path = state().ProgramPath + name;
-  if (state().files.FileExists(path)) {
-    const BoxButton answer = host().Ask(Box{.title = "Replace file?",
-                                            .text = name + " already exists.  Do you want to "
-                                                           "replace it?",
-                                            .icon = BoxIcon::kQuestion,
-                                            .buttons = {BoxButton::kYes, BoxButton::kNo},
-                                            .default_button = 1});
-    if (answer != BoxButton::kYes) return;
-  }
-  std::string text;
-  for (const auto& line : Lines()) text += CsvLine(line) + "\r\n";
-  unchanged_.reset();
-  state().files.gate().ReplaceText(path, text);
-  unchanged_.emplace(state().files.gate());
-  host().Ask(Box{.title = "Notice",
-                 .text = "The standings were saved as " + path,
-                 .icon = BoxIcon::kInformation});
+  SaveText(state(), host(), {"Save as CSV", "Team results.csv", ".csv", "The standings were"},
+           CsvText(GridLines(grid1)));
 }
 
 void TeamResults::OnUnload() { unchanged_.reset(); }

@@ -51,7 +51,6 @@ class TeamResults : public Screen {
   void ShowCardSums(int row, int team);
   const TeamBalls& BallsOf(int team) const;
   void Sort();
-  std::vector<std::vector<std::string>> Lines() const;
   void Copy();
   void SaveAsCsv();
   void Close();

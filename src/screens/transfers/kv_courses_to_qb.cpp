@@ -1,19 +1,17 @@
 #include "screens/transfers/kv_courses_to_qb.h"
 
 #include "core/number_text.h"
-#include "screens/transfers/screen_run.h"
 #include "transfers/courses_kv_to_qb.h"
 
 namespace golf {
 
 KVCoursestoQB::KVCoursestoQB(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("Transfer COURSES from Kelvane to Quenby");
-  Add({&Label1, &TransferLabel, &TransferCourses, &CancelButton});
+  Add({&Label1, &TransferLabel, &TransferCourses, &CancelButton, &PreviewButton});
   TransferCourses.SetDefault(true);
   CancelButton.SetCancel(true);
-  TransferCourses.on_click = [this] {
-    RunTransfer(*this, state(), host(), [this] { Transfer(); });
-  };
+  TransferCourses.on_click = [this] { Start(RunEnding::kCommit); };
+  PreviewButton.on_click = [this] { Start(RunEnding::kPreview); };
   CancelButton.on_click = [this] { host().Unload(*this); };
 }
 
@@ -21,6 +19,10 @@ void KVCoursestoQB::OnLoad() {
   Label1.SetCaption(
       "Click the button below to copy (update) courses from the Kelvane's course library to the "
       "Quenby's course library.");
+}
+
+void KVCoursestoQB::Start(RunEnding ending) {
+  RunTransfer(*this, state(), host(), ending, [this] { Transfer(); });
 }
 
 void KVCoursestoQB::Transfer() {

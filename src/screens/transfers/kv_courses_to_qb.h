@@ -2,6 +2,7 @@
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
+#include "screens/transfers/screen_run.h"
 
 namespace golf {
 
@@ -19,8 +20,10 @@ class KVCoursestoQB : public Screen {
   Label TransferLabel{"TransferLabel"};
   Button TransferCourses{"TransferCourses", "&Transfer Courses"};
   Button CancelButton{"CancelButton", "Cancel"};
+  Button PreviewButton{"PreviewButton", "Pre&view..."};
 
  private:
+  void Start(RunEnding ending);
   void Transfer();
 };
 

@@ -2,9 +2,12 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
+#include "screens/history/preview.h"
+#include "screens/transfers/screen_run.h"
 #include "transfers/golfers_kv_to_qb.h"
 
 namespace golf {
@@ -38,6 +41,7 @@ class KVtoQB : public Screen {
   Label Working{"Working"};
   Button TransferButton{"TransferButton", ">> &Transfer Golfers >>"};
   Button ExitButton{"ExitButton", "Cancel"};
+  Button PreviewButton{"PreviewButton", "Pre&view..."};
 
   // These are the columns of the grid.
   static constexpr int kItemColumn = 1;
@@ -53,11 +57,15 @@ class KVtoQB : public Screen {
   void FindDestination();
 
   GolferToQbChoice Choice() const;
-  void Transfer();
-  bool CopyGolfers(const GolfersKvToQbRequest& request, GolfersKvToQbReport& report);
+  void Start(RunEnding ending);
+  void Transfer(RunEnding ending);
+  bool CopyGolfers(const GolfersKvToQbRequest& request, RunEnding ending,
+                   GolfersKvToQbReport& report);
+  std::string PreviewWithUpdate(const GolfersKvToQbReport& golfers);
+  void CommitPreview(const PreviewNotes& notes);
   void ShowReport(const std::string& log);
   void ShowNotice(std::string text);
-  void AskTournamentUpdate();
+  std::string UpdateTournament(LeftOut& left_out);
 };
 
 }  // namespace golf

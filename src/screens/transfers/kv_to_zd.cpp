@@ -6,7 +6,6 @@
 #include "core/text.h"
 #include "screens/rosters/load_roster.h"
 #include "screens/settings_file.h"
-#include "screens/transfers/screen_run.h"
 #include "stores/zandel/zandel_files.h"
 #include "transfers/golfers_kv_to_zd.h"
 
@@ -35,13 +34,15 @@ KVtoZD::KVtoZD(const ScreenContext& context)
                    &Label1[3],       &Label1[4],    &Label1[5],    &Label1[6], &Label1[7],
                    &TransferButton,  &CancelButton, &Message,      &Working,   &WorkingCount});
   AddInto(picker.Panel, picker.Controls());
+  AddInto(Frame1, {&PreviewButton});
   Message.SetReadOnly(true);
   HandicapType[1].SetValue(true);
   for (std::size_t type = 0; type < HandicapType.size(); ++type) {
     HandicapType[type].on_click = [this, type] { SelectHandicap(type); };
   }
   FindKVMButton.on_click = [this] { FindSource(); };
-  TransferButton.on_click = [this] { RunTransfer(*this, state(), host(), [this] { Transfer(); }); };
+  TransferButton.on_click = [this] { Start(RunEnding::kCommit); };
+  PreviewButton.on_click = [this] { Start(RunEnding::kPreview); };
   CancelButton.on_click = [this] { host().Unload(*this); };
 }
 
@@ -81,6 +82,10 @@ void KVtoZD::FindSource() { SourcePath.SetCaption(AskForKelvaneRoster(state(), h
 void KVtoZD::SelectHandicap(std::size_t type) {
   HandicapType[type].SetValue(true);
   HandicapType[1 - type].SetValue(false);
+}
+
+void KVtoZD::Start(RunEnding ending) {
+  RunTransfer(*this, state(), host(), ending, [this] { Transfer(); });
 }
 
 void KVtoZD::Transfer() {

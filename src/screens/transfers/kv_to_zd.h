@@ -6,6 +6,7 @@
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
 #include "screens/rosters/league_picker.h"
+#include "screens/transfers/screen_run.h"
 
 namespace golf {
 
@@ -46,6 +47,7 @@ class KVtoZD : public Screen {
   Label Working{"Working"};
   Label WorkingCount{"WorkingCount"};
   LeaguePicker picker;
+  Button PreviewButton{"PreviewButton", "Pre&view..."};
 
  private:
   std::string SettingsPath() const;
@@ -53,6 +55,7 @@ class KVtoZD : public Screen {
   void FindSource();
   void SelectHandicap(std::size_t type);
 
+  void Start(RunEnding ending);
   void Transfer();
   // Returns a whole number from 10 to 100. The box shows it after the copying has begun.
   int Percent() const;

@@ -8,7 +8,6 @@
 #include "scoring/tournament_class.h"
 #include "screens/remembered_settings.h"
 #include "screens/rosters/load_roster.h"
-#include "screens/transfers/screen_run.h"
 #include "stores/course/course_class.h"
 #include "stores/course/course_library.h"
 #include "stores/kelvane/kelvane_files.h"
@@ -50,7 +49,8 @@ QBtoKV::QBtoKV(const ScreenContext& context) : Screen(kName, context) {
       Add({&sex.headings[i], &sex.tees[i], &sex.partners[i]});
     }
   }
-  Add({&TCheck, &TCheck2, &FirstTimeLoaded, &Message, &Working, &TransferButton, &ExitButton});
+  Add({&TCheck, &TCheck2, &FirstTimeLoaded, &Message, &Working, &TransferButton, &ExitButton,
+       &PreviewButton});
   FirstTimeLoaded.SetVisible(false);
   RoundList.SetVisible(false);
   HideTees();
@@ -62,7 +62,8 @@ QBtoKV::QBtoKV(const ScreenContext& context) : Screen(kName, context) {
   ExitButton.SetCancel(true);
   DestButton.on_click = [this] { FindRoster(); };
   TCheck2.on_click = [this] { AskForPoints(); };
-  TransferButton.on_click = [this] { RunTransfer(*this, state(), host(), [this] { Transfer(); }); };
+  TransferButton.on_click = [this] { Start(RunEnding::kCommit); };
+  PreviewButton.on_click = [this] { Start(RunEnding::kPreview); };
   ExitButton.on_click = [this] { host().Unload(*this); };
 }
 
@@ -313,6 +314,10 @@ void QBtoKV::AskForPoints() {
 
 void QBtoKV::ShowCaption() {
   TransferButton.SetCaption(TCheck2.value() ? "Transfer Points" : "Transfer Scores");
+}
+
+void QBtoKV::Start(RunEnding ending) {
+  RunTransfer(*this, state(), host(), ending, [this] { Transfer(); });
 }
 
 void QBtoKV::Transfer() {

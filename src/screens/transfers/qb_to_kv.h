@@ -8,6 +8,7 @@
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
+#include "screens/transfers/screen_run.h"
 #include "transfers/scores_qb_to_kv.h"
 
 namespace golf {
@@ -63,6 +64,7 @@ class QBtoKV : public Screen {
   Label Working{"Working"};
   Button TransferButton{"TransferButton", "Transfer Scores"};
   Button ExitButton{"ExitButton", "Exit"};
+  Button PreviewButton{"PreviewButton", "Pre&view..."};
 
   // These return the number at the end of an item.
   static std::int32_t TournamentOf(const std::string& item);
@@ -104,6 +106,7 @@ class QBtoKV : public Screen {
   void AskForPoints();
   void ShowCaption();
 
+  void Start(RunEnding ending);
   void Transfer();
   TournamentScoreChoice Choice();
   void ShowReport(const ScoresQbToKvReport& report);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/resume_next.h"
+#include "screens/history/preview.h"
 #include "screens/tip_box.h"
 
 namespace golf {
@@ -36,10 +37,11 @@ std::string StoredText(const RunReport& report) {
 
 }  // namespace
 
-void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
+void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host, RunEnding ending,
                  const std::function<void()>& run) {
   const ChangingClick click(state, host);
   if (!click.IsAllowed()) return;
+  if (ending == RunEnding::kPreview) state.transactions->BeginPreview();
   const InputHeldOff held_off(host);
   const auto open_again = [&] {
     // Ignores errors here, since the operator must see the error that ended the run.
@@ -52,6 +54,9 @@ void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
   } catch (const NumberedError&) {
     open_again();
     throw;
+  } catch (const PreviewClosed&) {
+    state.transactions->EndClick();
+    open_again();
   } catch (...) {
     // The run was stopped. Drops the held changes before the screen reads the files.
     state.transactions->EndClick();
@@ -61,7 +66,7 @@ void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
 }
 
 ScreenRun::ScreenRun(SharedState& state, ScreenHost& host, RunLook look, RunTitle title)
-    : transactions_(*state.transactions), host_(host), look_(std::move(look)) {
+    : state_(state), transactions_(*state.transactions), host_(host), look_(std::move(look)) {
   if (look_.button != nullptr) button_before_ = look_.button->visible();
   if (look_.message != nullptr) message_before_ = look_.message->text();
   title.about = WithSingleBlanks(std::move(title.about));
@@ -81,8 +86,18 @@ ScreenRun::~ScreenRun() {
   if (look_.message != nullptr) look_.message->SetText(message_before_);
 }
 
-void ScreenRun::Commit(const RunReport& report, const CommitRetry& retry) {
+void ScreenRun::Commit(const RunReport& report, const NumberedError* ended_by,
+                       const CommitRetry& retry) {
   const std::string text = StoredText(report);
+  if (transactions_.IsPreview()) {
+    host_.SetPointer(Pointer::kNormal);
+    if (look_.previewed_later) {
+      transactions_.Commit(text);
+      committed_ = true;
+      return;
+    }
+    ConfirmPreview(state_, host_, {.left_out = report.left_out, .ended_by = ended_by});
+  }
   while (true) {
     try {
       transactions_.Commit(text);

@@ -12,10 +12,16 @@
 
 namespace golf {
 
+// Says how a click on a transfer ends.
+enum class RunEnding {
+  kCommit,
+  kPreview,  // shows what would change, and commits if the operator agrees
+};
+
 // Runs a transfer of a screen as a click that changes files. The host takes no input meanwhile. If
 // `run` raises an exception, closes all files, makes the shared objects again, calls OpenAgain of
 // the screen, and raises the exception again.
-void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host,
+void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host, RunEnding ending,
                  const std::function<void()>& run);
 
 // Contains the controls that a run changes on its screen. Any member may be left out.
@@ -27,6 +33,7 @@ struct RunLook {
   TextBox* message = nullptr;        // shows the log after the run
   bool shows_log = false;            // `message` also shows the log before a question of AskAgain
   std::function<void()> begin = {};  // is called when the copying begins
+  bool previewed_later = false;      // the screen itself calls ConfirmPreview after another run
 };
 
 // Returns true if a failed commit must be tried again.
@@ -52,10 +59,13 @@ class ScreenRun : public RunHost {
 
   // Commits the changes of the run. If the commit fails and no file has changed, calls `retry` and
   // tries again if it returns true. Otherwise drops the changes and raises CommitFailed. After the
-  // commit it passes what the run has left out to the host.
-  void Commit(const RunReport& report, const CommitRetry& retry = nullptr);
+  // commit it passes what the run has left out to the host, except if the screen itself calls
+  // ConfirmPreview.
+  void Commit(const RunReport& report, const NumberedError* ended_by,
+              const CommitRetry& retry = nullptr);
 
  private:
+  SharedState& state_;
   Transactions& transactions_;
   ScreenHost& host_;
   RunLook look_;
@@ -71,7 +81,8 @@ template <class Request, class AnyReport>
 void RunWhole(SharedState& state, ScreenHost& host, RunLook look, RunTitle title,
               const Request& request, AnyReport& report, const CommitRetry& retry = nullptr) {
   ScreenRun run(state, host, std::move(look), std::move(title));
-  RunAndCommit([&] { Run(state, run, request, report); }, [&] { run.Commit(report, retry); });
+  RunAndCommit([&] { Run(state, run, request, report); },
+               [&](const NumberedError* ended_by) { run.Commit(report, ended_by, retry); });
 }
 
 }  // namespace golf

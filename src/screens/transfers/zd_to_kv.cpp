@@ -3,7 +3,6 @@
 #include "core/text.h"
 #include "screens/remembered_settings.h"
 #include "screens/rosters/load_roster.h"
-#include "screens/transfers/screen_run.h"
 #include "stores/zandel/zandel_batches.h"
 #include "transfers/scores_zd_to_kv.h"
 
@@ -26,10 +25,12 @@ ZDtoKV::ZDtoKV(const ScreenContext& context)
           {&SourceButton, &LeagueRoster, &EventList, &DestButton, &HandicapRoster, &TransferButton,
            &ExitButton, &Message, &Working, &Label1[0], &Label1[1], &Label1[2]});
   AddInto(picker.Panel, picker.Controls());
+  AddInto(Frame2, {&PreviewButton});
   Message.SetReadOnly(true);
   EventList.on_click = [this] { TransferButton.SetVisible(true); };
   DestButton.on_click = [this] { FindDestination(); };
-  TransferButton.on_click = [this] { RunTransfer(*this, state(), host(), [this] { Transfer(); }); };
+  TransferButton.on_click = [this] { Start(RunEnding::kCommit); };
+  PreviewButton.on_click = [this] { Start(RunEnding::kPreview); };
   ExitButton.on_click = [this] { host().Unload(*this); };
 }
 
@@ -70,6 +71,10 @@ void ZDtoKV::LoadEventList() {
 void ZDtoKV::FindDestination() {
   HandicapRoster.SetText(AskForKelvaneRoster(state(), host()));
   TransferButton.SetVisible(true);
+}
+
+void ZDtoKV::Start(RunEnding ending) {
+  RunTransfer(*this, state(), host(), ending, [this] { Transfer(); });
 }
 
 void ZDtoKV::Transfer() {

@@ -6,6 +6,7 @@
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
 #include "screens/rosters/league_picker.h"
+#include "screens/transfers/screen_run.h"
 #include "transfers/scores_zd_to_kv.h"
 
 namespace golf {
@@ -39,6 +40,7 @@ class ZDtoKV : public Screen {
                               Label("Label1", "To Kelvane ROSTER..."),
                               Label("Label1", "Transfer scores from LEAGUE ...")};
   LeaguePicker picker;
+  Button PreviewButton{"PreviewButton", "Pre&view..."};
 
  private:
   std::array<Control*, 5> Remembered();
@@ -46,6 +48,7 @@ class ZDtoKV : public Screen {
   void LoadEventList();
   void FindDestination();
 
+  void Start(RunEnding ending);
   void Transfer();
   void PostScores(ScoresZdToKvReport& report);
 

@@ -5,7 +5,6 @@
 #include "core/text.h"
 #include "screens/remembered_settings.h"
 #include "screens/transfers/quenby_rosters.h"
-#include "screens/transfers/screen_run.h"
 #include "transfers/golfers_zd_to_qb.h"
 
 namespace golf {
@@ -34,15 +33,13 @@ ZDtoQB::ZDtoQB(const ScreenContext& context)
                    &TransferSubs, &TransferButton, &CancelButton, &Message, &Working, &WorkingCount,
                    &Label1[0], &Label1[1], &Label1[2], &Label1[3]});
   AddInto(picker.Panel, picker.Controls());
+  AddInto(Frame2, {&PreviewButton});
   Message.SetReadOnly(true);
   DestButton.on_click = [this] {
     TournamentRoster.SetText(AskForQuenbyRoster(state(), host(), true));
   };
-  TransferButton.on_click = [this] {
-    bool done = false;
-    RunTransfer(*this, state(), host(), [&] { done = Transfer(); });
-    if (done) CancelButton.Click();
-  };
+  TransferButton.on_click = [this] { Start(RunEnding::kCommit); };
+  PreviewButton.on_click = [this] { Start(RunEnding::kPreview); };
   CancelButton.on_click = [this] { host().Unload(*this); };
 }
 
@@ -70,6 +67,12 @@ void ZDtoQB::NotifyOfLongNames(std::int32_t count) {
   host().Notify(std::to_string(count) + (count == 1 ? " first name does" : " first names do") +
                 " not fit Quenby's 11 characters. Another transfer adds " +
                 (count == 1 ? "this golfer" : "these golfers") + " again.");
+}
+
+void ZDtoQB::Start(RunEnding ending) {
+  bool done = false;
+  RunTransfer(*this, state(), host(), ending, [&] { done = Transfer(); });
+  if (done) CancelButton.Click();
 }
 
 bool ZDtoQB::Transfer() {

@@ -5,6 +5,7 @@
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
 #include "screens/rosters/league_picker.h"
+#include "screens/transfers/screen_run.h"
 
 namespace golf {
 
@@ -39,11 +40,13 @@ class ZDtoQB : public Screen {
                               Label("Label1", "Quenby Roster"),
                               Label("Label1", "  Transfer Messages")};
   LeaguePicker picker;
+  Button PreviewButton{"PreviewButton", "Pre&view..."};
 
  private:
   std::array<Control*, 6> Remembered();
   // Runs the transfer. If the operator has not chosen a league or a roster, shows a message and
   // returns false.
+  void Start(RunEnding ending);
   bool Transfer();
   void NotifyOfLongNames(std::int32_t count);
 };

@@ -1,4 +1,4 @@
-#include "app/record_kinds.h"
+#include "outlets/record_kinds.h"
 
 #include <algorithm>
 #include <functional>
@@ -6,12 +6,12 @@
 #include <memory>
 #include <utility>
 
-#include "app/file_kinds.h"
-#include "app/install_reader.h"
-#include "app/record_titles.h"
 #include "core/text.h"
 #include "history/record_changes.h"
 #include "history/transactions.h"
+#include "outlets/file_kinds.h"
+#include "outlets/install_reader.h"
+#include "outlets/record_titles.h"
 #include "stores/course/course_layout.h"
 #include "stores/course/course_library.h"
 #include "stores/kelvane/kelvane_layouts.h"

@@ -1,4 +1,4 @@
-#include "app/install_reader.h"
+#include "outlets/install_reader.h"
 
 #include "history/transactions.h"
 

@@ -1,4 +1,4 @@
-#include "app/file_kinds.h"
+#include "outlets/file_kinds.h"
 
 #include "core/text.h"
 #include "stores/course/course_layout.h"

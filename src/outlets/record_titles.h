@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/install_reader.h"
+#include "outlets/install_reader.h"
 
 namespace golf {
 

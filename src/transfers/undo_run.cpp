@@ -1,4 +1,4 @@
-#include "app/undo_run.h"
+#include "transfers/undo_run.h"
 
 #include <algorithm>
 
@@ -24,6 +24,21 @@ void RebuildIndexes(SharedState& state, const CourseLibrary& library) {
   course.CloseCourseFile();
 }
 
+std::string ReportOfUndo(const HistoryRun& run, const UndoResult& result) {
+  std::string report =
+      "Undo of the run of " +
+      FormatPicture(CivilFromDate(run.title.moment), "yyyy'-'MM'-'dd HH':'mm':'ss") + ": " +
+      run.title.command;
+  if (!run.title.about.empty()) report += " " + run.title.about;
+  if (!result.conflicts.empty()) report += "\r\nLeft as they are:";
+  for (const UndoConflict& conflict : result.conflicts) {
+    report += "\r\n" + conflict.file;
+    if (conflict.record > 0) report += ", record " + std::to_string(conflict.record);
+    report += ": " + conflict.title;
+  }
+  return report;
+}
+
 }  // namespace
 
 UndoResult HoldUndoOfRun(SharedState& state, const RecordKinds& kinds, const HistoryRun& run) {
@@ -40,6 +55,13 @@ UndoResult HoldUndoOfRun(SharedState& state, const RecordKinds& kinds, const His
   }
   state.CourseDataPath = before;
   return result;
+}
+
+std::int32_t CommitUndoOfRun(Transactions& transactions, const HistoryRun& run,
+                             const UndoResult& result) {
+  const std::int32_t committed = transactions.Commit(ReportOfUndo(run, result));
+  if (committed == 0 && result.conflicts.empty()) MarkUndone(transactions.history(), run);
+  return committed;
 }
 
 }  // namespace golf

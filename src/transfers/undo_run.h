@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "core/shared_state.h"
 #include "history/record_kinds.h"
 #include "history/undo.h"
@@ -10,5 +12,11 @@ namespace golf {
 // date. The caller commits the transaction, or drops it if the result reports conflicts that it
 // does not accept.
 UndoResult HoldUndoOfRun(SharedState& state, const RecordKinds& kinds, const HistoryRun& run);
+
+// Commits what HoldUndoOfRun has held, with a report that names the records left as they are.
+// Returns the running number of the undo, or 0 if nothing had to change. The run is undone then,
+// too, unless there are conflicts. Errors as Transactions::Commit.
+std::int32_t CommitUndoOfRun(Transactions& transactions, const HistoryRun& run,
+                             const UndoResult& result);
 
 }  // namespace golf

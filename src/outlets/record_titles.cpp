@@ -1,10 +1,10 @@
-#include "app/record_titles.h"
+#include "outlets/record_titles.h"
 
 #include <optional>
 
-#include "app/file_kinds.h"
 #include "core/text.h"
 #include "history/record_changes.h"
+#include "outlets/file_kinds.h"
 #include "stores/course/course_layout.h"
 #include "stores/kelvane/kelvane_layouts.h"
 #include "stores/quenby/quenby_layouts.h"
@@ -95,12 +95,19 @@ std::string TitleOf(const RecordPlace& place, const Record<LeagueControlLayout>&
   return name.empty() ? Stem(place.file) : name;
 }
 
+// Returns the name of the league to which a file belongs.
+std::string LeagueTitle(const RecordPlace& place) {
+  const std::string control = WithExtension(place.file, ".ZL8");
+  const auto league = place.reader.Read<LeagueControlLayout>(control, 1);
+  return league ? TitleOf({place.reader, control, 1}, *league) : Stem(place.file);
+}
+
 std::string TitleOf(const RecordPlace& place, const Record<LeagueEventLayout>&) {
-  return Numbered("Event", place.record);
+  return LeagueTitle(place) + ", " + Numbered("event", place.record);
 }
 
 std::string TitleOf(const RecordPlace& place, const Record<LeagueTeamLayout>&) {
-  return Numbered("Team", place.record);
+  return LeagueTitle(place) + ", " + Numbered("team", place.record);
 }
 
 struct TitleKind {
