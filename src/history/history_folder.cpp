@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::string_view kFolder = "transfer-history";
 constexpr std::string_view kEnding = ".run";
+constexpr std::string_view kKeptEnding = ".kept";
 constexpr std::size_t kNumberDigits = 6;
 
 // Removes the leading number from a text and returns it. Returns nothing if there is none.
@@ -93,7 +94,7 @@ HistoryName HistoryFolder::Next(DateValue moment, bool continues) {
 
 std::string HistoryFolder::KeptName(const HistoryName& run, std::size_t number) {
   return run.text.substr(0, run.text.size() - kEnding.size()) + "." + std::to_string(number) +
-         ".kept";
+         std::string(kKeptEnding);
 }
 
 std::unique_ptr<HistoryFile> HistoryFolder::Open(const HistoryName& name, FileAccess access) {
@@ -103,7 +104,8 @@ std::unique_ptr<HistoryFile> HistoryFolder::Open(const HistoryName& name, FileAc
 void HistoryFolder::Forget(const HistoryName& name) {
   const std::string beginning = KeptName(name, 0).substr(0, name.text.size() - kEnding.size() + 1);
   for (const std::string& text : gate_.platform().FileNames(paths_.history)) {
-    if (text.starts_with(beginning) && text.ends_with(".kept")) {
+    const std::string_view ending = LastCharacters(text, kKeptEnding.size());
+    if (text.starts_with(beginning) && EqualIgnoringCase(ending, kKeptEnding)) {
       gate_.Delete(paths_.history + text);
     }
   }

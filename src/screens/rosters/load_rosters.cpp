@@ -220,8 +220,13 @@ void LoadRosters::AskToDelete() {
                           .default_answer = "NO"});
   if (MeansYes(answer)) {
     ChangeFiles(state(), host(), "delete-qb-roster", program.ClubName(), [&] {
-      program.DeleteRosterRecord(roster);
-      TakeGolfersOut(roster);
+      try {
+        program.DeleteRosterRecord(roster);
+        TakeGolfersOut(roster);
+      } catch (const NumberedError&) {
+        state().transactions->Drop();  // the roster is not deleted without its golfers
+        throw;
+      }
     });
   }
   LoadList();
