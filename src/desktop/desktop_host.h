@@ -28,6 +28,7 @@ class DesktopHost : public HostBase {
   void BeginRun() override;
   void Report(const Progress& progress) override;
   void EndRun() override;
+  void NoteLeftOut(const LeftOut&) override {}  // no window shows it
   void Notify(const std::string& text) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
   DateValue Now() override { return clock(); }

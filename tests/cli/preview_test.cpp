@@ -51,7 +51,7 @@ const PreviewCase kCases[] = {
      "10 golfers changed, 2 added in Quenby; 12 tournament entries changed in Quenby; 2 files"},
     {"open ZDtoQB\nset LeagueRoster \"Larkfield 00011\"\n"
      "set TournamentRoster \"Larkfield Members 001\"\n",
-     "TransferButton", "6 golfers added in Quenby; 1 file"}};
+     "TransferButton", "6 golfers added in Quenby; 1 file; 2 left out"}};
 
 TEST_F(PreviewTest, TransferNowDoesWhatTheTransferDoesAndCloseDoesNothing) {
   const Tree pristine = AllFiles();
