@@ -97,6 +97,8 @@ class Transactions {
   // Begins a transaction. Drops changes that were held before, except in a dry run or a preview.
   void Begin(RunTitle title);
   bool IsOpen() const { return held_.held() != nullptr; }
+  // True if the current click has committed a transaction.
+  bool HasCommitted() const { return committed_in_click_ != 0; }
   // Begins a group for the following changes. They belong to the run as a whole if `title` is
   // empty.
   void BeginGroup(std::string_view title);
