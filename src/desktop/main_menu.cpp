@@ -2,8 +2,9 @@
 
 #include <wx/menu.h>
 
-#include <map>
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "app/history_entries.h"
 #include "app/tools.h"
@@ -20,30 +21,38 @@ class ListedMenu : public wxMenu {
     Fill();
   }
 
+  // Replaces the entries if they have changed. An open menu would keep its width.
   void Fill() {
     if (host_.in_run()) return;
+    std::vector<MenuEntry> entries = list_(state_);
+    if (GetMenuItemCount() > 0 && std::equal(entries.begin(), entries.end(), entries_.begin(),
+                                             entries_.end(), LooksTheSame)) {
+      return;
+    }
     while (GetMenuItemCount() > 0) Destroy(FindItemByPosition(0));
-    entries_.clear();
-    for (MenuEntry& entry : list_(state_)) {
-      wxMenuItem* item = Append(wxID_ANY, WxText(entry.caption));
-      item->Enable(entry.enabled);
-      entries_[item->GetId()] = std::move(entry);
+    entries_ = std::move(entries);
+    for (const MenuEntry& entry : entries_) {
+      Append(wxID_ANY, WxText(entry.caption))->Enable(entry.enabled);
     }
     if (entries_.empty()) Append(wxID_ANY, "(Nothing to work on here)")->Enable(false);
   }
 
  private:
+  static bool LooksTheSame(const MenuEntry& a, const MenuEntry& b) {
+    return a.caption == b.caption && a.enabled == b.enabled;
+  }
+
   void Open(int id) {
-    const auto entry = entries_.find(id);
-    if (entry == entries_.end()) return;
-    const auto open = entry->second.open;  // the menu may be filled again meanwhile
+    std::size_t place = 0;
+    if (FindChildItem(id, &place) == nullptr || place >= entries_.size()) return;
+    const auto open = entries_[place].open;  // the menu may be filled again meanwhile
     host_.Operate([&] { open(state_, host_); });
   }
 
   MenuEntries list_;
   SharedState& state_;
   HostBase& host_;
-  std::map<int, MenuEntry> entries_;
+  std::vector<MenuEntry> entries_;
 };
 
 }  // namespace
