@@ -353,7 +353,7 @@ TEST_F(DesktopTest, PreviewsATransferAndUndoesIt) {
          "&Undo last transfer (courses to QB, today 14:32, 3 courses added in Quenby; 4 files (4 "
          "created))...");
   user.Answer("Undo",
-              "Undo this transfer?\n\ncourses to QB, today 14:32\n\n\nIt would change: 4 files "
+              "Undo this transfer?\n\ncourses to QB, today 14:32\n\nIt would change: 4 files "
               "(4 deleted)",
               'Y', wxMOD_ALT);
   user.Answer("Undo", "courses to QB, today 14:32: undone.");
