@@ -10,6 +10,10 @@ using nlohmann::json;
 
 class PreviewTest : public CommandLineTest {
  protected:
+  // Runs a script at a fixed time, since the program stores the time in new golfers.
+  Ended Script(const std::string& lines) {
+    return Run("--install i --now \"2026-05-13 12:00:00\" script -", lines);
+  }
   // The install's files without the history, the moment of the last transfer and the settings of
   // screens.
   Tree Data() const {

@@ -189,6 +189,31 @@ TEST(KVtoZDTest, AReadFaultLeavesOutByNameAndTheNextRunBringsTheRest) {
   EXPECT_GT(WalkReadFaults(install, [&] { Transfer(install); }), 5);
 }
 
+TEST(KVtoZDTest, EachUnreadableRecordOfTheLeagueIsReported) {
+  const Case c = Cases()[0];
+  const Outcome outcome(c);
+  for (const bool players : {true, false}) {
+    TestInstall install;
+    WriteInstall(install, c);
+    const char* const file = players ? ".ZP8" : ".ZS8";
+    install.platform->Fail({.only = Operation::kRead, .name = file, .stays = true});
+    Transfer(install);
+    std::vector<std::string> reported;
+    for (const NumberedError& fault : install.host->faults()) {
+      reported.push_back(fault.description());
+    }
+    std::vector<std::string> expected;
+    for (int record = players ? 1 : 6; record <= (players ? 5 : c.last_substitute); ++record) {
+      expected.push_back("Record " + std::to_string(record) + " of the league's " +
+                         (players ? "players" : "substitutes") +
+                         " was left out: It cannot be read.");
+    }
+    EXPECT_EQ(reported, expected);
+    ExpectLeague(install, players ? c.players : outcome.players,
+                 players ? outcome.substitutes : c.substitutes);
+  }
+}
+
 TEST(KVtoZDTest, LeaguesToPickAndWhatIsKeptOfThem) {
   TestInstall install;
   install.folder.Write("zddata/00021.ZL8", LeagueControl("Mens: A: 12345", 5, 1, 1));

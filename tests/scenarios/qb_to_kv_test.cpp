@@ -307,5 +307,22 @@ TEST_F(QbToKvTest, AReadFaultLeavesOutByNameAndTheNextRunPostsTheRest) {
       WalkReadFaults(install, run, {"kvdata/CLUB.KVG", "kvdata/CLUB.KVS", "qbdata/X0001.Q9G"}), 5);
 }
 
+// The course cannot be read. It determines which nine holes of the history contain the scores.
+TEST_F(QbToKvTest, NineHolesArePostedAsTheRightHalfOrNotAtAll) {
+  const Setting setting{.holes = 9, .roster_holes = 9};
+  bool failed = true;
+  for (int nth = 1; failed; ++nth) {
+    SCOPED_TRACE(nth);
+    Prepare(setting, {{11}});
+    const std::string unposted = history_before;
+    Post(2, Score{2, 4, 60.3f, 130, 10, 36, 36, 0, 9}.Bytes(kDay));
+    install.platform->Fail({ErrorNumber::kDeviceFault, nth, Operation::kRead, "kvcrs.dat", true});
+    ClickErrorOf([&] { Run(setting); });
+    failed = install.platform->Failed();
+    const std::string history = install.folder.Read("kvdata/CLUB.KVS");
+    EXPECT_TRUE(history == history_before || (failed && history == unposted));
+  }
+}
+
 }  // namespace
 }  // namespace golf

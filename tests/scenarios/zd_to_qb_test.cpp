@@ -230,6 +230,8 @@ TEST(ZDtoQBTest, ADiskErrorIsTriedAgainOrGivenUp) {
       install.platform->Fail(c.fault);
       Transfer(install);
       EXPECT_TRUE(Told(install, std::string("message [Message] ") + c.text + " -> " + answer));
+      EXPECT_EQ(install.host->run_ended_by() || ToldBeginning(install, "error"),
+                answer == "Cancel");
       EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D",
                         answer == "Retry" ? states.back() : states[c.golfers]));
     }
