@@ -7,6 +7,7 @@
 
 #include "history/memory_install.h"
 #include "history/stopped.h"
+#include "screens/transfers/screen_run.h"
 #include "support/error_of.h"
 #include "support/failing_platform.h"
 #include "support/test_host.h"
@@ -160,6 +161,28 @@ TEST(CommitTest, ARequestAfterTheCommitEndsTheNextClick) {
   program.transactions.EndClick();
   EXPECT_THROW(program.transactions.BeginClick(), Stopped);
   EXPECT_EQ(Difference(DataOf(disk), after), "");
+}
+
+TEST(CommitTest, AScreenDoesNotReadChangesThatCannotBeCommitted) {
+  struct Reader : Screen {
+    using Screen::Screen;
+    Button* LeaveButton() override { return nullptr; }
+    void OpenAgain() override { found = state().files.ReadText(state().QBDataPath + "text"); }
+    std::string found;
+  };
+  TestInstall install;
+  install.folder.Write("qbdata/text", "before");
+  SharedState& state = install.state();
+  Reader screen("Reader", {state, *install.host});
+  install.platform->Fail({.only = Operation::kWrite, .name = "text"});
+  const auto run = [&] {
+    ScreenRun changes(state, *install.host, {}, {});
+    state.files.gate().ReplaceText(state.QBDataPath + "text", "after");
+    changes.Commit({}, nullptr);
+  };
+  EXPECT_EQ(ErrorOf([&] { RunTransfer(screen, state, *install.host, RunEnding::kCommit, run); }),
+            57);
+  EXPECT_EQ(screen.found, "before");
 }
 
 // On a real disk, an open file can be replaced, here by a file with the same bytes.

@@ -229,6 +229,8 @@ TEST(KVtoZDTest, LeaguesToPickAndWhatIsKeptOfThem) {
       EXPECT_FALSE(screen.Frame1.visible());
       EXPECT_TRUE(screen.picker.CancelLeague.is_cancel() && !screen.CancelButton.is_cancel());
       screen.picker.LeagueList.Select(item);
+      EXPECT_TRUE(LeaguePicker::HeadingOf(screen.picker.LeagueList.text())
+                      .ends_with(kept[static_cast<std::size_t>(item)]));
       EXPECT_TRUE(screen.picker.LeagueList.on_key("Enter"));
       EXPECT_TRUE(screen.Frame1.visible() && screen.CancelButton.is_cancel());
       EXPECT_TRUE(

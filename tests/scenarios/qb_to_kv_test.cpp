@@ -126,7 +126,7 @@ class QbToKvTest : public testing::Test {
       }
       entry.Set<"TourScoreGrossTotal">({2}, 80);
       entry.Set<"TourScoreAdjusted">({2}, static_cast<std::int16_t>(player.adjusted));
-      entry.Set<"TourGrossHandicap">({2}, 9.0f);
+      entry.Set<"TourGrossHandicap">({2}, 9.4f);
       entry.Fill<"TourGroupTee">(player.lady ? 2 : 1);
       entry.Set<"TourFlags">({2}, player.sent ? 3 : 1);
       entry.Set<"TourPutts">({2}, 30);
