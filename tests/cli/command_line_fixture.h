@@ -22,7 +22,11 @@ class CommandLineTest : public testing::Test {
   Ended Run(const std::string& words, const std::string& input = "") {
     return RunProgram(folder, GOLF_CLI, words, input);
   }
-  Ended Script(const std::string& lines) { return Run("--install i script -", lines); }
+  // Runs on the install at a fixed time, since the program stores the time in new golfers.
+  Ended In(const std::string& words, const std::string& input = "") {
+    return Run("--install i --now \"2026-05-13 12:00:00\" " + words, input);
+  }
+  Ended Script(const std::string& lines) { return In("script -", lines); }
 
   void SetUp() override { ASSERT_EQ(Run("demo i").code, 0); }
 

@@ -10,11 +10,6 @@ using nlohmann::json;
 
 class PreviewTest : public CommandLineTest {
  protected:
-  // Runs at a fixed time, since the program stores the time in new golfers.
-  Ended In(const std::string& words, const std::string& input = "") {
-    return Run("--install i --now \"2026-05-13 12:00:00\" " + words, input);
-  }
-  Ended Script(const std::string& lines) { return In("script -", lines); }
   // The install's files without the history, the moment of the last transfer and the settings of
   // screens.
   Tree Data() const {

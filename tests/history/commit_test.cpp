@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <set>
 
 #include "history/memory_install.h"
@@ -183,28 +182,6 @@ TEST(CommitTest, AScreenDoesNotReadChangesThatCannotBeCommitted) {
   EXPECT_EQ(ErrorOf([&] { RunTransfer(screen, state, *install.host, RunEnding::kCommit, run); }),
             57);
   EXPECT_EQ(screen.found, "before");
-}
-
-// On a real disk, an open file can be replaced, here by a file with the same bytes.
-TEST(CommitTest, AFileThatIsReplacedInMidRunIsError70) {
-  TestInstall install;
-  const std::string courses = DemoDisk().Files().at("/KVDATA/KVCRS.DAT");
-  const std::string library = courses.substr(0, 3226);
-  install.folder.Write("kvdata/kvcrs.dat", courses);
-  install.folder.Write("qbdata/qbcrs.dat", library);
-  install.folder.Write("new.dat", library);
-  install.listener.on_progress = [&](const Progress&) {
-    if (!install.folder.Exists("new.dat")) return;
-    std::filesystem::rename(install.folder.Path("new.dat"),
-                            install.folder.Path("qbdata/qbcrs.dat"));
-  };
-  const int error = ClickErrorOf([&] {
-    install.Open("KVCoursestoQB",
-                 [&](Screen& screen) { install.host->Press(screen, "TransferCourses"); });
-  });
-  EXPECT_EQ(error, 70);
-  EXPECT_TRUE(install.folder.Read("qbdata/qbcrs.dat") == library);
-  EXPECT_FALSE(install.folder.Exists("qbdata/ALLCRSQB.INX"));
 }
 
 }  // namespace

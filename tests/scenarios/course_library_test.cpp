@@ -289,7 +289,7 @@ TEST_F(CourseLibraryTest, CoursesOfKelvaneAreWarnedOfAndKeepTheirBytes) {
 
 TEST_F(CourseLibraryTest, AFlatLadiesSlopeEndsTheClickAndLosesNothing) {
   std::string course = Course("Dunes");
-  Put(course, 240 + 4 * 3, {70.0f});
+  Put(course, 240 + 4 * 3, {0.5f});  // any rating above 0 counts
   Put16(course, 276 + 2 * 3, {50});
   Write(course);
   Run(Presses("EditCourseButton"), [&](CourseForm& form) {

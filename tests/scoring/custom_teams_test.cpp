@@ -109,6 +109,7 @@ TEST_F(CustomTeamsTest, LayoutsThatAreOutOfTheOrdinary) {
       {with("\"A\"\r\n1,4\r\n", "1,4\r\n\"A\"\r\n"), "line 1 lacks a text."},
       {with("1,4", "1,4,5"), "line 2 lacks its end."},
       {with("\"D\",\"G\"", "\"D\",G"), "line 3 lacks a text."},
+      {with("\"0\"", "\"00\""), "1 code of this report cannot be read."},
       {with("\"NONE\"", "\"Q7\""), "1 code of this report cannot be read."},
       {with("1,4", "99,9"), "Cancel?"},
       {with("\"A\"", "\"A \"B\" C\""), "Cancel?"},
