@@ -31,6 +31,12 @@ class CommandLineTest : public testing::Test {
   void SetUp() override { ASSERT_EQ(Run("demo i").code, 0); }
 
   Tree AllFiles() const { return folder.Files("i"); }
+  // Returns the install's files without the history.
+  Tree Data() const {
+    Tree files = AllFiles();
+    std::erase_if(files, [](const auto& file) { return file.first.starts_with("transfer-"); });
+    return files;
+  }
 
   TempFolder folder;
 };

@@ -38,12 +38,6 @@ class HistoryTest : public CommandLineTest {
  protected:
   void Transfer(const std::string& words) { ASSERT_EQ(In(words).code, 0) << words; }
 
-  // Returns the install's files without the history.
-  Tree Data() const {
-    Tree files = AllFiles();
-    std::erase_if(files, [](const auto& file) { return file.first.starts_with("transfer-"); });
-    return files;
-  }
   // Returns the kept runs by their running numbers, such as "3 done, 2 undone".
   std::string States() {
     std::string states;

@@ -13,10 +13,9 @@ class PreviewTest : public CommandLineTest {
   // The install's files without the history, the moment of the last transfer and the settings of
   // screens.
   Tree Data() const {
-    Tree files = AllFiles();
+    Tree files = CommandLineTest::Data();
     std::erase_if(files, [](const auto& file) {
-      const std::string& name = file.first;
-      return name.starts_with("transfer-") || name.ends_with("toQB.DAT") || name == "KVSYSTEM.FIL";
+      return file.first.ends_with("toQB.DAT") || file.first == "KVSYSTEM.FIL";
     });
     return files;
   }
