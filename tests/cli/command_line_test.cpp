@@ -203,8 +203,7 @@ TEST_F(CommandLineTest, ResultsOfTeams) {
                                    .out);
   EXPECT_EQ(shown.at(4)["items"].size(), 2u);
   const nlohmann::json counted = shown.at(7)["rows"].back();  // of the first team and round
-  EXPECT_EQ(counted[1], "Counted");
-  EXPECT_EQ(counted[11].dump() + counted[21].dump() + counted[22].dump(), R"("64""66""130")");
+  EXPECT_EQ(counted[1].dump() + counted[11].dump() + counted[22].dump(), R"("Counted""64""130")");
 }
 
 TEST_F(CommandLineTest, ShowsCoursesAndDumpsTablesInTheOrderOfTheirIndexes) {

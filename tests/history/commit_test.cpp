@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "history/memory_install.h"
 #include "history/stopped.h"
 #include "screens/transfers/screen_run.h"

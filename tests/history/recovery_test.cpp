@@ -112,7 +112,6 @@ TEST(RecoveryTest, ARunThatWasPutBackCanBeFinished) {
   EXPECT_TRUE(Recover(disk.Copy()).stuck);
   bool killed = true;
   for (int nth = 1; killed; ++nth) {
-    SCOPED_TRACE(nth);
     MemoryPlatform again = disk.Copy();
     again.DieAt(nth);
     killed = DiesIn([&] { Recover(again, RecoveryChoice::kFinish); });

@@ -154,6 +154,7 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
           host().Press(tee, "OKButton");
           EXPECT_EQ(Told(), c.told);
           EXPECT_EQ(host().IsShown(tee), !c.told.empty());
+          EXPECT_TRUE(c.told.empty() || !tee.focus()->note().empty());
         });
     EXPECT_TRUE(
         SameFile("qbcrs.dat", Read("qbcrs.dat"), Course("Dunes")));  // Cancel left it unchanged
