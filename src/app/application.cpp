@@ -6,6 +6,8 @@
 
 #include "app/tools.h"
 #include "core/entry.h"
+#include "history/record_changes.h"
+#include "outlets/file_kinds.h"
 #include "scoring/player/player_class.h"
 #include "scoring/stroke_control.h"
 #include "scoring/team/team_class.h"
@@ -60,6 +62,11 @@ void OpenForLoadRosters(SharedState& state) {
   state.Player().OpenRosterFile();
 }
 
+std::size_t RecordLengthOf(std::string_view file) {
+  const auto layout = LayoutOfFile(FileNameOf(file));
+  return layout ? layout->length : 0;
+}
+
 template <class AnyScreen>
 std::shared_ptr<Screen> Make(const ScreenContext& context) {
   return std::make_shared<AnyScreen>(context);
@@ -71,7 +78,8 @@ Application::Application(std::unique_ptr<Platform> platform)
     : platform_(std::move(platform)),
       held_(*platform_),
       state_(held_, MakeStoreObjects),
-      transactions_(held_, [this] { return state_.Now(); }) {
+      transactions_(
+          held_, [this] { return state_.Now(); }, RecordLengthOf) {
   state_.transactions = &transactions_;
 }
 

@@ -57,30 +57,29 @@ void OpenForOperator(SharedState& state, ScreenHost& host, const CourseLibrary& 
   ShowOpenLibrary(state, host);
 }
 
-Tool CourseTool(const CourseLibrary& library) {
+MenuEntry CourseTool(const CourseLibrary& library) {
   return {.caption = std::string(kCourseLibrary) + " of &" + std::string(library.sibling) + "...",
-          .is_there =
-              [&library](SharedState& state) {
-                return state.files.FileExists(CourseFilePath(state, library));
-              },
-          .open = [&library](SharedState& state,
-                             ScreenHost& host) { OpenForOperator(state, host, library); }};
+          .open = [&library](SharedState& state, ScreenHost& host) {
+            OpenForOperator(state, host, library);
+          }};
 }
 
 // Returns a tool that opens a screen for the teams of Quenby's tournaments.
-Tool TeamTool(std::string caption, std::string screen) {
-  return {
-      .caption = std::move(caption),
-      .is_there =
-          [](SharedState& state) { return state.files.platform().FolderExists(state.QBDataPath); },
-      .open = [screen](SharedState&, ScreenHost& host) { host.ShowModal(host.Load(screen)); }};
+MenuEntry TeamTool(std::string caption, std::string screen) {
+  return {.caption = std::move(caption),
+          .open = [screen](SharedState&, ScreenHost& host) { host.ShowModal(host.Load(screen)); }};
 }
 
 }  // namespace
 
-std::vector<Tool> Tools() {
-  std::vector<Tool> tools;
-  for (const CourseLibrary& library : kCourseLibraries) tools.push_back(CourseTool(library));
+std::vector<MenuEntry> Tools(SharedState& state) {
+  std::vector<MenuEntry> tools;
+  for (const CourseLibrary& library : kCourseLibraries) {
+    if (state.files.FileExists(CourseFilePath(state, library))) {
+      tools.push_back(CourseTool(library));
+    }
+  }
+  if (!state.files.platform().FolderExists(state.QBDataPath)) return tools;
   tools.push_back(TeamTool("Team &results...", "TeamResults"));
   tools.push_back(TeamTool("Team results &layouts...", "TeamLayouts"));
   return tools;

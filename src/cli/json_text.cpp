@@ -80,6 +80,10 @@ std::string WithoutControls(const std::string& json) {
   return escaped;
 }
 
+std::string JsonLine(const Json& object) {
+  return WithoutControls(object.dump(-1, ' ', false, Json::error_handler_t::replace));
+}
+
 }  // namespace
 
 Json JsonSingle(float value) {
@@ -91,9 +95,18 @@ Json JsonSingle(float value) {
   return number;
 }
 
-void WriteJsonLine(const Json& object) {
-  std::cout << WithoutControls(object.dump(-1, ' ', false, Json::error_handler_t::replace))
-            << std::endl;
+void WriteJsonLine(const Json& object) { std::cout << JsonLine(object) << std::endl; }
+
+void WriteJsonLine(const Json& object, std::string_view key, const EachElement& each_element) {
+  std::string line = JsonLine(object);
+  line.pop_back();  // the brace at the end
+  std::cout << line << ",\"" << key << "\":[";
+  std::string_view separator;
+  each_element([&separator](const Json& element) {
+    std::cout << separator << JsonLine(element);
+    separator = ",";
+  });
+  std::cout << "]}" << std::endl;
 }
 
 Json DescribeControl(const Screen& screen, const Control& control) {

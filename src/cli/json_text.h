@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
@@ -22,6 +23,11 @@ Json JsonSingle(float value);
 
 // Writes one object as a line of standard output and flushes it.
 void WriteJsonLine(const Json& object);
+// Does the same, and adds an array as the last key of the object. `each_element` calls its argument
+// with each element of the array. The elements are written one by one, since there may be many. The
+// object must have at least one key.
+using EachElement = std::function<void(const std::function<void(const Json&)>&)>;
+void WriteJsonLine(const Json& object, std::string_view key, const EachElement& each_element);
 
 // Returns the event "control", which describes a control and what it shows.
 Json DescribeControl(const Screen& screen, const Control& control);

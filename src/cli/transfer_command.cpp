@@ -127,7 +127,21 @@ void WriteResult(const TransferCommand& command, const HeadlessHost& host, bool 
   if (command.carries_on || !host.faults().empty()) result["faults"] = host.faults().size();
   result["dryRun"] = dry_run;
   result["history"] = history == 0 ? Json(nullptr) : Json(history);
-  WriteJsonLine(result);
+  WriteJsonLine(result, "leftOut", [&host](const auto& write) {
+    host.left_out().ForEach([&](std::string_view title, std::string_view reason) {
+      write({{"title", JsonText(title)}, {"reason", JsonText(reason)}});
+    });
+  });
+}
+
+// Writes what the runs have left out. It is the last section of the report.
+void WriteLeftOut(const LeftOut& left_out, std::ostream* out, TransferLog& log) {
+  if (out != nullptr && left_out.Count() > 0) *out << '\n';
+  left_out.ForEachLine([&](std::string_view line) {
+    const std::string plain = PlainCell(line);
+    if (out != nullptr) *out << plain << '\n';
+    log.Add(plain);
+  });
 }
 
 // Writes what a dry run would have changed.
@@ -163,10 +177,12 @@ ExitCode Transfer(const Options& options, const TransferCommand& command, Applic
   if (host.run_ended_by()) report.NoteInLog(host.run_ended_by()->Report());
   if (cancelled) report.NoteInLog(CancelledText(host, *command.cancelled_by));
   NoteFaultCount(host.faults().size());
-  log.End(code, history);
   const bool refused = host.counts().empty();
-  if (!options.json) report.Write(refused ? std::cerr : std::cout);
+  std::ostream& out = refused ? std::cerr : std::cout;
+  if (!options.json) report.Write(out);
   if (options.dry_run) WriteHeldChanges(options, application.state());
+  WriteLeftOut(host.left_out(), options.json ? nullptr : &out, log);
+  log.End(code, history);
   if (options.json && !refused && !failed) WriteResult(command, host, options.dry_run, history);
   return code;
 }

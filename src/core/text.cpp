@@ -86,6 +86,12 @@ std::string_view Trim(std::string_view text) {
   return cut.empty() ? cut : cut.substr(cut.find_first_not_of(' '));
 }
 
+std::string WithoutPadding(std::string_view text) {
+  std::string shown(text);
+  std::erase(shown, '\0');
+  return std::string(Trim(shown));
+}
+
 std::string FullName(std::string_view first, std::string_view last) {
   const std::string name = std::string(Trim(first)) + ' ' + std::string(Trim(last));
   return std::string(Trim(name));
@@ -94,6 +100,13 @@ std::string FullName(std::string_view first, std::string_view last) {
 std::string GolferTitle(std::string_view first, std::string_view last, std::int64_t id) {
   const std::string name = FullName(first, last);
   return name.empty() ? "Golfer #" + std::to_string(id) : name;
+}
+
+std::string GolferTitleLF(std::string_view first, std::string_view last, std::int64_t id) {
+  const std::string given = WithoutPadding(first);
+  const std::string family = WithoutPadding(last);
+  if (given.empty() || family.empty()) return GolferTitle(given, family, id);
+  return family + ", " + given;
 }
 
 int CompareIgnoringCase(std::string_view a, std::string_view b) {

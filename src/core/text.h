@@ -18,10 +18,15 @@ std::string LowerCase(std::string_view text);
 std::string_view Trim(std::string_view text);
 std::string_view TrimRight(std::string_view text);
 
+// Returns the text without the blanks and NULs that pad a field.
+std::string WithoutPadding(std::string_view text);
+
 // Returns "First Last", both trimmed, or only one of them if the other is blank.
 std::string FullName(std::string_view first, std::string_view last);
 // Returns the full name, or a text such as "Golfer #12" with the ID if the name is blank.
 std::string GolferTitle(std::string_view first, std::string_view last, std::int64_t id);
+// Returns "Last, First", or for example "Golfer #12" if the golfer has no full name.
+std::string GolferTitleLF(std::string_view first, std::string_view last, std::int64_t id);
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 

@@ -30,6 +30,9 @@ class ControlTable : public wxGridTableBase {
   bool GetValueAsBool(int row, int column) override;
   wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind kind) override;
 
+  // Returns the column of the control that a column of the toolkit's grid shows.
+  int ControlColumn(int column) const { return columns_[static_cast<std::size_t>(column)]; }
+
   // Toggles the tick of a cell. Returns false if the cell has no tick or is locked.
   bool TurnTick(int row, int column);
   // Returns the column of ticks if there is exactly one, or -1 otherwise.
@@ -45,7 +48,6 @@ class ControlTable : public wxGridTableBase {
     wxArrayString choices;
   };
 
-  int ControlColumn(int column) const { return columns_[static_cast<std::size_t>(column)]; }
   const std::string& Shown(int control_column, int row) const;
   bool IsTick(int column) const;
   void FillDropDowns();

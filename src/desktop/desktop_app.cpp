@@ -10,7 +10,7 @@
 
 #include "core/code_page.h"
 #include "desktop/wx_text.h"
-#include "screens/file_changes.h"
+#include "screens/history/interrupted_run.h"
 
 namespace golf {
 
@@ -48,7 +48,8 @@ bool DesktopApp::OnInit() {
   Bind(wxEVT_QUERY_END_SESSION, &DesktopApp::OnQueryEndSession, this);
   Bind(wxEVT_END_SESSION, [](wxCloseEvent&) {});  // the system ends the process
   host_->Show(host_->Load("TransferMenu"));
-  host_->Operate([&] { RecoverInterruptedRun(state, *host_); });
+  CallAfter(
+      [this] { host_->Operate([this] { ResolveInterruptedRun(application_->state(), *host_); }); });
   return true;
 }
 

@@ -10,14 +10,24 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/main_menu.h"
 #include "desktop/native_boxes.h"
-#include "desktop/tools_menu.h"
 #include "desktop/wx_text.h"
+#include "history/transactions.h"
+#include "screens/history/interrupted_run.h"
+#include "screens/tip_box.h"
 
 namespace golf {
 namespace {
 
 constexpr std::chrono::milliseconds kPaintInterval{50};
+constexpr int kBoxesBeforeOffer = 2;  // boxes of the same kind that offer only their own buttons
+
+// Reports that the operator has stopped a run in a box.
+class StoppedByOperator : public Stopped {
+ public:
+  StoppedByOperator() : Stopped(0) {}
+};
 
 DateValue ClockTime() {
   const wxDateTime now = wxDateTime::Now();
@@ -71,6 +81,34 @@ std::string FaultsText(const std::vector<NumberedError>& faults) {
   return text;
 }
 
+// Returns a text with two lines for each reason. The second one contains the first names and the
+// number of the others.
+std::string LeftOutText(const LeftOut& left_out) {
+  constexpr std::size_t kMostNames = 10;
+  struct Group {
+    std::string reason;
+    std::string names = {};
+    std::size_t count = 0;
+  };
+  std::vector<Group> groups;
+  left_out.ForEach([&](std::string_view title, std::string_view reason) {
+    if (groups.empty() || groups.back().reason != reason) {
+      groups.push_back({.reason = std::string(reason)});
+    }
+    Group& group = groups.back();
+    if (++group.count > kMostNames) return;
+    group.names += (group.count > 1 ? "; " : "") + std::string(title);
+  });
+  std::string text = "The transfer has left out:";
+  for (const Group& group : groups) {
+    text += "\n" + std::to_string(group.count) + " " + group.reason + "\n    " + group.names;
+    if (group.count > kMostNames) {
+      text += " and " + std::to_string(group.count - kMostNames) + " more";
+    }
+  }
+  return text;
+}
+
 // Makes the pointer normal as long as this object exists. The toolkit has such a class only on some
 // systems.
 class PlainPointer {
@@ -114,7 +152,7 @@ void DesktopHost::Open(Screen& screen) {
   const View& view = views_.find(screen.name())->second;
   wxTopLevelWindow* window = NewWindow(view, TopWindow());
   auto* panel = new ScreenPanel(*window, *this, screen);
-  if (auto* frame = dynamic_cast<wxFrame*>(window)) AddToolsMenu(*frame, state(), *this);
+  if (auto* frame = dynamic_cast<wxFrame*>(window)) AddMainMenu(*frame, state(), *this);
   view.fill(*panel, screen);
   if (view.kind == WindowKind::kDialog) window->CentreOnParent();
   if (view.kind == WindowKind::kDialogOverOpener && TopWindow() != nullptr) {
@@ -156,7 +194,61 @@ wxWindow* DesktopHost::ReadyForBox() {
   return TopWindow();
 }
 
+// Counts a box of the current run. Returns true if the run can be stopped and has shown two boxes
+// of the same kind before. A box that offers to retry is never repeated, since the same answer
+// would retry endlessly.
+bool DesktopHost::IsRepeated(const Box& box) {
+  const Transactions& transactions = *state().transactions;
+  if (!in_run() || !transactions.IsOpen() || transactions.HasCommitted()) return false;
+  if (std::find(box.buttons.begin(), box.buttons.end(), BoxButton::kRetry) != box.buttons.end()) {
+    return false;
+  }
+  return ++repeats_[{box.title, box.buttons}].boxes > kBoxesBeforeOffer;
+}
+
+// Throws StoppedByOperator if the operator stops the run.
+BoxButton DesktopHost::AskRepeated(const Box& box) {
+  Repeats& repeats = repeats_[{box.title, box.buttons}];
+  if (repeats.answer) return *repeats.answer;
+  wxWindow* parent = ReadyForBox();
+  const PlainPointer plain_pointer;
+  const RepeatedAnswer answer = ShowRepeatedDialog(parent, box);
+  if (answer.stops) throw StoppedByOperator();
+  if (answer.for_rest) repeats.answer = answer.button;
+  return answer.button;
+}
+
+// Shows a repeated question of a tip box as a message box, which offers more answers.
+void DesktopHost::ShowModal(Screen& screen) {
+  auto* tip = dynamic_cast<TipBox*>(&screen);
+  if (tip == nullptr || tip->Tip()->type != TipBox::kLastingQuestion) {
+    return HostBase::ShowModal(screen);
+  }
+  const Box box{.title = tip->Tip()->title,
+                .text = tip->Tip()->text,
+                .icon = BoxIcon::kQuestion,
+                .buttons = {BoxButton::kYes, BoxButton::kNo},
+                .default_button = 1};
+  if (!IsRepeated(box)) return HostBase::ShowModal(screen);
+  const bool yes = Ask(box) == BoxButton::kYes;
+  (yes ? tip->YesButton : tip->NoButton).Click();
+}
+
+// Tells the operator if he has stopped the run himself. Any other request ends the program.
+void DesktopHost::RunStopped() {
+  try {
+    throw;
+  } catch (const StoppedByOperator&) {
+    ShowBox({.title = "Golf Transfer",
+             .text = "The transfer was stopped. Nothing has been changed.",
+             .icon = BoxIcon::kInformation});
+  } catch (const Stopped&) {
+    EndProcess();
+  }
+}
+
 BoxButton DesktopHost::ShowBox(const Box& box) {
+  if (IsRepeated(box)) return AskRepeated(box);
   wxWindow* parent = ReadyForBox();
   const PlainPointer plain_pointer;
   return ShowMessageDialog(parent, box);
@@ -197,6 +289,7 @@ bool DesktopHost::PaintIsDue() const {
 }
 
 void DesktopHost::PaintNow() {
+  ShowTitles();
   if (!windows_.empty()) windows_.back().panel->ShowProgress(reported_);
   for (const Window& window : windows_) {
     window.panel->binding().Refresh();
@@ -216,10 +309,21 @@ void DesktopHost::SetInRun(bool in_run) {
   for (const Window& window : windows_) window.panel->SetInRun(in_run);
 }
 
+// Shows the titles of all windows. Marks the title of the window whose run is a preview.
+void DesktopHost::ShowTitles() {
+  for (const Window& window : windows_) {
+    window.panel->ShowTitle(window.screen == run_by_ && state().transactions->IsPreview());
+  }
+}
+
 void DesktopHost::BeginRun() {
   HostBase::BeginRun();
   reported_ = {};
   faults_before_ = faults().size();
+  run_by_ = Top();
+  repeats_.clear();
+  left_out_ = {};
+  for (const Window& window : windows_) window.panel->ShowLeftOut(left_out_);
   busy_in_run_.emplace();
   SetInRun(true);
   PaintNow();
@@ -229,23 +333,41 @@ void DesktopHost::EndRun() {
   ForgetTypedInput();
   HostBase::EndRun();
   SetInRun(false);
+  const Screen* const screen = std::exchange(run_by_, nullptr);
+  ShowTitles();
   busy_in_run_.reset();
   if (faults().size() > faults_before_) ShowFaultsSoon();
+  if (left_out_.Count() > 0) ShowLeftOut(*screen);
 }
 
-// Shows the faults after the boxes of the run, over the main window, since the screen of the run
-// may be closed by then.
+// Shows the faults after the boxes of the run. The screen of the run may be closed by then.
 void DesktopHost::ShowFaultsSoon() {
-  std::vector<NumberedError> noted(faults().begin() + static_cast<std::ptrdiff_t>(faults_before_),
-                                   faults().end());
-  windows_.front().panel->window().CallAfter([this, noted = std::move(noted)] {
-    ShowBox({.title = "Faults", .text = FaultsText(noted), .icon = BoxIcon::kWarning});
-  });
+  const std::vector<NumberedError> noted(
+      faults().begin() + static_cast<std::ptrdiff_t>(faults_before_), faults().end());
+  ShowSoon({.title = "Faults", .text = FaultsText(noted), .icon = BoxIcon::kWarning});
+}
+
+// Shows what the run has left out in the window of its screen, or in a box if the window is closed
+// or has no place for it.
+void DesktopHost::ShowLeftOut(const Screen& screen) {
+  const auto window = Find(screen);
+  if (window != windows_.end() && window->panel->ShowLeftOut(left_out_)) return;
+  ShowSoon({.title = "Left out", .text = LeftOutText(left_out_), .icon = BoxIcon::kInformation});
+}
+
+// Shows a box over the main window after the current event.
+void DesktopHost::ShowSoon(Box box) {
+  windows_.front().panel->window().CallAfter([this, box = std::move(box)] { ShowBox(box); });
 }
 
 // Drops the operator's keys and clicks, which stay in the queue while windows are painted. It must
 // be called while the widgets are disabled.
 void DesktopHost::ForgetTypedInput() { Yield(wxEVT_CATEGORY_ALL); }
+
+// Opens the screen that decides about the interrupted run, instead of showing the text.
+void DesktopHost::NoteUnfinishedRun(const std::string&) {
+  ShowModal(golf::Load<InterruptedRun>(*this));
+}
 
 void DesktopHost::StartProgram(const std::string& path, const std::string& arguments) {
   state().files.platform().StartProgram(path, arguments);

@@ -4,8 +4,10 @@
 
 #include <chrono>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "desktop/views.h"
@@ -25,10 +27,13 @@ class DesktopHost : public HostBase {
 
   void Beep() override;
   void SetPointer(Pointer pointer) override;
+  void ShowModal(Screen& screen) override;
   void BeginRun() override;
   void Report(const Progress& progress) override;
   void EndRun() override;
+  void NoteLeftOut(const LeftOut& left_out) override { left_out_.Append(left_out); }
   void Notify(const std::string& text) override;
+  void NoteUnfinishedRun(const std::string& text) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
   DateValue Now() override { return clock(); }
   void CopyText(const std::string& text) override;
@@ -42,7 +47,7 @@ class DesktopHost : public HostBase {
   std::string ShowInputBox(const InputBox& box) override;
   Font ShowFontChoice(std::string_view title, const Font& current) override;
   void ErrorEndsClick(const NumberedError& error) override;
-  void RunStopped() override { EndProcess(); }
+  void RunStopped() override;
 
   // Shows all changes and paints the windows. Accepts no input.
   void PaintNow();
@@ -53,19 +58,34 @@ class DesktopHost : public HostBase {
     ScreenPanel* panel;
   };
 
+  // Contains what happened to the boxes of one kind in the current run.
+  struct Repeats {
+    int boxes = 0;
+    std::optional<BoxButton> answer;  // for the rest of the run
+  };
+  using BoxKind = std::pair<std::string, std::vector<BoxButton>>;  // the title and the buttons
+
+  bool IsRepeated(const Box& box);
+  BoxButton AskRepeated(const Box& box);
   wxTopLevelWindow* TopWindow() const;
   std::vector<Window>::iterator Find(const Screen& screen);
   bool PaintIsDue() const;
   void SetInRun(bool in_run);
+  void ShowTitles();
   void ForgetTypedInput();
   wxWindow* ReadyForBox();
   void ShowFaultsSoon();
+  void ShowLeftOut(const Screen& screen);
+  void ShowSoon(Box box);
 
   ViewCatalogue views_;
   std::vector<Window> windows_;  // bottom first
   std::chrono::steady_clock::time_point painted_;
-  Progress reported_;              // of the current run, without its text
-  std::size_t faults_before_ = 0;  // the faults of earlier runs
+  std::map<BoxKind, Repeats> repeats_;
+  const Screen* run_by_ = nullptr;  // the screen of the current run
+  Progress reported_;               // of the current run, without its text
+  LeftOut left_out_;                // by the current run
+  std::size_t faults_before_ = 0;   // the faults of earlier runs
   std::optional<wxBusyCursor> busy_;
   std::optional<wxBusyCursor> busy_in_run_;
 };

@@ -1,5 +1,6 @@
 #include "desktop/grid_widget.h"
 
+#include <wx/dcclient.h>
 #include <wx/settings.h>
 
 #include <algorithm>
@@ -11,7 +12,7 @@
 namespace golf {
 namespace {
 
-constexpr int kMostRowsMeasured = 500;  // rows up to which column widths are measured
+constexpr int kMostRowsMeasured = 500;  // the first rows, which decide about the column widths
 constexpr int kMargin = 8;              // around a cell's text, both sides together
 
 // Is the widget of a grid control.
@@ -34,6 +35,11 @@ class GridView : public wxGrid {
     Bind(wxEVT_GRID_SELECT_CELL, &GridView::OnSelect, this);
     Bind(wxEVT_GRID_CELL_LEFT_CLICK, &GridView::OnClick, this);
     Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &GridView::OnDoubleClick, this);
+    Bind(wxEVT_GRID_LABEL_LEFT_CLICK, &GridView::OnHeadingClick, this);
+    Bind(wxEVT_GRID_LABEL_LEFT_DCLICK, &GridView::OnHeadingClick, this);  // each click counts
+    Bind(wxEVT_GRID_COL_AUTO_SIZE, [this](wxGridSizeEvent& event) {
+      SetColSize(event.GetRowOrCol(), WidthOf(event.GetRowOrCol()));
+    });
     Bind(wxEVT_KEY_DOWN, &GridView::OnKey, this);
     Bind(wxEVT_CHAR_HOOK, &GridView::OnCharHook, this);
     Bind(wxEVT_SIZE, &GridView::OnSize, this);
@@ -63,14 +69,27 @@ class GridView : public wxGrid {
  private:
   void Measure() {
     widest_ = -1;
-    if (GetNumberRows() > kMostRowsMeasured) return;
     measured_ = true;
     SetColLabelSize(wxGRID_AUTOSIZE);
-    AutoSizeColumns(false);
     for (int column = 0; column < GetNumberCols(); ++column) {
-      SetColSize(column, GetColSize(column) + FromDIP(kMargin));
+      SetColSize(column, WidthOf(column));
     }
     SpendSpareWidth();
+  }
+
+  // Returns the width that the heading and the first rows of a column need. The toolkit's own
+  // function would read all rows.
+  int WidthOf(int column) {
+    wxClientDC dc(this);
+    dc.SetFont(GetLabelFont());
+    int width = dc.GetMultiLineTextExtent(GetColLabelValue(column)).x;
+    const int rows = std::min(GetNumberRows(), kMostRowsMeasured);
+    for (int row = 0; row < rows; ++row) {
+      const wxGridCellAttrPtr attributes = GetCellAttrPtr(row, column);
+      const wxGridCellRendererPtr renderer = attributes->GetRendererPtr(this, row, column);
+      width = std::max(width, renderer->GetBestSize(*this, *attributes, dc, row, column).x);
+    }
+    return width + FromDIP(2 * kMargin);
   }
 
   void ShowActiveRow() {
@@ -144,6 +163,13 @@ class GridView : public wxGrid {
     if (table_->TurnTick(event.GetRow(), event.GetCol())) return;  // each click counts
     if (!control_.on_double_click) return event.Skip();
     binding_.OperateSoon(control_, control_.on_double_click);
+  }
+
+  void OnHeadingClick(wxGridEvent& event) {
+    event.Skip();
+    if (event.GetCol() < 0 || !control_.on_heading_click) return;
+    const int column = table_->ControlColumn(event.GetCol());
+    binding_.OperateSoon(control_, [this, column] { control_.on_heading_click(column); });
   }
 
   // Moves the focus out of the grid. Rows are selected as a whole, so the tab key does not move

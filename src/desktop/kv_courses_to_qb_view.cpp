@@ -14,6 +14,7 @@ void FillKVCoursestoQB(ScreenPanel& panel, KVCoursestoQB& screen) {
   AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
   content->AddStretchSpacer();
   content->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.TransferCourses),
+                          .variant = MakeButton(binding, &panel, screen.PreviewButton),
                           .cancel = MakeButton(binding, &panel, screen.CancelButton)}),
                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   FinishWindow(panel, content);

@@ -5,6 +5,11 @@
 #include "screens/transfers/kv_to_qb.h"
 
 namespace golf {
+namespace {
+
+constexpr int kRowsSeen = 14;  // of the items
+
+}  // namespace
 
 void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen) {
   Binding& binding = panel.binding();
@@ -25,12 +30,13 @@ void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen) {
                        MakeCheckBox(binding, &panel, screen.Convert18Hcpto9Hcp),
                        MakeCheckBox(binding, &panel, screen.Convert9Hcpto18Hcp)}));
   content->AddSpacer(GroupGap(panel));
-  content->Add(MakeGrid(binding, &panel, screen.grid1, GridMarks::kCells, screen.grid1.rows()),
+  content->Add(MakeGrid(binding, &panel, screen.grid1, GridMarks::kCells, kRowsSeen),
                wxSizerFlags(1).Expand());
   content->AddSpacer(GroupGap(panel));
   content->Add(MakeLabel(binding, &panel, screen.Working), wxSizerFlags().Expand());
   AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
   content->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.TransferButton),
+                          .variant = MakeButton(binding, &panel, screen.PreviewButton),
                           .cancel = MakeButton(binding, &panel, screen.ExitButton)}),
                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   FinishWindow(panel, content);

@@ -60,6 +60,7 @@ wxPanel* MakeMain(ScreenPanel& panel, KVtoZD& screen) {
           .working = screen.Working,
           .count = &screen.WorkingCount,
           .transfer = screen.TransferButton,
+          .preview = screen.PreviewButton,
           .leave = screen.CancelButton});
   frame->SetSizer(content);
   return frame;

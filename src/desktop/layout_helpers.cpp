@@ -8,7 +8,7 @@ namespace golf {
 namespace {
 
 constexpr int kLogColumns = 66;
-constexpr int kLogLines = 11;
+constexpr int kLogLines = 9;
 
 std::string WithoutEdges(const std::string& text) { return std::string(Trim(text)); }
 
@@ -61,10 +61,10 @@ wxSizer* SideBySide(const wxWindow& window, std::initializer_list<wxSizer*> ends
 
 wxSizer* ButtonRow(const EndButtons& buttons) {
 #ifdef __WXMSW__
-  const std::initializer_list<wxButton*> order = {buttons.affirmative, buttons.negative,
-                                                  buttons.cancel};
+  const std::initializer_list<wxButton*> order = {buttons.affirmative, buttons.variant,
+                                                  buttons.negative, buttons.cancel};
 #else
-  const std::initializer_list<wxButton*> order = {buttons.negative, buttons.cancel,
+  const std::initializer_list<wxButton*> order = {buttons.negative, buttons.cancel, buttons.variant,
                                                   buttons.affirmative};
 #endif
   auto* row = new wxBoxSizer(wxHORIZONTAL);
@@ -92,13 +92,21 @@ wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBo
   return Column({title, box, MakeButton(binding, parent, finder)});
 }
 
+wxSizer* BesideLeftOut(ScreenPanel& panel, wxWindow* parent, wxSizer* log) {
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(log, wxSizerFlags(2).Expand());
+  row->Add(panel.MakeLeftOut(parent), wxSizerFlags(1).Expand().Border(wxLEFT, GroupGap(panel)));
+  return row;
+}
+
 void AddRun(wxSizer& content, ScreenPanel& panel, wxWindow* parent, const RunControls& run) {
   Binding& binding = panel.binding();
   const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
-  content.Add(RunLog(binding, parent, run.heading, run.log),
+  content.Add(BesideLeftOut(panel, parent, RunLog(binding, parent, run.heading, run.log)),
               wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
   content.Add(RunProgress(panel, parent, run), group);
   content.Add(ButtonRow({.affirmative = MakeButton(binding, parent, run.transfer),
+                         .variant = MakeButton(binding, parent, run.preview),
                          .cancel = MakeButton(binding, parent, run.leave)}),
               group);
 }

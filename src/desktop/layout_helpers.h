@@ -28,6 +28,7 @@ wxSizer* SideBySide(const wxWindow& window, std::initializer_list<wxSizer*> ends
 // platform's order.
 struct EndButtons {
   wxButton* affirmative = nullptr;
+  wxButton* variant = nullptr;  // beside the affirmative button, such as its preview
   wxButton* negative = nullptr;
   wxButton* cancel = nullptr;
   wxButton* aside = nullptr;  // at the other end of the row; does not close the dialog
@@ -38,13 +39,18 @@ wxSizer* ButtonRow(const EndButtons& buttons);
 wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBox& name,
                       Button& finder);
 
-// Holds the controls that show a run, and the buttons that start it and leave the screen.
+// Lays out a log beside the panel's list of what a run has left out.
+wxSizer* BesideLeftOut(ScreenPanel& panel, wxWindow* parent, wxSizer* log);
+
+// Holds the controls that show a run, and the buttons that start it, preview it and leave the
+// screen.
 struct RunControls {
   Label& heading;
   TextBox& log;  // gets buttons that copy and save it
   Label& working;
   Label* count;  // may be null
   Button& transfer;
+  Button& preview;
   Button& leave;
 };
 // Adds these controls and the panel's gauge to the content.

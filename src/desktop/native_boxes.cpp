@@ -2,6 +2,7 @@
 
 #include <wx/fontdlg.h>
 #include <wx/msgdlg.h>
+#include <wx/richmsgdlg.h>
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
@@ -58,19 +59,38 @@ class InputDialog : public wxTextEntryDialog {
   }
 };
 
-}  // namespace
-
-BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
+long StyleOf(const Box& box) {
   long style = IconStyle(box.icon) | wxCENTRE;
   for (const BoxButton button : box.buttons) style |= Native(button).style;
-  style |= Native(box.buttons.at(box.default_button)).default_style;
-  wxMessageDialog dialog(parent, WxText(box.text), WxText(box.title), style);
-  if (Has(box, BoxButton::kRetry)) dialog.SetOKLabel("&Retry");
-  const int answer = dialog.ShowModal();
+  return style | Native(box.buttons.at(box.default_button)).default_style;
+}
+
+BoxButton ButtonOf(const Box& box, int answer) {
   for (const BoxButton button : box.buttons) {
     if (Native(button).answer == answer) return button;
   }
   return box.buttons.back();
+}
+
+}  // namespace
+
+BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
+  wxMessageDialog dialog(parent, WxText(box.text), WxText(box.title), StyleOf(box));
+  if (Has(box, BoxButton::kRetry)) dialog.SetOKLabel("&Retry");
+  return ButtonOf(box, dialog.ShowModal());
+}
+
+// The toolkit's Help button gets the caption of Stop. The toolkit's dialog does not accept
+// wxICON_NONE.
+RepeatedAnswer ShowRepeatedDialog(wxWindow* parent, const Box& box) {
+  wxRichMessageDialog dialog(parent, WxText(box.text), WxText(box.title),
+                             (StyleOf(box) & ~wxICON_NONE) | wxHELP);
+  dialog.SetHelpLabel("&Stop: nothing will have been changed");
+  dialog.ShowCheckBox("Same &answer for the rest of this run");
+  const int answer = dialog.ShowModal();
+  return {.button = ButtonOf(box, answer),
+          .for_rest = dialog.IsCheckBoxChecked(),
+          .stops = answer == wxID_HELP};
 }
 
 std::string ShowInputDialog(wxWindow* parent, const InputBox& box) {

@@ -14,6 +14,16 @@ namespace golf {
 // Returns the answer. If the operator closes the box without a button, that is Cancel, or the last
 // button if the box has no Cancel.
 BoxButton ShowMessageDialog(wxWindow* parent, const Box& box);
+
+// Contains the answer to a box that comes again and again in a run.
+struct RepeatedAnswer {
+  BoxButton button;  // meaningless if `stops` is true
+  bool for_rest;     // true if the same boxes later in the run must get the same answer
+  bool stops;        // true if the run must be stopped
+};
+// Shows a box that also offers to answer the rest of the run in the same way, and to stop the run.
+RepeatedAnswer ShowRepeatedDialog(wxWindow* parent, const Box& box);
+
 std::string ShowInputDialog(wxWindow* parent, const InputBox& box);
 // Returns the chosen font, or the current one if the operator cancels.
 Font ShowFontDialog(wxWindow* parent, std::string_view title, const Font& current);

@@ -132,12 +132,14 @@ void FillQBtoKV(ScreenPanel& panel, QBtoKV& screen) {
   checks->Add(MakeCheckBox(binding, &panel, screen.TCheck2),
               wxSizerFlags().Border(wxLEFT, GroupGap(panel)));
   content->Add(checks, group);
-  content->Add(Log(panel, screen.Message), wxSizerFlags(group).Proportion(1));
+  content->Add(BesideLeftOut(panel, &panel, Log(panel, screen.Message)),
+               wxSizerFlags(group).Proportion(1));
   content->Add(MakeLabel(binding, &panel, screen.Working), group);
   AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
   wxButton* transfer = MakeButton(binding, &panel, screen.TransferButton);
   transfer->SetMinSize(panel.FromDIP(wxSize(kTransferWidth, -1)));
   content->Add(ButtonRow({.affirmative = transfer,
+                          .variant = MakeButton(binding, &panel, screen.PreviewButton),
                           .cancel = MakeButton(binding, &panel, screen.ExitButton)}),
                group);
   FinishWindow(panel, content);

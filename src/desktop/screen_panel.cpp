@@ -1,5 +1,8 @@
 #include "desktop/screen_panel.h"
 
+#include <algorithm>
+#include <string>
+
 #include "desktop/layout_helpers.h"
 #include "desktop/wx_text.h"
 
@@ -7,6 +10,7 @@ namespace golf {
 namespace {
 
 constexpr int kGaugeSteps = 1000;
+constexpr int kLeftOutColumns = 34;
 
 // Is the toolkit's timer for a timer control. It exists as long as the panel.
 class RunningTimer : public wxTimer {
@@ -37,7 +41,7 @@ class RunningTimer : public wxTimer {
 ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen)
     : wxPanel(&window), window_(window), host_(host), screen_(&screen), binding_(host, screen) {
   binding_.on_rearranged = [this] { LayOutAgain(*this); };
-  window_.SetTitle(WxText(screen.caption()));
+  ShowTitle(false);
   window_.Bind(wxEVT_CLOSE_WINDOW, &ScreenPanel::OnClose, this);
   window_.Bind(wxEVT_CHAR_HOOK, &ScreenPanel::OnCharHook, this);
   const auto note_menu = [this](wxMenuEvent& event) {
@@ -63,12 +67,46 @@ wxGauge* ScreenPanel::MakeGauge(wxWindow* parent) {
   return gauge_;
 }
 
+wxWindow* ScreenPanel::MakeLeftOut(wxWindow* parent) {
+  left_out_ = new wxPanel(parent);
+  left_out_heading_ = new wxStaticText(left_out_, wxID_ANY, "");
+  MakeBold(*left_out_heading_);
+  left_out_list_ = new wxTextCtrl(left_out_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                  wxTE_MULTILINE | wxTE_DONTWRAP | wxTE_READONLY);
+  left_out_list_->SetName("LeftOut");
+  left_out_list_->SetMinSize({kLeftOutColumns * left_out_list_->GetCharWidth(), -1});
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(left_out_heading_);
+  column->Add(left_out_list_, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(*this)));
+  left_out_->SetSizer(column);
+  left_out_->Hide();
+  return left_out_;
+}
+
+// The heading is the first line of the list's report.
+bool ScreenPanel::ShowLeftOut(const LeftOut& left_out) {
+  if (left_out_ == nullptr) return false;
+  std::string lines;
+  left_out.ForEachLine([&lines](std::string_view line) { lines.append(line).append("\n"); });
+  const std::size_t heading = std::min(lines.find('\n'), lines.size());
+  left_out_heading_->SetLabelText(WxText(lines.substr(0, heading)));
+  left_out_list_->ChangeValue(WxText(lines.substr(std::min(heading + 1, lines.size()))));
+  if (left_out_->Show(!lines.empty())) LayOutAgain(*this);
+  return true;
+}
+
 void ScreenPanel::SetInRun(bool in_run) {
   if (gauge_ != nullptr) {
     gauge_->SetValue(0);
     gauge_->Show(in_run);
   }
   binding_.HoldInput(in_run);
+}
+
+void ScreenPanel::ShowTitle(bool preview) {
+  if (screen_ == nullptr) return;
+  const wxString title = (preview ? "Preview - " : "") + WxText(screen_->caption());
+  if (window_.GetTitle() != title) window_.SetTitle(title);
 }
 
 void ScreenPanel::ShowProgress(const Progress& progress) {

@@ -2,12 +2,15 @@
 
 #include <wx/gauge.h>
 #include <wx/panel.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
 #include <wx/timer.h>
 #include <wx/toplevel.h>
 
 #include <memory>
 #include <vector>
 
+#include "core/left_out.h"
 #include "desktop/binding.h"
 
 namespace golf {
@@ -25,7 +28,14 @@ class ScreenPanel : public wxPanel {
   // Creates a gauge that is visible during a run. The caller must reserve its space.
   wxGauge* MakeGauge(wxWindow* parent);
 
+  // Creates the part that lists what a run has left out. It is hidden while the list is empty.
+  wxWindow* MakeLeftOut(wxWindow* parent);
+  // Returns false if the window has no such part.
+  bool ShowLeftOut(const LeftOut& left_out);
+
   void SetInRun(bool in_run);
+  // Shows the screen's caption in the title bar, after "Preview" if `preview` is true.
+  void ShowTitle(bool preview);
   void ShowProgress(const Progress& progress);
 
   // Disconnects the window from its screen.
@@ -41,6 +51,9 @@ class ScreenPanel : public wxPanel {
   Screen* screen_;
   Binding binding_;
   wxGauge* gauge_ = nullptr;
+  wxPanel* left_out_ = nullptr;
+  wxStaticText* left_out_heading_ = nullptr;
+  wxTextCtrl* left_out_list_ = nullptr;
   bool menu_is_open_ = false;
   std::vector<std::unique_ptr<wxTimer>> timers_;
 };

@@ -3,6 +3,9 @@
 #include "screens/courses/course_form.h"
 #include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
+#include "screens/history/change_preview.h"
+#include "screens/history/interrupted_run.h"
+#include "screens/history/transfer_history.h"
 #include "screens/results/grid_sort_screen.h"
 #include "screens/results/team_layout_builder.h"
 #include "screens/results/team_layout_list.h"
@@ -33,6 +36,9 @@ ViewCatalogue Views() {
       {"TransferMenu", {WindowKind::kMain, Fill<TransferMenu, FillTransferMenu>}},
       {"TipBox", {WindowKind::kDialog, Fill<TipBox, FillTipBox>}},
       {"GridSort", {WindowKind::kDialog, Fill<GridSort, FillGridSort>}},
+      {"ChangePreview", {WindowKind::kDialog, Fill<ChangePreview, FillChangePreview>, true}},
+      {"InterruptedRun", {WindowKind::kDialog, Fill<InterruptedRun, FillInterruptedRun>}},
+      {"TransferHistory", {WindowKind::kDialog, Fill<TransferHistory, FillTransferHistory>, true}},
       {"LoadRoster", {WindowKind::kDialog, Fill<LoadRoster, FillLoadRoster>, true}},
       {"LoadRosters", {WindowKind::kDialogOverOpener, Fill<LoadRosters, FillLoadRosters>, true}},
       {"CourseTable", {WindowKind::kDialog, Fill<CourseTable, FillCourseTable>, true}},

@@ -7,10 +7,12 @@
 
 namespace golf {
 
+class ChangePreview;
 class CourseForm;
 class CourseTable;
 class CourseTee;
 class GridSort;
+class InterruptedRun;
 class KVCoursestoQB;
 class KVtoQB;
 class KVtoZD;
@@ -20,6 +22,7 @@ class QBtoKV;
 class TeamLayouts;
 class TeamResults;
 class TipBox;
+class TransferHistory;
 class TransferMenu;
 class XReportsCustomTeamResults;
 class ZDtoKV;
@@ -42,6 +45,9 @@ ViewCatalogue Views();
 
 void FillTransferMenu(ScreenPanel& panel, TransferMenu& screen);
 void FillTipBox(ScreenPanel& panel, TipBox& screen);
+void FillChangePreview(ScreenPanel& panel, ChangePreview& screen);
+void FillTransferHistory(ScreenPanel& panel, TransferHistory& screen);
+void FillInterruptedRun(ScreenPanel& panel, InterruptedRun& screen);
 void FillTeamResults(ScreenPanel& panel, TeamResults& screen);
 void FillTeamLayouts(ScreenPanel& panel, TeamLayouts& screen);
 void FillTeamLayoutBuilder(ScreenPanel& panel, XReportsCustomTeamResults& screen);

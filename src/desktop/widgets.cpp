@@ -42,6 +42,12 @@ wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Show
   return text;
 }
 
+wxStaticText* MakeFieldLabel(Binding& binding, wxWindow* parent, Label& control) {
+  wxStaticText* text = NewText(parent, 0);
+  binding.Tie(control, *text, [text, &control] { text->SetLabel(WxText(control.caption())); });
+  return text;
+}
+
 wxStaticText* MakeWrappedLabel(Binding& binding, wxWindow* parent, Label& control, int width) {
   wxStaticText* text = NewText(parent, 0);
   binding.Tie(control, *text, [text, &control, width] {

@@ -26,6 +26,9 @@ using Shown = std::string (*)(const std::string& text);
 // Shows "&" as a plain character, since the caption is data. A text that is too long is cut and
 // ends in dots.
 wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Shown shown = nullptr);
+// Creates a label whose caption has an access key. The key moves the focus to the widget that is
+// created next.
+wxStaticText* MakeFieldLabel(Binding& binding, wxWindow* parent, Label& control);
 // Wraps the text at this width, in pixels.
 wxStaticText* MakeWrappedLabel(Binding& binding, wxWindow* parent, Label& control, int width);
 wxButton* MakeButton(Binding& binding, wxWindow* parent, Button& control);

@@ -34,6 +34,7 @@ wxPanel* MakeMain(ScreenPanel& panel, ZDtoKV& screen) {
           .working = screen.Working,
           .count = nullptr,
           .transfer = screen.TransferButton,
+          .preview = screen.PreviewButton,
           .leave = screen.ExitButton});
   frame->SetSizer(content);
   return frame;

@@ -27,6 +27,7 @@ wxPanel* MakeMain(ScreenPanel& panel, ZDtoQB& screen) {
           .working = screen.Working,
           .count = &screen.WorkingCount,
           .transfer = screen.TransferButton,
+          .preview = screen.PreviewButton,
           .leave = screen.CancelButton});
   frame->SetSizer(content);
   return frame;

@@ -77,6 +77,9 @@ class HeadlessHost : public HostBase {
   void SetPointer(Pointer) override {}
   void Notify(const std::string& text) override { listener_.OnNotice(text); }
   void Report(const Progress& progress) override { listener_.OnProgress(progress); }
+  void NoteLeftOut(const LeftOut& left_out) override { left_out_.Append(left_out); }
+  // Returns what all runs so far have left out.
+  const LeftOut& left_out() const { return left_out_; }
   void NoteFault(const NumberedError& fault) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
   DateValue Now() override { return clock(); }
@@ -112,6 +115,7 @@ class HeadlessHost : public HostBase {
   std::string bad_answer_;
   std::map<std::string, BoxButton, std::less<>> answered_;  // by title
   std::string copied_;
+  LeftOut left_out_;
 };
 
 }  // namespace golf

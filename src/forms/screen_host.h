@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/date_value.h"
+#include "core/left_out.h"
 #include "core/numbered_error.h"
 #include "core/progress.h"
 #include "forms/dialogs.h"
@@ -48,6 +49,8 @@ class ScreenHost {
   virtual void EndRun() = 0;
   // Records a count of a run's result. `name` is the name that scripts use for it.
   virtual void NoteCount(std::string_view name, std::int64_t count) = 0;
+  // Records what a run has left out. Is called after the run's commit.
+  virtual void NoteLeftOut(const LeftOut& left_out) = 0;
   // Records a fault that does not end the run.
   virtual void NoteFault(const NumberedError& fault) = 0;
 

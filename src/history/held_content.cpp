@@ -21,7 +21,9 @@ void ReadHeld(HeldChanges& changes, const HistoryPaths& paths, const HeldReader&
                  .old_length = file->old_length(),
                  .new_length = file->length(),
                  .kept_as = {}});
-    file->ForEach([&](HeldPlace place, std::string_view code) {
+    const std::size_t length =
+        reader.record_length ? reader.record_length(paths.Name(file->path())) : 0;
+    file->ForEach(length, [&](HeldPlace place, std::string_view code) {
       place.group = groups.Root(place.group);
       reader.place(place, code);
     });

@@ -140,6 +140,7 @@ bool HeldFileChanges::HasNetChange() const {
 }
 
 void HeldFileChanges::ForEach(
+    std::size_t record_length,
     const std::function<void(const HeldPlace&, std::string_view code)>& each) {
   for (const auto& [number, portion] : portions_) {
     for (const HeldPlace& place : portion) {
@@ -148,8 +149,9 @@ void HeldFileChanges::ForEach(
       each(place, code_);
     }
   }
+  const std::size_t piece = record_length > 0 ? record_length : kWindow;
   for (std::int64_t offset = length_; offset < old_length_;) {
-    const std::string_view old_bytes = OldBytes(offset, kWindow);
+    const std::string_view old_bytes = OldBytes(offset, piece);
     code_.clear();
     AppendPlace(code_, old_bytes, {});
     each({.offset = offset, .old_size = static_cast<std::uint32_t>(old_bytes.size())}, code_);

@@ -71,8 +71,10 @@ class HeldFileChanges {
   // True if the file differs from its state before the run.
   bool HasNetChange() const;
   // Calls `each` for every place that differs, by rising offsets, with its code. Bytes that a
-  // truncation cuts off are among them. Raises HoldFailed if the held bytes cannot be read.
-  void ForEach(const std::function<void(const HeldPlace&, std::string_view code)>& each);
+  // truncation cuts off are among them, in pieces of `record_length` bytes; 0 makes longer pieces.
+  // Raises HoldFailed if the held bytes cannot be read.
+  void ForEach(std::size_t record_length,
+               const std::function<void(const HeldPlace&, std::string_view code)>& each);
 
  private:
   // Contains the places that start in one portion of the file, by rising offsets.

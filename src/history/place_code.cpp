@@ -38,6 +38,8 @@ void AppendBytes(std::string& to, std::string_view bytes, PlaceCode plain, Place
     to += bytes.substr(literal, end - literal);
   };
   for (std::size_t at = 0; at < bytes.size();) {
+    // Bytes of which each differs from the next are no fill.
+    while (at + 1 < bytes.size() && bytes[at] != bytes[at + 1]) ++at;
     const std::size_t fill = FillLength(bytes, at);
     if (fill >= kShortestFill) {
       flush(at);

@@ -47,8 +47,12 @@ NumberedError Replaced(const std::string& path) {
 
 }  // namespace
 
-Transactions::Transactions(HeldPlatform& held, std::function<DateValue()> now)
-    : held_(held), folder_(held.real()), now_(std::move(now)) {
+Transactions::Transactions(HeldPlatform& held, std::function<DateValue()> now,
+                           RecordLength record_length)
+    : held_(held),
+      folder_(held.real()),
+      now_(std::move(now)),
+      record_length_(std::move(record_length)) {
   held_.on_change = [this] { CheckStopped(); };
 }
 
@@ -172,7 +176,8 @@ void Transactions::WriteContent(HistoryWriter& writer, const HistoryName& name,
              }
              writer.File(entry);
            },
-       .place = [&](const HeldPlace& place, std::string_view code) { writer.Place(place, code); }});
+       .place = [&](const HeldPlace& place, std::string_view code) { writer.Place(place, code); },
+       .record_length = record_length_});
   writer.Report(report);
   writer.Finish();
 }

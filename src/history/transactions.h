@@ -61,8 +61,12 @@ enum class RecoveryChoice { kByItself, kFinish, kPutBack, kLeave };
 // after a crash at any moment.
 class Transactions {
  public:
+  using RecordLength = std::function<std::size_t(std::string_view file)>;
+
   // `now` returns the present date and time, which the names of history files contain.
-  Transactions(HeldPlatform& held, std::function<DateValue()> now);
+  // `record_length` returns the length of the records of a file in bytes, or 0 if it has none.
+  Transactions(HeldPlatform& held, std::function<DateValue()> now,
+               RecordLength record_length = nullptr);
 
   HistoryFolder& history() { return folder_; }
   HeldPlatform& held() { return held_; }
@@ -93,6 +97,8 @@ class Transactions {
   // Begins a transaction. Drops changes that were held before, except in a dry run or a preview.
   void Begin(RunTitle title);
   bool IsOpen() const { return held_.held() != nullptr; }
+  // True if the current click has committed a transaction.
+  bool HasCommitted() const { return committed_in_click_ != 0; }
   // Begins a group for the following changes. They belong to the run as a whole if `title` is
   // empty.
   void BeginGroup(std::string_view title);
@@ -130,6 +136,7 @@ class Transactions {
   HeldPlatform& held_;
   HistoryFolder folder_;
   std::function<DateValue()> now_;
+  RecordLength record_length_;
   RunTitle title_;
   std::int32_t committed_in_click_ = 0;
   std::int32_t last_committed_ = 0;

@@ -14,8 +14,8 @@ namespace golf {
 namespace {
 
 // The fields that hold a handicap or an index in strokes. A negative one is a plus handicap.
-constexpr std::string_view kHandicaps[] = {"Handicap", "HandicapPlayed", "Index",
-                                           "TourGrossHandicap", "TourIndex"};
+constexpr std::string_view kHandicaps[] = {"EventHandicap", "Handicap",          "HandicapPlayed",
+                                           "Index",         "TourGrossHandicap", "TourIndex"};
 
 bool IsHandicap(const Field& field) {
   return std::find(std::begin(kHandicaps), std::end(kHandicaps), field.name) !=

@@ -28,12 +28,6 @@ std::string Stem(std::string_view file) {
   return std::string(name.substr(0, name.rfind('.')));
 }
 
-// Returns the text without the blanks and NULs that pad a field.
-std::string Shown(std::string text) {
-  std::erase(text, '\0');
-  return std::string(Trim(text));
-}
-
 std::string Numbered(std::string_view what, std::int64_t number) {
   return std::string(what) + " " + std::to_string(number);
 }
@@ -61,12 +55,12 @@ std::string TitleOf(const RecordPlace&, const Record<PlayerLayout>& golfer) {
 
 std::string TitleOf(const RecordPlace& place, const Record<RosterLayout>& roster) {
   if (roster.Get<"IsRosterActive">() == 0) return {};
-  const std::string name = Shown(roster.Get<"ClubName">());
+  const std::string name = WithoutPadding(roster.Get<"ClubName">());
   return name.empty() ? Numbered("Roster", place.record) : name;
 }
 
 std::string TitleOf(const RecordPlace& place, const Record<TournamentLayout>& tournament) {
-  const std::string name = Shown(tournament.Get<"Name">());
+  const std::string name = WithoutPadding(tournament.Get<"Name">());
   return name.empty() ? Stem(place.file) : name;
 }
 
@@ -81,12 +75,12 @@ std::string TitleOf(const RecordPlace& place, const Record<TournamentPlayerLayou
 }
 
 std::string TitleOf(const RecordPlace&, const Record<TeamLayout>& team) {
-  return Shown(team.Get<"TeamName">());
+  return WithoutPadding(team.Get<"TeamName">());
 }
 
 std::string TitleOf(const RecordPlace& place, const Record<CourseLayout>& course) {
   if (course.Get<"activeflag">() == 0) return {};
-  const std::string name = Shown(course.Get<"Name">());
+  const std::string name = WithoutPadding(course.Get<"Name">());
   return name.empty() ? Numbered("Course", place.record) : name;
 }
 
@@ -97,7 +91,7 @@ std::string TitleOf(const RecordPlace&, const Record<LeaguePlayerLayout>& player
 }
 
 std::string TitleOf(const RecordPlace& place, const Record<LeagueControlLayout>& league) {
-  const std::string name = Shown(league.Get<"LeagueName">());
+  const std::string name = WithoutPadding(league.Get<"LeagueName">());
   return name.empty() ? Stem(place.file) : name;
 }
 
@@ -136,13 +130,6 @@ constexpr TitleKind kTitles[] = {
     Titled<LeagueTeamLayout>()};
 
 }  // namespace
-
-std::string GolferTitleLF(std::string_view first, std::string_view last, std::int64_t id) {
-  const std::string given = Shown(std::string(first));
-  const std::string family = Shown(std::string(last));
-  if (given.empty() || family.empty()) return GolferTitle(given, family, id);
-  return family + ", " + given;
-}
 
 std::string TournamentTitle(InstallReader& reader, std::string_view file) {
   const std::string control = WithExtension(file, ".Q9C");

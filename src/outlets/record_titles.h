@@ -8,9 +8,6 @@
 
 namespace golf {
 
-// Returns "Last, First", or for example "Golfer #12" if the golfer has no full name.
-std::string GolferTitleLF(std::string_view first, std::string_view last, std::int64_t id);
-
 // Returns the name of the tournament to which `file` belongs. Its control file has the same name
 // with the extension .Q9C. Returns the file name without its extension if the control file cannot
 // be read.

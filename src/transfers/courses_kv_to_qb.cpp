@@ -49,13 +49,14 @@ void CopyCourses(FileTable& files, RunHost& host, const CourseLinks& links,
                  std::int64_t quenby_count, CoursesKvToQbReport& report) {
   const std::int64_t kelvane_count = files.CountRounded(kSource, KelvaneCourseLayout::kLength);
   Record<KelvaneCourseLayout> course;
-  for (std::int64_t source = 1; source <= kelvane_count; ++source) {
+  const auto is_in_use = [&course] { return (course.Get<"activeflag">() & 1) != 0; };
+  const auto copy = [&](std::int64_t source) {
     files.Read(kSource, source, course);
     const std::int16_t kelvane_number = CheckedInt16(source);
     course.Set<"KVCourseNum">(kelvane_number);
     // A course that is not in use is also copied, so that its number stays linked. It is not shown,
     // and an update of it is not counted.
-    const bool in_use = (course.Get<"activeflag">() & 1) != 0;
+    const bool in_use = is_in_use();
     host.Report({source, kelvane_count, in_use ? course.Get<"Name">() : std::string()});
     host.Group(Trim(course.Get<"Name">()));
     const auto [first, last] = links.Find(kelvane_number);
@@ -67,7 +68,12 @@ void CopyCourses(FileTable& files, RunHost& host, const CourseLinks& links,
       CountUp(report.added);
       files.Write(kDestination, quenby_count + report.added, course);
     }
-  }
+    return true;
+  };
+  TakeInOrder(report, kelvane_count, copy, [&](std::int64_t source) {
+    files.Read(kSource, source, course);
+    return is_in_use() ? std::string(Trim(course.Get<"Name">())) : std::string();
+  });
 }
 
 void RebuildQuenbyCourseIndexes(SharedState& state) {

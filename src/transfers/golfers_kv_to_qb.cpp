@@ -62,24 +62,31 @@ class GolferCopy {
   void CopyAll() {
     std::int32_t places = 0;
     next_([&] { places = KVGolferPlaces(state_); });
-    for (std::int32_t place = 1; place <= places; ++place) {
+    const auto copy = [&](std::int64_t place) {
       if (IsWanted(place)) Copy(place, places);
-    }
+      return true;
+    };
+    TakeInOrder(report_, places, copy,
+                [this](std::int64_t place) { return ReadKVGolferNameLF(state_, place); });
   }
 
  private:
   const Record<KelvaneGolferLayout>& Golfer() const { return state_.Kelvane().golfer; }
 
-  bool IsWanted(std::int32_t place) {
+  Who Name() const { return {KVGolferNameLF(Golfer()), KVGolferName(Golfer())}; }
+
+  bool IsWanted(std::int64_t place) {
     const bool read = ReadOrLeaveOut(
         host_, report_,
         [&] { state_.files.Read(kKelvaneGolferFile, place, state_.Kelvane().golfer); },
-        [&] { return "The golfer at place " + std::to_string(place); });
-    if (!read || (request_.marked_only && Golfer().Get<"MarkedToPrint">() == 0)) return false;
-    return IsGolfer(Golfer());
+        [&] { return Who("The golfer at place " + std::to_string(place)); });
+    if (!read || !IsGolfer(Golfer())) return false;
+    if (!request_.marked_only || Golfer().Get<"MarkedToPrint">() != 0) return true;
+    report_.left_out.Add(KVGolferNameLF(Golfer()), left_out::kNotMarked);
+    return false;
   }
 
-  void Copy(std::int32_t place, std::int32_t places) {
+  void Copy(std::int64_t place, std::int32_t places) {
     host_.Report({place, places,
                   "Transferring: " + std::to_string(report_.updated + report_.added) + " " +
                       Golfer().Get<"NameLast">()});
@@ -87,7 +94,7 @@ class GolferCopy {
     const std::int32_t found = quenby_.Find(Golfer().Get<"IDNum">());
     const std::int32_t record = found > 0 ? found : quenby_.places.First();
     const bool prepared = ReadOrLeaveOut(
-        host_, report_, [&] { Prepare(found); }, [&] { return KVGolferName(Golfer()); });
+        host_, report_, [&] { Prepare(found); }, [&] { return Name(); });
     if (!prepared) return;
     CopyGolferToQb(state_.Kelvane(), request_.choice, state_.PlayerRecords(), next_);
     next_([&] { state_.PlayerRecords().SetRosters(3, request_.destination); });
@@ -108,7 +115,12 @@ class GolferCopy {
   // Writes the player. A golfer without an ID makes the record free, even if it was not free
   // before.
   void Save(std::int32_t record) {
-    state_.PlayerRecords().SaveRecord(record, false);
+    try {
+      state_.PlayerRecords().SaveRecord(record, false);
+    } catch (const NumberedError& error) {
+      report_.left_out.Add(KVGolferNameLF(Golfer()), StoppedBy(error));
+      throw;
+    }
     quenby_.places.Note(record, state_.PlayerRecords().StoredID());
   }
 

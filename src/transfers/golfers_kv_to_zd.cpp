@@ -101,7 +101,7 @@ bool ScoresMayStand(RunHost& host, int scores, int event) {
 void LeaveOutUnread(RunHost& host, RunReport& report, const std::vector<std::int32_t>& records,
                     const char* whose) {
   for (const std::int32_t record : records) {
-    LeaveOut(host, report, "Record " + std::to_string(record) + " of the league's " + whose,
+    LeaveOut(host, report, Who("Record " + std::to_string(record) + " of the league's " + whose),
              {ErrorNumber::kDeviceFault, "It cannot be read."});
   }
 }
@@ -120,38 +120,50 @@ class GolferCopy {
   void CopyAll(const League& league) {
     const auto& golfer = state_.Kelvane().golfer;
     const std::int32_t places = KVGolferPlaces(state_);
-    for (std::int32_t place = 1; place <= places; ++place) {
-      if (!IsWanted(place)) continue;
+    const auto copy = [&](std::int64_t place) {
+      if (!IsWanted(place)) return true;
       host_.Report({place, places, "SEARCHING for " + golfer.Get<"NameLast">()});
       host_.Group(KVGolferName(golfer));
-      Update(kLeaguePlayerFile, league.players);
-      Update(kLeagueSubstituteFile, league.substitutes);
-    }
+      const bool plays = Update(kLeaguePlayerFile, league.players);
+      const bool substitutes = Update(kLeagueSubstituteFile, league.substitutes);
+      if (!plays && !substitutes) {
+        report_.left_out.Add(KVGolferNameLF(golfer), left_out::kNotInLeague);
+      }
+      return true;
+    };
+    TakeInOrder(report_, places, copy,
+                [this](std::int64_t place) { return ReadKVGolferNameLF(state_, place); });
   }
 
  private:
-  bool IsWanted(std::int32_t place) {
+  bool IsWanted(std::int64_t place) {
     auto& golfer = state_.Kelvane().golfer;
     const bool read = ReadOrLeaveOut(
         host_, report_, [&] { state_.files.Read(kKelvaneGolferFile, place, golfer); },
-        [&] { return "The golfer at place " + std::to_string(place); });
-    return read && IsGolfer(golfer) && golfer.Get<"IDNum">() >= 1;
+        [&] { return Who("The golfer at place " + std::to_string(place)); });
+    if (!read || !IsGolfer(golfer)) return false;
+    if (golfer.Get<"IDNum">() >= 1) return true;
+    report_.left_out.Add(KVGolferNameLF(golfer), left_out::kNoIdNumber);
+    return false;
   }
 
-  void Update(int file, const RecordsById& records) {
+  // Updates the golfer's record in a file of the league. Returns false if the file has no record of
+  // the golfer. If the record cannot be read, leaves out the golfer.
+  bool Update(int file, const RecordsById& records) {
     const auto& golfer = state_.Kelvane().golfer;
     auto& player = state_.Zandel().player;
     const auto found = records.find(golfer.Get<"IDNum">());
-    if (found == records.end()) return;
+    if (found == records.end()) return false;
     const bool read = ReadOrLeaveOut(
         host_, report_, [&] { state_.files.Read(file, found->second, player); },
-        [&] { return KVGolferName(golfer); });
-    if (!read) return;
+        [&] { return Who(KVGolferNameLF(golfer), KVGolferName(golfer)); });
+    if (!read) return true;
     CopyGolferToZd(golfer, rule_, event_, player);
     state_.files.Write(file, found->second, player);
     report_.log.append(golfer.Get<"NameFirst">()).append(golfer.Get<"NameLast">());
     report_.log.append(" TRANSFERRED").append(kReportLineEnd);
     CountUp(report_.transferred);
+    return true;
   }
 
   SharedState& state_;

@@ -48,8 +48,8 @@ void CopyGolferToQuenby(const Record<LeaguePlayerLayout>& from, int event, bool 
   if (doubled) to.SetHandicap(2 * LeadingNumber(to.HandicapValue(true)));
 }
 
-// Copies the golfers of the open league in a loop. A function that returns false ends the run,
-// because the operator did not retry an operation.
+// Copies the golfers of the open league in a loop. A private function that returns false ends the
+// run, because the operator did not retry an operation.
 class GolferCopy {
  public:
   GolferCopy(SharedState& state, RunHost& host, const GolfersZdToQbRequest& request,
@@ -61,21 +61,24 @@ class GolferCopy {
         length_(length),
         places_(length) {}
 
-  bool CopyAll() {
+  void CopyAll() {
     const auto& control = state_.Zandel().control;
-    std::int32_t players = control.Get<"PlayerFactor1">() * control.Get<"PlayerFactor2">();
+    players_ = control.Get<"PlayerFactor1">() * control.Get<"PlayerFactor2">();
     std::int32_t last_substitute = request_.substitutes ? control.Get<"LastSubRecord">() : 0;
-    // No golfers are stored beyond the end of a file.
-    const auto limit = [this](std::int32_t& last, int file) {
-      last = std::min(last, state_.files.RecordCount<LeaguePlayerLayout>(file));
-    };
-    if (!ReadQuenby() || !Try([&] { limit(players, kLeaguePlayerFile); }) ||
-        !Try([&] { limit(last_substitute, kLeagueSubstituteFile); })) {
-      return false;
+    if (!ReadQuenby() || !Try([&] { LimitToFile(players_, kLeaguePlayerFile); }) ||
+        !Try([&] { LimitToFile(last_substitute, kLeagueSubstituteFile); })) {
+      return report_.left_out.Add("All golfers of the league", left_out::kNotReached);
     }
-    total_ = std::max(players, 0) + std::max(last_substitute - kFirstSubstitute + 1, 0);
-    return CopyRecords(kLeaguePlayerFile, 1, players) &&
-           CopyRecords(kLeagueSubstituteFile, kFirstSubstitute, last_substitute);
+    players_ = std::max(players_, 0);
+    total_ = players_ + std::max(last_substitute - kFirstSubstitute + 1, 0);
+    const auto title = [this](std::int64_t number) { return TitleOf(number); };
+    const auto copy = [&](std::int64_t number) {
+      const bool goes_on = CopyGolfer(number);
+      if (!goes_on) LeaveOutStopped(report_, number, *report_.given_up, title);
+      return goes_on;
+    };
+    TakeInOrder(report_, total_, copy, title);
+    if (!request_.substitutes) LeaveOutSubstitutes();
   }
 
  private:
@@ -108,20 +111,50 @@ class GolferCopy {
     return true;
   }
 
-  bool CopyRecords(int file, std::int32_t first, std::int32_t last) {
+  // Limits the number of the last record to the end of the file. No golfers are stored beyond it.
+  void LimitToFile(std::int32_t& last, int file) {
+    last = std::min(last, state_.files.RecordCount<LeaguePlayerLayout>(file));
+  }
+
+  // Reads a golfer by number. The substitutes follow the players.
+  void ReadGolfer(std::int64_t number) {
     auto& golfer = state_.Zandel().player;
-    for (std::int32_t record = first; record <= last; ++record) {
-      if (!Try([&] { state_.files.Read(file, record, golfer); })) return false;
-      ++done_;
-      if (!Copy(golfer)) return false;
-    }
-    return true;
+    if (number <= players_) return state_.files.Read(kLeaguePlayerFile, number, golfer);
+    state_.files.Read(kLeagueSubstituteFile, number - players_ + kFirstSubstitute - 1, golfer);
+  }
+
+  std::string TitleOf(std::int64_t number) {
+    ReadGolfer(number);
+    const auto& golfer = state_.Zandel().player;
+    return HasLastName(golfer) ? LeagueGolferNameLF(golfer) : std::string();
+  }
+
+  // Adds the substitutes, whom the operator has excluded, to the report. An error while reading
+  // them does not concern the run.
+  void LeaveOutSubstitutes() {
+    std::int32_t last = state_.Zandel().control.Get<"LastSubRecord">();
+    const ResumeNext anyway(nullptr);
+    if (!anyway([&] { LimitToFile(last, kLeagueSubstituteFile); })) return;
+    const std::int64_t substitutes = std::max(last - kFirstSubstitute + 1, 0);
+    LeaveOutRest(
+        report_, players_ + 1, players_ + substitutes,
+        [this](std::int64_t number) { return TitleOf(number); }, left_out::kSubstitute);
+  }
+
+  bool CopyGolfer(std::int64_t number) {
+    if (!Try([&] { ReadGolfer(number); })) return false;
+    done_ = number;
+    return Copy(state_.Zandel().player);
   }
 
   bool Copy(const Record<LeaguePlayerLayout>& golfer) {
     const std::string last_name = golfer.Get<"LastName">();
     const std::string first_name = golfer.Get<"FirstName">();
-    if (CompareIgnoringCase(Trim(last_name), " ") <= 0) return true;
+    if (!HasLastName(golfer)) {
+      const bool is_golfer = golfer.Get<"GolferID">() > 0 && !WithoutPadding(first_name).empty();
+      if (is_golfer) report_.left_out.Add(LeagueGolferNameLF(golfer), left_out::kNoLastName);
+      return true;
+    }
     host_.Report(
         {done_, total_,
          "Transfering: " + std::string(Trim(first_name)) + " " + std::string(Trim(last_name))});
@@ -167,6 +200,7 @@ class GolferCopy {
   std::int32_t length_;
   std::unordered_map<std::string, std::int32_t> by_name_;
   FreeGolferPlaces places_;
+  std::int32_t players_ = 0;
   std::int64_t done_ = 0;
   std::int64_t total_ = 0;
 };

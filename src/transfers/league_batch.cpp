@@ -14,6 +14,8 @@ namespace {
 constexpr int kLastTeam = 100;
 constexpr std::uint8_t kNonEventTee = 1;
 
+bool IsTeam(int number) { return number >= 1 && number <= kLastTeam; }
+
 int TeeOr(int usual, int tee) { return tee >= 1 && tee <= kShownTees ? tee : usual; }
 
 }  // namespace
@@ -37,6 +39,21 @@ DateValue LeagueBatch::EventDate() const {
                       "Event #" + std::to_string(event_) + " of the league has no date.");
 }
 
+std::vector<int> LeagueBatch::StrokesOfGolfer() const {
+  const auto& player = state_.Zandel().player;
+  std::vector<int> strokes;
+  if (!is_event_) {
+    for (int slot = 1; slot <= kNonEventScores; ++slot) {
+      if (player.Get<"NonEventBefore">(slot) != event_) continue;
+      strokes.push_back(player.Get<"NonEventScore">(slot));
+    }
+  } else if (event_ >= 1 && event_ <= kLeagueEvents) {
+    const int score = player.Get<"EventPostScore">(event_);
+    if (IsTeam(player.Get<"EventTeam">(event_)) || score != 0) strokes.push_back(score);
+  }
+  return strokes;
+}
+
 const LeagueBatch::TeamCourse& LeagueBatch::CourseOfTeam(int number) {
   auto& known = teams_.at(static_cast<std::size_t>(number));
   if (!known) {
@@ -52,7 +69,7 @@ const LeagueBatch::TeamCourse& LeagueBatch::CourseOfTeam(int number) {
 std::vector<LeagueScore> LeagueBatch::EventScore() {
   const auto& player = state_.Zandel().player;
   const int team = player.Get<"EventTeam">(event_);
-  if (team < 1 || team > kLastTeam) return {};
+  if (!IsTeam(team)) return {};
   const TeamCourse& course = CourseOfTeam(team);
   const int sex = player.Get<"Sex">();
   const int tee = course.tees[sex == 1 ? 1 : 0];

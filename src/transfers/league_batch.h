@@ -28,6 +28,11 @@ class LeagueBatch {
   // error 6 if the event has no date. Also raises the errors of FileTable.
   std::vector<LeagueScore> ScoresOfGolfer();
 
+  // Returns the strokes of the scores that this batch contains for the golfer in the league player
+  // buffer. A golfer who is on a team in the event or has a score for it has one, which may be 0.
+  // Unlike ScoresOfGolfer it raises no error and reads no file.
+  std::vector<int> StrokesOfGolfer() const;
+
  private:
   // Contains the course and tees of a team at this event. Tee 2 for men and tee 3 for ladies
   // replace a tee outside 1 to 5.

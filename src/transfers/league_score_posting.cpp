@@ -6,6 +6,7 @@
 #include "stores/kelvane/kelvane_halves.h"
 #include "stores/kelvane/kelvane_scores.h"
 #include "stores/zandel/zandel_buffers.h"
+#include "stores/zandel/zandel_files.h"
 
 namespace golf {
 namespace {
@@ -24,13 +25,19 @@ LeagueScorePosting::LeagueScorePosting(SharedState& state, RunHost& host, League
               state.Zandel().control.Get<"LeagueHoles">() == 9) {}
 
 bool LeagueScorePosting::Post(std::int32_t place, const LeagueScore& score) {
-  if (score.score <= kNoRound || score.score >= kNoRoundEither) return true;
+  if (score.score <= kNoRound || score.score >= kNoRoundEither) {
+    LeaveOutScore(score, score.score <= 0 ? left_out::kNoScore : left_out::kNoRound);
+    return true;
+  }
   ReadKVHistory(state_, place);
   if (halves_) {
     PostHalf(place, score);
   } else {
     if (IsInHistory(score)) {
-      if (!WantsItAgain(score)) return !WantsToCancel();
+      if (!WantsItAgain(score)) {
+        LeaveOutScore(score, left_out::kNotAgain);
+        return !WantsToCancel();
+      }
       refusals_ = 0;
     }
     PostEntry(place, score);
@@ -101,6 +108,14 @@ void LeagueScorePosting::PostHalf(std::int32_t place, const LeagueScore& score) 
     KeepKVHalf(state_, half);
   }
   WriteKVGolfer(state_, place);
+}
+
+void LeagueScorePosting::LeaveOutScore(const LeagueScore& score, std::string_view reason) {
+  const auto& player = state_.Zandel().player;
+  if (!HasLastName(player)) return;
+  std::string title = LeagueGolferNameLF(player);
+  if (score.score > 0) title += " (" + std::to_string(score.score) + ")";
+  report_.left_out.Add(title, reason);
 }
 
 void LeagueScorePosting::Log(int score) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "core/shared_state.h"
 #include "transfers/league_batch.h"
@@ -34,6 +35,7 @@ class LeagueScorePosting {
   void PostEntry(std::int32_t place, const LeagueScore& score);
   void PostHalf(std::int32_t place, const LeagueScore& score);
   void Log(int score);
+  void LeaveOutScore(const LeagueScore& score, std::string_view reason);
 
   SharedState& state_;
   RunHost& host_;

@@ -1,15 +1,17 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "core/box.h"
+#include "core/left_out.h"
 #include "core/numbered_error.h"
 #include "core/progress.h"
 #include "core/resume_next.h"
+#include "transfers/left_out_reasons.h"
 
 namespace golf {
 
@@ -46,35 +48,72 @@ enum class RunEnd {
   kDone,
 };
 
-// Names a golfer or record that was left out, and the reason.
-struct LeftOutEntry {
-  std::string title;  // such as "Smith, Ann" or "Record 7 of the league's players"
-  std::string reason;
-};
-
 struct RunReport {
   RunEnd end = RunEnd::kRefused;
   std::string log;  // lines that end in CR LF
-  std::vector<LeftOutEntry> left_out;
+  LeftOut left_out;
 };
 
 // Increases a counter by one. Raises error 6 if it would exceed 32767.
 void CountUp(std::int16_t& counter);
 
+// Contains the name of a golfer or of a record in two forms.
+struct Who {
+  std::string title;  // for a list, such as "Smith, Ann"
+  std::string name;   // for a sentence, such as "Ann Smith"
+
+  explicit Who(const std::string& both) : title(both), name(both) {}
+  Who(std::string in_list, std::string in_sentence)
+      : title(std::move(in_list)), name(std::move(in_sentence)) {}
+};
+
+// Returns the reason for an entry that an error has stopped.
+std::string StoppedBy(const NumberedError& error);
+
 // Records that `who` was left out because a record cannot be read. Adds an entry to the report, and
 // reports the fault with the name to the host.
-void LeaveOut(RunHost& host, RunReport& report, const std::string& who, const NumberedError& why);
+void LeaveOut(RunHost& host, RunReport& report, const Who& who, const NumberedError& why);
 
 // Runs a statement that reads. Leaves out `who()` and returns false if the statement raises a
 // ReadError. Passes any other error to the caller.
-template <class Statement, class Who>
-bool ReadOrLeaveOut(RunHost& host, RunReport& report, Statement&& statement, Who&& who) {
+template <class Statement, class WhoFunction>
+bool ReadOrLeaveOut(RunHost& host, RunReport& report, Statement&& statement, WhoFunction&& who) {
   try {
     std::forward<Statement>(statement)();
     return true;
   } catch (const ReadError& error) {
-    LeaveOut(host, report, std::forward<Who>(who)(), error);
+    LeaveOut(host, report, std::forward<WhoFunction>(who)(), error);
     return false;
+  }
+}
+
+// Returns the title of a record that a run did not transfer, or an empty text if the record is not
+// in use. Reads the record, so it may raise a NumberedError.
+using TitleOfRest = std::function<std::string(std::int64_t)>;
+
+// Adds the records `first` to `last` to the report, all for the same reason. If one cannot be read,
+// adds one entry for it and all later ones.
+void LeaveOutRest(RunReport& report, std::int64_t first, std::int64_t last,
+                  const TitleOfRest& title, std::string_view reason = left_out::kNotReached);
+// Adds a record to the report because an error has stopped its transfer.
+void LeaveOutStopped(RunReport& report, std::int64_t record, const NumberedError& error,
+                     const TitleOfRest& title);
+
+// Calls `take` with the numbers 1 to `count` of records in order, until it returns false. Adds the
+// later records to the report then. If `take` raises a NumberedError, also adds the record
+// concerned, and raises the error again.
+template <class Take>
+void TakeInOrder(RunReport& report, std::int64_t count, Take&& take, const TitleOfRest& title) {
+  for (std::int64_t record = 1; record <= count; ++record) {
+    bool goes_on = false;
+    try {
+      goes_on = take(record);
+    } catch (const NumberedError& error) {
+      LeaveOutStopped(report, record, error, title);
+      LeaveOutRest(report, record + 1, count, title);
+      throw;
+    }
+    if (!goes_on) return LeaveOutRest(report, record + 1, count, title);
   }
 }
 

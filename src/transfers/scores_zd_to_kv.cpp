@@ -26,8 +26,8 @@ NumberedError WithName(const NumberedError& error, ErrorNumber number,
                       " cannot be transferred: " + error.description()};
 }
 
-// Posts the scores of the golfers of the open league in a loop. A function that returns false ends
-// the loop, because the operator has cancelled the transfer.
+// Posts the scores of the golfers of the open league in a loop. PostNumber, PostGolfer and
+// PostScores return false if the operator has cancelled the transfer, which ends the loop.
 class ScorePosting {
  public:
   ScorePosting(SharedState& state, RunHost& host, int batch, ScoresZdToKvReport& report)
@@ -39,59 +39,100 @@ class ScorePosting {
         batch_(state, batch, courses_),
         posting_(state, host, report) {}
 
-  bool PostAll() {
+  void PostAll() {
     FileTable& files = state_.files;
-    const auto players = files.RecordCount<LeaguePlayerLayout>(kLeaguePlayerFile);
+    players_ = files.RecordCount<LeaguePlayerLayout>(kLeaguePlayerFile);
     // No golfers are stored beyond the end of the file.
-    const auto last_substitute =
+    last_substitute_ =
         std::min<std::int32_t>(state_.Zandel().control.Get<"LastSubRecord">(),
                                files.RecordCount<LeaguePlayerLayout>(kLeagueSubstituteFile));
-    total_ = players + std::max(last_substitute - kFirstSubstitute + 1, 0);
-    for (std::int32_t record = 1; record <= players; ++record) {
-      if (!PostRecord(kLeaguePlayerFile, "players", record)) return false;
-    }
-    for (std::int32_t record = last_substitute; record >= kFirstSubstitute; --record) {
-      if (!PostRecord(kLeagueSubstituteFile, "substitutes", record)) return false;
-    }
-    return true;
+    total_ = players_ + std::max(last_substitute_ - kFirstSubstitute + 1, 0);
+    TakeInOrder(
+        report_, total_, [this](std::int64_t number) { return PostNumber(number); },
+        [this](std::int64_t number) {
+          Read(number);
+          return IsInBatch() ? LeagueGolferNameLF(Player()) : std::string();
+        });
   }
 
  private:
-  bool PostRecord(int file, const char* whose, std::int32_t record) {
-    auto& player = state_.Zandel().player;
-    ++done_;
+  const Record<LeaguePlayerLayout>& Player() const { return state_.Zandel().player; }
+
+  // Returns the record of a golfer by number. The substitutes follow the players, the last one
+  // first.
+  std::int64_t RecordOf(std::int64_t number) const {
+    return number <= players_ ? number : last_substitute_ - (number - players_ - 1);
+  }
+
+  void Read(std::int64_t number) {
+    const int file = number <= players_ ? kLeaguePlayerFile : kLeagueSubstituteFile;
+    state_.files.Read(file, RecordOf(number), state_.Zandel().player);
+  }
+
+  bool PostNumber(std::int64_t number) {
     const bool read = ReadOrLeaveOut(
-        host_, report_, [&] { state_.files.Read(file, record, player); },
-        [&] { return "Record " + std::to_string(record) + " of the league's " + whose; });
+        host_, report_, [&] { Read(number); },
+        [&] {
+          return Who("Record " + std::to_string(RecordOf(number)) + " of the league's " +
+                     (number <= players_ ? "players" : "substitutes"));
+        });
     if (!read) return true;
-    host_.Report({done_, total_, "SEARCHING for " + player.Get<"FirstName">()});
-    host_.Group(LeagueGolferName(player));
-    return player.Get<"GolferID">() <= 0 || PostGolfer(player);
+    host_.Report({number, total_, "SEARCHING for " + Player().Get<"FirstName">()});
+    host_.Group(LeagueGolferName(Player()));
+    if (Player().Get<"GolferID">() > 0) return PostGolfer(Player());
+    if (IsInBatch()) LeaveOutGolfer(left_out::kNoIdNumber);
+    return true;
+  }
+
+  // Returns true if the record contains a golfer with a score in the batch, or a player of its
+  // event.
+  bool IsInBatch() const { return HasLastName(Player()) && !batch_.StrokesOfGolfer().empty(); }
+
+  void LeaveOutGolfer(std::string_view reason) {
+    report_.left_out.Add(LeagueGolferNameLF(Player()), reason);
   }
 
   // Posts the player's scores to all golfers of the roster with the player's ID.
   bool PostGolfer(const Record<LeaguePlayerLayout>& player) {
-    const auto name = [&] { return LeagueGolferName(player); };
+    const auto who = [&] { return Who(LeagueGolferNameLF(player), LeagueGolferName(player)); };
     std::vector<std::int32_t> places;
-    ReadOrLeaveOut(
-        host_, report_, [&] { places = golfers_.PlacesOf(player.Get<"GolferID">()); }, name);
+    const bool searched = ReadOrLeaveOut(
+        host_, report_, [&] { places = golfers_.PlacesOf(player.Get<"GolferID">()); }, who);
+    if (searched && places.empty()) LeaveOutUnknown();
     bool goes_on = true;
     const auto post = [&](std::int32_t place) {
       state_.files.Read(kKelvaneGolferFile, place, state_.Kelvane().golfer);
       goes_on = PostScores(place);
     };
-    for (auto place = places.begin(); goes_on && place != places.end(); ++place) {
+    auto place = places.begin();
+    for (; goes_on && place != places.end(); ++place) {
       ReadOrLeaveOut(
-          host_, report_, [&] { post(*place); }, name);
+          host_, report_, [&] { post(*place); }, who);
     }
+    if (!goes_on && place != places.end()) LeaveOutGolfer(left_out::kNotReached);
     return goes_on;
+  }
+
+  // Leaves out a golfer whom the roster does not have. A golfer without a score is left out for
+  // that reason.
+  void LeaveOutUnknown() {
+    if (!IsInBatch()) return;
+    const std::vector<int> strokes = batch_.StrokesOfGolfer();
+    const bool has_score =
+        std::any_of(strokes.begin(), strokes.end(), [](int score) { return score > 0; });
+    LeaveOutGolfer(has_score ? left_out::kNotInRoster : left_out::kNoScore);
   }
 
   bool PostScores(std::int32_t place) {
     try {
       const std::vector<LeagueScore> scores = batch_.ScoresOfGolfer();
-      return std::all_of(scores.begin(), scores.end(),
-                         [&](const LeagueScore& score) { return posting_.Post(place, score); });
+      if (scores.empty() && IsInBatch()) LeaveOutGolfer(left_out::kNoTeam);
+      const auto last =
+          std::find_if_not(scores.begin(), scores.end(),
+                           [&](const LeagueScore& score) { return posting_.Post(place, score); });
+      if (last == scores.end()) return true;
+      if (last + 1 != scores.end()) LeaveOutGolfer(left_out::kNotReached);
+      return false;
     } catch (const NumberedError& error) {
       for (const ErrorNumber number : {ErrorNumber::kOverflow, ErrorNumber::kSubscript}) {
         if (error.Is(number)) throw WithName(error, number, state_.Zandel().player);
@@ -107,7 +148,8 @@ class ScorePosting {
   LeagueCourseMatch courses_;
   LeagueBatch batch_;
   LeagueScorePosting posting_;
-  std::int64_t done_ = 0;
+  std::int32_t players_ = 0;
+  std::int32_t last_substitute_ = 0;
   std::int64_t total_ = 0;
 };
 

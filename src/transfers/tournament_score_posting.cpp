@@ -31,7 +31,7 @@ TournamentScorePosting::TournamentScorePosting(SharedState& state, RunHost& host
 void TournamentScorePosting::Take(std::int32_t record) {
   if (!IsRead(record)) return;
   bool wanted = false;
-  next_([&] { wanted = IsToBePosted(); });
+  NextOrLeaveOut([&] { wanted = IsToBePosted(); });
   if (!wanted || !IsPosted()) return;
   next_([&] {
     state_.Player().SetTourScoreTransferredtoKV(choice_.round, true);
@@ -44,7 +44,7 @@ bool TournamentScorePosting::IsRead(std::int32_t record) {
   PlayerClass& player = state_.Player();
   name_ = "Entry " + std::to_string(record) + " of the tournament";
   bool exists = false;
-  next_([&] { exists = player.GetRecord(record, true) && player.TourPlayerExists(); });
+  NextOrLeaveOut([&] { exists = player.GetRecord(record, true) && player.TourPlayerExists(); });
   if (exists) name_ = player.NameLF();
   host_.Group(name_);
   return exists;
@@ -54,7 +54,7 @@ bool TournamentScorePosting::IsRead(std::int32_t record) {
 bool TournamentScorePosting::IsPosted() {
   next_([&] { CountUp(report_.transferred); });
   BlankKVScore(state_);
-  return next_([&] {
+  return NextOrLeaveOut([&] {
     try {
       if (!choice_.join_nines) FillEntry();
       choice_.join_nines ? PostHalf() : PostEntry();
@@ -65,9 +65,26 @@ bool TournamentScorePosting::IsPosted() {
   });
 }
 
+void TournamentScorePosting::LeaveOutEntry(std::string_view reason) {
+  report_.left_out.Add(name_, reason);
+}
+
+bool TournamentScorePosting::NextOrLeaveOut(const std::function<void()>& statement) {
+  return next_([&] {
+    try {
+      statement();
+    } catch (const ReadError&) {
+      throw;  // NoteFault leaves out the player
+    } catch (const NumberedError& error) {
+      LeaveOutEntry(StoppedBy(error));
+      throw;
+    }
+  });
+}
+
 void TournamentScorePosting::NoteFault(const NumberedError& fault) {
   if (dynamic_cast<const ReadError*>(&fault) != nullptr) {
-    LeaveOut(host_, report_, name_, fault);
+    LeaveOut(host_, report_, Who(name_), fault);
   } else {
     host_.NoteFault(fault);
   }
@@ -79,19 +96,24 @@ bool TournamentScorePosting::IsToBePosted() {
     CountUp(report_.already);
     return false;
   }
-  if (!IsComplete()) {
+  const std::string_view missing = MissingScore();
+  if (!missing.empty()) {
     Log(" (Round" + NumberText(choice_.round) + " not complete)");
+    LeaveOutEntry(missing);
     CountUp(report_.to_transfer);
     return false;
   }
   place_ = golfers_.Find(std::max(state_.Player().StoredID(), 0));
   if (place_ == 0) {
     Log(" (No ID# match found)");
+    LeaveOutEntry(left_out::kNotInRoster);
     CountUp(report_.to_transfer);
     CountUp(report_.not_found);
     return false;
   }
-  return AdjustedScore() > 0;
+  if (AdjustedScore() > 0) return true;
+  LeaveOutEntry(left_out::kNoScore);
+  return false;
 }
 
 // Returns true for a score that was not transferred before. Asks the operator about any other
@@ -99,7 +121,10 @@ bool TournamentScorePosting::IsToBePosted() {
 bool TournamentScorePosting::IsWantedAgain() {
   PlayerClass& player = state_.Player();
   if (!player.TourScoreTransferredtoKV(choice_.round)) return true;
-  if (golfers_.Find(std::max(player.StoredID(), 0)) == 0) return false;
+  if (golfers_.Find(std::max(player.StoredID(), 0)) == 0) {
+    LeaveOutEntry(left_out::kTransferred);
+    return false;
+  }
   const Box box{.title = "Transfer again?",
                 .text = "The score for '" + player.NameLF() + "' (round #" +
                         std::to_string(choice_.round) +
@@ -107,19 +132,26 @@ bool TournamentScorePosting::IsWantedAgain() {
                 .icon = BoxIcon::kQuestion,
                 .buttons = {BoxButton::kYes, BoxButton::kNo},
                 .default_button = 1};
-  return host_.Ask(box) == BoxButton::kYes;
+  if (host_.Ask(box) == BoxButton::kYes) return true;
+  LeaveOutEntry(left_out::kNotAgain);
+  return false;
 }
 
-bool TournamentScorePosting::IsComplete() {
+std::string_view TournamentScorePosting::MissingScore() {
   TournamentClass& tournament = state_.Tournament();
   if (tournament.ScoreEntryTotal() != 0) {  // totals without hole scores give no points
-    return AdjustedScore() > kHighestNoScore && !choice_.points;
+    const double score = AdjustedScore();
+    if (score <= 0) return left_out::kNoScore;
+    if (score <= kHighestNoScore) return left_out::kIncomplete;
+    return choice_.points ? left_out::kNoHoleScores : std::string_view();
   }
   const int holes = tournament.RoundType();
+  int played = 0;
   for (int hole = 1; hole <= holes; ++hole) {
-    if (state_.Player().TourScoreGrossValue(hole, choice_.round) <= 0) return false;
+    if (state_.Player().TourScoreGrossValue(hole, choice_.round) > 0) ++played;
   }
-  return true;
+  if (played >= holes) return {};
+  return played == 0 ? left_out::kNoScore : left_out::kIncomplete;
 }
 
 double TournamentScorePosting::AdjustedScore() {

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "core/resume_next.h"
 #include "core/shared_state.h"
@@ -47,9 +49,14 @@ class TournamentScorePosting {
   bool IsToBePosted();
   bool IsPosted();
   bool IsWantedAgain();
-  bool IsComplete();
+  // Returns the reason why the round has no score to be posted, or an empty text if it has one.
+  std::string_view MissingScore();
   double AdjustedScore();
   void Log(const std::string& reason);
+  void LeaveOutEntry(std::string_view reason);
+  // Runs a statement without which the score is not posted. If it fails, leaves out the player and
+  // returns false.
+  bool NextOrLeaveOut(const std::function<void()>& statement);
   void NoteFault(const NumberedError& fault);
 
   void FillEntry();

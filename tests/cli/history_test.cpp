@@ -230,6 +230,51 @@ TEST_F(HistoryTest, ChangesHaveTheFormOfADump) {
       << text;
 }
 
+// The section is the last one of the output. The log and the stored report contain it, too.
+TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
+  const std::string zeros(4, '\0');
+  const struct {
+    std::string words;
+    const char* file;  // gets these bytes before
+    std::size_t at;
+    std::string bytes;
+    const char* section;
+  } kCases[] = {
+      {"golfers-kv-to-qb --roster CLUB18 --to 1 --marked-only", "kvdata/CLUB18.kvg", 0, zeros,
+       "Left out: 5\n  5 not marked to print\n    Duarte, Ines\n    Farrow, Ruth\n"
+       "    H\xC3\xB6lzer, Lena\n    Jarvis, Peg\n    Lindqvist, Nora\n"},
+      {kTransfers[2], "kvdata/CLUB18.kvg", 4, zeros,
+       "Left out: 4\n  1 without an ID number\n    Bergstrom, Anna\n"
+       "  3 not in this league\n    Calder, Tom\n    Duarte, Ines\n    Eames, Walt\n"},
+      {kTransfers[5], "zddata/00021.ZP8", 972, zeros,
+       "Left out: 1\n  1 without a score\n    Farrow, Ruth\n"},
+  };
+  for (const auto& c : kCases) {
+    SCOPED_TRACE(c.section);
+    std::filesystem::remove_all(folder.Path("i"));
+    ASSERT_EQ(Run("demo i").code, 0);
+    std::string bytes = folder.Read(std::string("i/") + c.file);
+    Write(c.file, bytes.replace(c.at, c.bytes.size(), c.bytes));
+    EXPECT_TRUE(In(c.words + " --dry-run").out.ends_with(c.section));
+    EXPECT_TRUE(In(c.words + " --log log").out.ends_with(c.section));
+    for (const std::string& text : {folder.Read("log"), In("history show 1").out}) {
+      EXPECT_NE(text.find(c.section), std::string::npos) << text;
+    }
+  }
+  // The score was not posted, and the others are posted already.
+  const json left_out = JsonLines(In(std::string(kTransfers[5]) + " --json").out).back()["leftOut"];
+  ASSERT_EQ(left_out.size(), 9u);
+  EXPECT_EQ(left_out[0], json::parse(R"({"title":"Farrow, Ruth","reason":"without a score"})"));
+  EXPECT_EQ(left_out[1]["title"], "Grimaldi, Hugo (89)");
+  EXPECT_EQ(left_out[1]["reason"], "already transferred, and not transferred again");
+  EXPECT_EQ(JsonLines(In("courses-kv-to-qb --json").out).back()["leftOut"], json::array());
+  EXPECT_EQ(In("courses-kv-to-qb").out.find("Left out"), std::string::npos);
+  // A second update of the tournament changes nothing.
+  Transfer(kGolfersKvToQb);
+  EXPECT_NE(In(kGolfersKvToQb).out.find("with the same handicap and index already\n    Bergstrom"),
+            std::string::npos);
+}
+
 // Another program changes a byte of what a run has written, in each kind of file.
 TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
   const struct {

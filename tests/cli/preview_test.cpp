@@ -19,6 +19,10 @@ class PreviewTest : public CommandLineTest {
     });
     return files;
   }
+  // Data contain moments.
+  Ended Script(const std::string& lines) {
+    return Run("--install i --now \"2026-05-13 12:00:00\" script -", lines);
+  }
   void Restore(const Tree& files) {
     for (const auto& [name, bytes] : AllFiles()) folder.Remove("i/" + name);
     for (const auto& [name, bytes] : files) folder.Write("i/" + name, bytes);
@@ -46,7 +50,7 @@ const PreviewCase kCases[] = {
      "10 golfers changed, 2 added in Quenby; 12 tournament entries changed in Quenby; 2 files"},
     {"open ZDtoQB\nset LeagueRoster \"Larkfield 00011\"\n"
      "set TournamentRoster \"Larkfield Members 001\"\n",
-     "TransferButton", "6 golfers added in Quenby; 1 file"}};
+     "TransferButton", "6 golfers added in Quenby; 1 file; 2 left out"}};
 
 TEST_F(PreviewTest, TransferNowDoesWhatTheTransferDoesAndCloseDoesNothing) {
   const Tree pristine = AllFiles();

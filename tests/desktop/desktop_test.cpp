@@ -16,6 +16,7 @@
 #include "screens/courses/course_tee.h"
 #include "screens/rosters/load_roster.h"
 #include "screens/transfers/kv_to_qb.h"
+#include "screens/transfers/screen_run.h"
 #include "stores/course/course_layout.h"
 #include "support/bytes.h"
 #include "support/error_of.h"
@@ -293,11 +294,141 @@ TEST_F(DesktopTest, TransfersGolfers) {
   user.Answer("Faults",
               "The transfer has carried on over a fault:\nThe golfer at place 1 was left out: " +
                   state().KVDataPath + "CLUB.kvg failed on purpose.");
+  user.Answer("Left out",
+              "The transfer has left out:\n1 stopped by an error: " + state().KVDataPath +
+                  "CLUB.kvg failed on purpose.\n    The golfer at place 1");
   user.Press("ExitButton");
   user.RunProgram();
   const std::string quenby = install.folder.Read("qbdata/QBGOLFER.Q9D");
   ASSERT_EQ(quenby.size(), 10 * 1867u);
   EXPECT_EQ(quenby[9 * 1867 + 424], 'C');
+}
+
+// Transfers the courses from the list of a preview, undoes the transfer, and looks at both runs.
+TEST_F(DesktopTest, PreviewsATransferAndUndoesIt) {
+  const auto choose = [&](std::size_t entry, const std::string& caption) {
+    user.When(
+        "the menu", [] { return Operator::Find("ExitButton") != nullptr; },
+        [entry, caption] {
+          auto& frame = dynamic_cast<wxFrame&>(WindowOf("ExitButton"));
+          wxMenu& history = *frame.GetMenuBar()->GetMenu(1);
+          wxMenuEvent opened(wxEVT_MENU_OPEN, 0, &history);
+          frame.HandleWindowEvent(opened);
+          const wxMenuItem& item = *history.FindItemByPosition(entry);
+          EXPECT_EQ(item.GetItemLabel().utf8_string(), caption);
+          EXPECT_EQ(item.IsEnabled(), !caption.ends_with("transfer..."));
+          frame.CallAfter([&frame, id = item.GetId()] { frame.ProcessCommand(id); });
+        });
+  };
+  const auto await_titles = [&](const std::string& first, const std::string& last) {
+    user.Await("the list from " + first + " to " + last, [first, last] {
+      const auto* grid = dynamic_cast<wxGrid*>(Operator::Find("ChangeList"));
+      return grid != nullptr && grid->GetCellValue(0, 0).utf8_string() == first &&
+             grid->GetCellValue(grid->GetNumberRows() - 1, 0).utf8_string() == last;
+    });
+  };
+  host.clock = [] { return DateFromCivil({2026, 5, 12, 14, 32, 0}); };
+  choose(0, "&Undo last transfer...");
+  user.Press("KVCoursestoQBButton");
+  user.Press("PreviewButton");
+  await_titles("qbdata/qbcrs.dat", "Pe\u00F1on");
+  user.Next([] {
+    EXPECT_EQ(Operator::Find("ChangeList")->GetParent()->GetParent()->GetLabel(),
+              "What would change");
+    bool marked = false;
+    for (const wxWindow* window : wxTopLevelWindows) {
+      if (window->GetLabel() == "Preview - Transfer COURSES from Kelvane to Quenby") marked = true;
+    }
+    EXPECT_TRUE(marked);
+  });
+  user.PressHeading("ChangeList", 0);
+  await_titles("Dunes & West", "qbdata/qbcrs.dat");
+  user.PressHeading("ChangeList", 0);
+  await_titles("qbdata/qbcrs.dat", "Dunes & West");
+  user.Next([&] { EXPECT_FALSE(install.folder.Exists("qbdata/qbcrs.dat")); });
+  user.Press("TransferNowButton");
+  ExpectThreeCourses();
+  user.Next([&] { EXPECT_TRUE(install.folder.Exists("qbdata/qbcrs.dat")); });
+  choose(0,
+         "&Undo last transfer (courses to QB, today 14:32, 3 courses added in Quenby; 4 files (4 "
+         "created))...");
+  user.Answer("Undo",
+              "Undo this transfer?\n\ncourses to QB, today 14:32\n\n\nIt would change: 4 files "
+              "(4 deleted)",
+              'Y', wxMOD_ALT);
+  user.Answer("Undo", "courses to QB, today 14:32: undone.");
+  user.Next([&] { EXPECT_FALSE(install.folder.Exists("qbdata/qbcrs.dat")); });
+  choose(1, "&Transfers...");
+  user.When(
+      "the runs", [] { return Operator::Find("RunList") != nullptr; },
+      [] { EXPECT_EQ(dynamic_cast<wxGrid&>(*Operator::Find("RunList")).GetNumberRows(), 2); });
+  user.Type("RunList", WXK_ESCAPE);
+  user.Await("the menu", [&] { return !host.IsShown("TransferHistory"); });
+  user.Press("ExitButton");
+  user.RunProgram();
+}
+
+// A question that comes for the third time in a run offers the same answer for the rest of the run,
+// and a stop that drops the changes.
+TEST_F(DesktopTest, RepeatedQuestionsCanBeAnsweredAtOnceOrStopTheRun) {
+  std::string answers;
+  const auto run = [&](bool tip) {
+    user.Do([&, tip] {
+      host.Operate([&] {
+        RunTransfer(host.Load("TransferMenu"), state(), host, RunEnding::kCommit, [&] {
+          ScreenRun asking(state(), host, {}, {.command = "golfers-kv-to-qb", .about = "Club"});
+          state().files.DeleteFile(state().KVDataPath + "kvcrs.dat");
+          for (int i = 1; i <= 5; ++i) {
+            const std::string text = "Golfer " + std::to_string(i);
+            const Box box{.title = "Again?",
+                          .text = text,
+                          .buttons = {BoxButton::kYes, BoxButton::kNo},
+                          .default_button = 1};
+            const bool yes =
+                tip ? asking.AskAgain("Again?", text, "") : asking.Ask(box) == BoxButton::kYes;
+            answers += yes ? 'Y' : 'N';
+          }
+          asking.Commit({}, nullptr);
+        });
+      });
+      answers += '.';
+    });
+  };
+  for (const bool tip : {false, true}) {
+    for (const bool stops : {true, false}) {
+      run(tip);
+      for (const char* text : {"Golfer 1", "Golfer 2"}) {
+        if (tip) {
+          user.Await(text, [text] {
+            const auto* message = dynamic_cast<wxTextCtrl*>(Operator::Find("Message"));
+            return message != nullptr && message->GetValue() == text;
+          });
+          user.Press("YesButton");
+        } else {
+          user.Answer("Again?", text, 'Y', wxMOD_ALT);
+        }
+      }
+      user.PressInBox("Again?", "Golfer 3",
+                      stops ? "&Stop: nothing will have been changed"
+                            : "Same &answer for the rest of this run");
+      if (stops) {
+        user.AwaitEndOfBox("Again?");
+        user.Answer("Golf Transfer", "The transfer was stopped. Nothing has been changed.");
+        user.Await("the end of the run", [&] { return answers.ends_with("YY."); });
+        user.Next([&] { EXPECT_TRUE(install.folder.Exists("kvdata/kvcrs.dat")); });
+      } else {
+        user.Answer("Again?", "Golfer 3", 'N', wxMOD_ALT);
+      }
+    }
+    user.Await("the end of the run", [&] { return answers.ends_with("YYNNN."); });
+    user.Next([&] {
+      EXPECT_FALSE(install.folder.Exists("kvdata/kvcrs.dat"));
+      install.folder.Write("kvdata/kvcrs.dat", "");
+    });
+  }
+  user.Press("ExitButton");
+  user.RunProgram();
+  EXPECT_EQ(answers, "YY.YYNNN.YY.YYNNN.");
 }
 
 template <class Event>

@@ -102,16 +102,52 @@ void Operator::PressCell(const std::string& name, int row, int column) {
       [this] { Click(); });
 }
 
-void Operator::Answer(const std::string& title, const std::string& text, int key) {
+void Operator::PressHeading(const std::string& name, int column) {
+  When(
+      "press a heading of " + name,
+      [this, name, column] {
+        auto* grid = dynamic_cast<wxGrid*>(Find(name));
+        if (grid == nullptr) return false;
+        wxWindow* headings = grid->GetGridColLabelWindow();
+        const wxRect cell = grid->CellToRect(0, column);
+        return PointAt(headings, {cell.x, 0, cell.width, headings->GetSize().y});
+      },
+      [this] { Click(); });
+}
+
+void Operator::CheckBox(const std::string& title, const std::string& text) {
+  const auto& box = dynamic_cast<wxMessageDialogBase&>(*dialogs_.back());
+  EXPECT_EQ(box.GetTitle().utf8_string(), title);
+  EXPECT_EQ(box.GetMessage().utf8_string(), text);
+  answered_ = opened_;
+}
+
+void Operator::AwaitEndOfBox(const std::string& title) {
+  Await("end of box " + title, [this] { return !SeesBox() || opened_ != answered_; });
+}
+
+void Operator::PressInBox(const std::string& title, const std::string& text,
+                          const std::string& label) {
+  When(
+      "press " + label,
+      [this, label] {
+        wxWindow* part = SeesBox() ? wxWindow::FindWindowByLabel(label, dialogs_.back()) : nullptr;
+        return part != nullptr && PointAt(part, part->GetSize());
+      },
+      [=, this] {
+        CheckBox(title, text);
+        Click();
+      });
+}
+
+void Operator::Answer(const std::string& title, const std::string& text, int key, int modifiers) {
   When(
       "box " + title, [this] { return SeesBox(); },
       [=, this] {
-        const auto& box = dynamic_cast<wxMessageDialog&>(*dialogs_.back());
-        EXPECT_EQ(box.GetTitle().utf8_string(), title);
-        EXPECT_EQ(box.GetMessage().utf8_string(), text);
-        TypeNow(key);
+        CheckBox(title, text);
+        TypeNow(key, modifiers);
       });
-  Await("end of box " + title, [this] { return !SeesBox(); });
+  AwaitEndOfBox(title);
 }
 
 void Operator::AnswerInput(const std::string& title, const std::string& before,
@@ -185,7 +221,9 @@ void Operator::Notify() {
 int Operator::Enter(wxDialog* dialog) {
   EXPECT_FALSE(in_input_) << "a key or the focus opens " << dialog->GetTitle();
   watching_ = false;
-  const bool box = dynamic_cast<wxMessageDialog*>(dialog) != nullptr || EntryOf(dialog) != nullptr;
+  ++opened_;
+  const bool box =
+      dynamic_cast<wxMessageDialogBase*>(dialog) != nullptr || EntryOf(dialog) != nullptr;
   dialogs_.push_back(box ? dialog : nullptr);
   return wxID_NONE;
 }

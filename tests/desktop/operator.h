@@ -43,8 +43,15 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
   void Press(const std::string& name);
   // Clicks a cell of a grid when it is visible and enabled.
   void PressCell(const std::string& name, int row, int column);
+  // Waits for a message box, checks its title and text, and clicks the part with this label.
+  void PressInBox(const std::string& title, const std::string& text, const std::string& label);
+  // Waits until the box of the last step is closed. Another box may be open then.
+  void AwaitEndOfBox(const std::string& title);
+  // Clicks the heading of a column.
+  void PressHeading(const std::string& name, int column);
   // Waits for a message box, checks its title and text, and answers it with a key.
-  void Answer(const std::string& title, const std::string& text, int key = WXK_RETURN);
+  void Answer(const std::string& title, const std::string& text, int key = WXK_RETURN,
+              int modifiers = wxMOD_NONE);
   // Waits for an input box, checks its title and its proposed answer, and types another answer.
   // Checks that it has replaced the proposed one, and presses Enter.
   void AnswerInput(const std::string& title, const std::string& before, const std::string& typed);
@@ -55,7 +62,7 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
 
   // These act at once, without a condition.
   void ClickNow(const std::string& name);
-  void TypeNow(int key) { simulator_.Char(key); }
+  void TypeNow(int key, int modifiers = wxMOD_NONE) { simulator_.Char(key, modifiers); }
 
   // Runs the program until it ends. All steps must have been executed by then.
   void RunProgram();
@@ -79,10 +86,13 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
   bool PointAt(wxWindow* widget, const wxRect& place);
   void MoveTo(const wxWindow& widget, const wxRect& place);
   void Click();
+  void CheckBox(const std::string& title, const std::string& text);
   bool SeesBox() const { return !dialogs_.empty() && dialogs_.back() != nullptr; }
 
   std::deque<Step> steps_;
   std::vector<wxDialog*> dialogs_;
+  int opened_ = 0;                    // the number of dialogs so far
+  int answered_ = 0;                  // the last one of them that was answered
   const wxWindow* target_ = nullptr;  // the widget that the pointer must reach
   bool felt_ = false;
   int nudge_ = 0;

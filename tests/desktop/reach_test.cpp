@@ -88,6 +88,7 @@ std::vector<Deed> DeedsOf(wxWindow& widget) {
   };
   add_cell("row", wxEVT_GRID_SELECT_CELL, 1, 0);
   add_cell("double click", wxEVT_GRID_CELL_LEFT_DCLICK, 0, 0);
+  add_cell("heading", wxEVT_GRID_LABEL_LEFT_CLICK, -1, 0);
   deeds.push_back({"text", [grid] { grid->GetTable()->SetValue(0, 0, "typed"); }});
   for (int column = 0; column < grid->GetNumberCols(); ++column) {
     if (grid->GetTable()->GetTypeName(1, column) != wxGRID_VALUE_BOOL) continue;
@@ -144,6 +145,7 @@ class CountingScreen {
       Tie(grid->on_row_change);
       Tie(grid->on_double_click);
       Tie(grid->on_change);
+      Tie(grid->on_heading_click);
       grid->SetRows(std::max(grid->rows(), 2));
     }
   }

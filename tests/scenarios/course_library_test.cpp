@@ -332,8 +332,7 @@ TEST_F(CourseLibraryTest, ANumberWithoutRoomLeavesTheRecordAndTheEntriesAsTheyAr
 
 TEST_F(CourseLibraryTest, ASiblingsOwnLibraryIsOpenedOnRequestUnlessItIsHeld) {
   install.folder.Write("kvdata/kvcrs.dat", Course("Dunes"));
-  std::vector<Tool> tools = Tools();
-  std::erase_if(tools, [&](const Tool& tool) { return !tool.is_there(install.state()); });
+  const std::vector<MenuEntry> tools = Tools(install.state());
   ASSERT_EQ(tools.size(), 3u);  // and the two tools for teams
   EXPECT_EQ(tools[0].caption, "Course library of &Kelvane...");
   const auto open = [&] { host().Operate([&] { tools[0].open(install.state(), host()); }); };

@@ -169,6 +169,16 @@ TEST(CourseTransferTest, AFaultLosesNothing) {
   EXPECT_TRUE(Holds(install.folder, "qbdata/qbcrs.dat", Expected(kelvane, quenby, "").library));
 }
 
+TEST(CourseTransferTest, CoursesAfterAnErrorAreLeftOut) {
+  TestInstall install;
+  install.folder.Write("kvdata/kvcrs.dat",
+                       Course("One") + Course("Two") + Course("Gone", 0) + Course("Three"));
+  install.platform->Fail({.nth = 2, .only = Operation::kRead, .name = "kvcrs.dat"});
+  EXPECT_EQ(ClickErrorOf([&] { RunTransfer(install); }), 57);
+  EXPECT_EQ(LeftOutLines(install),
+            "Two: stopped by an error\nThree: not reached before the run ended\n");
+}
+
 TEST(CourseTransferTest, ASecondProcessInTheInstallIsRefusedUntouched) {
   TestInstall install;
   install.folder.Write("kvdata/kvcrs.dat", Course("One"));

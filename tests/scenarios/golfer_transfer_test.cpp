@@ -286,6 +286,8 @@ TEST_F(FewGolfersTest, AReadThatAlwaysFailsLeavesOutByName) {
   EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", quenby));
   ASSERT_EQ(install.host->faults().size(), 3u);
   EXPECT_TRUE(install.host->faults()[0].description().starts_with("Ann New was left out: Record "));
+  EXPECT_TRUE(LeftOutLines(install).starts_with("New, Ann: stopped by an error\n"));
+  EXPECT_EQ(install.host->left_out().Count(), 3u);
 }
 
 TEST_F(GolferTransferTest, RefusalsAndHeldFiles) {

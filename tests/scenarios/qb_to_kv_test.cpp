@@ -264,6 +264,11 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
             "3 Scores TO transfer.\r\n2 Scores already transferred.\r\n3 Scores transferred.\r\n"
             "Player 4, A (Round 2 not complete)\r\nPlayer 5, A (No ID# match found)\r\n"
             "Player 9, A (No ID# match found)\r\n");
+  EXPECT_EQ(LeftOutLines(install),
+            "Player 4, A: without a complete round\nPlayer 5, A: not in this roster\n"
+            "Player 9, A: not in this roster\n"
+            "Player 7, A: already transferred, and not transferred again\n"
+            "Player 8, A: already transferred\n");
   EXPECT_EQ(captions, "Transfer round #1 scores, Transfer round #2 scores");
   EXPECT_TRUE(
       Told(install,
@@ -279,6 +284,16 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
       report.substr(0, 80),
       "3 Scores TO transfer.\r\n4 Scores already transferred.\r\n1 Scores transferred.\r\nPla");
   EXPECT_EQ(install.folder.Read("qbdata/QBtoKV.DAT").substr(0, 18), "\"NO\"\r\n\"CLUB\"\r\n0\r\n0");
+}
+
+TEST_F(QbToKvTest, ScoresThatAreMissingAreLeftOut) {
+  Prepare({.points = true, .by_total = true},
+          {{.id = 11, .adjusted = 80}, {.id = 11}, {.id = 11, .adjusted = 20}});
+  Run({.points = true, .by_total = true});
+  ExpectFiles({});
+  EXPECT_EQ(LeftOutLines(install),
+            "Player 1, A: without hole scores, so without points\nPlayer 2, A: without a score\n"
+            "Player 3, A: without a complete round\n");
 }
 
 TEST_F(QbToKvTest, Refusals) {

@@ -228,12 +228,27 @@ TEST_F(ZDtoKVTest, FilesAndLogByteForByte) {
   }
 }
 
+TEST_F(ZDtoKVTest, WhoIsLeftOut) {
+  Prepare(18, 18);
+  Run(kEvent2);
+  EXPECT_EQ(LeftOutLines(install),
+            "Z, Ann (20): with a score that is not between 21 and 199\n"
+            "Z, Ann (200): with a score that is not between 21 and 199\n"
+            "Z, Ann: without an ID number\n"
+            "Z, Ann: without a team in this event\n"
+            "Z, Ann: without a team in this event\n"
+            "Z, Ann: without a team in this event\n"
+            "Z, Ann: not in this roster\n"
+            "Z, Ann (86): already transferred, and not transferred again\n");
+}
+
 TEST_F(ZDtoKVTest, ASecondRunAsksFirst) {
   const struct {
     std::vector<const char*> answers;
     const char* cancel;
-    std::size_t asked, asked_to_cancel, posted;
-  } kCases[] = {{{}, "Yes", 3, 1, 0}, {{"NO", "NO", "YES", "NO", "NO", "NO"}, "No", 6, 1, 1}};
+    std::size_t asked, asked_to_cancel, posted, left_out;
+  } kCases[] = {{{}, "Yes", 3, 1, 0, 3 + 10},
+                {{"NO", "NO", "YES", "NO", "NO", "NO"}, "No", 6, 1, 1, 5 + 7}};
   for (const auto& c : kCases) {
     Prepare(18, 18);
     Run(kEvent2);
@@ -243,6 +258,7 @@ TEST_F(ZDtoKVTest, ASecondRunAsksFirst) {
     Run(kEvent2);
     EXPECT_EQ(Asked("Re-transfer score?"), c.asked);
     EXPECT_EQ(Asked("Cancel Transfer?"), c.asked_to_cancel);
+    EXPECT_EQ(install.host->left_out().Count(), c.left_out);
     std::vector<Posted> posted = Cases()[0].posted;
     if (c.posted == 1) posted.push_back(posted[2]);
     ExpectRoster(After(posted));

@@ -238,6 +238,38 @@ TEST(ZDtoQBTest, ADiskErrorIsTriedAgainOrGivenUp) {
   }
 }
 
+TEST(ZDtoQBTest, WhoIsLeftOut) {
+  const std::string players = LeaguePlayer(1, "Al", "Able") + LeaguePlayer(2, "New", "Guest") +
+                              LeaguePlayer(3, "First", " ") + LeaguePlayer(0, "gone", " ") +
+                              LeaguePlayer(5, "B", "Be");
+  const std::string substitutes = players + LeaguePlayer(6, "Sub", "One") + LeaguePlayer(7, "", "");
+  const Case kCases[] = {
+      {.what = "First: without a last name\n"
+               "One, Sub: among the substitutes, who were not asked for\n",
+       .golfers = "",
+       .players = players,
+       .substitutes = substitutes,
+       .factor = 5,
+       .with_substitutes = false},
+      {.what =
+           "Guest, New: stopped by an error\n"
+           "Be, B: not reached before the run ended\nOne, Sub: not reached before the run ended\n",
+       .golfers = "",
+       .players = players,
+       .substitutes = substitutes,
+       .factor = 5}};
+  for (const Case& c : kCases) {
+    TestInstall install;
+    WriteInstall(install, c);
+    if (c.with_substitutes) {
+      install.platform->Fail({.nth = 2, .only = Operation::kRead, .name = "00011.ZP8"});
+      install.host->QueueAnswer("Message", "Cancel");
+    }
+    Transfer(install);
+    EXPECT_EQ(LeftOutLines(install), c.what);
+  }
+}
+
 TEST(ZDtoQBTest, AReadFaultThatIsNotTriedAgainLeavesTheRestToTheNextRun) {
   TestInstall install;
   WriteInstall(install, DifferentNames());

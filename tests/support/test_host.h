@@ -105,6 +105,15 @@ class TestInstall {
   std::unique_ptr<Platform> real_ = MakePlatform(folder.Path());
 };
 
+// Returns what the runs have left out, a line for each, without the descriptions of errors.
+inline std::string LeftOutLines(const TestInstall& install) {
+  std::string lines;
+  install.host->left_out().ForEach([&lines](std::string_view title, std::string_view reason) {
+    lines.append(title).append(": ").append(reason.substr(0, reason.find(": "))).append("\n");
+  });
+  return lines;
+}
+
 // True if an event came, as RecordingListener records it, or one with this beginning.
 inline bool ToldBeginning(const TestInstall& install, const std::string& beginning) {
   const auto& events = install.listener.events;

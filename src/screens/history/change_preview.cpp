@@ -86,32 +86,34 @@ bool ChangePreview::Show(ChangeListUse use, ChangeTable table, const std::string
   CountsLabel.SetCaption(std::move(table.counts));
   NoteLabel.SetCaption(note);
   NoteLabel.SetVisible(!note.empty());
-  rows_ = std::move(table.rows);
+  lines_.clear();
+  for (ChangeRow& row : table.rows) {
+    std::string searched =
+        UpperCase(row.title + '\n' + row.field + '\n' + row.before + '\n' + row.after);
+    lines_.push_back({std::move(row), std::move(searched)});
+  }
   FillList();
   host().ShowModal(*this);
   return goes_on_;
 }
 
-bool ChangePreview::IsWanted(const ChangeRow& row) const {
+// `wanted` is in capitals.
+bool ChangePreview::IsWanted(const Line& line, const std::string& wanted) const {
   const auto& kind = kFilters[std::max(KindList.index(), 0)].kind;
-  if (kind && row.kind != *kind) return false;
-  const std::string wanted = UpperCase(FilterBox.text());
-  if (wanted.empty()) return true;
-  for (int column = kTitleColumn; column <= kAfterColumn; ++column) {
-    if (UpperCase(row.*TextOfColumn(column)).find(wanted) != std::string::npos) return true;
-  }
-  return false;
+  if (kind && line.row.kind != *kind) return false;
+  return line.searched.find(wanted) != std::string::npos;
 }
 
 void ChangePreview::FillList() {
   ChangeList.SetRepainting(false);
-  ChangeList.SetRows(static_cast<int>(rows_.size()));
+  ChangeList.SetRows(static_cast<int>(lines_.size()));
+  const std::string wanted = UpperCase(FilterBox.text());
   int count = 0;
-  for (const ChangeRow& row : rows_) {
-    if (!IsWanted(row)) continue;
+  for (const Line& line : lines_) {
+    if (!IsWanted(line, wanted)) continue;
     ++count;
     for (int column = kTitleColumn; column <= kAfterColumn; ++column) {
-      ChangeList.SetText(column, count, row.*TextOfColumn(column));
+      ChangeList.SetText(column, count, line.row.*TextOfColumn(column));
     }
   }
   ChangeList.SetRows(count);
@@ -124,9 +126,10 @@ void ChangePreview::SortBy(int column) {
   descending_ = sorted_by_ == column && !descending_;
   sorted_by_ = column;
   const auto text = TextOfColumn(column);
-  std::stable_sort(rows_.begin(), rows_.end(), [&](const ChangeRow& a, const ChangeRow& b) {
-    return CompareIgnoringCase(descending_ ? b.*text : a.*text, descending_ ? a.*text : b.*text) <
-           0;
+  std::stable_sort(lines_.begin(), lines_.end(), [&](const Line& a, const Line& b) {
+    const ChangeRow& first = descending_ ? b.row : a.row;
+    const ChangeRow& second = descending_ ? a.row : b.row;
+    return CompareIgnoringCase(first.*text, second.*text) < 0;
   });
   FillList();
 }

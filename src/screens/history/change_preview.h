@@ -49,11 +49,16 @@ class ChangePreview : public Screen {
 
  private:
   void SetUse(ChangeListUse use);
-  bool IsWanted(const ChangeRow& row) const;
+  // Contains a row of the table with its texts in capitals, in which the filter searches.
+  struct Line {
+    ChangeRow row;
+    std::string searched;
+  };
+  bool IsWanted(const Line& line, const std::string& wanted) const;
   void FillList();
   void SortBy(int column);
 
-  std::vector<ChangeRow> rows_;
+  std::vector<Line> lines_;
   int sorted_by_ = 0;  // a column, or 0 for the order of the changes
   bool descending_ = false;
   bool goes_on_ = false;

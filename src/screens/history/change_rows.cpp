@@ -90,12 +90,13 @@ ChangeTable TableOfConflicts(SharedState& state, const std::vector<UndoConflict>
   return table;
 }
 
-void AddLeftOut(ChangeTable& table, const std::vector<LeftOutEntry>& left_out) {
-  for (const LeftOutEntry& entry : left_out) {
-    table.rows.push_back({ChangeRowKind::kLeftOut, entry.title, "Left out", "", entry.reason});
-  }
-  if (left_out.empty()) return;
-  table.counts += "; " + std::to_string(left_out.size()) + " left out";
+void AddLeftOut(ChangeTable& table, const LeftOut& left_out) {
+  left_out.ForEach([&table](std::string_view title, std::string_view reason) {
+    table.rows.push_back(
+        {ChangeRowKind::kLeftOut, std::string(title), "Left out", "", std::string(reason)});
+  });
+  if (left_out.Count() == 0) return;
+  table.counts += "; " + std::to_string(left_out.Count()) + " left out";
 }
 
 }  // namespace golf

@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
+#include "core/left_out.h"
 #include "core/shared_state.h"
 #include "history/record_changes.h"
 #include "history/undo.h"
-#include "transfers/run.h"
 
 namespace golf {
 
@@ -38,6 +38,6 @@ ChangeTable TableOfHeldChanges(SharedState& state, const RecordKinds& kinds);
 // Returns what an undo cannot put back, with the values that the run wrote and that exist now.
 ChangeTable TableOfConflicts(SharedState& state, const std::vector<UndoConflict>& conflicts);
 
-void AddLeftOut(ChangeTable& table, const std::vector<LeftOutEntry>& left_out);
+void AddLeftOut(ChangeTable& table, const LeftOut& left_out);
 
 }  // namespace golf

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <vector>
-
+#include "core/left_out.h"
+#include "core/numbered_error.h"
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
-#include "transfers/run.h"
 
 namespace golf {
 
@@ -14,7 +13,7 @@ class PreviewClosed {};
 
 // Contains what a preview shows besides the changes.
 struct PreviewNotes {
-  std::vector<LeftOutEntry> left_out = {};
+  LeftOut left_out = {};
   const NumberedError* ended_by = nullptr;  // the error that ended the run, or null
 };
 

@@ -42,7 +42,8 @@ bool IsWanted(SharedState& state, ScreenHost& host, const RecordKinds& kinds, co
   }
   const Box question{.title = kTitle,
                      .text = "Undo this transfer?\r\r" + TransferName(run.title.command) + ", " +
-                             WhenText(state, run.title.moment) + "\r" + run.title.about +
+                             WhenText(state, run.title.moment) +
+                             (run.title.about.empty() ? "" : "\r" + run.title.about) +
                              "\r\rIt would change: " + TableOfHeldChanges(state, kinds).counts,
                      .icon = BoxIcon::kQuestion,
                      .buttons = {BoxButton::kYes, BoxButton::kNo},

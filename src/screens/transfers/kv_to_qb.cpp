@@ -167,6 +167,7 @@ void KVtoQB::CommitPreview(const PreviewNotes& notes) {
   try {
     ConfirmPreview(state(), host(), notes);
     state().transactions->Commit("");
+    host().NoteLeftOut(notes.left_out);
   } catch (...) {
     TransferButton.SetVisible(true);  // nothing was transferred
     throw;
@@ -218,7 +219,7 @@ void KVtoQB::ShowNotice(std::string text) {
 
 // Asks whether to update the active tournament, and updates it. Returns its name if it is updated,
 // and otherwise an empty text.
-std::string KVtoQB::UpdateTournament(std::vector<LeftOutEntry>& left_out) {
+std::string KVtoQB::UpdateTournament(LeftOut& left_out) {
   // In a preview, the new objects read the changes that are held.
   state().InitSharedObjects();
   OpenQuenbyRosters(state());
@@ -238,7 +239,7 @@ std::string KVtoQB::UpdateTournament(std::vector<LeftOutEntry>& left_out) {
   TournamentUpdateReport report;
   RunWhole(state(), host(), {.previewed_later = true},
            {.command = "golfers-kv-to-qb", .about = name}, TournamentUpdateRequest{number}, report);
-  left_out.insert(left_out.end(), report.left_out.begin(), report.left_out.end());
+  left_out.Append(report.left_out);
   return state().Tournament().Name();
 }
 

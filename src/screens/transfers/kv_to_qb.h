@@ -65,7 +65,7 @@ class KVtoQB : public Screen {
   void CommitPreview(const PreviewNotes& notes);
   void ShowReport(const std::string& log);
   void ShowNotice(std::string text);
-  std::string UpdateTournament(std::vector<LeftOutEntry>& left_out);
+  std::string UpdateTournament(LeftOut& left_out);
 };
 
 }  // namespace golf

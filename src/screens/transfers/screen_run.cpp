@@ -27,6 +27,14 @@ std::string WithSingleBlanks(std::string text) {
   return text;
 }
 
+// Returns the report as the history stores it: the log, and then what was left out.
+std::string StoredText(const RunReport& report) {
+  std::string text = report.log;
+  report.left_out.ForEachLine(
+      [&text](std::string_view line) { text.append(line).append(kReportLineEnd); });
+  return text;
+}
+
 }  // namespace
 
 void RunTransfer(Screen& screen, SharedState& state, ScreenHost& host, RunEnding ending,
@@ -80,10 +88,11 @@ ScreenRun::~ScreenRun() {
 
 void ScreenRun::Commit(const RunReport& report, const NumberedError* ended_by,
                        const CommitRetry& retry) {
+  const std::string text = StoredText(report);
   if (transactions_.IsPreview()) {
     host_.SetPointer(Pointer::kNormal);
     if (look_.previewed_later) {
-      transactions_.Commit(report.log);
+      transactions_.Commit(text);
       committed_ = true;
       return;
     }
@@ -91,9 +100,9 @@ void ScreenRun::Commit(const RunReport& report, const NumberedError* ended_by,
   }
   while (true) {
     try {
-      transactions_.Commit(report.log);
+      transactions_.Commit(text);
       committed_ = true;
-      return;
+      return host_.NoteLeftOut(report.left_out);
     } catch (const CommitFailed& error) {
       if (!error.interrupted() && retry && retry(*this, error)) continue;
       transactions_.Drop();

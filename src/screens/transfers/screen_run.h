@@ -58,7 +58,9 @@ class ScreenRun : public RunHost {
   void Beep() override { host_.Beep(); }
 
   // Commits the changes of the run. If the commit fails and no file has changed, calls `retry` and
-  // tries again if it returns true. Otherwise drops the changes and raises CommitFailed.
+  // tries again if it returns true. Otherwise drops the changes and raises CommitFailed. After the
+  // commit it passes what the run has left out to the host, except if the screen itself calls
+  // ConfirmPreview.
   void Commit(const RunReport& report, const NumberedError* ended_by,
               const CommitRetry& retry = nullptr);
 

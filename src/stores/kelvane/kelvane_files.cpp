@@ -109,6 +109,16 @@ std::string KVGolferName(const Record<KelvaneGolferLayout>& golfer) {
   return GolferTitle(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">(), golfer.Get<"IDNum">());
 }
 
+std::string KVGolferNameLF(const Record<KelvaneGolferLayout>& golfer) {
+  return GolferTitleLF(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">(), golfer.Get<"IDNum">());
+}
+
+std::string ReadKVGolferNameLF(SharedState& state, std::int64_t place) {
+  auto& golfer = state.Kelvane().golfer;
+  state.files.Read(kKelvaneGolferFile, place, golfer);
+  return IsGolfer(golfer) ? KVGolferNameLF(golfer) : std::string();
+}
+
 std::int32_t KVGolferPlaces(SharedState& state) {
   return state.files.RecordCount<KelvaneGolferLayout>(kKelvaneGolferFile);
 }

@@ -39,6 +39,12 @@ inline bool IsGolfer(const Record<KelvaneGolferLayout>& golfer) {
 
 // Returns "Ann Smith", or a text such as "Golfer #12" with the ID if the name is blank.
 std::string KVGolferName(const Record<KelvaneGolferLayout>& golfer);
+// Returns "Smith, Ann", or the name as above if a part of it is blank.
+std::string KVGolferNameLF(const Record<KelvaneGolferLayout>& golfer);
+
+// Reads a place of the open roster into the golfer buffer. Returns the name as KVGolferNameLF, or
+// an empty text if the place is free.
+std::string ReadKVGolferNameLF(SharedState& state, std::int64_t place);
 
 // Returns the number of golfer places of the open roster, including free places.
 std::int32_t KVGolferPlaces(SharedState& state);

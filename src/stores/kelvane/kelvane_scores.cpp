@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "core/number_text.h"
 #include "core/numbered_error.h"
@@ -38,11 +39,12 @@ void CountScore(KelvaneBuffers& buffers) {
 // Moves the entries `first` to `last` by one place, towards the end if `by` is 1 and towards the
 // start if `by` is -1.
 void Shift(KelvaneBuffers& buffers, int first, int last, int by) {
-  if (by > 0) {
-    for (int i = last; i >= first; --i) buffers.SetEntry(i + 1, buffers.Entry(i));
-  } else {
-    for (int i = first; i <= last; ++i) buffers.SetEntry(i - 1, buffers.Entry(i));
-  }
+  if (first > last) return;
+  constexpr Field kEntry = FieldOf<KelvaneHistoryLayout, "CourseNumber">();
+  char* const bytes = buffers.history.MutableBytes().data();
+  const std::size_t end = kEntry.OffsetOf(std::array{last + by}) + kKelvaneScoreLength;
+  const std::size_t to = kEntry.OffsetOf(std::array{first + by});
+  std::memmove(bytes + to, bytes + kEntry.OffsetOf(std::array{first}), end - to);
 }
 
 // Finds the first entry, other than the one at `place`, that is not newer than the entry at

@@ -75,6 +75,15 @@ std::string LeagueGolferName(const Record<LeaguePlayerLayout>& player) {
   return GolferTitle(player.Get<"FirstName">(), player.Get<"LastName">(), player.Get<"GolferID">());
 }
 
+std::string LeagueGolferNameLF(const Record<LeaguePlayerLayout>& player) {
+  return GolferTitleLF(player.Get<"FirstName">(), player.Get<"LastName">(),
+                       player.Get<"GolferID">());
+}
+
+bool HasLastName(const Record<LeaguePlayerLayout>& player) {
+  return CompareIgnoringCase(Trim(player.Get<"LastName">()), " ") > 0;
+}
+
 void CloseLeague(SharedState& state) {
   for (int number = kLeagueEventFile; number >= kLeagueControlFile; --number) {
     state.files.Close(number);

@@ -38,6 +38,11 @@ void OpenLeague(SharedState& state, std::string_view base);
 
 // Returns "Ann Smith", or a text such as "Golfer #12" with the ID if the name is blank.
 std::string LeagueGolferName(const Record<LeaguePlayerLayout>& player);
+// Returns "Smith, Ann", or the name as above if a part of it is blank.
+std::string LeagueGolferNameLF(const Record<LeaguePlayerLayout>& player);
+
+// Returns true if the golfer has a last name. A record without one is free.
+bool HasLastName(const Record<LeaguePlayerLayout>& player);
 
 // Closes the files that OpenLeague opened.
 void CloseLeague(SharedState& state);

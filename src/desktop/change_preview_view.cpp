@@ -1,0 +1,60 @@
+#include "desktop/grid_widget.h"
+#include "desktop/layout_helpers.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "screens/history/change_preview.h"
+
+namespace golf {
+namespace {
+
+constexpr int kRowsSeen = 14;
+constexpr int kWidth = 860;  // in device-independent pixels
+constexpr int kFindWidth = 260;
+
+wxSizer* Search(ScreenPanel& panel, ChangePreview& screen) {
+  Binding& binding = panel.binding();
+  const auto middle = wxSizerFlags().CentreVertical();
+  const auto beside = wxSizerFlags(middle).Border(wxLEFT, CloseGap(panel));
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(MakeFieldLabel(binding, &panel, screen.FilterLabel), middle);
+  wxTextCtrl* find = MakeTextBox(binding, &panel, screen.FilterBox);
+  find->SetMinSize({panel.FromDIP(kFindWidth), -1});
+  row->Add(find, beside);
+  row->Add(MakeFieldLabel(binding, &panel, screen.KindLabel),
+           wxSizerFlags(middle).Border(wxLEFT, GroupGap(panel)));
+  row->Add(MakeChoice(binding, &panel, screen.KindList), beside);
+  return row;
+}
+
+wxSizer* Buttons(ScreenPanel& panel, ChangePreview& screen) {
+  const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  for (Button* control : {&screen.CopyButton, &screen.SaveButton}) {
+    row->Add(button(*control), wxSizerFlags().Border(wxRIGHT, CloseGap(panel)));
+  }
+  row->Add(ButtonRow({.affirmative = button(screen.TransferNowButton),
+                      .cancel = button(screen.CloseButton)}),
+           wxSizerFlags(1));
+  return row;
+}
+
+}  // namespace
+
+void FillChangePreview(ScreenPanel& panel, ChangePreview& screen) {
+  Binding& binding = panel.binding();
+  const int width = panel.FromDIP(kWidth);
+  const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
+  wxStaticText* counts = MakeWrappedLabel(binding, &panel, screen.CountsLabel, width);
+  MakeBold(*counts);
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(counts, wxSizerFlags().Expand());
+  content->Add(MakeWrappedLabel(binding, &panel, screen.NoteLabel, width), below);
+  content->Add(Search(panel, screen), wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  wxGrid* list = MakeGrid(binding, &panel, screen.ChangeList, GridMarks::kRows, kRowsSeen);
+  list->SetMinSize({width, list->GetMinSize().y});
+  content->Add(list, wxSizerFlags(below).Proportion(1));
+  content->Add(Buttons(panel, screen), wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf

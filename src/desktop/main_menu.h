@@ -1,0 +1,12 @@
+#pragma once
+
+#include <wx/frame.h>
+
+#include "forms/host_base.h"
+
+namespace golf {
+
+// Adds the menus "Tools" and "History" to the main window. A menu is filled each time it opens.
+void AddMainMenu(wxFrame& window, SharedState& state, HostBase& host);
+
+}  // namespace golf
