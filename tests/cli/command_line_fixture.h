@@ -22,11 +22,21 @@ class CommandLineTest : public testing::Test {
   Ended Run(const std::string& words, const std::string& input = "") {
     return RunProgram(folder, GOLF_CLI, words, input);
   }
-  Ended Script(const std::string& lines) { return Run("--install i script -", lines); }
+  // Runs on the install at a fixed time, since the program stores the time in new golfers.
+  Ended In(const std::string& words, const std::string& input = "") {
+    return Run("--install i --now \"2026-05-13 12:00:00\" " + words, input);
+  }
+  Ended Script(const std::string& lines) { return In("script -", lines); }
 
   void SetUp() override { ASSERT_EQ(Run("demo i").code, 0); }
 
   Tree AllFiles() const { return folder.Files("i"); }
+  // Returns the install's files without the history.
+  Tree Data() const {
+    Tree files = AllFiles();
+    std::erase_if(files, [](const auto& file) { return file.first.starts_with("transfer-"); });
+    return files;
+  }
 
   TempFolder folder;
 };

@@ -56,18 +56,6 @@ class FaultyCallsTest : public CommandLineTest {
     came = folder.Exists("faulty");
     return ended;
   }
-  // Returns the install's files without the history.
-  Tree Data() const {
-    Tree files;
-    for (const auto& entry : fs::recursive_directory_iterator(folder.Path("i"))) {
-      const std::string name = entry.path().lexically_relative(folder.Path("i")).generic_string();
-      if (!entry.is_regular_file() || name.starts_with("transfer-")) continue;
-      std::string& bytes = files[name];
-      bytes.resize(entry.file_size());
-      std::ifstream(entry.path(), std::ios::binary).read(bytes.data(), std::ssize(bytes));
-    }
-    return files;
-  }
   void Restore() const {
     fs::remove_all(folder.Path("i"));
     fs::copy(folder.Path("start"), folder.Path("i"), fs::copy_options::recursive);

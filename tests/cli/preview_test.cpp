@@ -13,10 +13,9 @@ class PreviewTest : public CommandLineTest {
   // The install's files without the history, the moment of the last transfer and the settings of
   // screens.
   Tree Data() const {
-    Tree files = AllFiles();
+    Tree files = CommandLineTest::Data();
     std::erase_if(files, [](const auto& file) {
-      const std::string& name = file.first;
-      return name.starts_with("transfer-") || name.ends_with("toQB.DAT") || name == "KVSYSTEM.FIL";
+      return file.first.ends_with("toQB.DAT") || file.first == "KVSYSTEM.FIL";
     });
     return files;
   }
@@ -89,7 +88,7 @@ TEST_F(PreviewTest, TheListIsFilteredByTextAndKind) {
 
 TEST_F(PreviewTest, TheHistoryShowsUndoesAndForgets) {
   const Tree before = Data();
-  ASSERT_EQ(Run("--install i courses-kv-to-qb").code, 0);
+  ASSERT_EQ(In("courses-kv-to-qb").code, 0);
   const auto events = JsonLines(
       Script("open TransferHistory\nshow ReportText\nclick ChangesButton\nshow CountsLabel\n"
              "click CloseButton\nanswer Undo Yes\nclick UndoButton\nshow RunList\n"
@@ -98,10 +97,13 @@ TEST_F(PreviewTest, TheHistoryShowsUndoesAndForgets) {
   EXPECT_EQ(Shown(events, "CountsLabel"),
             json("2 courses changed, 5 added in Quenby; 4 files").dump());
   EXPECT_TRUE(Data() == before);
+  std::string asked;
   std::vector<std::size_t> runs;
   for (const json& event : events) {
+    if (event.value("title", "") == "Undo") asked += event["text"].get<std::string>();
     if (event.value("name", "") == "RunList") runs.push_back(event["rows"].size());
   }
+  EXPECT_NE(asked.find("courses to QB, today 12:00"), std::string::npos) << asked;
   EXPECT_EQ(runs, (std::vector<std::size_t>{2, 1}));
 }
 

@@ -133,6 +133,8 @@ TEST(IdNumberList, ForgottenIds) {
   EXPECT_EQ(list.NextFree(99), 4);
   list.Append(4);
   EXPECT_EQ(list.NextFree(99), 7);
+  list.Append(1);  // a new lowest ID
+  EXPECT_EQ(list.NextFree(99), 2);
   list.Append(5);
   list.Forget(5);
   EXPECT_TRUE(list.Contains(5));  // the ID occurred twice

@@ -50,6 +50,9 @@ TEST(CommitFaultsTest, AReaderDoesNotHideAnInterruptedRun) {
     const auto reading = ProcessOn(disk);
     const auto reader = reading->Open(kRun, FileAccess::kReadOnly);
     EXPECT_EQ(ErrorOf([&] { program.transactions.Recover(); }), 70);
+    FailingPlatform failing(*platform);
+    failing.Fail({.only = Operation::kRead, .name = ".RUN"});
+    EXPECT_EQ(ErrorOf([&] { HistoryProgram(failing).transactions.Recover(); }), 57);
   }
   EXPECT_EQ(program.transactions.Recover().finished.size(), 1U);
 }

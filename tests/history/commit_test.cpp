@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <set>
-
 #include "history/memory_install.h"
 #include "history/stopped.h"
+#include "screens/transfers/screen_run.h"
 #include "support/error_of.h"
 #include "support/failing_platform.h"
 #include "support/test_host.h"
@@ -162,26 +160,26 @@ TEST(CommitTest, ARequestAfterTheCommitEndsTheNextClick) {
   EXPECT_EQ(Difference(DataOf(disk), after), "");
 }
 
-// On a real disk, an open file can be replaced, here by a file with the same bytes.
-TEST(CommitTest, AFileThatIsReplacedInMidRunIsError70) {
-  TestInstall install;
-  const std::string courses = DemoDisk().Files().at("/KVDATA/KVCRS.DAT");
-  const std::string library = courses.substr(0, 3226);
-  install.folder.Write("kvdata/kvcrs.dat", courses);
-  install.folder.Write("qbdata/qbcrs.dat", library);
-  install.folder.Write("new.dat", library);
-  install.listener.on_progress = [&](const Progress&) {
-    if (!install.folder.Exists("new.dat")) return;
-    std::filesystem::rename(install.folder.Path("new.dat"),
-                            install.folder.Path("qbdata/qbcrs.dat"));
+TEST(CommitTest, AScreenDoesNotReadChangesThatCannotBeCommitted) {
+  struct Reader : Screen {
+    using Screen::Screen;
+    Button* LeaveButton() override { return nullptr; }
+    void OpenAgain() override { found = state().files.ReadText(state().QBDataPath + "text"); }
+    std::string found;
   };
-  const int error = ClickErrorOf([&] {
-    install.Open("KVCoursestoQB",
-                 [&](Screen& screen) { install.host->Press(screen, "TransferCourses"); });
-  });
-  EXPECT_EQ(error, 70);
-  EXPECT_TRUE(install.folder.Read("qbdata/qbcrs.dat") == library);
-  EXPECT_FALSE(install.folder.Exists("qbdata/ALLCRSQB.INX"));
+  TestInstall install;
+  install.folder.Write("qbdata/text", "before");
+  SharedState& state = install.state();
+  Reader screen("Reader", {state, *install.host});
+  install.platform->Fail({.only = Operation::kWrite, .name = "text"});
+  const auto run = [&] {
+    ScreenRun changes(state, *install.host, {}, {});
+    state.files.gate().ReplaceText(state.QBDataPath + "text", "after");
+    changes.Commit({}, nullptr);
+  };
+  EXPECT_EQ(ErrorOf([&] { RunTransfer(screen, state, *install.host, RunEnding::kCommit, run); }),
+            57);
+  EXPECT_EQ(screen.found, "before");
 }
 
 }  // namespace

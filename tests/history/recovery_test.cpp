@@ -96,6 +96,33 @@ TEST(RecoveryTest, AChangeOfAnotherProgramWaitsForTheOperator) {
   }
 }
 
+// The sync of the done mark failed, and the process was killed while it put the run back. The
+// operator finishes the run, and this recovery is killed in each of its calls.
+TEST(RecoveryTest, ARunThatWasPutBackCanBeFinished) {
+  const DataFiles after = DataOf(DiskAfterEveryKind());
+  MemoryPlatform disk = SmallDisk();
+  disk.DieAt(DiskAfterEveryKind().ChangingCalls() + 9);
+  EXPECT_TRUE(DiesIn([&] {
+    FailingPlatform failing(disk);
+    failing.Fail({.nth = 3, .only = Operation::kSync, .name = ".RUN"});
+    CommitEveryKind(failing);
+  }));
+  disk.Revive();
+  Make(kForeign[2], disk);
+  EXPECT_TRUE(Recover(disk.Copy()).stuck);
+  bool killed = true;
+  for (int nth = 1; killed; ++nth) {
+    MemoryPlatform again = disk.Copy();
+    again.DieAt(nth);
+    killed = DiesIn([&] { Recover(again, RecoveryChoice::kFinish); });
+    again.Revive();
+    Recover(again, RecoveryChoice::kFinish);
+    DataFiles left = DataOf(again);
+    left["/GROWN"] = after.at("/GROWN");
+    EXPECT_EQ(Difference(left, after), "");
+  }
+}
+
 // Between the first change and the commit.
 TEST(RecoveryTest, AChangeOfAnotherProgramInMidRunIsError70) {
   for (const Foreign& foreign : kForeign) {

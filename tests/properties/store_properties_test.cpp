@@ -64,7 +64,7 @@ class StoreProperties : public testing::Test {
   }
 
   // Checks that a random record is unchanged after it was read and saved. Then checks that each
-  // setter changes only the bytes of its own element, whose indexes are random.
+  // setter changes its own element, whose indexes are random, and no other bytes.
   template <class Layout, class Object>
   void TouchesItsElementOnly(Object& object, const std::vector<Setter<Object>>& setters,
                              std::string file, const std::function<void()>& load,
@@ -86,12 +86,17 @@ class StoreProperties : public testing::Test {
       load();
       save();
       RC_ASSERT((bytes == before));
-      setter.call(object, indexes, *rc::gen::inRange(-32768, 32768));
-      save();
-      const std::size_t at = field->OffsetOf(indexes);
-      bytes.replace(at, field->width, before, at, field->width);
       RC_LOG() << "Set" << setter.field;
-      RC_ASSERT((bytes == before));
+      bool changes = false;
+      for (const int value : {*rc::gen::inRange(-32768, 32768), 0, 1}) {
+        setter.call(object, indexes, value);
+        save();
+        const std::size_t at = field->OffsetOf(indexes);
+        changes = changes || bytes != before;
+        bytes.replace(at, field->width, before, at, field->width);
+        RC_ASSERT((bytes == before));
+      }
+      RC_ASSERT(changes);
       state.files.Synchronize();
     }
   }

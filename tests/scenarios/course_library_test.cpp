@@ -154,6 +154,7 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
           host().Press(tee, "OKButton");
           EXPECT_EQ(Told(), c.told);
           EXPECT_EQ(host().IsShown(tee), !c.told.empty());
+          EXPECT_TRUE(c.told.empty() || !tee.focus()->note().empty());
         });
     EXPECT_TRUE(
         SameFile("qbcrs.dat", Read("qbcrs.dat"), Course("Dunes")));  // Cancel left it unchanged
@@ -289,7 +290,7 @@ TEST_F(CourseLibraryTest, CoursesOfKelvaneAreWarnedOfAndKeepTheirBytes) {
 
 TEST_F(CourseLibraryTest, AFlatLadiesSlopeEndsTheClickAndLosesNothing) {
   std::string course = Course("Dunes");
-  Put(course, 240 + 4 * 3, {70.0f});
+  Put(course, 240 + 4 * 3, {0.5f});  // any rating above 0 counts
   Put16(course, 276 + 2 * 3, {50});
   Write(course);
   Run(Presses("EditCourseButton"), [&](CourseForm& form) {

@@ -189,6 +189,24 @@ TEST(KVtoZDTest, AReadFaultLeavesOutByNameAndTheNextRunBringsTheRest) {
   EXPECT_GT(WalkReadFaults(install, [&] { Transfer(install); }), 5);
 }
 
+TEST(KVtoZDTest, EachUnreadableRecordOfTheLeagueIsReported) {
+  const Case c = Cases()[0];
+  const Outcome outcome(c);
+  for (const bool players : {true, false}) {
+    TestInstall install;
+    WriteInstall(install, c);
+    const char* const file = players ? ".ZP8" : ".ZS8";
+    install.platform->Fail({.only = Operation::kRead, .name = file, .stays = true});
+    Transfer(install);
+    const auto& faults = install.host->faults();
+    ASSERT_EQ(faults.size(), players ? 5U : 3U);
+    EXPECT_TRUE(faults[0].description().starts_with(
+        players ? "Record 1 of the league's players" : "Record 6 of the league's substitutes"));
+    ExpectLeague(install, players ? c.players : outcome.players,
+                 players ? outcome.substitutes : c.substitutes);
+  }
+}
+
 TEST(KVtoZDTest, LeaguesToPickAndWhatIsKeptOfThem) {
   TestInstall install;
   install.folder.Write("zddata/00021.ZL8", LeagueControl("Mens: A: 12345", 5, 1, 1));
@@ -204,6 +222,8 @@ TEST(KVtoZDTest, LeaguesToPickAndWhatIsKeptOfThem) {
       EXPECT_FALSE(screen.Frame1.visible());
       EXPECT_TRUE(screen.picker.CancelLeague.is_cancel() && !screen.CancelButton.is_cancel());
       screen.picker.LeagueList.Select(item);
+      EXPECT_TRUE(LeaguePicker::HeadingOf(screen.picker.LeagueList.text())
+                      .ends_with(kept[static_cast<std::size_t>(item)]));
       EXPECT_TRUE(screen.picker.LeagueList.on_key("Enter"));
       EXPECT_TRUE(screen.Frame1.visible() && screen.CancelButton.is_cancel());
       EXPECT_TRUE(

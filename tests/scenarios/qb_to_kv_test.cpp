@@ -126,7 +126,7 @@ class QbToKvTest : public testing::Test {
       }
       entry.Set<"TourScoreGrossTotal">({2}, 80);
       entry.Set<"TourScoreAdjusted">({2}, static_cast<std::int16_t>(player.adjusted));
-      entry.Set<"TourGrossHandicap">({2}, 9.0f);
+      entry.Set<"TourGrossHandicap">({2}, 9.4f);
       entry.Fill<"TourGroupTee">(player.lady ? 2 : 1);
       entry.Set<"TourFlags">({2}, player.sent ? 3 : 1);
       entry.Set<"TourPutts">({2}, 30);
@@ -142,7 +142,7 @@ class QbToKvTest : public testing::Test {
     Put(header, 220, {kNow, kDay - 1, kDay, 0.0});  // counter 3 does not count it, 4 and 2 do
     install.folder.Write("kvdata/CLUB.KV5", header);
     roster_before.clear();
-    for (const int id : {50, 11, 12, 11}) {  // the first place is free
+    for (const int id : {50, 11, 12, 11, 1}) {  // the first place is free
       std::string golfer = Pattern(kGolfer);
       Put16(golfer, 0, {id == 50 ? 0 : 1});
       Put(golfer, 4, {std::int32_t{id}});
@@ -151,8 +151,8 @@ class QbToKvTest : public testing::Test {
       roster_before += golfer;
     }
     install.folder.Write("kvdata/CLUB.KVG", roster_before);
-    history_before.assign(4 * kHistory, '\0');
-    for (std::size_t i = 0; i < 4; ++i) Put(history_before, i * kHistory + 8, {kDay - 100});
+    history_before.assign(5 * kHistory, '\0');
+    for (std::size_t i = 0; i < 5; ++i) Put(history_before, i * kHistory + 8, {kDay - 100});
     install.folder.Write("kvdata/CLUB.KVS", history_before);
     install.folder.Write("qbdata/QBtoKV.DAT", "");
     install.Restart();
@@ -250,8 +250,9 @@ TEST_F(QbToKvTest, AnEntryByteForByte) {
 
 TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
   const Player plays{11}, lady_plays{12, true}, incomplete{12, false, 18}, unknown{99}, nobody{0};
-  const Player sent{11, false, 0, true}, unknown_and_sent{77, false, 0, true};
-  Prepare({}, {plays, lady_plays, plays, incomplete, unknown, nobody, sent, unknown_and_sent});
+  const Player sent{11, false, 0, true}, unknown_and_sent{77, false, 0, true}, deleted{-1};
+  Prepare({},
+          {plays, lady_plays, plays, incomplete, unknown, nobody, sent, unknown_and_sent, deleted});
   Run({});
   const Score man{2, 4, 60.3f, 130, 1, 72, 72, 0, 9};
   const Score lady{2, 4, 61.3f, 131, 1, 72, 72, 0, 9};
@@ -260,10 +261,12 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
   Post(2, man.Bytes(kDay));
   ExpectFiles({1, 2, 3});
   EXPECT_EQ(report,
-            "2 Scores TO transfer.\r\n2 Scores already transferred.\r\n3 Scores transferred.\r\n"
-            "Player 4, A (Round 2 not complete)\r\nPlayer 5, A (No ID# match found)\r\n");
+            "3 Scores TO transfer.\r\n2 Scores already transferred.\r\n3 Scores transferred.\r\n"
+            "Player 4, A (Round 2 not complete)\r\nPlayer 5, A (No ID# match found)\r\n"
+            "Player 9, A (No ID# match found)\r\n");
   EXPECT_EQ(LeftOutLines(install),
             "Player 4, A: without a complete round\nPlayer 5, A: not in this roster\n"
+            "Player 9, A: not in this roster\n"
             "Player 7, A: already transferred, and not transferred again\n"
             "Player 8, A: already transferred\n");
   EXPECT_EQ(captions, "Transfer round #1 scores, Transfer round #2 scores");
@@ -271,7 +274,7 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
       Told(install,
            "message [Transfer again?] The score for 'Player 7, A' (round #2) has already been "
            "transferred.  Do you want to transfer it again? -> No"));
-  EXPECT_TRUE(Told(install, "message [Notice] 1 golfers were NOT found. -> OK"));
+  EXPECT_TRUE(Told(install, "message [Notice] 2 golfers were NOT found. -> OK"));
 
   install.host->QueueAnswer("Transfer again?", "Yes");
   Run({});  // the first one is transferred again
@@ -279,7 +282,7 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
   ExpectFiles({});
   EXPECT_EQ(
       report.substr(0, 80),
-      "2 Scores TO transfer.\r\n4 Scores already transferred.\r\n1 Scores transferred.\r\nPla");
+      "3 Scores TO transfer.\r\n4 Scores already transferred.\r\n1 Scores transferred.\r\nPla");
   EXPECT_EQ(install.folder.Read("qbdata/QBtoKV.DAT").substr(0, 18), "\"NO\"\r\n\"CLUB\"\r\n0\r\n0");
 }
 
@@ -319,6 +322,23 @@ TEST_F(QbToKvTest, AReadFaultLeavesOutByNameAndTheNextRunPostsTheRest) {
   };
   EXPECT_GT(
       WalkReadFaults(install, run, {"kvdata/CLUB.KVG", "kvdata/CLUB.KVS", "qbdata/X0001.Q9G"}), 5);
+}
+
+// The course cannot be read. It determines which nine holes of the history contain the scores.
+TEST_F(QbToKvTest, NineHolesArePostedAsTheRightHalfOrNotAtAll) {
+  const Setting setting{.holes = 9, .roster_holes = 9};
+  bool failed = true;
+  for (int nth = 1; failed; ++nth) {
+    SCOPED_TRACE(nth);
+    Prepare(setting, {{11}});
+    const std::string unposted = history_before;
+    Post(2, Score{2, 4, 60.3f, 130, 10, 36, 36, 0, 9}.Bytes(kDay));
+    install.platform->Fail({ErrorNumber::kDeviceFault, nth, Operation::kRead, "kvcrs.dat", true});
+    ClickErrorOf([&] { Run(setting); });
+    failed = install.platform->Failed();
+    const std::string history = install.folder.Read("kvdata/CLUB.KVS");
+    EXPECT_TRUE(history == history_before || (failed && history == unposted));
+  }
 }
 
 }  // namespace

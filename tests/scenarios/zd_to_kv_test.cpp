@@ -78,7 +78,7 @@ std::string Course(const std::string& name, int tee, const std::string& tee_name
                    float rating, int slope) {
   Record<CourseLayout> course;
   course.Set<"Name">(name);
-  course.Set<"ActiveTees">({tee}, 255);
+  for (const int active : {1, tee}) course.Set<"ActiveTees">({active}, 255);
   course.Set<"TeeName">({tee}, tee_name);
   course.Set<"Rating">({tee, sex}, rating);
   course.Set<"slope">({tee, sex}, static_cast<std::int16_t>(slope));

@@ -39,7 +39,7 @@ class CustomTeamsTest : public QuenbyTest {
 };
 
 TEST_F(CustomTeamsTest, ANewLayoutIsSavedByteForByte) {
-  Build("", [](XReportsCustomTeamResults& builder) {
+  Build("", [&](XReportsCustomTeamResults& builder) {
     EXPECT_EQ(builder.ConsiderPlayers(90, 0) + builder.ConsiderPlayers(1, 1), "123456780");
     builder.HoleNumberUsedList.Select(2);
     builder.grid1.Enter(2, 3, "2 low|L12");
@@ -47,6 +47,9 @@ TEST_F(CustomTeamsTest, ANewLayoutIsSavedByteForByte) {
     EXPECT_TRUE(builder.grid1.IsLocked(2, HoleColumn(10)));
     builder.ReportName.SetText("  Nines ");
     builder.ReportDescription.SetText("Two on the third");
+    builder.TabMain.Choose(1);
+    install.host->QueueAnswer("Font", "Courier New, 9, bold");
+    install.host->Press(builder, "FontButton(1)");
     EXPECT_TRUE(builder.SaveReport());
   });
   std::string first = "\"Two on the third\"\r\n9,4\r\n\"D\",\"G\"\r\n";
@@ -54,7 +57,7 @@ TEST_F(CustomTeamsTest, ANewLayoutIsSavedByteForByte) {
     first += std::string("\"12345678\",\"") + (hole % 9 == 3 ? "L12" : "NONE") +
              "\",\"NONE\"\r\n\"0\",\"NONE\",\"NONE\"\r\n";
   }
-  EXPECT_EQ(Read("Nines.TR1"), first + "\"Arial\",10,0\r\n\"Arial\",10,0\r\n0,0\r\n");
+  EXPECT_EQ(Read("Nines.TR1"), first + "\"Courier New\",9,1\r\n\"Arial\",10,0\r\n0,0\r\n");
   std::string second =
       "\"Arial\",16,0\r\n\"Report Name\",\"\",\"\",\"\",\"\"\r\n\"\"\r\n0\r\n0\r\n0\r\n";
   for (int line = 7; line <= 23; ++line) second += "\"\"\r\n";
@@ -106,6 +109,7 @@ TEST_F(CustomTeamsTest, LayoutsThatAreOutOfTheOrdinary) {
       {with("\"A\"\r\n1,4\r\n", "1,4\r\n\"A\"\r\n"), "line 1 lacks a text."},
       {with("1,4", "1,4,5"), "line 2 lacks its end."},
       {with("\"D\",\"G\"", "\"D\",G"), "line 3 lacks a text."},
+      {with("\"0\"", "\"00\""), "1 code of this report cannot be read."},
       {with("\"NONE\"", "\"Q7\""), "1 code of this report cannot be read."},
       {with("1,4", "99,9"), "Cancel?"},
       {with("\"A\"", "\"A \"B\" C\""), "Cancel?"},

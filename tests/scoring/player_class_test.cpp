@@ -216,6 +216,7 @@ TEST_F(PlayerClassTest, StatisticsOfATournament) {
   scored.entry.Fill<"TourGrossHandicap">(6);
   PlayerClass& player = Load();
   player.SetTourScoreGross(1, 1, 8);
+  player.SetTourScoreGross(18, 1, 4);
   player.SaveRecord(3, true);
   player.SetTourRosterRecordPointer(0);
   player.SaveRecord(2, true);  // a free entry, which is not counted
@@ -224,10 +225,11 @@ TEST_F(PlayerClassTest, StatisticsOfATournament) {
   EXPECT_EQ(tournament.ScoreTotalGross(1), 13);
   EXPECT_EQ(tournament.ScoreTotalNet(19), 2 * 45 + 3 - 12);
   EXPECT_EQ(tournament.ScoreAverageGross(1) + tournament.ScoreAverageGross(19), "6.5046.50");
-  EXPECT_EQ(tournament.ScoreAverageGross(20) + tournament.ScoreAverageNet(13), "15.000.00");
+  EXPECT_EQ(tournament.ScoreAverageGross(20) + tournament.ScoreAverageNet(13), "17.000.00");
   EXPECT_EQ(tournament.ScoreHighNet(1), TextOrNumber(7));
   EXPECT_EQ(tournament.ScoreLowGross(1), TextOrNumber(5));
-  EXPECT_EQ(tournament.ScoreLowGross(18), TextOrNumber(0));
+  EXPECT_EQ(tournament.ScoreLowGross(17), TextOrNumber(0));
+  EXPECT_EQ(tournament.ScoreLowGross(18), TextOrNumber(4));
   EXPECT_EQ(tournament.ScoreHighGross(19), TextOrNumber(""));
   EXPECT_EQ(tournament.ScorePBEStatsGross(2, 21), 8);
   EXPECT_EQ(tournament.ScorePBEStatsNet(-1, 19), 4);

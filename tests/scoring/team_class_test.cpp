@@ -68,7 +68,7 @@ TEST_F(TeamClassTest, BestBallsOfAHole) {
       {{{{1000}}, {{9}}}, 2, "9", "9", "0", "1009"},
       // The second golfer has the lowest gross score. A stroke also gives this golfer the lowest
       // net score.
-      {{{{5}}, {{4}, 18}, {{6}, 36}}, 1, "4", "3", "2", "8"},
+      {{{{5}}, {{4}, 18}}, 1, "4", "3", "2", "8"},
       {std::vector<Golfer>(10, {{5}}), 12, "50", "50", "10", "10"},
       {{{{4}}, {{3}, 0, 2}}, 1, "4", "4", "2", "4"},
   };

@@ -52,15 +52,16 @@ std::string FlagsOf(const Screen& screen) {
 
 TEST(FlagsTest, OfEachScreenOnTheDemonstrationInstall) {
   const std::pair<const char*, const char*> kOpened[] = {
-      {"TransferMenu", ""}, {"LoadRoster", ""},    {"LoadRoster", "OPENONLY"},
-      {"LoadRosters", ""},  {"CourseTable", "KV"}, {"TeamResults", ""},
-      {"TeamLayouts", ""},  {"KVCoursestoQB", ""}, {"KVtoQB", ""},
-      {"KVtoZD", ""},       {"QBtoKV", ""},        {"ZDtoKV", ""},
-      {"ZDtoQB", ""}};
+      {"TransferMenu", ""}, {"LoadRoster", ""},     {"LoadRoster", "OPENONLY"},
+      {"LoadRosters", ""},  {"CourseTable", "KV"},  {"TeamResults", ""},
+      {"TeamLayouts", ""},  {"KVCoursestoQB", ""},  {"KVtoQB", ""},
+      {"KVtoZD", ""},       {"QBtoKV", ""},         {"ZDtoKV", ""},
+      {"ZDtoQB", ""},       {"TransferHistory", ""}};
   const std::map<std::string, const char*> kPressed = {{"CourseTable", "EditCourseButton"},
                                                        {"CourseForm", "EditTeeButton"},
                                                        {"TeamResults", "SortButton"},
-                                                       {"TeamLayouts", "NewButton"}};
+                                                       {"TeamLayouts", "NewButton"},
+                                                       {"KVCoursestoQB", "PreviewButton"}};
   TestInstall install(false);
   MakeDemoInstall(install.state());
   std::string flags;
@@ -94,12 +95,15 @@ TEST(FlagsTest, OfEachScreenOnTheDemonstrationInstall) {
             "XReportsCustomTeamResults: CancelButton=X"
             " grid1=.111.111.....hhhh....hhhh.....hhhh....hhhh.\n"
             "KVCoursestoQB: CancelButton=X TransferCourses=E\n"
+            "ChangePreview: ChangeList=h.... CloseButton=X\n"
             "KVtoQB: Convert18Hcpto9Hcp=h ExitButton=X TransferButton=E grid1=h.15.\n"
             "KVtoZD: CancelButton=X Frame2=h Message=r\n"
             "QBtoKV: ExitButton=X FirstTimeLoaded=h LTeeCombo=.hhhh MTeeCombo=.hhhh Message=r"
             " QBLTee=.hhhh QBLTeeLabel=.hhhh QBMTee=.hhhh QBMTeeLabel=.hhhh TransferButton=E\n"
             "ZDtoKV: ExitButton=X Frame1=h Message=r\n"
-            "ZDtoQB: CancelButton=X Frame1=h Message=r\n");
+            "ZDtoQB: CancelButton=X Frame1=h Message=r\n"
+            "TransferHistory: ChangesButton=d CopyButton=d ExitButton=X ForgetButton=d ReportText=r"
+            " RunList=h..... SaveButton=d UndoButton=d\n");
 }
 
 }  // namespace

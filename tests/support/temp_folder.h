@@ -54,9 +54,9 @@ class TempFolder {
     std::map<std::string, std::string> files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(At(below))) {
       if (!entry.is_regular_file()) continue;
-      std::ifstream file(entry.path(), std::ios::binary);
-      files[entry.path().lexically_relative(At(below)).generic_string()].assign(
-          std::istreambuf_iterator<char>(file), {});
+      std::string& bytes = files[entry.path().lexically_relative(At(below)).generic_string()];
+      bytes.resize(entry.file_size());
+      std::ifstream(entry.path(), std::ios::binary).read(bytes.data(), std::ssize(bytes));
     }
     return files;
   }
