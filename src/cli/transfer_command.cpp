@@ -182,6 +182,7 @@ ExitCode Transfer(const Options& options, const TransferCommand& command, Applic
   if (!options.json) report.Write(out);
   if (options.dry_run) WriteHeldChanges(options, application.state());
   WriteLeftOut(host.left_out(), options.json ? nullptr : &out, log);
+  if (options.dry_run) log.Add("A dry run: nothing was changed.");
   log.End(code, history);
   if (options.json && !refused && !failed) WriteResult(command, host, options.dry_run, history);
   return code;

@@ -148,7 +148,10 @@ class UndoCommand {
               << '\n';
     if (!result_.conflicts.empty()) {
       std::cout << CountText() << " changed since and "
-                << (request_.dry_run ? "would be left" : "were left") << ", see above.\n";
+                << (request_.dry_run                ? "would be left"
+                    : result_.conflicts.size() == 1 ? "was left"
+                                                    : "were left")
+                << ", see above.\n";
     }
   }
 

@@ -184,7 +184,7 @@ std::vector<ChangedField> ChangeDescriber::ScoresOf(const RecordChange& change) 
   return fields;
 }
 
-// Returns the date, the course and the gross score.
+// Returns the date, the course and the gross score. League scores have only an adjusted score.
 std::string ChangeDescriber::ScoreText(std::string_view file, const std::string& score) {
   const auto entry = RecordOf<KelvaneScoreLayout>(score);
   const std::int64_t number = entry.Get<"CourseNumber">();
@@ -197,7 +197,7 @@ std::string ChangeDescriber::ScoreText(std::string_view file, const std::string&
     if (!record || course.empty()) course = "course " + std::to_string(number);
   }
   return FormatDay(entry.Get<"Date">(), reader_.state().DateFormat) + ", " + course + ", " +
-         std::to_string(entry.Get<"Gross">());
+         std::to_string(entry.Get<"Gross">() > 0 ? entry.Get<"Gross">() : entry.Get<"Adjusted">());
 }
 
 }  // namespace golf

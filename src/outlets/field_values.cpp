@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "core/date_value.h"
+#include "core/number_text.h"
 #include "core/text.h"
 
 namespace golf {
@@ -16,6 +17,8 @@ namespace {
 // The fields that hold a handicap or an index in strokes. A negative one is a plus handicap.
 constexpr std::string_view kHandicaps[] = {"EventHandicap", "Handicap",          "HandicapPlayed",
                                            "Index",         "TourGrossHandicap", "TourIndex"};
+
+constexpr double kCurrencyScale = 10000;
 
 bool IsHandicap(const Field& field) {
   return std::find(std::begin(kHandicaps), std::end(kHandicaps), field.name) !=
@@ -97,8 +100,16 @@ std::string ShownElement(const Field& field, std::string_view record, std::size_
     const std::string day = FormatDay(std::get<double>(value), date_format);
     if (std::get<double>(value) != 0 && !day.empty()) return day;
   }
-  std::string number = ValueText(value);
-  if (IsHandicap(field) && number.starts_with('-')) number.front() = '+';
+  if (field.type == FieldType::kCurrency) {
+    return FormatNumber(static_cast<double>(std::get<std::int64_t>(value)) / kCurrencyScale,
+                        "0.00##");
+  }
+  if (!IsHandicap(field)) return ValueText(value);
+  std::string number = std::holds_alternative<float>(value)
+                           ? FormatNumber(std::get<float>(value), "0.####")
+                           : ValueText(value);
+  if (number.ends_with('.')) number.pop_back();
+  if (number.starts_with('-')) number.front() = '+';
   return number;
 }
 

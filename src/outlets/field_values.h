@@ -30,7 +30,7 @@ std::string ShortHexText(std::string_view bytes);
 std::string ValueText(const FieldValue& value);
 
 // Returns an element in the form in which the siblings show it: a date in `date_format`, a plus
-// handicap with a plus sign, a text in quotes.
+// handicap with a plus sign, an amount of money with its decimals, a text in quotes.
 std::string ShownElement(const Field& field, std::string_view record, std::size_t nth,
                          std::string_view date_format);
 

@@ -377,7 +377,7 @@ TEST_F(DesktopTest, RepeatedQuestionsCanBeAnsweredAtOnceOrStopTheRun) {
       host.Operate([&] {
         RunTransfer(host.Load("TransferMenu"), state(), host, RunEnding::kCommit, [&] {
           ScreenRun asking(state(), host, {}, {.command = "golfers-kv-to-qb", .about = "Club"});
-          state().files.DeleteFile(state().KVDataPath + "kvcrs.dat");
+          state().files.gate().Delete(state().KVDataPath + "kvcrs.dat");
           for (int i = 1; i <= 5; ++i) {
             const std::string text = "Golfer " + std::to_string(i);
             const Box box{.title = "Again?",

@@ -96,6 +96,12 @@ void ScreenRun::Commit(const RunReport& report, const NumberedError* ended_by,
       committed_ = true;
       return;
     }
+    const HeldChanges* const held = transactions_.held().held();
+    const bool refused = report.end == RunEnd::kRefused && ended_by == nullptr;
+    if (refused && (held == nullptr || held->IsEmpty())) {
+      committed_ = true;  // nothing needs a commit, and the operator has seen the reason
+      return;
+    }
     ConfirmPreview(state_, host_, {.left_out = report.left_out, .ended_by = ended_by});
   }
   while (true) {
