@@ -31,6 +31,8 @@ bool IsUntouched(const HistoryPlace& place, std::string_view now) {
     if (run.End() <= both) {
       return std::memcmp(now.data() + run.at - first, old_bytes.data() + run.at, run.size) == 0;
     }
+    // Behind the old end, an added record has no old bytes that could differ.
+    if (first + now.size() <= run.at && old_bytes.size() <= run.at) return true;
     return AllOf(run, [&](std::size_t at) { return IsByteOf(old_bytes, now, first, at); });
   });
 }
