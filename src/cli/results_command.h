@@ -30,7 +30,8 @@ struct ResultsRun {
            const std::function<void(const NumberedError&)>& failed);
 };
 
-// Each of these functions writes one kind of results of the open tournament for its active round.
+// These functions write the results of the active round of the open tournament: for each player,
+// for each team, or under a custom layout.
 void ShowPlayers(ResultsRun& run);
 void ShowTeams(ResultsRun& run);
 void ShowCustom(ResultsRun& run);

@@ -33,6 +33,11 @@ std::string ReadAll(File& file, std::int64_t length) {
 
 }  // namespace
 
+bool HeldChanges::HasNetChange() const {
+  return !deletions_.empty() || std::any_of(files_.begin(), files_.end(),
+                                            [](const auto& file) { return file->HasNetChange(); });
+}
+
 std::shared_ptr<HeldFileChanges> HeldChanges::Of(const FileIdentity& identity) const {
   const auto file = std::find_if(files_.begin(), files_.end(), [&](const auto& candidate) {
     return !candidate->is_created() && candidate->real()->Identity() == identity;

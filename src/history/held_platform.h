@@ -31,7 +31,8 @@ class HeldChanges {
   // Returns the changed files in the order of their first changes.
   const std::vector<std::shared_ptr<HeldFileChanges>>& files() const { return files_; }
   const std::vector<HeldDeletion>& deletions() const { return deletions_; }
-  bool IsEmpty() const { return files_.empty() && deletions_.empty(); }
+  // True if the files would differ from their state before the run.
+  bool HasNetChange() const;
 
   // Both functions return the changes of a file, or null if it has none.
   std::shared_ptr<HeldFileChanges> Of(const FileIdentity& identity) const;

@@ -17,12 +17,6 @@ namespace {
 constexpr double kDaysKept = 90;
 constexpr std::size_t kRunsKept = 50;
 
-bool HasNetChange(const HeldChanges& changes) {
-  return !changes.deletions().empty() ||
-         std::any_of(changes.files().begin(), changes.files().end(),
-                     [](const auto& file) { return file->HasNetChange(); });
-}
-
 // Reports that applying a run has failed, and that putting it back has failed, too.
 class RunInterrupted : public NumberedError {
  public:
@@ -110,7 +104,7 @@ std::int32_t Transactions::Commit(std::string_view report) {
     previewed_report_ = std::move(reports);
     return 0;
   }
-  if (!HasNetChange(changes)) {
+  if (!changes.HasNetChange()) {
     Drop();
     return 0;
   }

@@ -20,8 +20,9 @@ class ChangeSummary {
 
   // Returns the number of changed records plus the number of changed files without records.
   std::int64_t Count() const { return static_cast<std::int64_t>(whole_files_.size()) + records_; }
-  // Returns one line such as "10 golfers changed, 2 added in Quenby; 1 file". It is "Nothing" if
-  // nothing was added. A file that is derived from another one only counts as a file.
+  // Returns one line such as "10 golfers changed, 2 added in Quenby; 1 file". Returns
+  // "Nothing" if no change was added. A derived file, such as a course index, counts only as a
+  // file.
   std::string Text() const;
 
  private:

@@ -9,11 +9,11 @@
 
 #include "app/application.h"
 #include "app/demo/demo_install.h"
-#include "outlets/file_kinds.h"
 #include "cli/field_text.h"
 #include "cli/results_players.h"
 #include "cli/results_teams.h"
 #include "forms/headless_host.h"
+#include "outlets/file_kinds.h"
 #include "scoring/layouts/custom_standings.h"
 #include "scoring/open_tournament.h"
 #include "scoring/player/player_class.h"

@@ -35,8 +35,8 @@ void AddCombinations(int players, int size, std::vector<LayoutChoice>& choices) 
   }
 }
 
-// Adds the choices for the sum of the 2 to `players` best or worst balls. The code of a choice is
-// `letter` and the digits from 1 to its number of balls.
+// Adds the choices for the sums of 2 up to `players` balls, the best or the worst ones. The
+// code of the sum of 3 balls is `letter` followed by "123".
 void AddTotals(int players, char letter, const std::string& words, const std::string& side,
                std::vector<LayoutChoice>& choices) {
   for (int n = 2; n <= players; ++n) {

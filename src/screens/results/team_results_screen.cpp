@@ -12,8 +12,8 @@
 #include "scoring/team/team_class.h"
 #include "scoring/tournament_class.h"
 #include "screens/results/grid_sort_screen.h"
-#include "stores/quenby/program_class.h"
 #include "screens/table_export.h"
+#include "stores/quenby/program_class.h"
 
 namespace golf {
 namespace {

@@ -98,7 +98,7 @@ void ScreenRun::Commit(const RunReport& report, const NumberedError* ended_by,
     }
     const HeldChanges* const held = transactions_.held().held();
     const bool refused = report.end == RunEnd::kRefused && ended_by == nullptr;
-    if (refused && (held == nullptr || held->IsEmpty())) {
+    if (refused && (held == nullptr || !held->HasNetChange())) {
       committed_ = true;  // nothing needs a commit, and the operator has seen the reason
       return;
     }

@@ -34,9 +34,10 @@ class RosterPlayers {
   bool IsRosterFileOpen() const { return file_ > 0; }
   std::int32_t RosterFileLength();
   void BlankPlayerRecord();
-  // Returns the first free record from `start` on. Returns the record after the end of the file, or
-  // `start` if that is higher, if no record is free. First raises `start` to 10 if it is lower.
-  // Afterwards the buffer contains the last record read.
+  // Returns the number of the first free record, beginning at `start`. The search never begins
+  // below record 10: a lower `start` is set to 10. If no record is free, returns the number after
+  // the last record of the file, but at least `start`. Afterwards the buffer contains the last
+  // record read.
   std::int32_t FindAvailableRecordInRosterFile(std::int16_t& start);
   // Returns the number of the record in the buffer, in the format "000".
   std::string RecordNumber() const;
