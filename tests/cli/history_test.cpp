@@ -5,6 +5,7 @@
 
 #include "cli/command_line_fixture.h"
 #include "core/text.h"
+#include "outlets/file_kinds.h"
 #include "support/bytes.h"
 
 namespace golf {
@@ -23,15 +24,8 @@ constexpr const char* kTransfers[] = {
     "scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18",
     "scores-zd-to-kv --league 00021 --batch 2 --roster CLUB18 --again no"};
 
-// Returns the length of a record by the end of the file's name.
 std::size_t LengthOf(const std::string& file) {
-  constexpr std::pair<const char*, std::size_t> kLengths[] = {
-      {".KVG", 2804}, {".KVS", 14700}, {".KV5", 781},  {"QBGOLFER.Q9D", 1867},
-      {".Q9G", 3052}, {".ZP8", 8012},  {".ZS8", 8012}, {"CRS.DAT", 3226}};
-  for (const auto& [ending, length] : kLengths) {
-    if (UpperCase(file).ends_with(ending)) return length;
-  }
-  return 1;
+  return LayoutOfFile(file.substr(file.find('/') + 1))->length;
 }
 
 class HistoryTest : public CommandLineTest {
@@ -72,14 +66,11 @@ using Names = std::set<std::string>;
 
 Names FilesThatDiffer(const std::map<std::string, std::string>& some,
                       const std::map<std::string, std::string>& others) {
+  std::map<std::string, std::string> differing;
+  std::set_symmetric_difference(some.begin(), some.end(), others.begin(), others.end(),
+                                std::inserter(differing, differing.end()));
   Names files;
-  for (const auto* each : {&some, &others}) {
-    for (const auto& [name, bytes] : *each) {
-      const bool same =
-          some.contains(name) && others.contains(name) && some.at(name) == others.at(name);
-      if (!same) files.insert(name);
-    }
-  }
+  for (const auto& file : differing) files.insert(file.first);
   return files;
 }
 
@@ -251,8 +242,7 @@ TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
   };
   for (const auto& c : kCases) {
     SCOPED_TRACE(c.section);
-    std::filesystem::remove_all(folder.Path("i"));
-    ASSERT_EQ(Run("demo i").code, 0);
+    MakeDemo();
     std::string bytes = folder.Read(std::string("i/") + c.file);
     Write(c.file, bytes.replace(c.at, c.bytes.size(), c.bytes));
     EXPECT_TRUE(In(c.words + " --dry-run").out.ends_with(c.section));
@@ -298,8 +288,7 @@ TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
   };
   for (const auto& c : kCases) {
     SCOPED_TRACE(std::string(kTransfers[c.transfer]) + " " + c.file);
-    std::filesystem::remove_all(folder.Path("i"));
-    ASSERT_EQ(Run("demo i").code, 0);
+    MakeDemo();
     const Tree before = Data();
     Transfer(kTransfers[c.transfer]);
     Tree after = Data();

@@ -19,14 +19,6 @@ class PreviewTest : public CommandLineTest {
     });
     return files;
   }
-  // Data contain moments.
-  Ended Script(const std::string& lines) {
-    return Run("--install i --now \"2026-05-13 12:00:00\" script -", lines);
-  }
-  void Restore(const Tree& files) {
-    for (const auto& [name, bytes] : AllFiles()) folder.Remove("i/" + name);
-    for (const auto& [name, bytes] : files) folder.Write("i/" + name, bytes);
-  }
   std::string Shown(const std::vector<json>& events, const std::string& control,
                     const char* key = "text") {
     for (const json& event : events) {
@@ -36,26 +28,23 @@ class PreviewTest : public CommandLineTest {
   }
 };
 
-struct PreviewCase {
-  const char* set_up;
-  const char* transfer;  // the button that transfers at once
-  const char* counts;
-};
-
-const PreviewCase kCases[] = {
-    {"open KVCoursestoQB\n", "TransferCourses", "2 courses changed, 5 added in Quenby; 4 files"},
-    {"open KVtoQB\nset HandicapRoster CLUB18\nset TournamentRoster \"Larkfield Members 001\"\n"
-     "answer \"Update Handicaps?\" YES\n",
-     "TransferButton",
-     "10 golfers changed, 2 added in Quenby; 12 tournament entries changed in Quenby; 2 files"},
-    {"open ZDtoQB\nset LeagueRoster \"Larkfield 00011\"\n"
-     "set TournamentRoster \"Larkfield Members 001\"\n",
-     "TransferButton", "6 golfers added in Quenby; 1 file; 2 left out"}};
-
 TEST_F(PreviewTest, TransferNowDoesWhatTheTransferDoesAndCloseDoesNothing) {
+  const struct {
+    const char* set_up;
+    const char* transfer;  // the button that transfers at once
+    const char* counts;
+  } kCases[] = {
+      {"open KVCoursestoQB\n", "TransferCourses", "2 courses changed, 5 added in Quenby; 4 files"},
+      {"open KVtoQB\nset HandicapRoster CLUB18\nset TournamentRoster \"Larkfield Members 001\"\n"
+       "answer \"Update Handicaps?\" YES\n",
+       "TransferButton",
+       "10 golfers changed, 2 added in Quenby; 12 tournament entries changed in Quenby; 2 files"},
+      {"open ZDtoQB\nset LeagueRoster \"Larkfield 00011\"\n"
+       "set TournamentRoster \"Larkfield Members 001\"\n",
+       "TransferButton", "6 golfers added in Quenby; 1 file; 2 left out"}};
   const Tree pristine = AllFiles();
   const Tree before = Data();
-  for (const PreviewCase& c : kCases) {
+  for (const auto& c : kCases) {
     SCOPED_TRACE(c.set_up);
     const std::string preview = std::string(c.set_up) + "click PreviewButton\nshow CountsLabel\n";
     const auto closed = JsonLines(Script(preview + "click CloseButton\nshow\n").out);

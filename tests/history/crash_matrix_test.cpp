@@ -1,13 +1,9 @@
 // Kills each transaction at each of its changes, also by a power cut, and each recovery from that.
 // Afterwards the files are as before the transaction, or as after it.
 
-#include <gtest/gtest.h>
-
 #include <optional>
 
 #include "history/memory_install.h"
-#include "support/error_of.h"
-#include "support/failing_platform.h"
 
 namespace golf {
 namespace {

@@ -1,7 +1,5 @@
 // Tests that held changes are read as if they were on the disk, and are written at the commit only.
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <random>
 #include <set>
@@ -9,8 +7,6 @@
 #include "core/file_table.h"
 #include "history/hold_failed.h"
 #include "history/memory_install.h"
-#include "support/error_of.h"
-#include "support/failing_platform.h"
 
 namespace golf {
 namespace {

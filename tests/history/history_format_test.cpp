@@ -1,7 +1,5 @@
 // Tests the code of places, and history files that are damaged.
 
-#include <gtest/gtest.h>
-
 #include <random>
 #include <sstream>
 

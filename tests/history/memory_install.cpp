@@ -34,20 +34,16 @@ DataFiles DataOf(const MemoryPlatform& disk) {
 }
 
 std::string Difference(const DataFiles& found, const DataFiles& expected) {
-  std::string text;
   const auto size = [](const DataFiles& files, const std::string& path) {
-    const auto file = files.find(path);
-    return file == files.end() ? "none" : std::to_string(file->second.size());
+    return files.contains(path) ? std::to_string(files.at(path).size()) : "none";
   };
-  const auto compare = [&](const DataFiles& some, const DataFiles& others, bool told_all) {
-    for (const auto& [path, bytes] : some) {
-      const auto other = others.find(path);
-      const bool same = other != others.end() && (!told_all || other->second == bytes);
-      if (!same) text += path + " (" + size(found, path) + ", not " + size(expected, path) + ") ";
-    }
-  };
-  compare(expected, found, true);
-  compare(found, expected, false);
+  DataFiles differing;
+  std::set_symmetric_difference(found.begin(), found.end(), expected.begin(), expected.end(),
+                                std::inserter(differing, differing.end()));
+  std::string text;
+  for (const auto& [path, bytes] : differing) {
+    text += path + " (" + size(found, path) + ", not " + size(expected, path) + ") ";
+  }
   return text;
 }
 
@@ -126,10 +122,7 @@ std::span<const Deed> Deeds() {
 }
 
 const Deed& DeedNamed(std::string_view name) {
-  for (const Deed& deed : Deeds()) {
-    if (deed.name == name) return deed;
-  }
-  throw std::logic_error("There is no such deed.");
+  return *std::ranges::find(Deeds(), name, &Deed::name);
 }
 
 std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <map>
 #include <memory>
@@ -9,6 +11,8 @@
 #include <vector>
 
 #include "history/transactions.h"
+#include "support/error_of.h"
+#include "support/failing_platform.h"
 #include "support/memory_platform.h"
 
 namespace golf {

@@ -7,8 +7,7 @@
 #include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
 #include "support/bytes.h"
-#include "support/same_file.h"
-#include "support/test_host.h"
+#include "support/file_checks.h"
 
 namespace golf {
 namespace {

@@ -5,9 +5,7 @@
 
 #include "screens/transfers/kv_courses_to_qb.h"
 #include "support/bytes.h"
-#include "support/fault_walk.h"
-#include "support/same_file.h"
-#include "support/test_host.h"
+#include "support/file_checks.h"
 
 namespace golf {
 namespace {

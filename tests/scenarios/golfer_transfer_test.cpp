@@ -7,9 +7,7 @@
 #include "screens/transfers/kv_to_qb.h"
 #include "stores/quenby/program_class.h"
 #include "support/bytes.h"
-#include "support/fault_walk.h"
-#include "support/same_file.h"
-#include "support/test_host.h"
+#include "support/file_checks.h"
 
 namespace golf {
 namespace {

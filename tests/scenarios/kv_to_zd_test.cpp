@@ -1,8 +1,7 @@
 #include "screens/transfers/kv_to_zd.h"
 
-#include "support/fault_walk.h"
+#include "support/file_checks.h"
 #include "support/league_test.h"
-#include "support/same_file.h"
 
 namespace golf {
 namespace {

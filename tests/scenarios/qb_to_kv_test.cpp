@@ -5,10 +5,8 @@
 #include "screens/rosters/load_roster.h"
 #include "stores/kelvane/kelvane_layouts.h"
 #include "support/bytes.h"
-#include "support/fault_walk.h"
-#include "support/same_file.h"
+#include "support/file_checks.h"
 #include "support/scored_round.h"
-#include "support/test_host.h"
 
 namespace golf {
 namespace {

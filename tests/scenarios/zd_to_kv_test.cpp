@@ -2,9 +2,8 @@
 
 #include "screens/rosters/load_roster.h"
 #include "stores/course/course_layout.h"
-#include "support/fault_walk.h"
+#include "support/file_checks.h"
 #include "support/league_test.h"
-#include "support/same_file.h"
 
 namespace golf {
 namespace {

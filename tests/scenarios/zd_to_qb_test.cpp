@@ -3,9 +3,8 @@
 #include <cmath>
 
 #include "screens/rosters/load_rosters.h"
-#include "support/fault_walk.h"
+#include "support/file_checks.h"
 #include "support/league_test.h"
-#include "support/same_file.h"
 
 namespace golf {
 namespace {

@@ -7,8 +7,8 @@
 #include <functional>
 #include <set>
 
-#include "support/change_pass.h"
 #include "support/error_of.h"
+#include "support/failing_platform.h"
 
 namespace golf {
 namespace {
@@ -57,78 +57,50 @@ class MemoryPlatformTest : public testing::Test {
 
 TEST_F(MemoryPlatformTest, APowerCutTakesWhatIsNotSynced) {
   const char* const kBefore = "BUSY=busy OLD=old";
+  using Step = std::function<void()>;
+  const Step write = [&] { Write("/d/old", 1, "LDER"); }, sync = [&] { Sync("/d/old"); };
+  const Step cut = [&] { Open("/d/old")->Truncate(TestPass(), 1); };
+  const Step remove = [&] { Delete("/d/old"); };
+  const Step rename = [&] { Rename("/d/old", "/d/busy"); };
+  const Step make = [&] { Create("/d/new"); }, fill = [&] { Write("/d/new", 0, "new"); };
+  const Step sync_new = [&] { Sync("/d/new"); }, sync_d = [&] { SyncFolder("/D/"); };
+  const Step make_e = [&] { memory.CreateFolder(TestPass(), "/e"); };
+  const Step make_in_e = [&] { Create("/e/new"); }, sync_e = [&] { SyncFolder("/e"); };
+  const Step sync_root = [&] { SyncFolder("/"); }, again = [&] { Create("/d/old"); };
+  const Step move = [&] { Rename("/d/old", "/e/old"); };
   const struct {
     const char* name;
-    std::function<void()> change;
+    std::vector<Step> steps;
     std::string lost;  // the files without everything that is not synced
     std::string kept;
   } kRows[] = {
-      {"bytes", [&] { Write("/d/old", 1, "LDER"); }, kBefore, "BUSY=busy OLD=oLDER"},
-      {"synced bytes",
-       [&] {
-         Write("/d/old", 1, "LDER");
-         Sync("/d/old");
-       },
-       "BUSY=busy OLD=oLDER", "BUSY=busy OLD=oLDER"},
-      {"a length", [&] { Open("/d/old")->Truncate(TestPass(), 1); }, kBefore, "BUSY=busy OLD=o"},
-      {"a deletion", [&] { Delete("/d/old"); }, kBefore, "BUSY=busy"},
-      {"a synced deletion",
-       [&] {
-         Delete("/d/old");
-         SyncFolder("/D");
-       },
-       "BUSY=busy", "BUSY=busy"},
-      {"a file without its name",
-       [&] {
-         Create("/d/new");
-         Write("/d/new", 0, "new");
-         Sync("/d/new");
-       },
-       kBefore, "BUSY=busy NEW=new OLD=old"},
+      {"bytes", {write}, kBefore, "BUSY=busy OLD=oLDER"},
+      {"synced bytes", {write, sync}, "BUSY=busy OLD=oLDER", "BUSY=busy OLD=oLDER"},
+      {"a length", {cut}, kBefore, "BUSY=busy OLD=o"},
+      {"a deletion", {remove}, kBefore, "BUSY=busy"},
+      {"a synced deletion", {remove, sync_d}, "BUSY=busy", "BUSY=busy"},
+      {"a file without its name", {make, fill, sync_new}, kBefore, "BUSY=busy NEW=new OLD=old"},
       {"a name without its bytes",
-       [&] {
-         Create("/d/new");
-         Write("/d/new", 0, "new");
-         SyncFolder("/d/");
-       },
-       "BUSY=busy NEW= OLD=old", "BUSY=busy NEW=new OLD=old"},
-      {"a renaming", [&] { Rename("/d/old", "/d/busy"); }, kBefore, "BUSY=old"},
-      {"a synced renaming",
-       [&] {
-         Rename("/d/old", "/d/busy");
-         SyncFolder("/d");
-       },
-       "BUSY=old", "BUSY=old"},
-      {"a folder",
-       [&] {
-         memory.CreateFolder(TestPass(), "/e");
-         Create("/e/new");
-         SyncFolder("/e");
-       },
-       kBefore, "BUSY=busy OLD=old /E/NEW="},
+       {make, fill, sync_d},
+       "BUSY=busy NEW= OLD=old",
+       "BUSY=busy NEW=new OLD=old"},
+      {"a renaming", {rename}, kBefore, "BUSY=old"},
+      {"a synced renaming", {rename, sync_d}, "BUSY=old", "BUSY=old"},
+      {"a folder", {make_e, make_in_e, sync_e}, kBefore, "BUSY=busy OLD=old /E/NEW="},
       {"a renaming with one folder of the two synced",
-       [&] {
-         memory.CreateFolder(TestPass(), "/e");
-         SyncFolder("/");
-         Rename("/d/old", "/e/old");
-         SyncFolder("/e");
-       },
-       kBefore, "BUSY=busy /E/OLD=old"},
+       {make_e, sync_root, move, sync_e},
+       kBefore,
+       "BUSY=busy /E/OLD=old"},
       {"the changes of a name up to the one that is synced",
-       [&] {
-         memory.CreateFolder(TestPass(), "/e");
-         SyncFolder("/");
-         Rename("/d/old", "/e/old");
-         Create("/d/old");
-         SyncFolder("/d");
-       },
-       "BUSY=busy OLD= /E/OLD=old", "BUSY=busy OLD= /E/OLD=old"},
+       {make_e, sync_root, move, again, sync_d},
+       "BUSY=busy OLD= /E/OLD=old",
+       "BUSY=busy OLD= /E/OLD=old"},
   };
   const MemoryPlatform before = memory.Copy();
   for (const auto& row : kRows) {
     SCOPED_TRACE(row.name);
     memory = before.Copy();
-    row.change();
+    for (const Step& step : row.steps) step();
     MemoryPlatform kept = memory.Copy();
     memory.PowerCut(0);
     EXPECT_EQ(FilesOf(memory), row.lost);
