@@ -221,6 +221,18 @@ TEST_F(HistoryTest, ChangesHaveTheFormOfADump) {
       << text;
 }
 
+// The golfer is no longer in the roster, so the history has the name that the run has noted.
+TEST_F(HistoryTest, AChangeKeepsTheNameOfItsGolfer) {
+  Transfer(kTransfers[4]);
+  Write("kvdata/CLUB18.kvg", "");
+  for (const json& change : JsonLines(In("history show 1 --json").out)) {
+    if (change.value("file", "") != "kvdata/CLUB18.kvs" || change["record"] != 1) continue;
+    EXPECT_EQ(change["title"], "Bergstrom, Anna");
+    return;
+  }
+  ADD_FAILURE() << "no change";
+}
+
 // The section is the last one of the output. The log and the stored report contain it, too.
 TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
   const std::string zeros(4, '\0');
