@@ -142,6 +142,40 @@ TEST(CommitTest, ARunThatIsStoppedHasChangedNothing) {
   }
 }
 
+// Changes that are close together are written with one call. Bytes between distant changes are not
+// written.
+TEST(CommitTest, ACommitWritesOnlyWhatHasChanged) {
+  constexpr std::size_t kFar = 10000;
+  MemoryPlatform disk;
+  const std::string before = std::string(5 * kFar, 'a');
+  disk.Bytes("changed") = before;
+  disk.SyncAll();
+  FailingPlatform counting(disk);
+  HistoryProgram program(counting);
+  program.transactions.Begin({});
+  const auto file = program.held.Open("/changed", FileAccess::kReadWriteShared);
+  // Each record has one new byte. The first two adjoin, and so do the third and the fourth.
+  const struct {
+    std::size_t at, size, new_byte;
+  } kRecords[] = {{0, 100, 50},
+                  {100, 100, 10},
+                  {kFar, kFar, 0},
+                  {2 * kFar, kFar, kFar - 1},
+                  {4 * kFar, 100, 7}};
+  for (const auto& [at, size, new_byte] : kRecords) {
+    std::string record(size, 'a');
+    record[new_byte] = 'b';
+    HistoryGate(program.held).Write(*file, static_cast<std::int64_t>(at), record);
+  }
+  program.transactions.Commit("");
+  std::string written;
+  for (const Change& change : counting.changes()) {
+    if (change.path != "/changed" || change.operation != Operation::kWrite) continue;
+    written += std::to_string(change.offset) + "+" + std::to_string(change.size) + " ";
+  }
+  EXPECT_EQ(written, "50+61 10000+1 29999+1 40007+1 ");
+}
+
 // Once the last changes are committed, a request is kept for the next click.
 TEST(CommitTest, ARequestAfterTheCommitEndsTheNextClick) {
   MemoryPlatform disk = SmallDisk();

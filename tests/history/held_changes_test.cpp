@@ -230,6 +230,19 @@ TEST(HeldChangesTest, SpilledPlacesReadAsWritten) {
   }
 }
 
+// Another program cuts the file during the run. The bytes that it has cut count as zeros.
+TEST(HeldChangesTest, AFileThatAnotherProgramHasCutIsReadWithZeros) {
+  MemoryPlatform disk;
+  disk.Bytes("a") = std::string(100, 'a');
+  SpillStore store(disk, 0);
+  HeldFileChanges changes("/a", disk.Open("/a", FileAccess::kReadWriteShared), store);
+  disk.Bytes("a").resize(50);
+  changes.WriteAt(40, std::string(30, 'b'), 0);
+  std::string read(100, '?');
+  read.resize(changes.ReadAt(0, read));
+  EXPECT_EQ(read, std::string(40, 'a') + std::string(30, 'b') + std::string(30, '\0'));
+}
+
 // A write that cannot be held ends the run.
 TEST(HeldChangesTest, WhatCannotBeHeldEndsTheRun) {
   MemoryPlatform disk;

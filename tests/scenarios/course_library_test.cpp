@@ -301,6 +301,17 @@ TEST_F(CourseLibraryTest, AFlatLadiesSlopeEndsTheClickAndLosesNothing) {
   EXPECT_TRUE(SameFile("qbcrs.dat", Read("qbcrs.dat"), course));
 }
 
+TEST_F(CourseLibraryTest, TheFormShowsTheHolesOfTheCourse) {
+  for (const auto& [holes, option] : {std::pair{18, 0}, {9, 1}, {-9, 2}}) {
+    std::string course = Course("Dunes");
+    Put16(course, 2, {holes});
+    Write(course);
+    Run(Presses("EditCourseButton"), [&, option = option](CourseForm& form) {
+      for (int i = 0; i < 3; ++i) EXPECT_EQ(form.FHoleNum[i].value(), i == option) << option;
+    });
+  }
+}
+
 TEST_F(CourseLibraryTest, ANumberWithoutRoomLeavesTheRecordAndTheEntriesAsTheyAre) {
   Write(Course("Dunes"));
   bool mended = false;

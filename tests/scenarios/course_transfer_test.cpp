@@ -145,8 +145,8 @@ TEST(CourseTransferTest, FilesByteForByte) {
                        std::to_string(outcome.updated) + "\r -> OK",
                    "close KVCoursestoQB", "end"}));
     ExpectOutcome(install, outcome);
-    EXPECT_EQ(install.host->counts()[0].second, outcome.added);
-    EXPECT_EQ(install.host->counts()[1].second, outcome.updated);
+    EXPECT_EQ(Counts(install), "added " + std::to_string(outcome.added) + ", updated " +
+                                   std::to_string(outcome.updated));
     const char* source = library.kelvane.empty() ? "kvdata/kvcrs.dat" : "kvdata/KVCRS.DAT";
     EXPECT_TRUE(Holds(install.folder, source, library.kelvane));
   }

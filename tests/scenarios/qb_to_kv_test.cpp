@@ -25,7 +25,7 @@ struct Player {
 // The operator's choices and the tournament.
 struct Setting {
   int course = -1;  // the item in the list; below 0: the matched one
-  bool as_tournament = false, points = false, by_total = false, date = true;
+  bool as_tournament = false, points = false, by_total = false, date = true, previewed = false;
   int holes = 18, roster_holes = 18;
   std::string half = std::string(9, '\0');  // the waiting nine of each golfer
 };
@@ -64,6 +64,17 @@ struct Score {
     return bytes;
   }
 };
+
+// Returns the texts of the labels and lists that the screen shows.
+std::string Shown(const Screen& screen) {
+  std::string shown;
+  for (Control* control : screen.controls()) {
+    if (!control->IsShown()) continue;
+    if (const auto* label = dynamic_cast<Label*>(control)) shown += label->caption() + "|";
+    if (const auto* list = dynamic_cast<ComboBox*>(control)) shown += list->text() + "|";
+  }
+  return shown;
+}
 
 class QbToKvTest : public testing::Test {
  protected:
@@ -160,18 +171,27 @@ class QbToKvTest : public testing::Test {
   void Run(const Setting& setting) {
     if (setting.points) install.host->QueueAnswer("Transfer QB points to KV Score?", "yes");
     install.Open("QBtoKV", [&](Screen& screen) {
+      if (screen.name() == "ChangePreview") return;  // it is closed
       if (PickRoster<LoadRoster>(*install.host, screen, 1)) return;
       auto& transfer = dynamic_cast<QBtoKV&>(screen);
       install.host->Press(screen, "DestButton");
       captions = transfer.TransferButton.caption();
       transfer.RoundList.Select(1);
       captions += ", " + transfer.TransferButton.caption();
+      const std::string matched = Shown(transfer);
+      transfer.QBCourse.SetCaption("");
+      if (setting.previewed) {
+        install.host->Press(screen, "PreviewButton");
+        for (const int round : {0, 1}) transfer.RoundList.Select(round);
+        EXPECT_EQ(Shown(transfer), matched);
+      }
       if (setting.course >= 0) transfer.CourseCombo.Select(setting.course);
       transfer.TCheck.Choose(setting.as_tournament);
       if (setting.points) transfer.TCheck2.Choose(true);
       install.host->Press(screen, "TransferButton");
       report = transfer.Message.text();
       EXPECT_EQ(transfer.TransferButton.visible(), report.empty());
+      EXPECT_EQ(transfer.QBCourse.caption(), "North park");
       transfer.RoundList.Select(0);
       EXPECT_TRUE(transfer.TransferButton.visible());
     });
@@ -216,7 +236,7 @@ TEST_F(QbToKvTest, AnEntryByteForByte) {
     const Score* score;  // null: a half waits instead
     double date = kDay;
   } kCases[] = {
-      {"course and tee by name", {}, &plain},
+      {"course and tee by name", {.previewed = true}, &plain},
       {"away, tournament", {.course = 0, .as_tournament = true}, &away},
       {"points", {.points = true}, &points},
       {"a typed total", {.by_total = true}, &typed},
@@ -267,6 +287,7 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
             "Player 9, A: not in this roster\n"
             "Player 7, A: already transferred, and not transferred again\n"
             "Player 8, A: already transferred\n");
+  EXPECT_EQ(Counts(install), "transferred 3, alreadyTransferred 2, toTransfer 3, notFound 2");
   EXPECT_EQ(captions, "Transfer round #1 scores, Transfer round #2 scores");
   EXPECT_TRUE(
       Told(install,

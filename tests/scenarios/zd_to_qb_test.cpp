@@ -164,6 +164,8 @@ TEST(ZDtoQBTest, FilesAndReportByteForByte) {
     WriteInstall(install, c);
     const Outcome outcome(c);
     EXPECT_EQ(Transfer(install), outcome.log());
+    EXPECT_EQ(Counts(install), "updated " + std::to_string(outcome.updated) + ", added " +
+                                   std::to_string(outcome.added));
     EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", outcome.states.back()));
     EXPECT_TRUE(Holds(install.folder, "zddata/00011.ZP8", c.players));
     EXPECT_TRUE(Holds(install.folder, "zddata/0001.ZS8", c.substitutes));

@@ -114,6 +114,15 @@ inline std::string LeftOutLines(const TestInstall& install) {
   return lines;
 }
 
+// Returns the counts that the runs have noted, such as "ADDED 3, UPDATED 1".
+inline std::string Counts(const TestInstall& install) {
+  std::string counts;
+  for (const auto& [name, count] : install.host->counts()) {
+    counts += (counts.empty() ? "" : ", ") + name + " " + std::to_string(count);
+  }
+  return counts;
+}
+
 // True if an event came, as RecordingListener records it, or one with this beginning.
 inline bool ToldBeginning(const TestInstall& install, const std::string& beginning) {
   const auto& events = install.listener.events;
