@@ -1,6 +1,5 @@
 // Tests the history of runs, undo and recovery on the demonstration with the real program.
 
-#include <algorithm>
 #include <set>
 
 #include "cli/command_line_fixture.h"

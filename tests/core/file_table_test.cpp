@@ -1,7 +1,6 @@
 #include "core/file_table.h"
 
 #include <functional>
-#include <random>
 
 #include "support/files_test.h"
 

@@ -2,8 +2,6 @@
 #include <wx/menu.h>
 #include <wx/stattext.h>
 
-#include <filesystem>
-
 #include "desktop/demo_desktop.h"
 #include "desktop/invocation.h"
 #include "desktop/operator.h"

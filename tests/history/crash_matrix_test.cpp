@@ -1,8 +1,6 @@
 // Kills each transaction at each of its changes, also by a power cut, and each recovery from that.
 // Afterwards the files are as before the transaction, or as after it.
 
-#include <optional>
-
 #include "history/memory_install.h"
 
 namespace golf {

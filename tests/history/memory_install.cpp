@@ -1,8 +1,6 @@
 #include "history/memory_install.h"
 
-#include <algorithm>
 #include <sstream>
-#include <stdexcept>
 
 #include "app/application.h"
 #include "app/demo/demo_install.h"

@@ -1,7 +1,5 @@
 // Tests what the screens of a course library refuse and what they leave in the files.
 
-#include <utility>
-
 #include "app/tools.h"
 #include "screens/courses/course_form.h"
 #include "screens/courses/course_table.h"

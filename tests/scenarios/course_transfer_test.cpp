@@ -1,7 +1,5 @@
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <map>
 
 #include "screens/transfers/kv_courses_to_qb.h"
 #include "support/bytes.h"

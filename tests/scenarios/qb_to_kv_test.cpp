@@ -1,12 +1,13 @@
 #include "screens/transfers/qb_to_kv.h"
 
-#include <algorithm>
+#include <gtest/gtest.h>
 
 #include "screens/rosters/load_roster.h"
 #include "stores/kelvane/kelvane_layouts.h"
 #include "support/bytes.h"
 #include "support/file_checks.h"
 #include "support/scored_round.h"
+#include "transfers/common_beginning.h"
 
 namespace golf {
 namespace {
@@ -357,6 +358,25 @@ TEST_F(QbToKvTest, NineHolesArePostedAsTheRightHalfOrNotAtAll) {
     failed = install.platform->Failed();
     const std::string history = install.folder.Read("kvdata/CLUB.KVS");
     EXPECT_TRUE(history == history_before || (failed && history == unposted));
+  }
+}
+
+TEST(CommonBeginningTest, TheLastOfTheLongest) {
+  const struct {
+    std::vector<std::string> items;
+    const char* name;
+    int chosen;
+  } kCases[] = {
+      {{"Away", "Elm", "Elm Hill", "Oak"}, "elm hills", 2},
+      {{"Away", "ELM", "Elm Hill", "Oak"}, "Elm", 2},  // both have the same length: the last item
+      {{"Away", "Elm Hill", "Elk", "Oak"}, "Elm", 1},
+      {{"Away", "Elm", "Oak"}, "Ohio", 2},  // one letter is enough
+      {{"Away", "Elm", "Oak"}, "Pine", 0},  // no item begins like this: the first item
+      {{"Oak", "Elm", ""}, "", 0},
+      {{}, "Elm", 0},
+  };
+  for (const auto& c : kCases) {
+    EXPECT_EQ(ItemWithLongestCommonBeginning(c.items, c.name), c.chosen) << c.name;
   }
 }
 

@@ -1,8 +1,6 @@
 // Tests which controls are hidden, disabled or read-only, and which buttons Enter and Escape press,
 // when each screen opens.
 
-#include <map>
-
 #include "app/demo/demo_install.h"
 #include "support/test_host.h"
 

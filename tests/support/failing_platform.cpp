@@ -1,7 +1,6 @@
 #include "support/failing_platform.h"
 
 #include <numeric>
-#include <utility>
 
 #include "core/text.h"
 

@@ -1,7 +1,5 @@
 #include "support/file_checks.h"
 
-#include <algorithm>
-#include <filesystem>
 #include <set>
 
 #include "outlets/file_kinds.h"
