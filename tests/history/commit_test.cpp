@@ -1,6 +1,9 @@
 // Tests commits that fail, runs that are requested to stop, runs that meet another program or a
 // damaged history file, and the groups of changes that an undo keeps together.
 
+#include <cstring>
+
+#include "core/text.h"
 #include "history/memory_install.h"
 #include "history/run_list.h"
 #include "history/stopped.h"
@@ -327,6 +330,12 @@ TEST(CommitFaultsTest, AQuenbyRosterIsDeletedWholeOrNotAtAll) {
   }
 }
 
+TEST(CommitTest, AnUndoGivesBackEveryKindOfChange) {
+  MemoryPlatform disk = DiskAfterEveryKind();
+  EXPECT_EQ(UndoNewest(disk), 0U);
+  EXPECT_EQ(Difference(DataOf(disk), DataOf(SmallDisk())), "");
+}
+
 // The places of the marks begin at 512 bytes and end at 4096. A file that is cut in them contains
 // no whole mark.
 TEST(CommitFaultsTest, AHistoryFileThatIsCutInItsMarksIsDamaged) {
@@ -347,6 +356,10 @@ TEST(CommitFaultsTest, AHistoryFileThatIsCutInItsMarksIsDamaged) {
 TEST(CommitFaultsTest, KeptFilesAreForgottenBeforeTheirHistoryFile) {
   MemoryPlatform disk = SmallDisk();
   EveryKind(disk);
+  for (const char* number : {"1", "2"}) {
+    const std::string kept = std::string(kRun + 1).replace(std::strlen(kRun) - 4, 3, number);
+    EXPECT_TRUE(disk.Files().contains("/" + UpperCase(kept + ".KEPT"))) << kept;
+  }
   disk.DieAt(3);
   EXPECT_THROW(ForgetAllRuns(HistoryProgram(disk).transactions.history()), Died);
   disk.Revive();

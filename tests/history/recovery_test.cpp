@@ -34,6 +34,8 @@ std::function<void(HistoryGate&, PlatformFile*)> Writes(std::int64_t offset, std
 
 const Foreign kForeign[] = {
     {"changed bytes", "/changed", Writes(4092, 5)},
+    {"a file that is cut in a change", "/changed",
+     [](HistoryGate& gate, PlatformFile* file) { gate.Truncate(*file, 4092); }},
     {"a deleted file that the run changes", "/changed", nullptr, false},
     {"records in the place of those of the run", "/grown", Writes(9000, 500)},
     {"records behind those of the run", "/grown", Writes(9000, 9000), false},
@@ -104,7 +106,7 @@ TEST(RecoveryTest, ARunThatWasPutBackCanBeFinished) {
     CommitEveryKind(failing);
   }));
   disk.Revive();
-  Make(kForeign[2], disk);
+  Make(kForeign[3], disk);
   EXPECT_TRUE(Recover(disk.Copy()).stuck);
   bool killed = true;
   for (int nth = 1; killed; ++nth) {

@@ -145,8 +145,15 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
           host().Press(form, "EditTeeButton");
         },
         [&](CourseTee& tee) {
-          Set(tee, c.control, c.text);
-          EXPECT_EQ(dynamic_cast<TextBox&>(*tee.FindControl(c.control)).text(), c.shown);
+          auto& box = dynamic_cast<TextBox&>(*tee.FindControl(c.control));
+          const std::string correct = box.text();
+          for (const std::string text : {c.text, correct.c_str(), c.text}) {
+            Set(tee, c.control, text);
+            // A handicap that occurs twice is noted at the other hole.
+            const bool is_noted = text == c.text && !c.told.empty() && text != "12";
+            EXPECT_EQ(box.note().empty(), !is_noted) << text;
+          }
+          EXPECT_EQ(box.text(), c.shown);
           install.events().clear();
           host().Press(tee, "OKButton");
           EXPECT_EQ(Told(), c.told);

@@ -136,7 +136,7 @@ TEST_F(TipBoxTest, EnterAnswersAQuestionWithNo) {
   install.listener.on_event = [&] {
     EXPECT_EQ(tip.focus(), &tip.NoButton);
     EXPECT_FALSE(tip.OKButton.visible());
-    EXPECT_TRUE(tip.is_question());
+    EXPECT_TRUE(tip.is_question() && tip.Message.read_only());
     EXPECT_TRUE(tip.always_on_top());
   };
   ShowMessage(TipBox::kQuestion, "Cancel Transfer?", "Sure?");

@@ -46,6 +46,7 @@ TEST_F(TablesTest, TeamResults) {
       "= Player|=1|=2|=3|=4|=5|=6|=7|=8|=9|=Out|=10|=11|=12|=13|=14|=15|=16|=17|=18|=In|=Total|\n";
   install.Open("TeamResults", [&](Screen& screen) {
     auto& results = dynamic_cast<TeamResults&>(screen);
+    EXPECT_EQ(results.TournamentLabel.caption(), "Autumn Medal");
     EXPECT_EQ(Shown(results.grid1),
               "-Team|= Name|= Players|+Handicap|-Out|-In|-Gross|-Net|-Points|-Best net|"
               "-2 best net|-3 best net|-4 best net|-Place|\n"

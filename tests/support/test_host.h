@@ -34,6 +34,7 @@ class RecordingListener : public HostListener {
   void OnTip(const TipView& tip, const std::string& answer) override {
     Add("tip " + std::to_string(tip.type) + " [" + tip.title + "] " + tip.text + " -> " + answer);
   }
+  void OnNotice(const std::string& text) override { Add("notice " + text); }
   void OnBeep() override { Add("beep"); }
   void OnStart(const std::string& program, const std::string& arguments) override {
     Add("start " + program.substr(program.find_last_of("/\\") + 1) + "|" + arguments);

@@ -1,19 +1,25 @@
-// Tests which controls are hidden, disabled or read-only, and which buttons Enter and Escape press,
-// when each screen opens.
+// Compares what each screen shows when it opens with the file screens.txt: the texts of its
+// controls in their order, which controls are hidden, disabled or read-only, and which buttons
+// Enter and Escape press.
+
+#include <fstream>
 
 #include "app/demo/demo_install.h"
+#include "core/code_page.h"
+#include "core/text.h"
 #include "support/test_host.h"
 
 namespace golf {
 namespace {
 
 // Returns the marks of all columns: "h" for a hidden column, the number of its rows that are not
-// locked, or "." for a visible column whose rows are all locked.
+// locked, or "." for a visible column whose rows are all locked. A centred column also has a "c".
 std::string MarksOf(const Grid& grid) {
   std::string marks;
   for (int column = 0; column <= grid.columns(); ++column) {
     int open = 0;
     for (int row = 1; row <= grid.rows(); ++row) open += grid.IsLocked(column, row) ? 0 : 1;
+    if (grid.IsCentred(column)) marks += "c";
     marks += grid.IsHidden(column) ? "h" : open == 0 ? "." : "";
     if (open > 0) marks += std::to_string(open);
   }
@@ -34,21 +40,51 @@ std::string MarksOf(const Control& control) {
   return button->is_default() ? "E" : button->is_cancel() ? "X" : ".";
 }
 
-// Returns a line with the controls that have a mark other than ".". Controls whose names differ
-// only in a number share an entry.
-std::string FlagsOf(const Screen& screen) {
-  std::map<std::string, std::string> marks;
-  for (const Control* control : screen.controls()) {
-    marks[control->name().substr(0, control->name().find('('))] += MarksOf(*control);
+// Returns the texts of a control: its caption or text, the items of a list with the number of the
+// chosen one, or the headings and the first row of a grid.
+std::string TextOf(const Control& control) {
+  if (const auto* captioned = dynamic_cast<const Captioned*>(&control)) return captioned->caption();
+  if (const auto* text = dynamic_cast<const TextBox*>(&control)) return text->text();
+  std::string texts;
+  if (const auto* list = dynamic_cast<const List*>(&control)) {
+    for (const std::string& item : list->items()) texts += item + "; ";
+    if (!texts.empty()) texts += std::to_string(list->index());
   }
-  std::string flags = screen.name() + ":";
-  for (const auto& [name, of_name] : marks) {
-    if (of_name.find_first_not_of('.') != std::string::npos) flags += " " + name + "=" + of_name;
+  if (const auto* grid = dynamic_cast<const Grid*>(&control)) {
+    for (int column = 0; column <= grid->columns(); ++column) {
+      texts += grid->heading(column) + (grid->rows() > 0 ? "=" + grid->text(column, 1) : "") + "; ";
+    }
+    texts += std::to_string(grid->rows()) + " rows";
   }
-  return flags + "\n";
+  return texts;
 }
 
-TEST(FlagsTest, OfEachScreenOnTheDemonstrationInstall) {
+// Returns a heading, and a line for each control. Controls whose names differ only in a number
+// share a line. Several blanks count as one.
+std::string LinesOf(const Screen& screen) {
+  std::vector<std::string> names;
+  std::map<std::string, std::string> marks, texts;
+  for (const Control* control : screen.controls()) {
+    const std::string name = control->name().substr(0, control->name().find('('));
+    if (!marks.contains(name)) names.push_back(name);
+    marks[name] += MarksOf(*control);
+    texts[name] += (texts[name].empty() ? "" : "|") + TextOf(*control);
+  }
+  std::string lines = screen.name() + ": " + screen.caption() + "\n";
+  for (const std::string& name : names) {
+    std::string& text = texts[name];
+    std::replace(text.begin(), text.end(), '\r', ' ');
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    std::replace(text.begin(), text.end(), '\\', '/');  // separates folders on Windows
+    text.erase(
+        std::unique(text.begin(), text.end(), [](char a, char b) { return a == ' ' && b == ' '; }),
+        text.end());
+    lines.append(TrimRight("  " + name + " " + marks[name] + " " + text)).append("\n");
+  }
+  return lines;
+}
+
+TEST(ScreensTest, ShowTheTextsAndMarksOfTheFile) {
   const std::pair<const char*, const char*> kOpened[] = {
       {"TransferMenu", ""}, {"LoadRoster", ""},     {"LoadRoster", "OPENONLY"},
       {"LoadRosters", ""},  {"CourseTable", "KV"},  {"TeamResults", ""},
@@ -62,7 +98,7 @@ TEST(FlagsTest, OfEachScreenOnTheDemonstrationInstall) {
                                                        {"KVCoursestoQB", "PreviewButton"}};
   TestInstall install(false);
   MakeDemoInstall(install.state());
-  std::string flags;
+  std::string screens;
   for (const auto& [name, word] : kOpened) {
     install.Restart();
     const auto note = [&](Screen& screen) {
@@ -70,38 +106,16 @@ TEST(FlagsTest, OfEachScreenOnTheDemonstrationInstall) {
       if (timer != nullptr) install.host->Operate(screen, timer->on_timer);
       auto* grid = dynamic_cast<Grid*>(screen.FindControl("grid1"));
       if (grid != nullptr) grid->SetActiveRow(grid->rows());
-      flags += FlagsOf(screen);
+      screens += ReplaceText(LinesOf(screen), install.state().ProgramPath, "<install>/",
+                             ReplaceMode::kExact);
       const auto pressed = kPressed.find(screen.name());
       if (pressed != kPressed.end()) install.host->Press(screen, pressed->second);
     };
     install.Open(name, note, word);
   }
-  EXPECT_EQ(flags,
-            "TransferMenu: ExitButton=X\n"
-            "LoadRoster: CancelButton=X LoadButton=E NewRosterFrame=h RepairButton=h grid1=h..\n"
-            "LoadRoster: CancelButton=X DeleteButton=h LoadButton=E NewButton=h NewRosterFrame=h"
-            " RepairButton=h grid1=h..\n"
-            "LoadRosters: AddEditRosterFrame=h CancelButton=X LoadButton=E RepairButton=h"
-            " grid1=h.....\n"
-            "CourseTable: CloseButton=X CourseGrid=h..h\n"
-            "CourseForm: CancelButton=X HolesFrame=d OKButton=E grid1=h......\n"
-            "CourseTee: BackNineFrame=d CancelButton=X FrontNineFrame=d"
-            " HoleNumber=h........h........ OKButton=E TeeFrame=d TotalFrame=d\n"
-            "TeamResults: ExitButton=X grid1=h..............hhhhhhh grid2=h......................\n"
-            "GridSort: SortCancel=X SortOK=E WorkingLabel=h WorkingTime=h\n"
-            "TeamLayouts: EditButton=E ExitButton=X\n"
-            "XReportsCustomTeamResults: CancelButton=X"
-            " grid1=.111.111.....hhhh....hhhh.....hhhh....hhhh.\n"
-            "KVCoursestoQB: CancelButton=X TransferCourses=E\n"
-            "ChangePreview: ChangeList=h.... CloseButton=X\n"
-            "KVtoQB: Convert18Hcpto9Hcp=h ExitButton=X TransferButton=E grid1=h.15.\n"
-            "KVtoZD: CancelButton=X Frame2=h Message=r\n"
-            "QBtoKV: ExitButton=X FirstTimeLoaded=h LTeeCombo=.hhhh MTeeCombo=.hhhh Message=r"
-            " QBLTee=.hhhh QBLTeeLabel=.hhhh QBMTee=.hhhh QBMTeeLabel=.hhhh TransferButton=E\n"
-            "ZDtoKV: ExitButton=X Frame1=h Message=r\n"
-            "ZDtoQB: CancelButton=X Frame1=h Message=r\n"
-            "TransferHistory: ChangesButton=d CopyButton=d ExitButton=X ForgetButton=d ReportText=r"
-            " RunList=h..... SaveButton=d UndoButton=d\n");
+  std::ifstream file(GOLF_SCREENS);
+  const std::string expected{std::istreambuf_iterator<char>(file), {}};
+  EXPECT_EQ(Utf8FromText(screens), expected);
 }
 
 }  // namespace
