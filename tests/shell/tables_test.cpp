@@ -6,8 +6,10 @@
 #include "screens/history/change_preview.h"
 #include "screens/history/transfer_history.h"
 #include "screens/results/team_results_screen.h"
+#include "screens/rosters/load_roster.h"
 #include "screens/table_export.h"
 #include "screens/transfers/kv_to_qb.h"
+#include "screens/transfers/kv_to_zd.h"
 #include "support/test_host.h"
 
 namespace golf {
@@ -230,6 +232,22 @@ TEST(PreviewTest, TransferNowDoesWhatTheTransferDoesAndCloseDoesNothing) {
     EXPECT_TRUE(files_after("PreviewButton", "CloseButton") == after);
     EXPECT_TRUE(files_after("PreviewButton", "TransferNowButton") == after);
   }
+}
+
+// The run fills in the percentage.
+TEST_F(TablesTest, AClosedPreviewLeavesTheScreenAsItWas) {
+  install.host->QueueAnswer("Question", "Yes");
+  install.Open("KVtoZD", [&](Screen& screen) {
+    if (PickRoster<LoadRoster>(*install.host, screen, 1)) return;
+    auto* const transfer = dynamic_cast<KVtoZD*>(&screen);
+    if (transfer == nullptr) return;
+    Press(screen, "FindZDButton");
+    transfer->picker.LeagueList.Select(
+        static_cast<int>(transfer->picker.LeagueList.items().size()) - 2);
+    for (const char* button : {"OKLEague", "FindKVMButton", "PreviewButton"}) Press(screen, button);
+    EXPECT_EQ(transfer->HandicapPrct.text(), "");
+  });
+  EXPECT_TRUE(Told(install, "open ChangePreview"));
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ LoadRosters::LoadRosters(const ScreenContext& context) : Screen(kName, context) 
     grid1.SetHeading(kNameColumn + static_cast<int>(i), FieldName[i].caption());
   }
   grid1.SetHidden(kNumberColumn, true);
-  for (int column = 0; column <= grid1.columns(); ++column) grid1.LockColumn(column, true);
+  grid1.LockAllColumns();
   RepairButton.SetVisible(false);
   LeavePanel();
 
