@@ -13,13 +13,17 @@ namespace golf {
 namespace {
 
 // Returns the marks of all columns: "h" for a hidden column, the number of its rows that are not
-// locked, or "." for a visible column whose rows are all locked. A centred column also has a "c".
+// locked, or "." for a visible column whose rows are all locked. A centred column also has a "c", a
+// column of values a "v", and a column of plus handicaps a "p".
 std::string MarksOf(const Grid& grid) {
   std::string marks;
   for (int column = 0; column <= grid.columns(); ++column) {
     int open = 0;
     for (int row = 1; row <= grid.rows(); ++row) open += grid.IsLocked(column, row) ? 0 : 1;
     if (grid.IsCentred(column)) marks += "c";
+    if (grid.sort_kind(column) != SortKind::kText) {
+      marks += grid.sort_kind(column) == SortKind::kValue ? "v" : "p";
+    }
     marks += grid.IsHidden(column) ? "h" : open == 0 ? "." : "";
     if (open > 0) marks += std::to_string(open);
   }
@@ -41,7 +45,7 @@ std::string MarksOf(const Control& control) {
 }
 
 // Returns the texts of a control: its caption or text, the items of a list with the number of the
-// chosen one, or the headings and the first row of a grid.
+// chosen one, or the headings and the first rows of a grid.
 std::string TextOf(const Control& control) {
   if (const auto* captioned = dynamic_cast<const Captioned*>(&control)) return captioned->caption();
   if (const auto* text = dynamic_cast<const TextBox*>(&control)) return text->text();
@@ -51,8 +55,12 @@ std::string TextOf(const Control& control) {
     if (!texts.empty()) texts += std::to_string(list->index());
   }
   if (const auto* grid = dynamic_cast<const Grid*>(&control)) {
-    for (int column = 0; column <= grid->columns(); ++column) {
-      texts += grid->heading(column) + (grid->rows() > 0 ? "=" + grid->text(column, 1) : "") + "; ";
+    constexpr int kMostRows = 10;
+    for (int row = 0; row <= std::min(grid->rows(), kMostRows); ++row) {
+      for (int column = 0; column <= grid->columns(); ++column) {
+        texts += (row == 0 ? grid->heading(column) : grid->text(column, row)) + "; ";
+      }
+      texts += "// ";
     }
     texts += std::to_string(grid->rows()) + " rows";
   }
