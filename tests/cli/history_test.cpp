@@ -4,6 +4,7 @@
 
 #include "cli/command_line_fixture.h"
 #include "core/text.h"
+#include "history/deeds.h"
 #include "outlets/file_kinds.h"
 #include "support/bytes.h"
 
@@ -141,49 +142,22 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
   EXPECT_EQ(In("undo").code, 1);
 }
 
-TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachClick) {
-  const struct {
-    const char* command;
-    const char* lines;
-    int runs;  // the run of the command is the last one
-  } kClicks[] = {
-      {"new-kv-roster",
-       "open LoadRoster\nanswer \"New Roster\" Yes\nclick NewButton\nset NewRosterName New\nclick "
-       "OK2Button\n",
-       1},
-      {"delete-kv-roster",
-       "open LoadRoster\nrow grid1 1\nanswer \"DELETE Roster?\" YES\nclick DeleteButton\n", 1},
-      {"save-qb-roster",
-       "open LoadRosters\nrow grid1 2\nclick EditButton\nset Text1(0) Zz\nclick AddEditRosterOK\n",
-       1},
-      {"delete-qb-roster",
-       "open LoadRosters\nrow grid1 2\nanswer \"DELETE Roster?\" YES\nclick DeleteButton\n", 1},
-      {"delete-course",
-       "open CourseTable QB\nrow CourseGrid 1\nanswer \"DELETE COURSE?\" YES\n"
-       "click DeleteCourseButton\nclose\n",
-       2},
-      {"save-layout",
-       "open XReportsCustomTeamResults \"Gross and net\"\nset ReportDescription Other\nclick "
-       "SaveButton\n",
-       1},
-  };
-  for (const auto& click : kClicks) {
-    SCOPED_TRACE(click.command);
+TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachDeed) {
+  for (const Deed& deed : kDeeds) {
+    SCOPED_TRACE(deed.name);
     const Tree before = Data();
-    ASSERT_EQ(Script(click.lines).code, 0);
+    ASSERT_EQ(Script(deed.script).code, 0);
     const Tree after = Data();
     ASSERT_FALSE(after == before);
     const auto runs = JsonLines(In("history --json").out);
-    ASSERT_EQ(runs.size(), static_cast<std::size_t>(click.runs));
-    EXPECT_EQ(runs.back()["command"], click.command);
+    EXPECT_EQ(runs.back()["command"], deed.name);
     // The indexes of a library follow its courses, also those that another run has written.
-    const std::string number = std::to_string(click.runs);
-    ASSERT_EQ(In("undo " + number).code, 0);
+    ASSERT_EQ(In("undo " + std::to_string(runs.size())).code, 0);
     EXPECT_EQ(FilesThatDiffer(before, Data()), Names());
     ASSERT_EQ(In("undo 1").code, 0);
     EXPECT_EQ(FilesThatDiffer(after, Data()), Names());
     ASSERT_EQ(In("history forget all").code, 0);
-    WriteAll(before);
+    Restore(before);
   }
 }
 

@@ -79,7 +79,7 @@ TEST(CommitTest, AFailedCommitHasChangedNothing) {
 
 // The test "history_full" of CTest runs it.
 TEST(CommitTest, DISABLED_AFailedCommitOfAnyTransaction) {
-  for (const Deed& deed : Deeds()) FailEachChange(deed);
+  for (const Deed& deed : kDeeds) FailEachChange(deed);
 }
 
 // The file of the history itself cannot be read, opened or closed.
@@ -121,7 +121,7 @@ class StoppingPlatform : public MemoryPlatform {
 };
 
 TEST(CommitTest, ARunThatIsStoppedHasChangedNothing) {
-  for (const Deed& deed : Deeds()) {
+  for (const Deed& deed : kDeeds) {
     const States states = StatesOf(deed);
     int stopped = 0;
     for (int nth = 1;; nth += 1 + nth / 3) {

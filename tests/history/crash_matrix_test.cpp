@@ -159,7 +159,7 @@ void CheckWithUndo(const Run& run, Depth depth) {
 }
 
 void CheckDeeds(Depth depth) {
-  for (const Deed& deed : Deeds()) {
+  for (const Deed& deed : kDeeds) {
     if (testing::Test::HasFailure()) return;
     CheckWithUndo(RunOf(deed), depth);
   }
