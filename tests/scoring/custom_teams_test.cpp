@@ -169,8 +169,11 @@ TEST_F(CustomTeamsTest, ChoicesOutOfRangeAreReplaced) {
 
 // The place of the running total of the last round orders the rows.
 TEST_F(CustomTeamsTest, RowsOfStandings) {
-  CustomStanding second{
-      .TeamNumber = 7, .TeamName = "G", .golfers = "Ann", .Scores = {{1, 2, 3, 4}, {5, 6, 7, 8}}};
+  CustomStanding second;
+  second.TeamNumber = 7;
+  second.TeamName = "G";
+  second.golfers = "Ann";
+  second.Scores = {{1, 2, 3, 4}, {5, 6, 7, 8}};
   second.Points = {{11, 12, 13, 14}, {15, 16, 17, 18}};
   second.Positions = {{1, 1, 1, 1}, {1, 1, 1, 2}};
   CustomStanding first = second;

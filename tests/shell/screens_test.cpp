@@ -45,7 +45,8 @@ std::string MarksOf(const Control& control) {
 }
 
 // Returns the texts of a control: its caption or text, the items of a list with the number of the
-// chosen one, or the headings and the first rows of a grid.
+// chosen one, or the headings and the first rows of a grid. Leaves out
+// hidden columns.
 std::string TextOf(const Control& control) {
   if (const auto* captioned = dynamic_cast<const Captioned*>(&control)) return captioned->caption();
   if (const auto* text = dynamic_cast<const TextBox*>(&control)) return text->text();
@@ -58,6 +59,7 @@ std::string TextOf(const Control& control) {
     constexpr int kMostRows = 10;
     for (int row = 0; row <= std::min(grid->rows(), kMostRows); ++row) {
       for (int column = 0; column <= grid->columns(); ++column) {
+        if (grid->IsHidden(column)) continue;
         texts += (row == 0 ? grid->heading(column) : grid->text(column, row)) + "; ";
       }
       texts += "// ";

@@ -88,7 +88,7 @@ TEST_F(TablesTest, ThePreviewAndTheHistoryOfATransfer) {
   const auto work = [&](Screen& screen) {
     if (auto* list = dynamic_cast<ChangePreview*>(&screen)) {
       EXPECT_EQ(list->CountsLabel.caption(), "10 golfers changed, 2 added in Quenby; 1 file");
-      EXPECT_EQ(list->ChangeList.rows(), 47);
+      EXPECT_EQ(list->ChangeList.rows(), 45);
       list->FilterBox.Enter("555-0103");
       EXPECT_EQ(Shown(list->ChangeList),
                 "Golfer|Field|Before|After|\nDuarte, Ines|PhoneHome|\"\"|\"555-0103\"|\n");
