@@ -9,10 +9,10 @@ namespace golf {
 namespace {
 
 // Converts the places of a run to changes of records, and calls `each` for them.
-class ChangeTeller {
+class ChangeReporter {
  public:
-  ChangeTeller(const RecordKinds& kinds, const std::function<void(const RecordChange&)>& each)
-      : kinds_(kinds), each_(each), parts_([this](const RecordPart& part) { Tell(part); }) {}
+  ChangeReporter(const RecordKinds& kinds, const std::function<void(const RecordChange&)>& each)
+      : kinds_(kinds), each_(each), parts_([this](const RecordPart& part) { Report(part); }) {}
 
   void Group(ChangeGroup group, std::string_view title) { groups_.emplace(group, title); }
 
@@ -24,11 +24,11 @@ class ChangeTeller {
     CountRecords(file, static_cast<std::int64_t>(length));
     switch (file.fate) {
       case FileFate::kCreated:
-        return Tell(ChangeKind::kFileCreated);
+        return Report(ChangeKind::kFileCreated);
       case FileFate::kDeleted:
-        return Tell(ChangeKind::kFileDeleted);
+        return Report(ChangeKind::kFileDeleted);
       case FileFate::kChanged:
-        if (!change_.layout) Tell(ChangeKind::kTextReplaced);
+        if (!change_.layout) Report(ChangeKind::kTextReplaced);
     }
   }
 
@@ -61,7 +61,7 @@ class ChangeTeller {
     }
   }
 
-  void Tell(const RecordPart& part) {
+  void Report(const RecordPart& part) {
     ReportEmptyRecords(part.record);
     next_added_ = std::max(next_added_, part.record + 1);
     RecordChange change = change_;
@@ -89,7 +89,7 @@ class ChangeTeller {
     each_(change);
   }
 
-  void Tell(ChangeKind kind) {
+  void Report(ChangeKind kind) {
     RecordChange change = change_;
     change.kind = kind;
     each_(change);
@@ -116,30 +116,31 @@ std::string_view FileNameOf(std::string_view file) { return file.substr(file.rfi
 
 void ForEachChange(HistoryFile& history, const RecordKinds& kinds,
                    const std::function<void(const RecordChange&)>& each) {
-  ChangeTeller teller(kinds, each);
+  ChangeReporter reporter(kinds, each);
   history.Read(
-      {.group = [&](ChangeGroup group, std::string_view title) { teller.Group(group, title); },
-       .file = [&](const HistoryFileEntry& file) { teller.File(file); },
+      {.group = [&](ChangeGroup group, std::string_view title) { reporter.Group(group, title); },
+       .file = [&](const HistoryFileEntry& file) { reporter.File(file); },
        .place =
            [&](const HistoryPlace& place) {
-             teller.Place(place.offset, place.group, place.old_bytes, place.new_bytes);
+             reporter.Place(place.offset, place.group, place.old_bytes, place.new_bytes);
            }});
-  teller.Finish();
+  reporter.Finish();
 }
 
 void ForEachChange(HeldChanges& changes, const HistoryPaths& paths, const RecordKinds& kinds,
                    const std::function<void(const RecordChange&)>& each) {
-  ChangeTeller teller(kinds, each);
+  ChangeReporter reporter(kinds, each);
   HistoryPlace bytes;
   const auto place = [&](const HeldPlace& held, std::string_view code) {
     CodeReader(code).Place(held.old_size, held.new_size, PlaceParts::kWhole, bytes);
-    teller.Place(held.offset, held.group, bytes.old_bytes, bytes.new_bytes);
+    reporter.Place(held.offset, held.group, bytes.old_bytes, bytes.new_bytes);
   };
-  ReadHeld(changes, paths,
-           {.group = [&](ChangeGroup group, std::string_view title) { teller.Group(group, title); },
-            .file = [&](const HistoryFileEntry& file) { teller.File(file); },
-            .place = place});
-  teller.Finish();
+  ReadHeld(
+      changes, paths,
+      {.group = [&](ChangeGroup group, std::string_view title) { reporter.Group(group, title); },
+       .file = [&](const HistoryFileEntry& file) { reporter.File(file); },
+       .place = place});
+  reporter.Finish();
 }
 
 }  // namespace golf

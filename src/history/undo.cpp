@@ -185,7 +185,7 @@ class PartUndo {
     } else if (sides.found != sides.written) {
       elements = ChangedSince(*layout_, sides);
     }
-    if (layout_ && elements.empty()) reason = MissedBy(part, sides);
+    if (layout_ && elements.empty()) reason = ReasonToKeep(part, sides);
     if (!elements.empty() || !reason.empty()) {
       AddConflict(part, sides, std::move(elements), std::move(reason));
     }
@@ -198,21 +198,21 @@ class PartUndo {
     Sides sides{.old_bytes = Filled(before, length_),
                 .written = Filled(WholeRecord(part, part.new_bytes, whole), length_),
                 .found = whole};
-    sides.is_added = layout_ && !IsSomebody(part.record, sides.old_bytes) &&
-                     (before.empty() || IsSomebody(part.record, sides.written));
+    sides.is_added = layout_ && !IsUsed(part.record, sides.old_bytes) &&
+                     (before.empty() || IsUsed(part.record, sides.written));
     return sides;
   }
 
-  bool IsSomebody(std::int64_t record, const std::string& bytes) const {
+  bool IsUsed(std::int64_t record, const std::string& bytes) const {
     return !kinds_.title_of(entry_.path, record, bytes).empty();
   }
 
   // Returns why an added record cannot be removed: other records follow it or refer to it. Returns
   // an empty string if it can be removed.
-  std::string MissedBy(const RecordPart& part, const Sides& sides) {
+  std::string ReasonToKeep(const RecordPart& part, const Sides& sides) {
     if (!sides.is_added) return {};
     if (part.old_bytes.empty() && HasGrown()) return "Other records follow it by now.";
-    if (!IsSomebody(part.record, sides.found)) return {};
+    if (!IsUsed(part.record, sides.found)) return {};
     const RecordId unit{entry_.path, part.record};
     const auto referring = all_.referring.find(unit);
     if (referring != all_.referring.end()) return referring->second + " refers to it by now.";
@@ -297,7 +297,7 @@ class PartUndo {
     const auto any = kept_.lower_bound({entry_.path, 0});
     keeps_any_ = any != kept_.end() && any->file == entry_.path;
     const bool is_deleted_whole = entry_.fate == FileFate::kCreated && !keeps_any_;
-    is_in_hand_ = file_ != nullptr && !kept_.contains({entry_.path, 0}) && !is_deleted_whole;
+    is_put_back_ = file_ != nullptr && !kept_.contains({entry_.path, 0}) && !is_deleted_whole;
   }
 
   void PutBack(const RecordPart& part) {
@@ -305,7 +305,7 @@ class PartUndo {
     const RecordId unit{entry_.path, layout_ ? part.record : 0};
     if (kept_.contains(unit)) return;
     if (added_.contains(unit)) all_.removed.insert(unit);
-    if (!is_in_hand_) return;
+    if (!is_put_back_) return;
     result_.put_back.insert(entry_.path);
     const std::int64_t offset = Offset(part.record) + static_cast<std::int64_t>(part.at);
     const std::string now = Now(offset, part.size);
@@ -345,7 +345,7 @@ class PartUndo {
   void NoteGroup(ChangeGroup group) { groups_.emplace(group, held_.held()->groups().Current()); }
 
   void FinishFile() {
-    if (!std::exchange(is_in_hand_, false) || keeps_behind_) return;
+    if (!std::exchange(is_put_back_, false) || keeps_behind_) return;
     if (entry_.new_length > entry_.old_length && file_->Length() > entry_.old_length) {
       result_.put_back.insert(entry_.path);
       transactions_.BeginGroup("");
@@ -370,10 +370,10 @@ class PartUndo {
       const std::string path = folder_.paths().Path(entry.path);
       if (IsThere(path)) gate_.Delete(path);
     }
-    for (const HistoryFileEntry& entry : deleted) BringBack(entry);
+    for (const HistoryFileEntry& entry : deleted) Restore(entry);
   }
 
-  void BringBack(const HistoryFileEntry& entry) {
+  void Restore(const HistoryFileEntry& entry) {
     result_.put_back.insert(entry.path);
     const auto kept = folder_.gate().platform().Open(KeptPath(entry), FileAccess::kReadOnly);
     const std::string path = folder_.paths().Path(entry.path);
@@ -413,7 +413,7 @@ class PartUndo {
   std::optional<LayoutInfo> layout_;
   std::size_t length_ = 1;  // bytes of a record
   std::unique_ptr<PlatformFile> file_;
-  bool is_in_hand_ = false;
+  bool is_put_back_ = false;
   bool keeps_any_ = false;
   bool keeps_behind_ = false;  // true if bytes behind the old length are kept
 };

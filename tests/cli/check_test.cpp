@@ -129,6 +129,18 @@ TEST_F(CheckTest, EachPlantedFaultIsFoundOnce) {
        [&] { Put("qbdata/X0001.Q9G", 3052, Whole(10)); }},
       {"entry-team", "qbdata/X0001.Q9G", 1, "Bergstrom, Anna",
        [&] { Put("qbdata/X0001.Q9G", 4, Whole(4)); }},
+      {"entry-tee", "qbdata/X0001.Q9G", 1, "Bergstrom, Anna",
+       [&] { Put("qbdata/X0001.Q9G", 149, Whole(2)); }},
+      {"entry-score", "qbdata/X0001.Q9G", 1, "Bergstrom, Anna",
+       [&] { Put("qbdata/X0001.Q9G", 443 + 2 * 17, Whole(21)); }},
+      {"tournament-date", "qbdata/X0001.Q9C", 1, "Autumn Medal",
+       [&] { Put("qbdata/X0001.Q9C", 116, std::string(8, '\0')); }},
+      {"league-score", "zddata/00021.ZP8", 1, "Farrow, Ruth",
+       [&] { Put("zddata/00021.ZP8", 870, Whole(200)); }},
+      {"history-count", "kvdata/CLUB18.kvs", 12, "Marlow, Ben",
+       [&] { Put("kvdata/CLUB18.kvg", 11 * 2804 + 457, Whole(1)); }},
+      {"score-value", "kvdata/CLUB18.kvs", 1, "Bergstrom, Anna",
+       [&] { Put("kvdata/CLUB18.kvs", 35, "\x27"); }},  // 39 on 18 holes
       {"team-full", "qbdata/X0001.Q9G", 0, "Autumn Medal",
        [&] {
          for (int entry = 0; entry < 5; ++entry) {

@@ -1,10 +1,13 @@
 #include "outlets/checkup/check_kelvane.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 #include <utility>
 
 #include "core/date_value.h"
+#include "core/little_endian.h"
 #include "core/text.h"
 #include "stores/kelvane/kelvane_layouts.h"
 
@@ -12,7 +15,11 @@ namespace golf {
 namespace {
 
 constexpr DateValue kFirstDay = 7306;  // 1 January 1920
-constexpr int kHighestAdjusted = 250;
+// A round of 18 holes, which has a rating of at least 45, takes at least 40 strokes.
+constexpr float kRatingOf18Holes = 45;
+constexpr int kLowestOf18Holes = 40;
+constexpr int kLowestScore = 18;
+constexpr int kHighestScore = 200;
 constexpr int kHoles = 18;
 
 // Counts the faults of one kind in a history, which become one finding.
@@ -25,6 +32,10 @@ struct Fault {
     if (++count == 1) first = text;
   }
 };
+
+constexpr int kCounters = 4;
+constexpr std::size_t kDateInScore = 8;  // offset of the date of a score, in bytes
+using Counters = std::array<int, kCounters>;
 
 class RosterCheck {
  public:
@@ -63,6 +74,9 @@ class RosterCheck {
   void ReadHeader() {
     const auto headers = scan_.ForEach<KelvaneHeaderLayout>(
         base_ + ".kv5", true, [&](std::int64_t, const auto& header) {
+          for (int i = 0; i < 3; ++i) {
+            counter_dates_[static_cast<std::size_t>(i)] = header.template Get<"CounterDate">(i + 1);
+          }
           birthday_ = BirthdayIndex(
               2, [&](int index) { return header.template Get<"MiscDateName">(index); });
         });
@@ -88,7 +102,10 @@ class RosterCheck {
                 "A score of nine holes, " + std::to_string(golfer.Get<"HalfScore">()) +
                     ", waits for another nine.");
     }
-    counters_.emplace_back(golfers_.golfers.size(), golfer.Get<"ScoreCounter">(1));
+    Counters counters{};
+    for (int i = 0; i < kCounters; ++i)
+      counters[static_cast<std::size_t>(i)] = golfer.Get<"ScoreCounter">(i + 1);
+    counters_.push_back(counters);
     golfers_.golfers.push_back(std::move(known));
   }
 
@@ -97,8 +114,7 @@ class RosterCheck {
     while (next_ < golfers_.golfers.size() && golfers_.golfers[next_].record < place) ++next_;
     if (next_ == golfers_.golfers.size() || golfers_.golfers[next_].record != place) return;
     const KnownGolfer& golfer = golfers_.golfers[next_];
-    const int counted = counters_[next_].second;
-    int entries = 0;
+    Counters found{};
     DateValue newer = HUGE_VAL;
     Fault faults[] = {{FindingCode::kHistoryOrder},       {FindingCode::kScoreDate},
                       {FindingCode::kScoreValue},         {FindingCode::kScoreCourse},
@@ -107,7 +123,7 @@ class RosterCheck {
       const std::string_view bytes = history.Bytes().substr(
           static_cast<std::size_t>(i) * kKelvaneScoreLength, kKelvaneScoreLength);
       if (IsFree(bytes)) continue;
-      ++entries;
+      Count(bytes, found);
       CheckScore(golfer, i + 1, bytes, newer, faults);
     }
     for (const Fault& fault : faults) {
@@ -119,11 +135,31 @@ class RosterCheck {
       }
       scan_.Add(fault.code, base_ + ".kvs", place, golfer.Title(), text);
     }
-    if (entries != counted) {
-      scan_.Add(FindingCode::kHistoryCount, base_ + ".kvs", place, golfer.Title(),
-                "The golfer's record counts " + std::to_string(counted) +
-                    " scores, but the history has " + std::to_string(entries) + ".");
-    }
+    // A wrong date also makes the counters by date wrong.
+    const bool are_dates_right = faults[0].count == 0 && faults[1].count == 0;
+    CompareCounters(place, golfer, counters_[next_], found, are_dates_right ? kCounters : 1);
+  }
+
+  // Counts a score as Kelvane does: all scores, those from a date on, and those after two dates.
+  void Count(std::string_view bytes, Counters& found) const {
+    const auto date = LoadLittleEndian<double>(bytes.data() + kDateInScore);
+    const bool counts[kCounters] = {true, date >= counter_dates_[2], date > counter_dates_[0],
+                                    date > counter_dates_[1]};
+    for (int i = 0; i < kCounters; ++i) found[static_cast<std::size_t>(i)] += counts[i] ? 1 : 0;
+  }
+
+  // Compares the first `compared` counters.
+  void CompareCounters(std::int64_t place, const KnownGolfer& golfer, const Counters& counted,
+                       const Counters& found, int compared) {
+    const auto end = counted.begin() + compared;
+    const auto [wrong, right] = std::mismatch(counted.begin(), end, found.begin());
+    if (wrong == end) return;
+    const auto number = wrong - counted.begin() + 1;
+    scan_.Add(FindingCode::kHistoryCount, base_ + ".kvs", place, golfer.Title(),
+              (number == 1 ? "The golfer's record counts "
+                           : "Counter " + std::to_string(number) + " of the golfer's record is ") +
+                  std::to_string(*wrong) + (number == 1 ? " scores" : "") +
+                  ", but the history has " + std::to_string(*right) + ".");
   }
 
   static bool IsFree(std::string_view bytes) {
@@ -158,8 +194,17 @@ class RosterCheck {
   // Returns the end of a sentence, or an empty text if the numbers of strokes can be right.
   static std::string WrongValue(const Record<KelvaneScoreLayout>& score) {
     const int adjusted = score.Get<"Adjusted">();
-    if (adjusted == 0 || adjusted > kHighestAdjusted) {
+    const int gross = score.Get<"Gross">();
+    const float rating = score.Get<"Rating">();
+    // Points have no rating and can be few.
+    const int lowest = rating >= kRatingOf18Holes ? kLowestOf18Holes
+                       : rating > 0               ? kLowestScore
+                                                  : 1;
+    if (adjusted < lowest || adjusted > kHighestScore) {
       return " has the adjusted score " + std::to_string(adjusted) + ".";
+    }
+    if (gross != 0 && (gross < kLowestScore || gross > kHighestScore)) {
+      return " has the gross score " + std::to_string(gross) + ".";
     }
     int sum = 0;
     bool is_complete = true;
@@ -168,9 +213,9 @@ class RosterCheck {
       is_complete = is_complete && strokes > 0;
       sum += strokes;
     }
-    if (!is_complete || sum == score.Get<"Gross">()) return {};
-    return " has the gross score " + std::to_string(score.Get<"Gross">()) +
-           ", but its holes add up to " + std::to_string(sum) + ".";
+    if (!is_complete || sum == gross) return {};
+    return " has the gross score " + std::to_string(gross) + ", but its holes add up to " +
+           std::to_string(sum) + ".";
   }
 
   template <class What>
@@ -199,8 +244,9 @@ class RosterCheck {
   DateValue last_day_;  // the day after tomorrow is later
   int birthday_ = 0;    // the index of the date that is a birthday, or 0
   KnownGolfers golfers_;
-  std::vector<std::pair<std::size_t, int>> counters_;  // of the golfers
-  std::size_t next_ = 0;                               // the next golfer with a history
+  std::array<DateValue, 3> counter_dates_{};
+  std::vector<Counters> counters_;  // of the golfers
+  std::size_t next_ = 0;            // the next golfer with a history
 };
 
 }  // namespace

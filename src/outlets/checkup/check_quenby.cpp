@@ -20,6 +20,7 @@ constexpr int kRosterSlots = 4;
 constexpr int kHoles = 18;
 constexpr int kTransferredFlag = 2;
 constexpr int kTeeGroups = 5;
+constexpr int kHighestHoleScore = 20;
 constexpr int kTeams = 200;
 
 class GolferCheck {
@@ -65,7 +66,8 @@ class GolferCheck {
     KnownGolfer known{.record = record,
                       .id = golfer.Get<"IDNum">(),
                       .first = WithoutPadding(golfer.Get<"NameFirst">()),
-                      .last = WithoutPadding(golfer.Get<"NameLast">())};
+                      .last = WithoutPadding(golfer.Get<"NameLast">()),
+                      .sex = golfer.Get<"Sex">() == 1 ? 1 : 0};
     twins_.Add(known, MarkOf(golfer, birthday_));
     int named = 0;
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
@@ -116,7 +118,10 @@ class TournamentCheck {
       return;
     }
     rounds_ = std::clamp<int>(control_.Get<"NumRounds">(), 1, 5);
-    for (int round = 1; round <= rounds_; ++round) CheckCourse(round);
+    for (int round = 1; round <= rounds_; ++round) {
+      CheckDate(round);
+      CheckCourse(round);
+    }
     scan_.ForEach<TeamLayout>(base_ + ".Q9T", true, [](std::int64_t, const auto&) {});
     scan_.ForEach<TournamentPlayerLayout>(
         base_ + ".Q9G", true,
@@ -125,6 +130,20 @@ class TournamentCheck {
   }
 
  private:
+  void CheckDate(int round) {
+    const DateValue date = control_.Get<"DateofRound">(round);
+    if (IsDate(date) && date >= 1) return;
+    scan_.Add(FindingCode::kTournamentDate, base_ + ".Q9C", 1, title_,
+              "Round " + std::to_string(round) + " has no date.");
+  }
+
+  // Returns the number of tee groups of a sex: 0 men, 1 ladies.
+  int TeeGroups(int sex) const {
+    return std::clamp<int>(
+        sex == 0 ? control_.Get<"NumTeesMenPlay">() : control_.Get<"NumTeesLadiesPlay">(), 0,
+        kTeeGroups);
+  }
+
   void CheckCourse(int round) {
     const int number = control_.Get<"CourseNumberPlayed">(round);
     if (!courses_.is_read || number == 0) return;
@@ -137,10 +156,7 @@ class TournamentCheck {
       return;
     }
     for (const int group : {0, 1}) {
-      const int groups = std::clamp<int>(
-          group == 0 ? control_.Get<"NumTeesMenPlay">() : control_.Get<"NumTeesLadiesPlay">(), 0,
-          kTeeGroups);
-      for (int tees = 1; tees <= groups; ++tees) {
+      for (int tees = 1; tees <= TeeGroups(group); ++tees) {
         const int tee = control_.Get<"TeeNumberPlayed">(group, tees, round);
         if (course->HasTee(tee)) continue;
         scan_.Add(FindingCode::kTournamentTee, base_ + ".Q9C", 1, title_,
@@ -169,6 +185,8 @@ class TournamentCheck {
     }
     for (int round = 1; round <= rounds_; ++round) {
       CheckTeam(record, golfer, round, entry.Get<"TourTeamOn">(round));
+      CheckTee(record, golfer, round, entry.Get<"TourGroupTee">(round));
+      CheckScores(record, golfer, round, entry);
       AddRound(record, golfer, round, entry);
     }
   }
@@ -184,6 +202,27 @@ class TournamentCheck {
       return;
     }
     ++members_[{round, team}];
+  }
+
+  void CheckTee(std::int64_t record, const KnownGolfer& golfer, int round, int tee) {
+    const int groups = TeeGroups(golfer.sex);
+    if (groups == 0 || (tee >= 1 && tee <= groups)) return;
+    scan_.Add(FindingCode::kEntryTee, base_ + ".Q9G", record, golfer.Title(),
+              "In round " + std::to_string(round) + " the golfer plays tee group " +
+                  std::to_string(tee) + ", but there are " + std::to_string(groups) + ".");
+  }
+
+  // Reports the first impossible score of a round.
+  void CheckScores(std::int64_t record, const KnownGolfer& golfer, int round,
+                   const Record<TournamentPlayerLayout>& entry) {
+    for (int hole = 1; hole <= kHoles; ++hole) {
+      const int score = entry.Get<"TourScoreGross">(hole, round);
+      if (score >= 0 && score <= kHighestHoleScore) continue;
+      scan_.Add(FindingCode::kEntryScore, base_ + ".Q9G", record, golfer.Title(),
+                "In round " + std::to_string(round) + " the score of hole " + std::to_string(hole) +
+                    " is " + std::to_string(score) + ".");
+      return;
+    }
   }
 
   void ReportFullTeams() {

@@ -13,6 +13,9 @@
 namespace golf {
 namespace {
 
+// These are the scores that the transfer to Kelvane accepts.
+constexpr int kLowestScore = 21;
+constexpr int kHighestScore = 199;
 constexpr std::size_t kLeagueName = 4;  // characters of a base that name the league
 
 // Maps the files of substitutes that were read to their numbers of records. All divisions of a
@@ -115,12 +118,19 @@ class DivisionCheck {
   void CheckPlayer(const std::string& file, const KnownGolfer& golfer,
                    const Record<LeaguePlayerLayout>& player) {
     for (int event = 1; event <= kLeagueEvents; ++event) {
-      if (player.Get<"EventScore">(event) <= 0) continue;
+      if (player.Get<"EventScore">(event) == 0) continue;
       if (event > LastEvent()) {
         scan_.Add(FindingCode::kLeagueEvent, file, golfer.record, golfer.Title(),
                   "The golfer has a score in event " + std::to_string(event) +
                       ", but the current event is " +
                       std::to_string(control_.Get<"CurrentEvent">()) + ".");
+        return;
+      }
+      const int score = player.Get<"EventScore">(event);
+      if (score < kLowestScore || score > kHighestScore) {
+        scan_.Add(
+            FindingCode::kLeagueScore, file, golfer.record, golfer.Title(),
+            "The score of event " + std::to_string(event) + " is " + std::to_string(score) + ".");
         return;
       }
       const int team = player.Get<"EventTeam">(event);

@@ -21,6 +21,7 @@ struct KnownGolfer {
   std::int64_t id = 0;  // below 1: none
   std::string first;    // names without padding
   std::string last;
+  int sex = 0;  // 0 men, 1 ladies
   std::string Title() const;
 };
 

@@ -103,17 +103,17 @@ void LoadRosters::LoadList() {
 void LoadRosters::ShowRowButtons() {
   // Row 1 is the entry for all rosters, unless a roster's name sorts before it. The number of the
   // roster is checked for that case.
-  const bool is_roster = grid1.active_row() > 1 && RosterInHand() > 0;
+  const bool is_roster = grid1.active_row() > 1 && ChosenRoster() > 0;
   EditButton.SetVisible(is_roster);
   DeleteButton.SetVisible(is_roster);
 }
 
-std::int32_t LoadRosters::RosterInHand() const {
+std::int32_t LoadRosters::ChosenRoster() const {
   return RoundToInt32(LeadingNumber(grid1.text(kNumberColumn, grid1.active_row())));
 }
 
 void LoadRosters::Pick() {
-  state().Program().SetActiveRoster(RosterInHand());
+  state().Program().SetActiveRoster(ChosenRoster());
   host().Hide(*this);
 }
 
@@ -180,7 +180,7 @@ void LoadRosters::Store() {
     return;
   }
   LeavePanel();
-  const std::int32_t roster = RosterInHand();
+  const std::int32_t roster = ChosenRoster();
   ChangeFiles(state(), host(), "save-qb-roster", Text1[0].text(), [&] { Save(roster); });
   LoadList();
 }
@@ -211,7 +211,7 @@ void LoadRosters::CancelEdit() {
 
 void LoadRosters::AskToDelete() {
   ProgramClass& program = state().Program();
-  const std::int32_t roster = RosterInHand();
+  const std::int32_t roster = ChosenRoster();
   program.GetRosterRecord(roster);
   const std::string answer =
       host().Ask(InputBox{.title = "DELETE Roster?",

@@ -45,7 +45,7 @@ class LoadRosters : public Screen {
  private:
   void LoadList();
   void ShowRowButtons();
-  std::int32_t RosterInHand() const;
+  std::int32_t ChosenRoster() const;
   std::int32_t FreeRosterNumber();
   void Pick();
   void BeginNew();
