@@ -142,8 +142,9 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
   EXPECT_EQ(In("undo").code, 1);
 }
 
-TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachDeed) {
+TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachClick) {
   for (const Deed& deed : kDeeds) {
+    if (std::string_view(deed.name).find("-to-") != std::string_view::npos) continue;  // a transfer
     SCOPED_TRACE(deed.name);
     const Tree before = Data();
     ASSERT_EQ(Script(deed.script).code, 0);

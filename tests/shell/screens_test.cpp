@@ -45,8 +45,7 @@ std::string MarksOf(const Control& control) {
 }
 
 // Returns the texts of a control: its caption or text, the items of a list with the number of the
-// chosen one, or the headings and the first rows of a grid. Leaves out
-// hidden columns.
+// chosen one, or the headings and the first rows of a grid without its hidden columns.
 std::string TextOf(const Control& control) {
   if (const auto* captioned = dynamic_cast<const Captioned*>(&control)) return captioned->caption();
   if (const auto* text = dynamic_cast<const TextBox*>(&control)) return text->text();
