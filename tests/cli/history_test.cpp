@@ -361,6 +361,7 @@ TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
 
 TEST_F(HistoryTest, IndexesFollowACourseThatStays) {
   Transfer(kTransfers[0]);
+  EXPECT_NE(In("history show 1").out.find("Number of courses ADDED: 5\n"), std::string::npos);
   std::string library = folder.Read("i/qbdata/qbcrs.dat");
   const std::size_t last = library.size() / 3226 * 3226 - 3226;
   library[last + 34] = '!';  // the address

@@ -69,6 +69,7 @@ class RosterCheck {
                     " score histories, but the roster has " + std::to_string(*places) +
                     " places for golfers.");
     }
+    golfers_.ids_twice = twins_.ids_twice();
     known_.rosters.push_back(std::move(golfers_));
   }
 
@@ -238,7 +239,10 @@ class RosterCheck {
       faults[3].Add(what() + named + ", which does not exist.");
     } else if (!course->is_active) {
       faults[4].Add(what() + named + " (" + course->name + "), which was deleted.");
-    } else if (const int tee = score.Get<"TeeNumber">(); tee != 0 && !course->HasTee(tee)) {
+    } else if (const int tee = score.Get<"TeeNumber">(); tee > kTeeSlots) {
+      faults[3].Add(what() + " was played from tee " + std::to_string(tee) +
+                    ", which does not exist.");
+    } else if (tee != 0 && !course->HasTee(tee)) {
       faults[5].Add(what() + " was played from tee " + std::to_string(tee) + " of " + course->name +
                     ", which is not active.");
     }

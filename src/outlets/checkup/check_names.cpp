@@ -69,14 +69,17 @@ class NameCheck {
     }
   }
 
-  // Finds ID numbers that belong to other names in another roster.
+  // Finds ID numbers that belong to other names in another roster. Leaves out those that several
+  // golfers of one roster have, since these are reported already.
   void AddMembers(const KnownGolfers& roster) {
-    std::unordered_set<std::int64_t> ids;
     for (const KnownGolfer& golfer : roster.golfers) {
-      if (golfer.id < 1 || !ids.insert(golfer.id).second) continue;
+      if (golfer.id < 1) continue;
       const auto [known, is_new] = members_.emplace(golfer.id, Member{&roster, &golfer});
       const auto& [other_roster, other] = known->second;
-      if (is_new || other_roster == &roster || FoldedKeyOf(*other) == FoldedKeyOf(golfer)) continue;
+      if (is_new || FoldedKeyOf(*other) == FoldedKeyOf(golfer)) continue;
+      if (roster.ids_twice.contains(golfer.id) || other_roster->ids_twice.contains(golfer.id)) {
+        continue;
+      }
       scan_.Add(FindingCode::kIdTwice, roster.file, golfer.record, golfer.Title(),
                 other->Title() + " has the same ID number, " + std::to_string(golfer.id) + ", in " +
                     other_roster->file + ".");

@@ -41,6 +41,7 @@ void TwinCheck::Add(const KnownGolfer& golfer, std::initializer_list<TwinMark> m
   if (golfer.id > 0) {
     const auto [other, is_new] = records_.emplace(golfer.id, golfer.record);
     if (!is_new) {
+      ids_twice_.insert(golfer.id);
       add(FindingCode::kIdTwice, other->second, "ID number, " + std::to_string(golfer.id));
     }
   }

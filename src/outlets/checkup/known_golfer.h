@@ -30,7 +30,8 @@ struct KnownGolfer {
 struct KnownGolfers {
   std::string file;
   std::vector<KnownGolfer> golfers;
-  bool is_read = true;  // false if the file is missing, unreadable or cut
+  std::set<std::int64_t> ids_twice = {};  // ID numbers that several golfers of the file have
+  bool is_read = true;                    // false if the file is missing, unreadable or cut
 };
 
 // Returns a name as people compare it: in capitals, and without blanks, accents and punctuation.
@@ -82,11 +83,14 @@ class TwinCheck {
   // Reports at most one golfer with one of the marks. The first one is the best.
   void Add(const KnownGolfer& golfer, std::initializer_list<TwinMark> marks);
 
+  const std::set<std::int64_t>& ids_twice() const { return ids_twice_; }
+
  private:
   FileScan& scan_;
   std::string file_;
   std::map<std::int64_t, std::int64_t> records_;  // by ID number
-  std::map<std::string, std::int64_t> named_;     // by name and mark
+  std::set<std::int64_t> ids_twice_;
+  std::map<std::string, std::int64_t> named_;  // by name and mark
 };
 
 // Returns the index, from 1, of the first caption that means a birthday in English, French, German,
