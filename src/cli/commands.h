@@ -38,8 +38,8 @@ struct DumpRequest {
 ExitCode RunDump(const Options& options, const DumpRequest& request);
 
 struct CheckRequest {
-  std::vector<std::string> only;    // codes of findings; all if empty
-  std::string severity = "note";    // the lowest severity to show
+  std::vector<std::string> only;  // codes of findings; all if empty
+  std::string severity = "note";  // the lowest severity to show
   bool repair = false;
 };
 ExitCode RunCheck(const Options& options, const CheckRequest& request);
