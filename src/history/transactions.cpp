@@ -197,9 +197,10 @@ std::vector<RecordReference> Transactions::OldReferences(const ChangedRecords& c
   std::vector<RecordReference> references;
   if (!facts_.references_to_free) return references;
   const ResumeNext anyway(nullptr);
-  for (const auto& [file, records] : changed) {
+  for (const auto& of_file : changed) {
     anyway([&] {
-      std::ranges::move(facts_.references_to_free(file, records), std::back_inserter(references));
+      std::ranges::move(facts_.references_to_free(of_file.first, of_file.second),
+                        std::back_inserter(references));
     });
   }
   return references;

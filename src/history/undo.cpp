@@ -423,7 +423,9 @@ class PartUndo {
 void AddReferring(const RecordKinds& kinds, AllParts& all) {
   std::map<std::string, std::set<std::int64_t>> removed;
   for (const RecordId& id : all.removed) removed[id.file].insert(id.record);
-  for (const auto& [file, records] : removed) {
+  for (const auto& of_file : removed) {
+    const std::string& file = of_file.first;
+    const std::set<std::int64_t>& records = of_file.second;
     kinds.for_each_reference(
         file, [&](std::string_view from_file, std::int64_t from_record, std::int64_t to_record) {
           if (!records.contains(to_record)) return;
