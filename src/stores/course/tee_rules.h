@@ -62,6 +62,10 @@ std::vector<TeeFault> HoleFaults(const HoleValues& pars, const HoleValues& handi
 // finds them. The settings of the course object determine which values are required.
 std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee);
 
+// Describes faults in one line, each kind once with its holes. Returns an empty text if there are
+// none.
+std::string DescribeFaults(const std::vector<TeeFault>& faults);
+
 // Returns the holes in ascending order of their handicaps. Holes with the same handicap keep their
 // order.
 std::vector<int> StrokeSequence(const HoleValues& handicaps, HoleRange holes);
