@@ -165,6 +165,15 @@ void Binding::BeginFocus() {
   GiveFocus(*first);
 }
 
+void Binding::RestoreFocus(const wxWindow& window) {
+  if (held_ || screen_ == nullptr || !waiting_.IsEmpty()) return;
+  wxWindow* const focus = wxWindow::FindFocus();
+  const bool here = focus != nullptr && window.IsDescendant(focus) && focus != &window;
+  if (here && focus->IsShownOnScreen() && focus->IsEnabled()) return;
+  if (const Tied* place = PlaceOfFocus()) return GiveFocus(*place);
+  BeginFocus();
+}
+
 void Binding::HoldInput(bool held) {
   if (held_ == held) return;
   held_ = held;

@@ -35,8 +35,18 @@ const NativeButton& Native(BoxButton button) {
                        [button](const NativeButton& native) { return native.button == button; });
 }
 
+// The GTK dialog has no icon, and no title if the title is "Message". The toolkit's own dialog
+// chooses an icon for a box without one.
+#ifdef __WXMSW__
+using MessageDialog = wxMessageDialog;
+constexpr long kNoIcon = wxICON_NONE;
+#else
+using MessageDialog = wxGenericMessageDialog;
+constexpr long kNoIcon = 0;
+#endif
+
 long IconStyle(BoxIcon icon) {
-  constexpr long kStyles[] = {wxICON_NONE, wxICON_INFORMATION, wxICON_QUESTION, wxICON_STOP,
+  constexpr long kStyles[] = {kNoIcon, wxICON_INFORMATION, wxICON_QUESTION, wxICON_STOP,
                               wxICON_WARNING};
   return kStyles[static_cast<std::size_t>(icon)];
 }
@@ -62,7 +72,8 @@ class InputDialog : public wxTextEntryDialog {
 long StyleOf(const Box& box) {
   long style = IconStyle(box.icon) | wxCENTRE;
   for (const BoxButton button : box.buttons) style |= Native(button).style;
-  return style | Native(box.buttons.at(box.default_button)).default_style;
+  const std::size_t chosen = box.window_default.value_or(box.default_button);
+  return style | Native(box.buttons.at(chosen)).default_style;
 }
 
 BoxButton ButtonOf(const Box& box, int answer) {
@@ -75,7 +86,7 @@ BoxButton ButtonOf(const Box& box, int answer) {
 }  // namespace
 
 BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
-  wxMessageDialog dialog(parent, WxText(box.text), WxText(box.title), StyleOf(box));
+  MessageDialog dialog(parent, WxText(box.text), WxText(box.title), StyleOf(box));
   if (Has(box, BoxButton::kRetry)) dialog.SetOKLabel("&Retry");
   return ButtonOf(box, dialog.ShowModal());
 }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
+#include <wx/dialog.h>
 
 #include <algorithm>
 #include <functional>
@@ -72,7 +73,8 @@ std::vector<Deed> DeedsOf(wxWindow& widget) {
                        Send(widget, event);
                      }});
   }
-  if (widget.IsKindOf(wxCLASSINFO(wxButton))) {
+  // Escape does nothing in the main window.
+  if (widget.IsKindOf(wxCLASSINFO(wxButton)) && wxGetTopLevelParent(&widget)->IsKindOf(wxCLASSINFO(wxDialog))) {
     add_key(*wxGetTopLevelParent(&widget), wxEVT_CHAR_HOOK, WXK_ESCAPE);
   }
   if (widget.IsKindOf(wxCLASSINFO(wxListBox))) add_key(widget, wxEVT_CHAR_HOOK, WXK_RETURN);
