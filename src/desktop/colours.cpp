@@ -41,6 +41,18 @@ wxColour TextColour(const wxColour& background) {
   return MoreReadable(background, *wxBLACK, *wxWHITE);
 }
 
+wxColour SelectionColour() {
+  const wxColour text = wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHTTEXT);
+  const wxColour usual = wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
+  const int step = Brightness(text) > Brightness(usual) ? -5 : 5;  // percent
+  int lightness = 100;
+  const auto colour = [&] { return usual.ChangeLightness(lightness); };
+  while (Contrast(text, colour()) < kReadable && lightness > 0 && lightness < 200) {
+    lightness += step;
+  }
+  return colour();
+}
+
 wxColour WarningColour(const wxColour& background) {
   return MoreReadable(background, kDarkRed, kLightRed);
 }

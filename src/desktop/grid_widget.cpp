@@ -44,6 +44,7 @@ class GridView : public wxGrid {
     Bind(wxEVT_CHAR_HOOK, &GridView::OnCharHook, this);
     Bind(wxEVT_SIZE, &GridView::OnSize, this);
     SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
+    SetSelectionBackground(SelectionColour());
     for (wxWindow* window : {static_cast<wxWindow*>(this), GetGridWindow()}) {
       window->Bind(wxEVT_SET_FOCUS, &GridView::OnFocus, this);
       window->Bind(wxEVT_KILL_FOCUS, &GridView::OnFocus, this);

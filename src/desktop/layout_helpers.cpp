@@ -82,7 +82,8 @@ int TextHeight(const wxWindow& window, int lines) { return lines * window.GetCha
 
 void SetColumns(wxControl& widget, int characters) {
   const wxString digits('0', static_cast<std::size_t>(characters));
-  widget.SetMinSize({widget.GetSizeFromTextSize(widget.GetTextExtent(digits).x).x, -1});
+  widget.SetMinSize(
+      {widget.GetSizeFromTextSize(widget.GetTextExtent(digits).x).x, widget.GetMinSize().y});
 }
 
 void SetRoom(ScreenPanel& panel, wxWindow& widget) {

@@ -104,12 +104,12 @@ wxSizer* Tees(ScreenPanel& panel, QBtoKV::Labels& sexes, QBtoKV::Labels& tees,
 }
 
 wxSizer* Partners(ScreenPanel& panel, QBtoKV& screen) {
-  auto* tees = new wxGridSizer(2, 0, GroupGap(panel));
   const auto wide = wxSizerFlags().Expand();
-  tees->Add(Tees(panel, screen.QBMTeeLabel, screen.QBMTee, screen.MTeeCombo), wide);
-  tees->Add(Tees(panel, screen.QBLTeeLabel, screen.QBLTee, screen.LTeeCombo), wide);
   auto* partners = new wxBoxSizer(wxVERTICAL);
   partners->Add(Courses(panel, screen), wide);
+  auto* tees = new wxGridSizer(2, 0, GroupGap(panel));
+  tees->Add(Tees(panel, screen.QBMTeeLabel, screen.QBMTee, screen.MTeeCombo), wide);
+  tees->Add(Tees(panel, screen.QBLTeeLabel, screen.QBLTee, screen.LTeeCombo), wide);
   partners->Add(tees, wxSizerFlags(wide).Border(wxTOP, GroupGap(panel)));
   return partners;
 }

@@ -61,8 +61,12 @@ wxStaticText* MakeWrappedLabel(Binding& binding, wxWindow* parent, Label& contro
 
 wxButton* MakeButton(Binding& binding, wxWindow* parent, Button& control) {
   auto* button = new wxButton(parent, wxID_ANY, WxText(control.caption()));
-  binding.Tie(control, *button, [button, &control] {
-    button->SetLabel(WxText(control.caption()));
+  binding.Tie(control, *button, [button, parent, &control] {
+    const wxString caption = WxText(control.caption());
+    if (button->GetLabel() != caption) {
+      button->SetLabel(caption);
+      parent->Layout();
+    }
     if (control.is_default()) button->SetDefault();
   });
   button->Bind(wxEVT_BUTTON, [&binding, &control](wxCommandEvent&) {
@@ -123,6 +127,7 @@ wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Show
 namespace {
 
 const wxColour kNotedField(255, 224, 224);
+constexpr int kEntryMargin = 12;  // above and below the text of an entry, in DIPs
 
 template <class Entry>
 void ShowSelection(Entry& entry, const TextBox& control) {
@@ -192,6 +197,11 @@ wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, lo
     box->SetEditable(!control.read_only());
     MarkNote(*box, control);
   });
+  // The toolkit does not enlarge the height of an entry with the system's font.
+  if (box->IsSingleLine()) {
+    const int height = box->GetCharHeight() + box->FromDIP(kEntryMargin);
+    box->SetMinSize({-1, std::max(box->GetBestSize().y, height)});
+  }
   if (control.key_filter) FilterKeys(binding, *box, control);
   SelectOnFocus(binding, *box, control);
   FollowText(binding, control, *box);

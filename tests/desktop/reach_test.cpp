@@ -74,7 +74,8 @@ std::vector<Deed> DeedsOf(wxWindow& widget) {
                      }});
   }
   // Escape does nothing in the main window.
-  if (widget.IsKindOf(wxCLASSINFO(wxButton)) && wxGetTopLevelParent(&widget)->IsKindOf(wxCLASSINFO(wxDialog))) {
+  if (widget.IsKindOf(wxCLASSINFO(wxButton)) &&
+      wxGetTopLevelParent(&widget)->IsKindOf(wxCLASSINFO(wxDialog))) {
     add_key(*wxGetTopLevelParent(&widget), wxEVT_CHAR_HOOK, WXK_ESCAPE);
   }
   if (widget.IsKindOf(wxCLASSINFO(wxListBox))) add_key(widget, wxEVT_CHAR_HOOK, WXK_RETURN);
