@@ -88,6 +88,7 @@ class Binding {
   void ShowChanges();
   bool ShowState(const Tied& tied);
   void ShowFocus();
+  bool IsInFront() const;
   void GiveFocus(const Tied& tied);
   const Tied* PlaceOfFocus();
   const Tied* PlaceInsteadOf(std::list<Tied>::const_iterator lost);

@@ -37,11 +37,11 @@ class TeeFiller {
                       screen_.FParIn),
                  Below());
     content->Add(Totals(), Below());
-    content->Add(
-        MakeNote(
-            binding_, &panel_, [this_screen = &screen_] { return this_screen->OddEntries(); },
-            TextWidth(panel_, kNoteCharacters), kNoteLines),
-        Below());
+    content->Add(MakeNote(
+                     binding_, &panel_, "Odd",
+                     [this_screen = &screen_] { return this_screen->OddEntries(); },
+                     TextWidth(panel_, kNoteCharacters), kNoteLines),
+                 Below());
     AddToFoot(panel_, Buttons());
     return content;
   }

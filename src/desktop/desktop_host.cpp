@@ -171,6 +171,7 @@ void DesktopHost::RunModal(Screen& screen) {
   ScreenPanel& panel = *Find(screen)->panel;
   panel.binding().Refresh();
   auto& dialog = dynamic_cast<wxDialog&>(panel.window());
+  dialog.CallAfter([&dialog] { dialog.Raise(); });  // without a window manager, nobody else does
   dialog.ShowModal();
   dialog.Destroy();
   // Some window managers would give the focus to the main window, which accepts no input then.

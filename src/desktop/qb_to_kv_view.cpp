@@ -55,14 +55,14 @@ wxSizer* Ends(ScreenPanel& panel, QBtoKV& screen) {
                     MakeTextBox(panel.binding(), &panel, screen.HandicapRoster),
                     MakeButton(panel.binding(), &panel, screen.DestButton),
                     MakeNote(
-                        panel.binding(), &panel, [&screen] { return screen.HandicapRoster.note(); },
+                        panel.binding(), &panel, "HandicapRosterNote",
+                        [&screen] { return screen.HandicapRoster.note(); },
                         TextWidth(panel, kNoteCharacters))}),
             wxSizerFlags(2).Expand());
   return ends;
 }
 
-wxChoice* MakePartner(ScreenPanel& panel, ComboBox& control, int characters, Shown shown) {
-  wxChoice* choice = MakeChoice(panel.binding(), &panel, control, shown);
+wxControl* WithRoom(ScreenPanel& panel, wxControl* choice, int characters) {
   SetColumns(*choice, characters);
   SetRoom(panel, *choice);
   return choice;
@@ -80,7 +80,10 @@ wxSizer* Courses(ScreenPanel& panel, QBtoKV& screen) {
   rows->Add(MakeHeading(&panel, "Course of the round in Quenby"));
   rows->Add(partner);
   rows->Add(MakeLabel(binding, &panel, screen.QBCourse), wide);
-  rows->Add(MakePartner(panel, screen.CourseCombo, kCourseCharacters, QBtoKV::CourseHeading), wide);
+  rows->Add(
+      WithRoom(panel, MakeLongChoice(binding, &panel, screen.CourseCombo, QBtoKV::CourseHeading),
+               kCourseCharacters),
+      wide);
   return rows;
 }
 
@@ -97,7 +100,8 @@ wxSizer* Tees(ScreenPanel& panel, QBtoKV::Labels& sexes, QBtoKV::Labels& tees,
     SetColumns(*tee, kTeeCharacters);
     rows->Add(MakeLabel(binding, &panel, sexes[i]), middle);
     rows->Add(tee, middle);
-    rows->Add(MakePartner(panel, partners[i], kPartnerCharacters, QBtoKV::TeeHeading),
+    rows->Add(WithRoom(panel, MakeChoice(binding, &panel, partners[i], QBtoKV::TeeHeading),
+                       kPartnerCharacters),
               wxSizerFlags().Expand().CentreVertical());
   }
   return rows;

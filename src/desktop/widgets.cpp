@@ -1,5 +1,7 @@
 #include "desktop/widgets.h"
 
+#include <wx/dc.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -118,6 +120,33 @@ wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Sho
   return list;
 }
 
+namespace {
+
+// Paints the selection in a colour on which its text is easy to read.
+class LongChoice : public wxOwnerDrawnComboBox {
+ public:
+  using wxOwnerDrawnComboBox::wxOwnerDrawnComboBox;
+
+ private:
+  void OnDrawBackground(wxDC& dc, const wxRect& place, int item, int flags) const override {
+    wxOwnerDrawnComboBox::OnDrawBackground(dc, place, item, flags);
+    if ((flags & wxODCB_PAINTING_SELECTED) == 0) return;
+    const wxDCBrushChanger brush(dc, SelectionColour());
+    const wxDCPenChanger pen(dc, SelectionColour());
+    dc.DrawRectangle(place);
+  }
+};
+
+}  // namespace
+
+wxOwnerDrawnComboBox* MakeLongChoice(Binding& binding, wxWindow* parent, ComboBox& control,
+                                     Shown shown) {
+  auto* choice = new LongChoice(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                wxArrayString(), wxCB_READONLY);
+  TieList(binding, control, *choice, wxEVT_COMBOBOX, shown);
+  return choice;
+}
+
 wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown) {
   auto* choice = new wxChoice(parent, wxID_ANY);
   TieList(binding, control, *choice, wxEVT_CHOICE, shown);
@@ -224,9 +253,10 @@ wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control
   return combo;
 }
 
-wxStaticText* MakeNote(Binding& binding, wxWindow* parent, std::function<std::string()> note,
-                       int width, int lines) {
+wxStaticText* MakeNote(Binding& binding, wxWindow* parent, const wxString& name,
+                       std::function<std::string()> note, int width, int lines) {
   wxStaticText* text = NewText(parent, wxST_NO_AUTORESIZE);
+  text->SetName(name);
   text->SetForegroundColour(WarningColour(text->GetParent()->GetBackgroundColour()));
   text->SetMinSize({width, lines * text->GetCharHeight()});
   text->Show(lines > 0);

@@ -53,6 +53,7 @@ const Command kCommands[] = {
     {wxCLASSINFO(wxListBox), wxEVT_LISTBOX_DCLICK, "double click"},
     {wxCLASSINFO(wxComboBox), wxEVT_COMBOBOX, "choice"},
     {wxCLASSINFO(wxComboBox), wxEVT_TEXT, "text"},
+    {wxCLASSINFO(wxOwnerDrawnComboBox), wxEVT_COMBOBOX, "choice"},
     {wxCLASSINFO(wxChoice), wxEVT_CHOICE, "choice"},
     {wxCLASSINFO(wxTextCtrl), wxEVT_TEXT, "text"},
 };
