@@ -8,6 +8,7 @@
 #include "core/entry.h"
 #include "history/record_changes.h"
 #include "outlets/file_kinds.h"
+#include "outlets/record_references.h"
 #include "scoring/player/player_class.h"
 #include "scoring/stroke_control.h"
 #include "scoring/team/team_class.h"
@@ -78,8 +79,12 @@ Application::Application(std::unique_ptr<Platform> platform)
     : platform_(std::move(platform)),
       held_(*platform_),
       state_(held_, MakeStoreObjects),
-      transactions_(
-          held_, [this] { return state_.Now(); }, RecordLengthOf) {
+      transactions_(held_, [this] { return state_.Now(); },
+                    {.length = RecordLengthOf,
+                     .references_to_free = [this](std::string_view file,
+                                                  const std::vector<std::int64_t>& records) {
+                       return ReferencesToFreeRecords(state_, file, records);
+                     }}) {
   state_.transactions = &transactions_;
 }
 

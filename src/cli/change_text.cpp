@@ -1,11 +1,15 @@
 #include "cli/change_text.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <iostream>
+#include <unordered_map>
 #include <utility>
 
 #include "cli/field_text.h"
 #include "cli/plain_text.h"
+#include "history/spill_store.h"
 
 namespace golf {
 namespace {
@@ -14,6 +18,42 @@ std::string Padded(std::string text, std::size_t width) {
   text.resize(std::max(text.size(), width), ' ');
   return text;
 }
+
+// Stores texts and writes them by group. The texts are in memory or in a scratch file.
+class GroupedTexts {
+ public:
+  explicit GroupedTexts(Platform& platform) : texts_(platform) {}
+
+  // A text without a group is a group of its own.
+  void Add(const std::string& group, const std::string& text) {
+    std::size_t number = groups_.size();
+    if (!group.empty()) number = numbers_.emplace(group, number).first->second;
+    if (number == groups_.size()) groups_.emplace_back();
+    groups_[number].push_back({texts_.Append(text), text.size()});
+  }
+
+  void Write(std::ostream& out) {
+    std::string text;
+    for (const std::vector<Place>& group : groups_) {
+      out << '\n';
+      for (const Place& place : group) {
+        text.resize(place.size);
+        texts_.Read(place.at, text);
+        out << text;
+      }
+    }
+  }
+
+ private:
+  struct Place {
+    std::int64_t at = 0;
+    std::size_t size = 0;
+  };
+
+  SpillStore texts_;
+  std::vector<std::vector<Place>> groups_;
+  std::unordered_map<std::string, std::size_t> numbers_;  // indexes in `groups_`
+};
 
 // Returns the file and the number of a record.
 std::string PlaceText(const std::string& file, std::int64_t record) {
@@ -55,16 +95,28 @@ Json ChangeJson(const RecordChange& change) {
   return event;
 }
 
-void WriteChange(ChangeDescriber& describer, const RecordChange& change) {
-  if (!change.title.empty()) std::cout << PlainCell(change.title) << ": ";
-  std::cout << KindText(change) << '\n';
+std::string ChangeText(ChangeDescriber& describer, const RecordChange& change) {
+  std::string text = PlainCell(change.title);
+  if (!text.empty()) text += ": ";
+  text += KindText(change) + '\n';
   std::size_t width = 0;
   const std::vector<ChangedField> fields = describer.FieldsOf(change);
   for (const ChangedField& field : fields) width = std::max(width, field.name.size());
   for (const ChangedField& field : fields) {
-    std::cout << "  " << Padded(field.name, width) << "  " << PlainCell(field.before) << " -> "
-              << PlainCell(field.after) << '\n';
+    text += "  " + Padded(field.name, width) + "  " + PlainCell(field.before) + " -> " +
+            PlainCell(field.after) + '\n';
   }
+  return text;
+}
+
+void WriteChanges(SharedState& state, const RecordKinds& kinds, const EachChange& for_each) {
+  ChangeDescriber describer(state);
+  GroupedTexts texts(state.files.platform());
+  for_each([&](const RecordChange& change) {
+    if (!kinds.derived_from(change.file).empty()) return;
+    texts.Add(change.group, ChangeText(describer, change));
+  });
+  texts.Write(std::cout);
 }
 
 std::vector<Json> ConflictJson(const UndoConflict& conflict) {

@@ -129,6 +129,7 @@ struct Arguments {
   ScoresZdToKvArguments scores_zd_to_kv;
   ResultsRequest results;
   CourseRequest course;
+  CheckRequest check;
   std::int32_t run = 0;
   std::string forgotten;
   UndoRequest undo;
@@ -196,6 +197,22 @@ void AddCourse(CLI::App& app, const Options& options, CourseRequest& request, Co
                                "--install golf-demo course check --library qb", chosen,
                                [&] { return RunCourseCheck(options, request); });
   for (CLI::App* command : {show, check}) AddLibrary(*command, request.library);
+}
+
+void AddCheck(CLI::App& app, const Options& options, CheckRequest& request, Command& chosen) {
+  CLI::App* check = AddCommand(
+      app, "check", "Look all data over and list what is wrong; exit code 1 if there is anything",
+      "--install golf-demo check", chosen, [&] { return RunCheck(options, request); });
+  check->add_option("--only", request.only, "Only findings of these codes, parted by commas")
+      ->delimiter(',')
+      ->type_name("CODE");
+  check
+      ->add_option("--severity", request.severity,
+                   "The least severity: note, warning or error; note if left out")
+      ->check(CLI::IsMember({"note", "warning", "error"}))
+      ->type_name("LEVEL");
+  check->add_flag("--repair", request.repair,
+                  "Write wrong course indexes anew first; undo puts them back");
 }
 
 void AddGolfersKvToZd(CLI::App& app, Options& options, GolfersKvToZdArguments& request,
@@ -377,6 +394,7 @@ void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chos
   results->add_flag("--csv", args.results.csv, "A line an entry, with a heading");
 
   AddCourse(app, options, args.course, chosen);
+  AddCheck(app, options, args.check, chosen);
 
   AddTransfer(app, options, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
               "courses-kv-to-qb", chosen, [&] { return RunCoursesKvToQb(options); });

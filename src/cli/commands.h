@@ -37,6 +37,13 @@ struct DumpRequest {
 };
 ExitCode RunDump(const Options& options, const DumpRequest& request);
 
+struct CheckRequest {
+  std::vector<std::string> only;    // codes of findings; all if empty
+  std::string severity = "note";    // the lowest severity to show
+  bool repair = false;
+};
+ExitCode RunCheck(const Options& options, const CheckRequest& request);
+
 struct ResultsRequest {
   std::string what;  // one of ResultsNames
   std::int32_t tournament = 0;

@@ -6,6 +6,7 @@
 #include "cli/change_text.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
+#include "core/left_out.h"
 #include "core/number_text.h"
 #include "outlets/change_summary.h"
 #include "outlets/record_kinds.h"
@@ -91,15 +92,6 @@ std::int64_t WriteChangeCounts(const RecordKinds& kinds, bool json, const EachCh
   return summary.Count();
 }
 
-void WriteChangeDetails(SharedState& state, const RecordKinds& kinds, const EachChange& for_each) {
-  ChangeDescriber describer(state);
-  for_each([&](const RecordChange& change) {
-    if (!kinds.derived_from(change.file).empty()) return;
-    std::cout << '\n';
-    WriteChange(describer, change);
-  });
-}
-
 ExitCode RunHistory(const Options& options) {
   const auto application = StartApplication(options);
   NoteUnfinished(application->state());
@@ -114,11 +106,14 @@ ExitCode RunHistoryShow(const Options& options, std::int32_t number) {
   const KeptRuns list = ListKeptRuns(state);
   const HistoryRun& run = RunOfNumber(list, number);
   HistoryFolder& folder = state.transactions->history();
-  WriteReport(run, ReportOf(folder, run), options.json);
+  std::string report = ReportOf(folder, run);
+  const std::string left_out = options.json ? std::string() : LeftOut::TakeSections(report);
+  WriteReport(run, report, options.json);
   const RecordKinds kinds = MakeRecordKinds(state);
   const EachChange each_change = [&](const auto& each) { ForEachChange(folder, run, kinds, each); };
   WriteChangeCounts(kinds, options.json, each_change);
-  if (!options.json) WriteChangeDetails(state, kinds, each_change);
+  if (!options.json) WriteChanges(state, kinds, each_change);
+  if (!left_out.empty()) std::cout << '\n' << PlainText(left_out) << '\n';
   return ExitCode::kDone;
 }
 

@@ -24,8 +24,5 @@ std::string MomentText(DateValue moment);
 // Writes each change as an event if `json` is true, or else one line with their counts. Returns the
 // number of changes.
 std::int64_t WriteChangeCounts(const RecordKinds& kinds, bool json, const EachChange& for_each);
-// Writes for people what changed, field by field. Leaves out files such as course indexes, which
-// are derived from other files.
-void WriteChangeDetails(SharedState& state, const RecordKinds& kinds, const EachChange& for_each);
 
 }  // namespace golf

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/change_text.h"
 #include "cli/commands.h"
 #include "cli/history_command.h"
 #include "cli/json_listener.h"
@@ -153,7 +154,7 @@ void WriteHeldChanges(const Options& options, SharedState& state) {
   };
   if (!options.json) std::cout << "\nA dry run: nothing was changed. The run would change:\n\n";
   WriteChangeCounts(kinds, options.json, each_change);
-  if (!options.json) WriteChangeDetails(state, kinds, each_change);
+  if (!options.json) WriteChanges(state, kinds, each_change);
 }
 
 ExitCode Transfer(const Options& options, const TransferCommand& command, Application& application,

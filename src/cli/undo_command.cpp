@@ -108,7 +108,7 @@ class UndoCommand {
       ForEachChange(*transactions_.held().held(), transactions_.history().paths(), kinds, each);
     };
     const std::int64_t changes = WriteChangeCounts(kinds, options_.json, each_change);
-    if (!options_.json) WriteChangeDetails(state_, kinds, each_change);
+    if (!options_.json) WriteChanges(state_, kinds, each_change);
     transactions_.Drop();
     WriteEnd(changes, 0);
   }

@@ -9,6 +9,8 @@ namespace golf {
 namespace {
 
 constexpr char kTitleEnd = '\n';
+constexpr std::string_view kHeading = "Left out: ";
+constexpr std::string_view kIndent = "  ";
 
 template <class Each>
 void ForEachTitle(std::string_view titles, const Each& each) {
@@ -61,7 +63,7 @@ void LeftOut::ForEach(const std::function<void(std::string_view, std::string_vie
 
 void LeftOut::ForEachLine(const std::function<void(std::string_view)>& write) const {
   if (groups_.empty()) return;
-  write("Left out: " + std::to_string(Count()));
+  write(std::string(kHeading) + std::to_string(Count()));
   std::string line;
   for (const Group& group : groups_) {
     write("  " + std::to_string(group.count) + " " + group.reason);
@@ -70,6 +72,20 @@ void LeftOut::ForEachLine(const std::function<void(std::string_view)>& write) co
       write(line);
     });
   }
+}
+
+std::string LeftOut::TakeSections(std::string& report) {
+  std::string rest;
+  std::string sections;
+  bool in_section = false;
+  for (std::string_view text = report; !text.empty();) {
+    const std::string_view line = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
+    in_section = line.starts_with(kHeading) || (in_section && line.starts_with(kIndent));
+    (in_section ? sections : rest) += line;
+    text.remove_prefix(line.size());
+  }
+  report = std::move(rest);
+  return sections;
 }
 
 }  // namespace golf

@@ -28,6 +28,8 @@ class LeftOut {
   // Calls `write` with each line of the section of a report that shows the list. There are no lines
   // if the list is empty.
   void ForEachLine(const std::function<void(std::string_view)>& write) const;
+  // Removes such sections from a report, and returns them.
+  static std::string TakeSections(std::string& report);
 
  private:
   struct Group {

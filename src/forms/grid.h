@@ -61,6 +61,10 @@ class Grid : public Control {
   void SetHidden(int column, bool hidden);
   bool IsLocked(int column, int row) const;
   void LockColumn(int column, bool locked) { Column(column).locked = locked; }
+  // Makes the whole grid read-only.
+  void LockAllColumns() {
+    for (int column = 0; column <= columns_; ++column) LockColumn(column, true);
+  }
   void LockRow(int row, bool locked) { locked_rows_[row] = locked; }
 
   // Returns the active row, from 1, or 0 if no row is active. SetActiveRow calls on_row_change. It

@@ -5,7 +5,7 @@ namespace golf {
 void ReadHeld(HeldChanges& changes, const HistoryPaths& paths, const HeldReader& reader) {
   const ChangeGroups& groups = changes.groups();
   for (ChangeGroup group = 1; group <= groups.Count(); ++group) {
-    if (groups.Root(group) == group) reader.group(group, groups.Title(group));
+    reader.group(groups.Root(group), groups.Title(group));
   }
   for (const HeldDeletion& deletion : changes.deletions()) {
     reader.file({.fate = FileFate::kDeleted,

@@ -20,8 +20,8 @@ struct HeldReader {
 };
 
 // Calls the reader for the held changes, in the order of a history file: the groups, then each file
-// with its places. Leaves out files that have no net change. Reports joined groups as one. Raises
-// HoldFailed if held changes cannot be read.
+// with its places. Leaves out files that have no net change. A joined group has several titles.
+// Raises HoldFailed if held changes cannot be read.
 void ReadHeld(HeldChanges& changes, const HistoryPaths& paths, const HeldReader& reader);
 
 }  // namespace golf

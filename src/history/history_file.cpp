@@ -101,15 +101,21 @@ void HistoryWriter::Place(const HeldPlace& place, std::string_view code) {
   if (places_.size() >= kFullPortion) FlushPlaces();
 }
 
+void HistoryWriter::Reference(const RecordReference& reference) {
+  for (const RecordId* record : {&reference.from, &reference.to}) {
+    AppendText(references_, record->file);
+    AppendNumber(references_, static_cast<std::uint64_t>(record->record));
+  }
+  if (references_.size() >= kFullPortion) FlushReferences();
+}
+
 void HistoryWriter::Report(std::string_view report) {
-  FlushGroups();
-  FlushPlaces();
+  FlushAll();
   Portion(HistoryPortion::kReport, report.substr(0, kMostInPortion));
 }
 
 void HistoryWriter::Finish() {
-  FlushGroups();
-  FlushPlaces();
+  FlushAll();
   std::string changes;
   AppendFixed(changes, changes_);
   Portion(HistoryPortion::kEnd, changes);
@@ -120,16 +126,19 @@ void HistoryWriter::Finish() {
   gate_.Sync(*file_);
 }
 
-void HistoryWriter::FlushPlaces() {
-  if (places_.empty()) return;
-  Portion(HistoryPortion::kPlaces, places_);
-  places_.clear();
+void HistoryWriter::FlushAll() {
+  FlushGroups();
+  FlushPlaces();
+  FlushReferences();
 }
+void HistoryWriter::FlushGroups() { FlushBytes(HistoryPortion::kGroups, groups_); }
+void HistoryWriter::FlushPlaces() { FlushBytes(HistoryPortion::kPlaces, places_); }
+void HistoryWriter::FlushReferences() { FlushBytes(HistoryPortion::kReferences, references_); }
 
-void HistoryWriter::FlushGroups() {
-  if (groups_.empty()) return;
-  Portion(HistoryPortion::kGroups, groups_);
-  groups_.clear();
+void HistoryWriter::FlushBytes(HistoryPortion kind, std::string& bytes) {
+  if (bytes.empty()) return;
+  Portion(kind, bytes);
+  bytes.clear();
 }
 
 void HistoryWriter::Portion(HistoryPortion kind, std::string_view bytes) {
@@ -219,6 +228,22 @@ void HistoryFile::ReadGroups(std::string_view bytes, const Reader& reader) const
   }
 }
 
+void HistoryFile::ReadReferences(std::string_view bytes, const Reader& reader) const {
+  CodeReader in(bytes);
+  const auto record = [&] {
+    RecordId id{.file = std::string(in.Text())};
+    id.record = static_cast<std::int64_t>(in.Number(INT64_MAX));
+    return id;
+  };
+  while (!in.AtEnd()) {
+    RecordReference reference;
+    reference.from = record();
+    reference.to = record();
+    Check(!in.failed());
+    if (reader.reference) reader.reference(std::move(reference));
+  }
+}
+
 void HistoryFile::Read(const Reader& reader) {
   std::int64_t at = kContentStart;
   const RunTitle title = Title(at);
@@ -239,6 +264,9 @@ void HistoryFile::Read(const Reader& reader) {
       case HistoryPortion::kPlaces:
         Check(next_offset >= 0);
         ReadPlaces(portion.bytes, next_offset, reader);
+        break;
+      case HistoryPortion::kReferences:
+        ReadReferences(portion.bytes, reader);
         break;
       case HistoryPortion::kReport:
         if (reader.report) reader.report(portion.bytes);

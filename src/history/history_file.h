@@ -10,6 +10,7 @@
 #include "history/held_file_changes.h"
 #include "history/history_format.h"
 #include "history/history_gate.h"
+#include "history/record_reference.h"
 
 namespace golf {
 
@@ -26,6 +27,8 @@ class HistoryWriter {
   void File(const HistoryFileEntry& file);
   // Writes a place of the last file, with its code. Places must come by rising offsets.
   void Place(const HeldPlace& place, std::string_view code);
+  // Writes a reference that is older than the run to a record that the run has added.
+  void Reference(const RecordReference& reference);
   void Report(std::string_view report);
 
   // Writes the rest of the content and the first block, and syncs the file.
@@ -36,8 +39,11 @@ class HistoryWriter {
 
  private:
   void Portion(HistoryPortion kind, std::string_view bytes);
-  void FlushPlaces();
+  void FlushAll();
   void FlushGroups();
+  void FlushPlaces();
+  void FlushReferences();
+  void FlushBytes(HistoryPortion kind, std::string& bytes);
   void Flush();
 
   HistoryGate& gate_;
@@ -46,6 +52,7 @@ class HistoryWriter {
   std::string pending_;  // portions to be written at `end_`
   std::string places_;
   std::string groups_;
+  std::string references_;
   std::int64_t next_offset_ = 0;
   std::uint64_t changes_ = 0;
 };
@@ -79,6 +86,7 @@ class HistoryFile {
     std::function<void(ChangeGroup, std::string_view title)> group = nullptr;
     std::function<void(const HistoryFileEntry&)> file = nullptr;
     std::function<void(const HistoryPlace&)> place = nullptr;
+    std::function<void(RecordReference)> reference = nullptr;
     std::function<void(std::string_view)> report = nullptr;
     PlaceParts parts = PlaceParts::kWhole;
   };
@@ -102,6 +110,7 @@ class HistoryFile {
   RunTitle TitleOf(const Portion& portion) const;
   HistoryFileEntry EntryOf(const Portion& portion) const;
   void ReadGroups(std::string_view bytes, const Reader& reader) const;
+  void ReadReferences(std::string_view bytes, const Reader& reader) const;
   void ReadPlaces(std::string_view bytes, std::int64_t& next_offset, const Reader& reader);
   void Check(bool right) const {
     if (!right) throw DamagedHistory(path_);

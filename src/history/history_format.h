@@ -39,6 +39,7 @@ enum class HistoryPortion : std::uint8_t {
   kPlaces = 4,
   kReport = 5,
   kEnd = 6,
+  kReferences = 7,
 };
 
 // Reports error 57 for a history file whose content is not as HistoryWriter has written it.

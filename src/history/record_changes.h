@@ -24,7 +24,8 @@ struct RecordChange {
   ChangeKind kind = ChangeKind::kChanged;
   std::string file = {};    // relative to the install folder, with "/"
   std::int64_t record = 0;  // from 1; 0 for a whole file
-  std::string title = {};   // the title of the record or of its group
+  std::string title = {};   // the name of the record or of its group
+  std::string group = {};   // the title of its group, which is empty for the run as a whole
   std::optional<LayoutInfo> layout = {};
   // The whole record before and after the run. Empty if it did not exist.
   std::string old_bytes = {};

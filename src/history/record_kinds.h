@@ -7,8 +7,13 @@
 #include <string_view>
 
 #include "core/field.h"
+#include "history/record_reference.h"
 
 namespace golf {
+
+// Is called with the referring record and the number of the record to which it refers.
+using EachReference = std::function<void(std::string_view from_file, std::int64_t from_record,
+                                         std::int64_t to_record)>;
 
 // Contains what the history must know about the records. The program supplies it, since src/history
 // does not include the stores. A record is free if it contains no golfer, course or roster. A free
@@ -21,20 +26,18 @@ struct RecordKinds {
   // the whole record.
   std::function<std::string(std::string_view file, std::int64_t record, std::string_view bytes)>
       title_of;
+  // Returns the name in a record, also if the record is free.
+  std::function<std::string(std::string_view file, std::int64_t record, std::string_view bytes)>
+      name_in;
   // Returns the source file from which a file can be rebuilt, such as the library of a course
   // index. Returns an empty string for any other file. Both paths are relative to the install
   // folder.
   std::function<std::string(std::string_view file)> derived_from;
-  // True if a free record with the bytes `remains` belonged to the golfer, course or roster that is
-  // now in `bytes`. The run has then restored the record and not added it, so references to the
-  // record may be older than the run.
-  std::function<bool(std::string_view file, std::string_view remains, std::string_view bytes)>
-      is_same;
-  // Returns a record that refers to this one, such as "Tournament \"Club Championship\"". Returns
-  // an empty string if there is none.
-  using ReferredBy = std::function<std::string(std::string_view file, std::int64_t record)>;
-  // Returns a function that reads the files at its first call, including their held changes.
-  std::function<ReferredBy()> references;
+  // Calls `each` for each reference to a record of `file`. Reads held changes, too.
+  std::function<void(std::string_view file, const EachReference& each)> for_each_reference;
+  // Returns the name of a record that refers to another one, such as "Tournament \"Autumn Medal\"".
+  // Returns an empty string if the record is free.
+  std::function<std::string(const RecordId& from)> referrer_name;
 };
 
 }  // namespace golf

@@ -1,6 +1,7 @@
 #include "history/transactions.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -34,6 +35,15 @@ void PutBack(RunFiles& files, HistoryFile& history) {
   history.Put(files.gate(), HistoryMark::kClosed);
 }
 
+// Appends the numbers of the records in which a place lies. Their length is in bytes.
+void AddRecords(std::vector<std::int64_t>& records, const HeldPlace& place, std::int64_t length) {
+  const std::int64_t first = place.offset / length + 1;
+  const std::int64_t last = (place.End() - 1) / length + 1;
+  for (std::int64_t record = first; record <= last; ++record) {
+    if (records.empty() || records.back() < record) records.push_back(record);
+  }
+}
+
 NumberedError Replaced(const std::string& path) {
   return {ErrorNumber::kPermissionDenied,
           "Another program has replaced " + path + " during the run. Nothing was changed."};
@@ -41,12 +51,8 @@ NumberedError Replaced(const std::string& path) {
 
 }  // namespace
 
-Transactions::Transactions(HeldPlatform& held, std::function<DateValue()> now,
-                           RecordLength record_length)
-    : held_(held),
-      folder_(held.real()),
-      now_(std::move(now)),
-      record_length_(std::move(record_length)) {
+Transactions::Transactions(HeldPlatform& held, std::function<DateValue()> now, RecordFacts facts)
+    : held_(held), folder_(held.real()), now_(std::move(now)), facts_(std::move(facts)) {
   held_.on_change = [this] { CheckStopped(); };
 }
 
@@ -160,20 +166,43 @@ void Transactions::WriteContent(HistoryWriter& writer, const HistoryName& name,
                                 HeldChanges& changes, std::string_view report) {
   writer.Run(title_);
   std::size_t kept = 0;
-  ReadHeld(
-      changes, folder_.paths(),
-      {.group = [&](ChangeGroup group, std::string_view title) { writer.Group(group, title); },
-       .file =
-           [&](HistoryFileEntry entry) {
-             if (entry.fate == FileFate::kDeleted) {
-               entry.kept_as = HistoryFolder::KeptName(name, ++kept);
-             }
-             writer.File(entry);
-           },
-       .place = [&](const HeldPlace& place, std::string_view code) { writer.Place(place, code); },
-       .record_length = record_length_});
+  ChangedRecords changed;
+  std::vector<std::int64_t>* records = nullptr;
+  std::int64_t length = 0;
+  ReadHeld(changes, folder_.paths(),
+           {.group = [&](ChangeGroup group, std::string_view title) { writer.Group(group, title); },
+            .file =
+                [&](HistoryFileEntry entry) {
+                  if (entry.fate == FileFate::kDeleted) {
+                    entry.kept_as = HistoryFolder::KeptName(name, ++kept);
+                  }
+                  writer.File(entry);
+                  length = facts_.length ? static_cast<std::int64_t>(facts_.length(entry.path)) : 0;
+                  records = &changed[entry.path];
+                },
+            .place =
+                [&](const HeldPlace& place, std::string_view code) {
+                  writer.Place(place, code);
+                  if (length > 0) AddRecords(*records, place, length);
+                },
+            .record_length = facts_.length});
+  for (const RecordReference& reference : OldReferences(changed)) writer.Reference(reference);
   writer.Report(report);
   writer.Finish();
+}
+
+// Returns the references that exist already to records that the run adds. Returns fewer if they
+// cannot be read. An undo then takes the missing ones for new ones, and leaves the records.
+std::vector<RecordReference> Transactions::OldReferences(const ChangedRecords& changed) {
+  std::vector<RecordReference> references;
+  if (!facts_.references_to_free) return references;
+  const ResumeNext anyway(nullptr);
+  for (const auto& [file, records] : changed) {
+    anyway([&] {
+      std::ranges::move(facts_.references_to_free(file, records), std::back_inserter(references));
+    });
+  }
+  return references;
 }
 
 // Raises error 70 if a path no longer belongs to the file whose changes are held.

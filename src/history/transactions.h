@@ -2,12 +2,15 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "history/held_platform.h"
 #include "history/history_folder.h"
+#include "history/record_reference.h"
 #include "history/stopped.h"
 
 namespace golf {
@@ -56,17 +59,24 @@ struct Recovery {
 // effect.
 enum class RecoveryChoice { kByItself, kFinish, kPutBack, kLeave };
 
+// Contains what the commit must know about the records of a file. Members may be null.
+struct RecordFacts {
+  // Returns the length of the records in bytes, or 0 if the file has none.
+  std::function<std::size_t(std::string_view file)> length = nullptr;
+  // Returns the references to those of the records that are free on the disk. The numbers of the
+  // records are sorted.
+  std::function<std::vector<RecordReference>(std::string_view file,
+                                             const std::vector<std::int64_t>& records)>
+      references_to_free = nullptr;
+};
+
 // Executes the transactions of runs. Holds the changes of a transaction until its commit. The
 // commit writes them into the history first, then into the files, so that recovery is possible
 // after a crash at any moment.
 class Transactions {
  public:
-  using RecordLength = std::function<std::size_t(std::string_view file)>;
-
   // `now` returns the present date and time, which the names of history files contain.
-  // `record_length` returns the length of the records of a file in bytes, or 0 if it has none.
-  Transactions(HeldPlatform& held, std::function<DateValue()> now,
-               RecordLength record_length = nullptr);
+  Transactions(HeldPlatform& held, std::function<DateValue()> now, RecordFacts facts = {});
 
   HistoryFolder& history() { return folder_; }
   HeldPlatform& held() { return held_; }
@@ -123,11 +133,15 @@ class Transactions {
   bool IsUnfinished();
 
  private:
+  // The numbers of the changed records of each file, sorted.
+  using ChangedRecords = std::map<std::string, std::vector<std::int64_t>>;
+
   std::int32_t CommitChanges(HeldChanges& changes, std::string_view report);
   std::unique_ptr<HistoryFile> WriteHistory(const HistoryName& name, HeldChanges& changes,
                                             std::string_view report);
   void WriteContent(HistoryWriter& writer, const HistoryName& name, HeldChanges& changes,
                     std::string_view report);
+  std::vector<RecordReference> OldReferences(const ChangedRecords& changed);
   void CheckPaths(const HeldChanges& changes);
   void Apply(HistoryFile& history, HeldChanges& changes);
   void Discard(std::unique_ptr<HistoryFile> history, const HistoryName& name);
@@ -136,7 +150,7 @@ class Transactions {
   HeldPlatform& held_;
   HistoryFolder folder_;
   std::function<DateValue()> now_;
-  RecordLength record_length_;
+  RecordFacts facts_;
   RunTitle title_;
   std::int32_t committed_in_click_ = 0;
   std::int32_t last_committed_ = 0;

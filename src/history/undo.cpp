@@ -47,14 +47,12 @@ std::vector<FieldElement> ChangedSince(const LayoutInfo& layout, const Sides& si
   return changed;
 }
 
-// Identifies a record by its file and number, from 1. Number 0 is the whole file.
-using Unit = std::pair<std::string, std::int64_t>;
-
 // Contains data that the parts of a run share.
 struct AllParts {
-  std::set<std::string> kept_titles;      // of groups that must be left unchanged
-  std::map<Unit, std::string> referring;  // a record that refers to an added one
-  std::vector<Unit> removed;              // added records that the undo removes
+  std::set<std::string> kept_titles;          // of groups that must be left unchanged
+  std::set<RecordReference> old_references;   // that are older than the run
+  std::map<RecordId, std::string> referring;  // by added record: the name of one that refers to it
+  std::set<RecordId> removed;                 // added records that the undo removes
 };
 
 // Puts back one part of a run. Records, groups and files that it leaves unchanged are called kept.
@@ -88,7 +86,9 @@ class PartUndo {
          .file =
              [&](const HistoryFileEntry& entry) {
                if (entry.fate == FileFate::kCreated) created_.insert(entry.path);
-             }});
+             },
+         .reference =
+             [&](RecordReference reference) { all_.old_references.insert(std::move(reference)); }});
   }
 
   // Reads the history file and calls `each` for each record part. Calls `begin` before those of
@@ -185,7 +185,7 @@ class PartUndo {
     } else if (sides.found != sides.written) {
       elements = ChangedSince(*layout_, sides);
     }
-    if (layout_ && elements.empty()) reason = MissedBy(part, sides);
+    if (layout_ && elements.empty()) reason = ReasonToKeep(part, sides);
     if (!elements.empty() || !reason.empty()) {
       AddConflict(part, sides, std::move(elements), std::move(reason));
     }
@@ -198,23 +198,22 @@ class PartUndo {
     Sides sides{.old_bytes = Filled(before, length_),
                 .written = Filled(WholeRecord(part, part.new_bytes, whole), length_),
                 .found = whole};
-    sides.is_added = layout_ && !IsSomebody(part.record, sides.old_bytes) &&
-                     (before.empty() || IsSomebody(part.record, sides.written));
+    sides.is_added = layout_ && !IsUsed(part.record, sides.old_bytes) &&
+                     (before.empty() || IsUsed(part.record, sides.written));
     return sides;
   }
 
-  bool IsSomebody(std::int64_t record, const std::string& bytes) const {
+  bool IsUsed(std::int64_t record, const std::string& bytes) const {
     return !kinds_.title_of(entry_.path, record, bytes).empty();
   }
 
   // Returns why an added record cannot be removed: other records follow it or refer to it. Returns
   // an empty string if it can be removed.
-  std::string MissedBy(const RecordPart& part, const Sides& sides) {
+  std::string ReasonToKeep(const RecordPart& part, const Sides& sides) {
     if (!sides.is_added) return {};
     if (part.old_bytes.empty() && HasGrown()) return "Other records follow it by now.";
-    if (!IsSomebody(part.record, sides.found)) return {};
-    if (kinds_.is_same(entry_.path, sides.old_bytes, sides.written)) return {};
-    const Unit unit{entry_.path, part.record};
+    if (!IsUsed(part.record, sides.found)) return {};
+    const RecordId unit{entry_.path, part.record};
     const auto referring = all_.referring.find(unit);
     if (referring != all_.referring.end()) return referring->second + " refers to it by now.";
     added_.insert(unit);
@@ -242,7 +241,7 @@ class PartUndo {
         }
       }
     }
-    if (conflict.title.empty()) conflict.title = titles_[part.group];
+    if (conflict.title.empty()) conflict.title = TitleOf(part.group);
     result_.conflicts.push_back(std::move(conflict));
   }
 
@@ -251,10 +250,14 @@ class PartUndo {
   // The second walk keeps all records of groups with a conflict, in all parts of the run.
   void KeepGroups() {
     kept_groups_.erase(0);
-    for (const ChangeGroup group : kept_groups_) all_.kept_titles.insert(titles_[group]);
-    for (const auto& [group, title] : titles_) {
-      if (all_.kept_titles.contains(title)) kept_groups_.insert(group);
-    }
+    std::size_t count = 0;
+    do {
+      count = kept_groups_.size();
+      for (const auto& [group, title] : titles_) {
+        if (kept_groups_.contains(group)) all_.kept_titles.insert(title);
+        if (all_.kept_titles.contains(title)) kept_groups_.insert(group);
+      }
+    } while (kept_groups_.size() != count);
     if (kept_groups_.empty()) return;
     Walk(
         [&](const RecordPart& part) {
@@ -290,19 +293,19 @@ class PartUndo {
     const std::int64_t first_behind =
         entry_.old_length / static_cast<std::int64_t>(length_) + (layout_ ? 1 : 0);
     const auto behind = kept_.lower_bound({entry_.path, std::max<std::int64_t>(first_behind, 1)});
-    keeps_behind_ = HasGrown() || (behind != kept_.end() && behind->first == entry_.path);
+    keeps_behind_ = HasGrown() || (behind != kept_.end() && behind->file == entry_.path);
     const auto any = kept_.lower_bound({entry_.path, 0});
-    keeps_any_ = any != kept_.end() && any->first == entry_.path;
+    keeps_any_ = any != kept_.end() && any->file == entry_.path;
     const bool is_deleted_whole = entry_.fate == FileFate::kCreated && !keeps_any_;
-    is_in_hand_ = file_ != nullptr && !kept_.contains({entry_.path, 0}) && !is_deleted_whole;
+    is_put_back_ = file_ != nullptr && !kept_.contains({entry_.path, 0}) && !is_deleted_whole;
   }
 
   void PutBack(const RecordPart& part) {
     if (kept_.contains({entry_.path, 0})) return;
-    const Unit unit{entry_.path, layout_ ? part.record : 0};
+    const RecordId unit{entry_.path, layout_ ? part.record : 0};
     if (kept_.contains(unit)) return;
-    if (added_.contains(unit)) all_.removed.push_back(unit);
-    if (!is_in_hand_) return;
+    if (added_.contains(unit)) all_.removed.insert(unit);
+    if (!is_put_back_) return;
     result_.put_back.insert(entry_.path);
     const std::int64_t offset = Offset(part.record) + static_cast<std::int64_t>(part.at);
     const std::string now = Now(offset, part.size);
@@ -325,18 +328,24 @@ class PartUndo {
     NoteGroup(part.group);
   }
 
+  // Returns the first title of a group.
+  std::string TitleOf(ChangeGroup group) const {
+    const auto title = titles_.lower_bound(group);
+    return title == titles_.end() || title->first != group ? std::string() : title->second;
+  }
+
   // Begins the group of the undo that corresponds to a group of the run.
   void BeginGroup(ChangeGroup group) {
     if (const auto held = groups_.find(group); group != 0 && held != groups_.end()) {
       held_.held()->groups().Resume(held->second);
     } else {
-      transactions_.BeginGroup(titles_[group]);
+      transactions_.BeginGroup(TitleOf(group));
     }
   }
   void NoteGroup(ChangeGroup group) { groups_.emplace(group, held_.held()->groups().Current()); }
 
   void FinishFile() {
-    if (!std::exchange(is_in_hand_, false) || keeps_behind_) return;
+    if (!std::exchange(is_put_back_, false) || keeps_behind_) return;
     if (entry_.new_length > entry_.old_length && file_->Length() > entry_.old_length) {
       result_.put_back.insert(entry_.path);
       transactions_.BeginGroup("");
@@ -351,7 +360,7 @@ class PartUndo {
     std::vector<HistoryFileEntry> created;
     history_.Read({.file = [&](const HistoryFileEntry& entry) {
       const auto kept = kept_.lower_bound({entry.path, 0});
-      if (kept != kept_.end() && kept->first == entry.path) return;
+      if (kept != kept_.end() && kept->file == entry.path) return;
       if (entry.fate == FileFate::kDeleted) deleted.push_back(entry);
       if (entry.fate == FileFate::kCreated) created.push_back(entry);
     }});
@@ -361,10 +370,10 @@ class PartUndo {
       const std::string path = folder_.paths().Path(entry.path);
       if (IsThere(path)) gate_.Delete(path);
     }
-    for (const HistoryFileEntry& entry : deleted) BringBack(entry);
+    for (const HistoryFileEntry& entry : deleted) Restore(entry);
   }
 
-  void BringBack(const HistoryFileEntry& entry) {
+  void Restore(const HistoryFileEntry& entry) {
     result_.put_back.insert(entry.path);
     const auto kept = folder_.gate().platform().Open(KeptPath(entry), FileAccess::kReadOnly);
     const std::string path = folder_.paths().Path(entry.path);
@@ -392,10 +401,10 @@ class PartUndo {
   HistoryFile& history_;
   AllParts& all_;
   UndoResult& result_;
-  std::map<ChangeGroup, std::string> titles_;
+  std::multimap<ChangeGroup, std::string> titles_;
   std::set<std::string> created_;
-  std::set<Unit> added_;  // added records that are removed unless others refer to them
-  std::set<Unit> kept_;
+  std::set<RecordId> added_;  // added records that are removed unless others refer to them
+  std::set<RecordId> kept_;
   std::set<ChangeGroup> kept_groups_;
   std::map<ChangeGroup, ChangeGroup> groups_;  // the groups of the undo, by those of the run
   // These members describe the current file of Walk.
@@ -404,10 +413,27 @@ class PartUndo {
   std::optional<LayoutInfo> layout_;
   std::size_t length_ = 1;  // bytes of a record
   std::unique_ptr<PlatformFile> file_;
-  bool is_in_hand_ = false;
+  bool is_put_back_ = false;
   bool keeps_any_ = false;
   bool keeps_behind_ = false;  // true if bytes behind the old length are kept
 };
+
+// Finds records that refer to a removed one since the run. Must be called with the undo held, so
+// that only references that remain after it count.
+void AddReferring(const RecordKinds& kinds, AllParts& all) {
+  std::map<std::string, std::set<std::int64_t>> removed;
+  for (const RecordId& id : all.removed) removed[id.file].insert(id.record);
+  for (const auto& [file, records] : removed) {
+    kinds.for_each_reference(
+        file, [&](std::string_view from_file, std::int64_t from_record, std::int64_t to_record) {
+          if (!records.contains(to_record)) return;
+          const RecordReference reference{{std::string(from_file), from_record}, {file, to_record}};
+          if (all.old_references.contains(reference)) return;
+          std::string name = kinds.referrer_name(reference.from);
+          if (!name.empty()) all.referring.emplace(reference.to, std::move(name));
+        });
+  }
+}
 
 RunTitle TitleOfUndo(const HistoryRun& run) {
   const std::string& about = run.title.about;
@@ -431,12 +457,7 @@ UndoResult HoldUndo(HeldPlatform& held, HistoryFolder& folder, Transactions& tra
       const auto history = folder.Open(*part, FileAccess::kReadOnly);
       PartUndo(held, folder, transactions, kinds, *history, all, result).Run();
     }
-    // Reads the references with the undo held, so that only references that remain after it count.
-    const RecordKinds::ReferredBy referred_by = kinds.references();
-    for (const Unit& removed : all.removed) {
-      std::string referring = referred_by(removed.first, removed.second);
-      if (!referring.empty()) all.referring.emplace(removed, std::move(referring));
-    }
+    AddReferring(kinds, all);
     // A group that an earlier part keeps must be kept in the later parts, too. The loop then
     // repeats the undo.
     const bool more_stay = run.parts.size() > 1 && all.kept_titles.size() != kept_titles;

@@ -1,6 +1,7 @@
 #include "outlets/changed_fields.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <optional>
 
@@ -106,6 +107,36 @@ std::string ValueOf(const FieldElement& element, std::string_view record) {
   return std::string(TrimRight(value));
 }
 
+// Returns what distinguishes values for people, who need not see how unused bytes are filled.
+std::string ShownValueOf(const FieldElement& element, std::string_view record) {
+  const std::string_view bytes = element.In(record);
+  constexpr std::string_view kFill("\0 ", 2);
+  const bool is_fill = bytes.find_first_not_of(kFill) == std::string_view::npos;
+  return element.field.name.empty() && is_fill ? std::string() : ValueOf(element, record);
+}
+
+// Calls `each` for the elements whose bytes differ. Missing bytes count as zeros.
+void ForEachDifference(const LayoutInfo& layout, std::string before, std::string after,
+                       const std::function<void(const FieldElement&, const std::string& before,
+                                                const std::string& after)>& each) {
+  before.resize(layout.length);
+  after.resize(layout.length);
+  for (const Field& field : layout.fields) {
+    for (std::size_t nth = 0; nth < field.Count(); ++nth) {
+      const std::size_t at = field.OffsetOfNth(nth);
+      if (before.compare(at, field.width, after, at, field.width) == 0) continue;
+      each({field, nth}, before, after);
+    }
+  }
+}
+
+// Returns the line of a change that only changes how unused bytes are filled.
+ChangedField FillChange(ChangeKind kind) {
+  if (kind == ChangeKind::kAdded) return {"Empty record", "-", ""};
+  if (kind == ChangeKind::kRemoved) return {"Empty record", "", "-"};
+  return {"Blank texts", "\"\"", "\"\""};
+}
+
 // Returns the scores of a history with their numbers of occurrences. Entries of zeros and blanks
 // are free.
 std::map<std::string, int> ScoresIn(std::string_view history) {
@@ -122,18 +153,13 @@ std::map<std::string, int> ScoresIn(std::string_view history) {
 std::vector<FieldElement> ChangedElements(const RecordChange& change) {
   std::vector<FieldElement> changed;
   if (!change.layout || change.record == 0) return changed;
-  std::string before = change.old_bytes;
-  std::string after = change.new_bytes;
-  before.resize(change.layout->length);
-  after.resize(change.layout->length);
-  for (const Field& field : change.layout->fields) {
-    for (std::size_t nth = 0; nth < field.Count(); ++nth) {
-      const std::size_t at = field.OffsetOfNth(nth);
-      if (before.compare(at, field.width, after, at, field.width) == 0) continue;
-      const FieldElement element{field, nth};
-      if (ValueOf(element, before) != ValueOf(element, after)) changed.push_back(element);
-    }
-  }
+  const bool has_both = !change.old_bytes.empty() && !change.new_bytes.empty();
+  ForEachDifference(*change.layout, change.old_bytes, change.new_bytes,
+                    [&](const FieldElement& element, const auto& before, const auto& after) {
+                      if (has_both || ValueOf(element, before) != ValueOf(element, after)) {
+                        changed.push_back(element);
+                      }
+                    });
   return changed;
 }
 
@@ -160,8 +186,18 @@ std::vector<ChangedField> ChangeDescriber::FieldsOf(const RecordChange& change) 
     std::vector<ChangedField> scores = ScoresOf(change);
     if (!scores.empty()) return scores;
   }
-  return DescribeElements(ChangedElements(change), change.old_bytes, change.new_bytes,
-                          reader_.state().DateFormat);
+  // A free record may contain the remains of another golfer, which say nothing about the change.
+  const std::string before = change.kind == ChangeKind::kAdded ? "" : change.old_bytes;
+  const std::string after = change.kind == ChangeKind::kRemoved ? "" : change.new_bytes;
+  std::vector<FieldElement> shown;
+  ForEachDifference(*change.layout, before, after,
+                    [&](const FieldElement& element, const auto& old_bytes, const auto& new_bytes) {
+                      if (ShownValueOf(element, old_bytes) != ShownValueOf(element, new_bytes)) {
+                        shown.push_back(element);
+                      }
+                    });
+  if (shown.empty()) return {FillChange(change.kind)};
+  return DescribeElements(shown, before, after, reader_.state().DateFormat);
 }
 
 std::vector<ChangedField> ChangeDescriber::ScoresOf(const RecordChange& change) {

@@ -18,8 +18,8 @@ struct ChangedField {
   std::string after;
 };
 
-// Returns the elements whose values differ. Missing bytes count as zeros, and a text of NULs equals
-// a blank text.
+// Returns the elements whose bytes differ. If the record is new or removed, missing bytes count as
+// zeros, and a text of NULs equals a blank text.
 std::vector<FieldElement> ChangedElements(const RecordChange& change);
 
 // Returns a line for each of the elements. Consecutive elements of a table share a line. An empty
@@ -34,8 +34,9 @@ class ChangeDescriber {
  public:
   explicit ChangeDescriber(SharedState& state) : reader_(state) {}
 
-  // Returns the fields of one change in the order of the record. Returns none for a change of a
-  // file as a whole.
+  // Returns the fields of one change in the order of the record, or one line that says that only
+  // the filling of unused bytes changes. Returns none for a change of a file as a whole. An added
+  // record has no values before, and a removed one has none after.
   std::vector<ChangedField> FieldsOf(const RecordChange& change);
 
  private:

@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -16,7 +17,9 @@ namespace golf {
 // paths below the install, with "/". An unreadable file is treated as a missing one.
 class InstallReader {
  public:
-  explicit InstallReader(SharedState& state) : state_(state) {}
+  // Reads held changes, too.
+  explicit InstallReader(SharedState& state) : InstallReader(state, state.files.platform()) {}
+  InstallReader(SharedState& state, Platform& platform) : state_(state), platform_(platform) {}
 
   SharedState& state() { return state_; }
 
@@ -28,19 +31,26 @@ class InstallReader {
     return read;
   }
 
-  // Calls `each` with the number, from 1, and the contents of every whole record of a file.
+  // Calls `each` with the number, from 1, and the contents of every whole record of a file. Closes
+  // the file at the end.
   template <class Layout, class Each>
   void ForEach(std::string_view file, Each each) {
     Record<Layout> read;
     for (std::int64_t record = 1; ReadBytes(file, record, read.MutableBytes()); ++record) {
       each(record, read);
     }
+    Close(file);
   }
 
- private:
+  // Reads the bytes of a record. Its length is the size of `into`. Returns false if the file does
+  // not have the whole record.
   bool ReadBytes(std::string_view file, std::int64_t record, std::span<char> into);
 
+ private:
+  void Close(std::string_view file);
+
   SharedState& state_;
+  Platform& platform_;
   std::map<std::string, std::unique_ptr<PlatformFile>, std::less<>> files_;
 };
 

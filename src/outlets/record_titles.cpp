@@ -1,5 +1,7 @@
 #include "outlets/record_titles.h"
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 
 #include "core/text.h"
@@ -8,6 +10,7 @@
 #include "stores/course/course_layout.h"
 #include "stores/kelvane/kelvane_layouts.h"
 #include "stores/quenby/quenby_layouts.h"
+#include "stores/zandel/zandel_files.h"
 #include "stores/zandel/zandel_layouts.h"
 
 namespace golf {
@@ -32,93 +35,100 @@ std::string Numbered(std::string_view what, std::int64_t number) {
   return std::string(what) + " " + std::to_string(number);
 }
 
-std::string TitleOf(const RecordPlace&, const Record<KelvaneGolferLayout>& golfer) {
-  if (golfer.Get<"Status">() < 1) return {};
+// IsFree returns true for a record that contains no golfer, roster, course or league. Records of
+// other kinds are never free.
+bool IsFree(const Record<KelvaneGolferLayout>& golfer) { return golfer.Get<"Status">() < 1; }
+bool IsFree(const Record<PlayerLayout>& golfer) { return golfer.Get<"IDNum">() < 1; }
+bool IsFree(const Record<RosterLayout>& roster) { return roster.Get<"IsRosterActive">() == 0; }
+bool IsFree(const Record<CourseLayout>& course) { return course.Get<"activeflag">() == 0; }
+bool IsFree(const Record<TournamentPlayerLayout>& entry) {
+  return entry.Get<"TourRosterRecordPointer">() < 1;
+}
+bool IsFree(const Record<LeaguePlayerLayout>& player) {
+  return !HasLastName(player) && player.Get<"GolferID">() < 1;
+}
+template <class Layout>
+bool IsFree(const Record<Layout>&) {
+  return false;
+}
+
+// NameOf returns the name in a record, also if the record is free.
+std::string NameOf(const RecordPlace&, const Record<KelvaneGolferLayout>& golfer) {
   return GolferTitleLF(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">(), golfer.Get<"IDNum">());
 }
 
 // Returns the name of the golfer whose record in the roster has the same number.
-std::string TitleOf(const RecordPlace& place, const Record<KelvaneHistoryLayout>&) {
+std::string NameOf(const RecordPlace& place, const Record<KelvaneHistoryLayout>&) {
   const std::string roster = WithExtension(place.file, ".kvg");
   const auto golfer = place.reader.Read<KelvaneGolferLayout>(roster, place.record);
-  return golfer ? TitleOf(place, *golfer) : std::string();
+  return golfer && !IsFree(*golfer) ? NameOf(place, *golfer) : std::string();
 }
 
-std::string TitleOf(const RecordPlace& place, const Record<KelvaneHeaderLayout>&) {
+std::string NameOf(const RecordPlace& place, const Record<KelvaneHeaderLayout>&) {
   return Stem(place.file);
 }
 
-std::string TitleOf(const RecordPlace&, const Record<PlayerLayout>& golfer) {
-  if (golfer.Get<"IDNum">() < 1) return {};
+std::string NameOf(const RecordPlace&, const Record<PlayerLayout>& golfer) {
   return GolferTitleLF(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">(), golfer.Get<"IDNum">());
 }
 
-std::string TitleOf(const RecordPlace& place, const Record<RosterLayout>& roster) {
-  if (roster.Get<"IsRosterActive">() == 0) return {};
+std::string NameOf(const RecordPlace& place, const Record<RosterLayout>& roster) {
   const std::string name = WithoutPadding(roster.Get<"ClubName">());
   return name.empty() ? Numbered("Roster", place.record) : name;
 }
 
-std::string TitleOf(const RecordPlace& place, const Record<TournamentLayout>& tournament) {
+std::string NameOf(const RecordPlace& place, const Record<TournamentLayout>& tournament) {
   const std::string name = WithoutPadding(tournament.Get<"Name">());
   return name.empty() ? Stem(place.file) : name;
 }
 
-std::string TitleOf(const RecordPlace& place, const Record<TournamentPlayerLayout>& entry) {
+std::string NameOf(const RecordPlace& place, const Record<TournamentPlayerLayout>& entry) {
   const std::int64_t pointer = entry.Get<"TourRosterRecordPointer">();
-  if (pointer < 1) return {};
   const std::string folder(place.file.substr(0, place.file.rfind('/') + 1));
   const auto golfer = place.reader.Read<PlayerLayout>(folder + "QBGOLFER.Q9D", pointer);
-  std::string name = golfer ? TitleOf(place, *golfer) : std::string();
+  std::string name = golfer && !IsFree(*golfer) ? NameOf(place, *golfer) : std::string();
   if (name.empty()) name = Numbered("Golfer of record", pointer);
   return name + " (" + TournamentTitle(place.reader, place.file) + ")";
 }
 
-std::string TitleOf(const RecordPlace&, const Record<TeamLayout>& team) {
+std::string NameOf(const RecordPlace&, const Record<TeamLayout>& team) {
   return WithoutPadding(team.Get<"TeamName">());
 }
 
-std::string TitleOf(const RecordPlace& place, const Record<CourseLayout>& course) {
-  if (course.Get<"activeflag">() == 0) return {};
+std::string NameOf(const RecordPlace& place, const Record<CourseLayout>& course) {
   const std::string name = WithoutPadding(course.Get<"Name">());
   return name.empty() ? Numbered("Course", place.record) : name;
 }
 
-std::string TitleOf(const RecordPlace&, const Record<LeaguePlayerLayout>& player) {
-  if (IsBlankText(player.Get<"LastName">())) return {};
+std::string NameOf(const RecordPlace&, const Record<LeaguePlayerLayout>& player) {
   return GolferTitleLF(player.Get<"FirstName">(), player.Get<"LastName">(),
                        player.Get<"GolferID">());
 }
 
-std::string TitleOf(const RecordPlace& place, const Record<LeagueControlLayout>& league) {
+std::string NameOf(const RecordPlace& place, const Record<LeagueControlLayout>& league) {
   const std::string name = WithoutPadding(league.Get<"LeagueName">());
   return name.empty() ? Stem(place.file) : name;
 }
 
-// Returns the name of the league to which a file belongs.
-std::string LeagueTitle(const RecordPlace& place) {
-  const std::string control = WithExtension(place.file, ".ZL8");
-  const auto league = place.reader.Read<LeagueControlLayout>(control, 1);
-  return league ? TitleOf({place.reader, control, 1}, *league) : Stem(place.file);
+std::string NameOf(const RecordPlace& place, const Record<LeagueEventLayout>&) {
+  return LeagueTitle(place.reader, place.file) + ", " + Numbered("event", place.record);
 }
 
-std::string TitleOf(const RecordPlace& place, const Record<LeagueEventLayout>&) {
-  return LeagueTitle(place) + ", " + Numbered("event", place.record);
-}
-
-std::string TitleOf(const RecordPlace& place, const Record<LeagueTeamLayout>&) {
-  return LeagueTitle(place) + ", " + Numbered("team", place.record);
+std::string NameOf(const RecordPlace& place, const Record<LeagueTeamLayout>&) {
+  return LeagueTitle(place.reader, place.file) + ", " + Numbered("team", place.record);
 }
 
 struct TitleKind {
   std::string_view layout;
-  std::string (*title)(const RecordPlace&, std::string_view bytes);
+  bool (*is_free)(std::string_view bytes);
+  std::string (*name)(const RecordPlace&, std::string_view bytes);
 };
 
 template <class Layout>
 constexpr TitleKind Titled() {
-  return {Layout::kName, [](const RecordPlace& place, std::string_view bytes) {
-            return TitleOf(place, RecordOf<Layout>(bytes));
+  return {Layout::kName, [](std::string_view bytes) { return IsFree(RecordOf<Layout>(bytes)); },
+          [](const RecordPlace& place, std::string_view bytes) {
+            return NameOf(place, RecordOf<Layout>(bytes));
           }};
 }
 
@@ -129,22 +139,39 @@ constexpr TitleKind kTitles[] = {
     Titled<LeaguePlayerLayout>(),     Titled<LeagueControlLayout>(),  Titled<LeagueEventLayout>(),
     Titled<LeagueTeamLayout>()};
 
+// Returns null if records of this file have no names.
+const TitleKind* KindOf(std::string_view file) {
+  const auto layout = LayoutOfFile(FileNameOf(file));
+  if (!layout) return nullptr;
+  const auto kind = std::find_if(std::begin(kTitles), std::end(kTitles),
+                                 [&](const auto& known) { return known.layout == layout->name; });
+  return kind == std::end(kTitles) ? nullptr : kind;
+}
+
 }  // namespace
 
 std::string TournamentTitle(InstallReader& reader, std::string_view file) {
   const std::string control = WithExtension(file, ".Q9C");
   const auto tournament = reader.Read<TournamentLayout>(control, 1);
-  return tournament ? TitleOf({reader, control, 1}, *tournament) : Stem(file);
+  return tournament ? NameOf({reader, control, 1}, *tournament) : Stem(file);
+}
+
+std::string LeagueTitle(InstallReader& reader, std::string_view file) {
+  const std::string control = WithExtension(file, ".ZL8");
+  const auto league = reader.Read<LeagueControlLayout>(control, 1);
+  return league ? NameOf({reader, control, 1}, *league) : Stem(file);
 }
 
 std::string TitleOfRecord(InstallReader& reader, std::string_view file, std::int64_t record,
                           std::string_view bytes) {
-  const auto layout = LayoutOfFile(FileNameOf(file));
-  if (!layout) return {};
-  for (const TitleKind& kind : kTitles) {
-    if (kind.layout == layout->name) return kind.title({reader, file, record}, bytes);
-  }
-  return {};
+  const TitleKind* const kind = KindOf(file);
+  return kind == nullptr || kind->is_free(bytes) ? "" : kind->name({reader, file, record}, bytes);
+}
+
+std::string NameInRecord(InstallReader& reader, std::string_view file, std::int64_t record,
+                         std::string_view bytes) {
+  const TitleKind* const kind = KindOf(file);
+  return kind == nullptr ? "" : kind->name({reader, file, record}, bytes);
 }
 
 }  // namespace golf

@@ -30,7 +30,8 @@ inline constexpr std::string_view kNoTeam = "without a team in this event";
 inline constexpr std::string_view kNoRound = "with a score that is not between 21 and 199";
 
 // The other program already has the data.
-inline constexpr std::string_view kTransferred = "already transferred";
+inline constexpr std::string_view kTransferredBefore =
+    "already transferred, and not in this roster";
 inline constexpr std::string_view kNotAgain = "already transferred, and not transferred again";
 inline constexpr std::string_view kUnchanged = "with the same handicap and index already";
 

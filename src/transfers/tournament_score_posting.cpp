@@ -122,7 +122,7 @@ bool TournamentScorePosting::IsWantedAgain() {
   PlayerClass& player = state_.Player();
   if (!player.TourScoreTransferredtoKV(choice_.round)) return true;
   if (golfers_.Find(std::max(player.StoredID(), 0)) == 0) {
-    LeaveOutEntry(left_out::kTransferred);
+    LeaveOutEntry(left_out::kTransferredBefore);
     return false;
   }
   const Box box{.title = "Transfer again?",

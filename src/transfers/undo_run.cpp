@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "stores/course/course_class.h"
 #include "stores/course/course_library.h"
 
 namespace golf {
@@ -15,13 +14,6 @@ bool MustRebuild(const RecordKinds& kinds, const UndoResult& result, const std::
   return result.put_back.contains(library) &&
          std::none_of(result.put_back.begin(), result.put_back.end(),
                       [&](const std::string& file) { return kinds.derived_from(file) == library; });
-}
-
-void RebuildIndexes(SharedState& state, const CourseLibrary& library) {
-  CourseClass course(state);
-  OpenCourseLibrary(state, course, library);
-  course.RebuildCourseIndexes(course.ActiveCoursesByName());
-  course.CloseCourseFile();
 }
 
 std::string ReportOfUndo(const HistoryRun& run, const UndoResult& result) {
@@ -50,7 +42,7 @@ UndoResult HoldUndoOfRun(SharedState& state, const RecordKinds& kinds, const His
   for (const CourseLibrary& library : kCourseLibraries) {
     const std::string path = CourseFilePath(state, library);
     if (MustRebuild(kinds, result, folder.paths().Name(path)) && state.files.FileExists(path)) {
-      RebuildIndexes(state, library);
+      RebuildCourseIndexes(state, library);
     }
   }
   state.CourseDataPath = before;

@@ -224,9 +224,15 @@ TEST_F(HistoryTest, ChangesHaveTheFormOfADump) {
   EXPECT_NE(text.find("\n10 golfers changed, 2 added in Quenby; 12 tournament entries changed in "
                       "Quenby; 2 files\n"),
             std::string::npos);
-  EXPECT_NE(text.find("Duarte, Ines (Autumn Medal): changed in qbdata/X0001.Q9G, record 3\n"
-                      "  TourIndex(3) to (7)          0 0 0 0 0 -> 22.5 22.5 22.5 22.5 22.5\n"),
-            std::string::npos)
+  // The records of a golfer follow each other.
+  EXPECT_NE(
+      text.find(
+          "\n\nDuarte, Ines: changed in qbdata/QBGOLFER.Q9D, record 12\n"
+          "  AddressHomeLine(1) to (2)  \"\", \"\" -> \"14 Fairway Road\", \"Larkfield, OH\"\n"
+          "  PhoneHome                  \"\" -> \"555-0103\"\n"
+          "Duarte, Ines (Autumn Medal): changed in qbdata/X0001.Q9G, record 3\n"
+          "  TourIndex(3) to (7)          0 0 0 0 0 -> 22.5 22.5 22.5 22.5 22.5\n"),
+      std::string::npos)
       << text;
 }
 
@@ -257,10 +263,10 @@ TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
     Write(c.file, bytes.replace(c.at, c.bytes.size(), c.bytes));
     EXPECT_TRUE(In(c.words + " --dry-run").out.ends_with(c.section));
     EXPECT_TRUE(In(c.words + " --log log").out.ends_with(c.section));
-    for (std::string text : {folder.Read("log"), In("history show 1").out}) {
-      std::erase(text, '\r');  // the log has the line ends of the system
-      EXPECT_NE(text.find(c.section), std::string::npos) << text;
-    }
+    EXPECT_TRUE(In("history show 1").out.ends_with(std::string("\n\n") + c.section));
+    std::string log = folder.Read("log");
+    std::erase(log, '\r');  // the log has the line ends of the system
+    EXPECT_NE(log.find(c.section), std::string::npos) << log;
   }
   // The score was not posted, and the others are posted already.
   const json left_out = JsonLines(In(std::string(kTransfers[5]) + " --json").out).back()["leftOut"];
@@ -274,6 +280,33 @@ TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
   Transfer(kGolfersKvToQb);
   EXPECT_NE(In(kGolfersKvToQb).out.find("with the same handicap and index already\n    Bergstrom"),
             std::string::npos);
+}
+
+// A golfer without an ID number is written into a free record, which stays free for Quenby.
+TEST_F(HistoryTest, ChangesOfFreeAndEmptyRecordsAreShown) {
+  std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
+  PutRecord(golfers, 21, std::string(1867, '\0'));
+  Write("qbdata/QBGOLFER.Q9D", golfers);
+  std::string roster = folder.Read("i/kvdata/CLUB18.kvg");
+  Write("kvdata/CLUB18.kvg", roster.replace(11 * 2804 + 4, 4, 4, '\0'));  // the ID of golfer 12
+  Write("kvdata/CLUB18.kvs", "");
+  std::string shown;
+  for (const std::string words : {"golfers-kv-to-qb --roster CLUB18 --to 1",
+                                  "scores-zd-to-kv --league 00021 --batch 2 "
+                                  "--roster CLUB18 --again yes"}) {
+    for (const json& event : JsonLines(In(words + " --dry-run --json").out)) {
+      const int record = event.value("record", 0);
+      const std::string file = event.value("file", "");
+      if (record < 21 && (!file.ends_with("kvs") || record > 2)) continue;
+      shown += event["kind"].get<std::string>() + ' ' + event["title"].get<std::string>();
+      for (const json& field : event.value("fields", json::array())) {
+        if (field["name"] == "NameFirst") shown += " " + field["old"].dump();
+      }
+      shown += '\n';
+    }
+  }
+  EXPECT_EQ(shown, "changed Marlow, Ben " + json(std::string(11, '\0')).dump() +
+                       "\nadded Bergstrom, Anna\nadded Calder, Tom\n");
 }
 
 // Another program changes a byte of what a run has written, in each kind of file.
@@ -382,6 +415,18 @@ TEST_F(HistoryTest, AnAddedGolferWhoPlaysByNowStays) {
   PutRecord(expected, 22, RecordAt(golfers, 22, 1867));
   PutRecord(expected, 23, std::string(1867, '\0'));  // not cut: nothing else shows where it ends
   EXPECT_TRUE(folder.Read("i/qbdata/QBGOLFER.Q9D") == expected);
+}
+
+TEST_F(HistoryTest, AReferenceThatIsOlderThanTheRunKeepsNoGolfer) {
+  std::string entries = folder.Read("i/qbdata/X0001.Q9G");
+  std::string entry = RecordAt(entries, 1, 3052);
+  Put16(entry, 0, {22});
+  PutRecord(entries, entries.size() / 3052 + 1, entry);
+  Write("qbdata/X0001.Q9G", entries);
+  const Tree before = Data();
+  Transfer(kGolfersKvToQb);
+  ASSERT_EQ(In("undo").code, 0);
+  EXPECT_TRUE(Data() == before);
 }
 
 TEST_F(HistoryTest, OthersWhoFollowAnAddedGolferKeepHim) {

@@ -72,6 +72,15 @@ TEST_F(PreviewTest, TransferNowDoesWhatTheTransferDoesAndCloseDoesNothing) {
   }
 }
 
+// The run fills in the percentage.
+TEST_F(PreviewTest, CloseLeavesTheScreenAsItWas) {
+  const Ended ended = Script(
+      "open KVtoZD\nclick FindZDButton\npick LeagueList 00021\nclick OKLEague\n"
+      "click FindKVMButton\nrow grid1 1\nclick LoadButton\n"
+      "answer Question Yes\nclick PreviewButton\nclick CloseButton\nshow HandicapPrct\n");
+  EXPECT_EQ(Shown(JsonLines(ended.out), "HandicapPrct"), R"("")") << ended.problems;
+}
+
 TEST_F(PreviewTest, TheListIsFilteredByTextAndKind) {
   const Ended ended = Script(
       "open KVtoQB\nset HandicapRoster CLUB18\nset TournamentRoster \"Larkfield Members 001\"\n"

@@ -55,9 +55,10 @@ RecordKinds Kinds() {
   return {
       .layout_of = [](std::string_view) { return std::nullopt; },
       .title_of = [](std::string_view, std::int64_t, std::string_view) { return std::string(); },
+      .name_in = [](std::string_view, std::int64_t, std::string_view) { return std::string(); },
       .derived_from = [](std::string_view) { return std::string(); },
-      .is_same = [](std::string_view, std::string_view, std::string_view) { return false; },
-      .references = [] { return [](std::string_view, std::int64_t) { return std::string(); }; }};
+      .for_each_reference = [](std::string_view, const EachReference&) {},
+      .referrer_name = [](const RecordId&) { return std::string(); }};
 }
 
 template <class Action>

@@ -268,7 +268,7 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
             "Player 4, A: without a complete round\nPlayer 5, A: not in this roster\n"
             "Player 9, A: not in this roster\n"
             "Player 7, A: already transferred, and not transferred again\n"
-            "Player 8, A: already transferred\n");
+            "Player 8, A: already transferred, and not in this roster\n");
   EXPECT_EQ(captions, "Transfer round #1 scores, Transfer round #2 scores");
   EXPECT_TRUE(
       Told(install,

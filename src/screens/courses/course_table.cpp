@@ -94,13 +94,13 @@ void CourseTable::LoadGrid(std::int32_t course_in_hand) {
   CourseGrid.SetActiveRow(row_in_hand);
 }
 
-std::int32_t CourseTable::CourseInHand() const {
+std::int32_t CourseTable::ChosenCourse() const {
   return RoundToInt32(LeadingNumber(CourseGrid.text(kNumberColumn, CourseGrid.active_row())));
 }
 
 // Warns that the course was transferred from Kelvane. Returns true if the operator cancels. `what`
 // is "edit" or "delete".
-bool CourseTable::WarnedOff(std::string_view what) {
+bool CourseTable::IsCancelledByWarning(std::string_view what) {
   const std::string done(what == "edit" ? "new 'edited'" : "'deleted'");
   const BoxButton answer = host().Ask(
       Box{.title = "Notice",
@@ -136,9 +136,9 @@ void CourseTable::AddCourse() {
 
 void CourseTable::EditCourse() {
   CourseClass& course = state().Course();
-  const std::int32_t record = CourseInHand();
+  const std::int32_t record = ChosenCourse();
   course.GetRecord(record);
-  if (kelvane_installed_ && course.KVCourseNum() > 0 && WarnedOff("edit")) return;
+  if (kelvane_installed_ && course.KVCourseNum() > 0 && IsCancelledByWarning("edit")) return;
   form_used_ = true;
   auto& form = Load<CourseForm>(host());
   const auto alive = form.shared_from_this();
@@ -154,14 +154,14 @@ void CourseTable::EditCourse() {
 void CourseTable::DeleteCourse() {
   const int row = CourseGrid.active_row();
   const bool from_kelvane = CourseGrid.text(kKelvaneColumn, row) == "Yes";
-  if (kelvane_installed_ && from_kelvane && WarnedOff("delete")) return;
+  if (kelvane_installed_ && from_kelvane && IsCancelledByWarning("delete")) return;
   const std::string answer = host().Ask(InputBox{
       .title = "DELETE COURSE?",
       .text = "Type 'YES' if you want to\rdelete course: " + CourseGrid.text(kNameColumn, row),
       .default_answer = "NO"});
   if (!MeansYes(answer)) return;
   CourseClass& course = state().Course();
-  const std::int32_t record = CourseInHand();
+  const std::int32_t record = ChosenCourse();
   course.GetRecord(record);
   course.Setactiveflag(0);
   Save("delete-course", record);

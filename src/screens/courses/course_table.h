@@ -32,8 +32,8 @@ class CourseTable : public Screen {
  private:
   // Lists the courses. Makes the row of the given course active if the course is listed.
   void LoadGrid(std::int32_t course_in_hand);
-  std::int32_t CourseInHand() const;
-  bool WarnedOff(std::string_view what);
+  std::int32_t ChosenCourse() const;
+  bool IsCancelledByWarning(std::string_view what);
   bool FormAccepted(Screen& form);
   void AddCourse();
   void EditCourse();

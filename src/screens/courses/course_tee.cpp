@@ -45,7 +45,7 @@ CourseTee::CourseTee(const ScreenContext& context) : Screen(kName, context) {
   }
   for (const char* unit : {"Yards", "Meters"}) YardsOrMeters.AddItem(unit);
   PlaceControls();
-  TieEntries();
+  ConnectEntries();
   OKButton.SetDefault(true);
   CancelButton.SetCancel(true);
   ActiveTee.on_click = [this] { ShowActive(); };
@@ -86,7 +86,7 @@ void CourseTee::PlaceControls() {
   Add({&Timer1, &OKButton, &CancelButton, &Help});
 }
 
-void CourseTee::TieEntries() {
+void CourseTee::ConnectEntries() {
   FTeeName.on_leave = [this] {
     LeaveTeeName();
     ShowNotes(&FTeeName);
@@ -104,19 +104,19 @@ void CourseTee::TieEntries() {
       ShowNotes(box);
     };
   }
-  TieNine(FrontHoleNumber, 0);
-  TieNine(BackHoleNumber, kNine);
+  ConnectNine(FrontHoleNumber, 0);
+  ConnectNine(BackHoleNumber, kNine);
   constexpr double kShortHole = 99;
   constexpr double kNever = 1e300;
   for (std::size_t hole = 0; hole < FYardage.size(); ++hole) {
-    TieHole(FYardage, hole, kShortHole);
-    TieHole(FPar, hole, 0);
-    TieHole(FHandicap, hole, kNever);
+    ConnectHole(FYardage, hole, kShortHole);
+    ConnectHole(FPar, hole, 0);
+    ConnectHole(FHandicap, hole, kNever);
   }
 }
 
 // Makes the numbers of a nine's other holes follow the number that is chosen for its first hole.
-void CourseTee::TieNine(ComboBox& first_number, std::size_t first_hole) {
+void CourseTee::ConnectNine(ComboBox& first_number, std::size_t first_hole) {
   HoleNumber[first_hole].SetVisible(false);
   first_number.on_click = [this, &first_number, first_hole] {
     const auto first = static_cast<std::size_t>(LeadingNumber(first_number.text()));
@@ -126,7 +126,7 @@ void CourseTee::TieNine(ComboBox& first_number, std::size_t first_hole) {
   };
 }
 
-void CourseTee::TieHole(HoleControls<TextBox>& boxes, std::size_t hole, double moves_on_above) {
+void CourseTee::ConnectHole(HoleControls<TextBox>& boxes, std::size_t hole, double moves_on_above) {
   TextBox& box = boxes[hole];
   box.on_enter = [&box] { box.SelectFirst(box.text().size()); };
   box.on_change = [this, &box, &boxes, hole, moves_on_above] {

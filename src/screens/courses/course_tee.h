@@ -83,9 +83,9 @@ class CourseTee : public Screen {
   }
 
   void PlaceControls();
-  void TieEntries();
-  void TieNine(ComboBox& first_number, std::size_t first_hole);
-  void TieHole(HoleControls<TextBox>& boxes, std::size_t hole, double moves_on_above);
+  void ConnectEntries();
+  void ConnectNine(ComboBox& first_number, std::size_t first_hole);
+  void ConnectHole(HoleControls<TextBox>& boxes, std::size_t hole, double moves_on_above);
 
   void SetUp();
   void ShowActive();

@@ -49,9 +49,8 @@ ChangePreview::ChangePreview(const ScreenContext& context)
   Add({&CountsLabel, &NoteLabel, &FilterLabel, &FilterBox, &KindLabel, &KindList, &ChangeList,
        &CopyButton, &SaveButton, &TransferNowButton, &CloseButton});
   ChangeList.SetHidden(0, true);
-  ChangeList.SetHeading(kTitleColumn, "Golfer");
   ChangeList.SetHeading(kFieldColumn, "Field");
-  for (int column = 0; column <= kAfterColumn; ++column) ChangeList.LockColumn(column, true);
+  ChangeList.LockAllColumns();
   for (const Filter& filter : kFilters) KindList.AddItem(filter.text);
   KindList.Select(0);
   CloseButton.SetCancel(true);
@@ -83,6 +82,7 @@ void ChangePreview::SetUse(ChangeListUse use) {
 bool ChangePreview::Show(ChangeListUse use, ChangeTable table, const std::string& note) {
   const auto alive = shared_from_this();
   SetUse(use);
+  ChangeList.SetHeading(kTitleColumn, table.title_heading);
   CountsLabel.SetCaption(std::move(table.counts));
   NoteLabel.SetCaption(note);
   NoteLabel.SetVisible(!note.empty());

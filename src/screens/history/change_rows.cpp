@@ -1,12 +1,14 @@
 #include "screens/history/change_rows.h"
 
 #include <algorithm>
-#include <map>
+#include <cstddef>
+#include <unordered_map>
 #include <utility>
 
 #include "history/transactions.h"
 #include "outlets/change_summary.h"
 #include "outlets/changed_fields.h"
+#include "stores/course/course_layout.h"
 
 namespace golf {
 namespace {
@@ -24,42 +26,61 @@ ChangeRowKind KindOf(ChangeKind kind) {
   }
 }
 
-// Moves the rows of one title together, in the order of the titles' first rows.
-void GroupByTitle(std::vector<ChangeRow>& rows) {
-  std::map<std::string, std::size_t> order;
-  std::vector<std::pair<std::size_t, std::size_t>> keys;  // of the title, and of the row
-  for (const ChangeRow& row : rows) {
-    keys.emplace_back(order.emplace(row.title, order.size()).first->second, keys.size());
+// Collects rows, and returns those of one golfer, course or roster together in the order of their
+// first rows.
+class GroupedRows {
+ public:
+  // Begins a change, to which the next rows belong. A change without a group is a group of its own.
+  void Begin(const std::string& group) {
+    ++changes_;
+    current_ = group.empty() ? changes_ : numbers_.emplace(group, changes_).first->second;
   }
-  std::sort(keys.begin(), keys.end());
-  std::vector<ChangeRow> grouped;
-  grouped.reserve(rows.size());
-  for (const auto& [title, row] : keys) grouped.push_back(std::move(rows[row]));
-  rows = std::move(grouped);
-}
+  void Add(ChangeRow row) {
+    keys_.emplace_back(current_, rows_.size());
+    rows_.push_back(std::move(row));
+  }
+
+  std::vector<ChangeRow> Take() {
+    std::sort(keys_.begin(), keys_.end());
+    std::vector<ChangeRow> grouped;
+    grouped.reserve(rows_.size());
+    for (const auto& [group, row] : keys_) grouped.push_back(std::move(rows_[row]));
+    return grouped;
+  }
+
+ private:
+  std::size_t changes_ = 0;
+  std::size_t current_ = 0;
+  std::unordered_map<std::string, std::size_t> numbers_;   // of the groups, in their order
+  std::vector<std::pair<std::size_t, std::size_t>> keys_;  // of each row: its group, its index
+  std::vector<ChangeRow> rows_;
+};
 
 }  // namespace
 
 ChangeTable TableOfChanges(SharedState& state, const RecordKinds& kinds,
                            const EachChange& for_each) {
   ChangeTable table;
+  GroupedRows rows;
   ChangeSummary summary(kinds);
   ChangeDescriber describer(state);
+  bool only_courses = true;
   for_each([&](const RecordChange& change) {
     summary.Add(change);
     if (!kinds.derived_from(change.file).empty()) return;
+    only_courses = only_courses && change.layout && change.layout->name == CourseLayout::kName;
+    rows.Begin(change.group);
     const ChangeRowKind kind = KindOf(change.kind);
     const std::string title = change.title.empty() ? change.file : change.title;
-    if (change.record == 0) {
-      table.rows.push_back({kind, title, std::string(NameOf(change.kind)), "", ""});
-    }
+    if (change.record == 0) rows.Add({kind, title, std::string(NameOf(change.kind)), "", ""});
     for (ChangedField& field : describer.FieldsOf(change)) {
-      table.rows.push_back(
+      rows.Add(
           {kind, title, std::move(field.name), std::move(field.before), std::move(field.after)});
     }
   });
   table.counts = summary.Text();
-  GroupByTitle(table.rows);
+  table.rows = rows.Take();
+  if (only_courses && !table.rows.empty()) table.title_heading = "Course";
   return table;
 }
 

@@ -25,7 +25,8 @@ struct ChangeRow {
 // Contains the lines of a list of changes, and one line with the counts.
 struct ChangeTable {
   std::string counts;
-  std::vector<ChangeRow> rows;  // those of one title follow each other
+  std::vector<ChangeRow> rows;           // those of one golfer, course or roster follow each other
+  std::string title_heading = "Golfer";  // of the column with the titles
 };
 
 // Leaves out files such as course indexes, which are derived from other files.

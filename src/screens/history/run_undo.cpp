@@ -43,7 +43,7 @@ bool IsWanted(SharedState& state, ScreenHost& host, const RecordKinds& kinds, co
   const Box question{.title = kTitle,
                      .text = "Undo this transfer?\r\r" + TransferName(run.title.command) + ", " +
                              WhenText(state, run.title.moment) +
-                             (run.title.about.empty() ? "" : "\r" + run.title.about) +
+                             (run.title.about.empty() ? "" : "\r" + AboutText(run)) +
                              "\r\rIt would change: " + TableOfHeldChanges(state, kinds).counts,
                      .icon = BoxIcon::kQuestion,
                      .buttons = {BoxButton::kYes, BoxButton::kNo},
@@ -57,6 +57,13 @@ std::string TransferName(const std::string& command) {
   const auto known = std::find_if(std::begin(kNames), std::end(kNames),
                                   [&](const auto& name) { return name.first == command; });
   return known == std::end(kNames) ? command : known->second;
+}
+
+std::string AboutText(const HistoryRun& run) {
+  const std::string& about = run.title.about;
+  if (!run.IsUndo()) return about;
+  const std::size_t end = std::min(about.find(' '), about.size());
+  return TransferName(about.substr(0, end)) + about.substr(end);
 }
 
 std::string WhenText(SharedState& state, DateValue moment) {

@@ -11,6 +11,10 @@ namespace golf {
 // Returns what a run was, in words such as "golfers to QB".
 std::string TransferName(const std::string& command);
 
+// Returns what a run was about, such as "CLUB18, roster 3". The text of an undo begins with the
+// name of the transfer that it undid.
+std::string AboutText(const HistoryRun& run);
+
 // Returns a moment such as "today 14:32" or "05/12/2026 14:32".
 std::string WhenText(SharedState& state, DateValue moment);
 

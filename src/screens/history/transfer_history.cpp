@@ -20,7 +20,7 @@ TransferHistory::TransferHistory(const ScreenContext& context)
   RunList.SetHeading(kAboutColumn, "About");
   RunList.SetHeading(kChangesColumn, "Changes");
   RunList.SetHeading(kStateColumn, "State");
-  for (int column = 0; column <= kStateColumn; ++column) RunList.LockColumn(column, true);
+  RunList.LockAllColumns();
   ReportText.SetReadOnly(true);
   ExitButton.SetCancel(true);
   RunList.on_row_change = [this] { ShowRun(); };
@@ -43,7 +43,7 @@ void TransferHistory::FillList() {
     RunList.SetText(kWhenColumn, run.number, WhenText(state(), run.title.moment));
     RunList.SetText(kTransferColumn, run.number,
                     run.IsUndo() ? "undo" : TransferName(run.title.command));
-    RunList.SetText(kAboutColumn, run.number, run.title.about);
+    RunList.SetText(kAboutColumn, run.number, AboutText(run));
     RunList.SetText(kChangesColumn, run.number, std::to_string(run.changes));
     RunList.SetText(kStateColumn, run.number, std::string(NameOf(run.state)));
   }

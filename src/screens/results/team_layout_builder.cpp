@@ -128,7 +128,7 @@ void XReportsCustomTeamResults::LabelRows() {
   constexpr const char* kHeadings[] = {"Consider which player's scores?",
                                        "Gross Score (actual score)",
                                        "Net Score (less strokes on hole)"};
-  for (int column = 0; column <= grid1.columns(); ++column) grid1.LockColumn(column, true);
+  grid1.LockAllColumns();
   for (int place = 0; place < kLayoutPlaces; ++place) {
     for (const Code code : {Code::kPlayers, Code::kGross, Code::kNet}) {
       const int column = ColumnOf(place, code);

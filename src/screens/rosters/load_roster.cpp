@@ -39,7 +39,7 @@ LoadRoster::LoadRoster(const ScreenContext& context) : Screen(kName, context) {
   grid1.SetHeading(kTypeColumn, "Type");
   grid1.SetHeading(kNameColumn, "  Roster Name");
   grid1.SetHidden(0, true);
-  for (int column = 0; column <= grid1.columns(); ++column) grid1.LockColumn(column, true);
+  grid1.LockAllColumns();
   RepairButton.SetVisible(false);
   ShowNewRosterFrame(false);
   NewRosterName.key_filter = [](char key) { return FilterKey(key, kKeyAllowsBlank); };

@@ -35,7 +35,7 @@ LoadRosters::LoadRosters(const ScreenContext& context) : Screen(kName, context) 
     grid1.SetHeading(kNameColumn + static_cast<int>(i), FieldName[i].caption());
   }
   grid1.SetHidden(kNumberColumn, true);
-  for (int column = 0; column <= grid1.columns(); ++column) grid1.LockColumn(column, true);
+  grid1.LockAllColumns();
   RepairButton.SetVisible(false);
   LeavePanel();
 
@@ -110,7 +110,7 @@ void LoadRosters::Suggest() {
 void LoadRosters::ShowRowButtons() {
   // Row 1 is the entry for all rosters, unless a roster's name sorts before it. The number of the
   // roster is checked for that case.
-  const bool is_roster = grid1.active_row() > 1 && RosterInHand() > 0;
+  const bool is_roster = grid1.active_row() > 1 && ChosenRoster() > 0;
   EditButton.SetVisible(is_roster);
   DeleteButton.SetVisible(is_roster);
 }
@@ -119,10 +119,10 @@ std::int32_t LoadRosters::NumberInRow(int row) const {
   return RoundToInt32(LeadingNumber(grid1.text(kNumberColumn, row)));
 }
 
-std::int32_t LoadRosters::RosterInHand() const { return NumberInRow(grid1.active_row()); }
+std::int32_t LoadRosters::ChosenRoster() const { return NumberInRow(grid1.active_row()); }
 
 void LoadRosters::Pick() {
-  state().Program().SetActiveRoster(RosterInHand());
+  state().Program().SetActiveRoster(ChosenRoster());
   picked_ = true;
   host().Hide(*this);
 }
@@ -190,7 +190,7 @@ void LoadRosters::Store() {
     return;
   }
   LeavePanel();
-  const std::int32_t roster = RosterInHand();
+  const std::int32_t roster = ChosenRoster();
   suggested_ = roster;
   ChangeFiles(state(), host(), "save-qb-roster", Text1[0].text(), [&] { Save(roster); });
   LoadList();
@@ -223,7 +223,7 @@ void LoadRosters::CancelEdit() {
 
 void LoadRosters::AskToDelete() {
   ProgramClass& program = state().Program();
-  const std::int32_t roster = RosterInHand();
+  const std::int32_t roster = ChosenRoster();
   program.GetRosterRecord(roster);
   const std::string answer =
       host().Ask(InputBox{.title = "DELETE Roster?",

@@ -53,7 +53,7 @@ class LoadRosters : public Screen {
   void Suggest();
   void ShowRowButtons();
   std::int32_t NumberInRow(int row) const;
-  std::int32_t RosterInHand() const;
+  std::int32_t ChosenRoster() const;
   std::int32_t FreeRosterNumber();
   void Pick();
   void BeginNew();

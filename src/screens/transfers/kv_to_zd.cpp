@@ -4,6 +4,7 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
+#include "screens/history/preview.h"
 #include "screens/rosters/load_roster.h"
 #include "screens/settings_file.h"
 #include "stores/zandel/zandel_files.h"
@@ -104,15 +105,21 @@ void KVtoZD::Transfer() {
                                      .league_text = DestLabel.caption(),
                                      .percent = Percent(),
                                      .halved = HandicapType[0].value()};
-  RunWhole(state(), host(),
-           {.working = &Working,
-            .count = &WorkingCount,
-            .button = &TransferButton,
-            .hides_button = true,
-            .message = &Message,
-            .begin = [this] { HandicapPrct.SetText(std::to_string(Percent())); }},
-           {.command = "golfers-kv-to-zd", .about = request.roster + " to " + request.league},
-           request, report);
+  const std::string percent = HandicapPrct.text();
+  try {
+    RunWhole(state(), host(),
+             {.working = &Working,
+              .count = &WorkingCount,
+              .button = &TransferButton,
+              .hides_button = true,
+              .message = &Message,
+              .begin = [this] { HandicapPrct.SetText(std::to_string(Percent())); }},
+             {.command = "golfers-kv-to-zd", .about = request.roster + " to " + request.league},
+             request, report);
+  } catch (const PreviewClosed&) {
+    HandicapPrct.SetText(percent);
+    throw;
+  }
   if (report.end == RunEnd::kRefused) return;
   if (report.end == RunEnd::kNoRoster) {
     host().Ask(Box{.title = "Notice", .text = "Cannot open the Kelvane roster"});

@@ -30,6 +30,13 @@ void OpenCourseLibrary(SharedState& state, CourseClass& course, const CourseLibr
   course.OpenCourseFile();
 }
 
+void RebuildCourseIndexes(SharedState& state, const CourseLibrary& library) {
+  CourseClass course(state);
+  OpenCourseLibrary(state, course, library);
+  course.RebuildCourseIndexes(course.ActiveCoursesByName());
+  course.CloseCourseFile();
+}
+
 std::string HolesText(int hole_num_flag) {
   if (hole_num_flag < 0) return std::to_string(-hole_num_flag) + (hole_num_flag == -9 ? "B" : "");
   return std::to_string(hole_num_flag) + (hole_num_flag == 9 ? "F" : "");

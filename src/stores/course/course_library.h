@@ -36,6 +36,10 @@ std::string CourseFilePath(const SharedState& state, const CourseLibrary& librar
 void OpenCourseLibrary(SharedState& state, CourseClass& course, const CourseLibrary& library);
 void OpenCourseLibrary(SharedState& state, const CourseLibrary& library);
 
+// Writes the three indexes of a library anew from its active courses, sorted by name. Sets
+// CourseDataPath to the folder of the library. Raises the errors of CourseClass.
+void RebuildCourseIndexes(SharedState& state, const CourseLibrary& library);
+
 // Returns "18" for 18 holes, "9F" for the front nine and "9B" for the back nine.
 std::string HolesText(int hole_num_flag);
 

@@ -75,6 +75,28 @@ HoleValues ValuesByHole(Read read) {
   return values;
 }
 
+std::vector<TeeFault> FaultsOf(const Record<CourseLayout>& course, int tee, bool require_pars,
+                               bool require_handicaps) {
+  const HoleRange holes = HolesPlayed(course.Get<"HoleNumFlag">());
+  const int rated = HolesRated(course.Get<"HoleNumFlag">());
+  std::vector<TeeFault> faults;
+  const auto add = [&faults](std::optional<TeeFault> fault) {
+    if (fault) faults.push_back(std::move(*fault));
+  };
+  add(NameFault(Trim(course.Get<"TeeName">(tee)), course.Get<"TeeNameAbv">(tee)));
+  for (const int group : {0, 1}) {
+    const double stored = LeadingNumber(FormatNumber(course.Get<"Rating">(tee, group), "0.0"));
+    add(RatingFault(LeadingNumber(RatingText(stored, "0.0")), rated, group));
+  }
+  for (const int group : {0, 1}) add(SlopeFault(course.Get<"slope">(tee, group), group));
+  const auto of_holes =
+      HoleFaults(ValuesByHole([&](int hole) { return course.Get<"HolePar">(tee, hole); }),
+                 ValuesByHole([&](int hole) { return course.Get<"HoleHandicap">(tee, hole); }),
+                 holes, require_pars, require_handicaps);
+  faults.insert(faults.end(), of_holes.begin(), of_holes.end());
+  return faults;
+}
+
 }  // namespace
 
 HoleRange HolesPlayed(int hole_num_flag) {
@@ -140,25 +162,11 @@ std::vector<TeeFault> HoleFaults(const HoleValues& pars, const HoleValues& handi
 }
 
 std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee) {
-  const Record<CourseLayout>& stored = course.Stored();
-  const HoleRange holes = HolesPlayed(course.HoleNumFlag());
-  const int rated = HolesRated(course.HoleNumFlag());
-  std::vector<TeeFault> faults;
-  const auto add = [&faults](std::optional<TeeFault> fault) {
-    if (fault) faults.push_back(std::move(*fault));
-  };
-  add(NameFault(course.TeeName(int{tee}), course.TeeNameAbv(int{tee})));
-  for (const int group : {0, 1}) {
-    const std::string rating = RatingText(LeadingNumber(course.Rating(tee, group)), "0.0");
-    add(RatingFault(LeadingNumber(rating), rated, group));
-  }
-  for (const int group : {0, 1}) add(SlopeFault(stored.Get<"slope">(tee, group), group));
-  const auto of_holes =
-      HoleFaults(ValuesByHole([&](int hole) { return stored.Get<"HolePar">(tee, hole); }),
-                 ValuesByHole([&](int hole) { return stored.Get<"HoleHandicap">(tee, hole); }),
-                 holes, course.RequirePars, course.RequireHoleHandicaps);
-  faults.insert(faults.end(), of_holes.begin(), of_holes.end());
-  return faults;
+  return FaultsOf(course.Stored(), tee, course.RequirePars, course.RequireHoleHandicaps);
+}
+
+std::vector<TeeFault> FaultsOfTee(const Record<CourseLayout>& course, int tee) {
+  return FaultsOf(course, tee, false, false);
 }
 
 std::string DescribeFaults(const std::vector<TeeFault>& faults) {

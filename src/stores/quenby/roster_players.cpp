@@ -61,7 +61,7 @@ std::int32_t RosterPlayers::RosterFileLength() {
 
 bool RosterPlayers::ReadPlayer(std::int32_t record) {
   if (record <= 0) return false;
-  tournament_in_hand_ = false;
+  entry_was_read_last_ = false;
   state_.files.Read(file_, record, player_);
   held_ = record;
   recalculate_.fill(true);

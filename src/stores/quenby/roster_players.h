@@ -151,8 +151,8 @@ class RosterPlayers {
   // and save sets all elements.
   std::array<bool, kRounds> recalculate_{};
 
-  std::int32_t held_ = 0;            // the number of the record in the buffer
-  bool tournament_in_hand_ = false;  // true if the last read or save was for an entry
+  std::int32_t held_ = 0;             // the number of the record in the buffer
+  bool entry_was_read_last_ = false;  // true if the last read or save was for an entry
 
  private:
   template <FieldName kName>

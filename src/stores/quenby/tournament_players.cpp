@@ -88,7 +88,7 @@ bool TournamentPlayers::GetRecord(std::int32_t record, bool tournament) {
   recalculate_.fill(true);
   held_ = TourRosterRecordPointer();
   ReadPlayer(held_);
-  tournament_in_hand_ = true;
+  entry_was_read_last_ = true;
   return true;
 }
 
@@ -99,19 +99,21 @@ void TournamentPlayers::WriteEntry() {
 }
 
 void TournamentPlayers::SaveRecord() {
-  if (tournament_in_hand_) {
+  if (entry_was_read_last_) {
     WriteEntry();
   } else {
     WritePlayer();
   }
 }
 
-void TournamentPlayers::SaveRecord(std::int32_t record) { SaveRecord(record, tournament_in_hand_); }
+void TournamentPlayers::SaveRecord(std::int32_t record) {
+  SaveRecord(record, entry_was_read_last_);
+}
 
 void TournamentPlayers::SaveRecord(std::int32_t record, bool tournament) {
   held_ = record;
   if (tournament) entry_held_ = record;
-  tournament_in_hand_ = tournament;
+  entry_was_read_last_ = tournament;
   SaveRecord();
 }
 

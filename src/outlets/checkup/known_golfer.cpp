@@ -1,0 +1,58 @@
+#include "outlets/checkup/known_golfer.h"
+
+#include <cctype>
+
+#include "core/code_page.h"
+#include "core/text.h"
+
+namespace golf {
+namespace {
+
+// Contains the letters without accents for the characters 0xC0 to 0xDE of code page 1252. A blank
+// is no letter.
+constexpr std::string_view kPlainLetters = "AAAAAAACEEEEIIIIDNOOOOO OUUUUYT";
+constexpr unsigned char kFirstAccent = 0xC0;
+
+}  // namespace
+
+std::string KnownGolfer::Title() const { return GolferTitleLF(first, last, id); }
+
+std::string FoldedName(std::string_view name) {
+  std::string folded;
+  for (const char c : UpperCase(name)) {
+    const auto byte = static_cast<unsigned char>(c);
+    const std::size_t accent = static_cast<std::size_t>(byte) - kFirstAccent;
+    const char plain = byte < kFirstAccent             ? c
+                       : accent < kPlainLetters.size() ? kPlainLetters[accent]
+                                                       : c;
+    const bool is_ascii = static_cast<unsigned char>(plain) < 0x80;
+    if (!is_ascii || std::isalnum(static_cast<unsigned char>(plain)) != 0) folded += plain;
+  }
+  return folded;
+}
+
+void TwinCheck::Add(const KnownGolfer& golfer, const TwinMark& mark) {
+  const auto add = [&](FindingCode code, std::int64_t other, const std::string& what) {
+    scan_.Add(code, file_, golfer.record, golfer.Title(),
+              "Record " + std::to_string(other) + " has the same " + what + ".");
+  };
+  if (golfer.id > 0) {
+    const auto [other, is_new] = records_.emplace(golfer.id, golfer.record);
+    if (!is_new) {
+      add(FindingCode::kIdTwice, other->second, "ID number, " + std::to_string(golfer.id));
+    }
+  }
+  if (mark.bytes.empty()) return;
+  const auto [other, is_new] = named_.emplace(
+      FoldedName(golfer.last) + '/' + FoldedName(golfer.first) + '/' + mark.bytes, golfer.record);
+  if (!is_new) add(FindingCode::kGolferTwice, other->second, std::string(mark.what));
+}
+
+int BirthdayIndex(int count, const std::function<std::string(int)>& caption) {
+  for (int index = 1; index <= count; ++index) {
+    if (UpperCase(caption(index)).find("BIRTH") != std::string::npos) return index;
+  }
+  return 0;
+}
+
+}  // namespace golf
