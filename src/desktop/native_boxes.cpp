@@ -35,18 +35,15 @@ const NativeButton& Native(BoxButton button) {
                        [button](const NativeButton& native) { return native.button == button; });
 }
 
-// The GTK dialog has no icon, and no title if the title is "Message". The toolkit's own dialog
-// chooses an icon for a box without one.
+// The GTK dialog has no icon, and no title if the title is "Message".
 #ifdef __WXMSW__
 using MessageDialog = wxMessageDialog;
-constexpr long kNoIcon = wxICON_NONE;
 #else
 using MessageDialog = wxGenericMessageDialog;
-constexpr long kNoIcon = 0;
 #endif
 
 long IconStyle(BoxIcon icon) {
-  constexpr long kStyles[] = {kNoIcon, wxICON_INFORMATION, wxICON_QUESTION, wxICON_STOP,
+  constexpr long kStyles[] = {wxICON_NONE, wxICON_INFORMATION, wxICON_QUESTION, wxICON_STOP,
                               wxICON_WARNING};
   return kStyles[static_cast<std::size_t>(icon)];
 }
@@ -69,8 +66,15 @@ class InputDialog : public wxTextEntryDialog {
   }
 };
 
+// Outside Windows, a box without an icon gets one that fits its buttons.
 long StyleOf(const Box& box) {
-  long style = IconStyle(box.icon) | wxCENTRE;
+  BoxIcon icon = box.icon;
+#ifndef __WXMSW__
+  if (icon == BoxIcon::kNone) {
+    icon = Has(box, BoxButton::kYes) ? BoxIcon::kQuestion : BoxIcon::kInformation;
+  }
+#endif
+  long style = IconStyle(icon) | wxCENTRE;
   for (const BoxButton button : box.buttons) style |= Native(button).style;
   const std::size_t chosen = box.window_default.value_or(box.default_button);
   return style | Native(box.buttons.at(chosen)).default_style;

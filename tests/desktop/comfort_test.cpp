@@ -69,6 +69,11 @@ TEST_F(ComfortTest, LeaguePickersWorkWithTheKeyboard) {
   } kScreens[] = {{"KVtoZDButton", "FindZDButton", "CancelButton"},
                   {"ZDtoQBButton", "SourceButton", "CancelButton"},
                   {"ZDtoKVButton", "SourceButton", "ExitButton"}};
+  user.Press("ZDtoQBButton");
+  user.Press("TransferButton");
+  user.Answer("Message", "First select the source league");
+  AwaitFocus("SourceButton");
+  user.Press("CancelButton");
   for (const auto& screen : kScreens) {
     user.Press(screen.menu);
     user.Press(screen.finder);
@@ -168,7 +173,8 @@ TEST_F(ComfortTest, TheTeeEditorShowsWhatIsOddAndAsksOnlyAfterAChange) {
   AwaitFocus("OKButton");
   user.Type("FPar", WXK_ESCAPE);
   user.Await("the form", [this] { return !host.IsShown("CourseTee"); });
-  user.Press("EditTeeButton");
+  user.PressCell("grid1", 0, 0);
+  user.Type("grid1", WXK_RETURN);
   AwaitFocus("OKButton");
   user.Press("FPar");
   TypeAll({{"FPar", '5'}});

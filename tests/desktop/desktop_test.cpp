@@ -174,6 +174,10 @@ TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
           "kvcrs.dat\n\nWhat you change in it is changed for Kelvane as well. Close Kelvane "
           "before you go on.\n\nOpen it?");
   user.Do([&] { host.Operate([&] { OpenScreen(state(), host, "CourseTable", "KV"); }); });
+  user.Await("the focus on the list", [] {
+    const wxWindow* list = Operator::Find("CourseGrid");
+    return list != nullptr && list->IsDescendant(wxWindow::FindFocus());
+  });
   user.Type("CourseGrid", WXK_DELETE);
   user.AnswerInput("DELETE COURSE?", "NO", "YES");
   user.Await("one course", [&] {

@@ -5,9 +5,11 @@
 #include <wx/evtloop.h>
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
+#include <wx/statbmp.h>
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -119,6 +121,10 @@ void Operator::CheckBox(const std::string& title, const std::string& text) {
   const auto& box = dynamic_cast<wxMessageDialogBase&>(*dialogs_.back());
   EXPECT_EQ(box.GetTitle().utf8_string(), title);
   EXPECT_EQ(box.GetMessage().utf8_string(), text);
+  const wxWindowList& parts = box.GetChildren();
+  EXPECT_TRUE(std::any_of(parts.begin(), parts.end(), [](const wxWindow* part) {
+    return part->IsKindOf(wxCLASSINFO(wxStaticBitmap));
+  })) << "no icon";
   answered_ = opened_;
 }
 
