@@ -165,13 +165,13 @@ void DesktopHost::Open(Screen& screen) {
   windows_.push_back({&screen, panel});
   panel->binding().BeginFocus();
   window->Show();
+  window->Raise();  // makes it the active window also without a window manager
 }
 
 void DesktopHost::RunModal(Screen& screen) {
   ScreenPanel& panel = *Find(screen)->panel;
   panel.binding().Refresh();
   auto& dialog = dynamic_cast<wxDialog&>(panel.window());
-  dialog.CallAfter([&dialog] { dialog.Raise(); });  // without a window manager, nobody else does
   dialog.ShowModal();
   dialog.Destroy();
   // Some window managers would give the focus to the main window, which accepts no input then.
