@@ -131,17 +131,23 @@ wxSizer* ButtonRow(const EndButtons& buttons) {
   const std::initializer_list<wxButton*> order = {buttons.negative, buttons.cancel, buttons.variant,
                                                   buttons.affirmative};
 #endif
-  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  auto* aside = new wxBoxSizer(wxHORIZONTAL);
+  auto* end = new wxBoxSizer(wxHORIZONTAL);
   wxButton* before = nullptr;
-  const auto add = [&](wxButton* button, int side) {
+  const auto add = [&before](wxBoxSizer& row, wxButton* button, int side) {
     if (button == nullptr) return;
-    row->Add(button, wxSizerFlags().Border(side, CloseGap(*button)));
+    row.Add(button, wxSizerFlags().Border(side, CloseGap(*button)));
     if (before != nullptr) button->MoveAfterInTabOrder(before);
     before = button;
   };
-  for (wxButton* button : buttons.aside) add(button, wxRIGHT);
-  row->AddStretchSpacer();
-  for (wxButton* button : order) add(button, wxLEFT);
+  for (wxButton* button : buttons.aside) add(*aside, button, wxRIGHT);
+  end->AddStretchSpacer();
+  for (wxButton* button : order) add(*end, button, wxLEFT);
+  const auto& window = dynamic_cast<wxTopLevelWindow&>(*wxGetTopLevelParent(before));
+  const int width = aside->CalcMin().x + end->CalcMin().x + 2 * EdgeGap(window);
+  auto* row = new wxBoxSizer(width > MostClientSize(window).x ? wxVERTICAL : wxHORIZONTAL);
+  row->Add(aside);
+  row->Add(end, wxSizerFlags(row->GetOrientation() == wxHORIZONTAL ? 1 : 0).Expand());
   return row;
 }
 

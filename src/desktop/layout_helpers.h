@@ -38,8 +38,9 @@ wxSizer* Column(std::initializer_list<wxWindow*> controls);
 // is a list, since widgets must be created in the order of the tab key.
 wxSizer* SideBySide(const wxWindow& window, std::initializer_list<wxSizer*> ends);
 
-// Holds the buttons at the end of a dialog. Any of them may be null. ButtonRow arranges them in the
-// platform's order, which is also the order of the tab key.
+// Holds the buttons at the end of a dialog. At least one of them is not null. ButtonRow arranges
+// them in the platform's order, which is also the order of the tab key. It uses two rows if the
+// display is too narrow for one.
 struct EndButtons {
   wxButton* affirmative = nullptr;
   wxButton* variant = nullptr;  // beside the affirmative button, such as its preview
