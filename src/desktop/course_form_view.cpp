@@ -25,6 +25,7 @@ wxSizer* Texts(ScreenPanel& panel, CourseForm& screen) {
     name();
     wxTextCtrl* box = MakeTextBox(binding, &panel, *text);
     SetColumns(*box, kTextCharacters);
+    SetRoom(panel, *box);
     fields->Add(box, wxSizerFlags().Expand());
   }
   return fields;
