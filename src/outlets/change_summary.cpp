@@ -89,6 +89,12 @@ void ChangeSummary::Add(const RecordChange& change) {
                                            : group.changed);
 }
 
+std::string ChangeSummary::BriefText() const {
+  if (groups_.empty()) return Counted(static_cast<std::int64_t>(files_.size()), "file", "files");
+  const Group& first = groups_.front();
+  return Counted(first.changed + first.added + first.removed, first.layout);
+}
+
 std::string ChangeSummary::Text() const {
   if (files_.empty()) return "Nothing";
   std::string text;

@@ -24,6 +24,9 @@ class ChangeSummary {
   // "Nothing" if no change was added. A derived file, such as a course index, counts only as a
   // file.
   std::string Text() const;
+  // Returns the number of records of the first kind, such as "12 golfers". Returns the number of
+  // files if no record has changed.
+  std::string BriefText() const;
 
  private:
   struct Group {

@@ -108,7 +108,18 @@ void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest&,
   } catch (const NumberedError& error) {
     report.index_error = error;  // the courses are already copied
   }
+  report.log = "Course transfer complete." + std::string(kReportLineEnd) +
+               CountsText(report, kReportLineEnd);
   report.end = RunEnd::kDone;
+}
+
+std::string CountsText(const CoursesKvToQbReport& report, std::string_view line_end) {
+  return std::string("Number of courses ADDED:")
+      .append(NumberText(report.added))
+      .append(line_end)
+      .append("Number of courses UPDATED:")
+      .append(NumberText(report.updated))
+      .append(line_end);
 }
 
 }  // namespace golf

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "core/shared_state.h"
 #include "transfers/run.h"
@@ -26,5 +28,8 @@ struct CoursesKvToQbReport : RunReport {
 // sorted by name. At the end it closes all files and makes new shared objects.
 void Run(SharedState& state, RunHost& host, const CoursesKvToQbRequest& request,
          CoursesKvToQbReport& report);
+
+// Returns two lines with the numbers of courses that were added and updated, each with its end.
+std::string CountsText(const CoursesKvToQbReport& report, std::string_view line_end);
 
 }  // namespace golf

@@ -40,6 +40,14 @@ TEST_F(CheckTest, EachPlantedFaultIsFoundOnce) {
     std::function<void()> plant;
   } kCases[] = {
       {"file-length", "kvdata/kvcrs.dat", 0, "", [&] { Put("kvdata/kvcrs.dat", 22582, "abc"); }},
+      {"file-length", "kvdata/CLUB18.kvg", 0, "", [&] { Cut("kvdata/CLUB18.kvg", 30000); }},
+      {"file-length", "qbdata/X0001.Q9C", 0, "", [&] { Cut("qbdata/X0001.Q9C", 1200); }},
+      {"file-length", "qbdata/QBGOLFER.Q9D", 0, "", [&] { Cut("qbdata/QBGOLFER.Q9D", 20000); }},
+      {"file-length", "kvdata/ALLCRSKV.INX", 0, "", [&] { Cut("kvdata/ALLCRSKV.INX", 13); }},
+      {"file-length", "zddata/0001.ZS8", 0, "", [&] { Cut("zddata/0001.ZS8", 50000); }},
+      {"file-length", "KVSYSTEM.FIL", 0, "", [&] { Cut("KVSYSTEM.FIL", 700); }},
+      {"file-missing", "kvdata/CLUB18.kv5", 0, "", [&] { folder.Remove("i/kvdata/CLUB18.kv5"); }},
+      {"file-missing", "zddata/00011.ZL8", 0, "", [&] { folder.Remove("i/zddata/00011.ZL8"); }},
       {"file-missing", "qbdata/X0001.Q9T", 0, "", [&] { folder.Remove("i/qbdata/X0001.Q9T"); }},
       {"file-unreadable", "zddata/00012.ZT8", 0, "",
        [&] {
@@ -50,6 +58,10 @@ TEST_F(CheckTest, EachPlantedFaultIsFoundOnce) {
        [&] { Cut("kvdata/CLUB18.kvs", 11 * 14700); }},
       {"file-sizes", "zddata/00021.ZP8", 0, "Saturday Eighteen",
        [&] { Cut("zddata/00021.ZP8", 9 * 8012); }},
+      {"file-sizes", "zddata/00011.ZT8", 0, "Thursday Twilight Nine",
+       [&] { Put("zddata/00011.ZT8", 3 * 4400, std::string(4400, '\0')); }},
+      {"file-sizes", "qbdata/X0001.Q9T", 0, "Autumn Medal",
+       [&] { Cut("qbdata/X0001.Q9T", 2 * 1339); }},
       {"file-sizes", "zddata/00011.ZE8", 0, "Thursday Twilight Nine",
        [&] { Cut("zddata/00011.ZE8", 222); }},
       {"run-interrupted", "transfer-history", 0, "",
@@ -99,6 +111,24 @@ TEST_F(CheckTest, EachPlantedFaultIsFoundOnce) {
          PutRecord(golfers, 22, twin.replace(4, 2, Whole(999)));
          folder.Write("i/qbdata/QBGOLFER.Q9D", golfers);
        }},
+      {"golfer-twice", "kvdata/CLUB18.kvg", 13, "Eames, Walt",
+       [&] {
+         std::string golfers = folder.Read("i/kvdata/CLUB18.kvg");
+         std::string twin = RecordAt(golfers, 4, 2804);
+         PutRecord(golfers, 13, twin.replace(4, 2, Whole(999)));
+         folder.Write("i/kvdata/CLUB18.kvg", golfers);
+         std::string histories = folder.Read("i/kvdata/CLUB18.kvs");
+         PutRecord(histories, 13, RecordAt(histories, 4, 14700));
+         folder.Write("i/kvdata/CLUB18.kvs", histories);
+       }},
+      {"id-twice", "zddata/00012.ZP8", 3, "Duarte, Ines",
+       [&] {
+         Put("zddata/00012.ZP8", 2 * 8012 + 4, folder.Read("i/zddata/00012.ZP8").substr(8016, 4));
+       }},
+      {"id-twice", "kvdata/NINE9.kvg", 4, "Quill, Finn",
+       [&] { Put("kvdata/NINE9.kvg", 3 * 2804 + 4, Whole(104)); }},
+      {"id-differs", "kvdata/CLUB18.kvg", 4, "Eames, Walt",
+       [&] { Put("qbdata/QBGOLFER.Q9D", 12 * 1867 + 4, Whole(888)); }},
       {"golfer-without-id", "kvdata/CLUB18.kvg", 12, "Marlow, Ben",
        [&] { Put("kvdata/CLUB18.kvg", 11 * 2804 + 4, Whole(0)); }},
       {"golfer-on-no-roster", "qbdata/QBGOLFER.Q9D", 10, "Bergstrom, Anna",
@@ -147,10 +177,14 @@ TEST_F(CheckTest, EachPlantedFaultIsFoundOnce) {
            Put("qbdata/X0001.Q9G", static_cast<std::size_t>(entry) * 3052 + 4, Whole(2));
          }
        }},
+      {"tournament-count", "qbdata/X0001.Q9C", 1, "Autumn Medal",
+       [&] { Put("qbdata/X0001.Q9C", 50, Whole(9)); }},
       {"tournament-course", "qbdata/X0001.Q9C", 1, "Autumn Medal",
        [&] { Put("qbdata/X0001.Q9C", 166, Whole(4)); }},
       {"tournament-tee", "qbdata/X0001.Q9C", 1, "Autumn Medal",
-       [&] { Put("qbdata/X0001.Q9C", 180, Whole(4)); }},  // of the ladies in round 1
+       [&] { Put("qbdata/X0001.Q9C", 180, Whole(4)); }},           // of the ladies in round 1
+      {"posted-not-found", "qbdata/X0001.Q9G", 11, "Stoll, Vera",  // not in Kelvane
+       [&] { Put("qbdata/X0001.Q9G", 10 * 3052 + 30, Whole(2)); }},
       {"posted-not-found", "qbdata/X0001.Q9G", 1, "Bergstrom, Anna",
        [&] { Put("qbdata/X0001.Q9G", 30, Whole(2)); }},
       {"found-not-posted", "qbdata/X0001.Q9G", 1, "Bergstrom, Anna",
@@ -160,6 +194,14 @@ TEST_F(CheckTest, EachPlantedFaultIsFoundOnce) {
        }},
       {"league-event", "zddata/00021.ZP8", 1, "Farrow, Ruth",
        [&] { Put("zddata/00021.ZP8", 870 + 2 * 49, Whole(80)); }},
+      {"league-event", "zddata/00021.ZL8", 1, "Saturday Eighteen",
+       [&] { Put("zddata/00021.ZL8", 94, Whole(1)); }},
+      {"league-event", "zddata/00021.ZL8", 1, "Saturday Eighteen",
+       [&] { Put("zddata/00021.ZL8", 94, Whole(14)); }},
+      {"league-date", "zddata/00021.ZE8", 12, "Saturday Eighteen",
+       [&] { Put("zddata/00021.ZE8", 11 * 222 + 2, std::string(4, '\0')); }},
+      {"league-substitutes", "zddata/00021.ZL8", 1, "Saturday Eighteen",
+       [&] { Put("zddata/00021.ZL8", 82, Whole(7)); }},
       {"league-substitutes", "zddata/00021.ZL8", 1, "Saturday Eighteen",
        [&] { Put("zddata/00021.ZL8", 82, Whole(9)); }},
       {"league-team", "zddata/00021.ZP8", 1, "Farrow, Ruth",
@@ -170,6 +212,8 @@ TEST_F(CheckTest, EachPlantedFaultIsFoundOnce) {
        [&] { Put("zddata/00021.ZP8", 23, "Farr\xF3w"); }},
       {"name-spelling", "kvdata/CLUB18.kvg", 1, "Bergstrom, An na",
        [&] { Put("kvdata/CLUB18.kvg", 8, "An na"); }},
+      {"name-spelling", "zddata/zdcrs.dat", 1, "Lark field Golf Club",
+       [&] { Put("zddata/zdcrs.dat", 4, FitText("Lark field Golf Club", 30)); }},
       {"name-cut", "zddata/00021.ZP8", 1, "Farrow, Ruth Isabella",
        [&] { Put("zddata/00021.ZP8", 8, "Ruth Isabella"); }},
   };

@@ -28,7 +28,12 @@ class CommandLineTest : public testing::Test {
   }
   Ended Script(const std::string& lines) { return In("script -", lines); }
 
-  void SetUp() override { ASSERT_EQ(Run("demo i").code, 0); }
+  void SetUp() override { MakeDemo(); }
+  // Makes the demonstration again, as the folder "i".
+  void MakeDemo() {
+    std::filesystem::remove_all(folder.Path("i"));
+    ASSERT_EQ(Run("demo i").code, 0);
+  }
 
   Tree AllFiles() const { return folder.Files("i"); }
   // Returns the install's files without the history.
@@ -36,6 +41,11 @@ class CommandLineTest : public testing::Test {
     Tree files = AllFiles();
     std::erase_if(files, [](const auto& file) { return file.first.starts_with("transfer-"); });
     return files;
+  }
+  // Makes the install contain these files only.
+  void Restore(const Tree& files) {
+    for (const auto& [name, bytes] : AllFiles()) folder.Remove("i/" + name);
+    for (const auto& [name, bytes] : files) folder.Write("i/" + name, bytes);
   }
 
   TempFolder folder;

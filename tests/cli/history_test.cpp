@@ -1,10 +1,11 @@
 // Tests the history of runs, undo and recovery on the demonstration with the real program.
 
-#include <algorithm>
 #include <set>
 
 #include "cli/command_line_fixture.h"
 #include "core/text.h"
+#include "history/deeds.h"
+#include "outlets/file_kinds.h"
 #include "support/bytes.h"
 
 namespace golf {
@@ -23,15 +24,8 @@ constexpr const char* kTransfers[] = {
     "scores-qb-to-kv --tournament 1 --round 1 --roster CLUB18",
     "scores-zd-to-kv --league 00021 --batch 2 --roster CLUB18 --again no"};
 
-// Returns the length of a record by the end of the file's name.
 std::size_t LengthOf(const std::string& file) {
-  constexpr std::pair<const char*, std::size_t> kLengths[] = {
-      {".KVG", 2804}, {".KVS", 14700}, {".KV5", 781},  {"QBGOLFER.Q9D", 1867},
-      {".Q9G", 3052}, {".ZP8", 8012},  {".ZS8", 8012}, {"CRS.DAT", 3226}};
-  for (const auto& [ending, length] : kLengths) {
-    if (UpperCase(file).ends_with(ending)) return length;
-  }
-  return 1;
+  return LayoutOfFile(file.substr(file.find('/') + 1))->length;
 }
 
 class HistoryTest : public CommandLineTest {
@@ -72,14 +66,11 @@ using Names = std::set<std::string>;
 
 Names FilesThatDiffer(const std::map<std::string, std::string>& some,
                       const std::map<std::string, std::string>& others) {
+  std::map<std::string, std::string> differing;
+  std::set_symmetric_difference(some.begin(), some.end(), others.begin(), others.end(),
+                                std::inserter(differing, differing.end()));
   Names files;
-  for (const auto* each : {&some, &others}) {
-    for (const auto& [name, bytes] : *each) {
-      const bool same =
-          some.contains(name) && others.contains(name) && some.at(name) == others.at(name);
-      if (!same) files.insert(name);
-    }
-  }
+  for (const auto& file : differing) files.insert(file.first);
   return files;
 }
 
@@ -152,48 +143,22 @@ TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachTransfer) {
 }
 
 TEST_F(HistoryTest, UndoGivesBackEveryByteOfEachClick) {
-  const struct {
-    const char* command;
-    const char* lines;
-    int runs;  // the run of the command is the last one
-  } kClicks[] = {
-      {"new-kv-roster",
-       "open LoadRoster\nanswer \"New Roster\" Yes\nclick NewButton\nset NewRosterName New\nclick "
-       "OK2Button\n",
-       1},
-      {"delete-kv-roster",
-       "open LoadRoster\nrow grid1 1\nanswer \"DELETE Roster?\" YES\nclick DeleteButton\n", 1},
-      {"save-qb-roster",
-       "open LoadRosters\nrow grid1 2\nclick EditButton\nset Text1(0) Zz\nclick AddEditRosterOK\n",
-       1},
-      {"delete-qb-roster",
-       "open LoadRosters\nrow grid1 2\nanswer \"DELETE Roster?\" YES\nclick DeleteButton\n", 1},
-      {"delete-course",
-       "open CourseTable QB\nrow CourseGrid 1\nanswer \"DELETE COURSE?\" YES\n"
-       "click DeleteCourseButton\nclose\n",
-       2},
-      {"save-layout",
-       "open XReportsCustomTeamResults \"Gross and net\"\nset ReportDescription Other\nclick "
-       "SaveButton\n",
-       1},
-  };
-  for (const auto& click : kClicks) {
-    SCOPED_TRACE(click.command);
+  for (const Deed& deed : kDeeds) {
+    if (std::string_view(deed.name).find("-to-") != std::string_view::npos) continue;  // a transfer
+    SCOPED_TRACE(deed.name);
     const Tree before = Data();
-    ASSERT_EQ(Script(click.lines).code, 0);
+    ASSERT_EQ(Script(deed.script).code, 0);
     const Tree after = Data();
     ASSERT_FALSE(after == before);
     const auto runs = JsonLines(In("history --json").out);
-    ASSERT_EQ(runs.size(), static_cast<std::size_t>(click.runs));
-    EXPECT_EQ(runs.back()["command"], click.command);
+    EXPECT_EQ(runs.back()["command"], deed.name);
     // The indexes of a library follow its courses, also those that another run has written.
-    const std::string number = std::to_string(click.runs);
-    ASSERT_EQ(In("undo " + number).code, 0);
+    ASSERT_EQ(In("undo " + std::to_string(runs.size())).code, 0);
     EXPECT_EQ(FilesThatDiffer(before, Data()), Names());
     ASSERT_EQ(In("undo 1").code, 0);
     EXPECT_EQ(FilesThatDiffer(after, Data()), Names());
     ASSERT_EQ(In("history forget all").code, 0);
-    WriteAll(before);
+    Restore(before);
   }
 }
 
@@ -236,6 +201,18 @@ TEST_F(HistoryTest, ChangesHaveTheFormOfADump) {
       << text;
 }
 
+// The golfer is no longer in the roster, so the history has the name that the run has noted.
+TEST_F(HistoryTest, AChangeKeepsTheNameOfItsGolfer) {
+  Transfer(kTransfers[4]);
+  Write("kvdata/CLUB18.kvg", "");
+  for (const json& change : JsonLines(In("history show 1 --json").out)) {
+    if (change.value("file", "") != "kvdata/CLUB18.kvs" || change["record"] != 1) continue;
+    EXPECT_EQ(change["title"], "Bergstrom, Anna");
+    return;
+  }
+  ADD_FAILURE() << "no change";
+}
+
 // The section is the last one of the output. The log and the stored report contain it, too.
 TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
   const std::string zeros(4, '\0');
@@ -257,8 +234,7 @@ TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
   };
   for (const auto& c : kCases) {
     SCOPED_TRACE(c.section);
-    std::filesystem::remove_all(folder.Path("i"));
-    ASSERT_EQ(Run("demo i").code, 0);
+    MakeDemo();
     std::string bytes = folder.Read(std::string("i/") + c.file);
     Write(c.file, bytes.replace(c.at, c.bytes.size(), c.bytes));
     EXPECT_TRUE(In(c.words + " --dry-run").out.ends_with(c.section));
@@ -331,8 +307,7 @@ TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
   };
   for (const auto& c : kCases) {
     SCOPED_TRACE(std::string(kTransfers[c.transfer]) + " " + c.file);
-    std::filesystem::remove_all(folder.Path("i"));
-    ASSERT_EQ(Run("demo i").code, 0);
+    MakeDemo();
     const Tree before = Data();
     Transfer(kTransfers[c.transfer]);
     Tree after = Data();
@@ -386,6 +361,7 @@ TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
 
 TEST_F(HistoryTest, IndexesFollowACourseThatStays) {
   Transfer(kTransfers[0]);
+  EXPECT_NE(In("history show 1").out.find("Number of courses ADDED: 5\n"), std::string::npos);
   std::string library = folder.Read("i/qbdata/qbcrs.dat");
   const std::size_t last = library.size() / 3226 * 3226 - 3226;
   library[last + 34] = '!';  // the address

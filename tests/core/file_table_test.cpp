@@ -1,7 +1,6 @@
 #include "core/file_table.h"
 
 #include <functional>
-#include <random>
 
 #include "support/files_test.h"
 
@@ -129,23 +128,6 @@ TEST_F(FileTableTest, ErrorsHaveTheirNumbers) {
   }
   EXPECT_EQ(folder.Read("file"), "abc");
   EXPECT_FALSE(folder.Exists("none"));
-
-  // Errors of the system are passed to the caller unchanged.
-  const std::pair<Operation, std::function<void()>> calls[] = {
-      {Operation::kOpen, [&] { files.Open(3, At("other"), 3); }},
-      {Operation::kCreate, [&] { files.Open(3, At("other"), 3); }},
-      {Operation::kRead, [&] { Read(2, 9, 3); }},
-      {Operation::kWrite, [&] { files.WriteBytes(2, 1, "abc"); }},
-      {Operation::kLength, [&] { files.Length(2); }},
-      {Operation::kLock, [&] { platform.LockRun(At("")); }},
-      {Operation::kStart, [&] { platform.StartProgram(At("QB.EXE"), ""); }},
-  };
-  for (const auto& [operation, call] : calls) {
-    platform.Fail({ErrorNumber::kTooManyFiles, 1, operation});
-    EXPECT_EQ(ErrorOf(call), 67) << static_cast<int>(operation);
-    EXPECT_TRUE(platform.Failed());
-  }
-  EXPECT_EQ(folder.Read("new"), "");
 }
 
 TEST_F(FileTableTest, ReadAheadEndsAtSynchronizeAndAtWrites) {

@@ -1,6 +1,5 @@
 // These tests check the behaviour that the platform has on every system.
 
-#include "support/change_pass.h"
 #include "support/files_test.h"
 #include "support/processes.h"
 

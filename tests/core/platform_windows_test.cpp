@@ -1,8 +1,6 @@
 #define NOMINMAX
 #include <windows.h>
 
-#include <filesystem>
-
 #include "support/files_test.h"
 #include "support/processes.h"
 

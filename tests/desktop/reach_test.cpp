@@ -1,15 +1,8 @@
 // Tests every control of every screen with the events of its own widget. An event must reach the
 // screen exactly if the operator can reach the control.
 
-#include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/dialog.h>
-
-#include <algorithm>
-#include <functional>
-#include <map>
-#include <string>
-#include <vector>
 
 #include "desktop/demo_desktop.h"
 #include "desktop/grid_widget.h"

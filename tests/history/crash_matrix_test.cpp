@@ -1,13 +1,7 @@
 // Kills each transaction at each of its changes, also by a power cut, and each recovery from that.
 // Afterwards the files are as before the transaction, or as after it.
 
-#include <gtest/gtest.h>
-
-#include <optional>
-
 #include "history/memory_install.h"
-#include "support/error_of.h"
-#include "support/failing_platform.h"
 
 namespace golf {
 namespace {
@@ -165,7 +159,7 @@ void CheckWithUndo(const Run& run, Depth depth) {
 }
 
 void CheckDeeds(Depth depth) {
-  for (const Deed& deed : Deeds()) {
+  for (const Deed& deed : kDeeds) {
     if (testing::Test::HasFailure()) return;
     CheckWithUndo(RunOf(deed), depth);
   }

@@ -1,13 +1,12 @@
 // Tests the code of places, and history files that are damaged.
 
-#include <gtest/gtest.h>
-
 #include <random>
 #include <sstream>
 
 #include "history/history_file.h"
 #include "history/memory_install.h"
 #include "history/place_code.h"
+#include "history/place_comparison.h"
 
 namespace golf {
 namespace {
@@ -49,6 +48,16 @@ TEST(HistoryFormatTest, PlacesComeBackFromTheirCode) {
     ASSERT_TRUE(reader.AtEnd());
     ASSERT_EQ(place.old_bytes, old_bytes);
     ASSERT_EQ(place.new_bytes, new_bytes);
+    const std::size_t first = place.FirstChanged();
+    const auto now_of = [&](const std::string& side) {
+      return side.substr(std::min(first, side.size()), place.ChangedSize());
+    };
+    const std::string old_now = now_of(old_bytes);
+    ASSERT_TRUE(IsUntouched(place, old_now));
+    ASSERT_TRUE(IsMixture(place, old_now) && IsMixture(place, now_of(new_bytes)));
+    if (old_now.size() == place.ChangedSize()) {  // then another program cuts the file
+      ASSERT_FALSE(IsUntouched(place, old_now.substr(0, old_now.size() - 1)));
+    }
     std::string marked(std::max(old_bytes.size(), new_bytes.size()), '-');
     for (const ChangedBytes& run : place.changed) marked.replace(run.at, run.size, run.size, '*');
     for (std::size_t at = 0; at < marked.size(); ++at) {

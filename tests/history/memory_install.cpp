@@ -1,8 +1,6 @@
 #include "history/memory_install.h"
 
-#include <algorithm>
 #include <sstream>
-#include <stdexcept>
 
 #include "app/application.h"
 #include "app/demo/demo_install.h"
@@ -35,20 +33,16 @@ DataFiles DataOf(const MemoryPlatform& disk) {
 }
 
 std::string Difference(const DataFiles& found, const DataFiles& expected) {
-  std::string text;
   const auto size = [](const DataFiles& files, const std::string& path) {
-    const auto file = files.find(path);
-    return file == files.end() ? "none" : std::to_string(file->second.size());
+    return files.contains(path) ? std::to_string(files.at(path).size()) : "none";
   };
-  const auto compare = [&](const DataFiles& some, const DataFiles& others, bool told_all) {
-    for (const auto& [path, bytes] : some) {
-      const auto other = others.find(path);
-      const bool same = other != others.end() && (!told_all || other->second == bytes);
-      if (!same) text += path + " (" + size(found, path) + ", not " + size(expected, path) + ") ";
-    }
-  };
-  compare(expected, found, true);
-  compare(found, expected, false);
+  DataFiles differing;
+  std::set_symmetric_difference(found.begin(), found.end(), expected.begin(), expected.end(),
+                                std::inserter(differing, differing.end()));
+  std::string text;
+  for (const auto& [path, bytes] : differing) {
+    text += path + " (" + size(found, path) + ", not " + size(expected, path) + ") ";
+  }
   return text;
 }
 
@@ -81,56 +75,8 @@ std::unique_ptr<Platform> ProcessOn(const MemoryPlatform& disk) {
   return std::make_unique<MemoryPlatform>(disk.OnSameDisk());
 }
 
-std::span<const Deed> Deeds() {
-  static constexpr Deed kDeeds[] = {
-      {"courses-kv-to-qb", "open KVCoursestoQB\nclick TransferCourses"},
-      {"golfers-kv-to-qb",
-       "open KVtoQB\nclick SourceButton\nrow grid1 1\nclick LoadButton\n"
-       "click DestButton\nrow grid1 3\nclick LoadButton\n"
-       "answer \"Update Handicaps?\" YES\nclick TransferButton"},
-      {"golfers-kv-to-zd",
-       "open KVtoZD\nclick FindZDButton\npick LeagueList 00021\nclick OKLEague\n"
-       "click FindKVMButton\nrow grid1 1\nclick LoadButton\n"
-       "answer Question Yes\nclick TransferButton"},
-      {"golfers-zd-to-qb",
-       "open ZDtoQB\nclick SourceButton\npick LeagueList 00011\nclick OKLEague\n"
-       "click DestButton\nrow grid1 3\nclick LoadButton\n"
-       "check TransferSubs on\nclick TransferButton"},
-      {"scores-qb-to-kv",
-       "open QBtoKV\nclick DestButton\nrow grid1 1\nclick LoadButton\n"
-       "select TournamentList 0\nselect RoundList 0\n"
-       "answer Continue Yes\nclick TransferButton"},
-      {"scores-zd-to-kv",
-       "open ZDtoKV\nclick SourceButton\npick LeagueList 00021\nclick OKLEague\n"
-       "select EventList 0\nclick DestButton\nrow grid1 1\nclick LoadButton\n"
-       "click TransferButton"},
-      {"new-kv-roster",
-       "open LoadRoster\nanswer \"New Roster\" Yes\nclick NewButton\n"
-       "set NewRosterName Seniors\nclick OK2Button"},
-      {"delete-kv-roster",
-       "open LoadRoster\nrow grid1 2\nanswer \"DELETE Roster?\" YES\nclick DeleteButton"},
-      {"new-qb-roster",
-       "open LoadRosters\nanswer \"New Roster\" Yes\nclick NewButton\n"
-       "set Text1(0) Seniors\nclick AddEditRosterOK"},
-      {"delete-qb-roster",
-       "open LoadRosters\nrow grid1 2\nanswer \"DELETE Roster?\" YES\nclick DeleteButton"},
-      {"edit-course",
-       "open CourseTable kv\nrow CourseGrid 1\nclick EditCourseButton\n"
-       "set FCourseName \"Zebra Links\"\nclick OKButton"},
-      {"delete-course",
-       "open CourseTable kv\nrow CourseGrid 1\nanswer \"DELETE COURSE?\" YES\n"
-       "click DeleteCourseButton"},
-      {"save-layout",
-       "open XReportsCustomTeamResults new\nset ReportName \"Best ball\"\nclick SaveButton"},
-  };
-  return kDeeds;
-}
-
 const Deed& DeedNamed(std::string_view name) {
-  for (const Deed& deed : Deeds()) {
-    if (deed.name == name) return deed;
-  }
-  throw std::logic_error("There is no such deed.");
+  return *std::ranges::find(kDeeds, name, &Deed::name);
 }
 
 std::vector<std::string> Do(const Deed& deed, std::unique_ptr<Platform> platform,

@@ -1,14 +1,18 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <map>
 #include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
+#include "history/deeds.h"
 #include "history/transactions.h"
+#include "support/error_of.h"
+#include "support/failing_platform.h"
 #include "support/memory_platform.h"
 
 namespace golf {
@@ -33,14 +37,6 @@ const MemoryPlatform& DemoDisk();
 // Returns another process on a disk.
 std::unique_ptr<Platform> ProcessOn(const MemoryPlatform& disk);
 
-// Something that an operator does on a screen and that changes files.
-struct Deed {
-  const char* name;
-  const char* script;  // its lines
-};
-
-// Return the deeds, which work on the demonstration install.
-std::span<const Deed> Deeds();
 const Deed& DeedNamed(std::string_view name);
 
 // Does a deed in a program of its own. Returns the events of the host. `look` is called whenever

@@ -12,7 +12,7 @@
 #include "scoring/team/team_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/quenby/program_class.h"
-#include "support/change_pass.h"
+#include "support/failing_platform.h"
 #include "support/memory_platform.h"
 
 namespace golf {

@@ -1,14 +1,11 @@
 // Tests what the screens of a course library refuse and what they leave in the files.
 
-#include <utility>
-
 #include "app/tools.h"
 #include "screens/courses/course_form.h"
 #include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
 #include "support/bytes.h"
-#include "support/same_file.h"
-#include "support/test_host.h"
+#include "support/file_checks.h"
 
 namespace golf {
 namespace {
@@ -148,8 +145,15 @@ TEST_F(CourseLibraryTest, EveryRuleOfATeeIsTold) {
           host().Press(form, "EditTeeButton");
         },
         [&](CourseTee& tee) {
-          Set(tee, c.control, c.text);
-          EXPECT_EQ(dynamic_cast<TextBox&>(*tee.FindControl(c.control)).text(), c.shown);
+          auto& box = dynamic_cast<TextBox&>(*tee.FindControl(c.control));
+          const std::string correct = box.text();
+          for (const std::string text : {c.text, correct.c_str(), c.text}) {
+            Set(tee, c.control, text);
+            // A handicap that occurs twice is noted at the other hole.
+            const bool is_noted = text == c.text && !c.told.empty() && text != "12";
+            EXPECT_EQ(box.note().empty(), !is_noted) << text;
+          }
+          EXPECT_EQ(box.text(), c.shown);
           install.events().clear();
           host().Press(tee, "OKButton");
           EXPECT_EQ(Told(), c.told);
@@ -300,6 +304,17 @@ TEST_F(CourseLibraryTest, AFlatLadiesSlopeEndsTheClickAndLosesNothing) {
     EXPECT_EQ(form.FCity.text(), "Elm");
   });
   EXPECT_TRUE(SameFile("qbcrs.dat", Read("qbcrs.dat"), course));
+}
+
+TEST_F(CourseLibraryTest, TheFormShowsTheHolesOfTheCourse) {
+  for (const auto& [holes, option] : {std::pair{18, 0}, {9, 1}, {-9, 2}}) {
+    std::string course = Course("Dunes");
+    Put16(course, 2, {holes});
+    Write(course);
+    Run(Presses("EditCourseButton"), [&, option = option](CourseForm& form) {
+      for (int i = 0; i < 3; ++i) EXPECT_EQ(form.FHoleNum[i].value(), i == option) << option;
+    });
+  }
 }
 
 TEST_F(CourseLibraryTest, ANumberWithoutRoomLeavesTheRecordAndTheEntriesAsTheyAre) {

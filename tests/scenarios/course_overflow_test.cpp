@@ -1,4 +1,3 @@
-#include <filesystem>
 
 #include "core/little_endian.h"
 #include "support/test_host.h"

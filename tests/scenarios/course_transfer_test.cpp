@@ -1,13 +1,9 @@
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <map>
 
 #include "screens/transfers/kv_courses_to_qb.h"
 #include "support/bytes.h"
-#include "support/fault_walk.h"
-#include "support/same_file.h"
-#include "support/test_host.h"
+#include "support/file_checks.h"
 
 namespace golf {
 namespace {
@@ -147,8 +143,8 @@ TEST(CourseTransferTest, FilesByteForByte) {
                        std::to_string(outcome.updated) + "\r -> OK",
                    "close KVCoursestoQB", "end"}));
     ExpectOutcome(install, outcome);
-    EXPECT_EQ(install.host->counts()[0].second, outcome.added);
-    EXPECT_EQ(install.host->counts()[1].second, outcome.updated);
+    EXPECT_EQ(Counts(install), "added " + std::to_string(outcome.added) + ", updated " +
+                                   std::to_string(outcome.updated));
     const char* source = library.kelvane.empty() ? "kvdata/kvcrs.dat" : "kvdata/KVCRS.DAT";
     EXPECT_TRUE(Holds(install.folder, source, library.kelvane));
   }

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cmath>
 #include <numeric>
 
@@ -7,9 +6,7 @@
 #include "screens/transfers/kv_to_qb.h"
 #include "stores/quenby/program_class.h"
 #include "support/bytes.h"
-#include "support/fault_walk.h"
-#include "support/same_file.h"
-#include "support/test_host.h"
+#include "support/file_checks.h"
 
 namespace golf {
 namespace {
@@ -133,7 +130,9 @@ std::string RosterList() {
   std::string gone = one;
   Put16(gone, 0, {0});
   PutText(one, 107, 102);
-  return gone + one;
+  std::string other = one;
+  PutText(other, 67, 40, "Others");
+  return gone + one + other;
 }
 
 class GolferTransferTest : public testing::Test {
@@ -212,6 +211,8 @@ TEST_F(GolferTransferTest, FilesByteForByte) {
     EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", outcome.file));
     EXPECT_TRUE(Holds(install.folder, "kvdata/club.kvg", SomeGolfers()));
     EXPECT_TRUE(Told(install, Report(outcome)));
+    EXPECT_EQ(Counts(install), "updated " + std::to_string(outcome.updated) + ", added " +
+                                   std::to_string(outcome.added));
   }
   // The last run leaves these settings for the next.
   std::string settings =

@@ -1,8 +1,7 @@
 #include "screens/transfers/kv_to_zd.h"
 
-#include "support/fault_walk.h"
+#include "support/file_checks.h"
 #include "support/league_test.h"
-#include "support/same_file.h"
 
 namespace golf {
 namespace {
@@ -126,6 +125,7 @@ TEST(KVtoZDTest, FilesAndLogByteForByte) {
     WriteInstall(install, c);
     const Outcome outcome(c);
     EXPECT_EQ(Transfer(install), outcome.log);
+    EXPECT_EQ(Counts(install), "transferred " + std::to_string(outcome.transferred));
     ExpectLeague(install, outcome.players, outcome.substitutes);
     EXPECT_TRUE(Holds(install.folder, "kvdata/CLUB.kvg", c.golfers));
     EXPECT_EQ(install.folder.Read("KVtoZD.DAT"), "\"CLUB\"\r\n\"" + kLeague + "\"\r\n" +
@@ -141,7 +141,7 @@ TEST(KVtoZDTest, ScoresOfTheCurrentEventAreAskedAbout) {
   for (const char* answer : {"No", "Yes"}) {
     TestInstall install;
     WriteInstall(install, c);
-    install.host->QueueAnswer("Question", answer);
+    install.host->QueueAnswer("Question", answer, true);
     const bool goes_on = *answer == 'Y';
     const Outcome outcome(c);
     EXPECT_EQ(Transfer(install), goes_on ? outcome.log : "");
@@ -154,6 +154,8 @@ TEST(KVtoZDTest, ScoresOfTheCurrentEventAreAskedAbout) {
              "want to assign a new handicap for this event?  Goto ZD and move to the next event "
              "to be played before transferring handicaps. -> " +
                  std::string(answer)));
+    TransferFromMenu<KVtoZD>(install, "KVtoZDButton", "PreviewButton");
+    EXPECT_EQ(Told(install, "open ChangePreview"), goes_on);  // a refusal has no list of changes
   }
 }
 
@@ -217,6 +219,7 @@ TEST(KVtoZDTest, LeaguesToPickAndWhatIsKeptOfThem) {
   install.Open("KVtoZD", [&](Screen& shown) {
     auto& screen = dynamic_cast<KVtoZD&>(shown);
     ASSERT_EQ(screen.picker.LeagueList.items().size(), 5u);
+    EXPECT_EQ(screen.picker.LeagueList.index(), 0);
     for (int item = 0; item < 3; ++item) {
       install.host->Press(screen, "FindZDButton");
       EXPECT_FALSE(screen.Frame1.visible());

@@ -1,14 +1,13 @@
 #include "screens/transfers/qb_to_kv.h"
 
-#include <algorithm>
+#include <gtest/gtest.h>
 
 #include "screens/rosters/load_roster.h"
 #include "stores/kelvane/kelvane_layouts.h"
 #include "support/bytes.h"
-#include "support/fault_walk.h"
-#include "support/same_file.h"
+#include "support/file_checks.h"
 #include "support/scored_round.h"
-#include "support/test_host.h"
+#include "transfers/common_beginning.h"
 
 namespace golf {
 namespace {
@@ -27,7 +26,7 @@ struct Player {
 // The operator's choices and the tournament.
 struct Setting {
   int course = -1;  // the item in the list; below 0: the matched one
-  bool as_tournament = false, points = false, by_total = false, date = true;
+  bool as_tournament = false, points = false, by_total = false, date = true, previewed = false;
   int holes = 18, roster_holes = 18;
   std::string half = std::string(9, '\0');  // the waiting nine of each golfer
 };
@@ -66,6 +65,17 @@ struct Score {
     return bytes;
   }
 };
+
+// Returns the texts of the labels and lists that the screen shows.
+std::string Shown(const Screen& screen) {
+  std::string shown;
+  for (Control* control : screen.controls()) {
+    if (!control->IsShown()) continue;
+    if (const auto* label = dynamic_cast<Label*>(control)) shown += label->caption() + "|";
+    if (const auto* list = dynamic_cast<ComboBox*>(control)) shown += list->text() + "|";
+  }
+  return shown;
+}
 
 class QbToKvTest : public testing::Test {
  protected:
@@ -162,18 +172,27 @@ class QbToKvTest : public testing::Test {
   void Run(const Setting& setting) {
     if (setting.points) install.host->QueueAnswer("Transfer QB points to KV Score?", "yes");
     install.Open("QBtoKV", [&](Screen& screen) {
+      if (screen.name() == "ChangePreview") return;  // it is closed
       if (PickRoster<LoadRoster>(*install.host, screen, 1)) return;
       auto& transfer = dynamic_cast<QBtoKV&>(screen);
       install.host->Press(screen, "DestButton");
       captions = transfer.TransferButton.caption();
       transfer.RoundList.Select(1);
       captions += ", " + transfer.TransferButton.caption();
+      const std::string matched = Shown(transfer);
+      transfer.QBCourse.SetCaption("");
+      if (setting.previewed) {
+        install.host->Press(screen, "PreviewButton");
+        for (const int round : {0, 1}) transfer.RoundList.Select(round);
+        EXPECT_EQ(Shown(transfer), matched);
+      }
       if (setting.course >= 0) transfer.CourseCombo.Select(setting.course);
       transfer.TCheck.Choose(setting.as_tournament);
       if (setting.points) transfer.TCheck2.Choose(true);
       install.host->Press(screen, "TransferButton");
       report = transfer.Message.text();
       EXPECT_EQ(transfer.TransferButton.visible(), report.empty());
+      EXPECT_EQ(transfer.QBCourse.caption(), "North park");
       transfer.RoundList.Select(0);
       EXPECT_TRUE(transfer.TransferButton.visible());
     });
@@ -218,7 +237,7 @@ TEST_F(QbToKvTest, AnEntryByteForByte) {
     const Score* score;  // null: a half waits instead
     double date = kDay;
   } kCases[] = {
-      {"course and tee by name", {}, &plain},
+      {"course and tee by name", {.previewed = true}, &plain},
       {"away, tournament", {.course = 0, .as_tournament = true}, &away},
       {"points", {.points = true}, &points},
       {"a typed total", {.by_total = true}, &typed},
@@ -269,6 +288,7 @@ TEST_F(QbToKvTest, EachPlayerAndTheSecondRun) {
             "Player 9, A: not in this roster\n"
             "Player 7, A: already transferred, and not transferred again\n"
             "Player 8, A: already transferred, and not in this roster\n");
+  EXPECT_EQ(Counts(install), "transferred 3, alreadyTransferred 2, toTransfer 3, notFound 2");
   EXPECT_EQ(captions, "Transfer round #1 scores, Transfer round #2 scores");
   EXPECT_TRUE(
       Told(install,
@@ -338,6 +358,25 @@ TEST_F(QbToKvTest, NineHolesArePostedAsTheRightHalfOrNotAtAll) {
     failed = install.platform->Failed();
     const std::string history = install.folder.Read("kvdata/CLUB.KVS");
     EXPECT_TRUE(history == history_before || (failed && history == unposted));
+  }
+}
+
+TEST(CommonBeginningTest, TheLastOfTheLongest) {
+  const struct {
+    std::vector<std::string> items;
+    const char* name;
+    int chosen;
+  } kCases[] = {
+      {{"Away", "Elm", "Elm Hill", "Oak"}, "elm hills", 2},
+      {{"Away", "ELM", "Elm Hill", "Oak"}, "Elm", 2},  // both have the same length: the last item
+      {{"Away", "Elm Hill", "Elk", "Oak"}, "Elm", 1},
+      {{"Away", "Elm", "Oak"}, "Ohio", 2},  // one letter is enough
+      {{"Away", "Elm", "Oak"}, "Pine", 0},  // no item begins like this: the first item
+      {{"Oak", "Elm", ""}, "", 0},
+      {{}, "Elm", 0},
+  };
+  for (const auto& c : kCases) {
+    EXPECT_EQ(ItemWithLongestCommonBeginning(c.items, c.name), c.chosen) << c.name;
   }
 }
 

@@ -3,9 +3,8 @@
 #include <cmath>
 
 #include "screens/rosters/load_rosters.h"
-#include "support/fault_walk.h"
+#include "support/file_checks.h"
 #include "support/league_test.h"
-#include "support/same_file.h"
 
 namespace golf {
 namespace {
@@ -93,6 +92,7 @@ struct Outcome {
       Put16(golfer, 8, {c.in_roster});
       ++added;
     }
+    if (Trim(from.substr(8, 15)).size() > 11) ++cut;
     const auto copy = [&](std::size_t to, std::size_t width, std::size_t start,
                           std::size_t length) {
       golfer.replace(to, width, FitText(Trim(from.substr(start, length)), width));
@@ -120,6 +120,7 @@ struct Outcome {
   std::vector<int> ids;
   int updated = 0;
   int added = 0;
+  int cut = 0;  // first names
 };
 
 void WriteInstall(const TestInstall& install, const Case& c) {
@@ -165,15 +166,25 @@ TEST(ZDtoQBTest, FilesAndReportByteForByte) {
     WriteInstall(install, c);
     const Outcome outcome(c);
     EXPECT_EQ(Transfer(install), outcome.log());
+    EXPECT_EQ(Counts(install), "updated " + std::to_string(outcome.updated) + ", added " +
+                                   std::to_string(outcome.added));
     EXPECT_TRUE(Holds(install.folder, "qbdata/QBGOLFER.Q9D", outcome.states.back()));
     EXPECT_TRUE(Holds(install.folder, "zddata/00011.ZP8", c.players));
     EXPECT_TRUE(Holds(install.folder, "zddata/0001.ZS8", c.substitutes));
-    EXPECT_EQ(install.events(),
-              std::vector<std::string>({"open TransferMenu", "open ZDtoQB", "beep",
-                                        "message [Message] " +
-                                            std::to_string(outcome.updated + outcome.added) +
-                                            " golfers transfered. -> OK",
-                                        "close ZDtoQB", "end"}));
+    std::vector<std::string> events = {"open TransferMenu", "open ZDtoQB", "beep",
+                                       "message [Message] " +
+                                           std::to_string(outcome.updated + outcome.added) +
+                                           " golfers transfered. -> OK"};
+    if (outcome.cut > 0) {
+      events.push_back("notice " + std::to_string(outcome.cut) +
+                       (outcome.cut == 1
+                            ? " first name does not fit Quenby's 11 characters. Another transfer "
+                              "adds this golfer again."
+                            : " first names do not fit Quenby's 11 characters. Another transfer "
+                              "adds these golfers again."));
+    }
+    events.insert(events.end(), {"close ZDtoQB", "end"});
+    EXPECT_EQ(install.events(), events);
   }
 }
 

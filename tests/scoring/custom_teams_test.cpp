@@ -4,6 +4,8 @@
 #include <numeric>
 
 #include "scoring/layouts/custom_balls.h"
+#include "scoring/layouts/custom_standings.h"
+#include "scoring/standings_table.h"
 #include "screens/results/team_layout_builder.h"
 #include "screens/results/team_layout_list.h"
 #include "support/quenby_test.h"
@@ -148,14 +150,44 @@ TEST_F(CustomTeamsTest, ChoicesOfTheLists) {
             "3 worst balls (Total All balls)=H123;");
 }
 
-TEST_F(CustomTeamsTest, StylesOfSelection) {
+TEST_F(CustomTeamsTest, ChoicesOutOfRangeAreReplaced) {
   for (const std::string style : {"N", "n", "B", "b", "G", "x"}) {
     ReportLayout layout;
     layout.BallSelection = style;
     LimitToChoices(layout);
     EXPECT_EQ(layout.BallSelection, style == "x" ? "G" : UpperCase(style));
+    for (const auto& [holes, players] : {std::pair{0, 0}, {1, 1}, {90, 8}, {91, 9}}) {
+      layout.HoleNumberUsed = holes;
+      layout.PlayersPerTeam = players;
+      LimitToChoices(layout);
+      EXPECT_EQ(layout.HoleNumberUsed, holes == 90 ? 90 : 1);
+      EXPECT_EQ(layout.PlayersPerTeam, players == 8 ? 8 : 1);
+    }
     for (const int hole : {0, 91}) EXPECT_EQ(ErrorOf([&] { layout.At(hole, 0); }), 9);
   }
+}
+
+// The place of the running total of the last round orders the rows.
+TEST_F(CustomTeamsTest, RowsOfStandings) {
+  CustomStanding second;
+  second.TeamNumber = 7;
+  second.TeamName = "G";
+  second.golfers = "Ann";
+  second.Scores = {{1, 2, 3, 4}, {5, 6, 7, 8}};
+  second.Points = {{11, 12, 13, 14}, {15, 16, 17, 18}};
+  second.Positions = {{1, 1, 1, 1}, {1, 1, 1, 2}};
+  CustomStanding first = second;
+  first.TeamNumber = 9;
+  first.Positions = {{2, 2, 2, 2}, {2, 2, 2, 1}};
+  CustomStanding none = second;
+  none.Scores.back().back() = std::nullopt;
+  none.Positions.back().back() = 3;
+  std::string cells;
+  for (const StandingsRow& row : CustomTable({none, second, first}, 2).rows) {
+    for (const std::string& cell : row.cells) cells += cell + "|";
+  }
+  EXPECT_EQ(cells,
+            "9|G|Ann|1|2|3|5|6|7|8|18|1|7|G|Ann|1|2|3|5|6|7|8|18|2|7|G|Ann|1|2|3|5|6|7||18||");
 }
 
 TEST_F(CustomTeamsTest, RanksTeams) {

@@ -58,6 +58,10 @@ TEST_F(CourseTest, TeeListsHoldTheActiveTeesUpToFive) {
   EXPECT_EQ(course().TeeLadiesTees(2), "Champio  00.0/113" + std::string(61, ' ') + "\xC9" + "5");
   EXPECT_EQ(course().TeeAllTees(3), std::string(80, ' '));
   EXPECT_EQ(ErrorOf([&] { course().TeeAllTees(6); }), 9);
+  course().GetRecord(0);  // the away course
+  course().GetRecord(1);  // without a read of the file
+  EXPECT_EQ(course().TeeNumberofTees(), 2);
+  EXPECT_EQ(course().TeeAllTees(2).substr(0, 7), "Champio");
 }
 
 TEST_F(CourseTest, GettersMendAndSettersCut) {

@@ -277,6 +277,11 @@ TEST_F(TeamsTest, NamedByTheirPlayers) {
   player.SetNameLast("");
   player.SaveRecord();
   EXPECT_EQ(name_of(1), ", Last10");
+  // The golfers of the last team have the positions 1 and 3, a golfer without a team has 2.
+  tournament.SetActiveRound(1);
+  Write("X0012.Q9G", Entry(10, {10}, {1}) + Entry(9, {0}, {2}) + Entry(12, {10}, {3}));
+  player.IndexPlayersByTeam();
+  EXPECT_EQ(name_of(10), "Last10, Last12");
 }
 
 }  // namespace

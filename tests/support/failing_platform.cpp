@@ -1,7 +1,6 @@
 #include "support/failing_platform.h"
 
 #include <numeric>
-#include <utility>
 
 #include "core/text.h"
 
@@ -24,15 +23,15 @@ class FailingPlatform::File : public PlatformFile {
     if (fails) bytes = bytes.substr(0, platform_.fault_->bytes_first);
     if (!fails || !bytes.empty()) {
       real_->WriteAt(pass, offset, bytes, written);
-      Note({Operation::kWrite, path_, offset, written});
+      if (path_ != kScratchName) {
+        platform_.changes_.push_back({Operation::kWrite, path_, offset, written});
+      }
     }
     if (fails) platform_.Throw(path_);
   }
 
   void Truncate(ChangePass pass, std::int64_t length) override {
-    platform_.Pass(Operation::kTruncate, path_);
-    real_->Truncate(pass, length);
-    Note({Operation::kTruncate, path_, length});
+    platform_.Make({Operation::kTruncate, path_, length}, [&] { real_->Truncate(pass, length); });
   }
 
   void Sync(ChangePass pass) override {
@@ -56,10 +55,6 @@ class FailingPlatform::File : public PlatformFile {
   }
 
  private:
-  void Note(Change change) {
-    if (path_ != kScratchName) platform_.Note(std::move(change));
-  }
-
   FailingPlatform& platform_;
   std::string path_;
   std::unique_ptr<PlatformFile> real_;
@@ -86,57 +81,14 @@ void FailingPlatform::Throw(const std::string& path) const {
   throw NumberedError(fault_->error, path + " failed on purpose.");
 }
 
-void FailingPlatform::Pass(Operation operation, const std::string& path) {
-  if (Failing(operation, path)) Throw(path);
-}
-
 std::unique_ptr<PlatformFile> FailingPlatform::Open(const std::string& path, FileAccess access) {
   Pass(Operation::kOpen, path);
   return std::make_unique<File>(*this, path, PlatformOver::Open(path, access));
 }
 
-void FailingPlatform::Create(ChangePass pass, const std::string& path) {
-  Pass(Operation::kCreate, path);
-  PlatformOver::Create(pass, path);
-  Note({Operation::kCreate, path});
-}
-
-void FailingPlatform::CreateFolder(ChangePass pass, const std::string& path) {
-  Pass(Operation::kCreateFolder, path);
-  PlatformOver::CreateFolder(pass, path);
-  Note({Operation::kCreateFolder, path});
-}
-
-void FailingPlatform::Delete(ChangePass pass, const std::string& path) {
-  Pass(Operation::kDelete, path);
-  PlatformOver::Delete(pass, path);
-  Note({Operation::kDelete, path});
-}
-
-void FailingPlatform::Rename(ChangePass pass, const std::string& from, const std::string& to) {
-  Pass(Operation::kRename, to);
-  PlatformOver::Rename(pass, from, to);
-  Note({Operation::kRename, to});
-}
-
-void FailingPlatform::SyncFolder(ChangePass pass, const std::string& folder) {
-  Pass(Operation::kSyncFolder, folder);
-  PlatformOver::SyncFolder(pass, folder);
-}
-
 std::unique_ptr<PlatformFile> FailingPlatform::OpenScratch() {
   Pass(Operation::kScratch, kScratchName);
   return std::make_unique<File>(*this, kScratchName, PlatformOver::OpenScratch());
-}
-
-std::vector<std::string> FailingPlatform::FileNames(const std::string& folder) {
-  Pass(Operation::kList, folder);
-  return PlatformOver::FileNames(folder);
-}
-
-std::unique_ptr<RunLock> FailingPlatform::LockRun(const std::string& folder) {
-  Pass(Operation::kLock, folder);
-  return PlatformOver::LockRun(folder);
 }
 
 void FailingPlatform::StartProgram(const std::string& path, const std::string& arguments) {

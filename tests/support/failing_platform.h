@@ -1,10 +1,12 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/numbered_error.h"
@@ -54,8 +56,8 @@ struct Change {
 
 constexpr const char* kScratchName = "scratch";
 
-// A real platform whose calls are counted, written down, and can be made to fail. Whatever it opens
-// must be closed before it goes.
+// Forwards the calls to a real platform, counts and notes them, and can make them fail. All files
+// that it opens must be closed before it is destroyed.
 class FailingPlatform : public PlatformOver {
  public:
   using PlatformOver::PlatformOver;
@@ -74,25 +76,50 @@ class FailingPlatform : public PlatformOver {
   void StartForReal() { starts_ = true; }
 
   std::unique_ptr<PlatformFile> Open(const std::string& path, FileAccess access) override;
-  void Create(ChangePass pass, const std::string& path) override;
-  void CreateFolder(ChangePass pass, const std::string& path) override;
-  void Delete(ChangePass pass, const std::string& path) override;
-  void Rename(ChangePass pass, const std::string& from, const std::string& to) override;
-  void SyncFolder(ChangePass pass, const std::string& folder) override;
-  // Calls on it count, and fail, as those on a file named kScratchName.
+  void Create(ChangePass pass, const std::string& path) override {
+    Make({Operation::kCreate, path}, [&] { PlatformOver::Create(pass, path); });
+  }
+  void CreateFolder(ChangePass pass, const std::string& path) override {
+    Make({Operation::kCreateFolder, path}, [&] { PlatformOver::CreateFolder(pass, path); });
+  }
+  void Delete(ChangePass pass, const std::string& path) override {
+    Make({Operation::kDelete, path}, [&] { PlatformOver::Delete(pass, path); });
+  }
+  void Rename(ChangePass pass, const std::string& from, const std::string& to) override {
+    Make({Operation::kRename, to}, [&] { PlatformOver::Rename(pass, from, to); });
+  }
+  void SyncFolder(ChangePass pass, const std::string& folder) override {
+    Pass(Operation::kSyncFolder, folder);
+    PlatformOver::SyncFolder(pass, folder);
+  }
+  // The calls on a scratch file are counted and fail as those on a file named kScratchName.
   std::unique_ptr<PlatformFile> OpenScratch() override;
-  std::vector<std::string> FileNames(const std::string& folder) override;
-  std::unique_ptr<RunLock> LockRun(const std::string& folder) override;
+  std::vector<std::string> FileNames(const std::string& folder) override {
+    Pass(Operation::kList, folder);
+    return PlatformOver::FileNames(folder);
+  }
+  std::unique_ptr<RunLock> LockRun(const std::string& folder) override {
+    Pass(Operation::kLock, folder);
+    return PlatformOver::LockRun(folder);
+  }
   void StartProgram(const std::string& path, const std::string& arguments) override;
 
  private:
   class File;
 
-  // Counts the call; true if it is to fail.
+  // Counts the call. Returns true if it must fail.
   bool Failing(Operation operation, const std::string& path);
-  void Pass(Operation operation, const std::string& path);
+  void Pass(Operation operation, const std::string& path) {
+    if (Failing(operation, path)) Throw(path);
+  }
   [[noreturn]] void Throw(const std::string& path) const;
-  void Note(Change change) { changes_.push_back(std::move(change)); }
+  // Makes a change and notes it.
+  template <class Call>
+  void Make(Change change, Call&& call) {
+    Pass(change.operation, change.path);
+    call();
+    if (change.path != kScratchName) changes_.push_back(std::move(change));
+  }
 
   std::optional<Fault> fault_;
   bool failed_ = false;
@@ -101,5 +128,8 @@ class FailingPlatform : public PlatformOver {
   std::vector<std::string> started_;
   bool starts_ = false;
 };
+
+// Returns the pass of a test, which changes files without a gate.
+inline ChangePass TestPass() { return std::bit_cast<ChangePass>(char{}); }
 
 }  // namespace golf

@@ -33,16 +33,19 @@ inline std::string LeaguePlayer(int id, const std::string& first, const std::str
   return bytes;
 }
 
-// Works as the operator does from the menu. Returns the log of the screen after its run, also if an
-// error ends the run.
+// Opens a screen with a button of the menu, and presses `start` there. Returns the log of the
+// screen after its run, also if an error ends the run.
 template <class AnyScreen>
-std::string TransferFromMenu(TestInstall& install, const char* button) {
+std::string TransferFromMenu(TestInstall& install, const char* button,
+                             const char* start = "TransferButton") {
   std::string log;
   ClickErrorOf([&] {
     install.Open("TransferMenu", [&](Screen& screen) {
       if (screen.name() == "TransferMenu") return install.host->Press(screen, button);
-      install.host->Press(screen, "TransferButton");
-      log = dynamic_cast<AnyScreen&>(screen).Message.text();
+      auto* const transfer = dynamic_cast<AnyScreen*>(&screen);
+      if (transfer == nullptr) return;
+      install.host->Press(screen, start);
+      log = transfer->Message.text();
     });
   });
   return log;

@@ -34,6 +34,7 @@ class RecordingListener : public HostListener {
   void OnTip(const TipView& tip, const std::string& answer) override {
     Add("tip " + std::to_string(tip.type) + " [" + tip.title + "] " + tip.text + " -> " + answer);
   }
+  void OnNotice(const std::string& text) override { Add("notice " + text); }
   void OnBeep() override { Add("beep"); }
   void OnStart(const std::string& program, const std::string& arguments) override {
     Add("start " + program.substr(program.find_last_of("/\\") + 1) + "|" + arguments);
@@ -112,6 +113,15 @@ inline std::string LeftOutLines(const TestInstall& install) {
     lines.append(title).append(": ").append(reason.substr(0, reason.find(": "))).append("\n");
   });
   return lines;
+}
+
+// Returns the counts that the runs have noted, such as "ADDED 3, UPDATED 1".
+inline std::string Counts(const TestInstall& install) {
+  std::string counts;
+  for (const auto& [name, count] : install.host->counts()) {
+    counts += (counts.empty() ? "" : ", ") + name + " " + std::to_string(count);
+  }
+  return counts;
 }
 
 // True if an event came, as RecordingListener records it, or one with this beginning.

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <set>
 #include <utility>
 
 #include "core/text.h"
+#include "outlets/checkup/known_golfer.h"
 #include "stores/course/course_library.h"
 #include "stores/course/tee_rules.h"
 
@@ -36,7 +38,7 @@ class LibraryCheck {
     if (!scan_.HasFolder(folder_)) return {};
     const auto count = scan_.ForEach<CourseLayout>(
         file_, true, [&](std::int64_t number, const auto& course) { Add(number, course); });
-    known_.is_read = count.has_value();
+    known_.is_read = count.has_value() && !scan_.IsDamaged(file_);
     if (!known_.is_read) return std::move(known_);
     for (const auto& [list, holes] : {std::pair("9CRS", 9), {"18CRS", 18}, {"ALLCRS", 0}}) {
       CheckIndex(list, holes);
@@ -86,8 +88,8 @@ class LibraryCheck {
     const auto count = scan_.ForEach<CourseIndexLayout>(
         file, false,
         [&](std::int64_t, const auto& entry) { values.push_back(entry.template Get<"Index">()); });
-    if (!count) {
-      if (wanted > 0 && !scan_.Exists(file)) {
+    if (!count || scan_.IsDamaged(file)) {
+      if (wanted > 0 && !scan_.IsDamaged(file)) {
         scan_.Add(FindingCode::kIndexMissing, file, 0, "", "The index does not exist.");
       }
       return;
@@ -116,21 +118,26 @@ class LibraryCheck {
                     (course == nullptr ? ", which does not exist." : ", which was deleted."));
       return;
     }
-    std::vector<int> sorted = entries;
-    std::sort(sorted.begin(), sorted.end());
-    const bool is_twice = std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end();
-    const bool is_complete = !is_twice && entries.size() == wanted &&
-                             std::all_of(entries.begin(), entries.end(), [&](int number) {
-                               return IsIn(*known_.Find(number), holes);
-                             });
+    const std::string fault = FaultOf(entries, holes, wanted);
+    if (!fault.empty()) scan_.Add(FindingCode::kIndexStale, file, 0, "", fault);
+  }
+
+  // Returns why a list of active courses is wrong, as a sentence, or an empty text.
+  std::string FaultOf(const std::vector<int>& entries, int holes, std::size_t wanted) const {
+    std::set<int> listed;
+    for (const int number : entries) {
+      const std::string name = "Course " + std::to_string(number);
+      if (!listed.insert(number).second) return name + " is listed twice.";
+      if (!IsIn(*known_.Find(number), holes)) return name + " does not belong to the list.";
+    }
+    if (entries.size() != wanted) {
+      return "The index lists " + std::to_string(entries.size()) + " courses, but " +
+             std::to_string(wanted) + " belong to it.";
+    }
     const bool is_sorted = std::is_sorted(entries.begin(), entries.end(), [&](int a, int b) {
       return known_.Find(a)->sorted_name < known_.Find(b)->sorted_name;
     });
-    if (is_complete && is_sorted) return;
-    scan_.Add(FindingCode::kIndexStale, file, 0, "",
-              !is_complete ? "The index lists " + std::to_string(entries.size()) +
-                                 " courses, but " + std::to_string(wanted) + " belong to it."
-                           : "The courses are not sorted by name.");
+    return is_sorted ? "" : "The courses are not sorted by name.";
   }
 
   static bool IsIn(const KnownCourse& course, int holes) {
@@ -171,6 +178,30 @@ void CheckLinks(FileScan& scan, const std::string& file, const KnownLibraries& k
   }
 }
 
+// Finds courses whose names are spelled differently in Kelvane. `is_matched_by_name` says whether a
+// transfer matches a course by its name.
+template <class IsMatchedByName>
+void CheckNames(FileScan& scan, const std::string& file, const KnownCourses& courses,
+                const KnownCourses& kelvane, const IsMatchedByName& is_matched_by_name) {
+  std::map<std::string, const KnownCourse*> folded;
+  std::set<std::string> names;
+  for (const KnownCourse& course : kelvane.courses) {
+    if (!course.is_active) continue;
+    folded.emplace(FoldedName(course.name), &course);
+    names.insert(UpperCase(course.name));
+  }
+  std::int64_t number = 0;
+  for (const KnownCourse& course : courses.courses) {
+    ++number;
+    if (!course.is_active || !is_matched_by_name(course)) continue;
+    if (names.contains(UpperCase(course.name))) continue;
+    const auto similar = folded.find(FoldedName(course.name));
+    if (similar == folded.end()) continue;
+    scan.Add(FindingCode::kNameSpelling, file, number, course.name,
+             "Kelvane spells the name \"" + similar->second->name + "\".");
+  }
+}
+
 }  // namespace
 
 KnownLibraries CheckCourses(FileScan& scan) {
@@ -178,8 +209,14 @@ KnownLibraries CheckCourses(FileScan& scan) {
   known.kelvane = LibraryCheck(scan, kKelvaneCourses).Run();
   LibraryCheck quenby(scan, kQuenbyCourses);
   known.quenby = quenby.Run();
-  known.zandel = LibraryCheck(scan, kZandelCourses).Run();
-  if (known.kelvane.is_read) CheckLinks(scan, quenby.file(), known);
+  LibraryCheck zandel(scan, kZandelCourses);
+  known.zandel = zandel.Run();
+  if (!known.kelvane.is_read) return known;
+  CheckLinks(scan, quenby.file(), known);
+  CheckNames(scan, quenby.file(), known.quenby, known.kelvane,
+             [](const KnownCourse& course) { return course.kelvane_course == 0; });
+  CheckNames(scan, zandel.file(), known.zandel, known.kelvane,
+             [](const KnownCourse&) { return true; });
   return known;
 }
 

@@ -19,7 +19,8 @@ constexpr DateValue kFirstDay = 7306;  // 1 January 1920
 constexpr float kRatingOf18Holes = 45;
 constexpr int kLowestOf18Holes = 40;
 constexpr int kLowestScore = 18;
-constexpr int kHighestScore = 200;
+constexpr int kHighestOf9Holes = 100;
+constexpr int kHighestScore = 199;
 constexpr int kHoles = 18;
 
 // Counts the faults of one kind in a history, which become one finding.
@@ -61,12 +62,14 @@ class RosterCheck {
         base_ + ".kvs", true, [&](std::int64_t place, const auto& history) {
           if (places) CheckHistory(place, history);
         });
-    if (places && histories && *places != *histories) {
+    const bool are_whole = !scan_.IsDamaged(golfers_.file) && !scan_.IsDamaged(base_ + ".kvs");
+    if (places && histories && *places != *histories && are_whole) {
       scan_.Add(FindingCode::kFileSizes, base_ + ".kvs", 0, UpperCase(name_),
                 "The file has " + std::to_string(*histories) +
                     " score histories, but the roster has " + std::to_string(*places) +
                     " places for golfers.");
     }
+    golfers_.ids_twice = twins_.ids_twice();
     known_.rosters.push_back(std::move(golfers_));
   }
 
@@ -80,7 +83,8 @@ class RosterCheck {
           birthday_ = BirthdayIndex(
               2, [&](int index) { return header.template Get<"MiscDateName">(index); });
         });
-    if (headers && *headers == 0) {
+    has_header_ = headers.value_or(0) > 0;
+    if (headers && *headers == 0 && !scan_.IsDamaged(base_ + ".kv5")) {
       scan_.Add(FindingCode::kFileLength, base_ + ".kv5", 0, UpperCase(name_),
                 "The roster has no header.");
     }
@@ -92,7 +96,7 @@ class RosterCheck {
                       .id = golfer.Get<"IDNum">(),
                       .first = WithoutPadding(golfer.Get<"NameFirst">()),
                       .last = WithoutPadding(golfer.Get<"NameLast">())};
-    twins_.Add(known, MarkOf(golfer, birthday_));
+    twins_.Add(known, {BirthdayOf(golfer, birthday_), FirstDateOf(golfer), CopyOf(golfer)});
     if (known.id < 1) {
       scan_.Add(FindingCode::kGolferWithoutId, golfers_.file, place, known.Title(),
                 "The golfer has no ID number.");
@@ -101,6 +105,12 @@ class RosterCheck {
       scan_.Add(FindingCode::kHalfWaits, golfers_.file, place, known.Title(),
                 "A score of nine holes, " + std::to_string(golfer.Get<"HalfScore">()) +
                     ", waits for another nine.");
+      const int course = golfer.Get<"HalfCourse">();
+      if (courses_.is_read && course != 0 && courses_.Find(course) == nullptr) {
+        scan_.Add(FindingCode::kScoreCourse, golfers_.file, place, known.Title(),
+                  "The score of nine holes that waits was played on course " +
+                      std::to_string(course) + ", which does not exist.");
+      }
     }
     Counters counters{};
     for (int i = 0; i < kCounters; ++i)
@@ -135,8 +145,8 @@ class RosterCheck {
       }
       scan_.Add(fault.code, base_ + ".kvs", place, golfer.Title(), text);
     }
-    // A wrong date also makes the counters by date wrong.
-    const bool are_dates_right = faults[0].count == 0 && faults[1].count == 0;
+    // The other counters depend on the header and on the dates.
+    const bool are_dates_right = has_header_ && faults[0].count == 0 && faults[1].count == 0;
     CompareCounters(place, golfer, counters_[next_], found, are_dates_right ? kCounters : 1);
   }
 
@@ -200,7 +210,8 @@ class RosterCheck {
     const int lowest = rating >= kRatingOf18Holes ? kLowestOf18Holes
                        : rating > 0               ? kLowestScore
                                                   : 1;
-    if (adjusted < lowest || adjusted > kHighestScore) {
+    const int highest = rating > 0 && rating < kRatingOf18Holes ? kHighestOf9Holes : kHighestScore;
+    if (adjusted < lowest || adjusted > highest) {
       return " has the adjusted score " + std::to_string(adjusted) + ".";
     }
     if (gross != 0 && (gross < kLowestScore || gross > kHighestScore)) {
@@ -228,7 +239,10 @@ class RosterCheck {
       faults[3].Add(what() + named + ", which does not exist.");
     } else if (!course->is_active) {
       faults[4].Add(what() + named + " (" + course->name + "), which was deleted.");
-    } else if (const int tee = score.Get<"TeeNumber">(); tee != 0 && !course->HasTee(tee)) {
+    } else if (const int tee = score.Get<"TeeNumber">(); tee > kTeeSlots) {
+      faults[3].Add(what() + " was played from tee " + std::to_string(tee) +
+                    ", which does not exist.");
+    } else if (tee != 0 && !course->HasTee(tee)) {
       faults[5].Add(what() + " was played from tee " + std::to_string(tee) + " of " + course->name +
                     ", which is not active.");
     }
@@ -244,6 +258,7 @@ class RosterCheck {
   DateValue last_day_;  // the day after tomorrow is later
   int birthday_ = 0;    // the index of the date that is a birthday, or 0
   KnownGolfers golfers_;
+  bool has_header_ = false;
   std::array<DateValue, 3> counter_dates_{};
   std::vector<Counters> counters_;  // of the golfers
   std::size_t next_ = 0;            // the next golfer with a history
@@ -254,8 +269,9 @@ class RosterCheck {
 KnownKelvane CheckKelvane(FileScan& scan, const KnownCourses& courses,
                           const std::unordered_set<std::int64_t>& wanted_days) {
   KnownKelvane known;
-  for (const std::string& file : scan.FilesLike(scan.state().KVDataPath, "*.KV5")) {
-    RosterCheck(scan, courses, wanted_days, known, file.substr(0, file.rfind('.'))).Run();
+  const std::string& folder = scan.state().KVDataPath;
+  for (const std::string& roster : scan.BasesLike(folder, "*", {".KV5", ".KVG", ".KVS"})) {
+    RosterCheck(scan, courses, wanted_days, known, roster).Run();
   }
   return known;
 }

@@ -55,15 +55,45 @@ class NameCheck {
     }
   }
 
-  // Compares league golfers with the members of Kelvane's rosters, by ID number.
-  void CheckMembers(const KnownGolfers& league,
-                    const std::unordered_map<std::int64_t, const KnownGolfer*>& members) {
-    for (const KnownGolfer& golfer : league.golfers) {
-      const auto same = golfer.id > 0 ? members.find(golfer.id) : members.end();
-      if (same == members.end() || KeyOf(*same->second) == KeyOf(golfer)) continue;
-      if (FoldedKeyOf(*same->second) == FoldedKeyOf(golfer)) {
-        Add(league, golfer, "Kelvane", *same->second);
+  // Finds golfers who have another ID number in Quenby.
+  void CheckIds(const KnownGolfers& roster) {
+    for (const KnownGolfer& golfer : roster.golfers) {
+      if (golfer.id < 1 || ids_.contains(golfer.id)) continue;
+      const auto same = folded_.find(FoldedKeyOf(golfer));
+      if (same == folded_.end() || members_.contains(same->second->id)) continue;
+      scan_.Add(FindingCode::kIdDiffers, roster.file, golfer.record, golfer.Title(),
+                "The ID number is " + std::to_string(golfer.id) +
+                    ", but that of the same name in "
+                    "Quenby is " +
+                    std::to_string(same->second->id) + ".");
+    }
+  }
+
+  // Finds ID numbers that belong to other names in another roster. Leaves out those that several
+  // golfers of one roster have, since these are reported already.
+  void AddMembers(const KnownGolfers& roster) {
+    for (const KnownGolfer& golfer : roster.golfers) {
+      if (golfer.id < 1) continue;
+      const auto [known, is_new] = members_.emplace(golfer.id, Member{&roster, &golfer});
+      const auto& [other_roster, other] = known->second;
+      if (is_new || FoldedKeyOf(*other) == FoldedKeyOf(golfer)) continue;
+      if (roster.ids_twice.contains(golfer.id) || other_roster->ids_twice.contains(golfer.id)) {
+        continue;
       }
+      scan_.Add(FindingCode::kIdTwice, roster.file, golfer.record, golfer.Title(),
+                other->Title() + " has the same ID number, " + std::to_string(golfer.id) + ", in " +
+                    other_roster->file + ".");
+    }
+  }
+
+  // Compares league golfers with the members of Kelvane's rosters, by ID number.
+  void CheckMembers(const KnownGolfers& league) {
+    for (const KnownGolfer& golfer : league.golfers) {
+      const auto found = golfer.id > 0 ? members_.find(golfer.id) : members_.end();
+      if (found == members_.end()) continue;
+      const KnownGolfer& member = *found->second.golfer;
+      if (KeyOf(member) == KeyOf(golfer) || FoldedKeyOf(member) != FoldedKeyOf(golfer)) continue;
+      Add(league, golfer, "Kelvane", member);
     }
   }
 
@@ -76,7 +106,13 @@ class NameCheck {
                   std::to_string(other.record) + ").");
   }
 
+  struct Member {
+    const KnownGolfers* roster;
+    const KnownGolfer* golfer;
+  };
+
   FileScan& scan_;
+  std::unordered_map<std::int64_t, Member> members_;  // of Kelvane's rosters, by ID number
   std::unordered_set<std::string> keys_;
   std::unordered_map<std::string, const KnownGolfer*> folded_;
   std::unordered_map<std::int64_t, const KnownGolfer*> ids_;
@@ -87,13 +123,13 @@ class NameCheck {
 
 void CheckNames(FileScan& scan, const AllGolfers& all) {
   NameCheck check(scan, all.quenby);
-  std::unordered_map<std::int64_t, const KnownGolfer*> members;
   for (const KnownGolfers& league : all.zandel) check.CheckLeague(league);
   for (const KnownGolfers& roster : all.kelvane) {
     check.CheckRoster(roster);
-    for (const KnownGolfer& golfer : roster.golfers) members.emplace(golfer.id, &golfer);
+    check.AddMembers(roster);
   }
-  for (const KnownGolfers& league : all.zandel) check.CheckMembers(league, members);
+  for (const KnownGolfers& roster : all.kelvane) check.CheckIds(roster);
+  for (const KnownGolfers& league : all.zandel) check.CheckMembers(league);
 }
 
 }  // namespace golf

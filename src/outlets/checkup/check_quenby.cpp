@@ -22,6 +22,10 @@ constexpr int kTransferredFlag = 2;
 constexpr int kTeeGroups = 5;
 constexpr int kHighestHoleScore = 20;
 constexpr int kTeams = 200;
+constexpr int kMostRounds = 5;
+constexpr int kFlights = 26;
+constexpr DateValue kFirstDay = 7306;  // 1 January 1920
+constexpr DateValue kLastDay = 73050;  // 31 December 2099
 
 class GolferCheck {
  public:
@@ -34,9 +38,11 @@ class GolferCheck {
     ReadMaster();
     ReadRosters();
     known_.file = file_;
-    scan_.ForEach<PlayerLayout>(file_, true, [&](std::int64_t record, const auto& golfer) {
-      if (record >= kFirstGolfer && golfer.template Get<"IDNum">() > 0) Add(record, golfer);
-    });
+    const auto count =
+        scan_.ForEach<PlayerLayout>(file_, true, [&](std::int64_t record, const auto& golfer) {
+          if (record >= kFirstGolfer && golfer.template Get<"IDNum">() > 0) Add(record, golfer);
+        });
+    known_.is_read = count && !scan_.IsDamaged(file_);
     return std::move(known_);
   }
 
@@ -52,14 +58,16 @@ class GolferCheck {
 
   void ReadRosters() {
     const std::string file = scan_.NameOf(scan_.state().QBDataPath, "QBROSTER.Q9D");
-    has_rosters_ = scan_
-                       .ForEach<RosterLayout>(file, true,
-                                              [&](std::int64_t record, const auto& roster) {
-                                                if (roster.template Get<"IsRosterActive">() != 0) {
-                                                  rosters_.insert(record);
-                                                }
-                                              })
-                       .has_value();
+    const bool is_read =
+        scan_
+            .ForEach<RosterLayout>(file, true,
+                                   [&](std::int64_t record, const auto& roster) {
+                                     if (roster.template Get<"IsRosterActive">() != 0) {
+                                       rosters_.insert(record);
+                                     }
+                                   })
+            .has_value();
+    has_rosters_ = is_read && !scan_.IsDamaged(file);
   }
 
   void Add(std::int64_t record, const Record<PlayerLayout>& golfer) {
@@ -68,7 +76,7 @@ class GolferCheck {
                       .first = WithoutPadding(golfer.Get<"NameFirst">()),
                       .last = WithoutPadding(golfer.Get<"NameLast">()),
                       .sex = golfer.Get<"Sex">() == 1 ? 1 : 0};
-    twins_.Add(known, MarkOf(golfer, birthday_));
+    twins_.Add(known, {BirthdayOf(golfer, birthday_), DateAndAddressOf(golfer), CopyOf(golfer)});
     int named = 0;
     for (int slot = 1; slot <= kRosterSlots; ++slot) {
       const std::int64_t roster = golfer.Get<"Rosters">(slot);
@@ -113,16 +121,19 @@ class TournamentCheck {
     if (!controls) return;
     title_ = WithoutPadding(control_.Get<"Name">());
     if (*controls == 0) {
-      scan_.Add(FindingCode::kFileLength, base_ + ".Q9C", 0, title_,
-                "The tournament has no control record.");
+      if (!scan_.IsDamaged(base_ + ".Q9C")) {
+        scan_.Add(FindingCode::kFileLength, base_ + ".Q9C", 0, title_,
+                  "The tournament has no control record.");
+      }
       return;
     }
-    rounds_ = std::clamp<int>(control_.Get<"NumRounds">(), 1, 5);
+    CheckCounts();
+    rounds_ = std::clamp<int>(control_.Get<"NumRounds">(), 1, kMostRounds);
     for (int round = 1; round <= rounds_; ++round) {
       CheckDate(round);
       CheckCourse(round);
     }
-    scan_.ForEach<TeamLayout>(base_ + ".Q9T", true, [](std::int64_t, const auto&) {});
+    CheckTeams();
     scan_.ForEach<TournamentPlayerLayout>(
         base_ + ".Q9G", true,
         [&](std::int64_t record, const auto& entry) { CheckEntry(record, entry); });
@@ -130,11 +141,40 @@ class TournamentCheck {
   }
 
  private:
+  void CheckCounts() {
+    const struct {
+      std::string_view what;
+      int count;
+      int most;
+    } kCounts[] = {{"rounds", control_.Get<"NumRounds">(), kMostRounds},
+                   {"teams", control_.Get<"NumTeams">(), kTeams},
+                   {"flights", control_.Get<"NumFlights">(), kFlights}};
+    for (const auto& count : kCounts) {
+      if (count.count >= 1 && count.count <= count.most) continue;
+      scan_.Add(FindingCode::kTournamentCount, base_ + ".Q9C", 1, title_,
+                "The tournament has " + std::to_string(count.count) + " " +
+                    std::string(count.what) + ", but 1 to " + std::to_string(count.most) +
+                    " are possible.");
+    }
+  }
+
+  void CheckTeams() {
+    const std::string file = base_ + ".Q9T";
+    const auto teams = scan_.ForEach<TeamLayout>(file, true, [](std::int64_t, const auto&) {});
+    const int wanted = Teams();
+    if (!teams || *teams >= wanted || scan_.IsDamaged(file)) return;
+    scan_.Add(FindingCode::kFileSizes, file, 0, title_,
+              "The file has " + std::to_string(*teams) + " teams, but the tournament has " +
+                  std::to_string(wanted) + ".");
+  }
+
+  int Teams() const { return std::clamp<int>(control_.Get<"NumTeams">(), 1, kTeams); }
+
   void CheckDate(int round) {
     const DateValue date = control_.Get<"DateofRound">(round);
-    if (IsDate(date) && date >= 1) return;
+    if (date >= kFirstDay && date <= kLastDay) return;
     scan_.Add(FindingCode::kTournamentDate, base_ + ".Q9C", 1, title_,
-              "Round " + std::to_string(round) + " has no date.");
+              "Round " + std::to_string(round) + " has no possible date.");
   }
 
   // Returns the number of tee groups of a sex: 0 men, 1 ladies.
@@ -172,6 +212,7 @@ class TournamentCheck {
     if (pointer < 1) return;
     const auto found = golfers_.find(pointer);
     if (found == golfers_.end()) {
+      if (!known_.golfers.is_read) return;
       scan_.Add(FindingCode::kEntryNoGolfer, base_ + ".Q9G", record, title_,
                 "The entry is that of golfer record " + std::to_string(pointer) +
                     ", which contains no golfer.");
@@ -192,7 +233,7 @@ class TournamentCheck {
   }
 
   void CheckTeam(std::int64_t record, const KnownGolfer& golfer, int round, int team) {
-    const int teams = std::clamp<int>(control_.Get<"NumTeams">(), 1, kTeams);
+    const int teams = Teams();
     if (team == 0) return;
     if (team < 0 || team > teams) {
       scan_.Add(FindingCode::kEntryTeam, base_ + ".Q9G", record, golfer.Title(),
@@ -268,6 +309,42 @@ class TournamentCheck {
   std::map<std::pair<int, int>, int> members_;    // by round and team
 };
 
+void CheckPostedRound(FileScan& scan, const PlayedRound& round, const KnownKelvane& kelvane,
+                      bool is_member) {
+  const auto scores = kelvane.scores.find(round.id);
+  bool has_any = false;
+  bool has_same = false;
+  if (scores != kelvane.scores.end()) {
+    const auto [first, last] = scores->second.equal_range(round.day);
+    has_any = first != last;
+    has_same =
+        std::any_of(first, last, [&](const auto& score) { return score.second == round.gross; });
+  }
+  const std::string day = FormatDay(static_cast<DateValue>(round.day), scan.state().DateFormat);
+  const std::string which = "The score of round " + std::to_string(round.round) + " ";
+  const auto add = [&](FindingCode code, const std::string& text) {
+    scan.Add(code, round.file, round.entry, round.title, which + text);
+  };
+  if (round.is_posted && !is_member) {
+    add(FindingCode::kPostedNotFound,
+        "is marked as transferred, but no roster of Kelvane has the "
+        "ID number " +
+            std::to_string(round.id) + ".");
+  } else if (round.is_posted && !has_any) {
+    add(FindingCode::kPostedNotFound,
+        "is marked as transferred, but Kelvane has no score of the golfer on " + day + ".");
+  } else if (round.is_posted && round.gross > 0 && !has_same) {
+    add(FindingCode::kPostedNotFound,
+        "is marked as transferred, but Kelvane has another score of "
+        "the golfer on " +
+            day + ".");
+  } else if (!round.is_posted && round.gross > 0 && has_same) {
+    add(FindingCode::kFoundNotPosted, "is not marked as transferred, but Kelvane has the score " +
+                                          std::to_string(round.gross) + " of the golfer on " + day +
+                                          ".");
+  }
+}
+
 }  // namespace
 
 KnownQuenby CheckQuenby(FileScan& scan, const KnownCourses& courses) {
@@ -276,9 +353,10 @@ KnownQuenby CheckQuenby(FileScan& scan, const KnownCourses& courses) {
   known.golfers = GolferCheck(scan).Run();
   std::map<std::int64_t, const KnownGolfer*> golfers;
   for (const KnownGolfer& golfer : known.golfers.golfers) golfers.emplace(golfer.record, &golfer);
-  for (const std::string& file : scan.FilesLike(scan.state().QBDataPath, "X*.Q9C")) {
-    if (!TournamentOfFile(file)) continue;
-    TournamentCheck(scan, courses, known, golfers, file.substr(0, file.rfind('.'))).Run();
+  const std::string& folder = scan.state().QBDataPath;
+  for (const std::string& tournament : scan.BasesLike(folder, "X*", {".Q9C", ".Q9G", ".Q9T"})) {
+    if (!TournamentOfFile(tournament + ".Q9C")) continue;
+    TournamentCheck(scan, courses, known, golfers, tournament).Run();
   }
   return known;
 }
@@ -288,28 +366,9 @@ void CheckPostedRounds(FileScan& scan, const KnownQuenby& quenby, const KnownKel
   for (const KnownGolfers& roster : kelvane.rosters) {
     for (const KnownGolfer& golfer : roster.golfers) members.insert(golfer.id);
   }
+  if (members.empty()) return;
   for (const PlayedRound& round : quenby.rounds) {
-    if (!members.contains(round.id)) continue;
-    const auto scores = kelvane.scores.find(round.id);
-    bool has_any = false;
-    bool has_same = false;
-    if (scores != kelvane.scores.end()) {
-      const auto [first, last] = scores->second.equal_range(round.day);
-      has_any = first != last;
-      has_same =
-          std::any_of(first, last, [&](const auto& score) { return score.second == round.gross; });
-    }
-    const std::string day = FormatDay(static_cast<DateValue>(round.day), scan.state().DateFormat);
-    const std::string which = "The score of round " + std::to_string(round.round) + " ";
-    if (round.is_posted && !has_any) {
-      scan.Add(FindingCode::kPostedNotFound, round.file, round.entry, round.title,
-               which + "is marked as transferred, but Kelvane has no score of the golfer on " +
-                   day + ".");
-    } else if (!round.is_posted && round.gross > 0 && has_same) {
-      scan.Add(FindingCode::kFoundNotPosted, round.file, round.entry, round.title,
-               which + "is not marked as transferred, but Kelvane has the score " +
-                   std::to_string(round.gross) + " of the golfer on " + day + ".");
-    }
+    CheckPostedRound(scan, round, kelvane, members.contains(round.id));
   }
 }
 

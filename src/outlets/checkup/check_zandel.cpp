@@ -16,6 +16,8 @@ namespace {
 // These are the scores that the transfer to Kelvane accepts.
 constexpr int kLowestScore = 21;
 constexpr int kHighestScore = 199;
+constexpr float kFirstDay = 7306;       // 1 January 1920
+constexpr float kLastDay = 73050;       // 31 December 2099
 constexpr std::size_t kLeagueName = 4;  // characters of a base that name the league
 
 // Maps the files of substitutes that were read to their numbers of records. All divisions of a
@@ -40,8 +42,10 @@ class DivisionCheck {
     if (!controls) return;
     title_ = WithoutPadding(control_.Get<"LeagueName">());
     if (*controls == 0) {
-      scan_.Add(FindingCode::kFileLength, base_ + ".ZL8", 0, title_,
-                "The league has no control record.");
+      if (!scan_.IsDamaged(base_ + ".ZL8")) {
+        scan_.Add(FindingCode::kFileLength, base_ + ".ZL8", 0, title_,
+                  "The league has no control record.");
+      }
       return;
     }
     CheckCurrentEvent();
@@ -54,24 +58,31 @@ class DivisionCheck {
  private:
   void CheckCurrentEvent() {
     const int event = control_.Get<"CurrentEvent">();
-    if (event >= 0 && event <= kLeagueEvents) return;
+    // The current event is the one to be played next, so it can follow the last one.
+    const int last = std::clamp<int>(control_.Get<"EventCount">(), 0, kLeagueEvents);
+    if (event >= 0 && event <= last + 1) return;
     scan_.Add(FindingCode::kLeagueEvent, base_ + ".ZL8", 1, title_,
-              "The current event is " + std::to_string(event) + ", but there are 50 at most.");
+              "The current event is " + std::to_string(event) + ", but the league has " +
+                  std::to_string(last) + " events.");
   }
 
   void CheckTeams() {
-    const auto teams = scan_.ForEach<LeagueTeamLayout>(
-        base_ + ".ZT8", true, [&](std::int64_t record, const auto& team) {
-          for (int event = 1; event <= LastEvent(); ++event) {
+    const std::string file = base_ + ".ZT8";
+    const int events = std::clamp<int>(control_.Get<"EventCount">(), 0, kLeagueEvents);
+    const auto teams =
+        scan_.ForEach<LeagueTeamLayout>(file, true, [&](std::int64_t record, const auto& team) {
+          for (int event = 1; event <= events; ++event) {
             const int number = team.template Get<"EventCourse">(event);
             if (!courses_.is_read || number == 0 || courses_.Find(number) != nullptr) continue;
-            scan_.Add(FindingCode::kLeagueCourse, base_ + ".ZT8", record, title_,
+            scan_.Add(FindingCode::kLeagueCourse, file, record, title_,
                       "Team " + std::to_string(record) + " plays event " + std::to_string(event) +
                           " on course " + std::to_string(number) + ", which does not exist.");
+            break;
           }
         });
-    has_teams_ = teams.has_value();
+    has_teams_ = teams.has_value() && !scan_.IsDamaged(file);
     teams_ = teams.value_or(0);
+    if (has_teams_) CompareSizes(file, teams_, control_.Get<"PlayerFactor1">(), "teams");
   }
 
   void CheckPlayers() {
@@ -79,10 +90,16 @@ class DivisionCheck {
         std::int64_t{control_.Get<"PlayerFactor1">()} * control_.Get<"PlayerFactor2">();
     const std::string file = base_ + ".ZP8";
     const auto players = ReadPlayers(file, 1, wanted);
-    if (!players || *players == wanted) return;
+    ReportLaterScores(file);
+    if (players && !scan_.IsDamaged(file)) CompareSizes(file, *players, wanted, "players");
+  }
+
+  void CompareSizes(const std::string& file, std::int64_t count, std::int64_t wanted,
+                    std::string_view what) {
+    if (count == wanted) return;
     scan_.Add(FindingCode::kFileSizes, file, 0, title_,
-              "The file has " + std::to_string(*players) + " players, but the league has " +
-                  std::to_string(wanted) + ".");
+              "The file has " + std::to_string(count) + " " + std::string(what) +
+                  ", but the league has " + std::to_string(wanted) + ".");
   }
 
   void CheckSubstitutes() {
@@ -90,9 +107,17 @@ class DivisionCheck {
     const std::string file = base_.substr(0, slash + kLeagueName) + ".ZS8";
     const int last = control_.Get<"LastSubRecord">();
     const auto [known, is_new] = substitutes_.emplace(file, std::nullopt);
-    if (is_new) known->second = ReadPlayers(file, kFirstSubstitute, last);
+    if (!is_new) return;  // the other divisions have the same file
+    known->second = ReadPlayers(file, kFirstSubstitute, last);
+    ReportLaterScores(file);
     const std::optional<std::int64_t>& count = known->second;
-    if (!count || last < kFirstSubstitute || last <= *count) return;
+    if (!count || scan_.IsDamaged(file)) return;
+    if (last_player_ > std::max(last, kFirstSubstitute - 1)) {
+      scan_.Add(FindingCode::kLeagueSubstitutes, base_ + ".ZL8", 1, title_,
+                "The last substitute is record " + std::to_string(last) + ", but record " +
+                    std::to_string(last_player_) + " of the file contains one, too.");
+    }
+    if (last < kFirstSubstitute || last <= *count) return;
     scan_.Add(FindingCode::kLeagueSubstitutes, base_ + ".ZL8", 1, title_,
               "The last substitute is record " + std::to_string(last) + ", but the file has " +
                   std::to_string(*count) + " records.");
@@ -101,13 +126,19 @@ class DivisionCheck {
   std::optional<std::int64_t> ReadPlayers(const std::string& file, std::int64_t first,
                                           std::int64_t last) {
     KnownGolfers golfers{.file = file, .golfers = {}};
+    TwinCheck twins(scan_, file);
+    last_player_ = 0;
+    later_.clear();
     const auto count =
         scan_.ForEach<LeaguePlayerLayout>(file, true, [&](std::int64_t record, const auto& player) {
-          if (record < first || record > last || !HasLastName(player)) return;
+          if (record < first || !HasLastName(player)) return;
+          last_player_ = record;
+          if (record > last) return;
           KnownGolfer golfer{.record = record,
                              .id = player.template Get<"GolferID">(),
                              .first = WithoutPadding(player.template Get<"FirstName">()),
                              .last = WithoutPadding(player.template Get<"LastName">())};
+          twins.Add(golfer, {});
           CheckPlayer(file, golfer, player);
           golfers.golfers.push_back(std::move(golfer));
         });
@@ -120,10 +151,7 @@ class DivisionCheck {
     for (int event = 1; event <= kLeagueEvents; ++event) {
       if (player.Get<"EventScore">(event) == 0) continue;
       if (event > LastEvent()) {
-        scan_.Add(FindingCode::kLeagueEvent, file, golfer.record, golfer.Title(),
-                  "The golfer has a score in event " + std::to_string(event) +
-                      ", but the current event is " +
-                      std::to_string(control_.Get<"CurrentEvent">()) + ".");
+        later_.emplace_back(golfer, event);
         return;
       }
       const int score = player.Get<"EventScore">(event);
@@ -143,14 +171,35 @@ class DivisionCheck {
     }
   }
 
+  // Reports scores of events after the current one. If several golfers have one, the current event
+  // is most likely wrong.
+  void ReportLaterScores(const std::string& file) {
+    const std::string current =
+        ", but the current event is " + std::to_string(control_.Get<"CurrentEvent">()) + ".";
+    if (is_event_wrong_) return;
+    if (later_.size() > 2) {
+      is_event_wrong_ = true;
+      scan_.Add(FindingCode::kLeagueEvent, base_ + ".ZL8", 1, title_,
+                std::to_string(later_.size()) + " golfers have scores in later events" + current);
+      return;
+    }
+    for (const auto& [golfer, event] : later_) {
+      scan_.Add(FindingCode::kLeagueEvent, file, golfer.record, golfer.Title(),
+                "The golfer has a score in event " + std::to_string(event) + current);
+    }
+  }
+
   void CheckEvents() {
-    const auto events =
-        scan_.ForEach<LeagueEventLayout>(base_ + ".ZE8", true, [](std::int64_t, const auto&) {});
+    const std::string file = base_ + ".ZE8";
     const int wanted = control_.Get<"EventCount">();
-    if (!events || *events >= wanted) return;
-    scan_.Add(FindingCode::kFileSizes, base_ + ".ZE8", 0, title_,
-              "The file has " + std::to_string(*events) + " events, but the league has " +
-                  std::to_string(wanted) + ".");
+    const auto events =
+        scan_.ForEach<LeagueEventLayout>(file, true, [&](std::int64_t record, const auto& event) {
+          const float date = event.template Get<"EventDate">();
+          if (record > wanted || (date >= kFirstDay && date <= kLastDay)) return;
+          scan_.Add(FindingCode::kLeagueDate, file, record, title_,
+                    "Event " + std::to_string(record) + " has no possible date.");
+        });
+    if (events && !scan_.IsDamaged(file)) CompareSizes(file, *events, wanted, "events");
   }
 
   // Returns the last event that can have scores, 0 to 50.
@@ -167,6 +216,10 @@ class DivisionCheck {
   Record<LeagueControlLayout> control_;
   bool has_teams_ = false;
   std::int64_t teams_ = 0;
+  bool is_event_wrong_ = false;  // true if the current event is reported
+  // These members are those of the last file of players.
+  std::int64_t last_player_ = 0;
+  std::vector<std::pair<KnownGolfer, int>> later_;  // golfers with the event of their later score
 };
 
 }  // namespace
@@ -174,8 +227,10 @@ class DivisionCheck {
 std::vector<KnownGolfers> CheckZandel(FileScan& scan, const KnownCourses& courses) {
   std::vector<KnownGolfers> known;
   SubstituteFiles substitutes;
-  for (const std::string& file : scan.FilesLike(scan.state().ZDDataPath, "?????.ZL8")) {
-    DivisionCheck(scan, courses, substitutes, known, file.substr(0, file.rfind('.'))).Run();
+  const std::string& folder = scan.state().ZDDataPath;
+  for (const std::string& base :
+       scan.BasesLike(folder, "?????", {".ZL8", ".ZP8", ".ZT8", ".ZE8"})) {
+    DivisionCheck(scan, courses, substitutes, known, base).Run();
   }
   return known;
 }

@@ -13,6 +13,7 @@
 #include "outlets/checkup/check_quenby.h"
 #include "outlets/checkup/check_zandel.h"
 #include "outlets/checkup/file_scan.h"
+#include "stores/kelvane/kelvane_layouts.h"
 
 namespace golf {
 
@@ -22,6 +23,9 @@ void CheckInstall(SharedState& state, const EachFinding& each) {
     scan.Add(FindingCode::kRunInterrupted, "transfer-history", 0, "",
              "A run was interrupted and is not finished.");
   }
+  scan.ForEach<KelvaneSystemLayout>("KVSYSTEM.FIL", false, [](std::int64_t, const auto&) {});
+  scan.ForEach<KelvaneReportsLayout>(scan.NameOf(state.KVDataPath, "REPORTS.CFG"), false,
+                                     [](std::int64_t, const auto&) {});
   const KnownLibraries courses = CheckCourses(scan);
   const KnownQuenby quenby = CheckQuenby(scan, courses.quenby);
   std::unordered_set<std::int64_t> days;

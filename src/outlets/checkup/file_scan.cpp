@@ -1,13 +1,20 @@
 #include "outlets/checkup/file_scan.h"
 
+#include <algorithm>
+#include <iterator>
+#include <map>
 #include <utility>
 
+#include "core/text.h"
 #include "history/transactions.h"
 
 namespace golf {
 
 void FileScan::Add(FindingCode code, const std::string& file, std::int64_t record,
                    std::string title, std::string text) {
+  constexpr FindingCode kDamages[] = {FindingCode::kFileUnreadable, FindingCode::kFileHeld,
+                                      FindingCode::kFileMissing, FindingCode::kFileLength};
+  if (std::ranges::find(kDamages, code) != std::end(kDamages)) damaged_.insert(file);
   each_({code, file, record, std::move(title), std::move(text)});
 }
 
@@ -26,6 +33,20 @@ bool FileScan::Exists(const std::string& file) const {
 std::vector<std::string> FileScan::FilesLike(const std::string& folder, std::string_view pattern) {
   if (!HasFolder(folder)) return {};
   return state_.files.FilesLike(folder, pattern);
+}
+
+std::vector<std::string> FileScan::BasesLike(const std::string& folder, std::string_view pattern,
+                                             std::initializer_list<std::string_view> extensions) {
+  std::map<std::string, std::string> bases;  // by the name in capitals
+  for (const std::string_view extension : extensions) {
+    for (const std::string& file : FilesLike(folder, std::string(pattern).append(extension))) {
+      const std::string base = file.substr(0, file.rfind('.'));
+      bases.emplace(UpperCase(base), base);
+    }
+  }
+  std::vector<std::string> names;
+  for (auto& [upper, base] : bases) names.push_back(std::move(base));
+  return names;
 }
 
 std::unique_ptr<PlatformFile> FileScan::Open(const std::string& file, bool is_required) {
@@ -75,7 +96,7 @@ bool FileScan::Read(const std::string& file, PlatformFile& open, std::int64_t nu
 void FileScan::AddError(const std::string& file, const NumberedError& error) {
   const bool is_held = error.Is(ErrorNumber::kPermissionDenied);
   Add(is_held ? FindingCode::kFileHeld : FindingCode::kFileUnreadable, file, 0, "",
-      error.description());
+      is_held ? "Another program has the file open." : error.description());
 }
 
 }  // namespace golf

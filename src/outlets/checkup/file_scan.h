@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,8 +35,17 @@ class FileScan {
   // Returns the names of the files in a folder that match a pattern such as "*.KV5". Returns none
   // if the folder does not exist.
   std::vector<std::string> FilesLike(const std::string& folder, std::string_view pattern);
+  // Returns the names without extension of the files in a folder that match a pattern and have one
+  // of the extensions, such as ".KV5". Sorts them without regard to case. All files of a roster, a
+  // tournament or a league have the same name without extension.
+  std::vector<std::string> BasesLike(const std::string& folder, std::string_view pattern,
+                                     std::initializer_list<std::string_view> extensions);
   // Returns the path of a file below the install, with "/".
   std::string NameOf(const std::string& folder, const std::string& name) const;
+
+  // True if a finding says that the file is missing, unreadable or cut. Other findings about its
+  // records would then follow from that one.
+  bool IsDamaged(const std::string& file) const { return damaged_.contains(file); }
 
   // Calls `each` with the number, from 1, and the content of every whole record of a file. Returns
   // the number of whole records, or nothing if the file is missing or cannot be read to its end.
@@ -63,6 +74,7 @@ class FileScan {
 
   SharedState& state_;
   EachFinding each_;
+  std::set<std::string> damaged_;
 };
 
 }  // namespace golf

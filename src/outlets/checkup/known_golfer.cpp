@@ -1,6 +1,8 @@
 #include "outlets/checkup/known_golfer.h"
 
 #include <cctype>
+#include <functional>
+#include <utility>
 
 #include "core/code_page.h"
 #include "core/text.h"
@@ -31,7 +33,7 @@ std::string FoldedName(std::string_view name) {
   return folded;
 }
 
-void TwinCheck::Add(const KnownGolfer& golfer, const TwinMark& mark) {
+void TwinCheck::Add(const KnownGolfer& golfer, std::initializer_list<TwinMark> marks) {
   const auto add = [&](FindingCode code, std::int64_t other, const std::string& what) {
     scan_.Add(code, file_, golfer.record, golfer.Title(),
               "Record " + std::to_string(other) + " has the same " + what + ".");
@@ -39,18 +41,30 @@ void TwinCheck::Add(const KnownGolfer& golfer, const TwinMark& mark) {
   if (golfer.id > 0) {
     const auto [other, is_new] = records_.emplace(golfer.id, golfer.record);
     if (!is_new) {
+      ids_twice_.insert(golfer.id);
       add(FindingCode::kIdTwice, other->second, "ID number, " + std::to_string(golfer.id));
     }
   }
-  if (mark.bytes.empty()) return;
-  const auto [other, is_new] = named_.emplace(
-      FoldedName(golfer.last) + '/' + FoldedName(golfer.first) + '/' + mark.bytes, golfer.record);
-  if (!is_new) add(FindingCode::kGolferTwice, other->second, std::string(mark.what));
+  const std::string name = FoldedName(golfer.last) + '/' + FoldedName(golfer.first) + '/';
+  bool is_reported = name.size() == 2;  // without a name
+  for (const TwinMark& mark : marks) {
+    if (mark.bytes.empty()) continue;
+    const std::size_t hash = std::hash<std::string>()(mark.bytes);
+    const auto [other, is_new] =
+        named_.emplace(name + std::string(mark.what) + std::to_string(hash), golfer.record);
+    if (is_new || std::exchange(is_reported, true)) continue;
+    add(FindingCode::kGolferTwice, other->second, std::string(mark.what));
+  }
 }
 
 int BirthdayIndex(int count, const std::function<std::string(int)>& caption) {
+  constexpr std::string_view kBirths[] = {"BIRTH",  "DOB",   "NELE",    "NAISSANCE", "GEBOREN",
+                                          "GEBURT", "NACIM", "NASCITA", "BDAY"};
   for (int index = 1; index <= count; ++index) {
-    if (UpperCase(caption(index)).find("BIRTH") != std::string::npos) return index;
+    const std::string text = FoldedName(caption(index));
+    for (const std::string_view birth : kBirths) {
+      if (text.find(birth) != std::string::npos) return index;
+    }
   }
   return 0;
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <string>
@@ -29,6 +30,8 @@ struct KnownGolfer {
 struct KnownGolfers {
   std::string file;
   std::vector<KnownGolfer> golfers;
+  std::set<std::int64_t> ids_twice = {};  // ID numbers that several golfers of the file have
+  bool is_read = true;                    // false if the file is missing, unreadable or cut
 };
 
 // Returns a name as people compare it: in capitals, and without blanks, accents and punctuation.
@@ -37,23 +40,39 @@ std::string FoldedName(std::string_view name);
 // Contains what two records of one golfer have in common besides the name.
 struct TwinMark {
   std::string bytes;           // empty if it is not known
-  std::string_view what = {};  // describes it
+  std::string_view what = {};  // describes it together with the name
 };
 
-// `birthday` is the index of the date that is the birthday, or 0 if no caption says so. The mark is
-// then the dates with the first line of the home address and the phone number.
+// `birthday` is the index of the date that is the birthday, or 0 if no caption says so.
 template <class Layout>
-TwinMark MarkOf(const Record<Layout>& golfer, int birthday) {
-  const auto text = [](DateValue date) { return std::to_string(date) + '/'; };
-  if (birthday > 0) {
-    const DateValue date = golfer.template Get<"MiscDate">(birthday);
-    return {date == 0 ? "" : text(date), "name and birthday"};
-  }
-  const DateValue first = golfer.template Get<"MiscDate">(1);
-  if (first == 0) return {};
-  return {text(first) + text(golfer.template Get<"MiscDate">(2)) +
-              golfer.template Get<"AddressHomeLine">(1) + golfer.template Get<"PhoneHome">(),
-          "name, dates and address"};
+TwinMark BirthdayOf(const Record<Layout>& golfer, int birthday) {
+  const DateValue date = birthday == 0 ? 0 : golfer.template Get<"MiscDate">(birthday);
+  return {date == 0 ? "" : std::to_string(date), "name and birthday"};
+}
+
+template <class Layout>
+TwinMark FirstDateOf(const Record<Layout>& golfer) {
+  const DateValue date = golfer.template Get<"MiscDate">(1);
+  return {date == 0 ? "" : std::to_string(date), "name and first date"};
+}
+
+// In Quenby the first date can be the day of a transfer, so the address must be the same, too.
+template <class Layout>
+TwinMark DateAndAddressOf(const Record<Layout>& golfer) {
+  TwinMark mark = FirstDateOf(golfer);
+  if (mark.bytes.empty()) return mark;
+  mark.bytes +=
+      '/' + golfer.template Get<"AddressHomeLine">(1) + golfer.template Get<"PhoneHome">();
+  mark.what = "name, date and address";
+  return mark;
+}
+
+// Returns all bytes but the ID number.
+template <class Layout>
+TwinMark CopyOf(const Record<Layout>& golfer) {
+  std::string bytes(golfer.Bytes());
+  constexpr Field kId = FieldOf<Layout, "IDNum">();
+  return {bytes.replace(kId.offset, kId.width, kId.width, '\0'), "name and data"};
 }
 
 // Finds ID numbers and names that occur twice in a file.
@@ -61,16 +80,21 @@ class TwinCheck {
  public:
   TwinCheck(FileScan& scan, std::string file) : scan_(scan), file_(std::move(file)) {}
 
-  void Add(const KnownGolfer& golfer, const TwinMark& mark);
+  // Reports at most one golfer with one of the marks. The first one is the best.
+  void Add(const KnownGolfer& golfer, std::initializer_list<TwinMark> marks);
+
+  const std::set<std::int64_t>& ids_twice() const { return ids_twice_; }
 
  private:
   FileScan& scan_;
   std::string file_;
   std::map<std::int64_t, std::int64_t> records_;  // by ID number
-  std::map<std::string, std::int64_t> named_;     // by name and mark
+  std::set<std::int64_t> ids_twice_;
+  std::map<std::string, std::int64_t> named_;  // by name and mark
 };
 
-// Returns the index, from 1, of the first caption that contains "birth", or 0 if there is none.
+// Returns the index, from 1, of the first caption that means a birthday in English, French, German,
+// Spanish or Italian, or 0 if there is none.
 // `caption` returns the caption with an index from 1 to `count`.
 int BirthdayIndex(int count, const std::function<std::string(int)>& caption);
 

@@ -78,7 +78,7 @@ std::string RunLine(SharedState& state, const HistoryRun& run) {
   ForEachChange(state.transactions->history(), run, kinds,
                 [&](const RecordChange& change) { summary.Add(change); });
   return TransferName(run.title.command) + ", " + WhenText(state, run.title.moment) + ", " +
-         summary.Text();
+         summary.BriefText();
 }
 
 void UndoRun(SharedState& state, ScreenHost& host, const HistoryRun& run) {

@@ -18,8 +18,8 @@ std::string AboutText(const HistoryRun& run);
 // Returns a moment such as "today 14:32" or "05/12/2026 14:32".
 std::string WhenText(SharedState& state, DateValue moment);
 
-// Returns a line that identifies a run, such as "golfers to QB, today 14:32, 12 golfers changed in
-// Quenby; 1 file". Reads its whole history.
+// Returns a line that identifies a run, such as "golfers to QB, today 14:32, 12 golfers". Reads its
+// whole history.
 std::string RunLine(SharedState& state, const HistoryRun& run);
 
 // Undoes a run: asks the operator first, with the counts. If other programs have changed some of

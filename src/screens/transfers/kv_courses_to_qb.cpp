@@ -1,6 +1,5 @@
 #include "screens/transfers/kv_courses_to_qb.h"
 
-#include "core/number_text.h"
 #include "transfers/courses_kv_to_qb.h"
 
 namespace golf {
@@ -32,8 +31,7 @@ void KVCoursestoQB::Transfer() {
   host().NoteCount("added", report.added);
   host().NoteCount("updated", report.updated);
   host().Ask(Box{.title = "Course transfer complete.",
-                 .text = "Number of courses ADDED:" + NumberText(report.added) +
-                         "\rNumber of courses UPDATED:" + NumberText(report.updated) + "\r",
+                 .text = CountsText(report, "\r"),
                  .icon = BoxIcon::kInformation});
   if (report.index_error) throw *report.index_error;
   host().Unload(*this);

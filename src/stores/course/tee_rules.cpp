@@ -166,7 +166,13 @@ std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee) {
 }
 
 std::vector<TeeFault> FaultsOfTee(const Record<CourseLayout>& course, int tee) {
-  return FaultsOf(course, tee, false, false);
+  bool has_par = false;
+  bool has_handicap = false;
+  for (int hole = 1; hole <= kCourseHoles; ++hole) {
+    has_par = has_par || course.Get<"HolePar">(tee, hole) != 0;
+    has_handicap = has_handicap || course.Get<"HoleHandicap">(tee, hole) != 0;
+  }
+  return FaultsOf(course, tee, has_par, has_handicap);
 }
 
 std::string DescribeFaults(const std::vector<TeeFault>& faults) {

@@ -61,7 +61,8 @@ std::vector<TeeFault> HoleFaults(const HoleValues& pars, const HoleValues& handi
 // Returns all faults of a tee (1 to 6) of the current course, in the order in which the screen
 // finds them. The settings of the course object determine which values are required.
 std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee);
-// Returns the same for a course record that requires neither pars nor hole handicaps.
+// Returns the same for a course record. Requires the pars of all holes if the tee has any par, and
+// all hole handicaps if it has any.
 std::vector<TeeFault> FaultsOfTee(const Record<CourseLayout>& course, int tee);
 
 // Describes faults in one line, each kind once with its holes. Returns an empty text if there are
