@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,12 @@ struct Box {
   BoxIcon icon = BoxIcon::kNone;
   std::vector<BoxButton> buttons = {BoxButton::kOk};
   std::size_t default_button = 0;  // index into `buttons`
+
+  // These are hints for a window. Scripts do not see them.
+  // Replaces `default_button`.
+  std::optional<std::size_t> window_default = {};
+  // Answers the box without showing it.
+  std::optional<BoxButton> window_answer = {};
 };
 
 }  // namespace golf

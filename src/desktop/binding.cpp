@@ -108,7 +108,7 @@ bool Binding::ShowState(const Tied& tied) {
 // Gives the focus to the right widget. Does nothing while events wait, since the operator may have
 // moved the focus since then.
 void Binding::ShowFocus() {
-  if (held_ || !waiting_.IsEmpty()) return;
+  if (held_ || !waiting_.IsEmpty() || !IsInFront()) return;
   const Tied* place = PlaceOfFocus();
   if (place == nullptr) return;
   if (place->control != shown_focus_) GiveFocus(*place);
@@ -117,6 +117,10 @@ void Binding::ShowFocus() {
     if (const Tied* now = PlaceOfFocus()) screen_->MoveFocus(now->control);
   });
 }
+
+// GTK brings a window to the front when one of its widgets gets the focus. Only the window in front
+// may therefore move it.
+bool Binding::IsInFront() const { return host_.Top() == screen_ || screen_->Tip() != nullptr; }
 
 void Binding::GiveFocus(const Tied& tied) {
   shown_focus_ = tied.control;
@@ -163,6 +167,15 @@ void Binding::BeginFocus() {
   if (first == ties_.end()) return;
   screen_->MoveFocus(first->control);
   GiveFocus(*first);
+}
+
+void Binding::RestoreFocus(const wxWindow& window) {
+  if (held_ || screen_ == nullptr || !waiting_.IsEmpty() || !IsInFront()) return;
+  wxWindow* const focus = wxWindow::FindFocus();
+  const bool here = focus != nullptr && window.IsDescendant(focus) && focus != &window;
+  if (here && focus->IsShownOnScreen() && focus->IsEnabled()) return;
+  if (const Tied* place = PlaceOfFocus()) return GiveFocus(*place);
+  BeginFocus();
 }
 
 void Binding::HoldInput(bool held) {

@@ -57,6 +57,9 @@ class Binding {
   // Gives the focus to the first widget that can have it, unless a control of the screen has it
   // already.
   void BeginFocus();
+  // Gives the focus to the control that has it in the screen if no visible widget of the window has
+  // it. The toolkit loses the focus when the focused widget disappears.
+  void RestoreFocus(const wxWindow& window);
   // Shows all changes.
   void Refresh();
   // Is called after widgets have appeared or disappeared.
@@ -68,6 +71,9 @@ class Binding {
   // exist.
   void Release();
   bool IsReleased() const { return screen_ == nullptr; }
+
+  // True if the system writes numbers with a decimal comma.
+  bool has_decimal_comma() const { return host_.has_decimal_comma(); }
 
  private:
   struct Tied {
@@ -82,6 +88,7 @@ class Binding {
   void ShowChanges();
   bool ShowState(const Tied& tied);
   void ShowFocus();
+  bool IsInFront() const;
   void GiveFocus(const Tied& tied);
   const Tied* PlaceOfFocus();
   const Tied* PlaceInsteadOf(std::list<Tied>::const_iterator lost);

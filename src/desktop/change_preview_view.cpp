@@ -8,8 +8,8 @@ namespace golf {
 namespace {
 
 constexpr int kRowsSeen = 14;
-constexpr int kWidth = 860;  // in device-independent pixels
-constexpr int kFindWidth = 260;
+constexpr int kCharacters = 110;
+constexpr int kFindCharacters = 30;
 
 wxSizer* Search(ScreenPanel& panel, ChangePreview& screen) {
   Binding& binding = panel.binding();
@@ -18,7 +18,7 @@ wxSizer* Search(ScreenPanel& panel, ChangePreview& screen) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(MakeFieldLabel(binding, &panel, screen.FilterLabel), middle);
   wxTextCtrl* find = MakeTextBox(binding, &panel, screen.FilterBox);
-  find->SetMinSize({panel.FromDIP(kFindWidth), -1});
+  SetColumns(*find, kFindCharacters);
   row->Add(find, beside);
   row->Add(MakeFieldLabel(binding, &panel, screen.KindLabel),
            wxSizerFlags(middle).Border(wxLEFT, GroupGap(panel)));
@@ -27,22 +27,19 @@ wxSizer* Search(ScreenPanel& panel, ChangePreview& screen) {
 }
 
 wxSizer* Buttons(ScreenPanel& panel, ChangePreview& screen) {
-  const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
-  auto* row = new wxBoxSizer(wxHORIZONTAL);
-  for (Button* control : {&screen.CopyButton, &screen.SaveButton}) {
-    row->Add(button(*control), wxSizerFlags().Border(wxRIGHT, CloseGap(panel)));
-  }
-  row->Add(ButtonRow({.affirmative = button(screen.TransferNowButton),
-                      .cancel = button(screen.CloseButton)}),
-           wxSizerFlags(1));
-  return row;
+  const auto button = [&](Button& control) {
+    return MakeButton(panel.binding(), panel.foot(), control);
+  };
+  return ButtonRow({.affirmative = button(screen.TransferNowButton),
+                    .cancel = button(screen.CloseButton),
+                    .aside = {button(screen.CopyButton), button(screen.SaveButton)}});
 }
 
 }  // namespace
 
 void FillChangePreview(ScreenPanel& panel, ChangePreview& screen) {
   Binding& binding = panel.binding();
-  const int width = panel.FromDIP(kWidth);
+  const int width = TextWidth(panel, kCharacters);
   const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
   wxStaticText* counts = MakeWrappedLabel(binding, &panel, screen.CountsLabel, width);
   MakeBold(*counts);
@@ -51,9 +48,9 @@ void FillChangePreview(ScreenPanel& panel, ChangePreview& screen) {
   content->Add(MakeWrappedLabel(binding, &panel, screen.NoteLabel, width), below);
   content->Add(Search(panel, screen), wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
   wxGrid* list = MakeGrid(binding, &panel, screen.ChangeList, GridMarks::kRows, kRowsSeen);
-  list->SetMinSize({width, list->GetMinSize().y});
+  SetRoom(panel, *list, kCharacters, kRowsSeen);
   content->Add(list, wxSizerFlags(below).Proportion(1));
-  content->Add(Buttons(panel, screen), wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  AddToFoot(panel, Buttons(panel, screen));
   FinishWindow(panel, content);
 }
 

@@ -7,7 +7,7 @@
 namespace golf {
 namespace {
 
-constexpr int kTextWidth = 320;  // in device-independent pixels
+constexpr int kTextCharacters = 40;
 
 // Lays out the texts of the course, each with its name before it.
 wxSizer* Texts(ScreenPanel& panel, CourseForm& screen) {
@@ -24,7 +24,8 @@ wxSizer* Texts(ScreenPanel& panel, CourseForm& screen) {
                         &screen.FState, &screen.FZipcode, &screen.FPhone, &screen.FGolfPro}) {
     name();
     wxTextCtrl* box = MakeTextBox(binding, &panel, *text);
-    box->SetMinSize({panel.FromDIP(kTextWidth), -1});
+    SetColumns(*box, kTextCharacters);
+    SetRoom(panel, *box);
     fields->Add(box, wxSizerFlags().Expand());
   }
   return fields;
@@ -54,14 +55,14 @@ void FillCourseForm(ScreenPanel& panel, CourseForm& screen) {
   top->Add(Holes(panel, screen));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(top, wxSizerFlags().Expand());
-  content->Add(MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, screen.grid1.rows()),
-               wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
+  wxGrid* tees = MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, screen.grid1.rows());
+  SetRoom(panel, *tees);
+  content->Add(tees, wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
   content->Add(MakeButton(binding, &panel, screen.EditTeeButton),
                wxSizerFlags().Border(wxTOP, CloseGap(panel)));
-  content->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.OKButton),
-                          .cancel = MakeButton(binding, &panel, screen.CancelButton),
-                          .aside = MakeButton(binding, &panel, screen.Help)}),
-               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  AddToFoot(panel, ButtonRow({.affirmative = MakeButton(binding, panel.foot(), screen.OKButton),
+                              .cancel = MakeButton(binding, panel.foot(), screen.CancelButton),
+                              .aside = {MakeButton(binding, panel.foot(), screen.Help)}}));
   FinishWindow(panel, content);
 }
 

@@ -8,14 +8,14 @@ namespace golf {
 namespace {
 
 constexpr int kRowsSeen = 14;
-constexpr int kListWidth = 440;  // in device-independent pixels
+constexpr int kListCharacters = 56;
 
 }  // namespace
 
 void FillCourseTable(ScreenPanel& panel, CourseTable& screen) {
   const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
   wxGrid* grid = MakeGrid(panel.binding(), &panel, screen.CourseGrid, GridMarks::kRows, kRowsSeen);
-  grid->SetMinSize({panel.FromDIP(kListWidth), grid->GetMinSize().y});
+  SetRoom(panel, *grid, kListCharacters, kRowsSeen);
   auto* buttons = new wxBoxSizer(wxVERTICAL);
   buttons->Add(Column({button(screen.AddCourseButton), button(screen.EditCourseButton),
                        button(screen.DeleteCourseButton), button(screen.Help)}),

@@ -11,15 +11,15 @@ namespace {
 
 constexpr std::size_t kNine = 9;
 
-// These are in device-independent pixels.
-constexpr int kHoleWidth = 52;
-constexpr int kCardLabelWidth = 72;
-constexpr int kTotalWidth = 60;
-constexpr int kNameWidth = 120;
-constexpr int kNumberWidth = 64;
-constexpr int kNoteWidth = 300;
+// These are in characters.
+constexpr int kHoleCharacters = 4;
+constexpr int kCardLabelCharacters = 10;
+constexpr int kTotalCharacters = 7;
+constexpr int kNameCharacters = 8;
+constexpr int kNumberCharacters = 5;
+constexpr int kNoteCharacters = 72;
 
-constexpr int kCardNoteLines = 5;
+constexpr int kNoteLines = 3;
 
 class TeeFiller {
  public:
@@ -37,13 +37,17 @@ class TeeFiller {
                       screen_.FParIn),
                  Below());
     content->Add(Totals(), Below());
-    content->Add(Buttons(), Below());
+    content->Add(MakeNote(
+                     binding_, &panel_, "Odd",
+                     [this_screen = &screen_] { return this_screen->OddEntries(); },
+                     TextWidth(panel_, kNoteCharacters), kNoteLines),
+                 Below());
+    AddToFoot(panel_, Buttons());
     return content;
   }
 
  private:
   wxSizerFlags Below() const { return wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)); }
-  wxSize Wide(int width) const { return panel_.FromDIP(wxSize(width, -1)); }
 
   wxStaticText* Text(wxWindow* parent, const wxString& text) {
     return new wxStaticText(parent, wxID_ANY, text);
@@ -53,41 +57,35 @@ class TeeFiller {
     wxStaticText* course = MakeLabel(binding_, &panel_, screen_.FCourse);
     MakeBold(*course);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(course, wxSizerFlags(1).CentreVertical());
-    row->Add(MakeLabel(binding_, &panel_, screen_.FHoles), wxSizerFlags().CentreVertical());
+    row->Add(course, wxSizerFlags().CentreVertical());
+    row->Add(MakeLabel(binding_, &panel_, screen_.FHoles),
+             wxSizerFlags().CentreVertical().Border(wxLEFT, 2 * GroupGap(panel_)));
     row->Add(Text(&panel_, " holes"), wxSizerFlags().CentreVertical());
     row->Add(MakeCheckBox(binding_, &panel_, screen_.ActiveTee),
              wxSizerFlags().CentreVertical().Border(wxLEFT, 2 * GroupGap(panel_)));
     return row;
   }
 
-  // Lays out the name, the ratings and the slopes, each row with a text for a fault at its end.
+  // Lays out the name, the ratings and the slopes.
   wxPanel* Entries() {
     wxPanel* frame = MakeFrame(binding_, &panel_, screen_.TeeFrame);
-    auto* rows = new wxFlexGridSizer(6, CloseGap(panel_), GroupGap(panel_));
-    rows->AddGrowableCol(5);
+    auto* rows = new wxFlexGridSizer(5, CloseGap(panel_), GroupGap(panel_));
     const auto middle = wxSizerFlags().CentreVertical();
-    const auto add = [&](wxWindow* widget, int width) {
-      widget->SetMinSize(Wide(width));
+    const auto add = [&](wxControl* widget, int characters) {
+      SetColumns(*widget, characters);
       rows->Add(widget, middle);
     };
-    const auto add_note = [&](std::vector<const Control*> controls) {
-      rows->Add(MakeNote(binding_, frame, std::move(controls), panel_.FromDIP(kNoteWidth), 2),
-                middle);
-    };
     rows->Add(Text(frame, "Tee"), middle);
-    add(MakeTextCombo(binding_, frame, screen_.FTeeName), kNameWidth);
+    add(MakeTextCombo(binding_, frame, screen_.FTeeName), kNameCharacters);
     rows->Add(Text(frame, "Abbreviation"), middle);
-    add(MakeTextBox(binding_, frame, screen_.FTeeNameAbv), kNumberWidth);
-    add(MakeChoice(binding_, frame, screen_.YardsOrMeters), kNameWidth);
-    add_note({&screen_.FTeeName, &screen_.FTeeNameAbv});
+    add(MakeTextBox(binding_, frame, screen_.FTeeNameAbv), kNumberCharacters);
+    add(MakeChoice(binding_, frame, screen_.YardsOrMeters), kNameCharacters);
     const auto add_group = [&](const char* group, RatingBox& rating, SlopeBox& slope) {
       rows->Add(Text(frame, wxString(group) + " rating"), middle);
-      add(MakeTextBox(binding_, frame, rating), kNumberWidth);
+      add(MakeTextBox(binding_, frame, rating), kNumberCharacters);
       rows->Add(Text(frame, "Slope"), middle);
-      add(MakeTextBox(binding_, frame, slope), kNumberWidth);
+      add(MakeTextBox(binding_, frame, slope), kNumberCharacters);
       rows->AddSpacer(0);
-      add_note({&rating, &slope});
     };
     add_group("Men's", screen_.FMensRating, screen_.FMensSlope);
     add_group("Ladies'", screen_.FLadiesRating, screen_.FLadiesSlope);
@@ -104,12 +102,12 @@ class TeeFiller {
       card->Add(widget, {row, static_cast<int>(column)}, {1, 1}, wxALIGN_CENTRE_VERTICAL | flags);
     };
     const auto put_label = [&](wxStaticText* label, int row) {
-      label->SetMinSize(Wide(kCardLabelWidth));
+      SetColumns(*label, kCardLabelCharacters);
       put(label, row, 0);
     };
     const auto put_sum = [&](wxStaticText* sum, int row) {
       MakeBold(*sum);
-      sum->SetMinSize(Wide(kTotalWidth));
+      SetColumns(*sum, kTotalCharacters);
       card->Add(sum, {row, static_cast<int>(kNine) + 1}, {1, 1}, wxALIGN_CENTRE_VERTICAL | wxLEFT,
                 CloseGap(panel_));
     };
@@ -125,22 +123,17 @@ class TeeFiller {
     put_label(Text(frame, "Par"), 2);
     put_label(Text(frame, "Handicap"), 3);
     int row = 1;
-    std::vector<const Control*> noted;
     for (HoleControls<TextBox>* boxes : {&screen_.FYardage, &screen_.FPar, &screen_.FHandicap}) {
       for (std::size_t i = 0; i < kNine; ++i) {
         TextBox& box = (*boxes)[first + i];
         wxTextCtrl* entry = MakeTextBox(binding_, frame, box, wxTE_CENTRE);
-        entry->SetMinSize(Wide(kHoleWidth));
+        SetColumns(*entry, kHoleCharacters);
         put(entry, row, i + 1, wxALIGN_CENTRE_HORIZONTAL);
-        noted.push_back(&box);
       }
       ++row;
     }
     put_sum(MakeLabel(binding_, frame, yard_sum), 1);
     put_sum(MakeLabel(binding_, frame, par_sum), 2);
-    wxStaticText* note =
-        MakeNote(binding_, frame, std::move(noted), panel_.FromDIP(kNoteWidth), kCardNoteLines);
-    card->Add(note, {0, static_cast<int>(kNine) + 2}, {row, 1});
     frame->SetSizer(card);
     return frame;
   }
@@ -160,7 +153,7 @@ class TeeFiller {
     const auto add = [&](const char* name, Label& total) {
       wxStaticText* sum = MakeLabel(binding_, frame, total);
       MakeBold(*sum);
-      sum->SetMinSize(Wide(kTotalWidth));
+      SetColumns(*sum, kTotalCharacters);
       row->Add(Text(frame, name), wxSizerFlags().Border(wxRIGHT, CloseGap(panel_)));
       row->Add(sum, wxSizerFlags().Border(wxRIGHT, GroupGap(panel_)));
     };
@@ -171,9 +164,9 @@ class TeeFiller {
   }
 
   wxSizer* Buttons() {
-    return ButtonRow({.affirmative = MakeButton(binding_, &panel_, screen_.OKButton),
-                      .cancel = MakeButton(binding_, &panel_, screen_.CancelButton),
-                      .aside = MakeButton(binding_, &panel_, screen_.Help)});
+    return ButtonRow({.affirmative = MakeButton(binding_, panel_.foot(), screen_.OKButton),
+                      .cancel = MakeButton(binding_, panel_.foot(), screen_.CancelButton),
+                      .aside = {MakeButton(binding_, panel_.foot(), screen_.Help)}});
   }
 
   ScreenPanel& panel_;

@@ -1,6 +1,7 @@
 #include "desktop/desktop_app.h"
 
 #include <wx/msgdlg.h>
+#include <wx/utils.h>
 #ifdef __WXMSW__
 #include <wx/msw/wrapwin.h>
 #endif
@@ -18,6 +19,9 @@ bool DesktopApp::Initialize(int& count, wxChar** arguments) {
   wxCmdLineParser parser(count, arguments);
   invocation_ = ParseInvocation(parser);
   if (invocation_.answer.empty() && invocation_.complaint.empty()) {
+#ifdef __WXGTK__  // GTK would hide a scroll bar until the pointer moves
+    wxSetEnv("GTK_OVERLAY_SCROLLING", "0");
+#endif
     return wxApp::Initialize(count, arguments);
   }
 #ifdef __WXMSW__  // a Windows program with windows has no standard streams

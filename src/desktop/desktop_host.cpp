@@ -10,8 +10,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/layout_helpers.h"
 #include "desktop/main_menu.h"
 #include "desktop/native_boxes.h"
+#include "desktop/window_sizes.h"
 #include "desktop/wx_text.h"
 #include "history/transactions.h"
 #include "screens/history/interrupted_run.h"
@@ -154,13 +156,16 @@ void DesktopHost::Open(Screen& screen) {
   auto* panel = new ScreenPanel(*window, *this, screen);
   if (auto* frame = dynamic_cast<wxFrame*>(window)) AddMainMenu(*frame, state(), *this);
   view.fill(*panel, screen);
+  if (view.grows) RestoreSize(*window, screen.name(), MostClientSize(*window));
+  panel->NoteSize();
   if (view.kind == WindowKind::kDialog) window->CentreOnParent();
   if (view.kind == WindowKind::kDialogOverOpener && TopWindow() != nullptr) {
-    window->Move(TopWindow()->GetPosition());
+    MoveOntoDisplay(*window, TopWindow()->GetPosition());
   }
   windows_.push_back({&screen, panel});
   panel->binding().BeginFocus();
   window->Show();
+  window->Raise();  // makes it the active window also without a window manager
 }
 
 void DesktopHost::RunModal(Screen& screen) {
@@ -176,12 +181,16 @@ void DesktopHost::RunModal(Screen& screen) {
 void DesktopHost::Close(Screen& screen) {
   const auto window = Find(screen);
   ScreenPanel& panel = *window->panel;
+  if (views_.find(screen.name())->second.grows) {
+    KeepSize(panel.window(), screen.name(), panel.noted_size());
+  }
   windows_.erase(window);
   panel.Detach();
   auto* dialog = dynamic_cast<wxDialog*>(&panel.window());
   if (dialog != nullptr && dialog->IsModal()) {
     dialog->EndModal(wxID_CLOSE);  // makes ShowModal in RunModal return
   } else {
+    panel.window().Hide();  // the toolkit destroys it later
     panel.window().Destroy();
   }
 }
@@ -192,6 +201,16 @@ wxWindow* DesktopHost::ReadyForBox() {
   if (in_run()) ForgetTypedInput();
   PaintNow();
   return TopWindow();
+}
+
+// Some window managers would make the main window the active one after a box.
+template <class Function>
+auto DesktopHost::OverTopWindow(Function show) {
+  wxWindow* const parent = ReadyForBox();
+  const PlainPointer plain_pointer;
+  auto answer = show(parent);
+  if (wxTopLevelWindow* top = TopWindow()) top->Raise();
+  return answer;
 }
 
 // Counts a box of the current run. Returns true if the run can be stopped and has shown two boxes
@@ -210,9 +229,8 @@ bool DesktopHost::IsRepeated(const Box& box) {
 BoxButton DesktopHost::AskRepeated(const Box& box) {
   Repeats& repeats = repeats_[{box.title, box.buttons}];
   if (repeats.answer) return *repeats.answer;
-  wxWindow* parent = ReadyForBox();
-  const PlainPointer plain_pointer;
-  const RepeatedAnswer answer = ShowRepeatedDialog(parent, box);
+  const RepeatedAnswer answer =
+      OverTopWindow([&box](wxWindow* parent) { return ShowRepeatedDialog(parent, box); });
   if (answer.stops) throw StoppedByOperator();
   if (answer.for_rest) repeats.answer = answer.button;
   return answer.button;
@@ -248,26 +266,27 @@ void DesktopHost::RunStopped() {
 }
 
 BoxButton DesktopHost::ShowBox(const Box& box) {
+  if (box.window_answer) return *box.window_answer;
   if (IsRepeated(box)) return AskRepeated(box);
-  wxWindow* parent = ReadyForBox();
-  const PlainPointer plain_pointer;
-  return ShowMessageDialog(parent, box);
+  return OverTopWindow([&box](wxWindow* parent) { return ShowMessageDialog(parent, box); });
 }
 
 std::string DesktopHost::ShowInputBox(const InputBox& box) {
-  wxWindow* parent = ReadyForBox();
-  const PlainPointer plain_pointer;
-  return ShowInputDialog(parent, box);
+  return OverTopWindow([&box](wxWindow* parent) { return ShowInputDialog(parent, box); });
 }
 
 Font DesktopHost::ShowFontChoice(std::string_view title, const Font& current) {
-  wxWindow* parent = ReadyForBox();
-  const PlainPointer plain_pointer;
-  return ShowFontDialog(parent, title, current);
+  return OverTopWindow([&](wxWindow* parent) { return ShowFontDialog(parent, title, current); });
 }
 
 void DesktopHost::ErrorEndsClick(const NumberedError& error) {
   ShowBox({.title = "Golf Transfer", .text = error.Report(), .icon = BoxIcon::kStop});
+}
+
+// A run calls this after its commit, so its gauge must show the end.
+void DesktopHost::NoteLeftOut(const LeftOut& left_out) {
+  left_out_.Append(left_out);
+  reported_.done = reported_.total;
 }
 
 void DesktopHost::Notify(const std::string& text) {
@@ -376,6 +395,17 @@ void DesktopHost::StartProgram(const std::string& path, const std::string& argum
 void DesktopHost::CopyText(const std::string& text) {
   wxClipboardLocker clipboard;
   if (!!clipboard) wxTheClipboard->SetData(new wxTextDataObject(WxText(text)));
+}
+
+void DesktopHost::SuggestRow(Screen& screen, Grid& list, int row) {
+  if (row > 0) list.SetActiveRow(row);
+  screen.MoveFocus(&list);
+}
+
+// Shows the text after the window of the screen has opened.
+bool DesktopHost::OpensDespite(const std::string& text) {
+  ShowSoon({.title = "Golf Transfer", .text = text, .icon = BoxIcon::kWarning});
+  return true;
 }
 
 void DesktopHost::EndProcess() {

@@ -31,12 +31,15 @@ class DesktopHost : public HostBase {
   void BeginRun() override;
   void Report(const Progress& progress) override;
   void EndRun() override;
-  void NoteLeftOut(const LeftOut& left_out) override { left_out_.Append(left_out); }
+  void NoteLeftOut(const LeftOut& left_out) override;
   void Notify(const std::string& text) override;
   void NoteUnfinishedRun(const std::string& text) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
   DateValue Now() override { return clock(); }
   void CopyText(const std::string& text) override;
+  void SuggestRow(Screen& screen, Grid& list, int row) override;
+  std::string AfterCancel(const std::string& before, const std::string&) override { return before; }
+  bool OpensDespite(const std::string& text) override;
   void EndProcess() override;
 
  protected:
@@ -73,6 +76,9 @@ class DesktopHost : public HostBase {
   void SetInRun(bool in_run);
   void ShowTitles();
   void ForgetTypedInput();
+  // Shows a box of any kind. Calls `show` with the parent window of the box and returns its result.
+  template <class Function>
+  auto OverTopWindow(Function show);
   wxWindow* ReadyForBox();
   void ShowFaultsSoon();
   void ShowLeftOut(const Screen& screen);

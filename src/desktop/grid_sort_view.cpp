@@ -6,11 +6,11 @@
 namespace golf {
 namespace {
 
-constexpr int kListWidth = 220;  // in device-independent pixels
+constexpr int kListCharacters = 24;
 
 wxChoice* MakeColumnList(ScreenPanel& panel, ComboBox& control) {
   wxChoice* choice = MakeChoice(panel.binding(), &panel, control, GridSort::HeadingOf);
-  choice->SetMinSize(panel.FromDIP(wxSize(kListWidth, -1)));
+  SetColumns(*choice, kListCharacters);
   return choice;
 }
 
@@ -38,14 +38,14 @@ wxSizer* Keys(ScreenPanel& panel, GridSort& screen) {
 }  // namespace
 
 void FillGridSort(ScreenPanel& panel, GridSort& screen) {
-  const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
+  const auto button = [&](Button& control) {
+    return MakeButton(panel.binding(), panel.foot(), control);
+  };
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(Keys(panel, screen), wxSizerFlags().Expand());
-  content->AddStretchSpacer();
-  content->Add(ButtonRow({.affirmative = button(screen.SortOK),
-                          .cancel = button(screen.SortCancel),
-                          .aside = button(screen.Help)}),
-               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  AddToFoot(panel, ButtonRow({.affirmative = button(screen.SortOK),
+                              .cancel = button(screen.SortCancel),
+                              .aside = {button(screen.Help)}}));
   FinishWindow(panel, content);
 }
 

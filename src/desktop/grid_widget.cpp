@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/while_set.h"
+#include "desktop/colours.h"
 #include "desktop/control_table.h"
 
 namespace golf {
@@ -29,7 +30,6 @@ class GridView : public wxGrid {
     SetRowLabelSize(marks == GridMarks::kLabelledCells ? wxGRID_AUTOSIZE : 0);
     SetColLabelSize(wxGRID_AUTOSIZE);
     DisableDragRowSize();
-    SetTabBehaviour(Tab_Leave);
     if (marks == GridMarks::kRows) SetCellHighlightPenWidth(0);
     if (marks == GridMarks::kRows) SetCellHighlightROPenWidth(0);
     Bind(wxEVT_GRID_SELECT_CELL, &GridView::OnSelect, this);
@@ -44,6 +44,7 @@ class GridView : public wxGrid {
     Bind(wxEVT_CHAR_HOOK, &GridView::OnCharHook, this);
     Bind(wxEVT_SIZE, &GridView::OnSize, this);
     SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
+    SetSelectionBackground(SelectionColour());
     for (wxWindow* window : {static_cast<wxWindow*>(this), GetGridWindow()}) {
       window->Bind(wxEVT_SET_FOCUS, &GridView::OnFocus, this);
       window->Bind(wxEVT_KILL_FOCUS, &GridView::OnFocus, this);
@@ -148,8 +149,9 @@ class GridView : public wxGrid {
   // Sets the text colour of the selection. The toolkit paints the selection grey without the focus,
   // and its own text colour is hard to read on grey.
   void ColourSelection(bool focused) {
-    SetSelectionForeground(wxSystemSettings::GetColour(focused ? wxSYS_COLOUR_HIGHLIGHTTEXT
-                                                               : wxSYS_COLOUR_WINDOWTEXT));
+    SetSelectionForeground(focused
+                               ? wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHTTEXT)
+                               : TextColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
   }
 
   // Toggles a tick at a single click. The toolkit would only move its cursor at the first click.
@@ -172,14 +174,10 @@ class GridView : public wxGrid {
     binding_.OperateSoon(control_, [this, column] { control_.on_heading_click(column); });
   }
 
-  // Moves the focus out of the grid. Rows are selected as a whole, so the tab key does not move
-  // between cells.
-  void LeaveByTab(bool backward) {
-    Navigate(backward ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
-  }
-
-  // Makes Escape cancel the edit of a cell, and not the screen, while a cell is edited.
+  // Makes Escape cancel the edit of a cell, and not the screen, while a cell is edited. The tab key
+  // ends the edit before it moves the focus out of the grid.
   void OnCharHook(wxKeyEvent& event) {
+    if (event.GetKeyCode() == WXK_TAB) DisableCellEditControl();
     if (event.GetKeyCode() != WXK_ESCAPE || !IsCellEditControlShown()) return event.Skip();
     wxGridCellEditorPtr(GetCellEditor(GetGridCursorRow(), GetGridCursorCol()))->Reset();
     DisableCellEditControl();
@@ -204,7 +202,6 @@ class GridView : public wxGrid {
     const int key = event.GetKeyCode();
     if (MarksFirstRow(key)) return Activate(1);
     if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // it would deselect the row
-    if (key == WXK_TAB && marks_ == GridMarks::kRows) return LeaveByTab(event.ShiftDown());
     const bool turns = key == WXK_SPACE && !event.HasAnyModifiers() && !IsCellEditControlShown();
     if (turns && TurnTick()) return;
     const char* name = key == WXK_RETURN || key == WXK_NUMPAD_ENTER ? "Enter"
@@ -213,6 +210,9 @@ class GridView : public wxGrid {
                                                                     : nullptr;
     if (name == nullptr || IsCellEditControlShown()) return event.Skip();
     if (control_.on_key) return TakeKeySoon(name);
+    const bool takes_row = name == std::string_view("Enter") && marks_ == GridMarks::kRows &&
+                           control_.active_row() > 0 && control_.on_double_click;
+    if (takes_row) return binding_.OperateSoon(control_, control_.on_double_click);
     if (!binding_.OperateKeySoon(name)) event.Skip();
   }
 

@@ -6,27 +6,23 @@
 namespace golf {
 namespace {
 
-constexpr int kWidth = 560;  // of the texts, in device-independent pixels
+constexpr int kCharacters = 70;  // of a line of the texts
 
 }  // namespace
 
 void FillInterruptedRun(ScreenPanel& panel, InterruptedRun& screen) {
   Binding& binding = panel.binding();
-  const int width = panel.FromDIP(kWidth);
+  const int width = TextWidth(panel, kCharacters);
   wxStaticText* text = MakeWrappedLabel(binding, &panel, screen.TextLabel, width);
   MakeBold(*text);
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(text, wxSizerFlags().Expand());
   content->Add(MakeWrappedLabel(binding, &panel, screen.ChoiceLabel, width),
                wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
-  auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-  for (Button* control : {&screen.FinishButton, &screen.PutBackButton, &screen.LeaveAsIsButton}) {
-    buttons->Add(MakeButton(binding, &panel, *control),
-                 wxSizerFlags().Border(wxRIGHT, CloseGap(panel)));
-  }
-  buttons->Add(ButtonRow({.cancel = MakeButton(binding, &panel, screen.LaterButton)}),
-               wxSizerFlags(1));
-  content->Add(buttons, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
+  AddToFoot(panel, ButtonRow({.cancel = button(screen.LaterButton),
+                              .aside = {button(screen.FinishButton), button(screen.PutBackButton),
+                                        button(screen.LeaveAsIsButton)}}));
   FinishWindow(panel, content);
 }
 

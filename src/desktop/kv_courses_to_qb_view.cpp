@@ -4,19 +4,23 @@
 #include "screens/transfers/kv_courses_to_qb.h"
 
 namespace golf {
+namespace {
+
+constexpr int kCharacters = 50;  // of a line of the text
+
+}  // namespace
 
 void FillKVCoursestoQB(ScreenPanel& panel, KVCoursestoQB& screen) {
   Binding& binding = panel.binding();
   auto* content = new wxBoxSizer(wxVERTICAL);
-  content->Add(MakeWrappedLabel(binding, &panel, screen.Label1, panel.FromDIP(400)));
+  content->Add(MakeWrappedLabel(binding, &panel, screen.Label1, TextWidth(panel, kCharacters)));
   content->AddSpacer(GroupGap(panel));
   content->Add(MakeLabel(binding, &panel, screen.TransferLabel), wxSizerFlags().Expand());
   AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
-  content->AddStretchSpacer();
-  content->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.TransferCourses),
-                          .variant = MakeButton(binding, &panel, screen.PreviewButton),
-                          .cancel = MakeButton(binding, &panel, screen.CancelButton)}),
-               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
+  AddToFoot(panel, ButtonRow({.affirmative = button(screen.TransferCourses),
+                              .variant = button(screen.PreviewButton),
+                              .cancel = button(screen.CancelButton)}));
   FinishWindow(panel, content);
 }
 

@@ -30,15 +30,16 @@ void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen) {
                        MakeCheckBox(binding, &panel, screen.Convert18Hcpto9Hcp),
                        MakeCheckBox(binding, &panel, screen.Convert9Hcpto18Hcp)}));
   content->AddSpacer(GroupGap(panel));
-  content->Add(MakeGrid(binding, &panel, screen.grid1, GridMarks::kCells, kRowsSeen),
-               wxSizerFlags(1).Expand());
+  wxGrid* items = MakeGrid(binding, &panel, screen.grid1, GridMarks::kCells, kRowsSeen);
+  SetRoom(panel, *items);
+  content->Add(items, wxSizerFlags(1).Expand());
   content->AddSpacer(GroupGap(panel));
   content->Add(MakeLabel(binding, &panel, screen.Working), wxSizerFlags().Expand());
   AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
-  content->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.TransferButton),
-                          .variant = MakeButton(binding, &panel, screen.PreviewButton),
-                          .cancel = MakeButton(binding, &panel, screen.ExitButton)}),
-               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
+  AddToFoot(panel, ButtonRow({.affirmative = button(screen.TransferButton),
+                              .variant = button(screen.PreviewButton),
+                              .cancel = button(screen.ExitButton)}));
   FinishWindow(panel, content);
 }
 

@@ -7,7 +7,7 @@
 namespace golf {
 namespace {
 
-constexpr int kPercentWidth = 60;  // in device-independent pixels
+constexpr int kPercentDigits = 5;
 
 // Lays out a choice: its heading, what was chosen, and the button that opens the list.
 wxSizer* Choice(Binding& binding, wxWindow* parent, Label& heading, Label& chosen, Button& finder,
@@ -29,7 +29,7 @@ wxSizer* Handicaps(Binding& binding, wxWindow* parent, KVtoZD& screen) {
   auto* percent = new wxBoxSizer(wxHORIZONTAL);
   percent->Add(MakeLabel(binding, parent, screen.Label1[5]), middle);
   wxTextCtrl* box = MakeTextBox(binding, parent, screen.HandicapPrct);
-  box->SetMinSize(parent->FromDIP(wxSize(kPercentWidth, -1)));
+  SetColumns(*box, kPercentDigits);
   percent->Add(box, wxSizerFlags().CentreVertical().Border(wxLEFT | wxRIGHT, gap));
   percent->Add(MakeLabel(binding, parent, screen.Label1[6]), middle);
 

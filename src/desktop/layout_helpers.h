@@ -4,6 +4,7 @@
 #include <wx/sizer.h>
 
 #include <initializer_list>
+#include <vector>
 
 #include "desktop/screen_panel.h"
 
@@ -17,6 +18,19 @@ int CloseGap(const wxWindow& window);
 int GroupGap(const wxWindow& window);
 int EdgeGap(const wxWindow& window);
 
+// These return the size of this number of characters or lines in the font of the window.
+int TextWidth(const wxWindow& window, int characters);
+int TextHeight(const wxWindow& window, int lines);
+// Makes an entry or a list so wide that it shows this number of digits.
+void SetColumns(wxControl& widget, int characters);
+
+// Gives a list, a table or a log this size in characters and lines when its window opens. The
+// preferred width of a table is the width of its columns if `characters` is 0. The widget becomes
+// smaller on a small display, but it never has less than 4 lines.
+void SetRoom(ScreenPanel& panel, wxWindow& widget, int characters, int lines);
+// Does the same for a widget whose minimum size is already the preferred one.
+void SetRoom(ScreenPanel& panel, wxWindow& widget);
+
 // Arranges controls in a column. All are as wide as the column.
 wxSizer* Column(std::initializer_list<wxWindow*> controls);
 
@@ -24,14 +38,15 @@ wxSizer* Column(std::initializer_list<wxWindow*> controls);
 // is a list, since widgets must be created in the order of the tab key.
 wxSizer* SideBySide(const wxWindow& window, std::initializer_list<wxSizer*> ends);
 
-// Holds the buttons at the end of a dialog. Any of them may be null. ButtonRow arranges them in the
-// platform's order.
+// Holds the buttons at the end of a dialog. At least one of them is not null. ButtonRow arranges
+// them in the platform's order, which is also the order of the tab key. It uses two rows if the
+// display is too narrow for one.
 struct EndButtons {
   wxButton* affirmative = nullptr;
   wxButton* variant = nullptr;  // beside the affirmative button, such as its preview
   wxButton* negative = nullptr;
   wxButton* cancel = nullptr;
-  wxButton* aside = nullptr;  // at the other end of the row; does not close the dialog
+  std::vector<wxButton*> aside = {};  // at the other end of the row; do not close the dialog
 };
 wxSizer* ButtonRow(const EndButtons& buttons);
 
@@ -53,17 +68,29 @@ struct RunControls {
   Button& preview;
   Button& leave;
 };
-// Adds these controls and the panel's gauge to the content.
+// Adds these controls and the panel's gauge to the content, and the buttons to the foot.
 void AddRun(wxSizer& content, ScreenPanel& panel, wxWindow* parent, const RunControls& run);
 
 // Adds a widget that keeps its space while it is hidden.
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above);
 
 void MakeBold(wxWindow& widget);
+// Gives a log the monospaced font.
+void MakeMonospaced(wxWindow& widget);
+// Creates a log in the monospaced font.
+wxTextCtrl* MakeLog(ScreenPanel& panel, wxWindow* parent, TextBox& control, int characters,
+                    int lines);
 
-// Adds the content to the panel and gives the window the size that the content needs, which is also
-// its minimum size.
+// Adds a row of buttons to the foot of the panel.
+void AddToFoot(ScreenPanel& panel, wxSizer* buttons);
+// Adds the content to the panel and gives the window the size that the content prefers, as far as
+// the display has space for it. The operator cannot make the window smaller than the content needs,
+// unless the display is smaller.
 void FinishWindow(ScreenPanel& panel, wxSizer* content);
+// Returns the largest client size with which the window fits on its display.
+wxSize MostClientSize(const wxTopLevelWindow& window);
+// Moves the window to the place, or as near to it as the display has space for the whole window.
+void MoveOntoDisplay(wxTopLevelWindow& window, wxPoint place);
 // Lays out the window after widgets have appeared or disappeared, and enlarges it if needed.
 void LayOutAgain(ScreenPanel& panel);
 

@@ -15,9 +15,8 @@ wxPanel* MakeLeaguePanel(ScreenPanel& panel, LeaguePicker& picker) {
   content->Add(title, wxSizerFlags().Expand());
   content->Add(MakeListBox(binding, frame, picker.LeagueList, LeaguePicker::HeadingOf),
                wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
-  content->Add(ButtonRow({.affirmative = MakeButton(binding, frame, picker.OKLEague),
-                          .cancel = MakeButton(binding, frame, picker.CancelLeague)}),
-               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  AddToFoot(panel, ButtonRow({.affirmative = MakeButton(binding, panel.foot(), picker.OKLEague),
+                              .cancel = MakeButton(binding, panel.foot(), picker.CancelLeague)}));
   frame->SetSizer(content);
   return frame;
 }

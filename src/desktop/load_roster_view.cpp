@@ -23,9 +23,8 @@ wxSizer* NewRoster(ScreenPanel& panel, LoadRoster& screen) {
   MakeBold(*title);
   wxSizer* column = Column({title, MakeLabel(binding, &panel, screen.NameLabel),
                             MakeTextBox(binding, &panel, screen.NewRosterName)});
-  column->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.OK2Button),
-                         .cancel = MakeButton(binding, &panel, screen.Cancel2Button)}),
-              wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel)));
+  AddToFoot(panel, ButtonRow({.affirmative = MakeButton(binding, panel.foot(), screen.OK2Button),
+                              .cancel = MakeButton(binding, panel.foot(), screen.Cancel2Button)}));
   return column;
 }
 
@@ -34,8 +33,9 @@ wxSizer* NewRoster(ScreenPanel& panel, LoadRoster& screen) {
 void FillLoadRoster(ScreenPanel& panel, LoadRoster& screen) {
   Binding& binding = panel.binding();
   auto* list = new wxBoxSizer(wxHORIZONTAL);
-  list->Add(MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, kRowsSeen),
-            wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
+  wxGrid* grid = MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, kRowsSeen);
+  SetRoom(panel, *grid);
+  list->Add(grid, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
   list->Add(Column({MakeButton(binding, &panel, screen.LoadButton),
                     MakeButton(binding, &panel, screen.NewButton),
                     MakeButton(binding, &panel, screen.DeleteButton),

@@ -8,7 +8,7 @@ namespace golf {
 namespace {
 
 constexpr int kRowsSeen = 10;
-constexpr int kListWidth = 560;  // in device-independent pixels
+constexpr int kListCharacters = 70;
 
 wxSizer* ListButtons(ScreenPanel& panel, LoadRosters& screen) {
   const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
@@ -26,13 +26,11 @@ wxSizer* Entry(ScreenPanel& panel, LoadRosters& screen) {
     fields->Add(MakeLabel(binding, &panel, screen.FieldName[i]), wxSizerFlags().CentreVertical());
     fields->Add(MakeTextBox(binding, &panel, screen.Text1[i]), wxSizerFlags().Expand());
   }
-  auto* column = new wxBoxSizer(wxVERTICAL);
-  column->Add(fields, wxSizerFlags().Expand());
-  column->Add(ButtonRow({.affirmative = MakeButton(binding, &panel, screen.AddEditRosterOK),
-                         .negative = MakeButton(binding, &panel, screen.EditRosterCancel),
-                         .cancel = MakeButton(binding, &panel, screen.AddRosterCancel)}),
-              wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel)));
-  return column;
+  const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
+  AddToFoot(panel, ButtonRow({.affirmative = button(screen.AddEditRosterOK),
+                              .negative = button(screen.EditRosterCancel),
+                              .cancel = button(screen.AddRosterCancel)}));
+  return fields;
 }
 
 }  // namespace
@@ -40,7 +38,7 @@ wxSizer* Entry(ScreenPanel& panel, LoadRosters& screen) {
 void FillLoadRosters(ScreenPanel& panel, LoadRosters& screen) {
   Binding& binding = panel.binding();
   wxGrid* grid = MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, kRowsSeen);
-  grid->SetMinSize({panel.FromDIP(kListWidth), grid->GetMinSize().y});
+  SetRoom(panel, *grid, kListCharacters, kRowsSeen);
   auto* list = new wxBoxSizer(wxHORIZONTAL);
   list->Add(grid, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
   list->Add(ListButtons(panel, screen));

@@ -35,6 +35,13 @@ const NativeButton& Native(BoxButton button) {
                        [button](const NativeButton& native) { return native.button == button; });
 }
 
+// The GTK dialog has no icon, and no title if the title is "Message".
+#ifdef __WXMSW__
+using MessageDialog = wxMessageDialog;
+#else
+using MessageDialog = wxGenericMessageDialog;
+#endif
+
 long IconStyle(BoxIcon icon) {
   constexpr long kStyles[] = {wxICON_NONE, wxICON_INFORMATION, wxICON_QUESTION, wxICON_STOP,
                               wxICON_WARNING};
@@ -59,10 +66,18 @@ class InputDialog : public wxTextEntryDialog {
   }
 };
 
+// Outside Windows, a box without an icon gets one that fits its buttons.
 long StyleOf(const Box& box) {
-  long style = IconStyle(box.icon) | wxCENTRE;
+  BoxIcon icon = box.icon;
+#ifndef __WXMSW__
+  if (icon == BoxIcon::kNone) {
+    icon = Has(box, BoxButton::kYes) ? BoxIcon::kQuestion : BoxIcon::kInformation;
+  }
+#endif
+  long style = IconStyle(icon) | wxCENTRE;
   for (const BoxButton button : box.buttons) style |= Native(button).style;
-  return style | Native(box.buttons.at(box.default_button)).default_style;
+  const std::size_t chosen = box.window_default.value_or(box.default_button);
+  return style | Native(box.buttons.at(chosen)).default_style;
 }
 
 BoxButton ButtonOf(const Box& box, int answer) {
@@ -75,7 +90,7 @@ BoxButton ButtonOf(const Box& box, int answer) {
 }  // namespace
 
 BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
-  wxMessageDialog dialog(parent, WxText(box.text), WxText(box.title), StyleOf(box));
+  MessageDialog dialog(parent, WxText(box.text), WxText(box.title), StyleOf(box));
   if (Has(box, BoxButton::kRetry)) dialog.SetOKLabel("&Retry");
   return ButtonOf(box, dialog.ShowModal());
 }

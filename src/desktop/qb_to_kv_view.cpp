@@ -7,14 +7,17 @@
 namespace golf {
 namespace {
 
-// These are in device-independent pixels.
-constexpr int kTournamentWidth = 340;
-constexpr int kRoundWidth = 110;
-constexpr int kListHeight = 110;
-constexpr int kCourseWidth = 300;
-constexpr int kTeeWidth = 70;
-constexpr int kPartnerWidth = 180;
-constexpr int kTransferWidth = 200;  // for its longest caption
+// These are in characters.
+constexpr int kTournamentCharacters = 44;
+constexpr int kRoundCharacters = 12;
+constexpr int kCourseCharacters = 24;
+constexpr int kTeeCharacters = 8;
+constexpr int kPartnerCharacters = 14;
+constexpr int kTransferCharacters = 22;  // for the longest caption
+constexpr int kLogCharacters = 60;
+constexpr int kNoteCharacters = 36;
+
+constexpr int kListLines = 6;
 constexpr int kLogLines = 7;
 
 wxStaticText* MakeHeading(wxWindow* parent, const wxString& text) {
@@ -23,18 +26,19 @@ wxStaticText* MakeHeading(wxWindow* parent, const wxString& text) {
   return heading;
 }
 
-wxListBox* MakeList(ScreenPanel& panel, ListBox& control, int width, Shown shown) {
+wxListBox* MakeList(ScreenPanel& panel, ListBox& control, int characters, Shown shown) {
   wxListBox* list = MakeListBox(panel.binding(), &panel, control, shown);
-  list->SetMinSize(panel.FromDIP(wxSize(width, kListHeight)));
+  SetRoom(panel, *list, characters, kListLines);
   return list;
 }
 
 // Lays out the tournaments and the rounds. The list of rounds keeps its space while it is hidden.
 wxSizer* Source(ScreenPanel& panel, QBtoKV& screen) {
   auto* lists = new wxBoxSizer(wxHORIZONTAL);
-  lists->Add(MakeList(panel, screen.TournamentList, kTournamentWidth, QBtoKV::TournamentHeading),
-             wxSizerFlags(3).Expand());
-  lists->Add(MakeList(panel, screen.RoundList, kRoundWidth, nullptr),
+  lists->Add(
+      MakeList(panel, screen.TournamentList, kTournamentCharacters, QBtoKV::TournamentHeading),
+      wxSizerFlags(3).Expand());
+  lists->Add(MakeList(panel, screen.RoundList, kRoundCharacters, nullptr),
              wxSizerFlags(1).Expand().ReserveSpaceEvenIfHidden().Border(wxLEFT, CloseGap(panel)));
   auto* source = new wxBoxSizer(wxVERTICAL);
   source->Add(MakeHeading(&panel, "Tournament and round"));
@@ -49,14 +53,18 @@ wxSizer* Ends(ScreenPanel& panel, QBtoKV& screen) {
   ends->AddSpacer(GroupGap(panel));
   ends->Add(Column({MakeHeading(&panel, "Handicap roster"),
                     MakeTextBox(panel.binding(), &panel, screen.HandicapRoster),
-                    MakeButton(panel.binding(), &panel, screen.DestButton)}),
+                    MakeButton(panel.binding(), &panel, screen.DestButton),
+                    MakeNote(
+                        panel.binding(), &panel, "HandicapRosterNote",
+                        [&screen] { return screen.HandicapRoster.note(); },
+                        TextWidth(panel, kNoteCharacters))}),
             wxSizerFlags(2).Expand());
   return ends;
 }
 
-wxChoice* MakePartner(ScreenPanel& panel, ComboBox& control, int width, Shown shown) {
-  wxChoice* choice = MakeChoice(panel.binding(), &panel, control, shown);
-  choice->SetMinSize(panel.FromDIP(wxSize(width, -1)));
+wxControl* WithRoom(ScreenPanel& panel, wxControl* choice, int characters) {
+  SetColumns(*choice, characters);
+  SetRoom(panel, *choice);
   return choice;
 }
 
@@ -72,7 +80,10 @@ wxSizer* Courses(ScreenPanel& panel, QBtoKV& screen) {
   rows->Add(MakeHeading(&panel, "Course of the round in Quenby"));
   rows->Add(partner);
   rows->Add(MakeLabel(binding, &panel, screen.QBCourse), wide);
-  rows->Add(MakePartner(panel, screen.CourseCombo, kCourseWidth, QBtoKV::CourseHeading), wide);
+  rows->Add(
+      WithRoom(panel, MakeLongChoice(binding, &panel, screen.CourseCombo, QBtoKV::CourseHeading),
+               kCourseCharacters),
+      wide);
   return rows;
 }
 
@@ -86,30 +97,30 @@ wxSizer* Tees(ScreenPanel& panel, QBtoKV::Labels& sexes, QBtoKV::Labels& tees,
   const auto middle = wxSizerFlags().CentreVertical();
   for (std::size_t i = 0; i < QBtoKV::kTees; ++i) {
     wxStaticText* tee = MakeLabel(binding, &panel, tees[i]);
-    tee->SetMinSize(panel.FromDIP(wxSize(kTeeWidth, -1)));
+    SetColumns(*tee, kTeeCharacters);
     rows->Add(MakeLabel(binding, &panel, sexes[i]), middle);
     rows->Add(tee, middle);
-    rows->Add(MakePartner(panel, partners[i], kPartnerWidth, QBtoKV::TeeHeading),
+    rows->Add(WithRoom(panel, MakeChoice(binding, &panel, partners[i], QBtoKV::TeeHeading),
+                       kPartnerCharacters),
               wxSizerFlags().Expand().CentreVertical());
   }
   return rows;
 }
 
 wxSizer* Partners(ScreenPanel& panel, QBtoKV& screen) {
-  auto* tees = new wxGridSizer(2, 0, GroupGap(panel));
   const auto wide = wxSizerFlags().Expand();
-  tees->Add(Tees(panel, screen.QBMTeeLabel, screen.QBMTee, screen.MTeeCombo), wide);
-  tees->Add(Tees(panel, screen.QBLTeeLabel, screen.QBLTee, screen.LTeeCombo), wide);
   auto* partners = new wxBoxSizer(wxVERTICAL);
   partners->Add(Courses(panel, screen), wide);
+  auto* tees = new wxGridSizer(2, 0, GroupGap(panel));
+  tees->Add(Tees(panel, screen.QBMTeeLabel, screen.QBMTee, screen.MTeeCombo), wide);
+  tees->Add(Tees(panel, screen.QBLTeeLabel, screen.QBLTee, screen.LTeeCombo), wide);
   partners->Add(tees, wxSizerFlags(wide).Border(wxTOP, GroupGap(panel)));
   return partners;
 }
 
 wxSizer* Log(ScreenPanel& panel, TextBox& log) {
   wxStaticText* heading = MakeHeading(&panel, "Messages");
-  wxTextCtrl* box = MakeTextBox(panel.binding(), &panel, log, wxTE_MULTILINE | wxTE_DONTWRAP);
-  box->SetMinSize({-1, kLogLines * box->GetCharHeight()});
+  wxTextCtrl* box = MakeLog(panel, &panel, log, kLogCharacters, kLogLines);
   auto* column = new wxBoxSizer(wxVERTICAL);
   const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
   column->Add(heading);
@@ -136,12 +147,11 @@ void FillQBtoKV(ScreenPanel& panel, QBtoKV& screen) {
                wxSizerFlags(group).Proportion(1));
   content->Add(MakeLabel(binding, &panel, screen.Working), group);
   AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
-  wxButton* transfer = MakeButton(binding, &panel, screen.TransferButton);
-  transfer->SetMinSize(panel.FromDIP(wxSize(kTransferWidth, -1)));
-  content->Add(ButtonRow({.affirmative = transfer,
-                          .variant = MakeButton(binding, &panel, screen.PreviewButton),
-                          .cancel = MakeButton(binding, &panel, screen.ExitButton)}),
-               group);
+  wxButton* transfer = MakeButton(binding, panel.foot(), screen.TransferButton);
+  SetColumns(*transfer, kTransferCharacters);
+  AddToFoot(panel, ButtonRow({.affirmative = transfer,
+                              .variant = MakeButton(binding, panel.foot(), screen.PreviewButton),
+                              .cancel = MakeButton(binding, panel.foot(), screen.ExitButton)}));
   FinishWindow(panel, content);
 }
 

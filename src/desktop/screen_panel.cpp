@@ -1,5 +1,9 @@
 #include "desktop/screen_panel.h"
 
+#include <wx/dialog.h>
+#include <wx/notebook.h>
+#include <wx/radiobut.h>
+
 #include <algorithm>
 #include <string>
 
@@ -36,10 +40,44 @@ class RunningTimer : public wxTimer {
   Timer& control_;
 };
 
+// True if the tab key stops at a widget. It stops at only one button of a group of options.
+bool IsTabStop(wxWindow& widget) {
+  if (!widget.AcceptsFocusFromKeyboard()) return false;
+  const auto* option = dynamic_cast<wxRadioButton*>(&widget);
+  if (option == nullptr || option->GetValue()) return true;
+  for (const wxRadioButton* other = option->GetFirstInGroup(); other != nullptr;
+       other = other->GetNextInGroup()) {
+    if (other->GetValue()) return false;
+  }
+  return option == option->GetFirstInGroup();
+}
+
+// Adds the widgets at which the tab key stops in `window` to `stops`, in the order in which they
+// were created.
+void CollectTabStops(const wxWindow& window, std::vector<wxWindow*>& stops) {
+  for (wxWindow* child : window.GetChildren()) {
+    if (!child->IsShown() || !child->IsEnabled() || child->IsTopLevel()) continue;
+    if (auto* book = dynamic_cast<wxNotebook*>(child)) {
+      stops.push_back(book);
+      CollectTabStops(*book->GetCurrentPage(), stops);
+    } else if (dynamic_cast<wxPanel*>(child) != nullptr) {
+      CollectTabStops(*child, stops);
+    } else if (IsTabStop(*child)) {
+      stops.push_back(child);
+    }
+  }
+}
+
 }  // namespace
 
 ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen)
-    : wxPanel(&window), window_(window), host_(host), screen_(&screen), binding_(host, screen) {
+    : wxScrolledWindow(&window),
+      window_(window),
+      host_(host),
+      screen_(&screen),
+      binding_(host, screen),
+      foot_(new wxPanel(&window)) {
+  SetScrollRate(GetCharWidth(), GetCharHeight());
   binding_.on_rearranged = [this] { LayOutAgain(*this); };
   ShowTitle(false);
   window_.Bind(wxEVT_CLOSE_WINDOW, &ScreenPanel::OnClose, this);
@@ -54,11 +92,15 @@ ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& scree
   Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
     event.Skip();
     binding_.Refresh();
+    if (window_.IsActive() && !menu_is_open_) binding_.RestoreFocus(window_);
   });
 }
 
 // Destroys the widgets before the binding, since they send events to it.
-ScreenPanel::~ScreenPanel() { DestroyChildren(); }
+ScreenPanel::~ScreenPanel() {
+  DestroyChildren();
+  foot_->DestroyChildren();
+}
 
 wxGauge* ScreenPanel::MakeGauge(wxWindow* parent) {
   gauge_ = new wxGauge(parent, wxID_ANY, kGaugeSteps);
@@ -74,7 +116,8 @@ wxWindow* ScreenPanel::MakeLeftOut(wxWindow* parent) {
   left_out_list_ = new wxTextCtrl(left_out_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                                   wxTE_MULTILINE | wxTE_DONTWRAP | wxTE_READONLY);
   left_out_list_->SetName("LeftOut");
-  left_out_list_->SetMinSize({kLeftOutColumns * left_out_list_->GetCharWidth(), -1});
+  MakeMonospaced(*left_out_list_);
+  left_out_list_->SetMinSize({TextWidth(*left_out_list_, kLeftOutColumns), -1});
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(left_out_heading_);
   column->Add(left_out_list_, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(*this)));
@@ -139,11 +182,31 @@ void ScreenPanel::OnClose(wxCloseEvent& event) {
   if (screen_ != nullptr) press(screen_->LeaveButton());
 }
 
-// Handles Escape for the screen, unless a menu is open. Escape closes the menu then.
+// Handles the tab key, and Escape for the screen. While a menu is open, Escape closes the menu. In
+// the main window Escape does nothing, since it would end the program.
 void ScreenPanel::OnCharHook(wxKeyEvent& event) {
   binding_.RunWaiting();
-  const bool leaves = event.GetKeyCode() == WXK_ESCAPE && !menu_is_open_;
+  const int key = event.GetKeyCode();
+  if (key == WXK_TAB && !event.ControlDown() && !event.AltDown()) {
+    return MoveFocusByTab(event.ShiftDown());
+  }
+  const bool leaves =
+      key == WXK_ESCAPE && !menu_is_open_ && dynamic_cast<wxDialog*>(&window_) != nullptr;
   if (!leaves || !binding_.OperateKeySoon("Escape")) event.Skip();
+}
+
+// The toolkit's own order leaves out widgets that were hidden when it was determined.
+void ScreenPanel::MoveFocusByTab(bool backward) {
+  std::vector<wxWindow*> stops;
+  CollectTabStops(window_, stops);
+  if (stops.empty()) return;
+  if (backward) std::reverse(stops.begin(), stops.end());
+  auto current = stops.end();
+  for (wxWindow* at = FindFocus(); at != nullptr && current == stops.end(); at = at->GetParent()) {
+    current = std::find(stops.begin(), stops.end(), at);
+  }
+  const bool last = current == stops.end() || std::next(current) == stops.end();
+  (last ? stops.front() : *std::next(current))->SetFocusFromKbd();
 }
 
 }  // namespace golf

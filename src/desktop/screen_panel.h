@@ -2,6 +2,7 @@
 
 #include <wx/gauge.h>
 #include <wx/panel.h>
+#include <wx/scrolwin.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/timer.h>
@@ -15,15 +16,32 @@
 
 namespace golf {
 
-// Contains the widgets of a screen's window. The view of the screen adds them. The host calls
-// SetInRun when a run begins and ends.
-class ScreenPanel : public wxPanel {
+// Contains the widgets of a screen's window. The view of the screen adds them. The panel scrolls if
+// the window is too small for it. The host calls SetInRun when a run begins and ends.
+class ScreenPanel : public wxScrolledWindow {
  public:
   ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen);
   ~ScreenPanel() override;
 
+  // Describes a widget that is smaller on a small display.
+  struct Flexible {
+    wxWindow* widget;
+    wxSize preferred;
+    wxSize least;
+  };
+
   wxTopLevelWindow& window() const { return window_; }
   Binding& binding() { return binding_; }
+  // Returns the part of the window below the panel. It does not scroll. It is the parent of the
+  // buttons that must always be visible.
+  wxPanel* foot() const { return foot_; }
+
+  std::vector<Flexible>& flexible() { return flexible_; }
+
+  // Notes the client size of the window, to which the program has set it. Another size later is the
+  // choice of the operator.
+  void NoteSize() { noted_size_ = window_.GetClientSize(); }
+  const wxSize& noted_size() const { return noted_size_; }
 
   // Creates a gauge that is visible during a run. The caller must reserve its space.
   wxGauge* MakeGauge(wxWindow* parent);
@@ -45,11 +63,15 @@ class ScreenPanel : public wxPanel {
   void FollowTimers();
   void OnClose(wxCloseEvent& event);
   void OnCharHook(wxKeyEvent& event);
+  void MoveFocusByTab(bool backward);
 
   wxTopLevelWindow& window_;
   HostBase& host_;
   Screen* screen_;
   Binding binding_;
+  wxPanel* foot_;
+  std::vector<Flexible> flexible_;
+  wxSize noted_size_;
   wxGauge* gauge_ = nullptr;
   wxPanel* left_out_ = nullptr;
   wxStaticText* left_out_heading_ = nullptr;

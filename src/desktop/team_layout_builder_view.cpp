@@ -9,7 +9,7 @@ namespace golf {
 namespace {
 
 constexpr int kRowsSeen = 11;
-constexpr int kGridWidth = 960;  // in device-independent pixels
+constexpr int kGridCharacters = 120;
 
 class BuilderFiller {
  public:
@@ -22,10 +22,9 @@ class BuilderFiller {
     FillPage(book->GetPage(1), HeadersAndFonts(book->GetPage(1)));
     auto* content = new wxBoxSizer(wxVERTICAL);
     content->Add(book, wxSizerFlags(1).Expand());
-    content->Add(ButtonRow({.affirmative = NewButton(&panel_, screen_.SaveButton),
-                            .cancel = NewButton(&panel_, screen_.CancelButton),
-                            .aside = NewButton(&panel_, screen_.Help)}),
-                 wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
+    AddToFoot(panel_, ButtonRow({.affirmative = NewButton(panel_.foot(), screen_.SaveButton),
+                                 .cancel = NewButton(panel_.foot(), screen_.CancelButton),
+                                 .aside = {NewButton(panel_.foot(), screen_.Help)}}));
     return content;
   }
 
@@ -42,16 +41,16 @@ class BuilderFiller {
   }
 
   wxSizer* Scores(wxWindow* page) {
+    auto* content = new wxBoxSizer(wxVERTICAL);
+    content->Add(Names(page), wxSizerFlags().Expand());
     auto* top = new wxBoxSizer(wxHORIZONTAL);
     top->Add(Numbers(page), wxSizerFlags(1).Border(wxRIGHT, 2 * GroupGap(panel_)));
     top->Add(Selection(page));
-    auto* content = new wxBoxSizer(wxVERTICAL);
-    content->Add(Names(page), wxSizerFlags().Expand());
     content->Add(top, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
     content->Add(MakeLabel(binding_, page, screen_.CopyLabel),
                  wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
     wxGrid* grid = MakeGrid(binding_, page, screen_.grid1, GridMarks::kLabelledCells, kRowsSeen);
-    grid->SetMinSize({panel_.FromDIP(kGridWidth), grid->GetMinSize().y});
+    SetRoom(panel_, *grid, kGridCharacters, kRowsSeen);
     content->Add(grid, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel_)));
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
     for (Button* button : {&screen_.SampleDataGenerate, &screen_.CalculateButton}) {

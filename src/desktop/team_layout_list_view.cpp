@@ -4,19 +4,24 @@
 #include "screens/results/team_layout_list.h"
 
 namespace golf {
+namespace {
+
+constexpr int kCharacters = 42;
+constexpr int kLines = 12;
+
+}  // namespace
 
 void FillTeamLayouts(ScreenPanel& panel, TeamLayouts& screen) {
   Binding& binding = panel.binding();
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(MakeLabel(binding, &panel, screen.ListLabel), wxSizerFlags().Expand());
   wxListBox* list = MakeListBox(binding, &panel, screen.LayoutList);
-  list->SetMinSize(panel.FromDIP(wxSize(320, 220)));
+  SetRoom(panel, *list, kCharacters, kLines);
   content->Add(list, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
-  const auto button = [&](Button& control) { return MakeButton(binding, &panel, control); };
-  content->Add(ButtonRow({.affirmative = button(screen.EditButton),
-                          .cancel = button(screen.ExitButton),
-                          .aside = button(screen.NewButton)}),
-               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
+  AddToFoot(panel, ButtonRow({.affirmative = button(screen.EditButton),
+                              .cancel = button(screen.ExitButton),
+                              .aside = {button(screen.NewButton)}}));
   FinishWindow(panel, content);
 }
 

@@ -9,8 +9,9 @@ namespace {
 
 constexpr int kStandingsSeen = 8;  // rows
 constexpr int kCardSeen = 9;
-constexpr int kWidth = 1140;  // in device-independent pixels
-constexpr int kListWidth = 260;
+constexpr int kCharacters = 140;
+constexpr int kListCharacters = 26;
+constexpr int kTournamentCharacters = 16;
 
 wxSizer* Choices(ScreenPanel& panel, TeamResults& screen) {
   Binding& binding = panel.binding();
@@ -18,10 +19,11 @@ wxSizer* Choices(ScreenPanel& panel, TeamResults& screen) {
   const auto middle = wxSizerFlags().CentreVertical().Border(wxLEFT, GroupGap(panel));
   wxStaticText* tournament = MakeLabel(binding, &panel, screen.TournamentLabel);
   MakeBold(*tournament);
+  SetColumns(*tournament, kTournamentCharacters);
   row->Add(tournament, wxSizerFlags(1).CentreVertical());
   row->Add(MakeLabel(binding, &panel, screen.LayoutLabel), middle);
   wxChoice* layouts = MakeChoice(binding, &panel, screen.LayoutList);
-  layouts->SetMinSize({panel.FromDIP(kListWidth), -1});
+  SetColumns(*layouts, kListCharacters);
   row->Add(layouts, middle);
   row->Add(MakeLabel(binding, &panel, screen.RoundLabel), middle);
   row->Add(MakeChoice(binding, &panel, screen.RoundList), middle);
@@ -30,7 +32,7 @@ wxSizer* Choices(ScreenPanel& panel, TeamResults& screen) {
 
 wxGrid* MakeTable(ScreenPanel& panel, Grid& control, GridMarks marks, int rows_seen) {
   wxGrid* grid = MakeGrid(panel.binding(), &panel, control, marks, rows_seen);
-  grid->SetMinSize({panel.FromDIP(kWidth), grid->GetMinSize().y});
+  SetRoom(panel, *grid, kCharacters, rows_seen);
   return grid;
 }
 
@@ -38,7 +40,7 @@ wxGrid* MakeTable(ScreenPanel& panel, Grid& control, GridMarks marks, int rows_s
 
 void FillTeamResults(ScreenPanel& panel, TeamResults& screen) {
   Binding& binding = panel.binding();
-  const auto button = [&](Button& control) { return MakeButton(binding, &panel, control); };
+  const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
   const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(Choices(panel, screen), wxSizerFlags().Expand());
@@ -48,12 +50,9 @@ void FillTeamResults(ScreenPanel& panel, TeamResults& screen) {
   content->Add(MakeLabel(binding, &panel, screen.CardLabel), below);
   content->Add(MakeTable(panel, screen.grid2, GridMarks::kCells, kCardSeen),
                wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
-  auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-  for (Button* control : {&screen.SortButton, &screen.CopyButton, &screen.SaveButton}) {
-    buttons->Add(button(*control), wxSizerFlags().Border(wxRIGHT, CloseGap(panel)));
-  }
-  buttons->Add(ButtonRow({.cancel = button(screen.ExitButton)}), wxSizerFlags(1));
-  content->Add(buttons, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  AddToFoot(panel, ButtonRow({.cancel = button(screen.ExitButton),
+                              .aside = {button(screen.SortButton), button(screen.CopyButton),
+                                        button(screen.SaveButton)}}));
   FinishWindow(panel, content);
 }
 

@@ -11,8 +11,8 @@
 namespace golf {
 namespace {
 
-constexpr int kUsualWidth = 380;  // of the message, in device-independent pixels
-constexpr int kMostHeight = 280;
+constexpr int kUsualCharacters = 50;  // of a line of the message
+constexpr int kMostLines = 16;
 constexpr int kUnitsPerPixel = 1440 / 96;
 
 wxStaticBitmap* NewPicture(wxWindow* parent, const TipBox& screen) {
@@ -29,7 +29,7 @@ wxSize MessageSize(wxWindow* parent, const wxString& message, int width) {
   measure.SetLabelText(message);
   measure.Wrap(width - line);
   const int height = measure.GetBestSize().y + line / 2;
-  return {width, std::min(height, parent->FromDIP(kMostHeight))};
+  return {width, std::min(height, TextHeight(*parent, kMostLines))};
 }
 
 wxTextCtrl* NewMessage(ScreenPanel& panel, TipBox& screen, int width) {
@@ -37,11 +37,14 @@ wxTextCtrl* NewMessage(ScreenPanel& panel, TipBox& screen, int width) {
                                     wxTE_MULTILINE | wxTE_READONLY | wxTE_BESTWRAP | wxBORDER_NONE);
   message->SetBackgroundColour(panel.window().GetBackgroundColour());
   message->SetMinSize(MessageSize(&panel, message->GetValue(), width));
+  SetRoom(panel, *message);
   return message;
 }
 
 wxSizer* Buttons(ScreenPanel& panel, TipBox& screen) {
-  const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
+  const auto button = [&](Button& control) {
+    return MakeButton(panel.binding(), panel.foot(), control);
+  };
   wxButton* ok = button(screen.OKButton);
   wxButton* yes = button(screen.YesButton);
   wxButton* no = button(screen.NoButton);
@@ -59,7 +62,7 @@ void FillTipBox(ScreenPanel& panel, TipBox& screen) {
   const int picture_room = picture->GetBestSize().x + GroupGap(panel) + 2 * EdgeGap(panel);
   const bool narrow = screen.Tip()->buttons.empty();
   const int width = narrow ? panel.FromDIP(TipBox::kModelessWidth / kUnitsPerPixel) - picture_room
-                           : panel.FromDIP(kUsualWidth);
+                           : TextWidth(panel, kUsualCharacters);
   wxStaticText* title = MakeWrappedLabel(panel.binding(), &panel, screen.Title, width);
   MakeBold(*title);
   wxSizer* texts = Column({title, NewMessage(panel, screen, width)});
@@ -71,7 +74,7 @@ void FillTipBox(ScreenPanel& panel, TipBox& screen) {
   content->Add(top, wxSizerFlags(1).Expand());
   content->Add(MakeCheckBox(panel.binding(), &panel, screen.ShowMessage),
                wxSizerFlags().Border(wxTOP, GroupGap(panel)));
-  content->Add(Buttons(panel, screen), wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
+  AddToFoot(panel, Buttons(panel, screen));
   FinishWindow(panel, content);
 }
 

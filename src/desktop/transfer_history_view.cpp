@@ -8,26 +8,18 @@ namespace golf {
 namespace {
 
 constexpr int kRowsSeen = 7;
-constexpr int kWidth = 860;  // in device-independent pixels
+constexpr int kCharacters = 110;
+constexpr int kReportCharacters = 80;
 constexpr int kReportLines = 8;
 
-wxTextCtrl* MakeReport(ScreenPanel& panel, TextBox& control) {
-  wxTextCtrl* report =
-      MakeTextBox(panel.binding(), &panel, control, wxTE_MULTILINE | wxTE_DONTWRAP);
-  report->SetMinSize({-1, kReportLines * report->GetCharHeight()});
-  return report;
-}
-
 wxSizer* Buttons(ScreenPanel& panel, TransferHistory& screen) {
-  auto* row = new wxBoxSizer(wxHORIZONTAL);
-  for (Button* control : {&screen.ChangesButton, &screen.UndoButton, &screen.CopyButton,
-                          &screen.SaveButton, &screen.ForgetButton}) {
-    row->Add(MakeButton(panel.binding(), &panel, *control),
-             wxSizerFlags().Border(wxRIGHT, CloseGap(panel)));
-  }
-  row->Add(ButtonRow({.cancel = MakeButton(panel.binding(), &panel, screen.ExitButton)}),
-           wxSizerFlags(1));
-  return row;
+  const auto button = [&](Button& control) {
+    return MakeButton(panel.binding(), panel.foot(), control);
+  };
+  return ButtonRow(
+      {.cancel = button(screen.ExitButton),
+       .aside = {button(screen.ChangesButton), button(screen.UndoButton), button(screen.CopyButton),
+                 button(screen.SaveButton), button(screen.ForgetButton)}});
 }
 
 }  // namespace
@@ -39,11 +31,12 @@ void FillTransferHistory(ScreenPanel& panel, TransferHistory& screen) {
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(MakeFieldLabel(binding, &panel, screen.ListLabel));
   wxGrid* list = MakeGrid(binding, &panel, screen.RunList, GridMarks::kRows, kRowsSeen);
-  list->SetMinSize({panel.FromDIP(kWidth), list->GetMinSize().y});
+  SetRoom(panel, *list, kCharacters, kRowsSeen);
   content->Add(list, wxSizerFlags(below).Proportion(3));
   content->Add(MakeFieldLabel(binding, &panel, screen.ReportLabel), group);
-  content->Add(MakeReport(panel, screen.ReportText), wxSizerFlags(below).Proportion(2));
-  content->Add(Buttons(panel, screen), group);
+  content->Add(MakeLog(panel, &panel, screen.ReportText, kReportCharacters, kReportLines),
+               wxSizerFlags(below).Proportion(2));
+  AddToFoot(panel, Buttons(panel, screen));
   FinishWindow(panel, content);
 }
 

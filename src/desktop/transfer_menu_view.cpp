@@ -41,13 +41,8 @@ class MenuFiller {
   wxSizer* Content() {
     auto* content = new wxBoxSizer(wxVERTICAL);
     content->Add(FilledTab(), wxSizerFlags(1).Expand());
-    content->AddSpacer(GroupGap(panel_));
-    auto* row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(NewButton(&panel_, screen_.PriorTransfer));
-    row->AddStretchSpacer();
-    row->Add(NewButton(&panel_, screen_.ExitButton),
-             wxSizerFlags().Border(wxLEFT, GroupGap(panel_)));
-    content->Add(row, wxSizerFlags().Expand());
+    AddToFoot(panel_, ButtonRow({.cancel = NewButton(panel_.foot(), screen_.ExitButton),
+                                 .aside = {NewButton(panel_.foot(), screen_.PriorTransfer)}}));
     return content;
   }
 
@@ -55,7 +50,8 @@ class MenuFiller {
   wxNotebook* FilledTab() {
     wxNotebook* tab = MakeTab(panel_.binding(), &panel_, screen_.SSTab1);
     page_ = tab->GetPage(0);
-    auto* columns = new wxGridSizer(3, 0, GroupGap(panel_));
+    auto* columns = new wxFlexGridSizer(3, 0, CloseGap(panel_));
+    for (const std::size_t column : {0, 1, 2}) columns->AddGrowableCol(column);
     const auto add = [&](Label& heading, std::initializer_list<Button*> buttons) {
       columns->Add(HeadedColumn(heading, buttons), wxSizerFlags().Expand());
     };

@@ -1,8 +1,11 @@
 #include "desktop/widgets.h"
 
+#include <wx/dc.h>
+
 #include <algorithm>
 #include <utility>
 
+#include "desktop/colours.h"
 #include "desktop/wx_text.h"
 
 namespace golf {
@@ -38,6 +41,7 @@ wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Show
   wxStaticText* text = NewText(parent, wxST_ELLIPSIZE_END);
   binding.Tie(control, *text, [text, &control, shown] {
     text->SetLabelText(TextToShow(control.caption(), shown));
+    text->GetParent()->Layout();
   });
   return text;
 }
@@ -59,8 +63,12 @@ wxStaticText* MakeWrappedLabel(Binding& binding, wxWindow* parent, Label& contro
 
 wxButton* MakeButton(Binding& binding, wxWindow* parent, Button& control) {
   auto* button = new wxButton(parent, wxID_ANY, WxText(control.caption()));
-  binding.Tie(control, *button, [button, &control] {
-    button->SetLabel(WxText(control.caption()));
+  binding.Tie(control, *button, [button, parent, &control] {
+    const wxString caption = WxText(control.caption());
+    if (button->GetLabel() != caption) {
+      button->SetLabel(caption);
+      parent->Layout();
+    }
     if (control.is_default()) button->SetDefault();
   });
   button->Bind(wxEVT_BUTTON, [&binding, &control](wxCommandEvent&) {
@@ -103,10 +111,40 @@ wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Sho
   list->Bind(wxEVT_CHAR_HOOK, [&binding, &control](wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
-    if (!enter || !control.on_key) return event.Skip();
-    binding.OperateSoon(control, [&control] { control.on_key("Enter"); });
+    if (enter && control.on_key) {
+      return binding.OperateSoon(control, [&control] { control.on_key("Enter"); });
+    }
+    if (!enter || !control.on_double_click) return event.Skip();
+    binding.OperateSoon(control, control.on_double_click);
   });
   return list;
+}
+
+namespace {
+
+// Paints the selection in a colour on which its text is easy to read.
+class LongChoice : public wxOwnerDrawnComboBox {
+ public:
+  using wxOwnerDrawnComboBox::wxOwnerDrawnComboBox;
+
+ private:
+  void OnDrawBackground(wxDC& dc, const wxRect& place, int item, int flags) const override {
+    wxOwnerDrawnComboBox::OnDrawBackground(dc, place, item, flags);
+    if ((flags & wxODCB_PAINTING_SELECTED) == 0) return;
+    const wxDCBrushChanger brush(dc, SelectionColour());
+    const wxDCPenChanger pen(dc, SelectionColour());
+    dc.DrawRectangle(place);
+  }
+};
+
+}  // namespace
+
+wxOwnerDrawnComboBox* MakeLongChoice(Binding& binding, wxWindow* parent, ComboBox& control,
+                                     Shown shown) {
+  auto* choice = new LongChoice(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                wxArrayString(), wxCB_READONLY);
+  TieList(binding, control, *choice, wxEVT_COMBOBOX, shown);
+  return choice;
 }
 
 wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown) {
@@ -117,8 +155,8 @@ wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Show
 
 namespace {
 
-const wxColour kNoteColour(176, 0, 32);
 const wxColour kNotedField(255, 224, 224);
+constexpr int kEntryMargin = 12;  // above and below the text of an entry, in DIPs
 
 template <class Entry>
 void ShowSelection(Entry& entry, const TextBox& control) {
@@ -164,14 +202,16 @@ void MarkNote(wxWindow& widget, const Control& control) {
   widget.Refresh();
 }
 
-// Filters typed keys. Pasted text is not filtered.
-void FilterKeys(wxTextCtrl& box, const TextBox& control) {
-  box.Bind(wxEVT_CHAR, [&box, &control](wxKeyEvent& event) {
+// Filters typed keys. Pasted text is not filtered. A comma enters a point if the system writes
+// numbers with a decimal comma.
+void FilterKeys(const Binding& binding, wxTextCtrl& box, const TextBox& control) {
+  box.Bind(wxEVT_CHAR, [&binding, &box, &control](wxKeyEvent& event) {
     const wxChar typed = event.GetUnicodeKey();
     if (typed < WXK_SPACE || typed == WXK_DELETE || event.HasModifiers()) return event.Skip();
-    const char key = TextFromWx(wxString(typed)).front();
+    const bool point = typed == ',' && binding.has_decimal_comma();
+    const char key = point ? '.' : TextFromWx(wxString(typed)).front();
     const char filtered = control.key_filter(key);
-    if (filtered == key) return event.Skip();
+    if (filtered == key && !point) return event.Skip();
     if (filtered != 0) box.WriteText(WxText(std::string(1, filtered)));
   });
 }
@@ -186,7 +226,12 @@ wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, lo
     box->SetEditable(!control.read_only());
     MarkNote(*box, control);
   });
-  if (control.key_filter) FilterKeys(*box, control);
+  // The toolkit does not enlarge the height of an entry with the system's font.
+  if (box->IsSingleLine()) {
+    const int height = box->GetCharHeight() + box->FromDIP(kEntryMargin);
+    box->SetMinSize({-1, std::max(box->GetBestSize().y, height)});
+  }
+  if (control.key_filter) FilterKeys(binding, *box, control);
   SelectOnFocus(binding, *box, control);
   FollowText(binding, control, *box);
   return box;
@@ -208,20 +253,22 @@ wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control
   return combo;
 }
 
-wxStaticText* MakeNote(Binding& binding, wxWindow* parent, std::vector<const Control*> controls,
-                       int width, int lines) {
+wxStaticText* MakeNote(Binding& binding, wxWindow* parent, const wxString& name,
+                       std::function<std::string()> note, int width, int lines) {
   wxStaticText* text = NewText(parent, wxST_NO_AUTORESIZE);
-  text->SetForegroundColour(kNoteColour);
+  text->SetName(name);
+  text->SetForegroundColour(WarningColour(text->GetParent()->GetBackgroundColour()));
   text->SetMinSize({width, lines * text->GetCharHeight()});
-  binding.ShowAlso([text, controls = std::move(controls), width, shown = wxString()]() mutable {
-    const auto noted = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
-      return !control->note().empty() && control->IsShown();
-    });
-    const wxString note =
-        noted == controls.end() ? wxString() : WxText((*noted)->note()).BeforeFirst('\n');
-    if (std::exchange(shown, note) == note) return;
-    text->SetLabelText(note);
+  text->Show(lines > 0);
+  binding.ShowAlso([=, &binding, shown = wxString()]() mutable {
+    const wxString now = WxText(note());
+    if (std::exchange(shown, now) == now) return;
+    text->SetLabelText(now);
     text->Wrap(width);
+    if (lines > 0) return;
+    text->SetMinSize(text->GetBestSize());
+    text->Show(!now.empty());
+    if (binding.on_rearranged) binding.on_rearranged();
   });
   return text;
 }

@@ -6,12 +6,14 @@
 #include <wx/combobox.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
+#include <wx/odcombo.h>
 #include <wx/panel.h>
 #include <wx/radiobut.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <vector>
+#include <functional>
+#include <string>
 
 #include "desktop/binding.h"
 
@@ -38,12 +40,16 @@ wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& cont
                           long style = 0);
 wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown = nullptr);
 wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown = nullptr);
+// Does the same for a list of thousands of items. GTK needs seconds to fill the usual widget.
+wxOwnerDrawnComboBox* MakeLongChoice(Binding& binding, wxWindow* parent, ComboBox& control,
+                                     Shown shown = nullptr);
 wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, long style = 0);
 wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control);
-// Creates a text that shows the first line of the first visible note of these controls. It wraps
-// the text at `width` pixels and reserves space for this number of lines.
-wxStaticText* MakeNote(Binding& binding, wxWindow* parent, std::vector<const Control*> controls,
-                       int width, int lines);
+// Creates a warning that shows what `note` returns. It is updated after each change of a control.
+// It wraps the text at `width` pixels and reserves space for this number of lines. With 0 lines it
+// is hidden while the text is empty.
+wxStaticText* MakeNote(Binding& binding, wxWindow* parent, const wxString& name,
+                       std::function<std::string()> note, int width, int lines = 0);
 // Creates a frame, which contains the widgets of its controls.
 wxPanel* MakeFrame(Binding& binding, wxWindow* parent, Frame& control);
 // Creates a tab control with an empty panel for each page.

@@ -8,7 +8,7 @@
 namespace golf {
 namespace {
 
-constexpr int kBatchesWidth = 370;  // for the longest name of a batch; in device-independent pixels
+constexpr int kBatchCharacters = 40;  // of the longest name of a batch
 
 // Lays out the league and its batches of scores beside the roster that receives them.
 wxSizer* Ends(Binding& binding, wxWindow* parent, ZDtoKV& screen) {
@@ -17,7 +17,7 @@ wxSizer* Ends(Binding& binding, wxWindow* parent, ZDtoKV& screen) {
       RosterColumn(binding, parent, screen.Label1[2], screen.LeagueRoster, screen.SourceButton),
       wxSizerFlags().Expand());
   wxChoice* batches = MakeChoice(binding, parent, screen.EventList, BatchHeading);
-  batches->SetMinSize(parent->FromDIP(wxSize(kBatchesWidth, -1)));
+  SetColumns(*batches, kBatchCharacters);
   league->Add(batches, wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));
   return SideBySide(*parent, {league, RosterColumn(binding, parent, screen.Label1[1],
                                                    screen.HandicapRoster, screen.DestButton)});

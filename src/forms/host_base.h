@@ -56,12 +56,17 @@ class HostBase : public ScreenHost {
   void NoteFault(const NumberedError& fault) override { faults_.push_back(fault); }
   void NoteRunEnded(const NumberedError& error) override { run_ended_by_ = error; }
   void NoteUnfinishedRun(const std::string& text) override;
+  void SuggestRow(Screen&, Grid&, int) override {}
+  std::string AfterCancel(const std::string&, const std::string& usual) override { return usual; }
+  bool OpensDespite(const std::string&) override { return false; }
   void EndProcess() override { ended_ = true; }
   std::uint32_t Seed() override;
 
   // True if a change was refused because of an interrupted run.
   bool met_unfinished_run() const { return met_unfinished_run_; }
   bool in_run() const { return in_run_; }
+  // True if the system writes numbers with a decimal comma.
+  bool has_decimal_comma() const { return state_.decimal_comma; }
   // These return the counts and the faults of all runs so far.
   const std::vector<std::pair<std::string, std::int64_t>>& counts() const { return counts_; }
   const std::vector<NumberedError>& faults() const { return faults_; }

@@ -62,6 +62,17 @@ class ScreenHost {
   // Shows the operator a text that needs no answer. Scripts do not receive it as a box.
   virtual void Notify(const std::string& text) = 0;
 
+  // The following three are hints for a window. Other hosts ignore them.
+  // Suggests the row of a list that the operator probably wants. A window makes it the active row
+  // and moves the focus to the list.
+  virtual void SuggestRow(Screen& screen, Grid& list, int row) = 0;
+  // Returns the text of an entry after the operator has cancelled the picker that fills it. A
+  // window keeps the text `before`. Other hosts enter the text `usual`.
+  virtual std::string AfterCancel(const std::string& before, const std::string& usual) = 0;
+  // Returns true if a screen must open although an error leaves it incomplete. A window shows the
+  // text to the operator and returns true. Other hosts return false.
+  virtual bool OpensDespite(const std::string& text) = 0;
+
   // Starts a program with its arguments and does not wait for its end. Raises an error if the
   // program cannot be started.
   virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;

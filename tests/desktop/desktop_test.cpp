@@ -181,6 +181,10 @@ TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
           "kvcrs.dat\n\nWhat you change in it is changed for Kelvane as well. Close Kelvane "
           "before you go on.\n\nOpen it?");
   user.Do([&] { host.Operate([&] { OpenScreen(state(), host, "CourseTable", "KV"); }); });
+  user.Await("the focus on the list", [] {
+    const wxWindow* list = Operator::Find("CourseGrid");
+    return list != nullptr && list->IsDescendant(wxWindow::FindFocus());
+  });
   user.Type("CourseGrid", WXK_DELETE);
   user.AnswerInput("DELETE COURSE?", "NO", "YES");
   user.Await("one course", [&] {
@@ -212,10 +216,12 @@ TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
   user.When(
       "the next hole", [&] { return tee.focus() == &tee.FPar[1]; },
       [&] { EXPECT_NE(tee.FParOut.caption(), "0"); });
-  for (const char* title : {"Cancel", "CANCEL"}) {
-    user.Type("CancelButton", WXK_ESCAPE);
-    user.Answer(title, "Cancel changes?");
-  }
+  user.Type("CancelButton", WXK_ESCAPE);
+  user.Answer("Cancel", "Cancel changes?");  // Enter means No
+  user.Type("CancelButton", WXK_ESCAPE);
+  user.Answer("Cancel", "Cancel changes?", 'Y', wxMOD_ALT);
+  user.Await("the course", [&] { return !host.IsShown("CourseTee"); });
+  user.Type("CancelButton", WXK_ESCAPE);  // nothing has been changed, so there is no question
   user.Press("CloseButton");
   user.RunToExit();
 }

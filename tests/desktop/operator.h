@@ -7,11 +7,13 @@
 #include <wx/grid.h>
 #include <wx/modalhook.h>
 #include <wx/msgdlg.h>
+#include <wx/statbmp.h>
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -278,6 +280,10 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
     const auto& box = dynamic_cast<wxMessageDialogBase&>(*dialogs_.back());
     EXPECT_EQ(box.GetTitle().utf8_string(), title);
     EXPECT_EQ(box.GetMessage().utf8_string(), text);
+    const wxWindowList& parts = box.GetChildren();
+    EXPECT_TRUE(std::any_of(parts.begin(), parts.end(), [](const wxWindow* part) {
+      return part->IsKindOf(wxCLASSINFO(wxStaticBitmap));
+    })) << "no icon";
     answered_ = opened_;
   }
 

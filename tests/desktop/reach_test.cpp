@@ -2,6 +2,7 @@
 // screen exactly if the operator can reach the control.
 
 #include <wx/app.h>
+#include <wx/dialog.h>
 
 #include "desktop/demo_desktop.h"
 #include "desktop/grid_widget.h"
@@ -45,6 +46,7 @@ const Command kCommands[] = {
     {wxCLASSINFO(wxListBox), wxEVT_LISTBOX_DCLICK, "double click"},
     {wxCLASSINFO(wxComboBox), wxEVT_COMBOBOX, "choice"},
     {wxCLASSINFO(wxComboBox), wxEVT_TEXT, "text"},
+    {wxCLASSINFO(wxOwnerDrawnComboBox), wxEVT_COMBOBOX, "choice"},
     {wxCLASSINFO(wxChoice), wxEVT_CHOICE, "choice"},
     {wxCLASSINFO(wxTextCtrl), wxEVT_TEXT, "text"},
 };
@@ -65,7 +67,9 @@ std::vector<Deed> DeedsOf(wxWindow& widget) {
                        Send(widget, event);
                      }});
   }
-  if (widget.IsKindOf(wxCLASSINFO(wxButton))) {
+  // Escape does nothing in the main window.
+  if (widget.IsKindOf(wxCLASSINFO(wxButton)) &&
+      wxGetTopLevelParent(&widget)->IsKindOf(wxCLASSINFO(wxDialog))) {
     add_key(*wxGetTopLevelParent(&widget), wxEVT_CHAR_HOOK, WXK_ESCAPE);
   }
   if (widget.IsKindOf(wxCLASSINFO(wxListBox))) add_key(widget, wxEVT_CHAR_HOOK, WXK_RETURN);

@@ -92,8 +92,21 @@ void CourseForm::BeginEdit(std::int32_t number) {
   Begin();
 }
 
+std::string CourseForm::Entered() const {
+  std::string entered = std::to_string(HoleNumFlag());
+  for (const CourseText& text : kTexts) entered += '\n' + (this->*text.box).text();
+  return entered;
+}
+
+std::optional<BoxButton> CourseForm::AnswerIfUnchanged() const {
+  const bool unchanged = unsaved_tee_ == 0 && !tee_changed_ && Entered() == unchanged_;
+  return unchanged ? std::optional(BoxButton::kYes) : std::nullopt;
+}
+
 void CourseForm::Begin() {
   SetTag("");
+  unchanged_ = Entered();
+  tee_changed_ = false;
   unsaved_tee_ = 0;
   for (OptionButton& option : FHoleNum) option.SetVisible(true);
   ShowTees();
@@ -172,7 +185,9 @@ void CourseForm::EditTee() {
   host().ShowModal(tee_screen);
   if (tee_screen.tag() == "OK") {
     unsaved_tee_ = tee_;
+    const std::string before(course().Stored().Bytes());
     SaveTeeData(tee_screen);
+    if (course().Stored().Bytes() != before) tee_changed_ = true;
     unsaved_tee_ = 0;
   }
   OnActivate();
@@ -227,7 +242,9 @@ void CourseForm::Cancel() {
   if (!FCourseName.text().empty()) {
     const BoxButton answer = host().Ask(Box{.title = "CANCEL",
                                             .text = "Cancel changes?",
-                                            .buttons = {BoxButton::kYes, BoxButton::kNo}});
+                                            .buttons = {BoxButton::kYes, BoxButton::kNo},
+                                            .window_default = 1,
+                                            .window_answer = AnswerIfUnchanged()});
     if (answer == BoxButton::kNo) return;
   }
   SetTag("CANCEL");

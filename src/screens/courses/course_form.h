@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "core/shared_state.h"
@@ -59,6 +60,10 @@ class CourseForm : public Screen {
  private:
   CourseClass& course() const { return state().Course(); }
   void Begin();
+  // Returns everything that the operator can change on this screen.
+  std::string Entered() const;
+  // Returns Yes if nothing has been changed since the screen was opened.
+  std::optional<BoxButton> AnswerIfUnchanged() const;
   void ChooseHoles(std::size_t option);
   int HoleNumFlag() const;
   void ShowTees();
@@ -76,6 +81,8 @@ class CourseForm : public Screen {
   int tee_ = 1;          // the tee being edited
   int unsaved_tee_ = 0;  // the tee whose entries could not be stored and are still on its screen
   bool tee_screen_used_ = false;
+  bool tee_changed_ = false;  // true if the operator has changed a tee in the record
+  std::string unchanged_;     // what the controls contained at first
 };
 
 }  // namespace golf

@@ -90,6 +90,7 @@ void CourseForm::FillTee(CourseTee& screen) {
         .SetCaption(std::to_string(course().Stored().Get<"StrkSqnc">(tee_, hole)));
   }
   screen.YardsOrMeters.Select(course().YardsOrMeters() == "Meters" ? 1 : 0);
+  screen.NoteUnchanged();
 }
 
 void CourseForm::SaveTeeData(CourseTee& screen) {

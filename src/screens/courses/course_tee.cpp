@@ -209,6 +209,39 @@ std::vector<TeeFault> CourseTee::FaultsOfHoles() const {
                     course.RequirePars, course.RequireHoleHandicaps);
 }
 
+std::string CourseTee::Entered() const {
+  std::string entered = ActiveTee.value() ? "active" : "";
+  for (const Control* control : controls()) {
+    if (auto* text = dynamic_cast<const TextBox*>(control)) entered += '\n' + text->text();
+    if (auto* list = dynamic_cast<const List*>(control)) entered += '\n' + list->text();
+  }
+  return entered;
+}
+
+std::optional<BoxButton> CourseTee::AnswerIfUnchanged() const {
+  return Entered() == unchanged_ ? std::optional(BoxButton::kYes) : std::nullopt;
+}
+
+std::string CourseTee::OddEntries() const {
+  if (!ActiveTee.value()) return {};
+  const int holes = HolesRated(HoleNumFlag());
+  const HoleValues handicaps = ValuesOf(FHandicap);
+  const bool some =
+      std::any_of(handicaps.begin(), handicaps.end(), [](double h) { return h != 0; });
+  std::vector<TeeFault> odd;
+  for (auto& fault :
+       {NameFault(FTeeName.text(), FTeeNameAbv.text()),
+        RatingFault(FMensRating.EnteredRating(), holes, 0),
+        RatingFault(FLadiesRating.EnteredRating(), holes, 1),
+        SlopeFault(FMensSlope.EnteredSlope(), 0), SlopeFault(FLadiesSlope.EnteredSlope(), 1)}) {
+    if (fault) odd.push_back(*fault);
+  }
+  const auto of_holes =
+      HoleFaults(ValuesOf(FPar), handicaps, HolesPlayed(HoleNumFlag()), true, some);
+  odd.insert(odd.end(), of_holes.begin(), of_holes.end());
+  return DescribeFaults(odd);
+}
+
 std::vector<std::pair<Control*, TeeFault>> CourseTee::Faults() {
   std::vector<std::pair<Control*, TeeFault>> faults;
   const auto add = [&faults](Control& control, std::optional<TeeFault> fault) {
@@ -319,7 +352,9 @@ void CourseTee::Cancel() {
   if (!FTeeName.text().empty()) {
     const BoxButton answer = host().Ask(Box{.title = "Cancel",
                                             .text = "Cancel changes?",
-                                            .buttons = {BoxButton::kYes, BoxButton::kNo}});
+                                            .buttons = {BoxButton::kYes, BoxButton::kNo},
+                                            .window_default = 1,
+                                            .window_answer = AnswerIfUnchanged()});
     if (answer == BoxButton::kNo) return;
   }
   SetTag("CANCEL");

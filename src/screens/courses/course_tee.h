@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -25,6 +26,14 @@ class CourseTee : public Screen {
   // Shows the frames of the nines that FHoles selects. It must be called before the window is
   // created, since the size of the window depends on what is visible.
   void ShowHolesPlayed();
+
+  // Must be called after the caller has filled the controls. Cancel does not ask if nothing has
+  // changed since then.
+  void NoteUnchanged() { unchanged_ = Entered(); }
+
+  // Describes the entries of an active tee that look wrong, or returns an empty text. Every par
+  // must be entered, and either all hole handicaps or none.
+  std::string OddEntries() const;
 
   Button* LeaveButton() override { return &CancelButton; }
 
@@ -89,6 +98,11 @@ class CourseTee : public Screen {
   void ShowNotes(const Control* left);
   std::vector<Control*> Entries();
 
+  // Returns everything that the operator can change.
+  std::string Entered() const;
+  // Returns Yes if nothing has been changed.
+  std::optional<BoxButton> AnswerIfUnchanged() const;
+
   void Accept();
   void Finish();
   bool NameAccepted();
@@ -99,6 +113,8 @@ class CourseTee : public Screen {
   void Cancel();
   int HoleNumFlag() const;  // the flag of FHoles
   std::vector<TeeFault> FaultsOfHoles() const;
+
+  std::string unchanged_;  // what the controls contained at first
 };
 
 }  // namespace golf

@@ -32,10 +32,18 @@ RatingBox::RatingBox(std::string name, Screen& screen, const ScreenContext& cont
 }
 
 float RatingBox::RatingValue() {
+  SetRatingValue(EnteredNumber());
+  return value_;
+}
+
+double RatingBox::EnteredNumber() const {
   std::string entered = text();
   if (context_.state.decimal_comma) std::replace(entered.begin(), entered.end(), ',', '.');
-  SetRatingValue(LeadingNumber(entered));
-  return value_;
+  return LeadingNumber(entered);
+}
+
+double RatingBox::EnteredRating() const {
+  return LeadingNumber(RatingText(EnteredNumber(), format_));
 }
 
 void RatingBox::SetRatingValue(double value) {
@@ -59,6 +67,8 @@ SlopeBox::SlopeBox(std::string name, Screen& screen, const ScreenContext& contex
   on_enter = [this] { SelectFirst(text().size()); };
   on_leave = [this] { SlopeValue(); };
 }
+
+int SlopeBox::EnteredSlope() const { return SlopeShown(LeadingNumber(text())); }
 
 std::int16_t SlopeBox::SlopeValue() {
   SetSlopeValue(LeadingNumber(text()));

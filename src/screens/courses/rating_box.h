@@ -19,6 +19,8 @@ class RatingBox : public TextBox {
   // Reads the text, limits the number to 0 to 99.9 and rounds it. Shows the result and returns it.
   float RatingValue();
   void SetRatingValue(double value);
+  // Returns what RatingValue would return, but does not change the text.
+  double EnteredRating() const;
 
   // Sets the number of decimals to 1 or 2. Any other number changes nothing.
   void SetDecimalPlaces(int places);
@@ -28,6 +30,8 @@ class RatingBox : public TextBox {
   bool RatingValid(int holes, int group);
 
  private:
+  double EnteredNumber() const;
+
   Screen& screen_;
   ScreenContext context_;
   std::string format_ = "0.0";
@@ -43,6 +47,8 @@ class SlopeBox : public TextBox {
   // Reads the text, rounds and limits the number, shows it and returns it.
   std::int16_t SlopeValue();
   void SetSlopeValue(double value);
+  // Returns what SlopeValue would return, but does not change the text.
+  int EnteredSlope() const;
 
   // True if the slope is from 55 to 155. Otherwise shows the fault and moves the focus to the box.
   bool SlopeValid();

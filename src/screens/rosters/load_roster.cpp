@@ -58,6 +58,7 @@ void LoadRoster::OnLoad() {
 }
 
 void LoadRoster::OnActivate() {
+  host().SuggestRow(*this, grid1, RowOf(suggested_));
   if (!OpensOnly()) return;
   NewButton.SetVisible(false);
   DeleteButton.SetVisible(false);
@@ -98,14 +99,29 @@ void LoadRoster::Pick() {
   LoadKVSystemFile(state());
   state().Kelvane().system.Set<"RosterName">(name);
   CloseKVFiles(state());
+  picked_ = true;
   host().Unload(*this);
 }
 
-const std::string& AskForKelvaneRoster(SharedState& state, ScreenHost& host) {
-  LoadRoster& picker = Load<LoadRoster>(host);
+int LoadRoster::RowOf(std::string_view name) const {
+  int row = grid1.rows();
+  while (row > 0 && !EqualIgnoringCase(grid1.text(kNameColumn, row), name)) --row;
+  return row;
+}
+
+std::string HeldRosterText(const std::string& roster, const NumberedError& error) {
+  if (!error.Is(ErrorNumber::kPermissionDenied)) return error.description();
+  return "Another program has the roster " + roster +
+         " open. Close Kelvane, or choose another roster.";
+}
+
+std::string AskForKelvaneRoster(SharedState& state, ScreenHost& host, const std::string& before) {
+  const auto screen = Load<LoadRoster>(host).shared_from_this();
+  auto& picker = dynamic_cast<LoadRoster&>(*screen);
   picker.SetTag("OPENONLY");
+  picker.SuggestRoster(before);
   host.ShowModal(picker);
-  return state.KVRosterName;
+  return picker.picked() ? state.KVRosterName : host.AfterCancel(before, state.KVRosterName);
 }
 
 void LoadRoster::AskForNew() {
@@ -169,9 +185,9 @@ void LoadRoster::MakeNew() {
   if (!made) return;
   ShowNewRosterFrame(false);
   FillList();
-  for (int row = 1; row <= grid1.rows(); ++row) {
-    if (EqualIgnoringCase(grid1.text(kNameColumn, row), name)) grid1.SetActiveRow(row);
-  }
+  const int row = RowOf(name);
+  if (row > 0) grid1.SetActiveRow(row);
+  host().SuggestRow(*this, grid1, row);
 }
 
 void LoadRoster::AskToDelete() {

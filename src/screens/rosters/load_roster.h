@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
@@ -20,6 +22,11 @@ class LoadRoster : public Screen {
   Button* LeaveButton() override { return &CancelButton; }
   Button* PanelLeaveButton() override;
 
+  // Suggests the row of this roster when the screen opens.
+  void SuggestRoster(std::string name) { suggested_ = std::move(name); }
+  // True after the operator has picked a roster.
+  bool picked() const { return picked_; }
+
   Label Label1{"Label1", "Rosters in:"};
   Label DataPathLabel{"DataPathLabel"};
   Grid grid1{"grid1", 2};
@@ -37,6 +44,8 @@ class LoadRoster : public Screen {
 
  private:
   void FillList();
+  // Returns the row of a roster, or 0 if it is not in the list.
+  int RowOf(std::string_view name) const;
   // Returns the name in the active row, or an empty text if no row is active.
   std::string SelectedName() const;
   void Pick();
@@ -46,10 +55,17 @@ class LoadRoster : public Screen {
   void AskToDelete();
   void Delete(const std::string& name);
   bool OpensOnly() const { return tag() == "OPENONLY"; }
+
+  std::string suggested_;
+  bool picked_ = false;
 };
 
+// Returns a text for the operator after `error` has prevented the opening of a roster.
+std::string HeldRosterText(const std::string& roster, const NumberedError& error);
+
 // Lets the operator pick a Kelvane roster, but not create or delete one. Returns KVRosterName,
-// which does not change if the operator picks none.
-const std::string& AskForKelvaneRoster(SharedState& state, ScreenHost& host);
+// which does not change if the operator picks none. `before` is the roster picked earlier; a window
+// returns it after Cancel.
+std::string AskForKelvaneRoster(SharedState& state, ScreenHost& host, const std::string& before);
 
 }  // namespace golf

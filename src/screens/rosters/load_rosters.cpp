@@ -98,6 +98,13 @@ void LoadRosters::LoadList() {
   sorter.Sort({SortKey{kNameColumn}});
   grid1.SetRepainting(true);
   grid1.SetActiveRow(1);  // runs ShowRowButtons
+  Suggest();
+}
+
+void LoadRosters::Suggest() {
+  int row = grid1.rows();
+  while (row > 1 && NumberInRow(row) != suggested_) --row;
+  host().SuggestRow(*this, grid1, row);
 }
 
 void LoadRosters::ShowRowButtons() {
@@ -108,12 +115,15 @@ void LoadRosters::ShowRowButtons() {
   DeleteButton.SetVisible(is_roster);
 }
 
-std::int32_t LoadRosters::ChosenRoster() const {
-  return RoundToInt32(LeadingNumber(grid1.text(kNumberColumn, grid1.active_row())));
+std::int32_t LoadRosters::NumberInRow(int row) const {
+  return RoundToInt32(LeadingNumber(grid1.text(kNumberColumn, row)));
 }
+
+std::int32_t LoadRosters::ChosenRoster() const { return NumberInRow(grid1.active_row()); }
 
 void LoadRosters::Pick() {
   state().Program().SetActiveRoster(ChosenRoster());
+  picked_ = true;
   host().Hide(*this);
 }
 
@@ -181,6 +191,7 @@ void LoadRosters::Store() {
   }
   LeavePanel();
   const std::int32_t roster = ChosenRoster();
+  suggested_ = roster;
   ChangeFiles(state(), host(), "save-qb-roster", Text1[0].text(), [&] { Save(roster); });
   LoadList();
 }
@@ -202,6 +213,7 @@ void LoadRosters::CancelNew() {
   grid1.SetRows(grid1.rows() - 1);
   grid1.SetActiveRow(grid1.rows());
   MoveFocus(&grid1);
+  Suggest();
 }
 
 void LoadRosters::CancelEdit() {

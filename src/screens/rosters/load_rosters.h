@@ -21,6 +21,11 @@ class LoadRosters : public Screen {
   Button* LeaveButton() override { return &CancelButton; }
   Button* PanelLeaveButton() override;
 
+  // Suggests the row of this roster when the screen opens.
+  void SuggestRoster(std::int32_t roster) { suggested_ = roster; }
+  // True after the operator has picked a roster.
+  bool picked() const { return picked_; }
+
   Label DataPathLabel{"DataPathLabel"};
   Label FilterLabel{"FilterLabel", "Quenby rosters"};
   Grid grid1{"grid1", 5};
@@ -44,7 +49,10 @@ class LoadRosters : public Screen {
 
  private:
   void LoadList();
+  // Suggests the row of the suggested roster, or row 1 if the list does not contain it.
+  void Suggest();
   void ShowRowButtons();
+  std::int32_t NumberInRow(int row) const;
   std::int32_t ChosenRoster() const;
   std::int32_t FreeRosterNumber();
   void Pick();
@@ -58,6 +66,9 @@ class LoadRosters : public Screen {
   void CancelEdit();
   void AskToDelete();
   void TakeGolfersOut(std::int32_t roster);
+
+  std::int32_t suggested_ = 0;
+  bool picked_ = false;
 };
 
 }  // namespace golf

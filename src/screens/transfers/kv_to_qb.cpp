@@ -39,6 +39,7 @@ void KVtoQB::OnLoad() {
   SetUpGrid();
   state().StoreDataPath = state().QBDataPath;
   ReadSettings(state(), *this, Remembered());
+  ReadRememberedHeader();
   FillItemGrid();
 }
 
@@ -62,12 +63,29 @@ void KVtoQB::ShowItem(int row, const std::string& kelvane, const std::string& qu
   grid1.SetText(kQuenbyItemColumn, row, quenby);
 }
 
-void KVtoQB::FillItemGrid() {
+void KVtoQB::ReadRosterHeader() {
   state().InitSharedObjects();
-  auto& header = state().Kelvane().header;
   if (OpenKVRoster(state(), HandicapRoster.text())) {
-    state().files.Read(kKelvaneHeaderFile, 1, header);
+    state().files.Read(kKelvaneHeaderFile, 1, state().Kelvane().header);
   }
+}
+
+// Shows the items without the names of the remembered roster if another program has it open and the
+// host opens the screen nevertheless.
+void KVtoQB::ReadRememberedHeader() {
+  try {
+    ReadRosterHeader();
+  } catch (const NumberedError& error) {
+    if (!error.Is(ErrorNumber::kPermissionDenied) ||
+        !host().OpensDespite(HeldRosterText(HandicapRoster.text(), error))) {
+      throw;
+    }
+    CloseKVFiles(state());
+  }
+}
+
+void KVtoQB::FillItemGrid() {
+  auto& header = state().Kelvane().header;
   const bool eighteen = header.Get<"Holes">() == 18;
   Convert18Hcpto9Hcp.SetVisible(eighteen);
   Convert9Hcpto18Hcp.SetVisible(!eighteen);
@@ -95,12 +113,13 @@ void KVtoQB::FillItemGrid() {
 }
 
 void KVtoQB::FindSource() {
-  HandicapRoster.SetText(AskForKelvaneRoster(state(), host()));
+  HandicapRoster.SetText(AskForKelvaneRoster(state(), host(), HandicapRoster.text()));
+  ReadRosterHeader();
   FillItemGrid();
 }
 
 void KVtoQB::FindDestination() {
-  TournamentRoster.SetText(AskForQuenbyRoster(state(), host(), false));
+  TournamentRoster.SetText(AskForQuenbyRoster(state(), host(), false, TournamentRoster.text()));
 }
 
 GolferToQbChoice KVtoQB::Choice() const {

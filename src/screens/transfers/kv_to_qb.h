@@ -51,6 +51,8 @@ class KVtoQB : public Screen {
  private:
   std::array<Control*, 6> Remembered();
   void SetUpGrid();
+  void ReadRosterHeader();
+  void ReadRememberedHeader();
   void FillItemGrid();
   void ShowItem(int row, const std::string& kelvane, const std::string& quenby);
   void FindSource();

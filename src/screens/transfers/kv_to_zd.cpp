@@ -78,7 +78,9 @@ void KVtoZD::ReadOwnSettings() {
   if (const auto percent = from.Text()) HandicapPrct.SetText(*percent);
 }
 
-void KVtoZD::FindSource() { SourcePath.SetCaption(AskForKelvaneRoster(state(), host())); }
+void KVtoZD::FindSource() {
+  SourcePath.SetCaption(AskForKelvaneRoster(state(), host(), SourcePath.caption()));
+}
 
 void KVtoZD::SelectHandicap(std::size_t type) {
   HandicapType[type].SetValue(true);

@@ -152,7 +152,10 @@ std::string QBtoKV::TeeHeading(const std::string& item) { return WithoutKey(item
 void QBtoKV::FillCourseCombo() {
   state().InitSharedObjects();
   bool opened = false;
-  const ResumeNext silently(nullptr);
+  HandicapRoster.SetNote("");
+  const ResumeNext silently([this](const NumberedError& error) {
+    HandicapRoster.SetNote(HeldRosterText(HandicapRoster.text(), error));
+  });
   silently([&] { opened = OpenKVRoster(state(), HandicapRoster.text()); });
   auto& header = state().Kelvane().header;
   if (opened) state().files.Read(kKelvaneHeaderFile, 1, header);
@@ -292,7 +295,7 @@ void QBtoKV::GetTees() {
 }
 
 void QBtoKV::FindRoster() {
-  const std::string& roster = AskForKelvaneRoster(state(), host());
+  const std::string roster = AskForKelvaneRoster(state(), host(), HandicapRoster.text());
   TransferButton.SetVisible(true);
   HandicapRoster.SetText(roster);
   Match([this] {

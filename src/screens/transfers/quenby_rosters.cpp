@@ -32,10 +32,13 @@ void OpenQuenbyRosters(SharedState& state) {
   program.GetMasterRecord();
 }
 
-std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_delete) {
+std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_delete,
+                               const std::string& before) {
   auto& picker = Load<LoadRosters>(host);
   picker.DeleteButton.SetEnabled(may_delete);
+  picker.SuggestRoster(RoundToInt32(QuenbyRosterNumber(before)));
   host.ShowModal(picker);
+  const bool picked = picker.picked();
   host.Unload(picker);  // the next caller sets DeleteButton itself
   ProgramClass& program = state.Program();
   const std::int16_t roster = std::max<std::int16_t>(program.ActiveRoster(), 0);
@@ -44,7 +47,8 @@ std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_de
     program.GetRosterRecord(roster);
     name = program.ClubName();
   }
-  return name + std::string(kBlanksBeforeNumber, ' ') + FormatNumber(roster, "000");
+  name += std::string(kBlanksBeforeNumber, ' ') + FormatNumber(roster, "000");
+  return picked ? name : host.AfterCancel(before, name);
 }
 
 std::string QuenbyRosterTitle(std::string_view roster) {

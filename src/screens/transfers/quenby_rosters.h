@@ -15,7 +15,8 @@ void OpenQuenbyRosters(SharedState& state);
 // Lets the operator pick a roster, and delete rosters if `may_delete` is true. Returns a text that
 // consists of the roster's name, blanks, and its number in three digits. The number is 000 for all
 // rosters.
-std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_delete);
+std::string AskForQuenbyRoster(SharedState& state, ScreenHost& host, bool may_delete,
+                               const std::string& before);
 
 // Returns the number at the end of a text that AskForQuenbyRoster has returned.
 double QuenbyRosterNumber(std::string_view roster);

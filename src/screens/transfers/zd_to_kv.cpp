@@ -69,7 +69,7 @@ void ZDtoKV::LoadEventList() {
 }
 
 void ZDtoKV::FindDestination() {
-  HandicapRoster.SetText(AskForKelvaneRoster(state(), host()));
+  HandicapRoster.SetText(AskForKelvaneRoster(state(), host(), HandicapRoster.text()));
   TransferButton.SetVisible(true);
 }
 

@@ -36,7 +36,7 @@ ZDtoQB::ZDtoQB(const ScreenContext& context)
   AddInto(Frame2, {&PreviewButton});
   Message.SetReadOnly(true);
   DestButton.on_click = [this] {
-    TournamentRoster.SetText(AskForQuenbyRoster(state(), host(), true));
+    TournamentRoster.SetText(AskForQuenbyRoster(state(), host(), true, TournamentRoster.text()));
   };
   TransferButton.on_click = [this] { Start(RunEnding::kCommit); };
   PreviewButton.on_click = [this] { Start(RunEnding::kPreview); };

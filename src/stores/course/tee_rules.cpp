@@ -54,6 +54,18 @@ int WholeHandicap(double value) {
   return value < 0 ? static_cast<int>(kNone) : RoundToInt32(std::min(value, kNone));
 }
 
+// Formats ascending numbers as "1-9, 12".
+std::string Ranges(const std::vector<int>& numbers) {
+  std::string text;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    const bool follows = i > 0 && numbers[i] == numbers[i - 1] + 1;
+    const bool continues = i + 1 < numbers.size() && numbers[i + 1] == numbers[i] + 1;
+    if (follows && continues) continue;
+    text += (i == 0 ? "" : follows ? "-" : ", ") + std::to_string(numbers[i]);
+  }
+  return text;
+}
+
 template <class Read>
 HoleValues ValuesByHole(Read read) {
   HoleValues values{};
@@ -161,6 +173,30 @@ std::vector<TeeFault> FaultsOfTee(const Record<CourseLayout>& course, int tee) {
     has_handicap = has_handicap || course.Get<"HoleHandicap">(tee, hole) != 0;
   }
   return FaultsOf(course, tee, has_par, has_handicap);
+}
+
+std::string DescribeFaults(const std::vector<TeeFault>& faults) {
+  constexpr const char* kGroups[] = {"men's ", "ladies' "};
+  std::string text;
+  std::vector<int> pars;
+  std::vector<int> handicaps;
+  for (const TeeFault& fault : faults) {
+    const std::string rule = fault.text.substr(0, fault.text.find('\r'));
+    if (fault.field == TeeField::kPar) {
+      pars.push_back(fault.hole);
+    } else if (fault.field == TeeField::kHandicap) {
+      handicaps.push_back(fault.hole);
+    } else if (fault.field == TeeField::kName) {
+      text += "; name or abbreviation is missing";
+    } else {
+      text += std::string("; ") + kGroups[fault.group] + rule;
+    }
+  }
+  if (!pars.empty()) text += "; par must be between 1 and 6 on hole " + Ranges(pars);
+  if (!handicaps.empty()) {
+    text += "; handicap is missing or repeated on hole " + Ranges(handicaps);
+  }
+  return text.empty() ? text : "Check:" + text.substr(1);
 }
 
 std::vector<int> StrokeSequence(const HoleValues& handicaps, HoleRange holes) {

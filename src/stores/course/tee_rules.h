@@ -65,6 +65,10 @@ std::vector<TeeFault> FaultsOfTee(const CourseClass& course, int tee);
 // all hole handicaps if it has any.
 std::vector<TeeFault> FaultsOfTee(const Record<CourseLayout>& course, int tee);
 
+// Describes faults in one line, each kind once with its holes. Returns an empty text if there are
+// none.
+std::string DescribeFaults(const std::vector<TeeFault>& faults);
+
 // Returns the holes in ascending order of their handicaps. Holes with the same handicap keep their
 // order.
 std::vector<int> StrokeSequence(const HoleValues& handicaps, HoleRange holes);

@@ -1,0 +1,190 @@
+// Walks over the windows of all screens. tests/CMakeLists.txt runs these tests on several displays:
+// a small one, one with large text, and one with a dark theme.
+
+#include <gtest/gtest.h>
+#include <wx/app.h>
+#include <wx/button.h>
+#include <wx/display.h>
+#include <wx/evtloop.h>
+#include <wx/grid.h>
+#include <wx/settings.h>
+#include <wx/stattext.h>
+#include <wx/stopwatch.h>
+
+#include <algorithm>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "desktop/colours.h"
+#include "desktop/demo_desktop.h"
+#include "screens/results/team_layout_builder.h"
+
+namespace golf {
+namespace {
+
+constexpr long kWindowTime = 100;  // milliseconds until the window system has shown a window
+constexpr long kKeyTime = 5;
+constexpr double kReadable = 4.5;
+
+void RunEvents(long time_allowed) {
+  wxEventLoop loop;
+  const wxEventLoopActivator active(&loop);
+  for (const wxStopWatch time; time.Time() < time_allowed;) {
+    while (loop.Pending()) loop.Dispatch();
+    loop.ProcessIdle();
+  }
+}
+
+void ForEachWidget(wxWindow& window, const std::function<void(wxWindow&)>& visit) {
+  for (wxWindow* child : window.GetChildren()) {
+    if (!child->IsShownOnScreen()) continue;
+    visit(*child);
+    if (!child->IsKindOf(wxCLASSINFO(wxGrid))) ForEachWidget(*child, visit);
+  }
+}
+
+// Shows each screen in turn.
+void ForEachWindow(const std::function<void(wxTopLevelWindow&, Screen&)>& visit) {
+  for (const auto& view : Views()) {
+    SCOPED_TRACE(view.first);
+    Demo<BoxlessHost> demo;
+    wxTopLevelWindow& window = demo.Show(view.first);
+    Screen& screen = demo.host.Load(view.first);
+    if (auto* builder = dynamic_cast<XReportsCustomTeamResults*>(&screen)) {
+      builder->Timer1.SetInterval(0);  // it would close the screen, which has no layout
+    }
+    RunEvents(kWindowTime);
+    visit(window, screen);
+  }
+}
+
+// Returns the names of the controls that the tab key must reach. It reaches only one option of a
+// group.
+std::set<std::string> NamesToReach(const Screen& screen) {
+  std::set<std::string> names;
+  for (const Control* control : screen.controls()) {
+    const ControlKind kind = control->kind();
+    const bool input = kind != ControlKind::kLabel && kind != ControlKind::kFrame &&
+                       kind != ControlKind::kTimer && kind != ControlKind::kOptionButton;
+    if (input && control->IsReachable()) names.insert(control->name());
+  }
+  return names;
+}
+
+// Returns the place in the window, as if nothing were scrolled. The foot is below everything.
+wxRect PlaceOf(const wxWindow& widget) {
+  constexpr int kBelow = 10000;
+  wxRect place = widget.GetScreenRect();
+  for (wxWindow* at = widget.GetParent(); at != nullptr; at = at->GetParent()) {
+    if (const auto* panel = dynamic_cast<ScreenPanel*>(at)) {
+      place.SetPosition(panel->CalcUnscrolledPosition(place.GetPosition()));
+      return place;
+    }
+  }
+  place.y += kBelow;
+  return place;
+}
+
+// Presses the tab key until the focus is where it began. Returns the widgets in their order.
+std::vector<wxWindow*> Tour(bool backward) {
+  std::vector<wxWindow*> tour;
+  constexpr std::size_t kMost = 100;
+  while (tour.size() < kMost) {
+    wxWindow* focus = wxWindow::FindFocus();
+    if (focus == nullptr) return tour;
+    wxKeyEvent tab(wxEVT_CHAR_HOOK);
+    tab.m_keyCode = WXK_TAB;
+    tab.SetShiftDown(backward);
+    focus->HandleWindowEvent(tab);
+    RunEvents(kKeyTime);
+    focus = wxWindow::FindFocus();
+    if (focus == nullptr) return tour;
+    if (dynamic_cast<wxGrid*>(focus->GetParent()) != nullptr) focus = focus->GetParent();
+    if (!tour.empty() && focus == tour.front()) return tour;
+    tour.push_back(focus);
+  }
+  return tour;
+}
+
+TEST(ViewTest, TheTabKeyReachesEveryControlInReadingOrder) {
+  ForEachWindow([](wxTopLevelWindow&, Screen& screen) {
+    const std::vector<wxWindow*> tour = Tour(false);
+    const std::vector<wxWindow*> back = Tour(true);
+    EXPECT_EQ(std::set(tour.begin(), tour.end()), std::set(back.begin(), back.end()));
+    std::set<std::string> missed = NamesToReach(screen);
+    for (const wxWindow* widget : tour) missed.erase(widget->GetName().utf8_string());
+    EXPECT_EQ(missed, std::set<std::string>());
+    std::string jumps;  // against the reading order; the last widget jumps to the first one
+    for (std::size_t i = 0; i < tour.size(); ++i) {
+      const wxWindow& next = *tour[(i + 1) % tour.size()];
+      const wxRect before = PlaceOf(*tour[i]);
+      const wxRect after = PlaceOf(next);
+      const bool reads = after.y + after.height / 2 > before.GetBottom() ||
+                         after.x + after.width / 2 > before.GetRight() ||
+                         before.Contains(after);  // the page of a tab control
+      if (!reads) jumps += (tour[i]->GetName() + " to " + next.GetName() + "\n").utf8_string();
+    }
+    EXPECT_LE(std::count(jumps.begin(), jumps.end(), '\n'), 1) << jumps;
+  });
+}
+
+TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
+  ForEachWindow([](wxTopLevelWindow& window, Screen&) {
+    const wxRect area = wxDisplay(&window).GetClientArea();
+    EXPECT_TRUE(area.Contains(window.GetScreenRect()));
+    const int line = window.GetCharHeight();
+    ForEachWidget(window, [&](wxWindow& widget) {
+      SCOPED_TRACE(widget.GetName());
+      const wxSize size = widget.GetSize();
+      const bool in_foot = widget.GetParent()->GetParent() == &window;
+      if (widget.IsKindOf(wxCLASSINFO(wxButton))) {
+        EXPECT_GE(size.x, widget.GetBestSize().x);
+        const bool scrolls = dynamic_cast<ScreenPanel*>(widget.GetParent()) != nullptr;
+        if (in_foot && !scrolls) {
+          EXPECT_TRUE(window.GetScreenRect().Contains(widget.GetScreenRect()));
+        }
+      }
+      if (widget.IsKindOf(wxCLASSINFO(wxTextCtrl))) {
+        EXPECT_GE(size.y, line + line / 2);
+        const bool log = widget.HasFlag(wxTE_DONTWRAP);
+        if (log) {
+          EXPECT_GE(widget.GetClientSize().y, 4 * widget.GetCharHeight());
+          EXPECT_EQ(widget.GetFont().GetFamily(), wxFONTFAMILY_TELETYPE);
+        }
+      }
+      if (widget.IsKindOf(wxCLASSINFO(wxStaticText)) && widget.GetLabel() == "Handicap") {
+        EXPECT_GE(size.x, widget.GetBestSize().x);
+      }
+    });
+  });
+}
+
+TEST(ViewTest, TextsAreReadable) {
+  ForEachWindow([](wxTopLevelWindow& window, Screen&) {
+    ForEachWidget(window, [](wxWindow& widget) {
+      SCOPED_TRACE(widget.GetName());
+      if (!widget.IsEnabled()) return;
+      EXPECT_GE(Contrast(widget.GetForegroundColour(), widget.GetBackgroundColour()), kReadable)
+          << widget.GetForegroundColour().GetAsString() << " on "
+          << widget.GetBackgroundColour().GetAsString();
+      const auto* grid = dynamic_cast<wxGrid*>(&widget);
+      if (grid == nullptr) return;
+      EXPECT_GE(Contrast(grid->GetDefaultCellTextColour(), grid->GetDefaultCellBackgroundColour()),
+                kReadable);
+      EXPECT_GE(Contrast(grid->GetLabelTextColour(), grid->GetLabelBackgroundColour()), kReadable);
+      EXPECT_GE(Contrast(grid->GetSelectionForeground(),
+                         grid->HasFocus() ? grid->GetSelectionBackground()
+                                          : wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)),
+                kReadable);
+    });
+  });
+  for (const wxColour& background : {*wxWHITE, *wxBLACK, wxColour(246, 245, 244),
+                                     wxColour(53, 53, 53), wxColour(120, 120, 120)}) {
+    EXPECT_GE(Contrast(TextColour(background), background), kReadable);
+  }
+}
+
+}  // namespace
+}  // namespace golf
