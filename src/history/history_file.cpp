@@ -249,6 +249,7 @@ void HistoryFile::Read(const Reader& reader) {
   const RunTitle title = Title(at);
   if (reader.run) reader.run(title);
   std::int64_t next_offset = -1;  // below 0 before the first file
+  std::int64_t length = 0;        // the greater length of the current file
   while (true) {
     const Portion portion = ReadPortion(at);
     switch (portion.kind) {
@@ -258,12 +259,13 @@ void HistoryFile::Read(const Reader& reader) {
       case HistoryPortion::kFile: {
         const HistoryFileEntry entry = EntryOf(portion);
         next_offset = 0;
+        length = std::max(entry.old_length, entry.new_length);
         if (reader.file) reader.file(entry);
         break;
       }
       case HistoryPortion::kPlaces:
         Check(next_offset >= 0);
-        ReadPlaces(portion.bytes, next_offset, reader);
+        ReadPlaces(portion.bytes, length, next_offset, reader);
         break;
       case HistoryPortion::kReferences:
         ReadReferences(portion.bytes, reader);
@@ -279,7 +281,7 @@ void HistoryFile::Read(const Reader& reader) {
   }
 }
 
-void HistoryFile::ReadPlaces(std::string_view bytes, std::int64_t& next_offset,
+void HistoryFile::ReadPlaces(std::string_view bytes, std::int64_t length, std::int64_t& next_offset,
                              const Reader& reader) {
   CodeReader in(bytes);
   HistoryPlace place;
@@ -290,6 +292,8 @@ void HistoryFile::ReadPlaces(std::string_view bytes, std::int64_t& next_offset,
     place.group = static_cast<ChangeGroup>(in.Number(UINT32_MAX));
     place.offset = next_offset + static_cast<std::int64_t>(gap);
     Check(!in.failed() && place.offset < INT64_MAX / 2 && std::max(old_size, new_size) > 0);
+    // A few bytes can describe a long place, so its length must be that of the file at most.
+    Check(place.offset + static_cast<std::int64_t>(std::max(old_size, new_size)) <= length);
     in.Place(old_size, new_size, reader.parts, place);
     Check(!in.failed() && !place.changed.empty());
     next_offset = place.End();

@@ -111,7 +111,8 @@ class HistoryFile {
   HistoryFileEntry EntryOf(const Portion& portion) const;
   void ReadGroups(std::string_view bytes, const Reader& reader) const;
   void ReadReferences(std::string_view bytes, const Reader& reader) const;
-  void ReadPlaces(std::string_view bytes, std::int64_t& next_offset, const Reader& reader);
+  void ReadPlaces(std::string_view bytes, std::int64_t length, std::int64_t& next_offset,
+                  const Reader& reader);
   void Check(bool right) const {
     if (!right) throw DamagedHistory(path_);
   }
