@@ -2,6 +2,7 @@
 // controls in their order, which controls are hidden, disabled or read-only, and which buttons
 // Enter and Escape press.
 
+#include <algorithm>
 #include <fstream>
 
 #include "app/demo/demo_install.h"
@@ -107,6 +108,8 @@ TEST(ScreensTest, ShowTheTextsAndMarksOfTheFile) {
                                                        {"KVCoursestoQB", "PreviewButton"}};
   TestInstall install(false);
   MakeDemoInstall(install.state());
+  std::string folder = install.state().ProgramPath;
+  std::replace(folder.begin(), folder.end(), '\\', '/');  // as LinesOf writes it
   std::string screens;
   for (const auto& [name, word] : kOpened) {
     install.Restart();
@@ -115,8 +118,7 @@ TEST(ScreensTest, ShowTheTextsAndMarksOfTheFile) {
       if (timer != nullptr) install.host->Operate(screen, timer->on_timer);
       auto* grid = dynamic_cast<Grid*>(screen.FindControl("grid1"));
       if (grid != nullptr) grid->SetActiveRow(grid->rows());
-      screens += ReplaceText(LinesOf(screen), install.state().ProgramPath, "<install>/",
-                             ReplaceMode::kExact);
+      screens += ReplaceText(LinesOf(screen), folder, "<install>/", ReplaceMode::kExact);
       const auto pressed = kPressed.find(screen.name());
       if (pressed != kPressed.end()) install.host->Press(screen, pressed->second);
     };
