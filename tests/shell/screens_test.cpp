@@ -109,7 +109,7 @@ TEST(ScreensTest, ShowTheTextsAndMarksOfTheFile) {
   TestInstall install(false);
   MakeDemoInstall(install.state());
   std::string folder = install.state().ProgramPath;
-  std::replace(folder.begin(), folder.end(), '\\', '/');  // as LinesOf writes it
+  std::replace(folder.begin(), folder.end(), '\\', '/');  // the file has "/" for every system
   std::string screens;
   for (const auto& [name, word] : kOpened) {
     install.Restart();
@@ -118,7 +118,9 @@ TEST(ScreensTest, ShowTheTextsAndMarksOfTheFile) {
       if (timer != nullptr) install.host->Operate(screen, timer->on_timer);
       auto* grid = dynamic_cast<Grid*>(screen.FindControl("grid1"));
       if (grid != nullptr) grid->SetActiveRow(grid->rows());
-      screens += ReplaceText(LinesOf(screen), folder, "<install>/", ReplaceMode::kExact);
+      std::string lines = LinesOf(screen);
+      std::replace(lines.begin(), lines.end(), '\\', '/');
+      screens += ReplaceText(lines, folder, "<install>/", ReplaceMode::kExact);
       const auto pressed = kPressed.find(screen.name());
       if (pressed != kPressed.end()) install.host->Press(screen, pressed->second);
     };
