@@ -9,7 +9,7 @@
 
 namespace golf {
 
-// Describes an entry of a menu of the main window.
+// Describes a menu item of the main window.
 struct MenuEntry {
   std::string caption;
   std::function<void(SharedState&, ScreenHost&)> open;

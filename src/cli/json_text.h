@@ -23,8 +23,8 @@ Json JsonSingle(float value);
 
 // Writes one object as a line of standard output and flushes it.
 void WriteJsonLine(const Json& object);
-// Does the same, and adds an array as the last key of the object. `each_element` calls its argument
-// with each element of the array. The elements are written one by one, since there may be many. The
+// Writes an object whose last key is an array. `each_element` calls its argument with each element
+// of the array. The elements are written one by one, since there may be many. The
 // object must have at least one key.
 using EachElement = std::function<void(const std::function<void(const Json&)>&)>;
 void WriteJsonLine(const Json& object, std::string_view key, const EachElement& each_element);

@@ -150,7 +150,7 @@ void WriteHeldChanges(const Options& options, SharedState& state) {
   Transactions& transactions = *state.transactions;
   const RecordKinds kinds = MakeRecordKinds(state);
   const EachChange each_change = [&](const auto& each) {
-    ForEachChange(*transactions.held().held(), transactions.history().paths(), kinds, each);
+    ForEachHeldChange(transactions, kinds, each);
   };
   if (!options.json) std::cout << "\nA dry run: nothing was changed. The run would change:\n\n";
   WriteChangeCounts(kinds, options.json, each_change);

@@ -105,7 +105,7 @@ class UndoCommand {
   void ShowHeld() {
     const RecordKinds kinds = MakeRecordKinds(state_);
     const EachChange each_change = [&](const auto& each) {
-      ForEachChange(*transactions_.held().held(), transactions_.history().paths(), kinds, each);
+      ForEachHeldChange(transactions_, kinds, each);
     };
     const std::int64_t changes = WriteChangeCounts(kinds, options_.json, each_change);
     if (!options_.json) WriteChanges(state_, kinds, each_change);

@@ -25,8 +25,8 @@ class LeftOut {
 
   // Calls `each` with the title and the reason of each entry.
   void ForEach(const std::function<void(std::string_view, std::string_view)>& each) const;
-  // Calls `write` with each line of the section of a report that shows the list. There are no lines
-  // if the list is empty.
+  // Formats the list as a section of a report, and calls `write` with each line. An empty list has
+  // no lines.
   void ForEachLine(const std::function<void(std::string_view)>& write) const;
   // Removes such sections from a report, and returns them.
   static std::string TakeSections(std::string& report);

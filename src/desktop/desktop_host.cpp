@@ -83,8 +83,8 @@ std::string FaultsText(const std::vector<NumberedError>& faults) {
   return text;
 }
 
-// Returns a text with two lines for each reason. The second one contains the first names and the
-// number of the others.
+// Returns two lines for each reason: the reason, and then the first names with the number of the
+// other names.
 std::string LeftOutText(const LeftOut& left_out) {
   constexpr std::size_t kMostNames = 10;
   struct Group {

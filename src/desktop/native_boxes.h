@@ -15,7 +15,7 @@ namespace golf {
 // button if the box has no Cancel.
 BoxButton ShowMessageDialog(wxWindow* parent, const Box& box);
 
-// Contains the answer to a box that comes again and again in a run.
+// Contains the operator's answer to a question that a run has asked several times.
 struct RepeatedAnswer {
   BoxButton button;  // meaningless if `stops` is true
   bool for_rest;     // true if the same boxes later in the run must get the same answer

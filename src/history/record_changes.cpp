@@ -127,8 +127,9 @@ void ForEachChange(HistoryFile& history, const RecordKinds& kinds,
   reporter.Finish();
 }
 
-void ForEachChange(HeldChanges& changes, const HistoryPaths& paths, const RecordKinds& kinds,
-                   const std::function<void(const RecordChange&)>& each) {
+void ForEachHeldChange(Transactions& transactions, const RecordKinds& kinds,
+                       const std::function<void(const RecordChange&)>& each) {
+  if (!transactions.IsOpen()) return;
   ChangeReporter reporter(kinds, each);
   HistoryPlace bytes;
   const auto place = [&](const HeldPlace& held, std::string_view code) {
@@ -136,7 +137,7 @@ void ForEachChange(HeldChanges& changes, const HistoryPaths& paths, const Record
     reporter.Place(held.offset, held.group, bytes.old_bytes, bytes.new_bytes);
   };
   ReadHeld(
-      changes, paths,
+      *transactions.held().held(), transactions.history().paths(),
       {.group = [&](ChangeGroup group, std::string_view title) { reporter.Group(group, title); },
        .file = [&](const HistoryFileEntry& file) { reporter.File(file); },
        .place = place});

@@ -7,10 +7,10 @@
 #include <string>
 #include <string_view>
 
-#include "history/held_platform.h"
 #include "history/history_file.h"
 #include "history/history_folder.h"
 #include "history/record_kinds.h"
+#include "history/transactions.h"
 
 namespace golf {
 
@@ -40,9 +40,10 @@ using EachChange = std::function<void(const std::function<void(const RecordChang
 void ForEachChange(HistoryFile& history, const RecordKinds& kinds,
                    const std::function<void(const RecordChange&)>& each);
 
-// Does the same for held changes. Raises HoldFailed if they cannot be read.
-void ForEachChange(HeldChanges& changes, const HistoryPaths& paths, const RecordKinds& kinds,
-                   const std::function<void(const RecordChange&)>& each);
+// Does the same for the changes that are held. There are none if no transaction is open. Raises
+// HoldFailed if they cannot be read.
+void ForEachHeldChange(Transactions& transactions, const RecordKinds& kinds,
+                       const std::function<void(const RecordChange&)>& each);
 
 // Returns the name of a file without its folder.
 std::string_view FileNameOf(std::string_view file);

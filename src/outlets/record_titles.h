@@ -13,9 +13,8 @@ namespace golf {
 // be read.
 std::string TournamentTitle(InstallReader& reader, std::string_view file);
 
-// Returns the name of the league to which `file` belongs. Its control file has the same name with
-// the extension .ZL8. Returns the file name without its extension if the control file cannot be
-// read.
+// Returns the name of the league to which `file` belongs, from the control file, which has the
+// extension .ZL8. Returns the file name without extension if the control file cannot be read.
 std::string LeagueTitle(InstallReader& reader, std::string_view file);
 
 // Returns the name of a record. Returns an empty text if the record is free or if records of this

@@ -54,8 +54,8 @@ class TournamentScorePosting {
   double AdjustedScore();
   void Log(const std::string& reason);
   void LeaveOutEntry(std::string_view reason);
-  // Runs a statement without which the score is not posted. If it fails, leaves out the player and
-  // returns false.
+  // Runs a statement that must succeed before the score can be posted. If it fails, the function
+  // adds the player to the list of those left out and returns false.
   bool NextOrLeaveOut(const std::function<void()>& statement);
   void NoteFault(const NumberedError& fault);
 

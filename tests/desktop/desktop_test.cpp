@@ -30,7 +30,7 @@ class TestHost : public DesktopHost {
   std::function<void(const Progress&)> on_progress;
 };
 
-// Chooses the first roster when the picker is shown.
+// Waits for the roster picker, and then chooses its first roster.
 void PickKelvaneRoster(Operator& user, DesktopHost& host) {
   user.When(
       "the picker", [&] { return host.IsShown("LoadRoster"); },

@@ -87,7 +87,8 @@ wxRect PlaceOf(const wxWindow& widget) {
   return place;
 }
 
-// Presses the tab key until the focus is where it began. Returns the widgets in their order.
+// Presses the tab key until the first widget has the focus again. Returns all widgets that had the
+// focus, in this order.
 std::vector<wxWindow*> Tour(bool backward) {
   std::vector<wxWindow*> tour;
   constexpr std::size_t kMost = 100;

@@ -85,7 +85,6 @@ std::string LinesOf(const Screen& screen) {
     std::string& text = texts[name];
     std::replace(text.begin(), text.end(), '\r', ' ');
     std::replace(text.begin(), text.end(), '\n', ' ');
-    std::replace(text.begin(), text.end(), '\\', '/');  // separates folders on Windows
     text.erase(
         std::unique(text.begin(), text.end(), [](char a, char b) { return a == ' ' && b == ' '; }),
         text.end());

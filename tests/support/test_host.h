@@ -106,7 +106,8 @@ class TestInstall {
   std::unique_ptr<Platform> real_ = MakePlatform(folder.Path());
 };
 
-// Returns what the runs have left out, a line for each, without the descriptions of errors.
+// Returns a line for each golfer, score or course that the runs have left out. Omits the
+// descriptions of errors.
 inline std::string LeftOutLines(const TestInstall& install) {
   std::string lines;
   install.host->left_out().ForEach([&lines](std::string_view title, std::string_view reason) {

@@ -9,12 +9,12 @@
 #include "core/date_value.h"
 #include "core/little_endian.h"
 #include "core/text.h"
+#include "outlets/checkup/possible_days.h"
 #include "stores/kelvane/kelvane_layouts.h"
 
 namespace golf {
 namespace {
 
-constexpr DateValue kFirstDay = 7306;  // 1 January 1920
 // A round of 18 holes, which has a rating of at least 45, takes at least 40 strokes.
 constexpr float kRatingOf18Holes = 45;
 constexpr int kLowestOf18Holes = 40;
@@ -31,6 +31,19 @@ struct Fault {
 
   void Add(const std::string& text) {
     if (++count == 1) first = text;
+  }
+};
+
+struct HistoryFaults {
+  Fault order{FindingCode::kHistoryOrder};
+  Fault date{FindingCode::kScoreDate};
+  Fault value{FindingCode::kScoreValue};
+  Fault course{FindingCode::kScoreCourse};
+  Fault deleted_course{FindingCode::kScoreCourseDeleted};
+  Fault tee{FindingCode::kScoreTee};
+
+  std::array<const Fault*, 6> All() const {
+    return {&order, &date, &value, &course, &deleted_course, &tee};
   }
 };
 
@@ -126,9 +139,7 @@ class RosterCheck {
     const KnownGolfer& golfer = golfers_.golfers[next_];
     Counters found{};
     DateValue newer = HUGE_VAL;
-    Fault faults[] = {{FindingCode::kHistoryOrder},       {FindingCode::kScoreDate},
-                      {FindingCode::kScoreValue},         {FindingCode::kScoreCourse},
-                      {FindingCode::kScoreCourseDeleted}, {FindingCode::kScoreTee}};
+    HistoryFaults faults;
     for (int i = 0; i < kKelvaneScores; ++i) {
       const std::string_view bytes = history.Bytes().substr(
           static_cast<std::size_t>(i) * kKelvaneScoreLength, kKelvaneScoreLength);
@@ -136,17 +147,17 @@ class RosterCheck {
       Count(bytes, found);
       CheckScore(golfer, i + 1, bytes, newer, faults);
     }
-    for (const Fault& fault : faults) {
-      if (fault.count == 0) continue;
-      std::string text = fault.first;
-      if (fault.count > 1) {
-        text += " " + std::to_string(fault.count - 1) +
-                (fault.count == 2 ? " more score is" : " more scores are") + " like it.";
+    for (const Fault* const fault : faults.All()) {
+      if (fault->count == 0) continue;
+      std::string text = fault->first;
+      if (fault->count > 1) {
+        text += " " + std::to_string(fault->count - 1) +
+                (fault->count == 2 ? " more score is" : " more scores are") + " like it.";
       }
-      scan_.Add(fault.code, base_ + ".kvs", place, golfer.Title(), text);
+      scan_.Add(fault->code, base_ + ".kvs", place, golfer.Title(), text);
     }
     // The other counters depend on the header and on the dates.
-    const bool are_dates_right = has_header_ && faults[0].count == 0 && faults[1].count == 0;
+    const bool are_dates_right = has_header_ && faults.order.count == 0 && faults.date.count == 0;
     CompareCounters(place, golfer, counters_[next_], found, are_dates_right ? kCounters : 1);
   }
 
@@ -178,7 +189,7 @@ class RosterCheck {
   }
 
   void CheckScore(const KnownGolfer& golfer, int number, std::string_view bytes, DateValue& newer,
-                  Fault (&faults)[6]) {
+                  HistoryFaults& faults) {
     Record<KelvaneScoreLayout> score;
     bytes.copy(score.MutableBytes().data(), kKelvaneScoreLength);
     const DateValue date = score.Get<"Date">();
@@ -186,10 +197,11 @@ class RosterCheck {
       const std::string day = FormatDay(date, scan_.state().DateFormat);
       return "Score " + std::to_string(number) + (day.empty() ? "" : " of " + day);
     };
-    if (!(date >= kFirstDay && date < last_day_)) {  // also true for a value that is no number
-      faults[1].Add(what() + " has an impossible date.");
+    if (!(date >= kFirstPossibleDay &&
+          date < last_day_)) {  // also true for a value that is no number
+      faults.date.Add(what() + " has an impossible date.");
     } else {
-      if (date > newer) faults[0].Add(what() + " is newer than the one before it.");
+      if (date > newer) faults.order.Add(what() + " is newer than the one before it.");
       newer = date;
       const auto day = static_cast<std::int64_t>(date);
       if (golfer.id > 0 && wanted_days_.contains(day)) {
@@ -197,7 +209,7 @@ class RosterCheck {
       }
     }
     const std::string wrong = WrongValue(score);
-    if (!wrong.empty()) faults[2].Add(what() + wrong);
+    if (!wrong.empty()) faults.value.Add(what() + wrong);
     CheckCourse(score, what, faults);
   }
 
@@ -230,21 +242,22 @@ class RosterCheck {
   }
 
   template <class What>
-  void CheckCourse(const Record<KelvaneScoreLayout>& score, const What& what, Fault (&faults)[6]) {
+  void CheckCourse(const Record<KelvaneScoreLayout>& score, const What& what,
+                   HistoryFaults& faults) {
     const int number = score.Get<"CourseNumber">();
     if (!courses_.is_read || number == 0) return;
     const KnownCourse* const course = courses_.Find(number);
     const std::string named = " was played on course " + std::to_string(number);
     if (course == nullptr) {
-      faults[3].Add(what() + named + ", which does not exist.");
+      faults.course.Add(what() + named + ", which does not exist.");
     } else if (!course->is_active) {
-      faults[4].Add(what() + named + " (" + course->name + "), which was deleted.");
+      faults.deleted_course.Add(what() + named + " (" + course->name + "), which was deleted.");
     } else if (const int tee = score.Get<"TeeNumber">(); tee > kTeeSlots) {
-      faults[3].Add(what() + " was played from tee " + std::to_string(tee) +
-                    ", which does not exist.");
+      faults.course.Add(what() + " was played from tee " + std::to_string(tee) +
+                        ", which does not exist.");
     } else if (tee != 0 && !course->HasTee(tee)) {
-      faults[5].Add(what() + " was played from tee " + std::to_string(tee) + " of " + course->name +
-                    ", which is not active.");
+      faults.tee.Add(what() + " was played from tee " + std::to_string(tee) + " of " +
+                     course->name + ", which is not active.");
     }
   }
 

@@ -9,6 +9,7 @@
 
 #include "core/date_value.h"
 #include "core/text.h"
+#include "outlets/checkup/possible_days.h"
 #include "stores/quenby/quenby_layouts.h"
 #include "stores/quenby/tournament_control.h"
 
@@ -24,8 +25,6 @@ constexpr int kHighestHoleScore = 20;
 constexpr int kTeams = 200;
 constexpr int kMostRounds = 5;
 constexpr int kFlights = 26;
-constexpr DateValue kFirstDay = 7306;  // 1 January 1920
-constexpr DateValue kLastDay = 73050;  // 31 December 2099
 
 class GolferCheck {
  public:
@@ -172,7 +171,7 @@ class TournamentCheck {
 
   void CheckDate(int round) {
     const DateValue date = control_.Get<"DateofRound">(round);
-    if (date >= kFirstDay && date <= kLastDay) return;
+    if (IsPossibleDay(date)) return;
     scan_.Add(FindingCode::kTournamentDate, base_ + ".Q9C", 1, title_,
               "Round " + std::to_string(round) + " has no possible date.");
   }

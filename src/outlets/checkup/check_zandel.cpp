@@ -1,12 +1,13 @@
 #include "outlets/checkup/check_zandel.h"
 
 #include <algorithm>
-#include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
 #include "core/text.h"
+#include "outlets/checkup/possible_days.h"
 #include "stores/zandel/zandel_files.h"
 #include "stores/zandel/zandel_layouts.h"
 
@@ -16,17 +17,11 @@ namespace {
 // These are the scores that the transfer to Kelvane accepts.
 constexpr int kLowestScore = 21;
 constexpr int kHighestScore = 199;
-constexpr float kFirstDay = 7306;       // 1 January 1920
-constexpr float kLastDay = 73050;       // 31 December 2099
 constexpr std::size_t kLeagueName = 4;  // characters of a base that name the league
-
-// Maps the files of substitutes that were read to their numbers of records. All divisions of a
-// league share a file.
-using SubstituteFiles = std::map<std::string, std::optional<std::int64_t>>;
 
 class DivisionCheck {
  public:
-  DivisionCheck(FileScan& scan, const KnownCourses& courses, SubstituteFiles& substitutes,
+  DivisionCheck(FileScan& scan, const KnownCourses& courses, std::set<std::string>& substitutes,
                 std::vector<KnownGolfers>& known, const std::string& base)
       : scan_(scan),
         courses_(courses),
@@ -106,11 +101,9 @@ class DivisionCheck {
     const std::size_t slash = base_.rfind('/') + 1;
     const std::string file = base_.substr(0, slash + kLeagueName) + ".ZS8";
     const int last = control_.Get<"LastSubRecord">();
-    const auto [known, is_new] = substitutes_.emplace(file, std::nullopt);
-    if (!is_new) return;  // the other divisions have the same file
-    known->second = ReadPlayers(file, kFirstSubstitute, last);
+    if (!substitutes_.insert(file).second) return;  // the other divisions have the same file
+    const auto count = ReadPlayers(file, kFirstSubstitute, last);
     ReportLaterScores(file);
-    const std::optional<std::int64_t>& count = known->second;
     if (!count || scan_.IsDamaged(file)) return;
     if (last_player_ > std::max(last, kFirstSubstitute - 1)) {
       scan_.Add(FindingCode::kLeagueSubstitutes, base_ + ".ZL8", 1, title_,
@@ -194,8 +187,7 @@ class DivisionCheck {
     const int wanted = control_.Get<"EventCount">();
     const auto events =
         scan_.ForEach<LeagueEventLayout>(file, true, [&](std::int64_t record, const auto& event) {
-          const float date = event.template Get<"EventDate">();
-          if (record > wanted || (date >= kFirstDay && date <= kLastDay)) return;
+          if (record > wanted || IsPossibleDay(event.template Get<"EventDate">())) return;
           scan_.Add(FindingCode::kLeagueDate, file, record, title_,
                     "Event " + std::to_string(record) + " has no possible date.");
         });
@@ -209,7 +201,7 @@ class DivisionCheck {
 
   FileScan& scan_;
   const KnownCourses& courses_;
-  SubstituteFiles& substitutes_;
+  std::set<std::string>& substitutes_;  // the files that were read
   std::vector<KnownGolfers>& known_;
   std::string base_;  // of the paths of the division's files
   std::string title_;
@@ -226,7 +218,7 @@ class DivisionCheck {
 
 std::vector<KnownGolfers> CheckZandel(FileScan& scan, const KnownCourses& courses) {
   std::vector<KnownGolfers> known;
-  SubstituteFiles substitutes;
+  std::set<std::string> substitutes;
   const std::string& folder = scan.state().ZDDataPath;
   for (const std::string& base :
        scan.BasesLike(folder, "?????", {".ZL8", ".ZP8", ".ZT8", ".ZE8"})) {

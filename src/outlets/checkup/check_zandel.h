@@ -8,7 +8,7 @@
 
 namespace golf {
 
-// Checks Zandel's leagues. Returns the players and substitutes of each file.
+// Checks Zandel's leagues. Returns the golfers of each file of players or substitutes.
 std::vector<KnownGolfers> CheckZandel(FileScan& scan, const KnownCourses& courses);
 
 }  // namespace golf

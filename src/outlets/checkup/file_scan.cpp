@@ -26,10 +26,6 @@ bool FileScan::HasFolder(const std::string& folder) const {
   return state_.files.platform().FolderExists(folder);
 }
 
-bool FileScan::Exists(const std::string& file) const {
-  return state_.files.FileExists(state_.transactions->history().paths().Path(file));
-}
-
 std::vector<std::string> FileScan::FilesLike(const std::string& folder, std::string_view pattern) {
   if (!HasFolder(folder)) return {};
   return state_.files.FilesLike(folder, pattern);

@@ -31,7 +31,6 @@ class FileScan {
            std::string text);
 
   bool HasFolder(const std::string& folder) const;
-  bool Exists(const std::string& file) const;
   // Returns the names of the files in a folder that match a pattern such as "*.KV5". Returns none
   // if the folder does not exist.
   std::vector<std::string> FilesLike(const std::string& folder, std::string_view pattern);
@@ -48,7 +47,7 @@ class FileScan {
   bool IsDamaged(const std::string& file) const { return damaged_.contains(file); }
 
   // Calls `each` with the number, from 1, and the content of every whole record of a file. Returns
-  // the number of whole records, or nothing if the file is missing or cannot be read to its end.
+  // the number of whole records. Returns nothing if the file is missing or a read fails.
   // Adds findings for a file that is unreadable, has a wrong length, or is missing although it is
   // required.
   template <class Layout, class Each>

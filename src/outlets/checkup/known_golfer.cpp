@@ -10,8 +10,8 @@
 namespace golf {
 namespace {
 
-// Contains the letters without accents for the characters 0xC0 to 0xDE of code page 1252. A blank
-// is no letter.
+// Maps the capital letters 0xC0 to 0xDE of code page 1252 to letters without accents. The
+// multiplication sign, 0xD7, is mapped to a blank.
 constexpr std::string_view kPlainLetters = "AAAAAAACEEEEIIIIDNOOOOO OUUUUYT";
 constexpr unsigned char kFirstAccent = 0xC0;
 

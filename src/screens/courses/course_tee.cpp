@@ -270,7 +270,7 @@ std::vector<Control*> CourseTee::Entries() {
 }
 
 // Updates the notes of all entries. An entry shows its fault after it has lost the focus, until the
-// fault is corrected. `left` is the control that has just lost the focus.
+// fault is corrected. `left` is the control that lost the focus last.
 void CourseTee::ShowNotes(const Control* left) {
   const auto faults = ActiveTee.value() ? Faults() : std::vector<std::pair<Control*, TeeFault>>();
   for (Control* entry : Entries()) {

@@ -5,7 +5,6 @@
 #include <unordered_map>
 #include <utility>
 
-#include "history/transactions.h"
 #include "outlets/change_summary.h"
 #include "outlets/changed_fields.h"
 #include "stores/course/course_layout.h"
@@ -85,11 +84,8 @@ ChangeTable TableOfChanges(SharedState& state, const RecordKinds& kinds,
 }
 
 ChangeTable TableOfHeldChanges(SharedState& state, const RecordKinds& kinds) {
-  Transactions& transactions = *state.transactions;
-  return TableOfChanges(state, kinds, [&](const auto& each) {
-    if (!transactions.IsOpen()) return;
-    ForEachChange(*transactions.held().held(), transactions.history().paths(), kinds, each);
-  });
+  return TableOfChanges(
+      state, kinds, [&](const auto& each) { ForEachHeldChange(*state.transactions, kinds, each); });
 }
 
 ChangeTable TableOfConflicts(SharedState& state, const std::vector<UndoConflict>& conflicts) {
