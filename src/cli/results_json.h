@@ -1,31 +1,14 @@
 #pragma once
 
-#include <variant>
-
 #include "cli/json_text.h"
-#include "scoring/round_results.h"
+#include "scoring/player/player_class.h"
+#include "scoring/team/team_class.h"
 
 namespace golf {
 
-// Holds a member function and the JSON key of its value.
-template <class Member>
-struct Named {
-  const char* name;
-  Member member;
-};
-
-inline Json AsJson(const std::string& text) { return JsonText(text); }
-inline Json AsJson(std::int32_t number) { return number; }
-inline Json AsJson(const TextOrNumber& value) {
-  return std::visit([](const auto& held) { return AsJson(held); }, value);
-}
-
-// Returns an array of the values for the indexes 1 to `last`.
-template <class ValueOf>
-Json Array(int last, ValueOf value_of) {
-  Json array = Json::array();
-  for (int i = 1; i <= last; ++i) array.push_back(AsJson(value_of(i)));
-  return array;
-}
+// Add every calculated value of the player's current entry, or of the current team, for a round.
+// The key of a value is the name of its member function. Raise the errors of the calculation.
+void AddResults(PlayerClass& player, bool decimals, int round, Json& object);
+void AddResults(TeamClass& team, int round, Json& object);
 
 }  // namespace golf

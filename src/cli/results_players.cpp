@@ -1,9 +1,8 @@
-#include "cli/results_players.h"
-
 #include <cmath>
 #include <utility>
 
 #include "cli/results_command.h"
+#include "cli/results_json.h"
 #include "scoring/tournament_class.h"
 
 namespace golf {

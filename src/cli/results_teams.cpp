@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cli/problems.h"
+#include "cli/results_json.h"
 #include "scoring/player/player_class.h"
 #include "scoring/tournament_class.h"
 

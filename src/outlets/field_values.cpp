@@ -18,8 +18,6 @@ namespace {
 constexpr std::string_view kHandicaps[] = {"EventHandicap", "Handicap",          "HandicapPlayed",
                                            "Index",         "TourGrossHandicap", "TourIndex"};
 
-constexpr double kCurrencyScale = 10000;
-
 bool IsHandicap(const Field& field) {
   return std::find(std::begin(kHandicaps), std::end(kHandicaps), field.name) !=
          std::end(kHandicaps);

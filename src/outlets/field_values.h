@@ -9,6 +9,9 @@
 
 namespace golf {
 
+// A stored amount of money is the amount times this factor.
+inline constexpr double kCurrencyScale = 10000;
+
 // These functions describe the elements of a field as texts in code page 1252. `nth` counts the
 // elements from 0; the last index varies fastest.
 

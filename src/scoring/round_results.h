@@ -17,6 +17,9 @@ inline constexpr int kFirstNine = 19;
 inline constexpr int kSecondNine = 20;
 inline constexpr int kWholeRound = 21;
 
+// Some results exist only for the first nine, the second nine and the round.
+inline constexpr int kRoundParts = 3;
+
 // Describes the holes that an entry of a table by hole covers, including `first` and `last`.
 struct CoveredHoles {
   int first;
@@ -58,7 +61,7 @@ struct RoundResults {
   ByDifference<ByHole<std::int32_t>> net_statistics;
   ByHole<std::int32_t> gross_points;
   ByHole<std::int32_t> net_points;
-  Indexed<float, 1, 3> quota_results;  // first nine, second nine, round
+  Indexed<float, 1, kRoundParts> quota_results;
 };
 
 }  // namespace golf

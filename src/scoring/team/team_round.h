@@ -13,6 +13,9 @@ namespace golf {
 // This is the number of golfers of a team whose balls can count.
 inline constexpr int kMostGolfersWithBalls = 10;
 
+// A team has these names: all last names in one text, then the names of the first eight golfers.
+inline constexpr int kTeamNames = 9;
+
 // Contains the calculated results of one team's round, in strokes and points. The float type is
 // required, as in RoundResults.
 struct TeamRound {
@@ -25,7 +28,7 @@ struct TeamRound {
 
   float handicap = 0;
   float quota = 0;
-  Indexed<float, 1, 3> quota_results;  // first nine, second nine, round
+  Indexed<float, 1, kRoundParts> quota_results;
   ByHole<std::int32_t> gross;
   ByHole<std::int32_t> net;
   Indexed<float, kFirstNine, kWholeRound> decimal_net;
@@ -38,8 +41,8 @@ struct TeamRound {
   std::int32_t putts = 0;
   std::int32_t greens = 0;
   std::int32_t fairways = 0;
-  std::int64_t earnings = 0;         // the amount times 10000
-  std::array<std::string, 9> names;  // all last names, then the first eight golfers
+  std::int64_t earnings = 0;  // the amount times 10000
+  std::array<std::string, kTeamNames> names;
   std::vector<Totals> totals;
   std::optional<ByHole<std::int32_t>> scramble_net;  // calculated when it is first needed
 };
