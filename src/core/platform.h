@@ -25,11 +25,13 @@ namespace golf {
 // call waits for a pipe or a device.
 
 // Permits a change of a file. Only ChangeGate and HistoryGate can make one, so no other code can
-// change a file. HistoryGate commits delayed changes.
+// change a file. HistoryGate commits delayed changes. NewFile writes a file that is not part of an
+// install.
 class ChangePass {
  private:
   friend class ChangeGate;
   friend class HistoryGate;
+  friend class NewFile;
   ChangePass() = default;
 };
 
@@ -136,5 +138,11 @@ void TakeStandardStreams();
 // the folder of the running program. Raises error 76 if the folder does not exist or is not a
 // folder.
 std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder);
+
+// Creates a file outside the install and opens it for writing. Raises error 75 if the path exists.
+std::unique_ptr<PlatformFile> CreateOutside(const std::string& utf8_path);
+// Waits until the file names created, changed and deleted in a folder outside the install are on
+// the disk. Windows offers no such call, so the function does nothing there.
+void SyncOutside(const std::string& utf8_folder);
 
 }  // namespace golf

@@ -275,6 +275,38 @@ std::string PictureFromStrftime(std::string_view form) {
   return TextFromUtf8(picture);
 }
 
+void CheckMode(mode_t mode, const std::string& native) {
+  if (S_ISDIR(mode)) FailWith(EISDIR, native);
+  if (!S_ISREG(mode)) throw PlatformError(PlatformFault::kIsNoFile, TextFromUtf8(native));
+}
+
+// Raises an error for anything but a regular file. This happens before the file is opened, since
+// opening a device may have an effect.
+void RefuseNoFile(const std::string& native) {
+  struct stat status {};
+  if (stat(native.c_str(), &status) == 0) CheckMode(status.st_mode, native);
+}
+
+// Checks the file again after it was opened, since another file may have replaced it after the
+// first check.
+FileIdentity CheckOpened(const Descriptor& descriptor, const std::string& native) {
+  if (descriptor.get() <= STDERR_FILENO) {
+    throw PlatformError(PlatformFault::kIsStandardStream, TextFromUtf8(native));
+  }
+  const struct stat status = StatusOf(descriptor, native);
+  CheckMode(status.st_mode, native);
+  return {status.st_dev, status.st_ino};
+}
+
+// Waits until the names in a folder are on the disk.
+void SyncNamesOf(const std::string& native) {
+  const Descriptor descriptor(open(native.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (descriptor.get() < 0) FailWith(errno == ENOENT ? ENOTDIR : errno, native);
+  const int code = SyncWith(fsync, descriptor);
+  // A file system that cannot sync folders returns EINVAL.
+  if (code != 0 && code != EINVAL) FailWith(code, native);
+}
+
 class PosixPlatform : public Platform {
  public:
   explicit PosixPlatform(std::string native_root)
@@ -320,14 +352,7 @@ class PosixPlatform : public Platform {
     }
   }
 
-  void SyncFolder(ChangePass, const std::string& folder) override {
-    const std::string native = Resolve(folder);
-    const Descriptor descriptor(open(native.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (descriptor.get() < 0) FailWith(errno == ENOENT ? ENOTDIR : errno, native);
-    const int code = SyncWith(fsync, descriptor);
-    // A file system that cannot sync folders returns EINVAL.
-    if (code != 0 && code != EINVAL) FailWith(code, native);
-  }
+  void SyncFolder(ChangePass, const std::string& folder) override { SyncNamesOf(Resolve(folder)); }
 
   std::unique_ptr<PlatformFile> OpenScratch() override {
     const char* wanted = std::getenv("TMPDIR");
@@ -434,29 +459,6 @@ class PosixPlatform : public Platform {
     return made;
   }
 
-  // Raises an error for anything but a regular file. This happens before the file is opened, since
-  // opening a device may have an effect.
-  static void RefuseNoFile(const std::string& native) {
-    struct stat status {};
-    if (stat(native.c_str(), &status) == 0) CheckMode(status.st_mode, native);
-  }
-
-  static void CheckMode(mode_t mode, const std::string& native) {
-    if (S_ISDIR(mode)) FailWith(EISDIR, native);
-    if (!S_ISREG(mode)) throw PlatformError(PlatformFault::kIsNoFile, TextFromUtf8(native));
-  }
-
-  // Checks the file again after it was opened, since another file may have replaced it after the
-  // first check.
-  static FileIdentity CheckOpened(const Descriptor& descriptor, const std::string& native) {
-    if (descriptor.get() <= STDERR_FILENO) {
-      throw PlatformError(PlatformFault::kIsStandardStream, TextFromUtf8(native));
-    }
-    const struct stat status = StatusOf(descriptor, native);
-    CheckMode(status.st_mode, native);
-    return {status.st_dev, status.st_ino};
-  }
-
   // Returns the system's path for a path in code page 1252. Each name below the root is spelt as on
   // the disk. A missing last name is spelt as given. Raises error 76 if a folder of the path does
   // not exist.
@@ -521,5 +523,14 @@ std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
   if (!IsFolder(folder)) throw NoInstall(TextFromUtf8(utf8_folder));
   return std::make_unique<PosixPlatform>(folder);
 }
+
+std::unique_ptr<PlatformFile> CreateOutside(const std::string& utf8_path) {
+  Descriptor made(open(utf8_path.c_str(), O_RDWR | O_CREAT | O_EXCL | kOpenFlags, 0666));
+  if (made.get() < 0) FailWith(errno, utf8_path);
+  const FileIdentity identity = CheckOpened(made, utf8_path);
+  return std::make_unique<PosixFile>(std::move(made), utf8_path, true, identity);
+}
+
+void SyncOutside(const std::string& utf8_folder) { SyncNamesOf(utf8_folder); }
 
 }  // namespace golf

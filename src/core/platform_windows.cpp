@@ -550,4 +550,14 @@ std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
   return std::make_unique<WindowsPlatform>(std::move(folder));
 }
 
+std::unique_ptr<PlatformFile> CreateOutside(const std::string& utf8_path) {
+  const std::wstring native = Native(Plain(Absolute(WideFromUtf8(utf8_path))));
+  Handle handle = OpenHandle(native, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, CREATE_NEW);
+  if (!handle.IsOpen()) FailWith(GetLastError(), native);
+  CheckOpened(handle, native);
+  return std::make_unique<WindowsFile>(std::move(handle), native, true);
+}
+
+void SyncOutside(const std::string&) {}
+
 }  // namespace golf

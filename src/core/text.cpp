@@ -65,12 +65,6 @@ bool IsSignedNumber(std::string_view text) {
          text.find_first_of("0123456789") != std::string_view::npos;
 }
 
-bool LooksLikeFormula(std::string_view text) {
-  if (text.empty()) return false;
-  if (text[0] == '=' || text[0] == '@') return true;
-  return (text[0] == '+' || text[0] == '-') && !IsSignedNumber(text);
-}
-
 }  // namespace
 
 std::string UpperCase(std::string_view text) { return Mapped(text, kUpper); }
@@ -165,6 +159,12 @@ std::string CsvValue(std::string_view text) {
   std::string quoted = "\"";
   for (const char c : text) quoted.append(c == '"' ? 2 : 1, c);
   return quoted + '"';
+}
+
+bool LooksLikeFormula(std::string_view text) {
+  if (text.empty()) return false;
+  if (text[0] == '=' || text[0] == '@') return true;
+  return (text[0] == '+' || text[0] == '-') && !IsSignedNumber(text);
 }
 
 std::string CsvLine(const std::vector<std::string>& values) {

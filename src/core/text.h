@@ -45,9 +45,11 @@ std::string_view LastCharacters(std::string_view text, std::size_t count);
 
 // Returns a value for a line of CSV, in quotes if necessary. The text may also be UTF-8.
 std::string CsvValue(std::string_view text);
+// Returns true for a text that a spreadsheet would read as a formula. Such a text begins with "=",
+// "+", "-" or "@" and is not a number.
+bool LooksLikeFormula(std::string_view text);
 // Returns a line of CSV for a spreadsheet, without a line end. Puts an apostrophe before a text
-// that a spreadsheet would read as a formula. Such a text begins with "=", "+", "-" or "@" and is
-// not a number.
+// that looks like a formula.
 std::string CsvLine(const std::vector<std::string>& values);
 
 enum class ReplaceMode : int { kDigitsToMarks = 1, kIgnoringCase = 2, kExact = 3 };
