@@ -7,11 +7,7 @@
 #include "core/text.h"
 #include "history/record_changes.h"
 #include "outlets/file_kinds.h"
-#include "stores/course/course_layout.h"
-#include "stores/kelvane/kelvane_layouts.h"
-#include "stores/quenby/quenby_layouts.h"
-#include "stores/zandel/zandel_files.h"
-#include "stores/zandel/zandel_layouts.h"
+#include "outlets/free_records.h"
 
 namespace golf {
 namespace {
@@ -33,23 +29,6 @@ std::string Stem(std::string_view file) {
 
 std::string Numbered(std::string_view what, std::int64_t number) {
   return std::string(what) + " " + std::to_string(number);
-}
-
-// IsFree returns true for a record that contains no golfer, roster, course or league. Records of
-// other kinds are never free.
-bool IsFree(const Record<KelvaneGolferLayout>& golfer) { return golfer.Get<"Status">() < 1; }
-bool IsFree(const Record<PlayerLayout>& golfer) { return golfer.Get<"IDNum">() < 1; }
-bool IsFree(const Record<RosterLayout>& roster) { return roster.Get<"IsRosterActive">() == 0; }
-bool IsFree(const Record<CourseLayout>& course) { return course.Get<"activeflag">() == 0; }
-bool IsFree(const Record<TournamentPlayerLayout>& entry) {
-  return entry.Get<"TourRosterRecordPointer">() < 1;
-}
-bool IsFree(const Record<LeaguePlayerLayout>& player) {
-  return !HasLastName(player) && player.Get<"GolferID">() < 1;
-}
-template <class Layout>
-bool IsFree(const Record<Layout>&) {
-  return false;
 }
 
 // NameOf returns the name in a record, also if the record is free.
