@@ -130,6 +130,7 @@ struct Arguments {
   ResultsRequest results;
   CourseRequest course;
   CheckRequest check;
+  ExportArguments data_export;
   std::int32_t run = 0;
   std::string forgotten;
   UndoRequest undo;
@@ -213,6 +214,30 @@ void AddCheck(CLI::App& app, const Options& options, CheckRequest& request, Comm
       ->type_name("LEVEL");
   check->add_flag("--repair", request.repair,
                   "Write wrong course indexes anew first; undo puts them back");
+}
+
+void AddExport(CLI::App& app, const Options& options, ExportArguments& request, Command& chosen) {
+  CLI::App* command =
+      AddCommand(app, "export", "Write all golf data and results as tables for other programs",
+                 "--install golf-demo export --to golf.sqlite", chosen,
+                 [&] { return RunExport(options, request); });
+  command
+      ->add_option("--to", request.to,
+                   "The new file for SQLite, or the new folder for CSV and JSON Lines")
+      ->required()
+      ->type_name("TARGET");
+  command
+      ->add_option("--format", request.format,
+                   "sqlite, csv or jsonl. If left out, a target that ends in .sqlite,\n.sqlite3 or "
+                   ".db is an SQLite file, one that ends in .jsonl is a\nfolder of JSON Lines, and "
+                   "any other one a folder of CSV files")
+      ->check(CLI::IsMember(ExportFormats()))
+      ->type_name("FORMAT");
+  command->add_flag("--replace", request.replace,
+                    "Replace an existing file, or the folder of an earlier export");
+  command->add_flag("--with-deleted", request.with_deleted, "Also deleted records");
+  command->add_flag("--bom", request.bom,
+                    "Begin CSV files with the byte order mark that Excel needs");
 }
 
 void AddGolfersKvToZd(CLI::App& app, Options& options, GolfersKvToZdArguments& request,
@@ -395,6 +420,7 @@ void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chos
 
   AddCourse(app, options, args.course, chosen);
   AddCheck(app, options, args.check, chosen);
+  AddExport(app, options, args.data_export, chosen);
 
   AddTransfer(app, options, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
               "courses-kv-to-qb", chosen, [&] { return RunCoursesKvToQb(options); });

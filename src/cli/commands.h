@@ -44,6 +44,16 @@ struct CheckRequest {
 };
 ExitCode RunCheck(const Options& options, const CheckRequest& request);
 
+struct ExportArguments {
+  std::string to;      // the new file or folder, UTF-8
+  std::string format;  // one of ExportFormats; by the ending of `to` if empty
+  bool replace = false;
+  bool with_deleted = false;
+  bool bom = false;
+};
+std::vector<std::string> ExportFormats();
+ExitCode RunExport(const Options& options, const ExportArguments& request);
+
 struct ResultsRequest {
   std::string what;  // one of ResultsNames
   std::int32_t tournament = 0;

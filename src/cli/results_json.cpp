@@ -25,7 +25,10 @@ Json ArrayOf(int count, ValueOf value_of) {
 struct JsonVisitor {
   Json& object;
 
-  void Value(const char* name, const ResultValue& value) { object[name] = AsJson(value); }
+  template <class ValueOf>
+  void Value(const char* name, ValueOf value_of) {
+    object[name] = AsJson(value_of());
+  }
 
   template <class ValueOf>
   void Array(const char* name, int count, ValueOf value_of) {
@@ -45,12 +48,12 @@ struct JsonVisitor {
 
 void AddResults(PlayerClass& player, bool decimals, int round, Json& object) {
   JsonVisitor visitor{object};
-  VisitPlayerValues(player, decimals, round, visitor);
+  VisitPlayerValues(&player, decimals, round, visitor);
 }
 
 void AddResults(TeamClass& team, int round, Json& object) {
   JsonVisitor visitor{object};
-  VisitTeamValues(team, round, visitor);
+  VisitTeamValues(&team, round, visitor);
 }
 
 }  // namespace golf

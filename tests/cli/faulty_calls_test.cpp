@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <span>
 
 #include "cli/command_line_fixture.h"
@@ -169,6 +170,39 @@ TEST_F(FaultyCallsTest, ACommitThatCannotBePutBackIsNotRetried) {
     EXPECT_EQ(ended.code, 3);
   }
   EXPECT_GT(interrupted, 0);
+}
+
+// Some of the calls of an export fail, or a request to stop comes before them.
+TEST_F(FaultyCallsTest, AFailedExportLeavesNothingBehind) {
+  Begin({});
+  Restore();
+  const Tree install = AllFiles();
+  folder.Write("old.sqlite", "old");
+  for (const std::string target : {"e.sqlite", "old.sqlite --replace", "e"}) {
+    int failed = 0;
+    int late = 0;  // failures after the export has got its name
+    bool came = true;
+    for (int nth = 1; came; nth += 1 + nth / 3) {
+      for (const std::string& fault : {std::to_string(ENOSPC), std::string("stop")}) {
+        SCOPED_TRACE(target + ", " + fault + ", call " + std::to_string(nth));
+        const Ended ended = InFault("export --to " + target, fault, nth, came);
+        const bool is_done = ended.code == 0;
+        EXPECT_TRUE(is_done || ended.code == (fault == "stop" ? 128 + SIGTERM : 3))
+            << ended.problems;
+        failed += is_done ? 0 : 1;
+        for (const char* const name : {"e.sqlite", "e"}) {
+          late += !is_done && fs::exists(folder.Path(name)) ? 1 : 0;
+          EXPECT_FALSE(fs::exists(folder.Path(name + std::string(".new-1"))));
+          fs::remove_all(folder.Path(name));
+        }
+        late += !is_done && folder.Read("old.sqlite") != "old" ? 1 : 0;
+        folder.Write("old.sqlite", "old");
+        EXPECT_TRUE(AllFiles() == install);
+      }
+    }
+    EXPECT_GT(failed, 10) << target;
+    EXPECT_LE(late, 1) << target;
+  }
 }
 
 // The test "faulty_calls_full" of CTest runs it.

@@ -1,7 +1,7 @@
 // Uses arbitrary bytes as each kind of file. The first byte selects the kind, and the other bytes
 // are the file. All other files are those of a made-up club. The target shows the record, opens
-// every screen and presses its buttons, runs transfers, and calculates all results. A NumberedError
-// is a valid result. Any other exception ends the program.
+// every screen and presses its buttons, runs transfers, calculates all results, checks the install
+// and exports it. A NumberedError is a valid result. Any other exception ends the program.
 
 #include <cstdint>
 #include <cstdlib>
@@ -12,6 +12,8 @@
 #include "cli/field_text.h"
 #include "cli/results_json.h"
 #include "forms/headless_host.h"
+#include "outlets/checkup/checkup.h"
+#include "outlets/export/export_install.h"
 #include "outlets/file_kinds.h"
 #include "scoring/layouts/custom_standings.h"
 #include "scoring/open_tournament.h"
@@ -20,6 +22,7 @@
 #include "scoring/tournament_class.h"
 #include "stores/kelvane/kelvane_files.h"
 #include "stores/kelvane/kelvane_scores.h"
+#include "support/checked_sink.h"
 #include "support/memory_platform.h"
 
 namespace golf {
@@ -142,6 +145,12 @@ void WalkScores(SharedState& state) {
   }
 }
 
+void WalkOutlets(SharedState& state) {
+  CheckInstall(state, [](const Finding& finding) { Need(!finding.text.empty()); });
+  CheckedSink sink(Need);
+  ExportInstall({state, sink, true, [](const Progress&) {}, [](const std::string&) {}});
+}
+
 constexpr const char* kFiles[] = {
     "kvdata/club18.kv5",   "kvdata/club18.kvg",   "kvdata/club18.kvs",   "kvsystem.fil",
     "qbdata/qbmaster.q9d", "qbdata/qbroster.q9d", "qbdata/qbgolfer.q9d", "qbdata/x0001.q9c",
@@ -160,7 +169,7 @@ MemoryPlatform MadeUpClub() {
 
 void Walk(std::string_view file, std::string_view bytes) {
   static const MemoryPlatform kClub = MadeUpClub();
-  for (void (*walk)(SharedState&) : {WalkStores, WalkScores, WalkScreens}) {
+  for (void (*walk)(SharedState&) : {WalkStores, WalkScores, WalkOutlets, WalkScreens}) {
     auto platform = std::make_unique<MemoryPlatform>(kClub.Copy());
     platform->Bytes(file) = bytes;
     Application application(std::move(platform));

@@ -97,4 +97,9 @@ int mkdir(const char* path, mode_t mode) noexcept {
 int fsync(int file) { return Call<decltype(fsync)>("fsync", file); }
 int fdatasync(int file) { return Call<decltype(fdatasync)>("fdatasync", file); }
 
+// SQLite calls these names.
+ssize_t pwrite64(int, const void*, size_t, off64_t) __attribute__((alias("pwrite")));
+int open64(const char*, int, ...) __attribute__((alias("open")));
+int ftruncate64(int, off64_t) noexcept __attribute__((alias("ftruncate")));
+
 }  // extern "C"

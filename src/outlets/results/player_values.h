@@ -8,14 +8,14 @@ namespace golf {
 namespace detail {
 
 template <class Visitor>
-void VisitPlayerHoles(PlayerClass& player, int round, Visitor& visitor) {
+void VisitPlayerHoles(PlayerClass* player, int round, Visitor& visitor) {
   const auto visit = [&](const char* name, int count, auto member) {
-    visitor.Array(name, count, [&](int i) -> ResultValue { return (player.*member)(i, round); });
+    visitor.Array(name, count, [&](int i) -> ResultValue { return (player->*member)(i, round); });
   };
   const auto visit_differences = [&](const char* name, auto member) {
     visitor.Arrays(name, -kMostDifference, kMostDifference, kWholeRound,
                    [&](int difference, int hole) -> ResultValue {
-                     return (player.*member)(difference, hole, round);
+                     return (player->*member)(difference, hole, round);
                    });
   };
   // The next three values are those of the round that was calculated last, so they must be read
@@ -25,7 +25,7 @@ void VisitPlayerHoles(PlayerClass& player, int round, Visitor& visitor) {
   visit("TourHoleAdjusted", kHoles, &PlayerClass::TourHoleAdjusted);
   visitor.Array("TourScoreGross", kWholeRound, [&](int hole) {
     return std::visit([](const auto& score) -> ResultValue { return score; },
-                      player.TourScoreGross(hole, round));
+                      player->TourScoreGross(hole, round));
   });
   visit("TourScoreGrossValue", kWholeRound, &PlayerClass::TourScoreGrossValue);
   visit("TourScoreNet", kWholeRound, &PlayerClass::TourScoreNet);
@@ -37,9 +37,9 @@ void VisitPlayerHoles(PlayerClass& player, int round, Visitor& visitor) {
 }
 
 template <class Visitor>
-void VisitPlayerRound(PlayerClass& player, int round, Visitor& visitor) {
+void VisitPlayerRound(PlayerClass* player, int round, Visitor& visitor) {
   const auto visit = [&](const char* name, auto member) {
-    visitor.Value(name, (player.*member)(round));
+    visitor.Value(name, [&]() -> ResultValue { return (player->*member)(round); });
   };
   visit("TourCoursePlayedNumber", &PlayerClass::TourCoursePlayedNumber);
   visit("TourCourseTeePlayedNumber", &PlayerClass::TourCourseTeePlayedNumber);
@@ -65,9 +65,9 @@ void VisitPlayerRound(PlayerClass& player, int round, Visitor& visitor) {
 }
 
 template <class Visitor>
-void VisitPlayerTotals(PlayerClass& player, int round, Visitor& visitor) {
+void VisitPlayerTotals(PlayerClass* player, int round, Visitor& visitor) {
   const auto visit = [&](const char* name, auto member) {
-    visitor.Value(name, (player.*member)(1, round));
+    visitor.Value(name, [&]() -> ResultValue { return (player->*member)(1, round); });
   };
   visit("TourTotalGross", &PlayerClass::TourTotalGross);
   visit("TourTotalNet", &PlayerClass::TourTotalNet);
@@ -84,13 +84,14 @@ void VisitPlayerTotals(PlayerClass& player, int round, Visitor& visitor) {
 
 // Passes every calculated value of the player's current entry for a round, 1 to 7, to the visitor.
 // The totals are those of round 1 to this round. Gross handicaps and the quota have decimals if
-// `decimals` is true. Raises the errors of PlayerClass.
+// `decimals` is true. Raises the errors of PlayerClass. `player` may be null if the visitor calls no
+// value, but only collects names.
 template <class Visitor>
-void VisitPlayerValues(PlayerClass& player, bool decimals, int round, Visitor& visitor) {
+void VisitPlayerValues(PlayerClass* player, bool decimals, int round, Visitor& visitor) {
   detail::VisitPlayerHoles(player, round, visitor);
-  visitor.Value("TourGrossHandicap", player.TourGrossHandicap(decimals, round));
-  visitor.Value("TourGrossHandicapValue", player.TourGrossHandicapValue(decimals, round));
-  visitor.Value("TourQuota", player.TourQuota(decimals, round));
+  visitor.Value("TourGrossHandicap", [&]() -> ResultValue { return player->TourGrossHandicap(decimals, round); });
+  visitor.Value("TourGrossHandicapValue", [&]() -> ResultValue { return player->TourGrossHandicapValue(decimals, round); });
+  visitor.Value("TourQuota", [&]() -> ResultValue { return player->TourQuota(decimals, round); });
   detail::VisitPlayerRound(player, round, visitor);
   detail::VisitPlayerTotals(player, round, visitor);
 }

@@ -9,29 +9,29 @@ namespace golf {
 namespace detail {
 
 template <class Visitor>
-void VisitTeamRecord(TeamClass& team, int round, Visitor& visitor) {
-  visitor.Value("TeamName", team.TeamName());
-  visitor.Value("Sponsor", team.Sponsor());
-  visitor.Value("Flight", team.Flight(round));
-  visitor.Value("TeeTimeValue", team.TeeTimeValue(round));
-  visitor.Value("TeeTimeHHMMAMPM", team.TeeTimeHHMMAMPM(round));
-  visitor.Value("TeeStartHole", team.TeeStartHole(round));
-  visitor.Value("Cart1", team.Cart1(round));
-  visitor.Value("Cart2", team.Cart2(round));
-  visitor.Value("CourseNumberPlayed", team.CourseNumberPlayed(round));
-  visitor.Value("CourseNamePlayed", team.CourseNamePlayed(round));
+void VisitTeamRecord(TeamClass* team, int round, Visitor& visitor) {
+  visitor.Value("TeamName", [&]() -> ResultValue { return team->TeamName(); });
+  visitor.Value("Sponsor", [&]() -> ResultValue { return team->Sponsor(); });
+  visitor.Value("Flight", [&]() -> ResultValue { return team->Flight(round); });
+  visitor.Value("TeeTimeValue", [&]() -> ResultValue { return team->TeeTimeValue(round); });
+  visitor.Value("TeeTimeHHMMAMPM", [&]() -> ResultValue { return team->TeeTimeHHMMAMPM(round); });
+  visitor.Value("TeeStartHole", [&]() -> ResultValue { return team->TeeStartHole(round); });
+  visitor.Value("Cart1", [&]() -> ResultValue { return team->Cart1(round); });
+  visitor.Value("Cart2", [&]() -> ResultValue { return team->Cart2(round); });
+  visitor.Value("CourseNumberPlayed", [&]() -> ResultValue { return team->CourseNumberPlayed(round); });
+  visitor.Value("CourseNamePlayed", [&]() -> ResultValue { return team->CourseNamePlayed(round); });
 }
 
 template <class Visitor>
-void VisitTeamHoles(TeamClass& team, int round, Visitor& visitor) {
+void VisitTeamHoles(TeamClass* team, int round, Visitor& visitor) {
   const auto visit = [&](const char* name, auto member) {
     visitor.Array(name, kWholeRound,
-                  [&](int hole) -> ResultValue { return (team.*member)(hole, round); });
+                  [&](int hole) -> ResultValue { return (team->*member)(hole, round); });
   };
   visit("ScoreGross", &TeamClass::ScoreGross);
   visitor.Array("ScoreNet", kWholeRound, [&](int hole) -> ResultValue {
-    const double score = team.ScoreNet(hole, round);
-    const std::int32_t whole = team.Results(round).net[hole];
+    const double score = team->ScoreNet(hole, round);
+    const std::int32_t whole = team->Results(round).net[hole];
     if (score == whole) return whole;
     return static_cast<float>(score);
   });
@@ -43,23 +43,23 @@ void VisitTeamHoles(TeamClass& team, int round, Visitor& visitor) {
 }
 
 template <class Visitor>
-void VisitTeamSums(TeamClass& team, int round, Visitor& visitor) {
-  visitor.Value("Putts", team.Putts(round));
-  visitor.Value("Greens", team.Greens(round));
-  visitor.Value("Fairways", team.Fairways(round));
-  visitor.Value("Earnings", static_cast<double>(team.Earnings(round)) / kCurrencyScale);
+void VisitTeamSums(TeamClass* team, int round, Visitor& visitor) {
+  visitor.Value("Putts", [&]() -> ResultValue { return team->Putts(round); });
+  visitor.Value("Greens", [&]() -> ResultValue { return team->Greens(round); });
+  visitor.Value("Fairways", [&]() -> ResultValue { return team->Fairways(round); });
+  visitor.Value("Earnings", [&]() -> ResultValue { return static_cast<double>(team->Earnings(round)) / kCurrencyScale; });
   visitor.Array("QuotaResults", kRoundParts,
-                [&](int part) -> ResultValue { return team.QuotaResults(part, round); });
+                [&](int part) -> ResultValue { return team->QuotaResults(part, round); });
   visitor.Array("NameofPlayersOnTeam", kTeamNames,
-                [&](int i) -> ResultValue { return team.NameofPlayersOnTeam(i - 1, round); });
+                [&](int i) -> ResultValue { return team->NameofPlayersOnTeam(i - 1, round); });
 }
 
 template <class Visitor>
-void VisitTeamBalls(TeamClass& team, int round, Visitor& visitor) {
+void VisitTeamBalls(TeamClass* team, int round, Visitor& visitor) {
   const auto visit = [&](const char* name, int first_hole, auto member) {
     visitor.Arrays(name, 1, kMostBalls, kWholeRound + 1 - first_hole,
                    [&](int balls, int i) -> ResultValue {
-                     return (team.*member)(balls, first_hole - 1 + i, round);
+                     return (team->*member)(balls, first_hole - 1 + i, round);
                    });
   };
   visit("BestBallGross", 1, &TeamClass::BestBallGross);
@@ -71,9 +71,9 @@ void VisitTeamBalls(TeamClass& team, int round, Visitor& visitor) {
 }
 
 template <class Visitor>
-void VisitTeamTexts(TeamClass& team, int round, Visitor& visitor) {
+void VisitTeamTexts(TeamClass* team, int round, Visitor& visitor) {
   const auto visit = [&](const char* name, auto member) {
-    visitor.Value(name, (team.*member)(round));
+    visitor.Value(name, [&]() -> ResultValue { return (team->*member)(round); });
   };
   visit("Handicap", &TeamClass::Handicap);
   visit("Quota", &TeamClass::Quota);
@@ -93,21 +93,22 @@ void VisitTeamTexts(TeamClass& team, int round, Visitor& visitor) {
 
 // These values apply to the active round or to all rounds up to it.
 template <class Visitor>
-void VisitTeamActiveRound(TeamClass& team, Visitor& visitor) {
-  visitor.Value("GrossScrambleTiebreakUSGA", team.GrossScrambleTiebreakUSGA());
-  visitor.Value("GrossScrambleTiebreak1to18", team.GrossScrambleTiebreak1to18());
-  visitor.Value("GrossScrambleTiebreak18to1", team.GrossScrambleTiebreak18to1());
-  visitor.Value("TotalGross", team.TotalGross());
-  visitor.Value("TotalNet", team.TotalNet());
-  visitor.Value("TotalNetScramble", team.TotalNetScramble());
+void VisitTeamActiveRound(TeamClass* team, Visitor& visitor) {
+  visitor.Value("GrossScrambleTiebreakUSGA", [&]() -> ResultValue { return team->GrossScrambleTiebreakUSGA(); });
+  visitor.Value("GrossScrambleTiebreak1to18", [&]() -> ResultValue { return team->GrossScrambleTiebreak1to18(); });
+  visitor.Value("GrossScrambleTiebreak18to1", [&]() -> ResultValue { return team->GrossScrambleTiebreak18to1(); });
+  visitor.Value("TotalGross", [&]() -> ResultValue { return team->TotalGross(); });
+  visitor.Value("TotalNet", [&]() -> ResultValue { return team->TotalNet(); });
+  visitor.Value("TotalNetScramble", [&]() -> ResultValue { return team->TotalNetScramble(); });
 }
 
 }  // namespace detail
 
 // Passes every value of the current team for a round, 1 to 7, to the visitor. Some values apply to
 // the active round instead, so the round should be the active one. Raises the errors of TeamClass.
+// `team` may be null if the visitor calls no value, but only collects names.
 template <class Visitor>
-void VisitTeamValues(TeamClass& team, int round, Visitor& visitor) {
+void VisitTeamValues(TeamClass* team, int round, Visitor& visitor) {
   detail::VisitTeamRecord(team, round, visitor);
   detail::VisitTeamHoles(team, round, visitor);
   detail::VisitTeamSums(team, round, visitor);

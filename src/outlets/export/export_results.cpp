@@ -1,0 +1,278 @@
+#include "outlets/export/export_results.h"
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "core/code_page.h"
+#include "core/number_text.h"
+#include "outlets/export/result_rows.h"
+#include "outlets/results/player_values.h"
+#include "outlets/results/team_values.h"
+#include "scoring/layouts/custom_standings.h"
+#include "scoring/layouts/report_layout.h"
+#include "scoring/open_tournament.h"
+#include "scoring/tournament_class.h"
+
+namespace golf {
+namespace {
+
+// The tables of results follow those of the install.
+constexpr std::size_t kFirstTable = kInstallTables;
+// The positions of the tables in ResultTables.
+constexpr std::size_t kPlayers = 0;
+constexpr std::size_t kTeams = 4;
+constexpr std::size_t kCustom = 8;
+
+constexpr std::size_t kTablesOfKind = 4;
+
+struct KindOfResult {
+  std::string_view names[kTablesOfKind];  // of the tables, as described in result_rows.h
+  std::string_view owner;                 // the column that links to the golfer's entry or the team
+  std::string_view owners;                // the table of entries or teams
+  std::vector<ExportColumn> described;    // the columns that describe the owner
+  std::string_view key;                   // the meaning of a key
+};
+
+bool IsOfFile(const NumberedError& error) {
+  constexpr ErrorNumber kErrors[] = {ErrorNumber::kDeviceFault,  ErrorNumber::kDiskFull,
+                                     ErrorNumber::kTooManyFiles, ErrorNumber::kPermissionDenied,
+                                     ErrorNumber::kPathAccess,   ErrorNumber::kDiskNotReady};
+  return std::ranges::any_of(kErrors, [&](ErrorNumber number) { return error.Is(number); });
+}
+
+ExportColumn Result(const std::string& name) { return {name, ColumnType::kResult}; }
+
+void AddTables(std::vector<ExportTable>& tables, const KindOfResult& kind,
+               const ResultNames& names) {
+  const ExportColumn owner{std::string(kind.owner), ColumnType::kInteger, kind.owners};
+  const ExportColumn hole{"hole"};
+  const ExportColumn key{std::string(kind.key)};
+  const auto add = [&](std::size_t which, std::vector<ExportColumn> more,
+                       const std::vector<std::string>& values) {
+    ExportTable table{kind.names[which], {owner, {"round"}}, 2 + more.size()};
+    table.columns.insert(table.columns.end(), more.begin(), more.end());
+    if (which == 0) {
+      table.columns.push_back({"tournament_id", ColumnType::kInteger, "tournaments"});
+      table.columns.insert(table.columns.end(), kind.described.begin(), kind.described.end());
+      table.columns.push_back({"error"});
+      table.indexes = {"tournament_id, round"};
+    }
+    for (const std::string& value : values) table.columns.push_back(Result(value));
+    tables.push_back(std::move(table));
+  };
+  add(0, {}, names.of_round);
+  add(1, {hole}, names.of_hole);
+  add(2, {key}, names.of_key);
+  add(3, {hole, key}, names.of_hole_and_key);
+}
+
+KindOfResult PlayerKind() {
+  return {{"results_players", "results_player_holes", "results_player_differences",
+           "results_player_hole_differences"},
+          "entry_id",
+          "entries",
+          {{"IDNum"}, {"NameLF", ColumnType::kText}},
+          "difference"};
+}
+
+KindOfResult TeamKind() {
+  return {{"results_teams", "results_team_holes", "results_team_balls", "results_team_hole_balls"},
+          "team_id",
+          "teams",
+          {{"TeamNumber"}},
+          "balls"};
+}
+
+std::vector<ExportTable> MakeTables() {
+  // The names are those of every golfer and team, so they do not need an install.
+  std::vector<ExportTable> tables;
+  ResultNames players;
+  VisitPlayerValues(nullptr, false, 1, players);
+  AddTables(tables, PlayerKind(), players);
+  ResultNames teams;
+  VisitTeamValues(nullptr, 1, teams);
+  AddTables(tables, TeamKind(), teams);
+  tables.push_back({"results_custom",
+                    {{"tournament_id", ColumnType::kInteger, "tournaments"},
+                     {"layout", ColumnType::kText},
+                     {"team_id", ColumnType::kInteger, "teams"},
+                     {"block"},
+                     {"part", ColumnType::kText},
+                     {"Scores"},
+                     {"Points"},
+                     {"Positions"},
+                     {"PointsPositions"}},
+                    5});
+  return tables;
+}
+
+class TournamentResults {
+ public:
+  TournamentResults(ExportRun& run, const ExportedTournament& tournament,
+                    std::vector<NumberedError>& faults)
+      : run_(run), state_(run.state()), tournament_(tournament), faults_(faults) {}
+
+  void Run() {
+    Try("", [&] {
+      state_.InitSharedObjects();
+      OpenTournament(state_, tournament_.number);
+      ExportCustom();
+      const int rounds = state_.Tournament().RoundCount();
+      for (int round = 1; round <= rounds; ++round) {
+        state_.Tournament().SetActiveRound(round);
+        ExportPlayers(round);
+        ExportTeams(round);
+      }
+    });
+    state_.InitSharedObjects();
+  }
+
+ private:
+  // Returns the number of the error that a calculation in `work` raised, or 0. Notes such an error.
+  // An error of a file ends the export.
+  int Try(const std::string& what, const std::function<void()>& work) {
+    try {
+      work();
+      return 0;
+    } catch (const NumberedError& error) {
+      if (IsOfFile(error)) throw;
+      run_.Note("Results of tournament " + std::to_string(tournament_.number) + what + ": " +
+                error.Report());
+      faults_.push_back(error);
+      return error.number();
+    }
+  }
+
+  void ExportPlayers(int round) {
+    PlayerClass& player = state_.Player();
+    const bool decimals = state_.Tournament().HandicapDecimalPlaces() > 0;
+    const std::int32_t length = player.TourFileLength();
+    for (std::int32_t record = 1; record <= length; ++record) {
+      player.GetRecord(record, true);
+      const std::int64_t entry = tournament_.entries.Find(record);
+      if (!player.TourPlayerExists() || entry == 0) continue;
+      ResultRows rows;
+      const int error = Try(", record " + std::to_string(record) + ", " + player.NameLF(),
+                            [&] { VisitPlayerValues(&player, decimals, round, rows); });
+      ExportRow described;
+      described.AddLink(static_cast<std::int64_t>(LeadingNumber(player.IDNum())));  // 0: none
+      described.AddText(Utf8FromText(player.NameLF()));
+      AddRows(kPlayers, entry, round, described, error, rows);
+    }
+  }
+
+  // Calls `action(id)` for each team that can be read.
+  template <class Action>
+  void ForEachTeam(Action action) {
+    const int teams = state_.Tournament().TeamCount();
+    for (int team = 1; team <= teams; ++team) {
+      const std::int64_t id = tournament_.teams.Find(team);
+      if (state_.Team1().GetRecord(team) && id != 0) action(team, id);
+    }
+  }
+
+  void ExportTeams(int round) {
+    ForEachTeam([&](int team, std::int64_t id) {
+      ResultRows rows;
+      const int error = Try(", team " + std::to_string(team),
+                            [&] { VisitTeamValues(&state_.Team1(), round, rows); });
+      ExportRow described;
+      described.AddInteger(team);
+      AddRows(kTeams, id, round, described, error, rows);
+    });
+  }
+
+  void AddRows(std::size_t table, std::int64_t owner, int round, const ExportRow& described,
+               int error, const ResultRows& rows) {
+    run_.Report();
+    row_.Clear();
+    row_.AddInteger(owner);
+    row_.AddInteger(round);
+    row_.AddInteger(tournament_.id);
+    row_.AddCells(described);
+    row_.AddLink(error);
+    if (error == 0) row_.AddCells(rows.round().values);
+    const std::size_t first = kFirstTable + table;
+    while (row_.size() < ResultTables()[table].columns.size()) row_.AddNull();
+    run_.AddRow(first, row_);
+    if (error != 0) return;
+    AddParts(first + 1, owner, round, rows.holes());
+    AddParts(first + 2, owner, round, rows.keys());
+    AddParts(first + 3, owner, round, rows.holes_and_keys());
+  }
+
+  void AddParts(std::size_t table, std::int64_t owner, int round,
+                const std::vector<ResultRows::Part>& parts) {
+    for (const ResultRows::Part& part : parts) {
+      if (!part.has_content) continue;
+      row_.Clear();
+      row_.AddInteger(owner);
+      row_.AddInteger(round);
+      if (part.hole != 0) row_.AddInteger(part.hole);
+      if (part.key) row_.AddInteger(*part.key);
+      row_.AddCells(part.values);
+      run_.AddRow(table, row_);
+    }
+  }
+
+  void ExportCustom() {
+    for (const std::string& name : ListReportLayouts(state_.files, state_.StoreDataPath)) {
+      Try(", layout " + name, [&] { ExportLayout(name); });
+    }
+  }
+
+  void ExportLayout(const std::string& name) {
+    ReadLayout read =
+        ReadReportLayout(state_.files, state_.StoreDataPath + name + std::string(kLayoutExtension));
+    if (!read.layout) return run_.Note(read.problem);
+    LimitToChoices(*read.layout);
+    CustomStandings standings(state_, *read.layout);
+    ForEachTeam([&](int team, std::int64_t) {
+      Try(", layout " + name + ", team " + std::to_string(team), [&] { standings.AddTeam(); });
+    });
+    for (const CustomStanding& standing : standings.WorkOut()) AddStanding(name, standing);
+  }
+
+  void AddStanding(const std::string& layout, const CustomStanding& standing) {
+    constexpr std::string_view kParts[kSumsOfBlock] = {"out", "in", "total", "running"};
+    for (std::size_t block = 0; block < standing.Scores.size(); ++block) {
+      for (std::size_t part = 0; part < kSumsOfBlock; ++part) {
+        row_.Clear();
+        row_.AddInteger(tournament_.id);
+        row_.AddText(Utf8FromText(layout));
+        row_.AddInteger(tournament_.teams.Find(standing.TeamNumber));
+        row_.AddInteger(static_cast<std::int64_t>(block) + 1);
+        row_.AddText(kParts[part]);
+        for (const CustomStanding::Sums* const sums : {&standing.Scores, &standing.Points}) {
+          const TeamBalls::Sum& sum = (*sums)[block][part];
+          sum ? row_.AddInteger(*sum) : row_.AddNull();
+        }
+        row_.AddInteger(standing.Positions[block][part]);
+        row_.AddInteger(standing.PointsPositions[block][part]);
+        run_.AddRow(kFirstTable + kCustom, row_);
+      }
+    }
+  }
+
+  ExportRun& run_;
+  SharedState& state_;
+  const ExportedTournament& tournament_;
+  std::vector<NumberedError>& faults_;
+  ExportRow row_;
+};
+
+}  // namespace
+
+const std::vector<ExportTable>& ResultTables() {
+  static const std::vector<ExportTable> kTables = MakeTables();
+  return kTables;
+}
+
+void ExportResults(ExportRun& run, const ExportedTournament& tournament,
+                   std::vector<NumberedError>& faults) {
+  TournamentResults(run, tournament, faults).Run();
+}
+
+}  // namespace golf

@@ -1,0 +1,65 @@
+#include "outlets/export/export_target.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "core/code_page.h"
+#include "core/text.h"
+#include "outlets/file_kinds.h"
+
+namespace golf {
+namespace {
+
+// Returns true if a folder contains nothing but files that an export can contain.
+bool IsExport(const NewTarget& folder) {
+  return std::ranges::all_of(folder.NamesInExisting(), [](const std::string& name) {
+    return name.ends_with(ExtensionOf(ExportFormat::kCsv)) ||
+           name.ends_with(ExtensionOf(ExportFormat::kJsonLines));
+  });
+}
+
+// The three programs search for their folders without regard to case.
+bool IsGolfFolder(const std::string& name) {
+  constexpr std::string_view kFolders[] = {"kvdata", "qbdata", "zddata", "transfer-history"};
+  return std::ranges::find(kFolders, LowerCase(name)) != std::end(kFolders);
+}
+
+}  // namespace
+
+ExportFormat FormatOfTarget(const NewTarget& target) {
+  const std::string extension = LowerCase(target.extension());
+  if (extension == ".jsonl") return ExportFormat::kJsonLines;
+  const bool is_sqlite = extension == ".sqlite" || extension == ".sqlite3" || extension == ".db";
+  return is_sqlite ? ExportFormat::kSqlite : ExportFormat::kCsv;
+}
+
+std::string RefusalOfTarget(const NewTarget& target, ExportFormat format, bool replace) {
+  const std::string& path = target.path();
+  const bool is_file = format == ExportFormat::kSqlite;
+  if (target.name().empty()) return "\"" + path + "\" is no name of a new file or folder.";
+  if (!target.HasFolder()) return "There is no folder " + target.folder() + ".";
+  for (const std::string& folder : target.Folders()) {
+    if (!IsGolfFolder(folder)) continue;
+    return path + " is in the folder " + folder +
+           ", which contains golf data. Choose another folder for the export.";
+  }
+  if (IsGolfFolder(target.name()) || (is_file && LayoutOfFile(TextFromUtf8(target.name())))) {
+    return path + " has the name of golf data. Choose another name for the export.";
+  }
+  if (is_file && target.HasCompanion("-wal", "-journal")) {
+    return "Another program has " + path +
+           " open, or did not close it. Close it there, or choose another name.";
+  }
+  const NewTarget::Kind existing = target.Existing();
+  if (existing == NewTarget::Kind::kNothing) return {};
+  const bool can_be_replaced = is_file ? existing == NewTarget::Kind::kFile
+                                       : existing == NewTarget::Kind::kFolder && IsExport(target);
+  if (can_be_replaced && replace) return {};
+  return path + " exists. " +
+         (can_be_replaced ? "With --replace, the export replaces it."
+          : is_file       ? "It is not a file, so the export does not replace it."
+                          : "It is not a folder of an earlier export, so the export does not "
+                            "replace it.");
+}
+
+}  // namespace golf

@@ -1,0 +1,50 @@
+#include "outlets/export/result_rows.h"
+
+#include <algorithm>
+#include <type_traits>
+#include <variant>
+
+#include "core/code_page.h"
+#include "outlets/export/shown_value.h"
+
+namespace golf {
+namespace {
+
+bool HasContent(const ResultValue& value) {
+  const auto* const text = std::get_if<std::string>(&value);
+  if (text != nullptr) return text->find_first_not_of(" 0") != std::string::npos;
+  return std::visit(
+      [](const auto& number) {
+        if constexpr (std::is_arithmetic_v<std::decay_t<decltype(number)>>) return number != 0;
+        return false;
+      },
+      value);
+}
+
+}  // namespace
+
+void AddResultValue(ExportRow& row, const ResultValue& value) {
+  if (const auto* const text = std::get_if<std::string>(&value)) {
+    row.AddText(Utf8FromText(*text));
+  } else if (const auto* const whole = std::get_if<std::int32_t>(&value)) {
+    row.AddInteger(*whole);
+  } else if (const auto* const single = std::get_if<float>(&value)) {
+    AddRealOrNull(row, NumberOfSingle(*single));
+  } else {
+    AddRealOrNull(row, std::get<double>(value));
+  }
+}
+
+void ResultRows::Part::Add(const ResultValue& value) {
+  AddResultValue(values, value);
+  has_content = has_content || HasContent(value);
+}
+
+ResultRows::Part& ResultRows::At(std::vector<Part>& parts, int hole, std::optional<int> key) {
+  const auto part = std::ranges::find_if(
+      parts, [&](const Part& known) { return known.hole == hole && known.key == key; });
+  if (part != parts.end()) return *part;
+  return parts.emplace_back(Part{hole, key, {}, false});
+}
+
+}  // namespace golf
