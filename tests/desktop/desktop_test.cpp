@@ -460,7 +460,7 @@ TEST(FocusTest, WhatWaitsGoesBeforeWhatComesLater) {
   EXPECT_EQ(heard, "left,");
 }
 
-TEST(FocusTest, ALostFocusGoesWhereItDoesNoHarm) {
+TEST(FocusTest, ALostFocusGoesToAControlOnWhichEnterHasTheLeastEffect) {
   Demo<BoxlessHost> demo;
   demo.Show("LoadRoster");
   auto& picker = dynamic_cast<LoadRoster&>(demo.host.Load("LoadRoster"));
