@@ -165,6 +165,7 @@ void DesktopHost::Open(Screen& screen) {
   windows_.push_back({&screen, panel});
   panel->binding().BeginFocus();
   window->Show();
+  LayOutAgain(*panel);  // GTK measures some texts correctly only after they are shown
   window->Raise();  // makes it the active window also without a window manager
 }
 

@@ -89,6 +89,10 @@ ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& scree
   window_.Bind(wxEVT_MENU_OPEN, note_menu);
   window_.Bind(wxEVT_MENU_CLOSE, note_menu);
   FollowTimers();
+  Bind(wxEVT_CHILD_FOCUS, [this](wxChildFocusEvent& event) {
+    event.Skip();
+    ScrollTo(*event.GetWindow());
+  });
   Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
     event.Skip();
     binding_.Refresh();
@@ -118,6 +122,7 @@ wxWindow* ScreenPanel::MakeLeftOut(wxWindow* parent) {
   left_out_list_->SetName("LeftOut");
   MakeMonospaced(*left_out_list_);
   left_out_list_->SetMinSize({TextWidth(*left_out_list_, kLeftOutColumns), -1});
+  SetRoom(*this, *left_out_list_);
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(left_out_heading_);
   column->Add(left_out_list_, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(*this)));
@@ -142,7 +147,9 @@ void ScreenPanel::SetInRun(bool in_run) {
   if (gauge_ != nullptr) {
     gauge_->SetValue(0);
     gauge_->Show(in_run);
+    ScrollTo(*gauge_);
   }
+  if (log_ != nullptr) ScrollTo(*log_);
   binding_.HoldInput(in_run);
 }
 
@@ -162,6 +169,25 @@ void ScreenPanel::FollowTimers() {
     auto* timer = dynamic_cast<Timer*>(control);
     if (timer != nullptr) timers_.push_back(std::make_unique<RunningTimer>(binding_, *timer));
   }
+}
+
+// Scrolls until the widget and the line above it are visible, or their top left corner if they are
+// larger than the panel.
+void ScreenPanel::ScrollTo(const wxWindow& widget) {
+  wxRect place(ScreenToClient(widget.GetScreenPosition()), widget.GetSize());
+  place.y -= GetCharHeight();
+  place.height += GetCharHeight();
+  const auto units = [](int first, int length, int visible, int unit) {
+    if (first < 0) return (first - unit + 1) / unit;
+    const int hidden = std::min(first, first + length - visible);
+    return hidden <= 0 ? 0 : (hidden + unit - 1) / unit;
+  };
+  const wxPoint start = GetViewStart();
+  const wxSize visible = GetClientSize();
+  wxSize unit;
+  GetScrollPixelsPerUnit(&unit.x, &unit.y);
+  Scroll(start.x + units(place.x, place.width, visible.x, unit.x),
+         start.y + units(place.y, place.height, visible.y, unit.y));
 }
 
 // An event of a timer may call this.

@@ -3,6 +3,7 @@
 #include <wx/gauge.h>
 #include <wx/panel.h>
 #include <wx/scrolwin.h>
+#include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/timer.h>
@@ -37,6 +38,11 @@ class ScreenPanel : public wxScrolledWindow {
   wxPanel* foot() const { return foot_; }
 
   std::vector<Flexible>& flexible() { return flexible_; }
+  // Returns the rows that become columns if they are wider than the display.
+  std::vector<wxBoxSizer*>& folding_rows() { return folding_rows_; }
+  // True if the display is too small for the usual gaps of the window.
+  bool is_tight() const { return is_tight_; }
+  void SetTight() { is_tight_ = true; }
 
   // Notes the client size of the window, to which the program has set it. Another size later is the
   // choice of the operator.
@@ -45,6 +51,9 @@ class ScreenPanel : public wxScrolledWindow {
 
   // Creates a gauge that is visible during a run. The caller must reserve its space.
   wxGauge* MakeGauge(wxWindow* parent);
+
+  // Sets the log that is scrolled into view when a run begins and ends.
+  void SetLog(wxTextCtrl& log) { log_ = &log; }
 
   // Creates the part that lists what a run has left out. It is hidden while the list is empty.
   wxWindow* MakeLeftOut(wxWindow* parent);
@@ -60,7 +69,11 @@ class ScreenPanel : public wxScrolledWindow {
   void Detach();
 
  private:
+  // The toolkit would scroll to the frame that contains the widget.
+  bool ShouldScrollToChildOnFocus(wxWindow*) override { return false; }
+
   void FollowTimers();
+  void ScrollTo(const wxWindow& widget);
   void OnClose(wxCloseEvent& event);
   void OnCharHook(wxKeyEvent& event);
   void MoveFocusByTab(bool backward);
@@ -71,8 +84,11 @@ class ScreenPanel : public wxScrolledWindow {
   Binding binding_;
   wxPanel* foot_;
   std::vector<Flexible> flexible_;
+  std::vector<wxBoxSizer*> folding_rows_;
+  bool is_tight_ = false;
   wxSize noted_size_;
   wxGauge* gauge_ = nullptr;
+  wxTextCtrl* log_ = nullptr;
   wxPanel* left_out_ = nullptr;
   wxStaticText* left_out_heading_ = nullptr;
   wxTextCtrl* left_out_list_ = nullptr;

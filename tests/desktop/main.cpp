@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
   const golf::TempFolder settings;
   settings.Write("gtk-3.0/settings.ini", "[Settings]\ngtk-entry-select-on-focus=0\n");
   wxSetEnv("XDG_CONFIG_HOME", settings.Path());
+  wxSetEnv("GTK_OVERLAY_SCROLLING", "0");  // as in the program
   wxApp::SetInstance(new wxApp);
   const wxInitializer toolkit(argc, argv);
   if (!toolkit.IsOk()) return 1;

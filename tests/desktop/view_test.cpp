@@ -19,6 +19,7 @@
 
 #include "desktop/colours.h"
 #include "desktop/demo_desktop.h"
+#include "desktop/screen_panel.h"
 #include "screens/results/team_layout_builder.h"
 
 namespace golf {
@@ -58,6 +59,10 @@ void ForEachWindow(const std::function<void(wxTopLevelWindow&, Screen&)>& visit)
     RunEvents(kWindowTime);
     visit(window, screen);
   }
+}
+
+ScreenPanel& PanelOf(const wxTopLevelWindow& window) {
+  return dynamic_cast<ScreenPanel&>(*window.GetChildren().front());
 }
 
 // Returns the names of the controls that the tab key must reach. It reaches only one option of a
@@ -135,6 +140,8 @@ TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
   ForEachWindow([](wxTopLevelWindow& window, Screen&) {
     const wxRect area = wxDisplay(&window).GetClientArea();
     EXPECT_TRUE(area.Contains(window.GetScreenRect()));
+    const ScreenPanel& panel = PanelOf(window);
+    EXPECT_LE(panel.GetVirtualSize().x, panel.GetClientSize().x) << "scrolls sideways";
     const int line = window.GetCharHeight();
     ForEachWidget(window, [&](wxWindow& widget) {
       SCOPED_TRACE(widget.GetName());
@@ -160,6 +167,35 @@ TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
       }
     });
   });
+}
+
+// A widget that has the focus is scrolled into view, and a run shows its progress and its log.
+TEST(ViewTest, TheContentScrollsToWhatIsUsed) {
+  int logs = 0;
+  ForEachWindow([&logs](wxTopLevelWindow& window, Screen&) {
+    ScreenPanel& panel = PanelOf(window);
+    const auto expect_visible = [&panel](const wxWindow& widget, const char* when) {
+      RunEvents(kKeyTime);
+      EXPECT_TRUE(panel.GetScreenRect().Contains(widget.GetScreenRect()))
+          << widget.GetName() << when;
+    };
+    ForEachWidget(panel, [&](wxWindow& widget) {
+      const bool entry = widget.IsKindOf(wxCLASSINFO(wxTextCtrl));
+      if (!entry || !widget.IsEnabled()) return;
+      widget.SetFocus();
+      expect_visible(widget, " with the focus");
+      if (!widget.HasFlag(wxTE_DONTWRAP)) return;
+      ++logs;
+      panel.Scroll(0, 0);
+      panel.SetInRun(true);
+      if (wxWindow* gauge = wxWindow::FindWindowByName("Progress", &panel)) {
+        expect_visible(*gauge, " in a run");
+      }
+      panel.SetInRun(false);
+      if (widget.GetName() == "Message") expect_visible(widget, " after a run");
+    });
+  });
+  EXPECT_GE(logs, 5);
 }
 
 TEST(ViewTest, TextsAreReadable) {
