@@ -198,6 +198,25 @@ TEST(ViewTest, TheContentScrollsToWhatIsUsed) {
   EXPECT_GE(logs, 5);
 }
 
+TEST(ViewTest, TheProgressOfARunIsShownWhole) {
+  const std::string text = "Transferring Featherstone, Alexander";
+  int labels = 0;
+  ForEachWindow([&](wxTopLevelWindow& window, Screen& screen) {
+    for (Control* control : screen.controls()) {
+      auto* label = dynamic_cast<Label*>(control);
+      if (control->name() != "Working" && control->name() != "TransferLabel") continue;
+      ++labels;
+      label->SetVisible(true);
+      label->SetCaption(text);
+      PanelOf(window).binding().Refresh();
+      const wxWindow& widget = *wxWindow::FindWindowByName(control->name(), &window);
+      EXPECT_EQ(widget.GetLabel(), text);
+      EXPECT_GE(widget.GetSize().x, widget.GetTextExtent(text).x);
+    }
+  });
+  EXPECT_EQ(labels, 6);
+}
+
 TEST(ViewTest, TextsAreReadable) {
   ForEachWindow([](wxTopLevelWindow& window, Screen&) {
     ForEachWidget(window, [](wxWindow& widget) {
