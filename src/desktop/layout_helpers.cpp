@@ -292,8 +292,11 @@ void FinishWindow(ScreenPanel& panel, wxSizer* content) {
   panel.SetSizer(edge);
   panel.binding().Refresh();
   wxTopLevelWindow& window = panel.window();
+  auto* whole = new wxBoxSizer(wxVERTICAL);
+  whole->Add(&panel, wxSizerFlags(1).Expand());
+  panel.scroller().SetSizer(whole);
   auto* outer = new wxBoxSizer(wxVERTICAL);
-  outer->Add(&panel, wxSizerFlags(1).Expand());
+  outer->Add(&panel.scroller(), wxSizerFlags(1).Expand());
   outer->Add(panel.foot(), wxSizerFlags().Expand());
   window.SetSizer(outer);
   ShowFoot(*panel.foot());
@@ -326,7 +329,8 @@ void LayOutAgain(ScreenPanel& panel) {
   window.SetClientSize(size);
   if (noted) panel.NoteSize();
   window.Layout();
-  panel.FitInside();
+  panel.scroller().FitInside();
+  panel.Layout();
 }
 
 }  // namespace golf

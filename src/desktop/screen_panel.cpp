@@ -40,6 +40,17 @@ class RunningTimer : public wxTimer {
   Timer& control_;
 };
 
+// Contains only the panel, since GTK reports an error for each hidden child of a window that
+// scrolls.
+class Scroller : public wxScrolledWindow {
+ public:
+  using wxScrolledWindow::wxScrolledWindow;
+
+ private:
+  // The toolkit would scroll to the whole panel. ScreenPanel scrolls to the widget.
+  bool ShouldScrollToChildOnFocus(wxWindow*) override { return false; }
+};
+
 // True if the tab key stops at a widget. It stops at only one button of a group of options.
 bool IsTabStop(wxWindow& widget) {
   if (!widget.AcceptsFocusFromKeyboard()) return false;
@@ -71,13 +82,13 @@ void CollectTabStops(const wxWindow& window, std::vector<wxWindow*>& stops) {
 }  // namespace
 
 ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen)
-    : wxScrolledWindow(&window),
+    : wxPanel(new Scroller(&window)),
       window_(window),
       host_(host),
       screen_(&screen),
       binding_(host, screen),
       foot_(new wxPanel(&window)) {
-  SetScrollRate(GetCharWidth(), GetCharHeight());
+  scroller().SetScrollRate(GetCharWidth(), GetCharHeight());
   binding_.on_rearranged = [this] { LayOutAgain(*this); };
   ShowTitle(false);
   window_.Bind(wxEVT_CLOSE_WINDOW, &ScreenPanel::OnClose, this);
@@ -172,9 +183,10 @@ void ScreenPanel::FollowTimers() {
 }
 
 // Scrolls until the widget and the line above it are visible, or their top left corner if they are
-// larger than the panel.
+// larger than the visible part.
 void ScreenPanel::ScrollTo(const wxWindow& widget) {
-  wxRect place(ScreenToClient(widget.GetScreenPosition()), widget.GetSize());
+  wxScrolledWindow& view = scroller();
+  wxRect place(view.ScreenToClient(widget.GetScreenPosition()), widget.GetSize());
   place.y -= GetCharHeight();
   place.height += GetCharHeight();
   const auto units = [](int first, int length, int visible, int unit) {
@@ -182,12 +194,12 @@ void ScreenPanel::ScrollTo(const wxWindow& widget) {
     const int hidden = std::min(first, first + length - visible);
     return hidden <= 0 ? 0 : (hidden + unit - 1) / unit;
   };
-  const wxPoint start = GetViewStart();
-  const wxSize visible = GetClientSize();
+  const wxPoint start = view.GetViewStart();
+  const wxSize visible = view.GetClientSize();
   wxSize unit;
-  GetScrollPixelsPerUnit(&unit.x, &unit.y);
-  Scroll(start.x + units(place.x, place.width, visible.x, unit.x),
-         start.y + units(place.y, place.height, visible.y, unit.y));
+  view.GetScrollPixelsPerUnit(&unit.x, &unit.y);
+  view.Scroll(start.x + units(place.x, place.width, visible.x, unit.x),
+              start.y + units(place.y, place.height, visible.y, unit.y));
 }
 
 // An event of a timer may call this.

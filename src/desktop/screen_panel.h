@@ -17,9 +17,10 @@
 
 namespace golf {
 
-// Contains the widgets of a screen's window. The view of the screen adds them. The panel scrolls if
-// the window is too small for it. The host calls SetInRun when a run begins and ends.
-class ScreenPanel : public wxScrolledWindow {
+// Contains the widgets of a screen's window. The view of the screen adds them. The panel is in a
+// scrolled window, which scrolls if the window is too small for the panel. The host calls SetInRun
+// when a run begins and ends.
+class ScreenPanel : public wxPanel {
  public:
   ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen);
   ~ScreenPanel() override;
@@ -33,6 +34,7 @@ class ScreenPanel : public wxScrolledWindow {
 
   wxTopLevelWindow& window() const { return window_; }
   Binding& binding() { return binding_; }
+  wxScrolledWindow& scroller() const { return dynamic_cast<wxScrolledWindow&>(*GetParent()); }
   // Returns the part of the window below the panel. It does not scroll. It is the parent of the
   // buttons that must always be visible.
   wxPanel* foot() const { return foot_; }
@@ -69,9 +71,6 @@ class ScreenPanel : public wxScrolledWindow {
   void Detach();
 
  private:
-  // The toolkit would scroll to the frame that contains the widget.
-  bool ShouldScrollToChildOnFocus(wxWindow*) override { return false; }
-
   void FollowTimers();
   void ScrollTo(const wxWindow& widget);
   void OnClose(wxCloseEvent& event);

@@ -62,7 +62,7 @@ void ForEachWindow(const std::function<void(wxTopLevelWindow&, Screen&)>& visit)
 }
 
 ScreenPanel& PanelOf(const wxTopLevelWindow& window) {
-  return dynamic_cast<ScreenPanel&>(*window.GetChildren().front());
+  return dynamic_cast<ScreenPanel&>(*window.GetChildren().front()->GetChildren().front());
 }
 
 // Returns the names of the controls that the tab key must reach. It reaches only one option of a
@@ -84,7 +84,7 @@ wxRect PlaceOf(const wxWindow& widget) {
   wxRect place = widget.GetScreenRect();
   for (wxWindow* at = widget.GetParent(); at != nullptr; at = at->GetParent()) {
     if (const auto* panel = dynamic_cast<ScreenPanel*>(at)) {
-      place.SetPosition(panel->CalcUnscrolledPosition(place.GetPosition()));
+      place.SetPosition(panel->scroller().CalcUnscrolledPosition(place.GetPosition()));
       return place;
     }
   }
@@ -140,8 +140,8 @@ TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
   ForEachWindow([](wxTopLevelWindow& window, Screen&) {
     const wxRect area = wxDisplay(&window).GetClientArea();
     EXPECT_TRUE(area.Contains(window.GetScreenRect()));
-    const ScreenPanel& panel = PanelOf(window);
-    EXPECT_LE(panel.GetVirtualSize().x, panel.GetClientSize().x) << "scrolls sideways";
+    const wxScrolledWindow& scroller = PanelOf(window).scroller();
+    EXPECT_LE(scroller.GetVirtualSize().x, scroller.GetClientSize().x) << "scrolls sideways";
     const int line = window.GetCharHeight();
     ForEachWidget(window, [&](wxWindow& widget) {
       SCOPED_TRACE(widget.GetName());
@@ -149,8 +149,7 @@ TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
       const bool in_foot = widget.GetParent()->GetParent() == &window;
       if (widget.IsKindOf(wxCLASSINFO(wxButton))) {
         EXPECT_GE(size.x, widget.GetBestSize().x);
-        const bool scrolls = dynamic_cast<ScreenPanel*>(widget.GetParent()) != nullptr;
-        if (in_foot && !scrolls) {
+        if (in_foot) {
           EXPECT_TRUE(window.GetScreenRect().Contains(widget.GetScreenRect()));
         }
       }
@@ -176,7 +175,7 @@ TEST(ViewTest, TheContentScrollsToWhatIsUsed) {
     ScreenPanel& panel = PanelOf(window);
     const auto expect_visible = [&panel](const wxWindow& widget, const char* when) {
       RunEvents(kKeyTime);
-      EXPECT_TRUE(panel.GetScreenRect().Contains(widget.GetScreenRect()))
+      EXPECT_TRUE(panel.scroller().GetScreenRect().Contains(widget.GetScreenRect()))
           << widget.GetName() << when;
     };
     ForEachWidget(panel, [&](wxWindow& widget) {
@@ -186,7 +185,7 @@ TEST(ViewTest, TheContentScrollsToWhatIsUsed) {
       expect_visible(widget, " with the focus");
       if (!widget.HasFlag(wxTE_DONTWRAP)) return;
       ++logs;
-      panel.Scroll(0, 0);
+      panel.scroller().Scroll(0, 0);
       panel.SetInRun(true);
       if (wxWindow* gauge = wxWindow::FindWindowByName("Progress", &panel)) {
         expect_visible(*gauge, " in a run");
