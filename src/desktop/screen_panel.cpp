@@ -158,10 +158,10 @@ void ScreenPanel::SetInRun(bool in_run) {
   if (gauge_ != nullptr) {
     gauge_->SetValue(0);
     gauge_->Show(in_run);
-    ScrollTo(*gauge_);
   }
-  if (log_ != nullptr) ScrollTo(*log_);
   binding_.HoldInput(in_run);
+  if (gauge_ != nullptr) ScrollTo(*gauge_);
+  if (log_ != nullptr) ScrollTo(*log_);
 }
 
 void ScreenPanel::ShowTitle(bool preview) {
