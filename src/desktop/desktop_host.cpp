@@ -166,7 +166,7 @@ void DesktopHost::Open(Screen& screen) {
   panel->binding().BeginFocus();
   window->Show();
   LayOutAgain(*panel);  // GTK measures some texts correctly only after they are shown
-  window->Raise();  // makes it the active window also without a window manager
+  window->Raise();      // makes it the active window also without a window manager
 }
 
 void DesktopHost::RunModal(Screen& screen) {
