@@ -29,11 +29,12 @@ bool CanHaveFocus(const Control& control) { return TakesInput(control) && contro
 
 }  // namespace
 
-void Binding::Tie(Control& control, wxWindow& widget, std::function<void()> show) {
+void Binding::Bind(Control& control, wxWindow& widget, std::function<void()> show) {
   widget.SetName(WxText(control.name()));
-  Tied& tied = ties_.emplace_back(Tied{&control, &widget, std::move(show), true});
+  BoundWidget& bound =
+      bound_widgets_.emplace_back(BoundWidget{&control, &widget, std::move(show), true});
   changed_ = true;
-  control.Observe([this, &tied] { Mark(tied); });
+  control.Observe([this, &bound] { Mark(bound); });
   if (TakesInput(control)) FollowFocus(control, widget);
 }
 
@@ -69,15 +70,15 @@ bool Binding::OperateKeySoon(std::string_view key) {
 // have, so the widget is marked and shown again.
 void Binding::Run(const Control& control, const Event& event) {
   if (screen_ == nullptr || host_.ended()) return;
-  for (Tied& tied : ties_) {
-    if (tied.control == &control && !control.IsReachable()) Mark(tied);
+  for (BoundWidget& bound : bound_widgets_) {
+    if (bound.control == &control && !control.IsReachable()) Mark(bound);
   }
   host_.Operate(*screen_, control, event);
   Refresh();
 }
 
-void Binding::Mark(Tied& tied) {
-  tied.changed = true;
+void Binding::Mark(BoundWidget& bound) {
+  bound.changed = true;
   changed_ = true;
 }
 
@@ -90,31 +91,31 @@ void Binding::Refresh() {
 
 void Binding::ShowChanges() {
   bool rearranged = false;
-  for (Tied& tied : ties_) {
-    if (std::exchange(tied.changed, false)) tied.show();
+  for (BoundWidget& bound : bound_widgets_) {
+    if (std::exchange(bound.changed, false)) bound.show();
     // The state of every control is shown, since one control can hide or disable others.
-    if (ShowState(tied)) rearranged = true;
+    if (ShowState(bound)) rearranged = true;
   }
   for (const auto& show : shows_also_) show();
   if (rearranged && on_rearranged) on_rearranged();
 }
 
-bool Binding::ShowState(const Tied& tied) {
-  const bool held = held_ && TakesInput(*tied.control);
-  tied.widget->Enable(tied.control->IsUsable() && !held);
-  return tied.widget->Show(IsVisibleOnItsPage(*tied.control));
+bool Binding::ShowState(const BoundWidget& bound) {
+  const bool held = held_ && TakesInput(*bound.control);
+  bound.widget->Enable(bound.control->IsUsable() && !held);
+  return bound.widget->Show(IsVisibleOnItsPage(*bound.control));
 }
 
 // Gives the focus to the right widget. Does nothing while events wait, since the operator may have
 // moved the focus since then.
 void Binding::ShowFocus() {
   if (held_ || !waiting_.IsEmpty() || !IsInFront()) return;
-  const Tied* place = PlaceOfFocus();
-  if (place == nullptr) return;
-  if (place->control != shown_focus_) GiveFocus(*place);
-  if (place->control == screen_->focus()) return;
-  OperateSoon(*place->control, [this] {
-    if (const Tied* now = PlaceOfFocus()) screen_->MoveFocus(now->control);
+  const BoundWidget* target = WidgetForFocus();
+  if (target == nullptr) return;
+  if (target->control != shown_focus_) GiveFocus(*target);
+  if (target->control == screen_->focus()) return;
+  OperateSoon(*target->control, [this] {
+    if (const BoundWidget* now = WidgetForFocus()) screen_->MoveFocus(now->control);
   });
 }
 
@@ -122,49 +123,48 @@ void Binding::ShowFocus() {
 // may therefore move it.
 bool Binding::IsInFront() const { return host_.Top() == screen_ || screen_->Tip() != nullptr; }
 
-void Binding::GiveFocus(const Tied& tied) {
-  shown_focus_ = tied.control;
-  tied.widget->SetFocus();
+void Binding::GiveFocus(const BoundWidget& bound) {
+  shown_focus_ = bound.control;
+  bound.widget->SetFocus();
 }
 
 // Returns the widget that must have the focus, or null if no control of the screen has the focus.
-const Binding::Tied* Binding::PlaceOfFocus() {
-  const auto place = std::find_if(ties_.cbegin(), ties_.cend(), [this](const Tied& tied) {
-    return tied.control == screen_->focus();
-  });
-  if (place == ties_.cend()) return nullptr;
-  return CanHaveFocus(*place->control) ? &*place : PlaceInsteadOf(place);
+const Binding::BoundWidget* Binding::WidgetForFocus() {
+  const auto focused =
+      std::find_if(bound_widgets_.cbegin(), bound_widgets_.cend(),
+                   [this](const BoundWidget& bound) { return bound.control == screen_->focus(); });
+  if (focused == bound_widgets_.cend()) return nullptr;
+  return CanHaveFocus(*focused->control) ? &*focused : ReplacementFor(focused);
 }
 
 // Returns a replacement for the focused control, which can no longer have the focus, or null if
-// there is none. Chooses among the controls with the least Harm the nearest one before it. The
-// search continues from the end after the first control.
-const Binding::Tied* Binding::PlaceInsteadOf(std::list<Tied>::const_iterator lost) {
-  const Tied* best = nullptr;
+// there is none. Chooses among the controls with the least EffectOfEnter the nearest one before it.
+// The search continues from the end after the first control.
+const Binding::BoundWidget* Binding::ReplacementFor(std::list<BoundWidget>::const_iterator lost) {
+  const BoundWidget* best = nullptr;
   const auto before = [this](auto at) {
-    return std::prev(at == ties_.cbegin() ? ties_.cend() : at);
+    return std::prev(at == bound_widgets_.cbegin() ? bound_widgets_.cend() : at);
   };
   for (auto at = before(lost); at != lost; at = before(at)) {
     if (!CanHaveFocus(*at->control)) continue;
-    if (best == nullptr || Harm(*at->control) < Harm(*best->control)) best = &*at;
+    if (best == nullptr || EffectOfEnter(*at->control) < EffectOfEnter(*best->control)) best = &*at;
   }
   return best;
 }
 
-// Returns the harm that an accidental Enter or Space would do: 0 for none, 1 if it would press a
-// button, 2 if it would leave the screen.
-int Binding::Harm(const Control& control) {
-  if (control.kind() != ControlKind::kButton) return 0;
+Binding::EnterEffect Binding::EffectOfEnter(const Control& control) {
+  if (control.kind() != ControlKind::kButton) return EnterEffect::kNone;
   const bool leaves = &control == screen_->LeaveButton() || &control == screen_->PanelLeaveButton();
-  return leaves ? 2 : 1;
+  return leaves ? EnterEffect::kLeavesScreen : EnterEffect::kPressesButton;
 }
 
 // The first widget is chosen here, since the toolkit would choose by position and not by order.
 void Binding::BeginFocus() {
   if (screen_ == nullptr || screen_->focus() != nullptr) return;
-  const auto first = std::find_if(ties_.begin(), ties_.end(),
-                                  [](const Tied& tied) { return CanHaveFocus(*tied.control); });
-  if (first == ties_.end()) return;
+  const auto first =
+      std::find_if(bound_widgets_.begin(), bound_widgets_.end(),
+                   [](const BoundWidget& bound) { return CanHaveFocus(*bound.control); });
+  if (first == bound_widgets_.end()) return;
   screen_->MoveFocus(first->control);
   GiveFocus(*first);
 }
@@ -174,7 +174,7 @@ void Binding::RestoreFocus(const wxWindow& window) {
   wxWindow* const focus = wxWindow::FindFocus();
   const bool here = focus != nullptr && window.IsDescendant(focus) && focus != &window;
   if (here && focus->IsShownOnScreen() && focus->IsEnabled()) return;
-  if (const Tied* place = PlaceOfFocus()) return GiveFocus(*place);
+  if (const BoundWidget* target = WidgetForFocus()) return GiveFocus(*target);
   BeginFocus();
 }
 
@@ -187,8 +187,8 @@ void Binding::HoldInput(bool held) {
 }
 
 void Binding::Release() {
-  for (const Tied& tied : ties_) tied.control->Observe(nullptr);
-  ties_.clear();
+  for (const BoundWidget& bound : bound_widgets_) bound.control->Observe(nullptr);
+  bound_widgets_.clear();
   shows_also_.clear();
   waiting_.Clear();
   screen_ = nullptr;

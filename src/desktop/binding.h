@@ -29,14 +29,14 @@ class Binding {
 
   // Connects a widget to a control and gives it the control's name. Refresh then calls `show` after
   // a change and updates the widget's visibility, enabled state and focus.
-  void Tie(Control& control, wxWindow& widget, std::function<void()> show);
+  void Bind(Control& control, wxWindow& widget, std::function<void()> show);
 
   // Adds a function that is called after any control has changed. It is for widgets that show
   // several controls.
   void ShowAlso(std::function<void()> show) { shows_also_.push_back(std::move(show)); }
 
   // Moves the screen's focus to the control after `part`, a part of the control's widget, has
-  // received the focus. Tie does this for the widget itself.
+  // received the focus. Bind does this for the widget itself.
   void FollowFocus(Control& control, wxWindow& part);
 
   // Runs the waiting events, then this event of the operator, and shows the changes.
@@ -76,28 +76,31 @@ class Binding {
   bool has_decimal_comma() const { return host_.has_decimal_comma(); }
 
  private:
-  struct Tied {
+  struct BoundWidget {
     Control* control;
     wxWindow* widget;
     std::function<void()> show;
     bool changed;
   };
 
-  void Mark(Tied& tied);
+  // Says what Enter or Space would do, typed by accident in a control. The least effect is first.
+  enum class EnterEffect { kNone, kPressesButton, kLeavesScreen };
+
+  void Mark(BoundWidget& bound);
   void Run(const Control& control, const Event& event);
   void ShowChanges();
-  bool ShowState(const Tied& tied);
+  bool ShowState(const BoundWidget& bound);
   void ShowFocus();
   bool IsInFront() const;
-  void GiveFocus(const Tied& tied);
-  const Tied* PlaceOfFocus();
-  const Tied* PlaceInsteadOf(std::list<Tied>::const_iterator lost);
-  int Harm(const Control& control);
+  void GiveFocus(const BoundWidget& bound);
+  const BoundWidget* WidgetForFocus();
+  const BoundWidget* ReplacementFor(std::list<BoundWidget>::const_iterator lost);
+  EnterEffect EffectOfEnter(const Control& control);
 
   HostBase& host_;
   Screen* screen_;
   std::vector<std::function<void()>> shows_also_;
-  std::list<Tied> ties_;  // the observers store the addresses of its elements
+  std::list<BoundWidget> bound_widgets_;  // the observers store the addresses of its elements
   EventQueue waiting_;
   const Control* shown_focus_ = nullptr;
   bool changed_ = false;

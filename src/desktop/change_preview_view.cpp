@@ -26,7 +26,7 @@ wxSizer* Search(ScreenPanel& panel, ChangePreview& screen) {
   return row;
 }
 
-wxSizer* Buttons(ScreenPanel& panel, ChangePreview& screen) {
+wxBoxSizer* Buttons(ScreenPanel& panel, ChangePreview& screen) {
   const auto button = [&](Button& control) {
     return MakeButton(panel.binding(), panel.foot(), control);
   };
@@ -39,7 +39,7 @@ wxSizer* Buttons(ScreenPanel& panel, ChangePreview& screen) {
 
 void FillChangePreview(ScreenPanel& panel, ChangePreview& screen) {
   Binding& binding = panel.binding();
-  const int width = TextWidth(panel, kCharacters);
+  const int width = LineWidth(panel, kCharacters);
   const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
   wxStaticText* counts = MakeWrappedLabel(binding, &panel, screen.CountsLabel, width);
   MakeBold(*counts);

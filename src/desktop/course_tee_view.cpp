@@ -40,7 +40,7 @@ class TeeFiller {
     content->Add(MakeNote(
                      binding_, &panel_, "Odd",
                      [this_screen = &screen_] { return this_screen->OddEntries(); },
-                     TextWidth(panel_, kNoteCharacters), kNoteLines),
+                     LineWidth(panel_, kNoteCharacters), kNoteLines),
                  Below());
     AddToFoot(panel_, Buttons());
     return content;
@@ -163,7 +163,7 @@ class TeeFiller {
     return frame;
   }
 
-  wxSizer* Buttons() {
+  wxBoxSizer* Buttons() {
     return ButtonRow({.affirmative = MakeButton(binding_, panel_.foot(), screen_.OKButton),
                       .cancel = MakeButton(binding_, panel_.foot(), screen_.CancelButton),
                       .aside = {MakeButton(binding_, panel_.foot(), screen_.Help)}});

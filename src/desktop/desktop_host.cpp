@@ -165,7 +165,8 @@ void DesktopHost::Open(Screen& screen) {
   windows_.push_back({&screen, panel});
   panel->binding().BeginFocus();
   window->Show();
-  window->Raise();  // makes it the active window also without a window manager
+  LayOutAgain(*panel);  // GTK measures some texts correctly only after they are shown
+  window->Raise();      // makes it the active window also without a window manager
 }
 
 void DesktopHost::RunModal(Screen& screen) {

@@ -240,7 +240,7 @@ class GridView : public wxGrid {
 wxGrid* MakeGrid(Binding& binding, wxWindow* parent, Grid& control, GridMarks marks,
                  int rows_seen) {
   auto* grid = new GridView(binding, parent, control, marks);
-  binding.Tie(control, *grid, [grid] { grid->Follow(); });
+  binding.Bind(control, *grid, [grid] { grid->Follow(); });
   binding.FollowFocus(control, *grid->GetGridWindow());
   grid->Follow();
   grid->SetMinSize(grid->SizeFor(rows_seen));

@@ -12,7 +12,7 @@ constexpr int kCharacters = 70;  // of a line of the texts
 
 void FillInterruptedRun(ScreenPanel& panel, InterruptedRun& screen) {
   Binding& binding = panel.binding();
-  const int width = TextWidth(panel, kCharacters);
+  const int width = LineWidth(panel, kCharacters);
   wxStaticText* text = MakeWrappedLabel(binding, &panel, screen.TextLabel, width);
   MakeBold(*text);
   auto* content = new wxBoxSizer(wxVERTICAL);

@@ -20,21 +20,10 @@ constexpr int kLeastColumns = 16;
 
 std::string WithoutEdges(const std::string& text) { return std::string(Trim(text)); }
 
-wxSizer* RunLog(ScreenPanel& panel, wxWindow* parent, Label& heading, TextBox& log) {
-  wxStaticText* title = MakeLabel(panel.binding(), parent, heading, WithoutEdges);
-  MakeBold(*title);
-  wxTextCtrl* box = MakeLog(panel, parent, log, kLogColumns, kLogLines);
-  auto* column = new wxBoxSizer(wxVERTICAL);
-  column->Add(title, wxSizerFlags().Expand());
-  column->Add(box, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(*parent)));
-  column->Add(LogButtons(parent, *box), wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));
-  return column;
-}
-
-wxSizer* RunProgress(ScreenPanel& panel, wxWindow* parent, const RunControls& run) {
+wxSizer* RunProgress(ScreenPanel& panel, wxWindow* parent, Label& working, Label* count) {
   auto* texts = new wxBoxSizer(wxHORIZONTAL);
-  texts->Add(MakeLabel(panel.binding(), parent, run.working), wxSizerFlags(1));
-  if (run.count != nullptr) texts->Add(MakeLabel(panel.binding(), parent, *run.count));
+  texts->Add(MakeLabel(panel.binding(), parent, working), wxSizerFlags(1));
+  if (count != nullptr) texts->Add(MakeLabel(panel.binding(), parent, *count));
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(texts, wxSizerFlags().Expand());
   AddKeepingPlace(*column, *panel.MakeGauge(parent), CloseGap(panel));
@@ -58,11 +47,71 @@ wxSize NeededSize(ScreenPanel& panel, wxSize ScreenPanel::Flexible::*size) {
   return {std::max(content.x, foot.x), content.y + foot.y};
 }
 
-// Returns the needed size within the limit. A size that is cut leaves space for the scroll bar.
-wxSize Within(const wxSize& limit, wxSize needed) {
-  if (needed.y > limit.y) needed.x += wxSystemSettings::GetMetric(wxSYS_VSCROLL_X);
-  needed.DecTo(limit);
-  return needed;
+int ScrollBarWidth() { return wxSystemSettings::GetMetric(wxSYS_VSCROLL_X); }
+
+// Adds the width of the scroll bar if the size is higher than the limit.
+wxSize WithScrollBar(const wxSize& limit, const wxSize& size) {
+  return {size.x + (size.y > limit.y ? ScrollBarWidth() : 0), size.y};
+}
+
+bool Fits(const wxSize& size, const wxSize& limit) {
+  return size.x <= limit.x && size.y <= limit.y;
+}
+
+void HalveGaps(wxSizer& sizer) {
+  if (auto* grid = dynamic_cast<wxGridSizer*>(&sizer)) {
+    grid->SetHGap(grid->GetHGap() / 2);
+    grid->SetVGap(grid->GetVGap() / 2);
+  }
+  for (wxSizerItem* item : sizer.GetChildren()) {
+    item->SetBorder(item->GetBorder() / 2);
+    if (item->IsSpacer()) item->AssignSpacer(item->GetSpacer() / 2);
+    if (item->IsSizer()) HalveGaps(*item->GetSizer());
+  }
+}
+
+// Halves the gaps of the window and of all windows in it.
+void HalveGaps(wxWindow& window) {
+  for (wxWindow* child : window.GetChildren()) {
+    if (!child->IsTopLevel()) HalveGaps(*child);
+  }
+  if (window.GetSizer() != nullptr) HalveGaps(*window.GetSizer());
+  window.InvalidateBestSize();
+}
+
+// The borders at the sides of the row's items become gaps between the rows of the column.
+void MakeColumn(wxBoxSizer& row) {
+  row.SetOrientation(wxVERTICAL);
+  for (wxSizerItem* item : row.GetChildren()) {
+    const bool first = item == row.GetChildren().front();
+    item->SetFlag((item->GetFlag() & ~wxALL) | (first ? 0 : wxTOP));
+  }
+}
+
+// Makes the content of the window smaller if the window does not fit on its display.
+void FitToDisplay(ScreenPanel& panel) {
+  const wxSize most = MostClientSize(panel.window());
+  const auto needed = [&] {
+    return WithScrollBar(most, NeededSize(panel, &ScreenPanel::Flexible::least));
+  };
+  if (!panel.is_tight() && !Fits(needed(), most)) {
+    panel.SetTight();
+    HalveGaps(panel.window());
+  }
+  const int lacking = needed().x - most.x;
+  if (lacking <= 0) return;
+  int widest = 0;
+  for (wxBoxSizer* row : panel.folding_rows()) widest = std::max(widest, row->CalcMin().x);
+  for (wxBoxSizer* row : panel.folding_rows()) {
+    if (row->CalcMin().x > widest - lacking) MakeColumn(*row);
+  }
+}
+
+// Returns the needed size within the limit.
+wxSize Within(const wxSize& limit, const wxSize& needed) {
+  wxSize size = WithScrollBar(limit, needed);
+  size.DecTo(limit);
+  return size;
 }
 
 void ShowFoot(wxPanel& foot) {
@@ -84,6 +133,11 @@ void SetColumns(wxControl& widget, int characters) {
   const wxString digits('0', static_cast<std::size_t>(characters));
   widget.SetMinSize(
       {widget.GetSizeFromTextSize(widget.GetTextExtent(digits).x).x, widget.GetMinSize().y});
+}
+
+int LineWidth(const ScreenPanel& panel, int characters) {
+  return std::min(TextWidth(panel, characters),
+                  MostClientSize(panel.window()).x - 2 * EdgeGap(panel) - ScrollBarWidth());
 }
 
 void SetRoom(ScreenPanel& panel, wxWindow& widget) {
@@ -123,7 +177,7 @@ wxSizer* SideBySide(const wxWindow& window, std::initializer_list<wxSizer*> ends
   return row;
 }
 
-wxSizer* ButtonRow(const EndButtons& buttons) {
+wxBoxSizer* ButtonRow(const EndButtons& buttons) {
 #ifdef __WXMSW__
   const std::initializer_list<wxButton*> order = {buttons.affirmative, buttons.variant,
                                                   buttons.negative, buttons.cancel};
@@ -143,11 +197,9 @@ wxSizer* ButtonRow(const EndButtons& buttons) {
   for (wxButton* button : buttons.aside) add(*aside, button, wxRIGHT);
   end->AddStretchSpacer();
   for (wxButton* button : order) add(*end, button, wxLEFT);
-  const auto& window = dynamic_cast<wxTopLevelWindow&>(*wxGetTopLevelParent(before));
-  const int width = aside->CalcMin().x + end->CalcMin().x + 2 * EdgeGap(window);
-  auto* row = new wxBoxSizer(width > MostClientSize(window).x ? wxVERTICAL : wxHORIZONTAL);
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(aside);
-  row->Add(end, wxSizerFlags(row->GetOrientation() == wxHORIZONTAL ? 1 : 0).Expand());
+  row->Add(end, wxSizerFlags(1).Expand());
   return row;
 }
 
@@ -167,19 +219,30 @@ wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBo
   return Column({title, box, MakeButton(binding, parent, finder)});
 }
 
-wxSizer* BesideLeftOut(ScreenPanel& panel, wxWindow* parent, wxSizer* log) {
+void AddLog(wxSizer& content, ScreenPanel& panel, wxStaticText& heading, wxTextCtrl& log,
+            Label& working, Label* count) {
+  wxWindow* const parent = log.GetParent();
+  MakeBold(heading);
+  panel.SetLog(log);
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(&heading, wxSizerFlags().Expand());
+  column->Add(&log, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
   auto* row = new wxBoxSizer(wxHORIZONTAL);
-  row->Add(log, wxSizerFlags(2).Expand());
+  row->Add(column, wxSizerFlags(2).Expand());
   row->Add(panel.MakeLeftOut(parent), wxSizerFlags(1).Expand().Border(wxLEFT, GroupGap(panel)));
-  return row;
+  content.Add(row, wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
+  auto* below = new wxBoxSizer(wxHORIZONTAL);
+  below->Add(LogButtons(parent, log), wxSizerFlags().CentreVertical());
+  below->Add(RunProgress(panel, parent, working, count),
+             wxSizerFlags(1).CentreVertical().Border(wxLEFT, GroupGap(panel)));
+  content.Add(below, wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel)));
 }
 
 void AddRun(wxSizer& content, ScreenPanel& panel, wxWindow* parent, const RunControls& run) {
   Binding& binding = panel.binding();
-  const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
-  content.Add(BesideLeftOut(panel, parent, RunLog(panel, parent, run.heading, run.log)),
-              wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
-  content.Add(RunProgress(panel, parent, run), group);
+  wxStaticText* heading = MakeLabel(binding, parent, run.heading, WithoutEdges);
+  wxTextCtrl* log = MakeLog(panel, parent, run.log, kLogColumns, kLogLines);
+  AddLog(content, panel, *heading, *log, run.working, run.count);
   AddToFoot(panel, ButtonRow({.affirmative = MakeButton(binding, panel.foot(), run.transfer),
                               .variant = MakeButton(binding, panel.foot(), run.preview),
                               .cancel = MakeButton(binding, panel.foot(), run.leave)}));
@@ -205,7 +268,7 @@ wxTextCtrl* MakeLog(ScreenPanel& panel, wxWindow* parent, TextBox& control, int 
   return log;
 }
 
-void AddToFoot(ScreenPanel& panel, wxSizer* buttons) {
+void AddToFoot(ScreenPanel& panel, wxBoxSizer* buttons) {
   wxPanel& foot = *panel.foot();
   if (foot.GetSizer() == nullptr) {
     foot.SetSizer(new wxBoxSizer(wxVERTICAL));
@@ -213,6 +276,7 @@ void AddToFoot(ScreenPanel& panel, wxSizer* buttons) {
                          wxSizerFlags().Expand().Border(wxALL & ~wxTOP, EdgeGap(panel)));
   }
   foot.GetSizer()->GetItem(std::size_t{0})->GetSizer()->Add(buttons, wxSizerFlags().Expand());
+  panel.folding_rows().push_back(buttons);
 }
 
 // The title bar of a window that has not been shown is unknown, so its height is estimated.
@@ -228,11 +292,15 @@ void FinishWindow(ScreenPanel& panel, wxSizer* content) {
   panel.SetSizer(edge);
   panel.binding().Refresh();
   wxTopLevelWindow& window = panel.window();
+  auto* whole = new wxBoxSizer(wxVERTICAL);
+  whole->Add(&panel, wxSizerFlags(1).Expand());
+  panel.scroller().SetSizer(whole);
   auto* outer = new wxBoxSizer(wxVERTICAL);
-  outer->Add(&panel, wxSizerFlags(1).Expand());
+  outer->Add(&panel.scroller(), wxSizerFlags(1).Expand());
   outer->Add(panel.foot(), wxSizerFlags().Expand());
   window.SetSizer(outer);
   ShowFoot(*panel.foot());
+  FitToDisplay(panel);
   const wxSize most = MostClientSize(window);
   window.SetClientSize(Within(most, NeededSize(panel, &ScreenPanel::Flexible::preferred)));
   window.SetMinClientSize(Within(most, NeededSize(panel, &ScreenPanel::Flexible::least)));
@@ -251,6 +319,7 @@ void LayOutAgain(ScreenPanel& panel) {
   if (window.GetSizer() == nullptr) return;
   ShowFoot(*panel.foot());
   panel.InvalidateBestSize();
+  FitToDisplay(panel);
   const wxSize needed =
       Within(MostClientSize(window), NeededSize(panel, &ScreenPanel::Flexible::least));
   window.SetMinClientSize(needed);
@@ -260,7 +329,8 @@ void LayOutAgain(ScreenPanel& panel) {
   window.SetClientSize(size);
   if (noted) panel.NoteSize();
   window.Layout();
-  panel.FitInside();
+  panel.scroller().FitInside();
+  panel.Layout();
 }
 
 }  // namespace golf

@@ -24,6 +24,10 @@ int TextHeight(const wxWindow& window, int lines);
 // Makes an entry or a list so wide that it shows this number of digits.
 void SetColumns(wxControl& widget, int characters);
 
+// Returns the width of a line of text. The line has this number of characters, or fewer on a narrow
+// display.
+int LineWidth(const ScreenPanel& panel, int characters);
+
 // Gives a list, a table or a log this size in characters and lines when its window opens. The
 // preferred width of a table is the width of its columns if `characters` is 0. The widget becomes
 // smaller on a small display, but it never has less than 4 lines.
@@ -39,8 +43,7 @@ wxSizer* Column(std::initializer_list<wxWindow*> controls);
 wxSizer* SideBySide(const wxWindow& window, std::initializer_list<wxSizer*> ends);
 
 // Holds the buttons at the end of a dialog. At least one of them is not null. ButtonRow arranges
-// them in the platform's order, which is also the order of the tab key. It uses two rows if the
-// display is too narrow for one.
+// them in the platform's order, which is also the order of the tab key.
 struct EndButtons {
   wxButton* affirmative = nullptr;
   wxButton* variant = nullptr;  // beside the affirmative button, such as its preview
@@ -48,20 +51,22 @@ struct EndButtons {
   wxButton* cancel = nullptr;
   std::vector<wxButton*> aside = {};  // at the other end of the row; do not close the dialog
 };
-wxSizer* ButtonRow(const EndButtons& buttons);
+wxBoxSizer* ButtonRow(const EndButtons& buttons);
 
 // Lays out a roster or league: its heading, its name, and the button that opens the list.
 wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBox& name,
                       Button& finder);
 
-// Lays out a log beside the panel's list of what a run has left out.
-wxSizer* BesideLeftOut(ScreenPanel& panel, wxWindow* parent, wxSizer* log);
+// Adds a log beside the panel's list of what a run has left out. Below them are the buttons that
+// copy and save the log, and the progress of the run. `count` may be null.
+void AddLog(wxSizer& content, ScreenPanel& panel, wxStaticText& heading, wxTextCtrl& log,
+            Label& working, Label* count);
 
 // Holds the controls that show a run, and the buttons that start it, preview it and leave the
 // screen.
 struct RunControls {
   Label& heading;
-  TextBox& log;  // gets buttons that copy and save it
+  TextBox& log;
   Label& working;
   Label* count;  // may be null
   Button& transfer;
@@ -81,10 +86,12 @@ void MakeMonospaced(wxWindow& widget);
 wxTextCtrl* MakeLog(ScreenPanel& panel, wxWindow* parent, TextBox& control, int characters,
                     int lines);
 
-// Adds a row of buttons to the foot of the panel.
-void AddToFoot(ScreenPanel& panel, wxSizer* buttons);
+// Adds a row of buttons to the foot of the panel. It becomes two rows on a narrow display.
+void AddToFoot(ScreenPanel& panel, wxBoxSizer* buttons);
 // Adds the content to the panel and gives the window the size that the content prefers, as far as
-// the display has space for it. The operator cannot make the window smaller than the content needs,
+// the display has space for it. On a small display the flexible widgets become smaller first, then
+// the gaps, and then wide rows become columns. The content scrolls if this does not suffice. The
+// operator cannot make the window smaller than the content needs,
 // unless the display is smaller.
 void FinishWindow(ScreenPanel& panel, wxSizer* content);
 // Returns the largest client size with which the window fits on its display.

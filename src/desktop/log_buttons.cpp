@@ -52,7 +52,6 @@ wxButton* MakeLogButton(wxWindow* parent, wxTextCtrl& log, const wxString& capti
 
 wxSizer* LogButtons(wxWindow* parent, wxTextCtrl& log) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
-  row->AddStretchSpacer();
   row->Add(MakeLogButton(parent, log, "&Copy", [&log] { Copy(log); }));
   row->Add(MakeLogButton(parent, log, "&Save As...", [&log] { Save(log); }),
            wxSizerFlags().Border(wxLEFT, CloseGap(*parent)));

@@ -5,7 +5,7 @@
 
 namespace golf {
 
-// Creates the buttons that copy a run's log and save it to a file, at the right of a row.
+// Creates a row of buttons that copy a run's log and save it to a file.
 wxSizer* LogButtons(wxWindow* parent, wxTextCtrl& log);
 
 }  // namespace golf

@@ -1,5 +1,4 @@
 #include "desktop/layout_helpers.h"
-#include "desktop/log_buttons.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/transfers/qb_to_kv.h"
@@ -48,9 +47,10 @@ wxSizer* Source(ScreenPanel& panel, QBtoKV& screen) {
 
 // Lays out the source of the scores beside their destination.
 wxSizer* Ends(ScreenPanel& panel, QBtoKV& screen) {
-  auto* ends = new wxBoxSizer(wxHORIZONTAL);
-  ends->Add(Source(panel, screen), wxSizerFlags(3).Expand());
-  ends->AddSpacer(GroupGap(panel));
+  auto* ends = new wxFlexGridSizer(2, 0, GroupGap(panel));
+  ends->AddGrowableCol(0, 3);
+  ends->AddGrowableCol(1, 2);
+  ends->Add(Source(panel, screen), wxSizerFlags().Expand());
   ends->Add(Column({MakeHeading(&panel, "Handicap roster"),
                     MakeTextBox(panel.binding(), &panel, screen.HandicapRoster),
                     MakeButton(panel.binding(), &panel, screen.DestButton),
@@ -58,7 +58,7 @@ wxSizer* Ends(ScreenPanel& panel, QBtoKV& screen) {
                         panel.binding(), &panel, "HandicapRosterNote",
                         [&screen] { return screen.HandicapRoster.note(); },
                         TextWidth(panel, kNoteCharacters))}),
-            wxSizerFlags(2).Expand());
+            wxSizerFlags().Expand());
   return ends;
 }
 
@@ -118,17 +118,6 @@ wxSizer* Partners(ScreenPanel& panel, QBtoKV& screen) {
   return partners;
 }
 
-wxSizer* Log(ScreenPanel& panel, TextBox& log) {
-  wxStaticText* heading = MakeHeading(&panel, "Messages");
-  wxTextCtrl* box = MakeLog(panel, &panel, log, kLogCharacters, kLogLines);
-  auto* column = new wxBoxSizer(wxVERTICAL);
-  const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
-  column->Add(heading);
-  column->Add(box, wxSizerFlags(below).Proportion(1));
-  column->Add(LogButtons(&panel, *box), below);
-  return column;
-}
-
 }  // namespace
 
 void FillQBtoKV(ScreenPanel& panel, QBtoKV& screen) {
@@ -143,10 +132,10 @@ void FillQBtoKV(ScreenPanel& panel, QBtoKV& screen) {
   checks->Add(MakeCheckBox(binding, &panel, screen.TCheck2),
               wxSizerFlags().Border(wxLEFT, GroupGap(panel)));
   content->Add(checks, group);
-  content->Add(BesideLeftOut(panel, &panel, Log(panel, screen.Message)),
-               wxSizerFlags(group).Proportion(1));
-  content->Add(MakeLabel(binding, &panel, screen.Working), group);
-  AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));
+  panel.folding_rows().push_back(checks);
+  auto* heading = new wxStaticText(&panel, wxID_ANY, "Messages");
+  wxTextCtrl* log = MakeLog(panel, &panel, screen.Message, kLogCharacters, kLogLines);
+  AddLog(*content, panel, *heading, *log, screen.Working, nullptr);
   wxButton* transfer = MakeButton(binding, panel.foot(), screen.TransferButton);
   SetColumns(*transfer, kTransferCharacters);
   AddToFoot(panel, ButtonRow({.affirmative = transfer,

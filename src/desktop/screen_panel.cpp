@@ -40,6 +40,17 @@ class RunningTimer : public wxTimer {
   Timer& control_;
 };
 
+// Contains only the panel, since GTK reports an error for each hidden child of a window that
+// scrolls.
+class Scroller : public wxScrolledWindow {
+ public:
+  using wxScrolledWindow::wxScrolledWindow;
+
+ private:
+  // The toolkit would scroll to the whole panel. ScreenPanel scrolls to the widget.
+  bool ShouldScrollToChildOnFocus(wxWindow*) override { return false; }
+};
+
 // True if the tab key stops at a widget. It stops at only one button of a group of options.
 bool IsTabStop(wxWindow& widget) {
   if (!widget.AcceptsFocusFromKeyboard()) return false;
@@ -71,13 +82,13 @@ void CollectTabStops(const wxWindow& window, std::vector<wxWindow*>& stops) {
 }  // namespace
 
 ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen)
-    : wxScrolledWindow(&window),
+    : wxPanel(new Scroller(&window)),
       window_(window),
       host_(host),
       screen_(&screen),
       binding_(host, screen),
       foot_(new wxPanel(&window)) {
-  SetScrollRate(GetCharWidth(), GetCharHeight());
+  scroller().SetScrollRate(GetCharWidth(), GetCharHeight());
   binding_.on_rearranged = [this] { LayOutAgain(*this); };
   ShowTitle(false);
   window_.Bind(wxEVT_CLOSE_WINDOW, &ScreenPanel::OnClose, this);
@@ -89,6 +100,10 @@ ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& scree
   window_.Bind(wxEVT_MENU_OPEN, note_menu);
   window_.Bind(wxEVT_MENU_CLOSE, note_menu);
   FollowTimers();
+  Bind(wxEVT_CHILD_FOCUS, [this](wxChildFocusEvent& event) {
+    event.Skip();
+    ScrollTo(*event.GetWindow());
+  });
   Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
     event.Skip();
     binding_.Refresh();
@@ -118,6 +133,7 @@ wxWindow* ScreenPanel::MakeLeftOut(wxWindow* parent) {
   left_out_list_->SetName("LeftOut");
   MakeMonospaced(*left_out_list_);
   left_out_list_->SetMinSize({TextWidth(*left_out_list_, kLeftOutColumns), -1});
+  SetRoom(*this, *left_out_list_);
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(left_out_heading_);
   column->Add(left_out_list_, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(*this)));
@@ -144,6 +160,8 @@ void ScreenPanel::SetInRun(bool in_run) {
     gauge_->Show(in_run);
   }
   binding_.HoldInput(in_run);
+  if (gauge_ != nullptr) ScrollTo(*gauge_);
+  if (log_ != nullptr) ScrollTo(*log_);
 }
 
 void ScreenPanel::ShowTitle(bool preview) {
@@ -162,6 +180,26 @@ void ScreenPanel::FollowTimers() {
     auto* timer = dynamic_cast<Timer*>(control);
     if (timer != nullptr) timers_.push_back(std::make_unique<RunningTimer>(binding_, *timer));
   }
+}
+
+// Scrolls until the widget and the line above it are visible, or their top left corner if they are
+// larger than the visible part.
+void ScreenPanel::ScrollTo(const wxWindow& widget) {
+  wxScrolledWindow& view = scroller();
+  wxRect place(view.ScreenToClient(widget.GetScreenPosition()), widget.GetSize());
+  place.y -= GetCharHeight();
+  place.height += GetCharHeight();
+  const auto units = [](int first, int length, int visible, int unit) {
+    if (first < 0) return (first - unit + 1) / unit;
+    const int hidden = std::min(first, first + length - visible);
+    return hidden <= 0 ? 0 : (hidden + unit - 1) / unit;
+  };
+  const wxPoint start = view.GetViewStart();
+  const wxSize visible = view.GetClientSize();
+  wxSize unit;
+  view.GetScrollPixelsPerUnit(&unit.x, &unit.y);
+  view.Scroll(start.x + units(place.x, place.width, visible.x, unit.x),
+              start.y + units(place.y, place.height, visible.y, unit.y));
 }
 
 // An event of a timer may call this.

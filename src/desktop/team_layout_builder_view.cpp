@@ -46,6 +46,7 @@ class BuilderFiller {
     auto* top = new wxBoxSizer(wxHORIZONTAL);
     top->Add(Numbers(page), wxSizerFlags(1).Border(wxRIGHT, 2 * GroupGap(panel_)));
     top->Add(Selection(page));
+    panel_.folding_rows().push_back(top);
     content->Add(top, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
     content->Add(MakeLabel(binding_, page, screen_.CopyLabel),
                  wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
@@ -108,6 +109,7 @@ class BuilderFiller {
     auto* content = new wxBoxSizer(wxHORIZONTAL);
     content->Add(Headers(page), wxSizerFlags(1).Border(wxRIGHT, 2 * GroupGap(panel_)));
     content->Add(Fonts(page), wxSizerFlags(1));
+    panel_.folding_rows().push_back(content);
     return content;
   }
 

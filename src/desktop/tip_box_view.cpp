@@ -41,7 +41,7 @@ wxTextCtrl* NewMessage(ScreenPanel& panel, TipBox& screen, int width) {
   return message;
 }
 
-wxSizer* Buttons(ScreenPanel& panel, TipBox& screen) {
+wxBoxSizer* Buttons(ScreenPanel& panel, TipBox& screen) {
   const auto button = [&](Button& control) {
     return MakeButton(panel.binding(), panel.foot(), control);
   };

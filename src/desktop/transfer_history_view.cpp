@@ -12,7 +12,7 @@ constexpr int kCharacters = 110;
 constexpr int kReportCharacters = 80;
 constexpr int kReportLines = 8;
 
-wxSizer* Buttons(ScreenPanel& panel, TransferHistory& screen) {
+wxBoxSizer* Buttons(ScreenPanel& panel, TransferHistory& screen) {
   const auto button = [&](Button& control) {
     return MakeButton(panel.binding(), panel.foot(), control);
   };

@@ -21,9 +21,9 @@ wxString TextToShow(const std::string& text, Shown shown) {
 
 // Connects a list control to a widget of any type.
 template <class Widget>
-void TieList(Binding& binding, List& control, Widget& widget, wxEventTypeTag<wxCommandEvent> chosen,
-             Shown shown) {
-  binding.Tie(control, widget, [&widget, &control, shown] {
+void BindList(Binding& binding, List& control, Widget& widget,
+              wxEventTypeTag<wxCommandEvent> chosen, Shown shown) {
+  binding.Bind(control, widget, [&widget, &control, shown] {
     wxArrayString items;
     for (const std::string& item : control.items()) items.Add(TextToShow(item, shown));
     if (widget.GetStrings() != items) widget.Set(items);
@@ -39,7 +39,7 @@ void TieList(Binding& binding, List& control, Widget& widget, wxEventTypeTag<wxC
 
 wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Shown shown) {
   wxStaticText* text = NewText(parent, wxST_ELLIPSIZE_END);
-  binding.Tie(control, *text, [text, &control, shown] {
+  binding.Bind(control, *text, [text, &control, shown] {
     text->SetLabelText(TextToShow(control.caption(), shown));
     text->GetParent()->Layout();
   });
@@ -48,13 +48,13 @@ wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Show
 
 wxStaticText* MakeFieldLabel(Binding& binding, wxWindow* parent, Label& control) {
   wxStaticText* text = NewText(parent, 0);
-  binding.Tie(control, *text, [text, &control] { text->SetLabel(WxText(control.caption())); });
+  binding.Bind(control, *text, [text, &control] { text->SetLabel(WxText(control.caption())); });
   return text;
 }
 
 wxStaticText* MakeWrappedLabel(Binding& binding, wxWindow* parent, Label& control, int width) {
   wxStaticText* text = NewText(parent, 0);
-  binding.Tie(control, *text, [text, &control, width] {
+  binding.Bind(control, *text, [text, &control, width] {
     text->SetLabelText(WxText(control.caption()));
     text->Wrap(width);
   });
@@ -63,7 +63,7 @@ wxStaticText* MakeWrappedLabel(Binding& binding, wxWindow* parent, Label& contro
 
 wxButton* MakeButton(Binding& binding, wxWindow* parent, Button& control) {
   auto* button = new wxButton(parent, wxID_ANY, WxText(control.caption()));
-  binding.Tie(control, *button, [button, parent, &control] {
+  binding.Bind(control, *button, [button, parent, &control] {
     const wxString caption = WxText(control.caption());
     if (button->GetLabel() != caption) {
       button->SetLabel(caption);
@@ -79,7 +79,7 @@ wxButton* MakeButton(Binding& binding, wxWindow* parent, Button& control) {
 
 wxCheckBox* MakeCheckBox(Binding& binding, wxWindow* parent, CheckBox& control) {
   auto* box = new wxCheckBox(parent, wxID_ANY, WxText(control.caption()));
-  binding.Tie(control, *box, [box, &control] {
+  binding.Bind(control, *box, [box, &control] {
     box->SetLabel(WxText(control.caption()));
     box->SetValue(control.value());
   });
@@ -92,7 +92,7 @@ wxCheckBox* MakeCheckBox(Binding& binding, wxWindow* parent, CheckBox& control) 
 wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& control, long style) {
   auto* button = new wxRadioButton(parent, wxID_ANY, WxText(control.caption()), wxDefaultPosition,
                                    wxDefaultSize, style);
-  binding.Tie(control, *button, [button, &control] { button->SetValue(control.value()); });
+  binding.Bind(control, *button, [button, &control] { button->SetValue(control.value()); });
   button->Bind(wxEVT_RADIOBUTTON, [&binding, &control](wxCommandEvent&) {
     binding.Operate(control, [&control] { control.Choose(true); });
   });
@@ -101,7 +101,7 @@ wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& cont
 
 wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown) {
   auto* list = new wxListBox(parent, wxID_ANY);
-  TieList(binding, control, *list, wxEVT_LISTBOX, shown);
+  BindList(binding, control, *list, wxEVT_LISTBOX, shown);
   // The event waits, since the same key would otherwise also press the button that then gets the
   // focus. One key may cause both of the following events. The list is already hidden at the second
   // one, which is refused then.
@@ -143,13 +143,13 @@ wxOwnerDrawnComboBox* MakeLongChoice(Binding& binding, wxWindow* parent, ComboBo
                                      Shown shown) {
   auto* choice = new LongChoice(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                                 wxArrayString(), wxCB_READONLY);
-  TieList(binding, control, *choice, wxEVT_COMBOBOX, shown);
+  BindList(binding, control, *choice, wxEVT_COMBOBOX, shown);
   return choice;
 }
 
 wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown) {
   auto* choice = new wxChoice(parent, wxID_ANY);
-  TieList(binding, control, *choice, wxEVT_CHOICE, shown);
+  BindList(binding, control, *choice, wxEVT_CHOICE, shown);
   return choice;
 }
 
@@ -221,7 +221,7 @@ void FilterKeys(const Binding& binding, wxTextCtrl& box, const TextBox& control)
 wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, long style) {
   auto* box = new wxTextCtrl(parent, wxID_ANY, WxText(control.text()), wxDefaultPosition,
                              wxDefaultSize, style);
-  binding.Tie(control, *box, [box, &control] {
+  binding.Bind(control, *box, [box, &control] {
     ShowText(*box, control);
     box->SetEditable(!control.read_only());
     MarkNote(*box, control);
@@ -242,7 +242,7 @@ wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control
   for (const std::string& item : control.items()) items.Add(WxText(item));
   auto* combo = new wxComboBox(parent, wxID_ANY, WxText(control.text()), wxDefaultPosition,
                                wxDefaultSize, items);
-  binding.Tie(control, *combo, [combo, &control] {
+  binding.Bind(control, *combo, [combo, &control] {
     ShowText(*combo, control);
     MarkNote(*combo, control);
   });
@@ -275,7 +275,7 @@ wxStaticText* MakeNote(Binding& binding, wxWindow* parent, const wxString& name,
 
 wxPanel* MakeFrame(Binding& binding, wxWindow* parent, Frame& control) {
   auto* frame = new wxPanel(parent);
-  binding.Tie(control, *frame, [] {});
+  binding.Bind(control, *frame, [] {});
   return frame;
 }
 
@@ -284,7 +284,7 @@ wxNotebook* MakeTab(Binding& binding, wxWindow* parent, Tab& control) {
   for (const std::string& page : control.pages()) {
     book->AddPage(new wxPanel(book), WxText(page));
   }
-  binding.Tie(control, *book, [book, &control] {
+  binding.Bind(control, *book, [book, &control] {
     book->ChangeSelection(static_cast<std::size_t>(control.page()));
   });
   book->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, [&binding, &control](wxBookCtrlEvent& event) {

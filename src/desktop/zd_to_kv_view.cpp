@@ -11,23 +11,24 @@ namespace {
 constexpr int kBatchCharacters = 40;  // of the longest name of a batch
 
 // Lays out the league and its batches of scores beside the roster that receives them.
-wxSizer* Ends(Binding& binding, wxWindow* parent, ZDtoKV& screen) {
+wxSizer* Ends(ScreenPanel& panel, wxWindow* parent, ZDtoKV& screen) {
+  Binding& binding = panel.binding();
   auto* league = new wxBoxSizer(wxVERTICAL);
   league->Add(
       RosterColumn(binding, parent, screen.Label1[2], screen.LeagueRoster, screen.SourceButton),
       wxSizerFlags().Expand());
   wxChoice* batches = MakeChoice(binding, parent, screen.EventList, BatchHeading);
   SetColumns(*batches, kBatchCharacters);
+  SetRoom(panel, *batches);
   league->Add(batches, wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));
   return SideBySide(*parent, {league, RosterColumn(binding, parent, screen.Label1[1],
                                                    screen.HandicapRoster, screen.DestButton)});
 }
 
 wxPanel* MakeMain(ScreenPanel& panel, ZDtoKV& screen) {
-  Binding& binding = panel.binding();
-  wxPanel* frame = MakeFrame(binding, &panel, screen.Frame2);
+  wxPanel* frame = MakeFrame(panel.binding(), &panel, screen.Frame2);
   auto* content = new wxBoxSizer(wxVERTICAL);
-  content->Add(Ends(binding, frame, screen), wxSizerFlags().Expand());
+  content->Add(Ends(panel, frame, screen), wxSizerFlags().Expand());
   AddRun(*content, panel, frame,
          {.heading = screen.Label1[0],
           .log = screen.Message,

@@ -332,8 +332,7 @@ TEST_F(DesktopTest, PreviewsATransferAndUndoesIt) {
   user.Press("PreviewButton");
   await_titles("qbdata/qbcrs.dat", "Pe\u00F1on");
   user.Next([] {
-    EXPECT_EQ(Operator::Find("ChangeList")->GetParent()->GetParent()->GetLabel(),
-              "What would change");
+    EXPECT_EQ(wxGetTopLevelParent(Operator::Find("ChangeList"))->GetLabel(), "What would change");
     bool marked = false;
     for (const wxWindow* window : wxTopLevelWindows) {
       if (window->GetLabel() == "Preview - Transfer COURSES from Kelvane to Quenby") marked = true;
@@ -460,7 +459,7 @@ TEST(FocusTest, WhatWaitsGoesBeforeWhatComesLater) {
   EXPECT_EQ(heard, "left,");
 }
 
-TEST(FocusTest, ALostFocusGoesWhereItDoesNoHarm) {
+TEST(FocusTest, ALostFocusGoesToAControlOnWhichEnterHasTheLeastEffect) {
   Demo<BoxlessHost> demo;
   demo.Show("LoadRoster");
   auto& picker = dynamic_cast<LoadRoster&>(demo.host.Load("LoadRoster"));

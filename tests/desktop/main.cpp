@@ -11,8 +11,12 @@
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const golf::TempFolder settings;
+  const char* const kSettings = "GOLF_TEST_SETTINGS";  // shared with the child processes of a test
+  wxString folder = settings.Path();
+  if (!wxGetEnv(kSettings, &folder)) wxSetEnv(kSettings, folder);
   settings.Write("gtk-3.0/settings.ini", "[Settings]\ngtk-entry-select-on-focus=0\n");
-  wxSetEnv("XDG_CONFIG_HOME", settings.Path());
+  wxSetEnv("XDG_CONFIG_HOME", folder);
+  wxSetEnv("GTK_OVERLAY_SCROLLING", "0");  // as in the program
   wxApp::SetInstance(new wxApp);
   const wxInitializer toolkit(argc, argv);
   if (!toolkit.IsOk()) return 1;

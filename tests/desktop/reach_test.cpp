@@ -121,28 +121,28 @@ class CountingScreen {
 
  private:
   template <class Event>
-  void Tie(Event& event) {
+  void CountEvent(Event& event) {
     event = [this](auto&&...) { ++ran_; };
   }
 
   void Count(Control& control) {
-    Tie(control.on_enter);
-    Tie(control.on_leave);
+    CountEvent(control.on_enter);
+    CountEvent(control.on_leave);
     control.on_key = [this](std::string_view) { return ++ran_ > 0; };
-    if (auto* button = dynamic_cast<Button*>(&control)) Tie(button->on_click);
-    if (auto* toggle = dynamic_cast<Toggle*>(&control)) Tie(toggle->on_click);
-    if (auto* text = dynamic_cast<TextBox*>(&control)) Tie(text->on_change);
-    if (auto* tab = dynamic_cast<Tab*>(&control)) Tie(tab->on_click);
+    if (auto* button = dynamic_cast<Button*>(&control)) CountEvent(button->on_click);
+    if (auto* toggle = dynamic_cast<Toggle*>(&control)) CountEvent(toggle->on_click);
+    if (auto* text = dynamic_cast<TextBox*>(&control)) CountEvent(text->on_change);
+    if (auto* tab = dynamic_cast<Tab*>(&control)) CountEvent(tab->on_click);
     if (auto* list = dynamic_cast<List*>(&control)) {
-      Tie(list->on_click);
-      Tie(list->on_double_click);
+      CountEvent(list->on_click);
+      CountEvent(list->on_double_click);
       list->AddItem("the last");
     }
     if (auto* grid = dynamic_cast<Grid*>(&control)) {
-      Tie(grid->on_row_change);
-      Tie(grid->on_double_click);
-      Tie(grid->on_change);
-      Tie(grid->on_heading_click);
+      CountEvent(grid->on_row_change);
+      CountEvent(grid->on_double_click);
+      CountEvent(grid->on_change);
+      CountEvent(grid->on_heading_click);
       grid->SetRows(std::max(grid->rows(), 2));
     }
   }

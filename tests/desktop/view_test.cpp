@@ -19,6 +19,7 @@
 
 #include "desktop/colours.h"
 #include "desktop/demo_desktop.h"
+#include "desktop/screen_panel.h"
 #include "screens/results/team_layout_builder.h"
 
 namespace golf {
@@ -60,6 +61,10 @@ void ForEachWindow(const std::function<void(wxTopLevelWindow&, Screen&)>& visit)
   }
 }
 
+ScreenPanel& PanelOf(const wxTopLevelWindow& window) {
+  return dynamic_cast<ScreenPanel&>(*window.GetChildren().front()->GetChildren().front());
+}
+
 // Returns the names of the controls that the tab key must reach. It reaches only one option of a
 // group.
 std::set<std::string> NamesToReach(const Screen& screen) {
@@ -79,7 +84,7 @@ wxRect PlaceOf(const wxWindow& widget) {
   wxRect place = widget.GetScreenRect();
   for (wxWindow* at = widget.GetParent(); at != nullptr; at = at->GetParent()) {
     if (const auto* panel = dynamic_cast<ScreenPanel*>(at)) {
-      place.SetPosition(panel->CalcUnscrolledPosition(place.GetPosition()));
+      place.SetPosition(panel->scroller().CalcUnscrolledPosition(place.GetPosition()));
       return place;
     }
   }
@@ -134,7 +139,10 @@ TEST(ViewTest, TheTabKeyReachesEveryControlInReadingOrder) {
 TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
   ForEachWindow([](wxTopLevelWindow& window, Screen&) {
     const wxRect area = wxDisplay(&window).GetClientArea();
-    EXPECT_TRUE(area.Contains(window.GetScreenRect()));
+    // A window manager may place a part of its frame outside the display.
+    EXPECT_TRUE(area.Contains(wxRect(window.ClientToScreen(wxPoint()), window.GetClientSize())));
+    const wxScrolledWindow& scroller = PanelOf(window).scroller();
+    EXPECT_LE(scroller.GetVirtualSize().x, scroller.GetClientSize().x) << "scrolls sideways";
     const int line = window.GetCharHeight();
     ForEachWidget(window, [&](wxWindow& widget) {
       SCOPED_TRACE(widget.GetName());
@@ -142,8 +150,7 @@ TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
       const bool in_foot = widget.GetParent()->GetParent() == &window;
       if (widget.IsKindOf(wxCLASSINFO(wxButton))) {
         EXPECT_GE(size.x, widget.GetBestSize().x);
-        const bool scrolls = dynamic_cast<ScreenPanel*>(widget.GetParent()) != nullptr;
-        if (in_foot && !scrolls) {
+        if (in_foot) {
           EXPECT_TRUE(window.GetScreenRect().Contains(widget.GetScreenRect()));
         }
       }
@@ -160,6 +167,60 @@ TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
       }
     });
   });
+}
+
+// A run shows its progress and its log, and a widget that has the focus is scrolled into view.
+TEST(ViewTest, TheContentScrollsToWhatIsUsed) {
+  int logs = 0;
+  ForEachWindow([&logs](wxTopLevelWindow& window, Screen&) {
+    ScreenPanel& panel = PanelOf(window);
+    const auto expect_visible = [&panel](const wxWindow* widget, const char* when) {
+      if (widget == nullptr) return;
+      EXPECT_TRUE(panel.scroller().GetScreenRect().Contains(widget->GetScreenRect()))
+          << widget->GetName() << when;
+    };
+    std::vector<wxWindow*> entries;
+    const wxWindow* log = nullptr;
+    ForEachWidget(panel, [&](wxWindow& widget) {
+      if (!widget.IsKindOf(wxCLASSINFO(wxTextCtrl)) || !widget.IsEnabled()) return;
+      entries.push_back(&widget);
+      if (widget.HasFlag(wxTE_DONTWRAP) && widget.GetName() == "Message") log = &widget;
+    });
+    if (log != nullptr) {
+      ++logs;
+      panel.SetInRun(true);
+      RunEvents(kWindowTime);
+      expect_visible(wxWindow::FindWindowByName("Progress", &panel), " in a run");
+      panel.SetInRun(false);
+      RunEvents(kWindowTime);
+      expect_visible(log, " after a run");
+    }
+    for (wxWindow* entry : entries) {
+      entry->SetFocus();
+      RunEvents(kKeyTime);
+      expect_visible(entry, " with the focus");
+    }
+  });
+  EXPECT_EQ(logs, 4);
+}
+
+TEST(ViewTest, TheProgressOfARunIsShownWhole) {
+  const std::string text = "Transferring Featherstone, Alexander";
+  int labels = 0;
+  ForEachWindow([&](wxTopLevelWindow& window, Screen& screen) {
+    for (Control* control : screen.controls()) {
+      auto* label = dynamic_cast<Label*>(control);
+      if (control->name() != "Working" && control->name() != "TransferLabel") continue;
+      ++labels;
+      label->SetVisible(true);
+      label->SetCaption(text);
+      PanelOf(window).binding().Refresh();
+      const wxWindow& widget = *wxWindow::FindWindowByName(control->name(), &window);
+      EXPECT_EQ(widget.GetLabel(), text);
+      EXPECT_GE(widget.GetSize().x, widget.GetTextExtent(text).x);
+    }
+  });
+  EXPECT_EQ(labels, 6);
 }
 
 TEST(ViewTest, TextsAreReadable) {

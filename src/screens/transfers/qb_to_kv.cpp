@@ -92,7 +92,7 @@ void QBtoKV::OnLoad() {
   const ResumeNext silently = ResumeNextButReads(nullptr);
   state().StoreDataPath = state().QBDataPath;
   ReadSettings(state(), *this, Remembered());
-  TieEvents();  // the handlers must not run while the settings are read
+  ConnectEvents();  // the handlers must not run while the settings are read
   if (FirstTimeLoaded.text() != "NO") TCheck2.SetValue(false);
   FirstTimeLoaded.SetText("NO");
   Message.SetText("");
@@ -110,7 +110,7 @@ void QBtoKV::OpenAgain() {
 
 // Connects the lists to their event handlers. Each new choice shows the transfer button again,
 // which a run has hidden.
-void QBtoKV::TieEvents() {
+void QBtoKV::ConnectEvents() {
   const auto offering = [this](void (QBtoKV::*choose)()) {
     return [this, choose] {
       TransferButton.SetVisible(true);

@@ -87,7 +87,7 @@ class QBtoKV : public Screen {
   std::size_t TeesPlayed(const Sex& sex);
 
   std::vector<Control*> Remembered();
-  void TieEvents();
+  void ConnectEvents();
   void Match(const std::function<void()>& choose);
 
   void FillCourseCombo();

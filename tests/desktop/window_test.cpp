@@ -1,0 +1,104 @@
+// Tests the places and the sizes of windows, and which window is active.
+
+#include <gtest/gtest.h>
+#include <wx/display.h>
+#include <wx/stdpaths.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "desktop/demo_desktop.h"
+#include "desktop/layout_helpers.h"
+#include "desktop/operator.h"
+#include "support/temp_folder.h"
+
+namespace golf {
+namespace {
+
+// Runs a command and returns what it prints.
+std::string OutputOf(const std::string& command) {
+  const TempFolder folder;
+  if (std::system((command + " >" + folder.Path("output")).c_str()) != 0) return {};
+  return folder.Read("output");
+}
+
+TEST(WindowTest, AWindowOutsideTheDisplayIsMovedOntoIt) {
+  Demo<BoxlessHost> demo;
+  wxTopLevelWindow& window = demo.Show("GridSort");
+  const wxRect area = wxDisplay(&window).GetClientArea();
+  const wxPoint last = area.GetBottomRight() + wxPoint(1, 1) - window.GetSize();
+  const wxPoint inside = area.GetTopLeft() + wxPoint(7, 9);
+  const struct {
+    wxPoint place;
+    wxPoint expected;
+  } kCases[] = {{inside, inside},
+                {{last.x + 1, inside.y}, {last.x, inside.y}},
+                {{inside.x, area.GetBottom()}, {inside.x, last.y}},
+                {area.GetTopLeft() - wxPoint(20, 30), area.GetTopLeft()}};
+  for (const auto& c : kCases) {
+    MoveOntoDisplay(window, c.place);
+    EXPECT_EQ(window.GetPosition(), c.expected) << c.place.x << ", " << c.place.y;
+  }
+}
+
+// Prints the size with which a window opens, and makes the window larger. The next test runs this
+// one in separate processes.
+TEST(WindowTest, DISABLED_OpensAndGrows) {
+  Demo<BoxlessHost> demo;
+  wxTopLevelWindow& window = demo.Show("TransferHistory");
+  const wxSize size = window.GetClientSize();
+  std::printf("\nsize %d %d\n", size.x, size.y);
+  window.SetClientSize(size + wxSize(-40, 30));
+  window.Close();
+}
+
+TEST(WindowTest, ASizeIsKeptForTheNextProcess) {
+  const auto opened = [] {
+    const std::string output =
+        OutputOf("\"" + wxStandardPaths::Get().GetExecutablePath().utf8_string() +
+                 "\" --gtest_also_run_disabled_tests --gtest_filter=*.DISABLED_OpensAndGrows");
+    wxSize size;
+    std::sscanf(output.c_str() + std::min(output.find("size "), output.size()), "size %d %d",
+                &size.x, &size.y);
+    return size;
+  };
+  const wxSize first = opened();
+  EXPECT_GT(first.x, 0);
+  EXPECT_EQ(opened(), first + wxSize(-40, 30));
+}
+
+// Needs a window manager. tests/long/window_managers runs it under several ones.
+TEST(WindowTest, DISABLED_TheDialogIsActiveAfterABox) {
+  Demo<DesktopHost> demo;
+  Operator user;
+  demo.host.Show(demo.host.Load("TransferMenu"));
+  const auto await_active = [&](const std::string& screen) {
+    user.Await(screen + " as the active window", [&, screen] {
+      return OutputOf("xdotool getactivewindow getwindowname") ==
+             demo.host.Load(screen).caption() + "\n";
+    });
+  };
+  await_active("TransferMenu");
+  user.Press("ZDtoQBButton");
+  await_active("ZDtoQB");
+  user.Press("TransferButton");
+  user.Answer("Message", "First select the source league");
+  await_active("ZDtoQB");
+  user.Press("CancelButton");
+  await_active("TransferMenu");
+  user.Press("KVtoQBButton");
+  user.Press("DestButton");
+  await_active("LoadRosters");
+  user.Press("NewButton");
+  user.Answer("New Roster", "Start a new roster?", 'N', wxMOD_ALT);
+  await_active("LoadRosters");
+  user.Press("CancelButton");
+  await_active("KVtoQB");
+  user.Press("ExitButton");
+  user.RunToExit();
+}
+
+}  // namespace
+}  // namespace golf
