@@ -14,7 +14,8 @@ namespace golf {
 namespace {
 
 constexpr int kMostRowsMeasured = 500;  // the first rows, which decide about the column widths
-constexpr int kMargin = 8;              // around a cell's text, both sides together
+constexpr int kFewRows = 20;  // the texts of so few rows are measured again after each change
+constexpr int kMargin = 8;    // around a cell's text, both sides together
 
 // Is the widget of a grid control.
 class GridView : public wxGrid {
@@ -54,7 +55,11 @@ class GridView : public wxGrid {
   void Follow() {
     const WhileSet showing(showing_);
     const bool resized = table_->CatchUp();
-    if (resized || !measured_) Measure();
+    if (resized || !measured_) {
+      Measure();
+    } else if (GetNumberRows() <= kFewRows) {
+      Widen();
+    }
     ColourSelection(HasFocus());
     ShowActiveRow();
     ForceRefresh();
@@ -75,6 +80,21 @@ class GridView : public wxGrid {
     for (int column = 0; column < GetNumberCols(); ++column) {
       SetColSize(column, WidthOf(column));
     }
+    SpendSpareWidth();
+  }
+
+  // Widens each column whose contents have become wider than it.
+  void Widen() {
+    bool is_wider = false;
+    for (int column = 0; column < GetNumberCols(); ++column) {
+      const int width = WidthOf(column);
+      if (width <= GetColSize(column)) continue;
+      is_wider = true;
+      SetColSize(column, width);
+    }
+    if (!is_wider) return;
+    if (widest_ >= 0) SetColSize(widest_, WidthOf(widest_));  // without the spare width
+    widest_ = -1;
     SpendSpareWidth();
   }
 

@@ -162,6 +162,14 @@ TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
           EXPECT_EQ(widget.GetFont().GetFamily(), wxFONTFAMILY_TELETYPE);
         }
       }
+      if (const auto* const grid = dynamic_cast<const wxGrid*>(&widget)) {
+        for (int row = 0; row < std::min(grid->GetNumberRows(), 20); ++row) {
+          for (int column = 0; column < grid->GetNumberCols(); ++column) {
+            const wxString text = grid->GetCellValue(row, column);
+            EXPECT_GE(grid->GetColSize(column), grid->GetTextExtent(text).x) << text;
+          }
+        }
+      }
       if (widget.IsKindOf(wxCLASSINFO(wxStaticText)) && widget.GetLabel() == "Handicap") {
         EXPECT_GE(size.x, widget.GetBestSize().x);
       }
