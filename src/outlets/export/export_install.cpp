@@ -3,6 +3,7 @@
 #include "outlets/export/export_results.h"
 #include "outlets/export/export_tables.h"
 #include "outlets/export/exporters.h"
+#include "outlets/export/result_tables.h"
 
 namespace golf {
 

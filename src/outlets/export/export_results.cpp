@@ -8,6 +8,7 @@
 #include "core/code_page.h"
 #include "core/number_text.h"
 #include "outlets/export/result_rows.h"
+#include "outlets/export/result_tables.h"
 #include "outlets/results/player_values.h"
 #include "outlets/results/team_values.h"
 #include "scoring/layouts/custom_standings.h"
@@ -18,94 +19,11 @@
 namespace golf {
 namespace {
 
-// The tables of results follow those of the install.
-constexpr std::size_t kFirstTable = kInstallTables;
-// The positions of the tables in ResultTables.
-constexpr std::size_t kPlayers = 0;
-constexpr std::size_t kTeams = 4;
-constexpr std::size_t kCustom = 8;
-
-constexpr std::size_t kTablesOfKind = 4;
-
-struct KindOfResult {
-  std::string_view names[kTablesOfKind];  // of the tables, as described in result_rows.h
-  std::string_view owner;                 // the column that links to the golfer's entry or the team
-  std::string_view owners;                // the table of entries or teams
-  std::vector<ExportColumn> described;    // the columns that describe the owner
-  std::string_view key;                   // the meaning of a key
-};
-
 bool IsOfFile(const NumberedError& error) {
   constexpr ErrorNumber kErrors[] = {ErrorNumber::kDeviceFault,  ErrorNumber::kDiskFull,
                                      ErrorNumber::kTooManyFiles, ErrorNumber::kPermissionDenied,
                                      ErrorNumber::kPathAccess,   ErrorNumber::kDiskNotReady};
   return std::ranges::any_of(kErrors, [&](ErrorNumber number) { return error.Is(number); });
-}
-
-ExportColumn Result(const std::string& name) { return {name, ColumnType::kResult}; }
-
-void AddTables(std::vector<ExportTable>& tables, const KindOfResult& kind,
-               const ResultNames& names) {
-  const ExportColumn owner{std::string(kind.owner), ColumnType::kInteger, kind.owners};
-  const ExportColumn hole{"hole"};
-  const ExportColumn key{std::string(kind.key)};
-  const auto add = [&](std::size_t which, std::vector<ExportColumn> more,
-                       const std::vector<std::string>& values) {
-    ExportTable table{kind.names[which], {owner, {"round"}}, 2 + more.size()};
-    table.columns.insert(table.columns.end(), more.begin(), more.end());
-    if (which == 0) {
-      table.columns.push_back({"tournament_id", ColumnType::kInteger, "tournaments"});
-      table.columns.insert(table.columns.end(), kind.described.begin(), kind.described.end());
-      table.columns.push_back({"error"});
-      table.indexes = {"tournament_id, round"};
-    }
-    for (const std::string& value : values) table.columns.push_back(Result(value));
-    tables.push_back(std::move(table));
-  };
-  add(0, {}, names.of_round);
-  add(1, {hole}, names.of_hole);
-  add(2, {key}, names.of_key);
-  add(3, {hole, key}, names.of_hole_and_key);
-}
-
-KindOfResult PlayerKind() {
-  return {{"results_players", "results_player_holes", "results_player_differences",
-           "results_player_hole_differences"},
-          "entry_id",
-          "entries",
-          {{"IDNum"}, {"NameLF", ColumnType::kText}},
-          "difference"};
-}
-
-KindOfResult TeamKind() {
-  return {{"results_teams", "results_team_holes", "results_team_balls", "results_team_hole_balls"},
-          "team_id",
-          "teams",
-          {{"TeamNumber"}},
-          "balls"};
-}
-
-std::vector<ExportTable> MakeTables() {
-  // The names are those of every golfer and team, so they do not need an install.
-  std::vector<ExportTable> tables;
-  ResultNames players;
-  VisitPlayerValues(nullptr, false, 1, players);
-  AddTables(tables, PlayerKind(), players);
-  ResultNames teams;
-  VisitTeamValues(nullptr, 1, teams);
-  AddTables(tables, TeamKind(), teams);
-  tables.push_back({"results_custom",
-                    {{"tournament_id", ColumnType::kInteger, "tournaments"},
-                     {"layout", ColumnType::kText},
-                     {"team_id", ColumnType::kInteger, "teams"},
-                     {"block"},
-                     {"part", ColumnType::kText},
-                     {"Scores"},
-                     {"Points"},
-                     {"Positions"},
-                     {"PointsPositions"}},
-                    5});
-  return tables;
 }
 
 class TournamentResults {
@@ -159,7 +77,7 @@ class TournamentResults {
       ExportRow described;
       described.AddLink(static_cast<std::int64_t>(LeadingNumber(player.IDNum())));  // 0: none
       described.AddText(Utf8FromText(player.NameLF()));
-      AddRows(kPlayers, entry, round, described, error, rows);
+      AddRows(kPlayerResults, entry, round, described, error, rows);
     }
   }
 
@@ -180,7 +98,7 @@ class TournamentResults {
                             [&] { VisitTeamValues(&state_.Team1(), round, rows); });
       ExportRow described;
       described.AddInteger(team);
-      AddRows(kTeams, id, round, described, error, rows);
+      AddRows(kTeamResults, id, round, described, error, rows);
     });
   }
 
@@ -194,7 +112,7 @@ class TournamentResults {
     row_.AddCells(described);
     row_.AddLink(error);
     if (error == 0) row_.AddCells(rows.round().values);
-    const std::size_t first = kFirstTable + table;
+    const std::size_t first = kInstallTables + table;
     while (row_.size() < ResultTables()[table].columns.size()) row_.AddNull();
     run_.AddRow(first, row_);
     if (error != 0) return;
@@ -251,7 +169,7 @@ class TournamentResults {
         }
         row_.AddInteger(standing.Positions[block][part]);
         row_.AddInteger(standing.PointsPositions[block][part]);
-        run_.AddRow(kFirstTable + kCustom, row_);
+        run_.AddRow(kInstallTables + kCustomResults, row_);
       }
     }
   }
@@ -264,11 +182,6 @@ class TournamentResults {
 };
 
 }  // namespace
-
-const std::vector<ExportTable>& ResultTables() {
-  static const std::vector<ExportTable> kTables = MakeTables();
-  return kTables;
-}
 
 void ExportResults(ExportRun& run, const ExportedTournament& tournament,
                    std::vector<NumberedError>& faults) {

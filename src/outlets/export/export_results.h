@@ -7,10 +7,6 @@
 
 namespace golf {
 
-// Returns the tables of calculated results. They have the names of `results`, and their columns
-// have the names of the calculated values.
-const std::vector<ExportTable>& ResultTables();
-
 // Calculates and exports the results of a tournament: of the golfers and the teams in each round,
 // and of the teams under each custom layout. Adds the errors of results that cannot be calculated
 // to `faults`. Such a result has a row with the number of the error.
