@@ -285,10 +285,28 @@ TEST_F(ExportTest, TheSumsAreThoseOfTheOtherCommands) {
             }));
   EXPECT_EQ(database.Text("select count(*) from golfer_scores"),
             database.Text("select sum(\"ScoreCounter_1\") from kelvane_golfers"));
-  EXPECT_EQ(
-      database.Text("select '\"' || \"NameLF\" || '\"', net, place "
-                    "from tournament_standings where round = 1 and place <= 4"),
-      "\"Duarte, Ines\"|68|1\n\"Calder, Tom\"|69|2\n\"Stoll, Vera\"|69|2\n\"Eames, Walt\"|73|4\n");
+}
+
+// A golfer whose net is below 0 is first, and one with a score below 0 has no place.
+TEST_F(ExportTest, TheStandingsHaveThePlacesOfTheCommand) {
+  std::string entries = folder.Read("i/qbdata/X0001.Q9G");
+  constexpr std::size_t kEntry = 3052;
+  entries.replace(2 * kEntry + 86, 4, "\0\0\xF0\x42", 4);  // a handicap of 120 in round 1
+  for (std::size_t hole = 0; hole < 18; ++hole) entries.replace(443 + 2 * hole, 2, "\xFE\xFF");
+  folder.Write("i/qbdata/X0001.Q9G", entries);
+  Export("--to e.sqlite");
+  std::istringstream csv(In("results players --tournament 1 --round 1 --csv").out);
+  std::string wanted;
+  std::string line;
+  for (std::getline(csv, line); std::getline(csv, line);) {
+    const std::string place = line.substr(line.rfind(',') + 1);
+    if (!place.empty()) wanted += line.substr(1, line.find('"', 1) - 1) + "|" + place + "\n";
+  }
+  EXPECT_NE(wanted.find("|10\n"), std::string::npos) << wanted;
+  EXPECT_EQ(Database(folder.Path("e.sqlite"))
+                .Text("select \"NameLF\", place from tournament_standings "
+                      "where round = 1 and place > 0 order by place, entry_id"),
+            wanted);
 }
 
 // Compares the tables of results with the values of `results --json`.
@@ -408,6 +426,7 @@ TEST_F(ExportTest, TextsOfAnyBytesComeBack) {
 TEST_F(ExportTest, ATargetIsReplacedOnlyOnRequest) {
   folder.Write("there.sqlite", "old");
   folder.Write("open.sqlite-wal", "");
+  folder.Write("notes.txt", "old");
   folder.Write("kept/notes.txt", "old");
   const struct {
     const char* words;
@@ -419,8 +438,9 @@ TEST_F(ExportTest, ATargetIsReplacedOnlyOnRequest) {
       {"kept --replace", 1, "It is not a folder of an earlier export"},
       {"kept/x.sqlite --format csv", 0, ""},
       {"there.sqlite --format csv --replace", 1, "It is not a folder of an earlier export"},
-      {"open.sqlite --replace", 1, "Another program has open.sqlite open"},
+      {"open.sqlite --replace", 1, "another program has the database open"},
       {"there.sqlite --replace", 0, ""},
+      {"notes.txt --format sqlite --replace", 1, "It is no file with the extension .sqlite"},
       {"missing/x.sqlite", 1, "There is no folder missing."},
       {"i/kvdata/x", 1, "is in the folder kvdata, which contains golf data"},
       {"KVData", 1, "has the name of golf data"},

@@ -28,14 +28,10 @@ class RosterExport {
 
  private:
   void AddHeader() {
-    bool has_header = false;
-    run_.ForEach<KelvaneHeaderLayout>(base_ + ".kv5", [&](std::int64_t record, const auto& header) {
-      if (record != 1) return;
-      has_header = true;
-      run_.Add(TableId::kKelvaneRosters, {id_, name_}, {}, header.Bytes());
-      run_.AddElements(TableId::kKelvaneRosterTables, id_, header.Bytes());
-    });
-    if (!has_header) run_.AddWithoutFields(TableId::kKelvaneRosters, {id_, name_});
+    const auto header = run_.ReadSingle<KelvaneHeaderLayout>(base_ + ".kv5");
+    if (!header) return run_.AddWithoutFields(TableId::kKelvaneRosters, {id_, name_});
+    run_.Add(TableId::kKelvaneRosters, {id_, name_}, {}, header->Bytes());
+    run_.AddElements(TableId::kKelvaneRosterTables, id_, header->Bytes());
   }
 
   void Add(std::int64_t place, const Record<KelvaneGolferLayout>& golfer, std::string_view scores) {
@@ -74,9 +70,9 @@ class RosterExport {
 }  // namespace
 
 void ExportKelvane(ExportRun& run, const ExportedCourses& courses) {
-  run.ForEach<KelvaneSystemLayout>("KVSYSTEM.FIL", [&](std::int64_t record, const auto& system) {
-    if (record == 1) run.Add(TableId::kKelvaneSystem, {}, {}, system.Bytes());
-  });
+  if (const auto system = run.ReadSingle<KelvaneSystemLayout>("KVSYSTEM.FIL")) {
+    run.Add(TableId::kKelvaneSystem, {}, {}, system->Bytes());
+  }
   const std::string& folder = run.state().KVDataPath;
   for (const std::string& roster : run.files().BasesLike(folder, "*", {".KV5", ".KVG", ".KVS"})) {
     RosterExport(run, courses, roster).Run();

@@ -28,16 +28,12 @@ class TournamentExport {
 
   // Returns the ids of the tournament, or nothing if the control file has no record.
   std::optional<ExportedTournament> Run() {
-    bool has_control = false;
-    run_.ForEach<TournamentLayout>(FileWith(".Q9C"), [&](std::int64_t record, const auto& control) {
-      if (record == 1) {
-        control_ = control;
-        has_control = true;
-      }
-    });
+    const auto control = run_.ReadSingle<TournamentLayout>(FileWith(".Q9C"));
+    const bool has_control = control.has_value();
     if (!has_control) {
       run_.AddWithoutFields(TableId::kTournaments, {exported_.id, std::int64_t{exported_.number}});
     } else {
+      control_ = *control;
       AddControl();
     }
     std::int64_t last = 0;
@@ -179,14 +175,13 @@ void ExportQuenby(ExportRun& run, const ExportedCourses& courses,
     tournaments[number] = tournament.id();
     if (const auto exported = tournament.Run()) each(*exported);
   }
-  run.ForEach<MasterLayout>(file("QBMASTER.Q9D"), [&](std::int64_t record, const auto& master) {
-    if (record != 1) return;
-    const auto active = tournaments.find(master.template Get<"ActiveTournament">());
+  if (const auto master = run.ReadSingle<MasterLayout>(file("QBMASTER.Q9D"))) {
+    const auto active = tournaments.find(master->Get<"ActiveTournament">());
     run.Add(TableId::kQuenbyMaster, {},
-            {rosters.Find(master.template Get<"ActiveRoster">()),
+            {rosters.Find(master->Get<"ActiveRoster">()),
              active == tournaments.end() ? 0 : active->second},
-            master.Bytes());
-  });
+            master->Bytes());
+  }
 }
 
 }  // namespace golf

@@ -144,7 +144,7 @@ class TournamentResults {
   void ExportLayout(const std::string& name) {
     ReadLayout read =
         ReadReportLayout(state_.files, state_.StoreDataPath + name + std::string(kLayoutExtension));
-    if (!read.layout) return run_.Note(read.problem);
+    if (!read.layout) return run_.Note(read.problem + " Its results are left out.");
     LimitToChoices(*read.layout);
     CustomStandings standings(state_, *read.layout);
     ForEachTeam([&](int team, std::int64_t) {

@@ -35,13 +35,27 @@ ExportRun::ExportRun(ExportChannels channels)
   progress_.total = LengthOfFiles(files_);
 }
 
+std::string ExportRun::ReadStart(const std::string& file, std::size_t length) {
+  const auto open = files_.Open(file);
+  if (open == nullptr) return {};
+  std::string bytes(length, '\0');
+  bytes.resize(open->ReadAt(0, bytes));
+  if (!bytes.empty() && bytes.size() < length) {
+    Note(file + " is shorter than its record. The missing fields are exported as 0.");
+  }
+  progress_.done += std::ssize(bytes);
+  progress_.doing = file;
+  Report();
+  return bytes;
+}
+
 std::optional<RecordReader> ExportRun::Open(const std::string& file, std::size_t length) {
   auto open = files_.Open(file);
   if (open == nullptr) return std::nullopt;
   RecordReader reader(std::move(open), length);
   if (reader.rest() != 0) {
-    Note(file + " ends with " + std::to_string(reader.rest()) +
-         " bytes that are no whole record. They are left out.");
+    Note(file + " ends with an incomplete record of " + std::to_string(reader.rest()) +
+         (reader.rest() == 1 ? " byte" : " bytes") + ". It is left out.");
   }
   return reader;
 }

@@ -66,6 +66,15 @@ class ExportRun {
       each(reader->number(), RecordOf<Layout>(bytes));
     }
   }
+  // Returns the only record of a file, or nothing if the file is empty or does not exist. The
+  // missing bytes of a shorter file are zeros, as for the programs.
+  template <class Layout>
+  std::optional<Record<Layout>> ReadSingle(const std::string& file) {
+    const std::string bytes = ReadStart(file, Layout::kLength);
+    if (bytes.empty()) return std::nullopt;
+    return RecordOf<Layout>(bytes);
+  }
+
   // Returns nothing if the file does not exist.
   std::optional<RecordReader> Open(const std::string& file, std::size_t length);
   std::string_view Next(RecordReader& reader, const std::string& file);
@@ -106,6 +115,9 @@ class ExportRun {
   const std::vector<std::int64_t>& rows() const { return rows_; }
 
  private:
+  // Returns up to `length` bytes.
+  std::string ReadStart(const std::string& file, std::size_t length);
+
   ExportChannels channels_;
   RecordFiles files_;
   ExportRow row_;

@@ -21,7 +21,9 @@ bool IsExport(const NewTarget& folder) {
 // The three programs search for their folders without regard to case.
 bool IsGolfFolder(const std::string& name) {
   constexpr std::string_view kFolders[] = {"kvdata", "qbdata", "zddata", "transfer-history"};
-  return std::ranges::find(kFolders, LowerCase(name)) != std::end(kFolders);
+  // Windows ignores blanks and dots at the end of a name.
+  const std::string lower = LowerCase(name.substr(0, name.find_last_not_of(" .") + 1));
+  return std::ranges::find(kFolders, lower) != std::end(kFolders);
 }
 
 }  // namespace
@@ -47,19 +49,22 @@ std::string RefusalOfTarget(const NewTarget& target, ExportFormat format, bool r
     return path + " has the name of golf data. Choose another name for the export.";
   }
   if (is_file && target.HasCompanion("-wal", "-journal")) {
-    return "Another program has " + path +
-           " open, or did not close it. Close it there, or choose another name.";
+    return path + "-wal or " + path +
+           "-journal exists: another program has the database open, or did not close it. Close it "
+           "there, or choose another name.";
   }
   const NewTarget::Kind existing = target.Existing();
   if (existing == NewTarget::Kind::kNothing) return {};
-  const bool can_be_replaced = is_file ? existing == NewTarget::Kind::kFile
+  const bool can_be_replaced = is_file ? existing == NewTarget::Kind::kFile &&
+                                             FormatOfTarget(target) == ExportFormat::kSqlite
                                        : existing == NewTarget::Kind::kFolder && IsExport(target);
   if (can_be_replaced && replace) return {};
   return path + " exists. " +
          (can_be_replaced ? "With --replace, the export replaces it."
-          : is_file       ? "It is not a file, so the export does not replace it."
-                          : "It is not a folder of an earlier export, so the export does not "
-                            "replace it.");
+          : is_file ? "It is no file with the extension .sqlite, .sqlite3 or .db, so the export "
+                      "does not replace it."
+                    : "It is not a folder of an earlier export, so the export does not "
+                      "replace it.");
 }
 
 }  // namespace golf

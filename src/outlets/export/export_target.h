@@ -12,8 +12,8 @@ namespace golf {
 ExportFormat FormatOfTarget(const NewTarget& target);
 
 // Returns a sentence, in UTF-8, if the target cannot be written, for example because it exists and
-// `replace` is false. A folder is replaced only if it can be an earlier export. Returns an empty
-// text otherwise.
+// `replace` is false. A folder is replaced only if it can be an earlier export, and a file only if
+// it has an extension of SQLite. Returns an empty text otherwise.
 std::string RefusalOfTarget(const NewTarget& target, ExportFormat format, bool replace);
 
 }  // namespace golf

@@ -25,15 +25,10 @@ class DivisionExport {
   // `is_only` is true if the league has no other division.
   void Run(bool with_substitutes, bool is_only) {
     is_only_ = is_only;
-    bool has_control = false;
-    run_.ForEach<LeagueControlLayout>(base_ + ".ZL8",
-                                      [&](std::int64_t record, const auto& control) {
-                                        if (record != 1) return;
-                                        control_ = control;
-                                        has_control = true;
-                                      });
+    const auto control = run_.ReadSingle<LeagueControlLayout>(base_ + ".ZL8");
+    control_ = control.value_or(Record<LeagueControlLayout>());
     ExportEvents();
-    AddLeague(has_control);
+    AddLeague(control.has_value());
     ExportTeams();
     const std::int64_t last_player =
         std::int64_t{control_.Get<"PlayerFactor1">()} * control_.Get<"PlayerFactor2">();

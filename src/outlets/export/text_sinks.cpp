@@ -50,7 +50,26 @@ class TextSink : public ExportSink {
     SyncOutside(folder_);
   }
 
+ protected:
+  void AppendCell(std::string& line, const ExportRow& row, std::size_t i,
+                  std::string_view null) const {
+    switch (row.kind(i)) {
+      case CellKind::kNull:
+        line += null;
+        break;
+      case CellKind::kText:
+        AppendText(line, row.text(i));
+        break;
+      case CellKind::kBoolean:
+        line += row.integer(i) != 0 ? "true" : "false";
+        break;
+      default:
+        AppendNumber(line, row, i);
+    }
+  }
+
  private:
+  virtual void AppendText(std::string& line, std::string_view text) const = 0;
   virtual void AppendHeading(std::string& line, const ExportTable& table) = 0;
   virtual void AppendRow(std::string& line, const ExportTable& table, const ExportRow& row) = 0;
 
@@ -80,25 +99,14 @@ class CsvSink : public TextSink {
   void AppendRow(std::string& line, const ExportTable&, const ExportRow& row) override {
     for (std::size_t i = 0; i < row.size(); ++i) {
       if (i > 0) line += ',';
-      switch (row.kind(i)) {
-        case CellKind::kNull:
-          break;
-        case CellKind::kText:
-          AppendText(line, row.text(i));
-          break;
-        case CellKind::kBoolean:
-          line += row.integer(i) != 0 ? "true" : "false";
-          break;
-        default:
-          AppendNumber(line, row, i);
-      }
+      AppendCell(line, row, i, "");
     }
     line += "\r\n";
   }
 
   // Puts an apostrophe before a text that a spreadsheet would calculate, also if apostrophes and
   // white space precede the formula. The original text can therefore be restored.
-  static void AppendText(std::string& line, std::string_view text) {
+  void AppendText(std::string& line, std::string_view text) const override {
     if (text.empty()) {
       line += "\"\"";
       return;
@@ -125,24 +133,12 @@ class JsonLinesSink : public TextSink {
       line += '"';
       line += table.columns[i].name;
       line += "\":";
-      switch (row.kind(i)) {
-        case CellKind::kNull:
-          line += "null";
-          break;
-        case CellKind::kText:
-          AppendText(line, row.text(i));
-          break;
-        case CellKind::kBoolean:
-          line += row.integer(i) != 0 ? "true" : "false";
-          break;
-        default:
-          AppendNumber(line, row, i);
-      }
+      AppendCell(line, row, i, "null");
     }
     line += "}\n";
   }
 
-  static void AppendText(std::string& line, std::string_view text) {
+  void AppendText(std::string& line, std::string_view text) const override {
     constexpr std::string_view kDigits = "0123456789abcdef";
     line += '"';
     for (const char c : text) {

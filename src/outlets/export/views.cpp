@@ -53,28 +53,36 @@ select * from (
 where strokes > 0)"},
 
     // The golfers of each round of each tournament, ranked by net as `results players` does. The
-    // results are texts; adding 0 converts them to numbers. A golfer without a score has no place.
+    // results are texts. A net with a plus sign is below 0. A golfer without a score has no place.
     {"tournament_standings", R"(
-with players as (
-  select *, nullif("TourScoreGross_total" + 0, 0) as gross,
-         case when "TourScoreGross_total" + 0 > 0 then "TourScoreNet_total" + 0 end as net
-  from results_players where error is null)
+with played as (
+  select *, "TourTotalGross" + 0 > 0 as has_total from results_players where error is null),
+players as (
+  select *, "TourScoreGross_total" + 0 as gross,
+         ltrim("TourScoreNet_total", '+') *
+           case when "TourScoreNet_total" like '+%' then -1 else 1 end as net
+  from played where "TourScoreGross_total" + 0 > 0
+  union all
+  select *, null, null from played where not "TourScoreGross_total" + 0 > 0)
 select t.id as tournament_id, t.number as tournament, t."Name" as tournament_name,
        p.round, p.entry_id, p."IDNum", p."NameLF", p."TourHandicap", p.gross, p.net,
        case when p.gross > 0 then p."TourPointsNet_total" + 0 end as points,
-       p."TourTotalGross" + 0 as total_gross, p."TourTotalNet" + 0 as total_net,
+       case when p.has_total then p."TourTotalGross" + 0 end as total_gross,
+       case when p.has_total then p."TourTotalNet" + 0 end as total_net,
        case when p.gross > 0 then
          rank() over (partition by p.tournament_id, p.round
                       order by p.gross is null, p.net) end as place
 from players p
 join tournaments t on t.id = p.tournament_id)"},
 
-    // Each team of each round of each tournament with its totals, as `results teams` shows them.
+    // Each team of each round of each tournament with its totals, as `results teams` shows them. A
+    // team without a score has no totals.
     {"team_standings", R"(
 select t.id as tournament_id, t.number as tournament, t."Name" as tournament_name,
        r.round, r.team_id, r."TeamNumber", r."TeamName", r."NameofPlayersOnTeam_0" as golfers,
-       r."ScoreGross_total" + 0 as gross, r."ScoreNet_total" + 0 as net,
-       r."PointsNet_total" + 0 as points
+       case when r."ScoreGross_total" + 0 > 0 then r."ScoreGross_total" + 0 end as gross,
+       case when r."ScoreGross_total" + 0 > 0 then round(r."ScoreNet_total", 2) end as net,
+       case when r."ScoreGross_total" + 0 > 0 then r."PointsNet_total" + 0 end as points
 from results_teams r
 join tournaments t on t.id = r.tournament_id
 where r.error is null)"},
