@@ -6,6 +6,7 @@ build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libcli11-dev nlohmann-json
 test_packages=(libgtest-dev librapidcheck-dev xvfb xauth)
 window_manager_packages=(openbox icewm x11-utils xdotool)
 fuzz_packages=(clang libclang-rt-14-dev)
+formats_packages=(nodejs npm)
 
 say() { printf '== %s\n' "$*"; }
 

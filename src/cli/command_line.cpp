@@ -131,6 +131,7 @@ struct Arguments {
   CourseRequest course;
   CheckRequest check;
   ExportArguments data_export;
+  std::string formats_folder;
   std::int32_t run = 0;
   std::string forgotten;
   UndoRequest undo;
@@ -421,6 +422,16 @@ void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chos
   AddCourse(app, options, args.course, chosen);
   AddCheck(app, options, args.check, chosen);
   AddExport(app, options, args.data_export, chosen);
+
+  CLI::App* formats = AddCommand(app, "formats", "Write a description of every file format",
+                                 "formats --kaitai golf-formats", chosen,
+                                 [&] { return RunFormats(options, args.formats_folder); });
+  formats
+      ->add_option("--kaitai", args.formats_folder,
+                   "The folder for the .ksy files, from which the compiler of Kaitai\nStruct makes "
+                   "parsers. Files of the same names are replaced")
+      ->required()
+      ->type_name("DIR");
 
   AddTransfer(app, options, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
               "courses-kv-to-qb", chosen, [&] { return RunCoursesKvToQb(options); });

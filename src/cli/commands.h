@@ -54,6 +54,9 @@ struct ExportArguments {
 std::vector<std::string> ExportFormats();
 ExitCode RunExport(const Options& options, const ExportArguments& request);
 
+// Writes the descriptions of all file formats into the folder.
+ExitCode RunFormats(const Options& options, const std::string& folder);
+
 struct ResultsRequest {
   std::string what;  // one of ResultsNames
   std::int32_t tournament = 0;

@@ -36,6 +36,7 @@ constexpr FieldTypeInfo InfoOf(FieldType type) {
 struct Dimension {
   int base = 1;
   int count = 1;
+  std::string_view name{};  // what the index counts, such as "hole"; may be empty
 };
 
 // Describes one field of a record: the position, type and indexes of its values. A field without a
@@ -50,6 +51,7 @@ struct Field {
   std::size_t rank = 0;   // the number of indexes
   std::array<Dimension, kMaxRank> dimensions{};
   std::array<std::size_t, kMaxRank> strides{};  // bytes from one value to the next, for each index
+  std::string_view meaning{};  // what the values mean, with their unit; empty if the name says it
 
   constexpr std::size_t Count() const {
     std::size_t count = 1;
@@ -58,6 +60,13 @@ struct Field {
   }
   // Returns the size of all values in bytes.
   constexpr std::size_t Size() const { return Count() * width; }
+
+  // Returns this field with a description of its values, for the documentation.
+  constexpr Field Means(std::string_view text) const {
+    Field described = *this;
+    described.meaning = text;
+    return described;
+  }
 
   // Returns this field as a table with the given indexes. The first index varies fastest in the
   // record.

@@ -11,16 +11,18 @@
 namespace golf {
 namespace {
 
-// Returns the first five cells of a field's table row.
+// Returns the table row of a field.
 std::string RowOf(const Field& field) {
   std::ostringstream row;
   row << '|' << field.offset << '|' << field.Size() << '|' << InfoOf(field.type).name << '|'
       << field.name << '|';
   for (std::size_t i = 0; i < field.rank; ++i) {
     const Dimension& dimension = field.dimensions[i];
-    row << (i == 0 ? "" : ",") << dimension.base << '-' << dimension.base + dimension.count - 1;
+    row << (i == 0 ? "" : ",") << dimension.name << dimension.base << '-'
+        << dimension.base + dimension.count - 1;
   }
-  return row.str() + '|';
+  row << '|' << field.meaning << '|';
+  return row.str();
 }
 
 std::string WithoutBlanks(std::string text) {

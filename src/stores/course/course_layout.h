@@ -19,13 +19,15 @@ inline constexpr int kCourseHoles = 18;
 
 namespace course_fields {
 
-inline constexpr Dimension kTees{1, kTeeSlots};
-inline constexpr Dimension kHoles{1, kCourseHoles};
-inline constexpr Dimension kGroups{0, 2};
+inline constexpr Dimension kTees{1, kTeeSlots, "tee"};
+inline constexpr Dimension kHoles{1, kCourseHoles, "hole"};
+inline constexpr Dimension kStrokes{1, kCourseHoles, "stroke"};
+inline constexpr Dimension kGroups{0, 2, "group"};
 
 inline constexpr auto kShared = std::to_array<Field>({
-    Int16Field("activeflag", 0),   // 0: deleted, ignored everywhere
-    Int16Field("HoleNumFlag", 2),  // 18; 9: front nine; -9: back nine
+    Int16Field("activeflag", 0)
+        .Means("0: a deleted course, which is ignored everywhere; any other value: in use"),
+    Int16Field("HoleNumFlag", 2).Means("18: 18 holes; 9: a front nine; -9: a back nine"),
     TextField("Name", 4, 30),
     TextField("Address1", 34, 30),
     TextField("Address2", 64, 30),
@@ -34,29 +36,37 @@ inline constexpr auto kShared = std::to_array<Field>({
     TextField("Zipcode", 113, 10),
     TextField("GolfPro", 123, 20),
     TextField("Phone", 143, 15),
-    ByteField("ActiveTees", 158).By(kTees),  // 255: active, 0: not active
-    Int16Field("ParsFlag", 164),             // bit t is set if tee t has a par on its first hole
-    Int16Field("HandicapFlag", 166),  // bit t is set if tee t has a handicap on its first hole
+    ByteField("ActiveTees", 158)
+        .By(kTees)
+        .Means("255: active; 0: not active; tee 6 is never shown"),
+    Int16Field("ParsFlag", 164).Means("bit t is set if tee t has a par on its first hole"),
+    Int16Field("HandicapFlag", 166)
+        .Means("bit t is set if tee t has a `HoleHandicap` on its first hole"),
     TextField("TeeName", 168, 7).By(kTees),
-    TextField("TeeNameAbv", 210, 1).By(kTees),
-    SingleField("Rating", 216).By(kTees, kGroups),
-    Int16Field("slope", 264).By(kTees, kGroups),
-    Int16Field("HoleYard", 288).By(kTees, kHoles),
-    Int16Field("YardOut", 504).By(kTees),
-    Int16Field("YardIn", 516).By(kTees),
-    Int16Field("YardTotal", 528).By(kTees),
-    Int16Field("HolePar", 540).By(kTees, kHoles),
-    Int16Field("ParOut", 756).By(kTees),
-    Int16Field("ParIn", 768).By(kTees),
-    Int16Field("ParTotal", 780).By(kTees),
-    Int16Field("HoleHandicap", 792).By(kTees, kHoles),  // 1 to 18; 0: none
-    Int16Field("StrkSqnc", 1008).By(kTees, kHoles),     // the hole that gets stroke n
-    Int16Field("KVCourseNum", 1224),  // the Kelvane record it was copied from; 0: none
-    Int16Field("HoleNumber", 1226).By(kTees, kHoles),  // the printed number, 1 to 72
+    TextField("TeeNameAbv", 210, 1).By(kTees).Means("one letter"),
+    SingleField("Rating", 216)
+        .By(kTees, kGroups)
+        .Means("course rating in strokes; group 0: men, 1: ladies"),
+    Int16Field("slope", 264).By(kTees, kGroups).Means("slope rating; group 0: men, 1: ladies"),
+    Int16Field("HoleYard", 288).By(kTees, kHoles).Means("length in the unit of `YardsOrMeters`"),
+    Int16Field("YardOut", 504).By(kTees).Means("length of the front nine"),
+    Int16Field("YardIn", 516).By(kTees).Means("length of the back nine"),
+    Int16Field("YardTotal", 528).By(kTees).Means("length of all holes"),
+    Int16Field("HolePar", 540).By(kTees, kHoles).Means("strokes"),
+    Int16Field("ParOut", 756).By(kTees).Means("strokes of the front nine"),
+    Int16Field("ParIn", 768).By(kTees).Means("strokes of the back nine"),
+    Int16Field("ParTotal", 780).By(kTees).Means("strokes of all holes"),
+    Int16Field("HoleHandicap", 792).By(kTees, kHoles).Means("1 (hardest) to 18; 0: none"),
+    Int16Field("StrkSqnc", 1008)
+        .By(kTees, kStrokes)
+        .Means("the hole that gets this handicap stroke"),
+    Int16Field("KVCourseNum", 1224)
+        .Means("in Quenby: the Kelvane course that this one was copied from; 0: none"),
+    Int16Field("HoleNumber", 1226).By(kTees, kHoles).Means("printed number, 1 to 72"),
 });
 
 inline constexpr auto kQuenbyTail = std::to_array<Field>({
-    ByteField("YardsOrMeters", 1442),  // 1: meters, any other value: yards
+    ByteField("YardsOrMeters", 1442).Means("1: meters; any other value: yards"),
     KeptBytes(1443, 1783),
 });
 
@@ -92,7 +102,9 @@ struct KelvaneCourseLayout {
 struct CourseIndexLayout {
   static constexpr std::string_view kName = "course index";
   static constexpr std::size_t kLength = 2;
-  static constexpr auto kFields = std::to_array<Field>({Int16Field("Index", 0)});
+  static constexpr auto kFields = std::to_array<Field>(
+      {Int16Field("Index", 0)
+           .Means("record 1: the number of entries; other records: a course number")});
 };
 
 }  // namespace golf
