@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   KVCRS.DAT, QBCRS.DAT, ZDCRS.DAT
-  One record for each course. The number of a course is its record number. A deleted course keeps its record. In Kelvane's own file, KVCRS.DAT, YardsOrMeters has no meaning.
+  The file contains one record for each course. The number of a course is its record number. A deleted course keeps its record. In Kelvane's own file, KVCRS.DAT, YardsOrMeters has no meaning.
 seq:
   - id: records
     type: record

@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.KVG
-  One record for each place of a golfer. Only Kelvane uses the fields that are named Setting, Value, Text or Reserved with their offset.
+  The file contains one record for each place of a golfer. Only Kelvane uses the fields that are named Setting, Value, Text or Reserved with their offset.
 seq:
   - id: records
     type: record

@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.KV5
-  One record. Only Kelvane uses the fields that are named Setting, Code, Slope or Table with their offset.
+  The file contains one record. Only Kelvane uses the fields that are named Setting, Code, Slope or Table with their offset.
 seq:
   - id: records
     type: record

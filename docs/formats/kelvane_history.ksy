@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.KVS
-  One record for each place of a golfer: 300 scores, the newest first. It belongs to the golfer with the same record number in the .KVG file.
+  The file contains one record for each place of a golfer: 300 scores, the newest first. It belongs to the golfer with the same record number in the .KVG file.
 seq:
   - id: records
     type: record

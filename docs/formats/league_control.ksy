@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.ZL8
-  One record.
+  The file contains one record.
 seq:
   - id: records
     type: record

@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.ZE8
-  One record for each event. The number of an event is its record number.
+  The file contains one record for each event. The number of an event is its record number.
 seq:
   - id: records
     type: record

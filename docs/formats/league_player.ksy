@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.ZP8, *.ZS8
-  One record for each player of a division (.ZP8) or substitute of a league (.ZS8). Records 1 to 5 of a .ZS8 file are never used.
+  The file contains one record for each player of a division (.ZP8) or substitute of a league (.ZS8). Records 1 to 5 of a .ZS8 file are never used.
 seq:
   - id: records
     type: record

@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.ZT8
-  One record for each team. The number of a team is its record number.
+  The file contains one record for each team. The number of a team is its record number.
 seq:
   - id: records
     type: record

@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   QBGOLFER.Q9D
-  One record for each golfer of any roster. Records 1 to 9 are never used for a golfer. "Corrected" means that Golf Transfer replaces an invalid value when it reads the record.
+  The file contains one record for each golfer of any roster. Records 1 to 9 are never used for a golfer. "Corrected" means that Golf Transfer replaces an invalid value when it reads the record.
 seq:
   - id: records
     type: record

@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   QBMASTER.Q9D
-  One record.
+  The file contains one record.
 seq:
   - id: records
     type: record

@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   QBROSTER.Q9D
-  One record for each roster. The number of a roster is its record number.
+  The file contains one record for each roster. The number of a roster is its record number.
 seq:
   - id: records
     type: record

@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.Q9C
-  One record. DEFAULT.Q9C contains the defaults of new tournaments. "Corrected" means that Golf Transfer replaces an invalid value when it reads the record.
+  The file contains one record. DEFAULT.Q9C contains the defaults of new tournaments. "Corrected" means that Golf Transfer replaces an invalid value when it reads the record.
 seq:
   - id: records
     type: record

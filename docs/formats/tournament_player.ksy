@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.Q9G
-  One record for each golfer who takes part. "Corrected" means that Golf Transfer replaces an invalid value when it reads the record.
+  The file contains one record for each golfer who takes part. "Corrected" means that Golf Transfer replaces an invalid value when it reads the record.
 seq:
   - id: records
     type: record

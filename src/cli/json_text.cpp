@@ -1,9 +1,9 @@
 #include "cli/json_text.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <iostream>
+
+#include "outlets/field_values.h"
 
 namespace golf {
 namespace {
@@ -87,12 +87,7 @@ std::string JsonLine(const Json& object) {
 }  // namespace
 
 Json JsonSingle(float value) {
-  if (!std::isfinite(value)) return nullptr;
-  std::array<char, 64> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value);
-  double number = 0;
-  std::from_chars(text.data(), end.ptr, number);
-  return number;
+  return std::isfinite(value) ? Json(NumberOfSingle(value)) : Json(nullptr);
 }
 
 void WriteJsonLine(const Json& object) { std::cout << JsonLine(object) << std::endl; }

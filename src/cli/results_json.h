@@ -6,8 +6,9 @@
 
 namespace golf {
 
-// Add every calculated value of the player's current entry, or of the current team, for a round.
-// The key of a value is the name of its member function. Raise the errors of the calculation.
+// These functions add every calculated value for a round to an object: of the player's current
+// entry, or of the current team. The key of a value is the name of its member function. They raise
+// the errors of the calculation.
 void AddResults(PlayerClass& player, bool decimals, int round, Json& object);
 void AddResults(TeamClass& team, int round, Json& object);
 

@@ -22,7 +22,8 @@ class NewTarget {
   std::string extension() const;  // such as ".csv"
   std::string folder() const;     // "." if the path has none
   bool HasFolder() const;         // true if the folder exists
-  // Returns the names of all folders in which the target is, without links.
+  // Returns the names of the folders that contain the target, from the root on. Symbolic links are
+  // resolved.
   std::vector<std::string> Folders() const;
   // Returns true if a file exists whose name is that of the target with one of these endings.
   bool HasCompanion(const std::string& ending, const std::string& other) const;

@@ -88,11 +88,10 @@ wxTextCtrl* MakeLog(ScreenPanel& panel, wxWindow* parent, TextBox& control, int 
 
 // Adds a row of buttons to the foot of the panel. It becomes two rows on a narrow display.
 void AddToFoot(ScreenPanel& panel, wxBoxSizer* buttons);
-// Adds the content to the panel and gives the window the size that the content prefers, as far as
-// the display has space for it. On a small display the flexible widgets become smaller first, then
-// the gaps, and then wide rows become columns. The content scrolls if this does not suffice. The
-// operator cannot make the window smaller than the content needs,
-// unless the display is smaller.
+// Adds the content to the panel. The window gets the size that the content prefers. If the display
+// is too small, these steps follow until the window fits: the flexible widgets become smaller, the
+// gaps are halved, the rows that are too wide become columns, and the content scrolls. The operator
+// cannot make the window smaller than its content, unless the display is smaller than that.
 void FinishWindow(ScreenPanel& panel, wxSizer* content);
 // Returns the largest client size with which the window fits on its display.
 wxSize MostClientSize(const wxTopLevelWindow& window);

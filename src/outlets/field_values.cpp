@@ -84,6 +84,15 @@ std::string ValueText(const FieldValue& value) {
   return NumberName(std::get<double>(value));
 }
 
+double NumberOfSingle(float single) {
+  if (!std::isfinite(single)) return single;
+  char digits[32];
+  const auto end = std::to_chars(digits, std::end(digits), single);
+  double number = 0;
+  std::from_chars(digits, end.ptr, number);
+  return number;
+}
+
 std::string ShownElement(const Field& field, std::string_view record, std::size_t nth,
                          std::string_view date_format) {
   const std::size_t at = field.OffsetOfNth(nth);

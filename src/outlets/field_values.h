@@ -32,6 +32,10 @@ std::string ShortHexText(std::string_view bytes);
 // and the infinities become an empty text.
 std::string ValueText(const FieldValue& value);
 
+// Returns the shortest decimal number that identifies a single, as a double. Returns a value that
+// is no number unchanged.
+double NumberOfSingle(float single);
+
 // Returns an element in the form in which the siblings show it: a date in `date_format`, a plus
 // handicap with a plus sign, an amount of money with its decimals, a text in quotes.
 std::string ShownElement(const Field& field, std::string_view record, std::size_t nth,

@@ -1,4 +1,4 @@
-// Compares the tables of docs/export.md with those of the code.
+// Checks that docs/export.md lists the tables, columns and views of the code.
 
 #include <gtest/gtest.h>
 

@@ -15,7 +15,7 @@ namespace golf {
 // leads to a row.
 class CheckedSink : public ExportSink {
  public:
-  // `need` is called with the result of each check.
+  // The sink calls `need` with the result of each check.
   explicit CheckedSink(void (*need)(bool)) : need_(need) {}
 
   void Create(std::span<const ExportTable> tables) override {

@@ -75,7 +75,8 @@ class TournamentResults {
       const int error = Try(", record " + std::to_string(record) + ", " + player.NameLF(),
                             [&] { VisitPlayerValues(&player, decimals, round, rows); });
       ExportRow described;
-      described.AddLink(static_cast<std::int64_t>(LeadingNumber(player.IDNum())));  // 0: none
+      described.AddIntegerOrNull(
+          static_cast<std::int64_t>(LeadingNumber(player.IDNum())));  // 0: none
       described.AddText(Utf8FromText(player.NameLF()));
       AddRows(kPlayerResults, entry, round, described, error, rows);
     }
@@ -110,7 +111,7 @@ class TournamentResults {
     row_.AddInteger(round);
     row_.AddInteger(tournament_.id);
     row_.AddCells(described);
-    row_.AddLink(error);
+    row_.AddIntegerOrNull(error);
     if (error == 0) row_.AddCells(rows.round().values);
     const std::size_t first = kInstallTables + table;
     while (row_.size() < ResultTables()[table].columns.size()) row_.AddNull();

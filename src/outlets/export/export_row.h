@@ -35,8 +35,8 @@ class ExportRow {
     }
     texts_ += other.texts_;
   }
-  // Adds the number of a row of another table, or null if it is 0.
-  void AddLink(std::int64_t id) { id == 0 ? AddNull() : AddInteger(id); }
+  // Adds a number, or null if it is 0.
+  void AddIntegerOrNull(std::int64_t id) { id == 0 ? AddNull() : AddInteger(id); }
 
   std::size_t size() const { return cells_.size(); }
   CellKind kind(std::size_t i) const { return cells_[i].kind; }

@@ -43,9 +43,7 @@ std::string ExportRun::ReadStart(const std::string& file, std::size_t length) {
   if (!bytes.empty() && bytes.size() < length) {
     Note(file + " is shorter than its record. The missing fields are exported as 0.");
   }
-  progress_.done += std::ssize(bytes);
-  progress_.doing = file;
-  Report();
+  Advance(file, bytes.size());
   return bytes;
 }
 
@@ -62,10 +60,14 @@ std::optional<RecordReader> ExportRun::Open(const std::string& file, std::size_t
 
 std::string_view ExportRun::Next(RecordReader& reader, const std::string& file) {
   const std::string_view bytes = reader.Next();
-  progress_.done += std::ssize(bytes);
-  progress_.doing = file;
-  channels_.report(progress_);
+  Advance(file, bytes.size());
   return bytes;
+}
+
+void ExportRun::Advance(const std::string& file, std::size_t bytes) {
+  progress_.done += static_cast<std::int64_t>(bytes);
+  progress_.doing = file;
+  Report();
 }
 
 bool ExportRun::IsWanted(bool is_deleted, std::string_view record) const {
@@ -76,7 +78,7 @@ void ExportRun::Add(TableId table, std::initializer_list<OwnValue> own,
                     std::initializer_list<std::int64_t> links, std::string_view record) {
   row_.Clear();
   for (const OwnValue& value : own) value.AddTo(row_);
-  for (const std::int64_t link : links) row_.AddLink(link);
+  for (const std::int64_t link : links) row_.AddIntegerOrNull(link);
   TableOf(table).fields.AddTo(row_, record, {});
   AddRow(static_cast<std::size_t>(table), row_);
 }
@@ -108,7 +110,7 @@ void ExportRun::AddElements(TableId table, const OwnOf& own_of, std::string_view
       for (const OwnValue& value : own_of(indexes)) value.AddTo(row_);
       for (const int index : indexes) row_.AddInteger(index);
       if (links_of) {
-        for (const std::int64_t link : links_of(indexes)) row_.AddLink(link);
+        for (const std::int64_t link : links_of(indexes)) row_.AddIntegerOrNull(link);
       }
       fields.AddTo(row_, record, indexes);
       AddRow(static_cast<std::size_t>(table), row_);
@@ -143,7 +145,7 @@ std::int64_t ExportedCourses::CourseId(std::int64_t number) const {
 }
 
 std::int64_t ExportedCourses::TeeId(std::int64_t number, std::int64_t tee) const {
-  if (CourseId(number) == 0 || tee < 1 || tee > 6) return 0;
+  if (CourseId(number) == 0 || tee < 1 || tee > kTeeSlots) return 0;
   return courses_[static_cast<std::size_t>(number)].tees[static_cast<std::size_t>(tee)];
 }
 

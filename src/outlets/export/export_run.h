@@ -16,6 +16,7 @@
 #include "outlets/export/install_tables.h"
 #include "outlets/install_reader.h"
 #include "outlets/record_files.h"
+#include "stores/course/course_layout.h"
 
 namespace golf {
 
@@ -117,6 +118,8 @@ class ExportRun {
  private:
   // Returns up to `length` bytes.
   std::string ReadStart(const std::string& file, std::size_t length);
+  // Reports that bytes of a file have been read.
+  void Advance(const std::string& file, std::size_t bytes);
 
   ExportChannels channels_;
   RecordFiles files_;
@@ -139,7 +142,7 @@ class ExportedCourses {
  private:
   struct Course {
     std::int64_t id = 0;
-    std::array<std::int64_t, 7> tees{};  // by number
+    std::array<std::int64_t, kTeeSlots + 1> tees{};  // by number
   };
   std::vector<Course> courses_;  // by number
 };

@@ -47,7 +47,7 @@ bool IsSame(const Dimension& a, const Dimension& b) {
   return a.base == b.base && a.count == b.count;
 }
 
-// Returns the end of the name of a column for an index.
+// Returns what a column name contains after the name of the field, for one index.
 std::string Suffix(const Dimension& dimension, int index) {
   constexpr Dimension kBySex{0, 2};
   if (IsSame(dimension, kBySex)) return index == 0 ? "_men" : "_ladies";

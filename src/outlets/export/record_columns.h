@@ -40,7 +40,8 @@ class RecordColumns {
 
   // Adds the values of the elements with these indexes, one for each index of `by`.
   void AddTo(ExportRow& row, std::string_view record, std::span<const int> indexes) const;
-  // Returns true if the elements with these indexes consist of zeros and blanks.
+  // Returns true if all elements with these indexes are empty. A number is empty if it is 0, and a
+  // text if it contains only zeros and blanks.
   bool IsBlank(std::string_view record, std::span<const int> indexes) const;
 
  private:

@@ -1,11 +1,11 @@
 #include "outlets/export/result_rows.h"
 
-#include <algorithm>
 #include <type_traits>
 #include <variant>
 
 #include "core/code_page.h"
 #include "outlets/export/shown_value.h"
+#include "outlets/field_values.h"
 
 namespace golf {
 namespace {
@@ -40,11 +40,11 @@ void ResultRows::Part::Add(const ResultValue& value) {
   has_content = has_content || HasContent(value);
 }
 
-ResultRows::Part& ResultRows::At(std::vector<Part>& parts, int hole, std::optional<int> key) {
-  const auto part = std::ranges::find_if(
-      parts, [&](const Part& known) { return known.hole == hole && known.key == key; });
-  if (part != parts.end()) return *part;
-  return parts.emplace_back(Part{hole, key, {}, false});
+ResultRows::Part& ResultRows::At(std::vector<Part>& parts, int position, int hole,
+                                 std::optional<int> key) {
+  const auto at = static_cast<std::size_t>(position);
+  if (at == parts.size()) parts.push_back({hole, key, {}, false});
+  return parts[at];
 }
 
 }  // namespace golf

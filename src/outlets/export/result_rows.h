@@ -21,7 +21,8 @@ namespace golf {
 
 void AddResultValue(ExportRow& row, const ResultValue& value);
 
-// Collects the names of the columns. It is a visitor of result_values.h and reads no value.
+// Collects the names of the columns. It is a visitor, as result_values.h describes, and reads no
+// value.
 struct ResultNames {
   std::vector<std::string> of_round;
   std::vector<std::string> of_hole;
@@ -52,10 +53,11 @@ struct ResultNames {
   }
 };
 
-// Collects the values, in the order of the names. It is a visitor of result_values.h.
+// Collects the values of a golfer or a team in the order in which ResultNames collects their names.
+// It is a visitor, as result_values.h describes.
 class ResultRows {
  public:
-  // A row is left out if none of its values is a number other than 0 or a text.
+  // Contains the values of one row. `has_content` is false if all values are empty, blank or 0.
   struct Part {
     int hole = 0;  // 0: none
     std::optional<int> key{};
@@ -73,7 +75,7 @@ class ResultRows {
   void Array(const char*, int count, const ValueOf& value_of) {
     for (int i = 1; i <= count; ++i) {
       const bool is_hole = count >= kHoles && i <= kHoles;
-      (is_hole ? At(holes_, i, {}) : round_).Add(value_of(i));
+      (is_hole ? At(holes_, i - 1, i, {}) : round_).Add(value_of(i));
     }
   }
   template <class ValueOf>
@@ -81,7 +83,9 @@ class ResultRows {
     for (int key = first_key; key <= last_key; ++key) {
       for (int i = 1; i <= count; ++i) {
         const bool is_hole = count >= kHoles && i <= kHoles;
-        (is_hole ? At(holes_and_keys_, i, key) : At(keys_, 0, key)).Add(value_of(key, i));
+        const int nth = key - first_key;
+        (is_hole ? At(holes_and_keys_, nth * kHoles + i - 1, i, key) : At(keys_, nth, 0, key))
+            .Add(value_of(key, i));
       }
     }
   }
@@ -92,8 +96,8 @@ class ResultRows {
   const std::vector<Part>& holes_and_keys() const { return holes_and_keys_; }
 
  private:
-  // Returns the part for a hole and a key. Adds it if it does not exist.
-  static Part& At(std::vector<Part>& parts, int hole, std::optional<int> key);
+  // Returns the part at a position, counted from 0. Adds it if it is the next one.
+  static Part& At(std::vector<Part>& parts, int position, int hole, std::optional<int> key);
 
   Part round_;
   std::vector<Part> holes_;

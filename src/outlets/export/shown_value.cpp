@@ -1,8 +1,6 @@
 #include "outlets/export/shown_value.h"
 
-#include <charconv>
 #include <cmath>
-#include <iterator>
 #include <string>
 
 #include "core/code_page.h"
@@ -17,57 +15,35 @@ namespace {
 constexpr std::string_view kZerosAndBlanks("\0 ", 2);
 constexpr int kSecondsADay = 86400;
 
-void AppendDigits(std::string& text, int value, int width) {
-  char digits[8];
-  const auto end = std::to_chars(digits, std::end(digits), value);
-  for (auto count = end.ptr - digits; count < width; ++count) text += '0';
-  text.append(digits, end.ptr);
-}
-
-std::string TimeText(const CivilTime& civil) {
-  std::string text;
-  AppendDigits(text, civil.hour, 2);
-  text += ':';
-  AppendDigits(text, civil.minute, 2);
-  text += ':';
-  AppendDigits(text, civil.second, 2);
-  return text;
-}
-
 void AddHexUnless(ExportRow& row, bool is_exact, std::string_view bytes) {
   is_exact ? row.AddNull() : row.AddText(HexText(bytes));
 }
 
+void AddNullAndHex(ExportRow& row, std::string_view bytes) {
+  row.AddNull();
+  row.AddText(HexText(bytes));
+}
+
 void AddDate(ExportRow& row, DateValue date, std::string_view bytes) {
-  if (date == 0 || !IsDate(date)) {
+  if (date == 0 && IsBlankBytes(bytes)) {
     row.AddNull();
-    return AddHexUnless(row, IsBlankBytes(bytes) && date == 0, bytes);
+    return row.AddNull();
   }
+  if (date == 0 || !IsDate(date)) return AddNullAndHex(row, bytes);
   const CivilTime civil = CivilFromDate(date);
-  if (civil.year > 9999) {  // the last second of the last year is rounded up
-    row.AddNull();
-    return AddHexUnless(row, false, bytes);
-  }
-  std::string text;
-  AppendDigits(text, civil.year, 4);
-  text += '-';
-  AppendDigits(text, civil.month, 2);
-  text += '-';
-  AppendDigits(text, civil.day, 2);
-  if (date != std::trunc(date)) text += 'T' + TimeText(civil);
-  row.AddText(text);
+  // The last second of the last year is rounded up.
+  if (civil.year > 9999) return AddNullAndHex(row, bytes);
+  const bool is_day = date == std::trunc(date);
+  row.AddText(FormatPicture(civil, is_day ? "yyyy-MM-dd" : "yyyy-MM-dd'T'HH:mm:ss"));
   AddHexUnless(row, DateFromCivil(civil) == date, bytes);
 }
 
 void AddTime(ExportRow& row, float time, std::string_view bytes) {
-  if (!(time >= 0 && time < 1)) {
-    row.AddNull();
-    return AddHexUnless(row, false, bytes);
-  }
+  if (!(time >= 0 && time < 1)) return AddNullAndHex(row, bytes);
   const CivilTime civil = CivilFromDate(time);
   const int seconds = (civil.hour * 60 + civil.minute) * 60 + civil.second;
   const bool is_next_day = seconds == 0 && time > 0.5f;  // the last second is rounded up
-  row.AddText(is_next_day ? "23:59:59" : TimeText(civil));
+  row.AddText(is_next_day ? "23:59:59" : FormatPicture(civil, "HH:mm:ss"));
   AddHexUnless(row, static_cast<float>(static_cast<double>(seconds) / kSecondsADay) == time, bytes);
 }
 
@@ -76,8 +52,8 @@ void AddMoney(ExportRow& row, std::int64_t ten_thousandths) {
   const bool is_negative = ten_thousandths < 0;
   const auto bits = static_cast<std::uint64_t>(ten_thousandths);
   const std::uint64_t amount = is_negative ? ~bits + 1 : bits;
-  std::string text = (is_negative ? "-" : "") + std::to_string(amount / kScale) + '.';
-  AppendDigits(text, static_cast<int>(amount % kScale), 4);
+  const std::string decimals = std::to_string(kScale + amount % kScale).substr(1);
+  std::string text = (is_negative ? "-" : "") + std::to_string(amount / kScale) + '.' + decimals;
   for (int i = 0; i < 2 && text.ends_with('0'); ++i) text.pop_back();
   row.AddText(text);
 }
@@ -116,15 +92,6 @@ void AddStored(ExportRow& row, FieldType type, std::string_view bytes) {
 }
 
 }  // namespace
-
-double NumberOfSingle(float single) {
-  if (!std::isfinite(single)) return single;
-  char digits[32];
-  const auto end = std::to_chars(digits, std::end(digits), single);
-  double number = 0;
-  std::from_chars(digits, end.ptr, number);
-  return number;
-}
 
 void AddRealOrNull(ExportRow& row, double number) {
   std::isfinite(number) ? row.AddReal(number) : row.AddNull();

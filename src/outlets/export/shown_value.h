@@ -30,8 +30,6 @@ bool IsBlankBytes(std::string_view bytes);
 //   the bytes are no number or no date, or if a date or a time is not shown exactly.
 void AddShownValue(ExportRow& row, FieldType type, FieldForm form, std::string_view bytes);
 
-// Returns the shortest decimal number that identifies a single, as a double.
-double NumberOfSingle(float single);
 // Adds null for a value that is no number.
 void AddRealOrNull(ExportRow& row, double number);
 

@@ -20,8 +20,8 @@ struct FinalizeStatement {
 };
 using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
-// The new file belongs to nobody else and is deleted after a failure, so a journal and locks would
-// only cost time. The commit waits for the disk. The cache, in KiB, limits the memory.
+// Only this process uses the new file, and a failure deletes it. It therefore needs no journal and
+// no locks. The commit returns after the data is on the disk. A negative cache size is in KiB.
 constexpr const char* kSettings =
     "pragma page_size = 8192;"
     "pragma journal_mode = off;"

@@ -104,8 +104,8 @@ class CsvSink : public TextSink {
     line += "\r\n";
   }
 
-  // Puts an apostrophe before a text that a spreadsheet would calculate, also if apostrophes and
-  // white space precede the formula. The original text can therefore be restored.
+  // Puts an apostrophe before a text that a spreadsheet would read as a formula. White space and
+  // apostrophes at the start do not count. A reader restores the text by the same rule.
   void AppendText(std::string& line, std::string_view text) const override {
     if (text.empty()) {
       line += "\"\"";

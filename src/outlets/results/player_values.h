@@ -84,13 +84,15 @@ void VisitPlayerTotals(PlayerClass* player, int round, Visitor& visitor) {
 
 // Passes every calculated value of the player's current entry for a round, 1 to 7, to the visitor.
 // The totals are those of round 1 to this round. Gross handicaps and the quota have decimals if
-// `decimals` is true. Raises the errors of PlayerClass. `player` may be null if the visitor calls no
-// value, but only collects names.
+// `decimals` is true. Raises the errors of PlayerClass. `player` may be null if the visitor calls
+// no value, but only collects names.
 template <class Visitor>
 void VisitPlayerValues(PlayerClass* player, bool decimals, int round, Visitor& visitor) {
   detail::VisitPlayerHoles(player, round, visitor);
-  visitor.Value("TourGrossHandicap", [&]() -> ResultValue { return player->TourGrossHandicap(decimals, round); });
-  visitor.Value("TourGrossHandicapValue", [&]() -> ResultValue { return player->TourGrossHandicapValue(decimals, round); });
+  visitor.Value("TourGrossHandicap",
+                [&]() -> ResultValue { return player->TourGrossHandicap(decimals, round); });
+  visitor.Value("TourGrossHandicapValue",
+                [&]() -> ResultValue { return player->TourGrossHandicapValue(decimals, round); });
   visitor.Value("TourQuota", [&]() -> ResultValue { return player->TourQuota(decimals, round); });
   detail::VisitPlayerRound(player, round, visitor);
   detail::VisitPlayerTotals(player, round, visitor);

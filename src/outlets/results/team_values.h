@@ -18,7 +18,8 @@ void VisitTeamRecord(TeamClass* team, int round, Visitor& visitor) {
   visitor.Value("TeeStartHole", [&]() -> ResultValue { return team->TeeStartHole(round); });
   visitor.Value("Cart1", [&]() -> ResultValue { return team->Cart1(round); });
   visitor.Value("Cart2", [&]() -> ResultValue { return team->Cart2(round); });
-  visitor.Value("CourseNumberPlayed", [&]() -> ResultValue { return team->CourseNumberPlayed(round); });
+  visitor.Value("CourseNumberPlayed",
+                [&]() -> ResultValue { return team->CourseNumberPlayed(round); });
   visitor.Value("CourseNamePlayed", [&]() -> ResultValue { return team->CourseNamePlayed(round); });
 }
 
@@ -47,7 +48,9 @@ void VisitTeamSums(TeamClass* team, int round, Visitor& visitor) {
   visitor.Value("Putts", [&]() -> ResultValue { return team->Putts(round); });
   visitor.Value("Greens", [&]() -> ResultValue { return team->Greens(round); });
   visitor.Value("Fairways", [&]() -> ResultValue { return team->Fairways(round); });
-  visitor.Value("Earnings", [&]() -> ResultValue { return static_cast<double>(team->Earnings(round)) / kCurrencyScale; });
+  visitor.Value("Earnings", [&]() -> ResultValue {
+    return static_cast<double>(team->Earnings(round)) / kCurrencyScale;
+  });
   visitor.Array("QuotaResults", kRoundParts,
                 [&](int part) -> ResultValue { return team->QuotaResults(part, round); });
   visitor.Array("NameofPlayersOnTeam", kTeamNames,
@@ -94,9 +97,12 @@ void VisitTeamTexts(TeamClass* team, int round, Visitor& visitor) {
 // These values apply to the active round or to all rounds up to it.
 template <class Visitor>
 void VisitTeamActiveRound(TeamClass* team, Visitor& visitor) {
-  visitor.Value("GrossScrambleTiebreakUSGA", [&]() -> ResultValue { return team->GrossScrambleTiebreakUSGA(); });
-  visitor.Value("GrossScrambleTiebreak1to18", [&]() -> ResultValue { return team->GrossScrambleTiebreak1to18(); });
-  visitor.Value("GrossScrambleTiebreak18to1", [&]() -> ResultValue { return team->GrossScrambleTiebreak18to1(); });
+  visitor.Value("GrossScrambleTiebreakUSGA",
+                [&]() -> ResultValue { return team->GrossScrambleTiebreakUSGA(); });
+  visitor.Value("GrossScrambleTiebreak1to18",
+                [&]() -> ResultValue { return team->GrossScrambleTiebreak1to18(); });
+  visitor.Value("GrossScrambleTiebreak18to1",
+                [&]() -> ResultValue { return team->GrossScrambleTiebreak18to1(); });
   visitor.Value("TotalGross", [&]() -> ResultValue { return team->TotalGross(); });
   visitor.Value("TotalNet", [&]() -> ResultValue { return team->TotalNet(); });
   visitor.Value("TotalNetScramble", [&]() -> ResultValue { return team->TotalNetScramble(); });

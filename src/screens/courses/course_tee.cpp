@@ -269,8 +269,8 @@ std::vector<Control*> CourseTee::Entries() {
   return entries;
 }
 
-// Updates the notes of all entries. An entry shows its fault after it has lost the focus, until the
-// fault is corrected. `left` is the control that lost the focus last.
+// Updates the notes of all entries. An entry that has lost the focus shows its fault until the
+// operator has corrected it. `left` is the control that has just lost the focus.
 void CourseTee::ShowNotes(const Control* left) {
   const auto faults = ActiveTee.value() ? Faults() : std::vector<std::pair<Control*, TeeFault>>();
   for (Control* entry : Entries()) {
