@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev zlib1g-dev
                 libsqlite3-dev)
-test_packages=(libgtest-dev librapidcheck-dev xvfb xauth)
+test_packages=(libgtest-dev librapidcheck-dev libgumbo-dev xvfb xauth)
 window_manager_packages=(openbox icewm x11-utils xdotool)
 fuzz_packages=(clang libclang-rt-14-dev)
 formats_packages=(nodejs npm)

@@ -417,7 +417,32 @@ void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chos
       ->add_option("--layout", args.results.layout,
                    "The layout of custom results: a pair of files NAME.TR1 and\nNAME.TR2 in qbdata")
       ->type_name("NAME");
-  results->add_flag("--csv", args.results.csv, "A line an entry, with a heading");
+  CLI::Option* csv =
+      results->add_flag("--csv", args.results.csv, "A line an entry, with a heading");
+  results
+      ->add_option_function<std::string>(
+          "--tiebreak",
+          [&args](const std::string& name) {
+            const auto* const known = std::ranges::find(kTiebreakNames, name);
+            args.results.tiebreak =
+                static_cast<Tiebreak>(known - std::ranges::begin(kTiebreakNames));
+          },
+          "What orders equal gross and net scores:\nusga (the last 9, 6, 3 and 1 holes), "
+          "handicap (the\nholes in the order of their strokes), 18-to-1, 1-to-18\nor none")
+      ->type_name("KEY")
+      ->check(CLI::IsMember(
+          std::vector<std::string>(std::begin(kTiebreakNames), std::end(kTiebreakNames))));
+  CLI::Option* html = results
+                          ->add_option("--html", args.results.html,
+                                       "Write the results as one web page, for the web or the\n"
+                                       "printer. Replaces a file FILE.html")
+                          ->type_name("FILE")
+                          ->excludes(csv);
+  results
+      ->add_flag("--watch", args.results.watch,
+                 "Write the page again after each change, until a\nsignal such as Ctrl+C. The page "
+                 "refreshes itself")
+      ->needs(html);
 
   AddCourse(app, options, args.course, chosen);
   AddCheck(app, options, args.check, chosen);

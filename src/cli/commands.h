@@ -8,6 +8,7 @@
 
 #include "cli/exit_code.h"
 #include "cli/options.h"
+#include "scoring/ranking.h"
 
 namespace golf {
 
@@ -63,6 +64,9 @@ struct ResultsRequest {
   std::optional<int> round;  // the active round if left out
   std::string layout;        // the name of a custom report's layout, UTF-8
   bool csv = false;
+  Tiebreak tiebreak = Tiebreak::kNone;
+  std::string html;    // the file of the page, UTF-8; empty for no page
+  bool watch = false;  // writes the page again after each change
 };
 std::vector<std::string> ResultsNames();
 ExitCode RunResults(const Options& options, const ResultsRequest& request);

@@ -24,15 +24,6 @@ struct ResultsKind {
 constexpr ResultsKind kKinds[] = {
     {"players", ShowPlayers}, {"teams", ShowTeams}, {"custom", ShowCustom}};
 
-void OpenForReading(SharedState& state, std::int32_t tournament) {
-  state.files.gate().RefuseChanges();
-  NoteUnfinished(state);
-  if (!state.files.FileExists(state.QBDataPath + TournamentFileName(tournament, ".Q9C"))) {
-    throw Refusal("There is no tournament " + std::to_string(tournament) + ".");
-  }
-  OpenTournament(state, tournament);
-}
-
 // Sets the active round in memory and saves nothing. Raises Refusal if there is no such round.
 void MakeActive(TournamentClass& tournament, int round) {
   const int rounds = tournament.RoundCount();
@@ -44,6 +35,17 @@ void MakeActive(TournamentClass& tournament, int round) {
 }
 
 }  // namespace
+
+void OpenForResults(SharedState& state, const ResultsRequest& request) {
+  state.files.gate().RefuseChanges();
+  NoteUnfinished(state);
+  const std::int32_t tournament = request.tournament;
+  if (!state.files.FileExists(state.QBDataPath + TournamentFileName(tournament, ".Q9C"))) {
+    throw Refusal("There is no tournament " + std::to_string(tournament) + ".");
+  }
+  OpenTournament(state, tournament);
+  if (request.round) MakeActive(state.Tournament(), *request.round);
+}
 
 void WriteStandings(ResultsForm form, const StandingsTable& table) {
   std::vector<std::vector<std::string>> lines;
@@ -61,10 +63,20 @@ void ResultsRun::Try(const std::function<void()>& show, const std::function<std:
   try {
     show();
   } catch (const NumberedError& error) {
-    NoteProblem(what() + ": " + error.Report());
-    faults.push_back(error);
+    AddFault(what(), error);
     failed(error);
   }
+}
+
+void ResultsRun::AddFault(const std::string& who, const NumberedError& error) {
+  NoteProblem(who + ": " + error.Report());
+  faults.push_back(error);
+}
+
+EntryQuestion ResultsRun::Entries() {
+  return {state, request.tiebreak, false,
+          [this](const std::string& who, const NumberedError& error) { AddFault(who, error); },
+          NoteProblem};
 }
 
 std::vector<std::string> ResultsNames() {
@@ -74,13 +86,13 @@ std::vector<std::string> ResultsNames() {
 }
 
 ExitCode RunResults(const Options& options, const ResultsRequest& request) {
+  if (!request.html.empty()) return RunResultsPage(options, request);
   const auto kind =
       std::find_if(std::begin(kKinds), std::end(kKinds),
                    [&](const ResultsKind& known) { return known.what == request.what; });
   const auto application = StartApplication(options);
   SharedState& state = application->state();
-  OpenForReading(state, request.tournament);
-  if (request.round) MakeActive(state.Tournament(), *request.round);
+  OpenForResults(state, request);
   const ResultsForm form = request.csv    ? ResultsForm::kCsv
                            : options.json ? ResultsForm::kJson
                                           : ResultsForm::kTable;

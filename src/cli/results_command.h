@@ -7,11 +7,23 @@
 #include "cli/commands.h"
 #include "core/numbered_error.h"
 #include "core/shared_state.h"
+#include "outlets/results/entry_reader.h"
+#include "scoring/layouts/report_layout.h"
 #include "scoring/standings_table.h"
 
 namespace golf {
 
 enum class ResultsForm { kTable, kCsv, kJson };
+
+// Returns the layout of the request. Raises Refusal if there is no such layout.
+ReportLayout LayoutOf(SharedState& state, const ResultsRequest& request);
+
+// Opens a tournament for reading and makes the requested round active in memory. Raises Refusal if
+// there is no such tournament or round.
+void OpenForResults(SharedState& state, const ResultsRequest& request);
+
+// Writes the page of results, and repeats that after each change if the request says so.
+ExitCode RunResultsPage(const Options& options, const ResultsRequest& request);
 
 // Writes the standings as a table or as CSV. Their texts are in code page 1252.
 void WriteStandings(ResultsForm form, const StandingsTable& table);
@@ -24,6 +36,10 @@ struct ResultsRun {
   ResultsForm form;
   std::vector<NumberedError> faults;
 
+  // Returns the question for the entries to show, without cards. Their errors are reported.
+  EntryQuestion Entries();
+  // Reports an error on standard error and adds it to the faults.
+  void AddFault(const std::string& who, const NumberedError& error);
   // Calls `show`. If that raises an error, reports it after the text that `what` returns, adds it
   // to the faults and calls `failed`.
   void Try(const std::function<void()>& show, const std::function<std::string()>& what,

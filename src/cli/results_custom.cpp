@@ -6,9 +6,11 @@
 #include "cli/plain_text.h"
 #include "cli/problems.h"
 #include "cli/results_command.h"
-#include "cli/results_teams.h"
+#include "cli/results_places.h"
 #include "core/code_page.h"
 #include "core/file_name.h"
+#include "outlets/results/custom_entries.h"
+#include "outlets/results/tournament_walk.h"
 #include "scoring/standings_table.h"
 #include "scoring/tournament_class.h"
 
@@ -23,22 +25,6 @@ std::string LayoutsThereAre(SharedState& state) {
   return "Layouts: " + (names.empty() ? "none" : names) + ".";
 }
 
-ReportLayout LayoutOf(ResultsRun& run) {
-  if (!FitsFileName(TextFromUtf8(run.request.layout))) {
-    throw Refusal("There is no layout " + run.request.layout + ".\n" + LayoutsThereAre(run.state));
-  }
-  const std::string path =
-      run.state.StoreDataPath + TextFromUtf8(run.request.layout) + std::string(kLayoutExtension);
-  ReadLayout read = ReadReportLayout(run.state.files, path);
-  if (!read.layout) {
-    throw Refusal(PlainText(read.problem) + "\n" + LayoutsThereAre(run.state));
-  }
-  if (const int replaced = LimitToChoices(*read.layout)) {
-    NoteProblem(UnknownCodesText(replaced));
-  }
-  return *std::move(read.layout);
-}
-
 Json SumsAsJson(const CustomStanding::Sums& sums) {
   Json blocks = Json::array();
   for (const auto& of_block : sums) {
@@ -51,31 +37,56 @@ Json SumsAsJson(const CustomStanding::Sums& sums) {
 Json StandingAsJson(const CustomStanding& standing) {
   return {{"TeamNumber", standing.TeamNumber},     {"TeamName", JsonText(standing.TeamName)},
           {"Scores", SumsAsJson(standing.Scores)}, {"Points", SumsAsJson(standing.Points)},
-          {"Positions", standing.Positions},       {"PointsPositions", standing.PointsPositions}};
+          {"Positions", standing.Positions},       {"PointsPositions", standing.PointsPositions},
+          {"Flight", JsonText(standing.Flight)}};
 }
 
 }  // namespace
 
+ReportLayout LayoutOf(SharedState& state, const ResultsRequest& request) {
+  if (!FitsFileName(TextFromUtf8(request.layout))) {
+    throw Refusal("There is no layout " + request.layout + ".\n" + LayoutsThereAre(state));
+  }
+  const std::string path =
+      state.StoreDataPath + TextFromUtf8(request.layout) + std::string(kLayoutExtension);
+  ReadLayout read = ReadReportLayout(state.files, path);
+  if (!read.layout) {
+    throw Refusal(PlainText(read.problem) + "\n" + LayoutsThereAre(state));
+  }
+  if (const int replaced = LimitToChoices(*read.layout)) {
+    NoteProblem(UnknownCodesText(replaced));
+  }
+  return *std::move(read.layout);
+}
+
 void ShowCustom(ResultsRun& run) {
-  const ReportLayout layout = LayoutOf(run);
+  const ReportLayout layout = LayoutOf(run.state, run.request);
   CustomStandings standings(run.state, layout);
   std::map<int, Json> objects;  // by team
-  ForEachTeam(run, [&](int team) {
-    run.Try([&] { standings.AddTeam(); }, [team] { return "Team " + std::to_string(team); },
-            [&](const NumberedError& error) {
-              objects[team] = {{"TeamNumber", team}, {"error", error.number()}};
-            });
-  });
+  ForEachTeam(
+      run.state,
+      [&](int team) {
+        run.Try([&] { standings.AddTeam(); }, [team] { return "Team " + std::to_string(team); },
+                [&](const NumberedError& error) {
+                  objects[team] = {{"TeamNumber", team}, {"error", error.number()}};
+                });
+      },
+      NoteProblem);
   const std::vector<CustomStanding> worked_out = standings.WorkOut();
+  const ResultPlaces places(
+      CustomEntries(run.state, standings, worked_out, run.request.tiebreak, false),
+      {{Measure::kGross, "scores", true}, {Measure::kPoints, "points", true}}, run);
   if (run.form == ResultsForm::kJson) {
     for (const CustomStanding& standing : worked_out) {
-      objects[standing.TeamNumber] = StandingAsJson(standing);
+      Json& object = objects[standing.TeamNumber] = StandingAsJson(standing);
+      places.AddTo(standing.TeamNumber, object);
     }
     for (const auto& [team, object] : objects) WriteJsonLine(object);
     return;
   }
   StandingsTable table = CustomTable(worked_out, run.state.Tournament().RoundCount());
-  WriteStandings(run.form, std::move(table));
+  places.AddTo(table);
+  WriteStandings(run.form, table);
 }
 
 }  // namespace golf

@@ -1,71 +1,63 @@
-#include <cmath>
 #include <utility>
 
 #include "cli/results_command.h"
 #include "cli/results_json.h"
+#include "cli/results_places.h"
+#include "outlets/results/entry_reader.h"
+#include "outlets/results/tournament_walk.h"
 #include "scoring/tournament_class.h"
 
 namespace golf {
 namespace {
 
-const std::vector<std::string> kHeadings = {"Name",  "Handicap", "Out",    "In",
-                                            "Total", "Net",      "Points", "Place"};
-
-std::string TextOf(const TextOrNumber& value) {
-  const auto* text = std::get_if<std::string>(&value);
-  return text != nullptr ? *text : std::to_string(std::get<std::int32_t>(value));
-}
+const std::vector<PlacedMeasure> kMeasuresOfPlayers = {{Measure::kGross, "gross", true},
+                                                       {Measure::kNet, "net", true},
+                                                       {Measure::kPoints, "points", true},
+                                                       {Measure::kQuota, "quota", true}};
 
 // Returns the row of a golfer. It has only a name and a handicap if the golfer has no score.
-StandingsRow RowOf(PlayerClass& player, bool decimals) {
-  const RoundResults& results = player.Results();
-  StandingsRow row;
-  row.cells = {player.NameLF(), player.TourHandicap()};
-  if (results.gross[kWholeRound] < 1) {
-    row.cells.resize(kHeadings.size() - 1);
-    return row;
+StandingsRow RowOf(const ResultEntry& entry) {
+  const auto& scores = entry.scores[Span::kRound];
+  StandingsRow row{entry.number, {entry.name, entry.handicap}, entry.exact_net};
+  row.cells.insert(row.cells.end(), scores[Measure::kGross].parts.begin(),
+                   scores[Measure::kGross].parts.end());
+  row.cells.resize(4);
+  for (const Measure measure : {Measure::kGross, Measure::kNet, Measure::kPoints}) {
+    row.cells.push_back(scores[measure].total);
   }
-  for (const int sum : {kFirstNine, kSecondNine, kWholeRound}) {
-    row.cells.push_back(TextOf(player.TourScoreGross(sum)));
-  }
-  row.cells.push_back(player.TourScoreNet(kWholeRound));
-  row.cells.push_back(player.TourPointsNet(kWholeRound));
-  const double net = results.net[kWholeRound];
-  const double shown = decimals ? results.decimal_net : net;
-  if (std::isfinite(shown)) row.rank = shown;
   return row;
-}
-
-// Reads each entry that is not deleted, in the order of the file, and calls `action(record)`. After
-// an error, calls `failed(record, error)` and continues.
-template <class Action, class Failed>
-void ForEachPlayer(ResultsRun& run, Action action, Failed failed) {
-  PlayerClass& player = run.state.Player();
-  const std::int32_t length = player.TourFileLength();
-  for (std::int32_t record = 1; record <= length; ++record) {
-    player.GetRecord(record, true);
-    if (!player.TourPlayerExists()) continue;
-    run.Try([&] { action(record); },
-            [&] { return "Record " + std::to_string(record) + ", " + player.NameLF(); },
-            [&](const NumberedError& error) { failed(record, error); });
-  }
 }
 
 void WriteJson(ResultsRun& run) {
   PlayerClass& player = run.state.Player();
   const bool decimals = run.state.Tournament().HandicapDecimalPlaces() > 0;
   const int round = run.state.Tournament().RoundOr({});
+  // The second reading below reports the errors.
+  const ResultPlaces places(ReadPlayers({run.state,
+                                         run.request.tiebreak,
+                                         false,
+                                         [](const std::string&, const NumberedError&) {},
+                                         {}}),
+                            kMeasuresOfPlayers, run);
   const auto describe = [&](std::int32_t record) {
     Json object = {{"record", record},
                    {"round", round},
                    {"IDNum", JsonText(player.IDNum())},
                    {"NameLF", JsonText(player.NameLF())}};
     AddResults(player, decimals, round, object);
+    object["TourFlight"] = JsonText(player.TourFlight(round));
+    object["sex"] = JsonText(player.sex());
+    places.AddTo(record, object);
     WriteJsonLine(object);
   };
-  ForEachPlayer(run, describe, [&](std::int32_t record, const NumberedError& error) {
-    WriteJsonLine(
-        {{"record", record}, {"NameLF", JsonText(player.NameLF())}, {"error", error.number()}});
+  ForEachPlayer(run.state, [&](std::int32_t record) {
+    run.Try([&] { describe(record); },
+            [&] { return "Record " + std::to_string(record) + ", " + player.NameLF(); },
+            [&](const NumberedError& error) {
+              WriteJsonLine({{"record", record},
+                             {"NameLF", JsonText(player.NameLF())},
+                             {"error", error.number()}});
+            });
   });
 }
 
@@ -73,13 +65,12 @@ void WriteJson(ResultsRun& run) {
 
 void ShowPlayers(ResultsRun& run) {
   if (run.form == ResultsForm::kJson) return WriteJson(run);
-  const bool decimals = run.state.Tournament().HandicapDecimalPlaces() > 0;
-  std::vector<StandingsRow> rows;
-  ForEachPlayer(
-      run, [&](std::int32_t) { rows.push_back(RowOf(run.state.Player(), decimals)); },
-      [](std::int32_t, const NumberedError&) {});
-  AddPlaces(rows);
-  WriteStandings(run.form, {kHeadings, std::move(rows)});
+  const ResultPlaces places(ReadPlayers(run.Entries()), kMeasuresOfPlayers, run);
+  StandingsTable table{{"Name", "Handicap", "Out", "In", "Total", "Net", "Points", "Place"}, {}};
+  for (const ResultEntry& entry : places.entries()) table.rows.push_back(RowOf(entry));
+  AddPlaces(table.rows);
+  places.AddTo(table);
+  WriteStandings(run.form, table);
 }
 
 }  // namespace golf

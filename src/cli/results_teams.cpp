@@ -1,23 +1,30 @@
-#include "cli/results_teams.h"
-
 #include <string>
 #include <utility>
 
 #include "cli/problems.h"
+#include "cli/results_command.h"
 #include "cli/results_json.h"
-#include "scoring/player/player_class.h"
+#include "cli/results_places.h"
+#include "outlets/results/entry_reader.h"
+#include "outlets/results/tournament_walk.h"
 #include "scoring/tournament_class.h"
 
 namespace golf {
 namespace {
 
-void WriteJson(ResultsRun& run, int team) {
+const std::vector<PlacedMeasure> kMeasuresOfTeams = {{Measure::kGross, "gross", true},
+                                                     {Measure::kNet, "net", true},
+                                                     {Measure::kPoints, "points", false},
+                                                     {Measure::kQuota, "quota", false}};
+
+void WriteJson(ResultsRun& run, int team, const ResultPlaces& places) {
   TeamClass& object_of = run.state.Team1();
   const int round = run.state.Tournament().RoundOr({});
   run.Try(
       [&] {
         Json object = {{"TeamNumber", team}, {"round", round}};
         AddResults(object_of, round, object);
+        places.AddTo(team, object);
         WriteJsonLine(object);
       },
       [team] { return "Team " + std::to_string(team); },
@@ -28,29 +35,26 @@ void WriteJson(ResultsRun& run, int team) {
 
 }  // namespace
 
-void ForEachTeam(ResultsRun& run, const std::function<void(int team)>& action) {
-  const int teams = run.state.Tournament().TeamCount();
-  for (int team = 1; team <= teams; ++team) {
-    if (run.state.Team1().GetRecord(team)) {
-      action(team);
-    } else if (run.state.Player().TourIndex1stPlayerOnTeam(team) > 0) {
-      NoteProblem("Team " + std::to_string(team) +
-                  " is left out, with its golfers: the last team that can be read is " +
-                  std::to_string(team - 1) + ".");
-    }
-  }
-}
-
+// The results are read twice: once for the places, and once for the other columns. The second
+// reading reports the errors.
 void ShowTeams(ResultsRun& run) {
-  if (run.form == ResultsForm::kJson) {
-    return ForEachTeam(run, [&](int team) { WriteJson(run, team); });
-  }
+  const ResultPlaces places(
+      ReadTeams({run.state, run.request.tiebreak, false,
+                 [](const std::string&, const NumberedError&) {}, [](const std::string&) {}}),
+      kMeasuresOfTeams, run);
   std::vector<StandingsRow> rows;
-  ForEachTeam(run, [&](int team) {
-    run.Try([&] { rows.push_back(TeamTotalsRow(run.state.Team1())); },
-            [team] { return "Team " + std::to_string(team); }, [](const NumberedError&) {});
-  });
-  WriteStandings(run.form, TeamTotalsTable(std::move(rows)));
+  ForEachTeam(
+      run.state,
+      [&](int team) {
+        if (run.form == ResultsForm::kJson) return WriteJson(run, team, places);
+        run.Try([&] { rows.push_back(TeamTotalsRow(run.state.Team1())); },
+                [team] { return "Team " + std::to_string(team); }, [](const NumberedError&) {});
+      },
+      NoteProblem);
+  if (run.form == ResultsForm::kJson) return;
+  StandingsTable table = TeamTotalsTable(std::move(rows));
+  places.AddTo(table);
+  WriteStandings(run.form, table);
 }
 
 }  // namespace golf

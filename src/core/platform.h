@@ -49,6 +49,14 @@ struct FileIdentity {
   bool operator==(const FileIdentity&) const = default;
 };
 
+// Identifies the content of a file by its length and the time of its last change. Equal stamps mean
+// that the file has not changed in between.
+struct FileStamp {
+  std::int64_t length = -1;  // in bytes; -1: there is no such file
+  std::int64_t changed = 0;  // in units of the system
+  bool operator==(const FileStamp&) const = default;
+};
+
 class PlatformFile {
  public:
   virtual ~PlatformFile() = default;
@@ -111,6 +119,9 @@ class Platform {
   // Returns the names of the normal files in a folder, in no particular order. A folder or a device
   // is not a normal file. On Windows a hidden or system file is not a normal file either.
   virtual std::vector<std::string> FileNames(const std::string& folder) = 0;
+
+  // Returns the stamp of a file without opening it. Raises no error.
+  virtual FileStamp StampOf(const std::string&) { return {}; }
 
   // Locks a folder for one run. Raises error 70 if another process holds the lock. Returns null if
   // the folder cannot be locked.

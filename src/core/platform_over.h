@@ -39,6 +39,7 @@ class PlatformOver : public Platform {
   std::unique_ptr<RunLock> LockRun(const std::string& folder) override {
     return real_.LockRun(folder);
   }
+  FileStamp StampOf(const std::string& path) override { return real_.StampOf(path); }
   std::unique_ptr<StopWatch> WatchStops() override { return real_.WatchStops(); }
   void StartProgram(const std::string& path, const std::string& arguments) override {
     real_.StartProgram(path, arguments);

@@ -332,6 +332,17 @@ class PosixPlatform : public Platform {
     made.Close(native);
   }
 
+  FileStamp StampOf(const std::string& path) override {
+    constexpr std::int64_t kNanoseconds = 1'000'000'000;
+    try {
+      struct stat status {};
+      if (stat(Resolve(path).c_str(), &status) != 0) return {};
+      return {status.st_size, status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
+    } catch (const NumberedError&) {  // the folder does not exist
+      return {};
+    }
+  }
+
   void CreateFolder(ChangePass, const std::string& path) override {
     const std::string native = Resolve(path);
     if (mkdir(native.c_str(), 0777) != 0) FailWith(errno, native);

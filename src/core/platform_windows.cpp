@@ -341,6 +341,17 @@ class WindowsPlatform : public Platform {
     made.Close(native);
   }
 
+  FileStamp StampOf(const std::string& path) override {
+    if (LeadsUp(path)) return {};
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!GetFileAttributesExW(Resolve(path).c_str(), GetFileExInfoStandard, &data)) return {};
+    const auto joined = [](DWORD high, DWORD low) {
+      return static_cast<std::int64_t>(std::uint64_t{high} << 32 | low);
+    };
+    return {joined(data.nFileSizeHigh, data.nFileSizeLow),
+            joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime)};
+  }
+
   void CreateFolder(ChangePass, const std::string& path) override {
     const std::wstring native = Resolve(path);
     if (!CreateDirectoryW(native.c_str(), nullptr)) FailWith(GetLastError(), native);

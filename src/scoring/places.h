@@ -10,6 +10,12 @@ namespace golf {
 struct Places {
   std::vector<int> dense;        // such as 1, 2, 2, 3
   std::vector<int> competition;  // such as 1, 2, 2, 4
+
+  // Returns the dense places if the PositionOption of a tournament is 1, and the competition places
+  // if it is 2.
+  const std::vector<int>& Numbers(int position_option) const {
+    return position_option == 1 ? dense : competition;
+  }
 };
 
 // Numbers the places of the rows 0 to `count` - 1. `tie(a, b)` must return true if two rows have

@@ -12,6 +12,7 @@ ByHole<std::int32_t> ScoreStatistics::Filled(std::int32_t value) {
 
 void ScoreStatistics::Add(int hole, std::int32_t score, std::int32_t par) {
   totals_[hole] += score;
+  against_par_[hole] += std::int64_t{score} - par;
   highs_[hole] = std::max(highs_[hole], score);
   lows_[hole] = std::min(lows_[hole], score);
   ++counts_[LimitedDifference(score, par)][hole];
@@ -21,7 +22,12 @@ void ScoreStatistics::Finish(const ByHole<std::int32_t>& played) {
   const auto average = [&](int row, std::int32_t players) {
     if (players > 0) averages_[row] = static_cast<double>(totals_[row]) / players;
   };
-  for (int hole = 1; hole < kFirstNine; ++hole) average(hole, played[hole]);
+  for (int hole = 1; hole < kFirstNine; ++hole) {
+    average(hole, played[hole]);
+    if (played[hole] > 0) {
+      averages_against_par_[hole] = static_cast<double>(against_par_[hole]) / played[hole];
+    }
+  }
   for (int row = kFirstNine; row <= kWholeRound; ++row) {
     const auto [first, last] = HolesOf(row);
     AddRow(row, first, last);

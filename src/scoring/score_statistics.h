@@ -19,6 +19,8 @@ class ScoreStatistics {
   // Returns the sum of the scores. Raises error 6 if the sum does not fit 32 bits.
   std::int32_t Total(int row) const;
   double Average(int row) const { return averages_[row]; }
+  // Returns the average of score minus par of a hole, or 0 if the hole has no scores.
+  double AverageAgainstPar(int hole) const { return averages_against_par_[hole]; }
   // Return the highest and the lowest score of a hole, or 0 if the hole has no scores. High also
   // returns 0 if the score is below -999, and Low if it is above 999. Both return 0 for the rows of
   // the nines and the round.
@@ -34,6 +36,8 @@ class ScoreStatistics {
 
   ByHole<std::int64_t> totals_;
   ByHole<double> averages_;
+  ByHole<std::int64_t> against_par_;
+  ByHole<double> averages_against_par_;
   ByHole<std::int32_t> highs_ = Filled(-kFarthest - 1);
   ByHole<std::int32_t> lows_ = Filled(kFarthest + 1);
   ByDifference<ByHole<std::int32_t>> counts_;

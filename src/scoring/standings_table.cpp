@@ -21,6 +21,7 @@ void SortByRank(std::vector<StandingsRow>& rows) {
 
 StandingsRow CustomRow(const CustomStanding& standing) {
   StandingsRow row;
+  row.number = standing.TeamNumber;
   row.cells = {std::to_string(standing.TeamNumber), standing.TeamName, standing.golfers};
   for (const auto& block : standing.Scores) {
     for (std::size_t i = 0; i < 3; ++i) row.cells.push_back(Shown(block[i]));
@@ -48,6 +49,7 @@ void AddPlaces(std::vector<StandingsRow>& rows) {
 // Returns only the number, name, players and handicap of a team without a score.
 StandingsRow TeamTotalsRow(TeamClass& team) {
   StandingsRow row;
+  row.number = team.TeamNumber();
   row.cells = {std::to_string(team.TeamNumber()), team.TeamName(), team.NameofPlayersOnTeam(0),
                team.Handicap()};
   const TeamRound& results = team.Results();

@@ -12,8 +12,9 @@ namespace golf {
 // Contains a row of standings. The lowest `rank` has the first place. A row without a rank has no
 // place.
 struct StandingsRow {
+  int number = 0;  // of the team, or the record of the player's entry
   std::vector<std::string> cells;
-  std::optional<double> rank;
+  std::optional<double> rank = {};
 };
 
 // Contains standings as text. The first cell of a row is the number of the team.

@@ -24,6 +24,8 @@ class TournamentClass : public TournamentControl {
   // Return an average in the format "0.00".
   std::string ScoreAverageGross(int row) const;
   std::string ScoreAverageNet(int row) const;
+  // Returns the average of gross score minus par of a hole, or 0 if no golfer has played it.
+  double AverageAgainstPar(int hole) const { return gross_.AverageAgainstPar(hole); }
   // Return a score of a hole, or 0 if no golfer has played it. Return an empty text for rows 19 to
   // 21.
   TextOrNumber ScoreHighGross(int row) const { return OfHole(gross_.High(row), row); }

@@ -140,12 +140,13 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   const std::string entries = folder.Read("i/qbdata/X0001.Q9G");
   const std::string results = "--install i results players --tournament 1";
   EXPECT_TRUE(Run(results + " --csv")
-                  .out.starts_with("Name,Handicap,Out,In,Total,Net,Points,Place\n"
-                                   "\"Duarte, Ines\",26,47,47,94,68,54,1\n"));
+                  .out.starts_with("Name,Handicap,Out,In,Total,Net,Points,Place,Flight,Sex,"));
+  EXPECT_NE(Run(results + " --csv").out.find("\n\"Duarte, Ines\",26,47,47,94,68,54,1,C,F,5,"),
+            std::string::npos);
   std::string unplayed = entries;
   unplayed.replace(7 * 3052 + 443, 2 * 36, 72, '\0');
   folder.Write("i/qbdata/X0001.Q9G", unplayed);
-  EXPECT_NE(Run(results + " --csv --round 2").out.find("\n\"Idris, Omar\",+1,,,,,,\n"),
+  EXPECT_NE(Run(results + " --csv --round 2").out.find("\n\"Idris, Omar\",+1,,,,,,,A,M,,"),
             std::string::npos);
   folder.Write("i/qbdata/X0001.Q9G", entries);
   // Round 1 has no ladies' tee.
@@ -196,7 +197,9 @@ TEST_F(CommandLineTest, ResultsOfTeams) {
   ASSERT_EQ(custom.size(), 3u);
   EXPECT_EQ(custom[0], nlohmann::json::parse(R"({"TeamNumber":1,"TeamName":"Team #1",
       "Scores":[[64,66,130,130],[64,64,128,258]],"Points":[[60,56,116,116],[56,60,116,232]],
-      "Positions":[[1,1,1,1],[1,1,1,1]],"PointsPositions":[[1,1,1,1],[1,1,1,1]]})"));
+      "Positions":[[1,1,1,1],[1,1,1,1]],"PointsPositions":[[1,1,1,1],[1,1,1,1]],"Flight":"A",
+      "Places":{"all":{"scores":1,"points":1},"flight":{"scores":1,"points":1}},
+      "TotalPlaces":{"all":{"scores":1,"points":1},"flight":{"scores":1,"points":1}}})"));
 }
 
 TEST_F(CommandLineTest, ShowsCoursesAndDumpsTablesInTheOrderOfTheirIndexes) {

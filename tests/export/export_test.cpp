@@ -299,7 +299,9 @@ TEST_F(ExportTest, TheStandingsHaveThePlacesOfTheCommand) {
   std::string wanted;
   std::string line;
   for (std::getline(csv, line); std::getline(csv, line);) {
-    const std::string place = line.substr(line.rfind(',') + 1);
+    std::istringstream cells(line.substr(line.find('"', 1) + 2));
+    std::string place;
+    for (int column = 0; column < 7; ++column) std::getline(cells, place, ',');
     if (!place.empty()) wanted += line.substr(1, line.find('"', 1) - 1) + "|" + place + "\n";
   }
   EXPECT_NE(wanted.find("|10\n"), std::string::npos) << wanted;
@@ -339,7 +341,10 @@ TEST_F(ExportTest, ResultsAreThoseOfTheCommand) {
         const std::string where = " from " + kind.table + " r where r.round = " + round + " and (" +
                                   kind.of + "r." + kind.owner + ") = " + object[kind.number].dump();
         for (const auto& [name, value] : object.items()) {
-          if (name == "record" || name == "round") continue;
+          // The export has other tables for the flights and the sex, and no places.
+          const bool is_no_column = name == "record" || name == "round" || name == "TourFlight" ||
+                                    name == "sex" || name.ends_with("Places");
+          if (is_no_column) continue;
           const auto check = [&](const std::string& query, const Json& wanted) {
             EXPECT_EQ(database.Text(query), text_of(wanted) + "\n") << query;
             ++compared;

@@ -1,11 +1,9 @@
 #include "outlets/export/export_target.h"
 
 #include <algorithm>
-#include <iterator>
 
-#include "core/code_page.h"
 #include "core/text.h"
-#include "outlets/file_kinds.h"
+#include "outlets/outside_target.h"
 
 namespace golf {
 namespace {
@@ -16,14 +14,6 @@ bool IsExport(const NewTarget& folder) {
     return name.ends_with(ExtensionOf(ExportFormat::kCsv)) ||
            name.ends_with(ExtensionOf(ExportFormat::kJsonLines));
   });
-}
-
-// The three programs search for their folders without regard to case.
-bool IsGolfFolder(const std::string& name) {
-  constexpr std::string_view kFolders[] = {"kvdata", "qbdata", "zddata", "transfer-history"};
-  // Windows ignores blanks and dots at the end of a name.
-  const std::string lower = LowerCase(name.substr(0, name.find_last_not_of(" .") + 1));
-  return std::ranges::find(kFolders, lower) != std::end(kFolders);
 }
 
 }  // namespace
@@ -38,16 +28,8 @@ ExportFormat FormatOfTarget(const NewTarget& target) {
 std::string RefusalOfTarget(const NewTarget& target, ExportFormat format, bool replace) {
   const std::string& path = target.path();
   const bool is_file = format == ExportFormat::kSqlite;
-  if (target.name().empty()) return "\"" + path + "\" is no name of a new file or folder.";
-  if (!target.HasFolder()) return "There is no folder " + target.folder() + ".";
-  for (const std::string& folder : target.Folders()) {
-    if (!IsGolfFolder(folder)) continue;
-    return path + " is in the folder " + folder +
-           ", which contains golf data. Choose another folder for the export.";
-  }
-  if (IsGolfFolder(target.name()) || (is_file && LayoutOfFile(TextFromUtf8(target.name())))) {
-    return path + " has the name of golf data. Choose another name for the export.";
-  }
+  const std::string refusal = RefusalOfPlace(target, is_file);
+  if (!refusal.empty()) return refusal;
   if (is_file && target.HasCompanion("-wal", "-journal")) {
     return path + "-wal or " + path +
            "-journal exists: another program has the database open, or did not close it. Close it "

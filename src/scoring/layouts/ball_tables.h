@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "scoring/layouts/report_layout.h"
@@ -52,7 +53,8 @@ struct Ball {
 };
 
 // Holds the four tables of one team. A table has a row for each of ten golfers and a row of sums.
-// An access raises error 9 for a golfer outside 1 to 10 or a column outside 1 to 110.
+// An access raises error 9 for a golfer outside 1 to 10, a column outside 1 to 110 or a block
+// outside 1 to 5.
 class TeamBalls {
  public:
   using Sum = std::optional<std::int32_t>;  // no value if no ball counted
@@ -68,6 +70,10 @@ class TeamBalls {
     return sums_[static_cast<int>(table)][column];
   }
 
+  // Return the name of a golfer of a block. It is empty if there is no such golfer.
+  std::string& Golfer(int block, int golfer) { return golfers_[block][golfer]; }
+  const std::string& Golfer(int block, int golfer) const { return golfers_[block][golfer]; }
+
   // Return the gross sum plus the net sum, of scores and of points.
   Sum Score(int column) const;
   Sum Points(int column) const;
@@ -75,6 +81,7 @@ class TeamBalls {
  private:
   Indexed<Indexed<Indexed<Ball, 1, kTableColumns>, 1, kMostGolfersWithBalls>, 0, 3> balls_;
   Indexed<Indexed<Sum, 1, kTableColumns>, 0, 3> sums_;
+  Indexed<Indexed<std::string, 1, kMostGolfersWithBalls>, 1, kBlocks> golfers_;
 };
 
 // Adds two sums. A sum without a value counts as 0. The result has no value if both sums have none.

@@ -295,7 +295,6 @@ void CustomBalls::XBallSortTeamStandings(const RankingOrder& order, int position
 // Teams with equal results keep their order.
 void CustomBalls::RankTeams(const RankingOrder& order, int position_option,
                             const std::vector<std::string>& flights, int block, int sum) {
-  constexpr int kDense = 1;  // the PositionOption of the tournament for places 1, 2, 2, 3
   struct Row {
     std::string flight;
     TeamBalls::Sum result;
@@ -320,7 +319,7 @@ void CustomBalls::RankTeams(const RankingOrder& order, int position_option,
     return same_flight(a, b) && rows[a].result == rows[b].result;
   };
   const Places places = NumberPlaces(rows.size(), tie, same_flight);
-  const std::vector<int>& numbered = position_option == kDense ? places.dense : places.competition;
+  const std::vector<int>& numbered = places.Numbers(position_option);
   for (std::size_t i = 0; i < rows.size(); ++i) {
     positions_[rows[i].team][sum][block] = numbered[i];
   }

@@ -96,6 +96,7 @@ void TeamClass::PopulateTeamGrid(TeamBalls& balls, int rounds) {
     int golfer = 0;
     ForEachGolfer(round, [&](std::int32_t) {
       ++golfer;
+      balls.Golfer(round, golfer) = player.NameLF();
       for (int hole = 1; hole <= kHoles; ++hole) {
         const std::int32_t gross = player.TourScoreGrossValue(hole, round);
         if (gross < 1) continue;  // not played

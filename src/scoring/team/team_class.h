@@ -69,8 +69,8 @@ class TeamClass : public TeamRecords {
   std::string BestTotalXofYGross(int x, int hole, OptionalRound round = {});
   std::string BestTotalXofYNet(int x, int hole, OptionalRound round = {});
 
-  // Copies the balls of the team's first ten golfers into its tables, one block for each round. The
-  // golfers of a block are those of its round.
+  // Copies the balls and the names of the team's first ten golfers into its tables, one block for
+  // each round. The golfers of a block are those of its round.
   void PopulateTeamGrid(TeamBalls& balls, int rounds);
 
   // Returns the 18 holes in the order in which they get handicap strokes. Uses the tee of the first

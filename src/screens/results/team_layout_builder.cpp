@@ -7,6 +7,7 @@
 #include "core/file_name.h"
 #include "core/number_text.h"
 #include "core/text.h"
+#include "scoring/layouts/report_header.h"
 #include "screens/file_changes.h"
 #include "stores/quenby/program_class.h"
 
@@ -26,10 +27,6 @@ constexpr SelectionStyle kStyles[] = {
     {"NET FIRST - Select Net ball(s) first then gross", "N"},
     {"BEST COMBO - Select ball(s) that gives best Gross and best Net combination", "B"},
 };
-
-constexpr const char* kHeaderItems[] = {"(Tournament Name)", "(Course Name Played)",
-                                        "(Date - <RoundDate>)",
-                                        "(Current Round - <Round#> on <RoundDate>)", "(No line)"};
 
 std::vector<DropDownItem> ItemsOf(const std::vector<LayoutChoice>& choices) {
   std::vector<DropDownItem> items;
@@ -65,7 +62,7 @@ std::string FontText(const ReportFont& font) {
 
 TextCombo XReportsCustomTeamResults::MakeHeader(int i) {
   return {"HeaderText(" + std::to_string(i) + ")",
-          std::vector<std::string>(std::begin(kHeaderItems), std::end(kHeaderItems))};
+          std::vector<std::string>(std::begin(kHeaderChoices), std::end(kHeaderChoices))};
 }
 
 std::string PlaceCodes::*XReportsCustomTeamResults::FieldOf(Code code) {

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "core/new_target.h"
+
+namespace golf {
+
+// Returns a sentence, in UTF-8, if a page must not be written to the target, for example because it
+// is in a folder of golf data. A file is replaced only if it has the extension of a web page.
+// Returns an empty text otherwise.
+std::string RefusalOfPage(const NewTarget& target);
+
+// Writes a page to the target. An existing page stays complete until the new one replaces it.
+// Raises the errors of NewTarget and NewFile.
+void WritePageFile(NewTarget& target, const std::string& html);
+
+}  // namespace golf

@@ -1,0 +1,125 @@
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+#include "core/number_text.h"
+#include "outlets/pages/charts.h"
+#include "outlets/pages/page_sections.h"
+
+namespace golf {
+namespace {
+
+// Returns how many scores each column of a distribution covers, so that the columns fit.
+int ColumnWidth(double lowest, double highest) {
+  constexpr double kMostNarrowColumns = 14;  // columns of one score have short labels
+  const double most_columns = highest < 100 ? 8 : 6;
+  if (highest - lowest < kMostNarrowColumns) return 1;
+  for (int power = 1;; power *= 10) {
+    for (const int step : {2, 5, 10}) {
+      if ((highest - lowest) / (step * power) < most_columns) return step * power;
+    }
+  }
+}
+
+// Draws how many entries have each score of the round.
+void WriteDistribution(const ResultsPage& page, const PageTable& table, HtmlWriter& html) {
+  std::vector<double> scores;
+  for (const ResultEntry& entry : page.entries) {
+    const auto& value = entry.scores[table.span][table.measure].ranked.value;
+    if (value) scores.push_back(*value);
+  }
+  if (scores.empty()) return;
+  const auto [lowest, highest] = std::minmax_element(scores.begin(), scores.end());
+  const int width = ColumnWidth(*lowest, *highest);
+  std::map<std::int64_t, int> counts;
+  const auto column_of = [&](double score) {
+    return static_cast<std::int64_t>(std::floor(std::floor(score) / width));
+  };
+  for (std::int64_t column = column_of(*lowest); column <= column_of(*highest); ++column) {
+    counts[column] = 0;
+  }
+  for (const double score : scores) ++counts[column_of(score)];
+  std::vector<ChartBar> bars;
+  std::string description;
+  for (const auto& [column, count] : counts) {
+    const std::int64_t first = column * width;
+    std::string label = std::to_string(first);
+    if (width > 1) label += "\x96" + std::to_string(first + width - 1);
+    bars.push_back({label, static_cast<double>(count), std::to_string(count)});
+    if (count == 0) continue;
+    description += (description.empty() ? "" : ", ") + label + ": " + std::to_string(count);
+  }
+  html.Open("figure");
+  html.Element("figcaption",
+               table.title + ": number of " + (page.of_teams ? "teams" : "players") + " by score");
+  html.Raw(ColumnChart({table.title, description + "."}, bars));
+  html.Close("figure");
+  html.EndLine();
+}
+
+// Draws the average of each hole against par, the hardest hole first.
+void WriteHolesAgainstPar(const FieldStatistics& statistics, HtmlWriter& html) {
+  std::vector<FieldStatistics::Hole> holes = statistics.holes;
+  std::stable_sort(holes.begin(), holes.end(),
+                   [](const auto& a, const auto& b) { return a.against_par > b.against_par; });
+  std::vector<ChartBar> bars;
+  std::string description;
+  for (const auto& [hole, against_par] : holes) {
+    const std::string shown = FormatNumber(against_par, "+0.00;-0.00;0.00");
+    bars.push_back({"Hole " + std::to_string(hole), against_par, shown});
+    description += (description.empty() ? "" : ", ") + bars.back().label + ": " + shown;
+  }
+  html.Open("figure");
+  html.Element("figcaption", "Average gross score of each hole against par, hardest hole first");
+  html.Raw(BarChart({"Holes against par", description + "."}, bars));
+  html.Close("figure");
+  html.EndLine();
+}
+
+void WriteHoleTable(const FieldStatistics& statistics, HtmlWriter& html) {
+  html.Open(
+      "div class=\"wide\" role=\"region\" aria-label=\"Statistics of the holes\" "
+      "tabindex=\"0\"");
+  html.Open("table id=\"holes\"");
+  html.Element("caption", "Holes: scores of all players in this round");
+  html.Open("thead");
+  html.Open("tr");
+  for (const std::string& heading : statistics.headings) {
+    html.Element("th scope=\"col\"", heading);
+  }
+  html.Close("tr");
+  html.Close("thead");
+  html.Open("tbody");
+  html.EndLine();
+  for (const auto& cells : statistics.rows) {
+    html.Open("tr");
+    html.Element("th scope=\"row\"", cells.front());
+    for (std::size_t i = 1; i < cells.size(); ++i) html.Element("td", cells[i]);
+    html.Close("tr");
+    html.EndLine();
+  }
+  html.Close("tbody");
+  html.Close("table");
+  html.Close("div");
+  html.EndLine();
+}
+
+}  // namespace
+
+void WriteStatistics(const ResultsPage& page, HtmlWriter& html) {
+  html.Open("section id=\"statistics\"");
+  html.Element("h2", "Statistics");
+  html.Open("div class=\"tables\"");
+  html.EndLine();
+  for (const PageTable& table : page.tables) {
+    if (RanksLowestFirst(table.measure)) WriteDistribution(page, table, html);
+  }
+  const bool has_holes = page.statistics && !page.statistics->rows.empty();
+  if (has_holes) WriteHolesAgainstPar(*page.statistics, html);
+  html.Close("div");
+  if (has_holes) WriteHoleTable(*page.statistics, html);
+  html.Close("section");
+  html.EndLine();
+}
+
+}  // namespace golf

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "outlets/pages/field_statistics.h"
+#include "outlets/results/result_entry.h"
+#include "scoring/layouts/report_layout.h"
+
+namespace golf {
+
+// Describes a column of standings. Texts are in code page 1252, as all texts of a page.
+struct PageColumn {
+  std::string heading;
+  std::function<std::string(const ResultEntry&)> text;
+};
+
+// Describes standings. They are shown for each group of entries, after the columns of the place and
+// the name.
+struct PageTable {
+  Span span = Span::kRound;
+  Measure measure = Measure::kNet;
+  std::string title;
+  std::vector<PageColumn> columns;
+};
+
+// Contains what a page of results shows. It refers to players or to teams.
+struct ResultsPage {
+  std::string title;
+  std::vector<std::string> header;  // the lines above the contents; the first one is the heading
+  std::string footer;
+  std::vector<std::string> notes;
+  bool of_teams = false;
+  std::vector<ResultEntry> entries;
+  std::vector<PageTable> tables;
+  int position_option = 1;  // that of the tournament
+  int round = 1;            // the shown round
+  int holes = 18;           // of a round: 9 or 18
+  std::optional<FieldStatistics> statistics;
+  std::optional<ReportLayout> layout;  // defines fonts and lines
+  bool has_page_numbers = true;        // in print
+  bool refreshes = false;              // a browser loads the page again after some seconds
+};
+
+// Describes the cards of a page.
+enum class PageCards { kAllRounds, kShownRound, kNone };
+
+// A page has at most this many bytes.
+inline constexpr std::size_t kMostPageBytes = 20'000'000;
+
+struct WrittenPage {
+  std::string html;  // UTF-8; empty if the page is too large even without cards
+  PageCards cards = PageCards::kAllRounds;
+};
+
+// Returns the page as HTML 5. It needs no other file and contains no script. Leaves out cards of
+// earlier rounds, and then all cards, if the page would have more than `most_bytes` bytes.
+WrittenPage WriteResultsPage(const ResultsPage& page, std::size_t most_bytes = kMostPageBytes);
+
+}  // namespace golf

@@ -1,0 +1,124 @@
+#include "outlets/results/custom_entries.h"
+
+#include <string>
+#include <utility>
+
+#include "scoring/tournament_class.h"
+
+namespace golf {
+namespace {
+
+std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
+
+std::optional<double> ValueOf(const TeamBalls::Sum& sum) {
+  return sum ? std::optional<double>(*sum) : std::nullopt;
+}
+
+std::string KeyOf(const CustomStanding& standing, Tiebreak tiebreak) {
+  switch (tiebreak) {
+    case Tiebreak::kNone:
+      break;
+    case Tiebreak::kUsga:
+      return standing.tiebreaks[0];
+    case Tiebreak::kHandicap:
+      return standing.tiebreaks[1];
+    case Tiebreak::k1To18:
+      return standing.tiebreaks[2];
+    case Tiebreak::k18To1:
+      return standing.tiebreaks[3];
+  }
+  return {};
+}
+
+// Adds the scores of a measure. `sums` contains the sums of each round.
+void AddScores(const CustomStanding::Sums& sums, int round, Measure measure, std::string key,
+               ResultEntry& entry) {
+  if (round >= 1 && round <= static_cast<int>(sums.size())) {
+    const auto& of_round = sums[static_cast<std::size_t>(round) - 1];
+    ShownScore& score = entry.scores[Span::kRound][measure];
+    score = {
+        {Shown(of_round[0]), Shown(of_round[1])}, Shown(of_round[2]), {ValueOf(of_round[2]), key}};
+  }
+  ShownScore& total = entry.scores[Span::kAllRounds][measure];
+  for (const auto& of_round : sums) total.parts.push_back(Shown(of_round[2]));
+  total.total = Shown(sums.back()[3]);
+  total.ranked = {ValueOf(sums.back()[3]), std::move(key)};
+}
+
+// Reads the cards of a team from its tables.
+class CardReader {
+ public:
+  CardReader(const TeamBalls& balls, int round) : balls_(balls), round_(round) {}
+
+  // Returns a card without rows if the team has no ball in the round.
+  RoundCard Read() const {
+    RoundCard card{.round = round_, .facts = {}, .rows = {}};
+    for (int golfer = 1; golfer <= kMostGolfersWithBalls; ++golfer) {
+      for (const BallTable table : {BallTable::kGross, BallTable::kNet}) {
+        AddGolfer(golfer, table, card);
+      }
+    }
+    if (card.rows.empty()) return card;
+    card.rows.push_back(SumsRow("Counted", &TeamBalls::Score));
+    card.rows.push_back(SumsRow("Points", &TeamBalls::Points));
+    return card;
+  }
+
+ private:
+  int ColumnOf(int hole) const {
+    return hole > kHoles ? SumColumn(round_, hole - kHoles)
+                         : HoleColumn((round_ - 1) * kHoles + hole);
+  }
+
+  // Adds the scores of a golfer on the holes. Adds nothing if the golfer has played no hole.
+  void AddGolfer(int golfer, BallTable table, RoundCard& card) const {
+    CardRow row{
+        balls_.Golfer(round_, golfer) + (table == BallTable::kGross ? ", gross" : ", net"), {}, {}};
+    ByHole<TeamBalls::Sum> sums;
+    for (int hole = 1; hole <= kHoles; ++hole) {
+      const Ball& ball = balls_.At(table, golfer, ColumnOf(hole));
+      row.counts[static_cast<std::size_t>(hole)] = ball.selected;
+      for (const int entry : {hole, NineOf(hole), kWholeRound}) {
+        sums[entry] = AddSums(sums[entry], ball.value);
+      }
+    }
+    if (!sums[kWholeRound]) return;
+    for (int hole = 1; hole <= kWholeRound; ++hole) row.cells[hole] = Shown(sums[hole]);
+    card.rows.push_back(std::move(row));
+  }
+
+  CardRow SumsRow(const char* heading, TeamBalls::Sum (TeamBalls::*sum)(int) const) const {
+    return CardRowOf(heading, [&](int hole) { return Shown((balls_.*sum)(ColumnOf(hole))); });
+  }
+
+  const TeamBalls& balls_;
+  int round_;
+};
+
+}  // namespace
+
+std::vector<ResultEntry> CustomEntries(SharedState& state, const CustomStandings& tables,
+                                       const std::vector<CustomStanding>& standings,
+                                       Tiebreak tiebreak, bool with_cards) {
+  const int active = state.Tournament().RoundOr({});
+  std::vector<ResultEntry> entries;
+  for (const CustomStanding& standing : standings) {
+    ResultEntry& entry = entries.emplace_back();
+    entry.number = standing.TeamNumber;
+    entry.name = standing.TeamName;
+    entry.golfers = standing.golfers;
+    entry.flight = standing.Flight;
+    const std::string key = KeyOf(standing, tiebreak);
+    AddScores(standing.Scores, active, Measure::kGross, key, entry);
+    AddScores(standing.Points, active, Measure::kPoints, {}, entry);
+    if (!with_cards) continue;
+    const TeamBalls& balls = tables.balls().Team(static_cast<int>(entries.size()));
+    for (int round = 1; round <= static_cast<int>(standing.Scores.size()); ++round) {
+      RoundCard card = CardReader(balls, round).Read();
+      if (!card.rows.empty()) entry.cards.push_back(std::move(card));
+    }
+  }
+  return entries;
+}
+
+}  // namespace golf

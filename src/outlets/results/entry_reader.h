@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/numbered_error.h"
+#include "core/shared_state.h"
+#include "outlets/results/result_entry.h"
+
+namespace golf {
+
+// Describes which results of the open tournament to calculate. They are those of its active round
+// and of all rounds up to it.
+struct EntryQuestion {
+  SharedState& state;
+  Tiebreak tiebreak = Tiebreak::kNone;
+  bool with_cards = false;
+  // Is called after a player or a team whose results cannot be calculated. `who` describes the
+  // player or the team, in code page 1252. The result does not contain it.
+  std::function<void(const std::string& who, const NumberedError& error)> failed;
+  // Is called with a sentence about a team that has golfers but cannot be read.
+  std::function<void(const std::string& sentence)> note;
+};
+
+// Returns the players of the entries that are not deleted, in the order of the file.
+std::vector<ResultEntry> ReadPlayers(const EntryQuestion& question);
+
+// Returns the teams that can be read, in the order of their numbers.
+std::vector<ResultEntry> ReadTeams(const EntryQuestion& question);
+
+}  // namespace golf

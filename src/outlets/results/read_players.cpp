@@ -1,0 +1,149 @@
+#include <cmath>
+#include <iterator>
+#include <utility>
+#include <variant>
+
+#include "outlets/results/entry_reader.h"
+#include "outlets/results/score_reader.h"
+#include "outlets/results/tournament_walk.h"
+
+namespace golf {
+namespace {
+
+constexpr TiebreakTable<PlayerClass> kTiebreaks = {{
+    {&PlayerClass::TourGrossTotalTiebreakUSGA, &PlayerClass::TourNetTotalTiebreakUSGA},
+    {&PlayerClass::TourGrossTotalTiebreakHandicapHole,
+     &PlayerClass::TourNetTotalTiebreakHandicapHole},
+    {&PlayerClass::TourGrossTotalTiebreak18to1, &PlayerClass::TourNetTotalTiebreak18to1},
+    {&PlayerClass::TourGrossTotalTiebreak1to18, &PlayerClass::TourNetTotalTiebreak1to18},
+}};
+
+std::string TextOf(const TextOrNumber& value) {
+  const auto* text = std::get_if<std::string>(&value);
+  return text != nullptr ? *text : std::to_string(std::get<std::int32_t>(value));
+}
+
+// Reads the results of the shared player's current entry.
+class PlayerReader : public ScoreReader {
+ public:
+  explicit PlayerReader(const EntryQuestion& question)
+      : question_(question),
+        player_(question.state.Player()),
+        tournament_(question.state.Tournament()),
+        round_(tournament_.RoundOr({})) {}
+
+  ResultEntry Read(std::int32_t record) {
+    ResultEntry entry;
+    entry.number = record;
+    entry.name = player_.NameLF();
+    entry.flight = player_.TourFlight(round_);
+    entry.sex = player_.sex();
+    entry.handicap = player_.TourHandicap(round_);
+    entry.quota = player_.TourQuota(UsesDecimals(), round_);
+    entry.exact_net = ExactNet();
+    ReadCards(entry.cards);
+    ReadRound(round_, entry);
+    ReadTotals(round_, entry);
+    return entry;
+  }
+
+ private:
+  bool UsesDecimals() const { return tournament_.HandicapDecimalPlaces() > 0; }
+
+  bool IsPlayed(int round) override { return player_.Results(round).gross[kWholeRound] >= 1; }
+
+  std::string Score(Measure measure, int hole, int round) override {
+    switch (measure) {
+      case Measure::kGross:
+        return TextOf(player_.TourScoreGross(hole, round));
+      case Measure::kNet:
+        return player_.TourScoreNet(hole, round);
+      case Measure::kPoints:
+        return player_.TourPointsNet(hole, round);
+      case Measure::kQuota:
+        break;
+    }
+    return player_.TourPointsQuotaResults(hole - kFirstNine + 1, round);
+  }
+
+  std::optional<std::string> Total(Measure measure) override {
+    switch (measure) {
+      case Measure::kGross:
+        return player_.TourTotalGross(1, round_);
+      case Measure::kNet:
+        return player_.TourTotalNet(1, round_);
+      case Measure::kPoints:
+        return player_.TourTotalNetPoints(1, round_);
+      case Measure::kQuota:
+        break;
+    }
+    return player_.TourTotalQuotaResults(1, round_);
+  }
+
+  std::string Key(Measure measure) override {
+    return TiebreakKey(player_, kTiebreaks, question_.tiebreak, measure, round_);
+  }
+
+  std::optional<double> ExactNet() {
+    if (!IsPlayed(round_)) return std::nullopt;
+    const RoundResults& results = player_.Results(round_);
+    const double whole = results.net[kWholeRound];
+    const double net = UsesDecimals() ? results.decimal_net : whole;
+    return std::isfinite(net) ? std::optional(net) : std::nullopt;
+  }
+
+  // Adds the cards of the played rounds. The strokes and pars of the holes are those of the round
+  // that was calculated last. Reading the quota of an earlier round can calculate the shown round,
+  // so the shown round is read first.
+  void ReadCards(std::vector<RoundCard>& cards) {
+    if (!question_.with_cards || tournament_.ScoreEntryTotal() != 0) return;
+    if (IsPlayed(round_)) cards.push_back(Card(round_));
+    std::vector<RoundCard> earlier;
+    for (int round = 1; round < round_; ++round) {
+      if (IsPlayed(round)) earlier.push_back(Card(round));
+    }
+    cards.insert(cards.begin(), std::make_move_iterator(earlier.begin()),
+                 std::make_move_iterator(earlier.end()));
+  }
+
+  RoundCard Card(int round) {
+    RoundCard card{.round = round, .facts = {}, .rows = {}};
+    card.rows.push_back(
+        SummedCardRow("Par", [&](int hole) { return player_.TourHolePar(hole, round); }));
+    card.rows.push_back(
+        SummedCardRow("Strokes", [&](int hole) { return player_.TourHoleStrokes(hole, round); }));
+    const auto add_scores = [&](const char* heading, Measure measure) {
+      card.rows.push_back(
+          CardRowOf(heading, [&](int hole) { return Score(measure, hole, round); }));
+    };
+    add_scores("Gross", Measure::kGross);
+    add_scores("Net", Measure::kNet);
+    add_scores("Points", Measure::kPoints);
+    card.facts = {player_.TourCoursePlayedName(round), player_.TourCourseTeePlayedName(round),
+                  "Handicap " + player_.TourHandicap(round)};
+    return card;
+  }
+
+  const EntryQuestion& question_;
+  PlayerClass& player_;
+  TournamentClass& tournament_;
+  int round_;
+};
+
+}  // namespace
+
+std::vector<ResultEntry> ReadPlayers(const EntryQuestion& question) {
+  std::vector<ResultEntry> entries;
+  PlayerReader reader(question);
+  ForEachPlayer(question.state, [&](std::int32_t record) {
+    try {
+      entries.push_back(reader.Read(record));
+    } catch (const NumberedError& error) {
+      question.failed("Record " + std::to_string(record) + ", " + question.state.Player().NameLF(),
+                      error);
+    }
+  });
+  return entries;
+}
+
+}  // namespace golf

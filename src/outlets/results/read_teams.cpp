@@ -1,0 +1,161 @@
+#include <algorithm>
+
+#include "core/number_text.h"
+#include "outlets/results/entry_reader.h"
+#include "outlets/results/result_values.h"
+#include "outlets/results/score_reader.h"
+#include "outlets/results/tournament_walk.h"
+#include "stores/course/course_class.h"
+
+namespace golf {
+namespace {
+
+constexpr TiebreakTable<TeamClass> kTiebreaks = {{
+    {&TeamClass::GrossTotalTiebreakUSGA, &TeamClass::NetTotalTiebreakUSGA},
+    {&TeamClass::GrossTotalTiebreakHandicapHole, &TeamClass::NetTotalTiebreakHandicapHole},
+    {&TeamClass::GrossTotalTiebreak18to1, &TeamClass::NetTotalTiebreak18to1},
+    {&TeamClass::GrossTotalTiebreak1to18, &TeamClass::NetTotalTiebreak1to18},
+}};
+
+// Reads the results of the team in the first team object.
+class TeamReader : public ScoreReader {
+ public:
+  explicit TeamReader(const EntryQuestion& question)
+      : question_(question),
+        team_(question.state.Team1()),
+        tournament_(question.state.Tournament()),
+        round_(tournament_.RoundOr({})) {}
+
+  ResultEntry Read(int number) {
+    ResultEntry entry;
+    entry.number = number;
+    entry.name = team_.TeamName();
+    entry.golfers = team_.NameofPlayersOnTeam(0, round_);
+    entry.flight = team_.Flight(round_);
+    entry.handicap = team_.Handicap(round_);
+    entry.quota = team_.Quota(round_);
+    ReadCards(entry.cards);
+    ReadRound(round_, entry);
+    ReadTotals(round_, entry);
+    return entry;
+  }
+
+ private:
+  bool IsPlayed(int round) override { return team_.Results(round).first_scorer != 0; }
+
+  std::string Score(Measure measure, int hole, int round) override {
+    switch (measure) {
+      case Measure::kGross:
+        return std::to_string(team_.ScoreGross(hole, round));
+      case Measure::kNet:
+        return FormatSignedHandicap(team_.ScoreNet(hole, round),
+                                    hole > kHoles && team_.ShowsDecimals());
+      case Measure::kPoints:
+        return std::to_string(team_.PointsNet(hole, round));
+      case Measure::kQuota:
+        break;
+    }
+    return team_.QuotaResults(hole - kFirstNine + 1, round);
+  }
+
+  std::optional<std::string> Total(Measure measure) override {
+    if (measure == Measure::kGross) return team_.TotalGross();
+    if (measure == Measure::kNet) return team_.TotalNet();
+    return std::nullopt;
+  }
+
+  std::string Key(Measure measure) override {
+    return TiebreakKey(team_, kTiebreaks, question_.tiebreak, measure, round_);
+  }
+
+  // Adds the cards of the played rounds. The golfers of a team are those of the active round, so
+  // each round becomes the active one while its card is read.
+  void ReadCards(std::vector<RoundCard>& cards) {
+    if (!question_.with_cards || tournament_.ScoreEntryTotal() != 0) return;
+    if (round_ <= tournament_.RoundCount()) {
+      for (int round = 1; round < round_; ++round) {
+        MakeActive(round);
+        if (IsPlayed(round)) cards.push_back(Card(round));
+      }
+      MakeActive(round_);
+    }
+    if (IsPlayed(round_)) cards.push_back(Card(round_));
+  }
+
+  void MakeActive(int round) {
+    tournament_.SetActiveRound(round);
+    team_.GetRecord(team_.TeamNumber());  // calculates the results again
+  }
+
+  RoundCard Card(int round) {
+    RoundCard card{.round = round, .facts = {}, .rows = {}};
+    AddPars(round, card);
+    card.rows.push_back(CardRowOf("Strokes", [&](int hole) { return Strokes(hole, round); }));
+    const auto add_scores = [&](const char* heading, Measure measure) {
+      card.rows.push_back(
+          CardRowOf(heading, [&](int hole) { return Score(measure, hole, round); }));
+    };
+    add_scores("Gross", Measure::kGross);
+    add_scores("Net", Measure::kNet);
+    add_scores("Points", Measure::kPoints);
+    const int balls = std::min(kMostBalls, team_.Results(round).golfers);
+    for (int ball = 1; ball <= balls; ++ball) {
+      card.rows.push_back(
+          CardRowOf(ball == 1 ? "Best net" : std::to_string(ball) + " best net",
+                    [&](int hole) { return team_.BestBallNet(ball, hole, round); }));
+    }
+    card.facts = {tournament_.CourseNamePlayed(round), "Handicap " + team_.Handicap(round)};
+    for (int i = 1; i < kTeamNames; ++i) {
+      const std::string golfer = team_.NameofPlayersOnTeam(i, round);
+      if (!golfer.empty()) card.facts.push_back(golfer);
+    }
+    return card;
+  }
+
+  // Returns the strokes that the team's golfers received, as the gross score less the net score.
+  std::string Strokes(int hole, int round) {
+    const double net = team_.ScoreNet(hole, round);
+    return FormatSignedHandicap(team_.ScoreGross(hole, round) - net,
+                                hole > kHoles && team_.ShowsDecimals());
+  }
+
+  // Adds the pars of the tee that also defines the order of the holes in a tiebreak. Adds nothing
+  // if the round has no such tee.
+  void AddPars(int round, RoundCard& card) {
+    const int group = tournament_.TeeCount(0) < 1 ? 1 : 0;
+    const int tee = tournament_.TeeNumberPlayed(group, 1, round);
+    if (tee < 1) return;
+    CourseClass& course = question_.state.Course();
+    course.GetRecord(tournament_.CourseNumberPlayed(round));
+    const int holes = tournament_.RoundType();
+    const auto par = [&](int hole) {
+      return hole <= holes ? RoundToInt32(LeadingNumber(course.HolePar(tee, hole))) : 0;
+    };
+    card.rows.push_back(SummedCardRow("Par", par));
+  }
+
+  const EntryQuestion& question_;
+  TeamClass& team_;
+  TournamentClass& tournament_;
+  int round_;
+};
+
+}  // namespace
+
+std::vector<ResultEntry> ReadTeams(const EntryQuestion& question) {
+  std::vector<ResultEntry> entries;
+  TeamReader reader(question);
+  ForEachTeam(
+      question.state,
+      [&](int team) {
+        try {
+          entries.push_back(reader.Read(team));
+        } catch (const NumberedError& error) {
+          question.failed("Team " + std::to_string(team), error);
+        }
+      },
+      question.note);
+  return entries;
+}
+
+}  // namespace golf

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "outlets/results/result_entry.h"
+
+namespace golf {
+
+// Contains the entries that are ranked together: all, those of a flight, or those of a sex.
+struct StandingsGroup {
+  enum class Kind { kAll, kFlight, kSex };
+  Kind kind = Kind::kAll;
+  std::string key;                   // the letter of the flight, or "M" or "F"; empty for all
+  std::vector<std::size_t> members;  // indexes of the entries, in ascending order
+};
+inline constexpr StandingsGroup::Kind kGroupKinds[] = {
+    StandingsGroup::Kind::kAll, StandingsGroup::Kind::kFlight, StandingsGroup::Kind::kSex};
+
+// Returns the group of all entries, then a group for each flight and each sex that an entry has.
+std::vector<StandingsGroup> GroupsOf(const std::vector<ResultEntry>& entries);
+
+// Ranks the members of a group. The indexes of the result are those of the entries. See RankScores.
+std::vector<RankedPlace> RankGroup(const std::vector<ResultEntry>& entries,
+                                   const StandingsGroup& group, Span span, Measure measure,
+                                   int position_option);
+
+// Contains the places of an entry in the groups of each kind.
+class EntryPlaces {
+ public:
+  std::optional<int>& At(StandingsGroup::Kind kind, Span span, Measure measure) {
+    return places_[static_cast<std::size_t>(kind)][span][measure];
+  }
+  const std::optional<int>& At(StandingsGroup::Kind kind, Span span, Measure measure) const {
+    return places_[static_cast<std::size_t>(kind)][span][measure];
+  }
+
+ private:
+  std::array<BySpan<ByMeasure<std::optional<int>>>, std::size(kGroupKinds)> places_;
+};
+
+// Returns the places of each entry.
+std::vector<EntryPlaces> PlacesOf(const std::vector<ResultEntry>& entries, int position_option);
+
+}  // namespace golf
