@@ -30,10 +30,7 @@ class PageRun {
     if (!refusal.empty()) throw Refusal(refusal);
     const ResultsPage page = Read();
     const WrittenPage written = WriteResultsPage(page);
-    if (written.html.empty()) {
-      throw Refusal("The page would be larger than " + std::to_string(kMostPageBytes) +
-                    " bytes, even without score cards.");
-    }
+    if (written.html.empty()) throw Refusal(TooLargeRefusal());
     WritePageFile(target, written.html);
     Report(page, written.cards);
     NoteFaultCount(faults_.size());

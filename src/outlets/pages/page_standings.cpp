@@ -60,7 +60,7 @@ class StandingsWriter {
     html_.Open("tr");
     html_.Element("th scope=\"col\"", "Place");
     html_.Element("th scope=\"col\"", page_.of_teams ? "Team" : "Player");
-    for (const PageColumn& column : table.columns) {
+    for (const EntryColumn& column : table.columns) {
       html_.Element("th scope=\"col\"", column.heading);
     }
     html_.Close("tr");
@@ -80,7 +80,7 @@ class StandingsWriter {
     html_.Open("tr");
     html_.Element("td", ranked.place ? std::to_string(*ranked.place) : "");
     html_.Raw(names_[ranked.index]);
-    for (const PageColumn& column : table.columns) {
+    for (const EntryColumn& column : table.columns) {
       html_.Element("td", column.text(page_.entries[ranked.index]));
     }
     html_.Close("tr");

@@ -100,4 +100,9 @@ WrittenPage WriteResultsPage(const ResultsPage& page, std::size_t most_bytes) {
   return {{}, PageCards::kNone};
 }
 
+std::string TooLargeRefusal() {
+  return "The page would be larger than " + std::to_string(kMostPageBytes) +
+         " bytes, even without score cards.";
+}
+
 }  // namespace golf

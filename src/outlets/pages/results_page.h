@@ -1,22 +1,16 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "outlets/pages/field_statistics.h"
+#include "outlets/results/entry_columns.h"
 #include "outlets/results/result_entry.h"
 #include "scoring/layouts/report_layout.h"
 
 namespace golf {
-
-// Describes a column of standings. Texts are in code page 1252, as all texts of a page.
-struct PageColumn {
-  std::string heading;
-  std::function<std::string(const ResultEntry&)> text;
-};
 
 // Describes standings. They are shown for each group of entries, after the columns of the place and
 // the name.
@@ -24,10 +18,11 @@ struct PageTable {
   Span span = Span::kRound;
   Measure measure = Measure::kNet;
   std::string title;
-  std::vector<PageColumn> columns;
+  std::vector<EntryColumn> columns;
 };
 
-// Contains what a page of results shows. It refers to players or to teams.
+// Contains what a page of results shows. It refers to players or to teams. Texts are in code page
+// 1252.
 struct ResultsPage {
   std::string title;
   std::vector<std::string> header;  // the lines above the contents; the first one is the heading
@@ -59,5 +54,8 @@ struct WrittenPage {
 // Returns the page as HTML 5. It needs no other file and contains no script. Leaves out cards of
 // earlier rounds, and then all cards, if the page would have more than `most_bytes` bytes.
 WrittenPage WriteResultsPage(const ResultsPage& page, std::size_t most_bytes = kMostPageBytes);
+
+// Returns a sentence for a page that is too large even without cards.
+std::string TooLargeRefusal();
 
 }  // namespace golf

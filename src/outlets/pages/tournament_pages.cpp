@@ -10,22 +10,6 @@
 namespace golf {
 namespace {
 
-PageColumn FactColumn(std::string heading, std::string ResultEntry::*fact) {
-  return {std::move(heading), [fact](const ResultEntry& entry) { return entry.*fact; }};
-}
-
-PageColumn PartColumn(std::string heading, Span span, Measure measure, std::size_t part) {
-  return {std::move(heading), [=](const ResultEntry& entry) {
-            const std::vector<std::string>& parts = entry.scores[span][measure].parts;
-            return part < parts.size() ? parts[part] : std::string();
-          }};
-}
-
-PageColumn TotalColumn(std::string heading, Span span, Measure measure) {
-  return {std::move(heading),
-          [=](const ResultEntry& entry) { return entry.scores[span][measure].total; }};
-}
-
 struct MeasureWords {
   const char* title;
   const char* total;  // the heading of the total
@@ -120,7 +104,7 @@ class PageMaker {
 
   void AddRoundTables() {
     const bool by_nines = !HasTotalsOnly() && page_.holes == 18;
-    const auto add = [&](Measure measure, std::vector<PageColumn> columns, bool with_nines) {
+    const auto add = [&](Measure measure, std::vector<EntryColumn> columns, bool with_nines) {
       if (with_nines && by_nines) {
         columns.push_back(PartColumn("Out", Span::kRound, measure, 0));
         columns.push_back(PartColumn("In", Span::kRound, measure, 1));
@@ -128,7 +112,7 @@ class PageMaker {
       columns.push_back(TotalColumn(WordsOf(measure).total, Span::kRound, measure));
       page_.tables.push_back({Span::kRound, measure, WordsOf(measure).title, std::move(columns)});
     };
-    const PageColumn handicap = FactColumn("Hcp", &ResultEntry::handicap);
+    const EntryColumn handicap = FactColumn("Hcp", &ResultEntry::handicap);
     add(Measure::kGross, {}, true);
     add(Measure::kNet, {handicap, TotalColumn("Gross", Span::kRound, Measure::kGross)}, false);
     if (HasTotalsOnly()) {

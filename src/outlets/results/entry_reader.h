@@ -1,11 +1,13 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "core/numbered_error.h"
 #include "core/shared_state.h"
+#include "outlets/results/player_cards.h"
 #include "outlets/results/result_entry.h"
 
 namespace golf {
@@ -25,6 +27,11 @@ struct EntryQuestion {
 
 // Returns the players of the entries that are not deleted, in the order of the file.
 std::vector<ResultEntry> ReadPlayers(const EntryQuestion& question);
+
+// Reads the cards and the statistics of a player, identified by the record of his entry. With
+// Span::kRound they are those of the active round, and otherwise those of all rounds up to it.
+// Raises the errors of PlayerClass.
+PlayerCards ReadPlayerCards(SharedState& state, std::int32_t record, Span span);
 
 // Returns the teams that can be read, in the order of their numbers.
 std::vector<ResultEntry> ReadTeams(const EntryQuestion& question);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <utility>
@@ -41,13 +42,39 @@ class PlayerReader : public ScoreReader {
     entry.handicap = player_.TourHandicap(round_);
     entry.quota = player_.TourQuota(UsesDecimals(), round_);
     entry.exact_net = ExactNet();
-    ReadCards(entry.cards);
+    if (question_.with_cards) entry.cards = Cards(1);
     ReadRound(round_, entry);
     ReadTotals(round_, entry);
     return entry;
   }
 
+  // Reads the cards of the rounds `first` to the shown one.
+  PlayerCards ReadCards(int first) {
+    PlayerCards read;
+    read.cards = Cards(first);
+    for (const RoundCard& card : read.cards) {
+      const RoundResults& results = player_.Results(card.round);
+      Count(results.gross_statistics, read.gross);
+      Count(results.net_statistics, read.net);
+    }
+    read.putts = player_.TourTotalPutts(first, round_);
+    read.fairways = player_.TourTotalFairways(first, round_);
+    read.greens = player_.TourTotalGreens(first, round_);
+    return read;
+  }
+
  private:
+  static void Count(const ByDifference<ByHole<std::int32_t>>& statistics, HoleCounts& counts) {
+    for (int difference = -kMostDifference; difference <= kMostDifference; ++difference) {
+      const std::int32_t holes = statistics[difference][kWholeRound];
+      if (difference <= -2) counts.eagles += holes;
+      if (difference == -1) counts.birdies += holes;
+      if (difference == 0) counts.pars += holes;
+      if (difference == 1) counts.bogeys += holes;
+      if (difference >= 2) counts.double_bogeys += holes;
+    }
+  }
+
   bool UsesDecimals() const { return tournament_.HandicapDecimalPlaces() > 0; }
 
   bool IsPlayed(int round) override { return player_.Results(round).gross[kWholeRound] >= 1; }
@@ -92,18 +119,19 @@ class PlayerReader : public ScoreReader {
     return std::isfinite(net) ? std::optional(net) : std::nullopt;
   }
 
-  // Adds the cards of the played rounds. The strokes and pars of the holes are those of the round
-  // that was calculated last. Reading the quota of an earlier round can calculate the shown round,
-  // so the shown round is read first.
-  void ReadCards(std::vector<RoundCard>& cards) {
-    if (!question_.with_cards || tournament_.ScoreEntryTotal() != 0) return;
-    if (IsPlayed(round_)) cards.push_back(Card(round_));
-    std::vector<RoundCard> earlier;
-    for (int round = 1; round < round_; ++round) {
-      if (IsPlayed(round)) earlier.push_back(Card(round));
+  // Returns the cards of the played rounds from `first` to the shown one. The strokes and pars of
+  // the holes are those of the round that was calculated last. Reading the quota of an earlier
+  // round can calculate the shown round, so the shown round is read first.
+  std::vector<RoundCard> Cards(int first) {
+    std::vector<RoundCard> cards;
+    if (tournament_.ScoreEntryTotal() != 0) return cards;
+    std::vector<RoundCard> shown;
+    if (IsPlayed(round_)) shown.push_back(Card(round_));
+    for (int round = first; round < round_; ++round) {
+      if (IsPlayed(round)) cards.push_back(Card(round));
     }
-    cards.insert(cards.begin(), std::make_move_iterator(earlier.begin()),
-                 std::make_move_iterator(earlier.end()));
+    std::ranges::move(shown, std::back_inserter(cards));
+    return cards;
   }
 
   RoundCard Card(int round) {
@@ -144,6 +172,13 @@ std::vector<ResultEntry> ReadPlayers(const EntryQuestion& question) {
     }
   });
   return entries;
+}
+
+PlayerCards ReadPlayerCards(SharedState& state, std::int32_t record, Span span) {
+  state.Player().GetRecord(record, true);
+  const EntryQuestion question{state, Tiebreak::kNone, true, {}, {}};
+  const int shown = state.Tournament().RoundOr({});
+  return PlayerReader(question).ReadCards(span == Span::kRound ? shown : 1);
 }
 
 }  // namespace golf

@@ -68,8 +68,9 @@ CardRow SummedCardRow(std::string heading, NumberOf number_of) {
 struct RoundCard {
   int round = 0;
   std::vector<std::string> facts;  // such as the course; each is a short text
-  std::vector<CardRow> rows;
+  std::vector<CardRow> rows;       // a player's card has the rows of PlayerCardRow
 };
+enum PlayerCardRow : std::size_t { kParRow, kStrokesRow, kGrossRow, kNetRow, kPointsRow };
 
 struct ResultEntry {
   int number = 0;                   // the record of the player's entry, or the number of the team

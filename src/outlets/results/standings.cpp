@@ -44,6 +44,17 @@ std::vector<StandingsGroup> GroupsOf(const std::vector<ResultEntry>& entries) {
   return groups;
 }
 
+StandingsGroup FilteredGroup(const std::vector<ResultEntry>& entries, const std::string& flight,
+                             const std::string& sex) {
+  StandingsGroup group;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const bool is_member =
+        (flight.empty() || entries[i].flight == flight) && (sex.empty() || entries[i].sex == sex);
+    if (is_member) group.members.push_back(i);
+  }
+  return group;
+}
+
 std::vector<RankedPlace> RankGroup(const std::vector<ResultEntry>& entries,
                                    const StandingsGroup& group, Span span, Measure measure,
                                    int position_option) {

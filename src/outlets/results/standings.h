@@ -21,6 +21,11 @@ inline constexpr StandingsGroup::Kind kGroupKinds[] = {
 // Returns the group of all entries, then a group for each flight and each sex that an entry has.
 std::vector<StandingsGroup> GroupsOf(const std::vector<ResultEntry>& entries);
 
+// Returns the group of the entries of a flight and a sex. An empty text stands for all flights
+// or both sexes.
+StandingsGroup FilteredGroup(const std::vector<ResultEntry>& entries, const std::string& flight,
+                             const std::string& sex);
+
 // Ranks the members of a group. The indexes of the result are those of the entries. See RankScores.
 std::vector<RankedPlace> RankGroup(const std::vector<ResultEntry>& entries,
                                    const StandingsGroup& group, Span span, Measure measure,
