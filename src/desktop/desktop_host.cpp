@@ -5,7 +5,10 @@
 #include <wx/datetime.h>
 #include <wx/dialog.h>
 #include <wx/evtloop.h>
+#include <wx/filename.h>
 #include <wx/frame.h>
+#include <wx/log.h>
+#include <wx/utils.h>
 
 #include <algorithm>
 #include <utility>
@@ -391,6 +394,13 @@ void DesktopHost::NoteUnfinishedRun(const std::string&) {
 
 void DesktopHost::StartProgram(const std::string& path, const std::string& arguments) {
   state().files.platform().StartProgram(path, arguments);
+}
+
+void DesktopHost::OpenInBrowser(const std::string& utf8_path) {
+  const wxLogNull quiet;  // the toolkit would show its own message
+  const wxString address = wxFileName::FileNameToURL(wxString::FromUTF8(utf8_path));
+  if (wxLaunchDefaultBrowser(address)) return;
+  throw NumberedError(ErrorNumber::kBadCall, "No browser can be started.");
 }
 
 void DesktopHost::CopyText(const std::string& text) {

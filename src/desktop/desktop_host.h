@@ -35,6 +35,7 @@ class DesktopHost : public HostBase {
   void Notify(const std::string& text) override;
   void NoteUnfinishedRun(const std::string& text) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
+  void OpenInBrowser(const std::string& utf8_path) override;
   DateValue Now() override { return clock(); }
   void CopyText(const std::string& text) override;
   void SuggestRow(Screen& screen, Grid& list, int row) override;

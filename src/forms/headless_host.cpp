@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/code_page.h"
 #include "core/text.h"
 
 namespace golf {
@@ -67,6 +68,10 @@ void HeadlessHost::StartProgram(const std::string& path, const std::string& argu
   Platform& platform = state().files.platform();
   if (starts_programs) return platform.StartProgram(path, arguments);
   platform.Open(path, FileAccess::kReadOnly);
+}
+
+void HeadlessHost::OpenInBrowser(const std::string& utf8_path) {
+  listener_.OnStart(TextFromUtf8(utf8_path), "");
 }
 
 void HeadlessHost::EndProcess() {

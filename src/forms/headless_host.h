@@ -82,6 +82,8 @@ class HeadlessHost : public HostBase {
   const LeftOut& left_out() const { return left_out_; }
   void NoteFault(const NumberedError& fault) override;
   void StartProgram(const std::string& path, const std::string& arguments) override;
+  // Reports the page to the listener as a start, but never starts a browser.
+  void OpenInBrowser(const std::string& utf8_path) override;
   DateValue Now() override { return clock(); }
   void EndProcess() override;
   void CopyText(const std::string& text) override { copied_ = text; }

@@ -76,6 +76,9 @@ class ScreenHost {
   // Starts a program with its arguments and does not wait for its end. Raises an error if the
   // program cannot be started.
   virtual void StartProgram(const std::string& path, const std::string& arguments) = 0;
+  // Opens a web page, a file outside the install, in the browser and does not wait for its end.
+  // Raises error 5 if no browser can be started.
+  virtual void OpenInBrowser(const std::string& utf8_path) = 0;
   virtual DateValue Now() = 0;
   // Returns the start value of the random number generator that fills in made-up sample teams. It
   // is derived from Now(), so that the same Now() gives the same teams.

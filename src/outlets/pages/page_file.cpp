@@ -27,4 +27,10 @@ void WritePageFile(NewTarget& target, const std::string& html) {
   target.Publish();
 }
 
+std::string WriteTemporaryPage(const std::string& html) {
+  NewTarget target(TemporaryPath("golf-transfer-results-", ".html"));
+  WritePageFile(target, html);
+  return target.path();
+}
+
 }  // namespace golf

@@ -15,4 +15,8 @@ std::string RefusalOfPage(const NewTarget& target);
 // Raises the errors of NewTarget and NewFile.
 void WritePageFile(NewTarget& target, const std::string& html);
 
+// Writes a page to a new file in the user's folder for temporary files. Returns its path in UTF-8.
+// Raises the errors of TemporaryPath, NewTarget and NewFile.
+std::string WriteTemporaryPage(const std::string& html);
+
 }  // namespace golf
