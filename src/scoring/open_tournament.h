@@ -11,4 +11,8 @@ namespace golf {
 // CourseDataPath and StoreDataPath to Quenby's folder. Raises the errors of FileTable.
 void OpenTournament(SharedState& state, std::int32_t tournament);
 
+// Returns the active tournament of Quenby's master file. Returns 0 if there is none or if it has no
+// control file. Sets StoreDataPath to Quenby's folder.
+std::int32_t ActiveTournament(SharedState& state);
+
 }  // namespace golf
