@@ -20,6 +20,7 @@
 #include "screens/history/interrupted_run.h"
 #include "screens/history/transfer_history.h"
 #include "screens/results/grid_sort_screen.h"
+#include "screens/results/results_screen.h"
 #include "screens/results/team_layout_builder.h"
 #include "screens/results/team_layout_list.h"
 #include "screens/results/team_results_screen.h"
@@ -100,6 +101,7 @@ ScreenCatalogue Application::Screens() {
           {"CourseForm", Make<CourseForm>},
           {"CourseTee", Make<CourseTee>},
           {"TransferHistory", Make<TransferHistory>},
+          {"Results", Make<Results>},
           {"TeamResults", Make<TeamResults>},
           {"TeamLayouts", Make<TeamLayouts>},
           {"XReportsCustomTeamResults", Make<XReportsCustomTeamResults>},

@@ -64,8 +64,8 @@ MenuEntry CourseTool(const CourseLibrary& library) {
           }};
 }
 
-// Returns a tool that opens a screen for the teams of Quenby's tournaments.
-MenuEntry TeamTool(std::string caption, std::string screen) {
+// Returns a tool that opens a screen for Quenby's tournaments.
+MenuEntry ScreenTool(std::string caption, std::string screen) {
   return {.caption = std::move(caption),
           .open = [screen](SharedState&, ScreenHost& host) { host.ShowModal(host.Load(screen)); }};
 }
@@ -80,8 +80,8 @@ std::vector<MenuEntry> Tools(SharedState& state) {
     }
   }
   if (!state.files.platform().FolderExists(state.QBDataPath)) return tools;
-  tools.push_back(TeamTool("Team &results...", "TeamResults"));
-  tools.push_back(TeamTool("Team results &layouts...", "TeamLayouts"));
+  tools.push_back(ScreenTool("&Results...", "Results"));
+  tools.push_back(ScreenTool("Team results &layouts...", "TeamLayouts"));
   return tools;
 }
 

@@ -7,6 +7,7 @@
 #include "screens/history/interrupted_run.h"
 #include "screens/history/transfer_history.h"
 #include "screens/results/grid_sort_screen.h"
+#include "screens/results/results_screen.h"
 #include "screens/results/team_layout_builder.h"
 #include "screens/results/team_layout_list.h"
 #include "screens/results/team_results_screen.h"
@@ -44,6 +45,7 @@ ViewCatalogue Views() {
       {"CourseTable", {WindowKind::kDialog, Fill<CourseTable, FillCourseTable>, true}},
       {"CourseForm", {WindowKind::kDialog, Fill<CourseForm, FillCourseForm>}},
       {"CourseTee", {WindowKind::kDialog, Fill<CourseTee, FillCourseTee>}},
+      {"Results", {WindowKind::kDialog, Fill<Results, FillResults>, true}},
       {"TeamResults", {WindowKind::kDialog, Fill<TeamResults, FillTeamResults>, true}},
       {"TeamLayouts", {WindowKind::kDialog, Fill<TeamLayouts, FillTeamLayouts>, true}},
       {"XReportsCustomTeamResults",

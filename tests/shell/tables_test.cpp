@@ -39,11 +39,13 @@ TEST_F(TablesTest, TeamResults) {
   install.Open("TeamResults", [&](Screen& screen) {
     auto& results = dynamic_cast<TeamResults&>(screen);
     results.RoundList.Select(1);
-    results.LayoutList.Select(1);
-    EXPECT_EQ(Shown(results.grid1).substr(0, 40), "Team|Name|Players|Front (Rnd #1)|Back (R");
-    results.grid1.SetActiveRow(2);
-    EXPECT_EQ(results.CardLabel.caption(), "Team #2, round 2: a ball that counts is marked *");
-    EXPECT_EQ(Shown(results.grid2),
+    results.teams.LayoutList.Select(1);
+    EXPECT_EQ(Shown(results.tables.grid1).substr(0, 40),
+              "Team|Name|Players|Front (Rnd #1)|Back (R");
+    results.tables.grid1.SetActiveRow(2);
+    EXPECT_EQ(results.tables.CardLabel.caption(),
+              "Team #2, round 2: a ball that counts is marked *");
+    EXPECT_EQ(Shown(results.tables.grid2),
               holes +
                   "Farrow, Ruth, gross|5|5|5|5|5|5|5|5|5|45|5|5|5|5|5|5|5|5|5|45|90|\n"
                   "Farrow, Ruth, net|4*|4*|5*|4*|4*|4*|5*|5*|5|40|4*|5*|4*|4*|4*|5|4*|5*|4*|39|79|"

@@ -29,7 +29,6 @@ StandingsTables::StandingsTables(const ScreenContext& context, std::string saved
     grid->LockAllColumns();
   }
   for (int column = 2; column <= grid2.columns(); ++column) grid2.SetCentred(column, true);
-  grid2.SetHeading(1, "Player");
   for (int hole = 1; hole <= kHoles; ++hole) {
     grid2.SetHeading(CardColumn(HoleColumn(hole)), std::to_string(hole));
   }
@@ -56,7 +55,7 @@ void StandingsTables::ShowStandings(const std::vector<StandingsColumn>& columns,
     if (column > 0) {
       const StandingsColumn& shown = is_used ? columns[i] : unused;
       grid1.SetHeading(column, shown.heading);
-      grid1.SetHidden(column, !is_used);
+      grid1.SetHidden(column, shown.heading.empty());
       grid1.SetCentred(column, shown.centred);
       grid1.SetSortKind(column, shown.sort_kind);
     }
@@ -80,7 +79,8 @@ void StandingsTables::NoteSort(std::vector<SortKey> keys, std::string descriptio
   SortedLabel.SetCaption(std::move(description));
 }
 
-void StandingsTables::ShowCardHoles(int holes) {
+void StandingsTables::SetCardColumns(std::string first_heading, int holes) {
+  grid2.SetHeading(1, std::move(first_heading));
   for (int column = CardColumn(SumColumn(1, 1)); column <= CardColumn(SumColumn(1, 2)); ++column) {
     grid2.SetHidden(column, holes < kHoles);
   }

@@ -21,9 +21,9 @@ class StandingsTables {
   // `saved_name` is the proposed name of the file that SaveButton writes.
   StandingsTables(const ScreenContext& context, std::string saved_name);
 
-  // Shows standings in the columns 1 to the number of columns, and hides the other columns. Each
-  // row contains a text for each of these columns. If it is shorter, its last cells are empty. The
-  // keys, which are stored in column 0, may be fewer than the rows. Makes no row active.
+  // Shows standings in the columns from 1 on. Hides the other columns and those without a heading.
+  // A row contains a text for each of these columns. If it is shorter, its last cells are empty.
+  // The keys, which are stored in column 0, may be fewer than the rows. Makes no row active.
   void ShowStandings(const std::vector<StandingsColumn>& columns,
                      const std::vector<std::vector<std::string>>& rows,
                      const std::vector<std::string>& keys = {});
@@ -32,8 +32,9 @@ class StandingsTables {
   // Forgets these keys.
   void ForgetSort();
 
-  // Shows the columns of the card for 18 holes with two nines, or for 9 holes.
-  void ShowCardHoles(int holes);
+  // Sets the heading of the card's first column. Shows its columns for 18 holes with two nines, or
+  // for 9 holes.
+  void SetCardColumns(std::string first_heading, int holes);
   // Sets a cell of the card. The holes 1 to 18, the two nines and the total have the columns of a
   // block; see ball_tables.h.
   void SetCardText(int in_block, int row, std::string text);

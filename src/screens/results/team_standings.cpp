@@ -125,6 +125,7 @@ void TeamStandings::Show() {
     }
     for (const StandingsRow& row : calculated_->table.rows) rows.push_back(row.cells);
   }
+  tables_.SetCardColumns("Player", kHoles);
   tables_.ShowStandings(columns, rows);
   tables_.ForgetSort();
   tables_.grid1.SetActiveRow(std::min(tables_.grid1.rows(), 1));

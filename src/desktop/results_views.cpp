@@ -1,0 +1,170 @@
+#include "desktop/colours.h"
+#include "desktop/grid_widget.h"
+#include "desktop/layout_helpers.h"
+#include "desktop/views.h"
+#include "desktop/widgets.h"
+#include "screens/results/results_screen.h"
+#include "screens/results/team_results_screen.h"
+
+namespace golf {
+namespace {
+
+constexpr int kStandingsSeen = 8;  // rows
+constexpr int kCardSeen = 9;
+constexpr int kPlayerCardSeen = 5;
+constexpr int kStatisticsSeen = 2;
+constexpr int kCharacters = 140;
+constexpr int kListCharacters = 26;
+constexpr int kTournamentCharacters = 16;
+constexpr int kFindCharacters = 16;
+constexpr int kStatisticsCharacters = 80;
+
+// Lays out choices in a row. Each follows its label.
+class ChoiceRow {
+ public:
+  explicit ChoiceRow(ScreenPanel& panel)
+      : panel_(panel), binding_(panel.binding()), row_(new wxBoxSizer(wxHORIZONTAL)) {}
+
+  void Add(Label& label, ComboBox& list, int characters = 0) {
+    AddWidget(MakeFieldLabel(binding_, &panel_, label), GroupGap(panel_));
+    AddList(list, characters);
+  }
+  void AddList(ComboBox& list, int characters = 0) {
+    wxChoice* choice = MakeChoice(binding_, &panel_, list);
+    if (characters > 0) SetColumns(*choice, characters);
+    AddWidget(choice, CloseGap(panel_));
+  }
+  void Add(Label& label, TextBox& text, int characters) {
+    AddWidget(MakeFieldLabel(binding_, &panel_, label), GroupGap(panel_));
+    wxTextCtrl* entry = MakeTextBox(binding_, &panel_, text);
+    SetColumns(*entry, characters);
+    AddWidget(entry, CloseGap(panel_));
+  }
+  void AddWidget(wxWindow* widget, int gap) {
+    row_->Add(widget, wxSizerFlags().CentreVertical().Border(wxLEFT, row_->IsEmpty() ? 0 : gap));
+  }
+  // Returns the row, which becomes a column on a narrow display.
+  wxSizer* Folding() {
+    panel_.folding_rows().push_back(row_);
+    return row_;
+  }
+
+ private:
+  ScreenPanel& panel_;
+  Binding& binding_;
+  wxBoxSizer* row_;
+};
+
+wxSizer* TeamChoices(ScreenPanel& panel, TeamResults& screen) {
+  Binding& binding = panel.binding();
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  const auto middle = wxSizerFlags().CentreVertical().Border(wxLEFT, GroupGap(panel));
+  wxStaticText* tournament = MakeLabel(binding, &panel, screen.TournamentLabel);
+  MakeBold(*tournament);
+  SetColumns(*tournament, kTournamentCharacters);
+  row->Add(tournament, wxSizerFlags(1).CentreVertical());
+  row->Add(MakeLabel(binding, &panel, screen.teams.LayoutLabel), middle);
+  wxChoice* layouts = MakeChoice(binding, &panel, screen.teams.LayoutList);
+  SetColumns(*layouts, kListCharacters);
+  row->Add(layouts, middle);
+  row->Add(MakeLabel(binding, &panel, screen.RoundLabel), middle);
+  row->Add(MakeChoice(binding, &panel, screen.RoundList), middle);
+  return row;
+}
+
+wxGrid* MakeTable(ScreenPanel& panel, Grid& control, GridMarks marks, int rows_seen,
+                  int characters = kCharacters) {
+  wxGrid* grid = MakeGrid(panel.binding(), &panel, control, marks, rows_seen);
+  SetRoom(panel, *grid, characters, rows_seen);
+  return grid;
+}
+
+wxSizerFlags Below(const ScreenPanel& panel) {
+  return wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
+}
+
+// Adds the standings and the card below them.
+void AddTables(wxSizer& content, ScreenPanel& panel, StandingsTables& tables, int card_seen) {
+  Binding& binding = panel.binding();
+  content.Add(MakeTable(panel, tables.grid1, GridMarks::kRows, kStandingsSeen),
+              wxSizerFlags(Below(panel)).Proportion(1));
+  content.Add(MakeLabel(binding, &panel, tables.SortedLabel), Below(panel));
+  content.Add(MakeLabel(binding, &panel, tables.CardLabel), Below(panel));
+  content.Add(MakeTable(panel, tables.grid2, GridMarks::kCells, card_seen),
+              wxSizerFlags(Below(panel)).Proportion(1));
+}
+
+wxStaticText* MakeMessage(ScreenPanel& panel, Label& control) {
+  wxStaticText* message =
+      MakeWrappedLabel(panel.binding(), &panel, control, LineWidth(panel, kCharacters));
+  message->SetForegroundColour(WarningColour(panel.GetBackgroundColour()));
+  return message;
+}
+
+wxSizer* ResultsChoices(ScreenPanel& panel, Results& screen) {
+  ChoiceRow row(panel);
+  row.Add(screen.TournamentLabel, screen.TournamentList, kListCharacters);
+  row.Add(screen.RoundLabel, screen.RoundList);
+  row.Add(screen.TiebreakLabel, screen.TiebreakList);
+  row.AddWidget(MakeButton(panel.binding(), &panel, screen.ReadButton), GroupGap(panel));
+  return row.Folding();
+}
+
+// The choices of the other pages are hidden.
+wxSizer* PageChoices(ScreenPanel& panel, Results& screen) {
+  PlayerStandings& players = screen.players;
+  ChoiceRow row(panel);
+  row.Add(players.MeasureLabel, players.MeasureList);
+  row.AddList(players.SpanList);
+  row.Add(players.FlightLabel, players.FlightList);
+  row.Add(players.SexLabel, players.SexList);
+  row.Add(players.SearchLabel, players.SearchText, kFindCharacters);
+  row.Add(screen.teams.LayoutLabel, screen.teams.LayoutList, kListCharacters);
+  return row.Folding();
+}
+
+wxSizer* Statistics(ScreenPanel& panel, PlayerStandings& players) {
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(
+      MakeTable(panel, players.grid3, GridMarks::kCells, kStatisticsSeen, kStatisticsCharacters));
+  row->Add(MakeLabel(panel.binding(), &panel, players.StatisticsLabel),
+           wxSizerFlags(1).Border(wxLEFT, GroupGap(panel)));
+  panel.folding_rows().push_back(row);
+  return row;
+}
+
+}  // namespace
+
+void FillTeamResults(ScreenPanel& panel, TeamResults& screen) {
+  Binding& binding = panel.binding();
+  const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(TeamChoices(panel, screen), wxSizerFlags().Expand());
+  AddTables(*content, panel, screen.tables, kCardSeen);
+  AddToFoot(panel,
+            ButtonRow({.cancel = button(screen.ExitButton),
+                       .aside = {button(screen.tables.SortButton), button(screen.tables.CopyButton),
+                                 button(screen.tables.SaveButton)}}));
+  FinishWindow(panel, content);
+}
+
+void FillResults(ScreenPanel& panel, Results& screen) {
+  Binding& binding = panel.binding();
+  const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
+  auto* content = new wxBoxSizer(wxVERTICAL);
+  content->Add(ResultsChoices(panel, screen), wxSizerFlags().Expand());
+  content->Add(MakeMessage(panel, screen.MessageLabel), Below(panel));
+  // The pages share the tables, which are therefore below the tabs and not in the pages.
+  content->Add(MakeTab(binding, &panel, screen.TabMain), Below(panel));
+  content->Add(PageChoices(panel, screen), Below(panel));
+  AddTables(*content, panel, screen.tables, kPlayerCardSeen);
+  content->Add(Statistics(panel, screen.players), Below(panel));
+  AddToFoot(panel,
+            ButtonRow({.cancel = button(screen.ExitButton),
+                       .aside = {button(screen.WebPageButton), button(screen.PrintButton),
+                                 button(screen.tables.SortButton), button(screen.tables.CopyButton),
+                                 button(screen.tables.SaveButton)}}));
+  FinishWindow(panel, content);
+}
+
+}  // namespace golf
