@@ -17,7 +17,6 @@ constexpr int kCharacters = 140;
 constexpr int kListCharacters = 26;
 constexpr int kTournamentCharacters = 16;
 constexpr int kFindCharacters = 16;
-constexpr int kStatisticsCharacters = 80;
 
 // Lays out choices in a row. Each follows its label.
 class ChoiceRow {
@@ -26,23 +25,21 @@ class ChoiceRow {
       : panel_(panel), binding_(panel.binding()), row_(new wxBoxSizer(wxHORIZONTAL)) {}
 
   void Add(Label& label, ComboBox& list, int characters = 0) {
-    AddWidget(MakeFieldLabel(binding_, &panel_, label), GroupGap(panel_));
+    AddWidget(MakeFieldLabel(binding_, &panel_, label), CloseGap(panel_));
     AddList(list, characters);
   }
   void AddList(ComboBox& list, int characters = 0) {
     wxChoice* choice = MakeChoice(binding_, &panel_, list);
     if (characters > 0) SetColumns(*choice, characters);
-    AddWidget(choice, CloseGap(panel_));
+    AddWidget(choice, GroupGap(panel_));
   }
   void Add(Label& label, TextBox& text, int characters) {
-    AddWidget(MakeFieldLabel(binding_, &panel_, label), GroupGap(panel_));
+    AddWidget(MakeFieldLabel(binding_, &panel_, label), CloseGap(panel_));
     wxTextCtrl* entry = MakeTextBox(binding_, &panel_, text);
     SetColumns(*entry, characters);
-    AddWidget(entry, CloseGap(panel_));
+    AddWidget(entry, GroupGap(panel_));
   }
-  void AddWidget(wxWindow* widget, int gap) {
-    row_->Add(widget, wxSizerFlags().CentreVertical().Border(wxLEFT, row_->IsEmpty() ? 0 : gap));
-  }
+  void Add(Button& button) { AddWidget(MakeButton(binding_, &panel_, button), 0); }
   // Returns the row, which becomes a column on a narrow display.
   wxSizer* Folding() {
     panel_.folding_rows().push_back(row_);
@@ -50,6 +47,10 @@ class ChoiceRow {
   }
 
  private:
+  void AddWidget(wxWindow* widget, int gap_after) {
+    row_->Add(widget, wxSizerFlags().CentreVertical().Border(wxRIGHT, gap_after));
+  }
+
   ScreenPanel& panel_;
   Binding& binding_;
   wxBoxSizer* row_;
@@ -72,10 +73,9 @@ wxSizer* TeamChoices(ScreenPanel& panel, TeamResults& screen) {
   return row;
 }
 
-wxGrid* MakeTable(ScreenPanel& panel, Grid& control, GridMarks marks, int rows_seen,
-                  int characters = kCharacters) {
+wxGrid* MakeTable(ScreenPanel& panel, Grid& control, GridMarks marks, int rows_seen) {
   wxGrid* grid = MakeGrid(panel.binding(), &panel, control, marks, rows_seen);
-  SetRoom(panel, *grid, characters, rows_seen);
+  SetRoom(panel, *grid, kCharacters, rows_seen);
   return grid;
 }
 
@@ -87,11 +87,11 @@ wxSizerFlags Below(const ScreenPanel& panel) {
 void AddTables(wxSizer& content, ScreenPanel& panel, StandingsTables& tables, int card_seen) {
   Binding& binding = panel.binding();
   content.Add(MakeTable(panel, tables.grid1, GridMarks::kRows, kStandingsSeen),
-              wxSizerFlags(Below(panel)).Proportion(1));
+              wxSizerFlags(Below(panel)).Proportion(kStandingsSeen));
   content.Add(MakeLabel(binding, &panel, tables.SortedLabel), Below(panel));
   content.Add(MakeLabel(binding, &panel, tables.CardLabel), Below(panel));
   content.Add(MakeTable(panel, tables.grid2, GridMarks::kCells, card_seen),
-              wxSizerFlags(Below(panel)).Proportion(1));
+              wxSizerFlags(Below(panel)).Proportion(card_seen));
 }
 
 wxStaticText* MakeMessage(ScreenPanel& panel, Label& control) {
@@ -106,7 +106,7 @@ wxSizer* ResultsChoices(ScreenPanel& panel, Results& screen) {
   row.Add(screen.TournamentLabel, screen.TournamentList, kListCharacters);
   row.Add(screen.RoundLabel, screen.RoundList);
   row.Add(screen.TiebreakLabel, screen.TiebreakList);
-  row.AddWidget(MakeButton(panel.binding(), &panel, screen.ReadButton), GroupGap(panel));
+  row.Add(screen.ReadButton);
   return row.Folding();
 }
 
@@ -123,12 +123,12 @@ wxSizer* PageChoices(ScreenPanel& panel, Results& screen) {
   return row.Folding();
 }
 
+// Lays out the numbers of holes, and the other statistics beside them.
 wxSizer* Statistics(ScreenPanel& panel, PlayerStandings& players) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
-  row->Add(
-      MakeTable(panel, players.grid3, GridMarks::kCells, kStatisticsSeen, kStatisticsCharacters));
+  row->Add(MakeGrid(panel.binding(), &panel, players.grid3, GridMarks::kCells, kStatisticsSeen));
   row->Add(MakeLabel(panel.binding(), &panel, players.StatisticsLabel),
-           wxSizerFlags(1).Border(wxLEFT, GroupGap(panel)));
+           wxSizerFlags(1).CentreVertical().Border(wxLEFT, GroupGap(panel)));
   panel.folding_rows().push_back(row);
   return row;
 }

@@ -95,11 +95,11 @@ std::string LinesOf(const Screen& screen) {
 
 TEST(ScreensTest, ShowTheTextsAndMarksOfTheFile) {
   const std::pair<const char*, const char*> kOpened[] = {
-      {"TransferMenu", ""}, {"LoadRoster", ""},     {"LoadRoster", "OPENONLY"},
-      {"LoadRosters", ""},  {"CourseTable", "KV"},  {"TeamResults", ""},
-      {"TeamLayouts", ""},  {"KVCoursestoQB", ""},  {"KVtoQB", ""},
-      {"KVtoZD", ""},       {"QBtoKV", ""},         {"ZDtoKV", ""},
-      {"ZDtoQB", ""},       {"TransferHistory", ""}};
+      {"TransferMenu", ""}, {"LoadRoster", ""},    {"LoadRoster", "OPENONLY"},
+      {"LoadRosters", ""},  {"CourseTable", "KV"}, {"Results", ""},
+      {"TeamResults", ""},  {"TeamLayouts", ""},   {"KVCoursestoQB", ""},
+      {"KVtoQB", ""},       {"KVtoZD", ""},        {"QBtoKV", ""},
+      {"ZDtoKV", ""},       {"ZDtoQB", ""},        {"TransferHistory", ""}};
   const std::map<std::string, const char*> kPressed = {{"CourseTable", "EditCourseButton"},
                                                        {"CourseForm", "EditTeeButton"},
                                                        {"TeamResults", "SortButton"},

@@ -56,8 +56,8 @@ PlayerStandings::PlayerStandings(const ScreenContext& context, StandingsTables& 
     : grid3("grid3", kStatisticsColumns), context_(context), tables_(tables) {
   grid3.SetHidden(0, true);
   grid3.LockAllColumns();
-  constexpr const char* kHeadings[] = {"Holes", "Eagles or better", "Birdies",
-                                       "Pars",  "Bogeys",           "Double bogeys or worse"};
+  constexpr const char* kHeadings[] = {"Holes",  "Eagles\nor better",      "Birdies", "Pars",
+                                       "Bogeys", "Double bogeys\nor worse"};
   for (int column = 1; column <= grid3.columns(); ++column) {
     grid3.SetHeading(column, kHeadings[column - 1]);
     grid3.SetCentred(column, column > 1);
