@@ -171,6 +171,7 @@ std::string Results::Open(std::int32_t tournament, int round) {
 // Opens the shown tournament again if a failed reading has closed it.
 std::string Results::OpenShown() {
   if (is_open_) return {};
+  if (shown_.tournament == 0) return "There are no results to show.";
   std::string fault = Open(shown_.tournament, shown_.round);
   is_open_ = fault.empty();
   return fault;
