@@ -7,6 +7,7 @@ test_packages=(libgtest-dev librapidcheck-dev libgumbo-dev xvfb xauth)
 window_manager_packages=(openbox icewm x11-utils xdotool)
 fuzz_packages=(clang libclang-rt-14-dev)
 formats_packages=(nodejs npm)
+pages_packages=(nodejs npm chromium default-jre-headless)
 
 say() { printf '== %s\n' "$*"; }
 

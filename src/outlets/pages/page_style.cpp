@@ -20,7 +20,7 @@ small{display:block;opacity:.8}
 table{border-collapse:collapse;width:100%;font-variant-numeric:tabular-nums}
 caption,figcaption{font-weight:bold;text-align:left;padding:.4rem 0}
 th,td{padding:.2rem .3rem;text-align:right;vertical-align:top}
-th[scope=row]{text-align:left;font-weight:normal;overflow-wrap:break-word}
+th[scope=row]{text-align:left;font-weight:normal;overflow-wrap:anywhere}
 thead th{border-bottom:1px solid;vertical-align:bottom;font-size:.85rem}
 .standings th:nth-child(2){text-align:left;width:99%}
 #holes th:first-child{text-align:left}
@@ -30,10 +30,10 @@ thead th{border-bottom:1px solid;vertical-align:bottom;font-size:.85rem}
 .tables{grid-template-columns:repeat(auto-fit,minmax(min(100%,27rem),1fr))}
 .nines{grid-template-columns:repeat(auto-fit,minmax(min(100%,20rem),1fr))}
 .card{font-size:.8rem;table-layout:fixed}
-.card th,.card td{padding:.1rem}
+.card th,.card td{padding:.1rem .05rem}
 .card th:first-child{text-align:left;overflow-wrap:break-word;width:4rem}
 .card tr:first-child th{border-bottom:1px solid}
-.sum{width:2rem}
+.sum{width:2.4rem}
 .counts{font-weight:bold;text-decoration:underline}
 .wide{overflow-x:auto}
 details{border-bottom:1px solid #8888;padding:.3rem 0}
@@ -55,7 +55,6 @@ h2,h3,caption,summary{break-after:avoid}
 .tables>*{margin-bottom:1rem}
 thead{display:table-header-group}
 tr,figure,.nines,svg,.short{break-inside:avoid}
-tr:nth-child(-n+3){break-before:avoid}
 details svg{max-width:70mm}
 .wide{overflow:visible}
 .wide table{font-size:8pt}
@@ -86,7 +85,7 @@ std::string LayoutStyle(const ReportLayout& layout) {
   for (std::size_t i = 0; i < layout.fonts.size(); ++i) {
     style += std::string(kSelectors[i]) + "{" + FontStyle(layout.fonts[i]) + "}\n";
   }
-  style += ".card th:first-child{width:30%}\n";  // for the names of golfers
+  style += ".card th:first-child{width:24%}\n";  // for the names of golfers
   constexpr std::string_view kCells = ".standings th,.standings td";
   const auto add_lines = [&](int shown, std::string_view side) {
     if (shown != 0) style += std::string(kCells) + "{border-" + std::string(side) + ":1px solid}\n";
