@@ -323,6 +323,30 @@ TEST_F(ResultsTest, TheLastResultsStayIfTheFilesCannotBeRead) {
   });
 }
 
+TEST_F(ResultsTest, AHeldTournamentIsReadWhenItIsFree) {
+  const auto hold = [&](const char* file) {
+    install.platform->Fail({.error = ErrorNumber::kPermissionDenied,
+                            .only = Operation::kOpen,
+                            .name = file,
+                            .stays = true});
+  };
+  for (const auto& [file, title, message] :
+       {std::array{"QBMASTER.Q9D", "Autumn Medal, 09/14/24 (1)",
+                   "The active tournament is not known, because QBMASTER.Q9D cannot be read."},
+        std::array{"X0001.Q9C", "X0001.Q9C cannot be read (1)", "The results cannot be read. "}}) {
+    hold(file);
+    OpenResults([&, title = title, message = message](Results& results) {
+      EXPECT_EQ(results.TournamentList.text(), title);
+      EXPECT_TRUE(results.MessageLabel.caption().starts_with(message));
+      install.platform->Heal();
+      install.host->Press(results, "ReadButton");
+      EXPECT_EQ(results.MessageLabel.caption(), "");
+      EXPECT_EQ(results.TournamentList.text(), "Autumn Medal, 09/14/24 (1)");
+      CheckScores(results);
+    });
+  }
+}
+
 TEST_F(ResultsTest, ThePageIsSavedOrOpenedInTheBrowser) {
   namespace fs = std::filesystem;
   std::set<fs::path> before;

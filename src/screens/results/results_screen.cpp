@@ -68,7 +68,7 @@ Results::Results(const ScreenContext& context)
       if (!loading_) ReadChosen();
     };
   }
-  ReadButton.on_click = [this] { ReadChosen(); };
+  ReadButton.on_click = [this] { ReadAgain(); };
   TabMain.on_click = [this] { ShowPage(); };
   teams.LayoutList.on_click = [this] {
     if (!loading_) ChooseLayout();
@@ -85,7 +85,12 @@ void Results::OnActivate() {
 
 void Results::Begin() {
   unchanged_.emplace(state().files.gate());
-  if (!FillTournaments()) {
+  std::int32_t active = 0;
+  const std::string problem = ProblemOf([&] {
+    active = ActiveTournament(state());
+    return std::string();
+  });
+  if (!FillTournaments(active)) {
     host().Ask(NoActiveTournament());
     return host().Unload(*this);
   }
@@ -94,26 +99,41 @@ void Results::Begin() {
     teams.FillLayouts();
   }
   ReadChosen();
+  if (problem.empty()) return;
+  read_problem_ = "The active tournament is not known, because QBMASTER.Q9D cannot be read." +
+                  std::string(read_problem_.empty() ? "" : "\r") + read_problem_;
+  ShowMessage();
 }
 
-// Fills the list and selects the active tournament, or the first one if none is active. Returns
-// false if there are no tournaments.
-bool Results::FillTournaments() {
+// Fills the list and selects a tournament, or the first one if there is no tournament of this
+// number. Changes nothing and returns false if there are no tournaments.
+bool Results::FillTournaments(std::int32_t chosen) {
   const WhileSet loading(loading_);
-  for (const auto& [number, title] : TournamentTitles(state())) {
+  const std::vector<TournamentTitle> titles = TournamentTitles(state());
+  if (titles.empty()) return false;
+  tournaments_.clear();
+  TournamentList.Clear();
+  int index = 0;
+  for (const auto& [number, title] : titles) {
+    if (number == chosen) index = static_cast<int>(tournaments_.size());
     tournaments_.push_back(number);
     TournamentList.AddItem(title);
   }
-  if (tournaments_.empty()) return false;
-  std::int32_t active = 0;
-  page_problem_ = ProblemOf([&] {
-    active = ActiveTournament(state());
+  TournamentList.Select(index);
+  return true;
+}
+
+// Reads the list of the tournaments and the chosen round again.
+void Results::ReadAgain() {
+  ProblemOf([this] {  // ReadChosen reports the error if it remains
+    FillTournaments(ChosenTournament());
     return std::string();
   });
-  const auto found = std::ranges::find(tournaments_, active);
-  TournamentList.Select(
-      found == tournaments_.end() ? 0 : static_cast<int>(found - tournaments_.begin()));
-  return true;
+  ReadChosen();
+}
+
+std::int32_t Results::ChosenTournament() const {
+  return tournaments_[static_cast<std::size_t>(TournamentList.index())];
 }
 
 Tiebreak Results::ChosenTiebreak() const {
@@ -145,7 +165,7 @@ void Results::ReadChosen() {
 // Returns false if the results cannot be read. `problem` becomes a text about that, or about
 // players that are left out.
 bool Results::Read(std::string& problem) {
-  const std::int32_t tournament = tournaments_[static_cast<std::size_t>(TournamentList.index())];
+  const std::int32_t tournament = ChosenTournament();
   const bool is_other = tournament != shown_.tournament;
   problem = Open(tournament, is_other ? 0 : RoundList.index() + 1);
   if (!problem.empty() || !players.Read(ChosenTiebreak(), problem)) return false;

@@ -57,7 +57,9 @@ class Results : public Screen {
   };
 
   void Begin();
-  bool FillTournaments();
+  bool FillTournaments(std::int32_t chosen);
+  void ReadAgain();
+  std::int32_t ChosenTournament() const;
   Tiebreak ChosenTiebreak() const;
   void ReadChosen();
   bool Read(std::string& problem);
