@@ -9,6 +9,7 @@
 
 #include "cli/command_line_fixture.h"
 #include "core/record.h"
+#include "outlets/pages/results_page.h"
 #include "pages/html_page.h"
 #include "stores/quenby/quenby_layouts.h"
 
@@ -151,6 +152,10 @@ struct RandomTournament {
                                                static_cast<std::int16_t>(is_played ? score : 0));
         }
       }
+    });
+    Each<PlayerLayout>(folder, "i/qbdata/QBGOLFER.Q9D", [&](auto& golfer) {
+      constexpr std::uint8_t kSexes[] = {0, 1, 9};  // 9 counts as 0
+      golfer.template Set<"Sex">(kSexes[Below(3)]);
     });
     Each<TeamLayout>(folder, "i/qbdata/X0001.Q9T", [&](auto& team) {
       team.template Set<"Flight">({2}, std::string(1, static_cast<char>('A' + Below(2))));
@@ -322,13 +327,15 @@ Cells CsvCells(const std::string& line) {
 
 // The table, CSV and JSON have the places of the page.
 TEST_F(PageTest, PlacesOfTheOtherFormsAreThoseOfThePage) {
-  RandomTournament tournament(3);
+  RandomTournament tournament(8);
   tournament.Write(folder);
   const std::string words = "players --tournament 1 --round 2 --tiebreak handicap";
   const HtmlPage page = Page(words);
   std::map<std::string, std::string> places;  // by name
   const auto read = [&](const std::string& id) {
-    for (const Cells& row : page.Rows(page.Find(id))) places[id + row[1]] = row[0];
+    for (const Cells& row : page.Rows(page.Find(id))) {
+      places[id + row[1].substr(0, row[1].find("after "))] = row[0];  // such as "after 9 holes"
+    }
   };
   for (const char* const id : {"all-round-net", "all-total-gross", "men-round-quota",
                                "ladies-round-quota", "flight-A-round-points"}) {
@@ -580,22 +587,70 @@ TEST_F(PageTest, ACustomPageHasTheLayout) {
   }
 }
 
+TEST_F(PageTest, ATeamWithoutARoundHasNoPlaceInTheTotals) {
+  RandomTournament tournament(1);
+  tournament.Each<TournamentPlayerLayout>(folder, "i/qbdata/X0001.Q9G", [](auto& entry) {
+    for (int hole = 1; hole <= 18 && entry.template Get<"TourTeamOn">(2) == 1; ++hole) {
+      entry.template Set<"TourScoreGross">({hole, 2}, 0);
+    }
+  });
+  const std::string words = "custom --layout \"Two best nets\" --tournament 1 --round 2";
+  const Json team = JsonLines(In("--json results " + words).out).at(0);
+  EXPECT_EQ(team["TotalPlaces"]["all"]["scores"], nullptr);
+  const HtmlPage page = Page(words);
+  const Cells last = page.Rows(page.Find("all-total-gross")).back();
+  EXPECT_EQ(last[0], "");
+  EXPECT_TRUE(last[1].starts_with("Team #1"));
+  EXPECT_EQ(last.back(), team["Scores"][0][2].dump());
+}
+
+// A page that would be too large loses the cards of earlier rounds first, then all cards, and then
+// the flights.
+TEST(PageSizeTest, ALargePageLosesParts) {
+  ResultsPage page;
+  page.header = {"Cup"};
+  page.round = 2;
+  page.tables = {{Span::kRound, Measure::kGross, "Gross", {}}};
+  for (const char* const flight : {"A", "B"}) {
+    ResultEntry& entry = page.entries.emplace_back();
+    entry.flight = flight;
+    for (const int round : {1, 2}) {
+      const CardRow row = SummedCardRow("Gross", [](int) { return 4; });
+      entry.cards.push_back({round, {"Course of round " + std::to_string(round)}, {row}});
+    }
+  }
+  std::size_t size = 1'000'000;
+  for (int extent = 0; extent < 4; ++extent) {
+    const WrittenPage written = WriteResultsPage(page, size);
+    ASSERT_EQ(written.extent, static_cast<PageExtent>(extent));
+    EXPECT_LE(written.html.size(), size);
+    const auto has = [&](const char* text) { return written.html.find(text) != std::string::npos; };
+    EXPECT_EQ(has("Course of round 1"), extent < 1);
+    EXPECT_EQ(has("Course of round 2"), extent < 2);
+    EXPECT_EQ(has("Flight A"), extent < 3);
+    EXPECT_EQ(has("The page would be too large with "), extent > 0);
+    size = written.html.size() - 1;
+  }
+  EXPECT_EQ(WriteResultsPage(page, size).html, "");
+}
+
 TEST_F(PageTest, FilesThatAreNoPagesAreNotReplaced) {
   folder.Write("page.txt", "kept");
   folder.Write("page.HTM", "old");
+  folder.MakeFolder("f.html");
   const std::string words = "results players --tournament 1 --html ";
   const struct {
     const char* target;
     int code;
     const char* problem;
-  } kCases[] = {{"page.txt", 1, "is no file with the extension .html or .htm"},
-                {"i", 1, "is no file"},
+  } kCases[] = {{"page.txt", 1, "has no extension .html or .htm"},
+                {"f.html", 1, "is a folder, a link or a device"},
                 {"i/qbdata/p.html", 1, "which contains golf data"},
                 {"X0001.Q9G", 1, "has the name of golf data"},
                 {"none/p.html", 1, "There is no folder none."},
                 {"p.html --csv", 2, "--csv"},
                 {"page.HTM", 0, ""},
-                {"new", 0, ""}};
+                {"new.html", 0, ""}};
   for (const auto& [target, code, problem] : kCases) {
     const Ended ended = In(words + target);
     EXPECT_EQ(ended.code, code) << target << ended.problems;
