@@ -167,6 +167,7 @@ struct RandomTournament {
   int position_option = 1;
   int holes = 18;
   bool has_totals_only = false;
+  bool is_somebody_on_course = false;  // of the players or teams of a page
 };
 
 class PageTest : public CommandLineTest {
@@ -193,6 +194,16 @@ class PageTest : public CommandLineTest {
     return all;
   }
 };
+
+// Returns the number of holes of a player who has not finished the round, or an empty text.
+std::string HolesOnCourse(const Json& round, int holes) {
+  const Json scores = round.value("TourScoreGrossValue", Json::array());
+  int played = 0;
+  for (std::size_t i = 0; i < scores.size() && static_cast<int>(i) < holes; ++i) {
+    played += scores[i] > 0 ? 1 : 0;
+  }
+  return played > 0 && played < holes ? std::to_string(played) : "";
+}
 
 // Returns the cells that a table of a page should have, without the headings.
 std::vector<Cells> ExpectedRows(const Kind& kind, const MeasureKeys& measure, bool of_all_rounds,
@@ -229,6 +240,7 @@ std::vector<Cells> ExpectedRows(const Kind& kind, const MeasureKeys& measure, bo
       cells.push_back(has_any ? TextOf(shown[measure.total]) : "");
       continue;
     }
+    if (tournament.is_somebody_on_course) cells.push_back(HolesOnCourse(shown, tournament.holes));
     for (const char* const fact : measure.facts) {
       const Json& value = shown[fact];
       if (value.is_array()) {
@@ -286,8 +298,10 @@ TEST_F(PageTest, StandingsAreThoseOfTheJsonObjects) {
           Page(std::string(kind->what) + " --tournament 1 --round 2 --tiebreak " + option);
       const std::vector<Competitor> all = Competitors(*kind, 2);
       std::map<std::string, std::vector<const Competitor*>> groups;
+      tournament.is_somebody_on_course = false;
       for (const Competitor& competitor : all) {
         const Json& shown = competitor.shown();
+        tournament.is_somebody_on_course |= !HolesOnCourse(shown, tournament.holes).empty();
         const bool is_player = kind == &kPlayers;
         groups["all"].push_back(&competitor);
         groups["flight-" + TextOf(shown[is_player ? "TourFlight" : "Flight"])].push_back(
@@ -333,9 +347,7 @@ TEST_F(PageTest, PlacesOfTheOtherFormsAreThoseOfThePage) {
   const HtmlPage page = Page(words);
   std::map<std::string, std::string> places;  // by name
   const auto read = [&](const std::string& id) {
-    for (const Cells& row : page.Rows(page.Find(id))) {
-      places[id + row[1].substr(0, row[1].find("after "))] = row[0];  // such as "after 9 holes"
-    }
+    for (const Cells& row : page.Rows(page.Find(id))) places[id + row[1]] = row[0];
   };
   for (const char* const id : {"all-round-net", "all-total-gross", "men-round-quota",
                                "ladies-round-quota", "flight-A-round-points"}) {

@@ -13,14 +13,10 @@ constexpr std::size_t kMostRowsOfShort = 24;
 
 constexpr std::string_view kMeasureIds[] = {"gross", "net", "points", "quota"};
 
-// Returns what follows the name: the golfers of a team, or its number if it is named by them, or
-// how far a player has come.
+// Returns what follows the name of a team: its golfers, or its number if it is named by them.
 std::string SmallText(const ResultEntry& entry, const ResultsPage& page) {
-  if (page.of_teams) {
-    return entry.golfers == entry.name ? "Team " + std::to_string(entry.number) : entry.golfers;
-  }
-  const bool is_on_course = entry.holes_played > 0 && entry.holes_played < page.holes;
-  return is_on_course ? "after " + std::to_string(entry.holes_played) + " holes" : "";
+  if (!page.of_teams || entry.golfers != entry.name) return entry.golfers;
+  return "Team " + std::to_string(entry.number);
 }
 
 // Returns the second cell of each entry's rows. There are many rows, so the cells are made once.
@@ -34,7 +30,10 @@ std::vector<std::string> NameCells(const ResultsPage& page, PageExtent extent) {
     html.Text(NameOf(entry, page.of_teams));
     if (has_card) html.Close("a");
     const std::string small = SmallText(entry, page);
-    if (!small.empty()) html.Element("small", small);
+    if (!small.empty()) {
+      html.Text(" ");
+      html.Element("small", small);
+    }
     html.Close("th");
     cells.push_back(html.Take());
   }

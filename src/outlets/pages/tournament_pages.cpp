@@ -1,5 +1,6 @@
 #include "outlets/pages/tournament_pages.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/date_value.h"
@@ -111,11 +112,27 @@ class PageMaker {
     if (page_.round > 1) AddTotalTables();
   }
 
+  // Returns a text that is empty if the player has played all holes of the round, or none.
+  static std::function<std::string(const ResultEntry&)> HolesOnCourse(int holes) {
+    return [holes](const ResultEntry& entry) {
+      const bool is_on_course = entry.holes_played > 0 && entry.holes_played < holes;
+      return is_on_course ? std::to_string(entry.holes_played) : std::string();
+    };
+  }
+
+  bool IsSomebodyOnCourse() const {
+    return std::ranges::any_of(page_.entries, [&](const ResultEntry& entry) {
+      return !HolesOnCourse(page_.holes)(entry).empty();
+    });
+  }
+
   bool HasTotalsOnly() { return tournament_.ScoreEntryTotal() != 0; }
 
   void AddRoundTables() {
     const bool by_nines = !HasTotalsOnly() && page_.holes == 18;
+    const bool by_holes = IsSomebodyOnCourse();
     const auto add = [&](Measure measure, std::vector<PageColumn> columns, bool with_nines) {
+      if (by_holes) columns.insert(columns.begin(), {"Holes", HolesOnCourse(page_.holes)});
       if (with_nines && by_nines) {
         columns.push_back(PartColumn("Out", Span::kRound, measure, 0));
         columns.push_back(PartColumn("In", Span::kRound, measure, 1));
