@@ -435,8 +435,11 @@ void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chos
   CLI::Option* html = results
                           ->add_option("--html", args.results.html,
                                        "Write the results as one web page, for the web or the\n"
-                                       "printer. Replaces a file FILE.html")
-                          ->type_name("FILE")
+                                       "printer. Replaces the file if it exists")
+                          ->type_name("FILE.html")
+                          ->check([](const std::string& file) {
+                            return file.empty() ? std::string("it names no file") : std::string();
+                          })
                           ->excludes(csv);
   results
       ->add_flag("--watch", args.results.watch,

@@ -34,11 +34,20 @@ Json SumsAsJson(const CustomStanding::Sums& sums) {
   return blocks;
 }
 
-Json StandingAsJson(const CustomStanding& standing) {
-  return {{"TeamNumber", standing.TeamNumber},     {"TeamName", JsonText(standing.TeamName)},
-          {"Scores", SumsAsJson(standing.Scores)}, {"Points", SumsAsJson(standing.Points)},
-          {"Positions", standing.Positions},       {"PointsPositions", standing.PointsPositions},
-          {"Flight", JsonText(standing.Flight)}};
+Json StandingAsJson(const CustomStanding& standing, int round) {
+  return {{"TeamNumber", standing.TeamNumber},
+          {"TeamName", JsonText(standing.TeamName)},
+          {"Scores", SumsAsJson(standing.Scores)},
+          {"Points", SumsAsJson(standing.Points)},
+          {"Positions", standing.Positions},
+          {"PointsPositions", standing.PointsPositions},
+          {"round", round},
+          {"Flight", JsonText(standing.Flight)},
+          {"Tiebreaks",
+           {{"usga", standing.tiebreaks[0]},
+            {"handicap", standing.tiebreaks[1]},
+            {"18-to-1", standing.tiebreaks[3]},
+            {"1-to-18", standing.tiebreaks[2]}}}};
 }
 
 }  // namespace
@@ -78,7 +87,8 @@ void ShowCustom(ResultsRun& run) {
       {{Measure::kGross, "scores", true}, {Measure::kPoints, "points", true}}, run);
   if (run.form == ResultsForm::kJson) {
     for (const CustomStanding& standing : worked_out) {
-      Json& object = objects[standing.TeamNumber] = StandingAsJson(standing);
+      Json& object = objects[standing.TeamNumber] =
+          StandingAsJson(standing, run.state.Tournament().RoundOr({}));
       places.AddTo(standing.TeamNumber, object);
     }
     for (const auto& [team, object] : objects) WriteJsonLine(object);

@@ -8,18 +8,20 @@
 #include "core/code_page.h"
 #include "outlets/pages/page_file.h"
 #include "outlets/pages/tournament_pages.h"
+#include "scoring/tournament_class.h"
 #include "stores/course/course_library.h"
 
 namespace golf {
 namespace {
 
-constexpr std::string_view kCardsNames[] = {"all rounds", "shown round", "none"};
-
 // Makes the page of a request and writes it to its file.
 class PageRun {
  public:
   PageRun(const Options& options, const ResultsRequest& request)
-      : options_(options), request_(request) {}
+      : options_(options), request_(request), refreshes_(request.watch) {}
+
+  // The page that is written from now on does not refresh itself.
+  void StopRefreshing() { refreshes_ = false; }
 
   // Reads the tournament and writes the page. Returns the code for the faults of the entries. All
   // files are closed afterwards.
@@ -30,9 +32,9 @@ class PageRun {
     if (!refusal.empty()) throw Refusal(refusal);
     const ResultsPage page = Read();
     const WrittenPage written = WriteResultsPage(page);
-    if (written.html.empty()) throw Refusal(TooLargeRefusal());
+    if (written.html.empty()) throw Refusal(TooLargeRefusal(written));
     WritePageFile(target, written.html);
-    Report(page, written.cards);
+    Report(page, written.extent);
     NoteFaultCount(faults_.size());
     return faults_.empty() ? ExitCode::kDone : ExitCodeOfFaults(faults_);
   }
@@ -53,23 +55,30 @@ class PageRun {
     return MakeCustomPage(question, LayoutOf(state, request_));
   }
 
-  void Report(const ResultsPage& page, PageCards cards) const {
-    const std::string_view name = kCardsNames[static_cast<std::size_t>(cards)];
+  // A damaged file may have an active round that does not exist.
+  static void CheckRound(TournamentClass& tournament) {
+    const int round = tournament.RoundOr({});
+    const int rounds = tournament.RoundCount();
+    if (round >= 1 && round <= rounds) return;
+    throw Refusal("The active round of the tournament is " + std::to_string(round) +
+                  ", but it has " + std::to_string(rounds) + ". Choose a round with --round.");
+  }
+
+  void Report(const ResultsPage& page, PageExtent extent) const {
+    const std::string left_out(LeftOutOf(extent));
     if (options_.json) {
       return WriteJsonLine({{"event", "result"},
                             {"html", request_.html},
                             {"entries", page.entries.size()},
-                            {"cards", name}});
+                            {"leftOut", left_out}});
     }
     std::cout << "The page was written to " << request_.html << ".\n" << std::flush;
-    if (cards != PageCards::kAllRounds) {
-      NoteProblem("The page would be too large, so score cards are left out. It has those of: " +
-                  std::string(name) + ".");
-    }
+    if (!left_out.empty()) NoteProblem("The page would be too large with " + left_out + ".");
   }
 
   const Options& options_;
   const ResultsRequest& request_;
+  bool refreshes_;
   std::vector<NumberedError> faults_;
 };
 
@@ -77,7 +86,7 @@ class PageRun {
 class PageWatch {
  public:
   PageWatch(const Options& options, const ResultsRequest& request)
-      : run_(options, request), application_(StartApplication(options)) {
+      : run_(options, request), html_(request.html), application_(StartApplication(options)) {
     SharedState& state = application_->state();
     const std::string& folder = state.QBDataPath;
     for (const char* const extension : {".Q9C", ".Q9G", ".Q9T"}) {
@@ -92,18 +101,21 @@ class PageWatch {
     }
   }
 
-  // Returns after a signal.
+  // Returns after a signal. The last page does not refresh itself.
   void Run() {
     const auto stops = platform().WatchStops();
-    // The first page must not fail for a wrong name or number.
     std::vector<FileStamp> shown = Stamps();
     bool is_shown = Try(true);
     while (Wait(stops.get())) {
       std::vector<FileStamp> stamps = Stamps();
-      if (is_shown && stamps == shown) continue;
+      const bool is_deleted = NewTarget(html_).Existing() == NewTarget::Kind::kNothing;
+      if (is_shown && !is_deleted && stamps == shown) continue;
+      if (HasLost(shown, stamps)) continue;
       shown = std::move(stamps);
       is_shown = Try(false);
     }
+    run_.StopRefreshing();
+    if (!HasLost(shown, Stamps())) Try(false);
   }
 
  private:
@@ -113,6 +125,17 @@ class PageWatch {
     std::vector<FileStamp> stamps;
     for (const std::string& path : paths_) stamps.push_back(platform().StampOf(path));
     return stamps;
+  }
+
+  // Returns true, and reports it once, if a file is missing or empty that had content when the page
+  // was written. Its program may be about to write it again.
+  bool HasLost(const std::vector<FileStamp>& before, const std::vector<FileStamp>& now) {
+    for (std::size_t i = 0; i < paths_.size(); ++i) {
+      if (before[i].length <= 0 || now[i].length > 0) continue;
+      Note(paths_[i] + (now[i].length < 0 ? " is not there." : " is empty."));
+      return true;
+    }
+    return false;
   }
 
   // Writes the page. Keeps the old page and returns false if a file is missing or another program
@@ -148,6 +171,7 @@ class PageWatch {
   }
 
   PageRun run_;
+  std::string html_;                          // the file of the page
   std::unique_ptr<Application> application_;  // for its paths and its platform; opens no file
   std::vector<std::string> paths_;
   std::string problem_;  // that was reported last; empty after a page was written

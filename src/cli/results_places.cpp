@@ -33,8 +33,7 @@ ResultPlaces::ResultPlaces(std::vector<ResultEntry> entries, std::vector<PlacedM
       measures_(std::move(measures)),
       places_(PlacesOf(entries_, run.state.Tournament().PositionOption())),
       is_for_people_(run.form == ResultsForm::kTable),
-      tiebreak_(run.request.tiebreak),
-      round_(run.state.Tournament().RoundOr({})) {
+      tiebreak_(run.request.tiebreak) {
   for (std::size_t i = 0; i < entries_.size(); ++i) index_.emplace(entries_[i].number, i);
 }
 
@@ -84,9 +83,7 @@ void ResultPlaces::AddScoreColumns(std::vector<Column>& columns) const {
     if (measure.measure == Measure::kQuota) add_scores(Span::kRound, measure);
   }
   for (const PlacedMeasure& measure : measures_) {
-    if (measure.has_totals && (!is_for_people_ || round_ > 1)) {
-      add_scores(Span::kAllRounds, measure);
-    }
+    if (measure.has_totals && !is_for_people_) add_scores(Span::kAllRounds, measure);
     if (tiebreak_ == Tiebreak::kNone || !RanksLowestFirst(measure.measure)) continue;
     add(Heading("", measure.name + " tiebreak"), [of = measure.measure](const ResultEntry& entry) {
       return entry.scores[Span::kRound][of].ranked.tiebreak;
@@ -109,7 +106,7 @@ std::vector<ResultPlaces::Column> ResultPlaces::Columns() const {
   std::vector<Column> columns;
   AddScoreColumns(columns);
   for (const Span span : kSpans) {
-    if (is_for_people_ && span == Span::kAllRounds && round_ <= 1) continue;
+    if (is_for_people_ && span == Span::kAllRounds) continue;
     for (const Kind kind : kGroupKinds) {
       const bool is_shown = kind == Kind::kAll || (!is_for_people_ && HasColumn(kind));
       if (is_shown) AddPlaceColumns(span, kind, columns);

@@ -30,7 +30,8 @@ class ResultPlaces {
   // is no such entry.
   void AddTo(int number, Json& object) const;
   // Adds the flight, the sex, the scores that the table lacks, the keys of the tiebreak and the
-  // places as columns. A table for people has only the places among all entries.
+  // places as columns. A table for people has only the places of the round among all
+  // entries.
   void AddTo(StandingsTable& table) const;
 
  private:
@@ -50,7 +51,6 @@ class ResultPlaces {
   std::map<int, std::size_t> index_;  // by the number of the entry
   bool is_for_people_;
   Tiebreak tiebreak_;
-  int round_;
 };
 
 }  // namespace golf

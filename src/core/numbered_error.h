@@ -32,6 +32,9 @@ class NumberedError : public std::exception {
 
   int number() const { return static_cast<int>(number_); }
   bool Is(ErrorNumber number) const { return number_ == number; }
+  // Returns true if a file, its disk or its folder caused the error, rather than the content of a
+  // file.
+  bool IsOfFile() const;
   const std::string& source() const { return source_; }
   const std::string& description() const { return description_; }
   const char* what() const noexcept override { return description_.c_str(); }

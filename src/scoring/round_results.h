@@ -32,6 +32,10 @@ constexpr CoveredHoles HolesOf(int entry) {
   return {entry, entry};
 }
 
+// A score of a hole that was not finished is at least this. It counts as a score, and is shown as
+// "F".
+inline constexpr int kUnfinished = 99;
+
 constexpr int NineOf(int hole) { return hole > 9 ? kSecondNine : kFirstNine; }
 
 template <class T>

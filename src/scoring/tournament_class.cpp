@@ -5,7 +5,7 @@
 
 namespace golf {
 
-void TournamentClass::CalculateTotals() {
+void TournamentClass::CalculateTotals(const std::function<void(const NumberedError&)>& left_out) {
   played_.Fill(0);
   gross_ = {};
   net_ = {};
@@ -13,7 +13,13 @@ void TournamentClass::CalculateTotals() {
   const std::int32_t length = player.TourFileLength();
   for (std::int32_t record = 1; record <= length; ++record) {
     player.GetRecord(record, true);
-    if (player.TourPlayerExists()) CountPlayer();
+    if (!player.TourPlayerExists()) continue;
+    try {
+      CountPlayer();
+    } catch (const NumberedError& error) {
+      if (!left_out) throw;
+      left_out(error);
+    }
   }
   gross_.Finish(played_);
   net_.Finish(played_);

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
+#include "core/numbered_error.h"
 #include "scoring/score_statistics.h"
 #include "stores/quenby/tournament_control.h"
 
@@ -16,8 +18,9 @@ class TournamentClass : public TournamentControl {
   using TournamentControl::TournamentControl;
 
   // Calculates the statistics from every entry with a golfer in the open player file. Afterwards
-  // the player buffers contain the last record.
-  void CalculateTotals();
+  // the player buffers contain the last record. Raises the errors of PlayerClass. If `left_out` is
+  // given, calls it instead, and leaves out the player.
+  void CalculateTotals(const std::function<void(const NumberedError&)>& left_out = {});
 
   std::int32_t ScoreTotalGross(int row) const { return gross_.Total(row); }
   std::int32_t ScoreTotalNet(int row) const { return net_.Total(row); }

@@ -197,7 +197,9 @@ TEST_F(CommandLineTest, ResultsOfTeams) {
   ASSERT_EQ(custom.size(), 3u);
   EXPECT_EQ(custom[0], nlohmann::json::parse(R"({"TeamNumber":1,"TeamName":"Team #1",
       "Scores":[[64,66,130,130],[64,64,128,258]],"Points":[[60,56,116,116],[56,60,116,232]],
-      "Positions":[[1,1,1,1],[1,1,1,1]],"PointsPositions":[[1,1,1,1],[1,1,1,1]],"Flight":"A",
+      "Positions":[[1,1,1,1],[1,1,1,1]],"PointsPositions":[[1,1,1,1],[1,1,1,1]],"round":1,"Flight":"A",
+      "Tiebreaks":{"usga":"0130,066,043,22,08","handicap":"0130,06,06,07,07,08,08,08,08,08",
+      "18-to-1":"0130,08,06,08,07,06,08,08,08,07","1-to-18":"0130,07,08,08,08,06,07,08,06,08"},
       "Places":{"all":{"scores":1,"points":1},"flight":{"scores":1,"points":1}},
       "TotalPlaces":{"all":{"scores":1,"points":1},"flight":{"scores":1,"points":1}}})"));
 }

@@ -1,7 +1,8 @@
 // Uses arbitrary bytes as each kind of file. The first byte selects the kind, and the other bytes
 // are the file. All other files are those of a made-up club. The target shows the record, opens
-// every screen and presses its buttons, runs transfers, calculates all results, checks the install
-// and exports it. A NumberedError is a valid result. Any other exception ends the program.
+// every screen and presses its buttons, runs transfers, calculates all results, checks the install,
+// exports it and writes pages of results. A NumberedError is a valid result. Any other exception
+// ends the program.
 
 #include <cstdint>
 #include <cstdlib>
@@ -15,6 +16,7 @@
 #include "outlets/checkup/checkup.h"
 #include "outlets/export/export_install.h"
 #include "outlets/file_kinds.h"
+#include "outlets/pages/tournament_pages.h"
 #include "scoring/layouts/custom_standings.h"
 #include "scoring/open_tournament.h"
 #include "scoring/player/player_class.h"
@@ -151,6 +153,19 @@ void WalkOutlets(SharedState& state) {
   ExportInstall({state, sink, true, [](const Progress&) {}, [](const std::string&) {}});
 }
 
+void WalkPages(SharedState& state) {
+  OpenTournament(state, 1);
+  const ReportLayout layout;
+  const auto failed = [](const std::string&, const NumberedError&) {};
+  for (const Tiebreak tiebreak : {Tiebreak::kNone, Tiebreak::kUsga, Tiebreak::kHandicap}) {
+    const PageQuestion question{state, tiebreak, false, failed, [](const std::string&) {}};
+    for (const auto& make : {MakePlayersPage, MakeTeamsPage}) {
+      Try([&] { Need(WriteResultsPage(make(question)).html.ends_with("</html>\n")); });
+    }
+    Try([&] { Need(!WriteResultsPage(MakeCustomPage(question, layout)).html.empty()); });
+  }
+}
+
 constexpr const char* kFiles[] = {
     "kvdata/club18.kv5",   "kvdata/club18.kvg",   "kvdata/club18.kvs",   "kvsystem.fil",
     "qbdata/qbmaster.q9d", "qbdata/qbroster.q9d", "qbdata/qbgolfer.q9d", "qbdata/x0001.q9c",
@@ -169,7 +184,7 @@ MemoryPlatform MadeUpClub() {
 
 void Walk(std::string_view file, std::string_view bytes) {
   static const MemoryPlatform kClub = MadeUpClub();
-  for (void (*walk)(SharedState&) : {WalkStores, WalkScores, WalkOutlets, WalkScreens}) {
+  for (void (*walk)(SharedState&) : {WalkStores, WalkScores, WalkOutlets, WalkPages, WalkScreens}) {
     auto platform = std::make_unique<MemoryPlatform>(kClub.Copy());
     platform->Bytes(file) = bytes;
     Application application(std::move(platform));

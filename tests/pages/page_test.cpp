@@ -9,6 +9,7 @@
 
 #include "cli/command_line_fixture.h"
 #include "core/record.h"
+#include "outlets/pages/results_page.h"
 #include "pages/html_page.h"
 #include "stores/quenby/quenby_layouts.h"
 
@@ -152,6 +153,10 @@ struct RandomTournament {
         }
       }
     });
+    Each<PlayerLayout>(folder, "i/qbdata/QBGOLFER.Q9D", [&](auto& golfer) {
+      constexpr std::uint8_t kSexes[] = {0, 1, 9};  // 9 counts as 0
+      golfer.template Set<"Sex">(kSexes[Below(3)]);
+    });
     Each<TeamLayout>(folder, "i/qbdata/X0001.Q9T", [&](auto& team) {
       team.template Set<"Flight">({2}, std::string(1, static_cast<char>('A' + Below(2))));
     });
@@ -162,6 +167,7 @@ struct RandomTournament {
   int position_option = 1;
   int holes = 18;
   bool has_totals_only = false;
+  bool is_somebody_on_course = false;  // of the players or teams of a page
 };
 
 class PageTest : public CommandLineTest {
@@ -188,6 +194,16 @@ class PageTest : public CommandLineTest {
     return all;
   }
 };
+
+// Returns the number of holes of a player who has not finished the round, or an empty text.
+std::string HolesOnCourse(const Json& round, int holes) {
+  const Json scores = round.value("TourScoreGrossValue", Json::array());
+  int played = 0;
+  for (std::size_t i = 0; i < scores.size() && static_cast<int>(i) < holes; ++i) {
+    played += scores[i] > 0 ? 1 : 0;
+  }
+  return played > 0 && played < holes ? std::to_string(played) : "";
+}
 
 // Returns the cells that a table of a page should have, without the headings.
 std::vector<Cells> ExpectedRows(const Kind& kind, const MeasureKeys& measure, bool of_all_rounds,
@@ -224,6 +240,7 @@ std::vector<Cells> ExpectedRows(const Kind& kind, const MeasureKeys& measure, bo
       cells.push_back(has_any ? TextOf(shown[measure.total]) : "");
       continue;
     }
+    if (tournament.is_somebody_on_course) cells.push_back(HolesOnCourse(shown, tournament.holes));
     for (const char* const fact : measure.facts) {
       const Json& value = shown[fact];
       if (value.is_array()) {
@@ -281,8 +298,10 @@ TEST_F(PageTest, StandingsAreThoseOfTheJsonObjects) {
           Page(std::string(kind->what) + " --tournament 1 --round 2 --tiebreak " + option);
       const std::vector<Competitor> all = Competitors(*kind, 2);
       std::map<std::string, std::vector<const Competitor*>> groups;
+      tournament.is_somebody_on_course = false;
       for (const Competitor& competitor : all) {
         const Json& shown = competitor.shown();
+        tournament.is_somebody_on_course |= !HolesOnCourse(shown, tournament.holes).empty();
         const bool is_player = kind == &kPlayers;
         groups["all"].push_back(&competitor);
         groups["flight-" + TextOf(shown[is_player ? "TourFlight" : "Flight"])].push_back(
@@ -322,7 +341,7 @@ Cells CsvCells(const std::string& line) {
 
 // The table, CSV and JSON have the places of the page.
 TEST_F(PageTest, PlacesOfTheOtherFormsAreThoseOfThePage) {
-  RandomTournament tournament(3);
+  RandomTournament tournament(8);
   tournament.Write(folder);
   const std::string words = "players --tournament 1 --round 2 --tiebreak handicap";
   const HtmlPage page = Page(words);
@@ -580,22 +599,70 @@ TEST_F(PageTest, ACustomPageHasTheLayout) {
   }
 }
 
+TEST_F(PageTest, ATeamWithoutARoundHasNoPlaceInTheTotals) {
+  RandomTournament tournament(1);
+  tournament.Each<TournamentPlayerLayout>(folder, "i/qbdata/X0001.Q9G", [](auto& entry) {
+    for (int hole = 1; hole <= 18 && entry.template Get<"TourTeamOn">(2) == 1; ++hole) {
+      entry.template Set<"TourScoreGross">({hole, 2}, 0);
+    }
+  });
+  const std::string words = "custom --layout \"Two best nets\" --tournament 1 --round 2";
+  const Json team = JsonLines(In("--json results " + words).out).at(0);
+  EXPECT_EQ(team["TotalPlaces"]["all"]["scores"], nullptr);
+  const HtmlPage page = Page(words);
+  const Cells last = page.Rows(page.Find("all-total-gross")).back();
+  EXPECT_EQ(last[0], "");
+  EXPECT_TRUE(last[1].starts_with("Team #1"));
+  EXPECT_EQ(last.back(), team["Scores"][0][2].dump());
+}
+
+// A page that would be too large loses the cards of earlier rounds first, then all cards, and then
+// the flights.
+TEST(PageSizeTest, ALargePageLosesParts) {
+  ResultsPage page;
+  page.header = {"Cup"};
+  page.round = 2;
+  page.tables = {{Span::kRound, Measure::kGross, "Gross", {}}};
+  for (const char* const flight : {"A", "B"}) {
+    ResultEntry& entry = page.entries.emplace_back();
+    entry.flight = flight;
+    for (const int round : {1, 2}) {
+      const CardRow row = SummedCardRow("Gross", [](int) { return 4; });
+      entry.cards.push_back({round, {"Course of round " + std::to_string(round)}, {row}});
+    }
+  }
+  std::size_t size = 1'000'000;
+  for (int extent = 0; extent < 4; ++extent) {
+    const WrittenPage written = WriteResultsPage(page, size);
+    ASSERT_EQ(written.extent, static_cast<PageExtent>(extent));
+    EXPECT_LE(written.html.size(), size);
+    const auto has = [&](const char* text) { return written.html.find(text) != std::string::npos; };
+    EXPECT_EQ(has("Course of round 1"), extent < 1);
+    EXPECT_EQ(has("Course of round 2"), extent < 2);
+    EXPECT_EQ(has("Flight A"), extent < 3);
+    EXPECT_EQ(has("The page would be too large with "), extent > 0);
+    size = written.html.size() - 1;
+  }
+  EXPECT_EQ(WriteResultsPage(page, size).html, "");
+}
+
 TEST_F(PageTest, FilesThatAreNoPagesAreNotReplaced) {
   folder.Write("page.txt", "kept");
   folder.Write("page.HTM", "old");
+  folder.MakeFolder("f.html");
   const std::string words = "results players --tournament 1 --html ";
   const struct {
     const char* target;
     int code;
     const char* problem;
-  } kCases[] = {{"page.txt", 1, "is no file with the extension .html or .htm"},
-                {"i", 1, "is no file"},
+  } kCases[] = {{"page.txt", 1, "has no extension .html or .htm"},
+                {"f.html", 1, "is a folder, a link or a device"},
                 {"i/qbdata/p.html", 1, "which contains golf data"},
                 {"X0001.Q9G", 1, "has the name of golf data"},
                 {"none/p.html", 1, "There is no folder none."},
                 {"p.html --csv", 2, "--csv"},
                 {"page.HTM", 0, ""},
-                {"new", 0, ""}};
+                {"new.html", 0, ""}};
   for (const auto& [target, code, problem] : kCases) {
     const Ended ended = In(words + target);
     EXPECT_EQ(ended.code, code) << target << ended.problems;

@@ -19,13 +19,6 @@
 namespace golf {
 namespace {
 
-bool IsOfFile(const NumberedError& error) {
-  constexpr ErrorNumber kErrors[] = {ErrorNumber::kDeviceFault,  ErrorNumber::kDiskFull,
-                                     ErrorNumber::kTooManyFiles, ErrorNumber::kPermissionDenied,
-                                     ErrorNumber::kPathAccess,   ErrorNumber::kDiskNotReady};
-  return std::ranges::any_of(kErrors, [&](ErrorNumber number) { return error.Is(number); });
-}
-
 class TournamentResults {
  public:
   TournamentResults(ExportRun& run, const ExportedTournament& tournament,
@@ -55,7 +48,7 @@ class TournamentResults {
       work();
       return 0;
     } catch (const NumberedError& error) {
-      if (IsOfFile(error)) throw;
+      if (error.IsOfFile()) throw;
       run_.Note("Results of tournament " + std::to_string(tournament_.number) + what + ": " +
                 error.Report());
       faults_.push_back(error);

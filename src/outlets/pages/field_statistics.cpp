@@ -32,12 +32,12 @@ std::string RowHeading(int row) {
   }
 }
 
-// Returns the differences that occur, each with all those between it and par.
-std::vector<int> ShownDifferences(const TournamentClass& tournament) {
+// Returns the differences that occur in a row, and all those between them and par.
+std::vector<int> ShownDifferences(const TournamentClass& tournament, int row) {
   int least = 0;
   int most = 0;
   for (int d = -kMostDifference; d <= kMostDifference; ++d) {
-    if (tournament.ScorePBEStatsGross(d, kWholeRound) == 0) continue;
+    if (tournament.ScorePBEStatsGross(d, row) == 0) continue;
     least = std::min(least, d);
     most = std::max(most, d);
   }
@@ -57,17 +57,23 @@ bool HasScores(const TournamentClass& tournament, int row) {
 }  // namespace
 
 FieldStatistics ReadFieldStatistics(TournamentClass& tournament) {
-  tournament.CalculateTotals();
+  // The standings report the errors of the players.
+  tournament.CalculateTotals([](const NumberedError& error) {
+    if (error.IsOfFile()) throw;
+  });
+  const int holes = tournament.RoundType();
   FieldStatistics statistics;
   statistics.headings = {"Hole",         "Players",       "Average gross", "Average net",
                          "Lowest gross", "Highest gross", "Lowest net",    "Highest net"};
-  const std::vector<int> differences = ShownDifferences(tournament);
+  const std::vector<int> differences =
+      ShownDifferences(tournament, holes == kHoles ? kWholeRound : kFirstNine);
   for (const int d : differences) statistics.headings.push_back(DifferenceHeading(d));
   for (int row = 1; row <= kWholeRound; ++row) {
-    if (!HasScores(tournament, row)) continue;
+    const bool is_shown = row <= holes || (holes == kHoles ? row > kHoles : row == kFirstNine);
+    if (!is_shown || !HasScores(tournament, row)) continue;
     if (row <= kHoles) statistics.holes.push_back({row, tournament.AverageAgainstPar(row)});
     auto& cells = statistics.rows.emplace_back();
-    cells = {RowHeading(row),
+    cells = {holes < kHoles && row > kHoles ? "Total" : RowHeading(row),
              TextOf(tournament.ScorePlayersThatPlayed(row)),
              tournament.ScoreAverageGross(row),
              tournament.ScoreAverageNet(row),

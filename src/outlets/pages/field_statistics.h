@@ -20,7 +20,7 @@ struct FieldStatistics {
 };
 
 // Calculates the statistics of the active round. The result has no rows if nobody has a score on a
-// hole. Raises the errors of TournamentClass.
+// hole. Leaves out the players whose results cannot be calculated. Raises the errors of FileTable.
 FieldStatistics ReadFieldStatistics(TournamentClass& tournament);
 
 }  // namespace golf

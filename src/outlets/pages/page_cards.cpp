@@ -6,23 +6,25 @@
 namespace golf {
 namespace {
 
-bool IsShown(const RoundCard& card, const ResultsPage& page, PageCards cards) {
-  return cards == PageCards::kAllRounds ||
-         (cards == PageCards::kShownRound && card.round == page.round);
+bool IsShown(const RoundCard& card, const ResultsPage& page, PageExtent extent) {
+  return extent == PageExtent::kEverything ||
+         (extent == PageExtent::kCardsOfShownRound && card.round == page.round);
 }
 
 class CardWriter {
  public:
-  CardWriter(const ResultsPage& page, PageCards cards, HtmlWriter& html)
-      : page_(page), cards_(cards), html_(html) {}
+  CardWriter(const ResultsPage& page, PageExtent extent, HtmlWriter& html)
+      : page_(page), extent_(extent), html_(html) {}
 
   void Write(const ResultEntry& entry) {
     html_.Open("details");
-    html_.Element("summary", entry.name);
+    html_.Open("summary");
+    html_.Element("h3", NameOf(entry, page_.of_teams));
+    html_.Close("summary");
     html_.Open("div id=\"" + CardId(entry, page_.of_teams) + "\"");
     html_.EndLine();
     for (const RoundCard& card : entry.cards) {
-      if (IsShown(card, page_, cards_)) WriteRound(card);
+      if (IsShown(card, page_, extent_)) WriteRound(card);
     }
     WriteRounds(entry);
     html_.Close("div");
@@ -32,7 +34,7 @@ class CardWriter {
 
  private:
   void WriteRound(const RoundCard& card) {
-    html_.Element("h3", "Round " + std::to_string(card.round));
+    html_.Element("h4", "Round " + std::to_string(card.round));
     if (!card.facts.empty()) {
       std::string facts;
       for (const std::string& fact : card.facts) {
@@ -58,7 +60,8 @@ class CardWriter {
 
   // Writes nine holes, followed by sums.
   void WriteNine(const RoundCard& card, int first, const std::vector<Sum>& sums) {
-    html_.Open("table class=\"card\"");
+    html_.Open("table class=\"card\" aria-label=\"Holes " + std::to_string(first) + " to " +
+               std::to_string(first + 8) + "\"");
     html_.Open("tr");
     html_.Element("th", "Hole");
     for (int hole = first; hole < first + 9; ++hole) {
@@ -85,7 +88,8 @@ class CardWriter {
     std::vector<ChartLine> lines;
     std::string description;
     for (const auto& [measure, name] :
-         {std::pair(Measure::kGross, "Gross"), std::pair(Measure::kNet, "Net")}) {
+         {std::pair(Measure::kGross, page_.layout ? "Scores" : "Gross"),
+          std::pair(Measure::kNet, "Net")}) {
       const std::vector<std::string>& rounds = entry.scores[Span::kAllRounds][measure].parts;
       if (rounds.size() < 2) continue;
       ChartLine line{name, {}, rounds};
@@ -99,31 +103,32 @@ class CardWriter {
       lines.push_back(std::move(line));
     }
     if (lines.empty()) return;
-    html_.Raw(LineChart({"Scores of the rounds: " + entry.name, description}, labels, lines));
+    html_.Raw(LineChart({"Scores of the rounds: " + NameOf(entry, page_.of_teams), description},
+                        labels, lines));
   }
 
   const ResultsPage& page_;
-  PageCards cards_;
+  PageExtent extent_;
   HtmlWriter& html_;
 };
 
 }  // namespace
 
-bool HasCard(const ResultEntry& entry, const ResultsPage& page, PageCards cards) {
+bool HasCard(const ResultEntry& entry, const ResultsPage& page, PageExtent extent) {
   return std::ranges::any_of(entry.cards,
-                             [&](const RoundCard& card) { return IsShown(card, page, cards); });
+                             [&](const RoundCard& card) { return IsShown(card, page, extent); });
 }
 
 std::string CardId(const ResultEntry& entry, bool of_teams) {
   return (of_teams ? "team-" : "player-") + std::to_string(entry.number);
 }
 
-void WriteCards(const ResultsPage& page, PageCards cards, HtmlWriter& html) {
+void WriteCards(const ResultsPage& page, PageExtent extent, HtmlWriter& html) {
   html.Open("section id=\"cards\"");
   html.Element("h2", "Score cards");
-  CardWriter writer(page, cards, html);
+  CardWriter writer(page, extent, html);
   for (const ResultEntry& entry : page.entries) {
-    if (HasCard(entry, page, cards)) writer.Write(entry);
+    if (HasCard(entry, page, extent)) writer.Write(entry);
   }
   html.Close("section");
   html.EndLine();

@@ -9,15 +9,13 @@ namespace golf {
 std::string RefusalOfPage(const NewTarget& target) {
   std::string refusal = RefusalOfPlace(target, true);
   if (!refusal.empty()) return refusal;
-  const NewTarget::Kind existing = target.Existing();
   const std::string extension = LowerCase(target.extension());
-  const bool is_page = extension == ".html" || extension == ".htm";
-  if (existing == NewTarget::Kind::kNothing || (existing == NewTarget::Kind::kFile && is_page)) {
-    return {};
+  if (extension != ".html" && extension != ".htm") {
+    return target.path() + " has no extension .html or .htm. Choose such a name for the page.";
   }
-  return target.path() +
-         " exists and is no file with the extension .html or .htm, so the page does not replace "
-         "it.";
+  const NewTarget::Kind existing = target.Existing();
+  if (existing == NewTarget::Kind::kNothing || existing == NewTarget::Kind::kFile) return {};
+  return target.path() + " is a folder, a link or a device, so the page does not replace it.";
 }
 
 void WritePageFile(NewTarget& target, const std::string& html) {

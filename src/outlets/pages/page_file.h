@@ -7,8 +7,8 @@
 namespace golf {
 
 // Returns a sentence, in UTF-8, if a page must not be written to the target, for example because it
-// is in a folder of golf data. A file is replaced only if it has the extension of a web page.
-// Returns an empty text otherwise.
+// is in a folder of golf data or does not have the extension of a web page. Returns an empty text
+// otherwise.
 std::string RefusalOfPage(const NewTarget& target);
 
 // Writes a page to the target. An existing page stays complete until the new one replaces it.

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "core/text.h"
 #include "outlets/pages/page_sections.h"
 
 namespace golf {
@@ -12,18 +13,26 @@ constexpr std::size_t kMostRowsOfShort = 24;
 
 constexpr std::string_view kMeasureIds[] = {"gross", "net", "points", "quota"};
 
-// Contains the start of each row's second cell. It is written for many rows, so it is made once.
-std::vector<std::string> NameCells(const ResultsPage& page, PageCards cards) {
+// Returns what follows the name of a team: its golfers, or its number if it is named by them.
+std::string SmallText(const ResultEntry& entry, const ResultsPage& page) {
+  if (!page.of_teams || entry.golfers != entry.name) return entry.golfers;
+  return "Team " + std::to_string(entry.number);
+}
+
+// Returns the second cell of each entry's rows. There are many rows, so the cells are made once.
+std::vector<std::string> NameCells(const ResultsPage& page, PageExtent extent) {
   std::vector<std::string> cells;
   for (const ResultEntry& entry : page.entries) {
     HtmlWriter html;
     html.Open("th scope=\"row\"");
-    const bool has_card = HasCard(entry, page, cards);
+    const bool has_card = HasCard(entry, page, extent);
     if (has_card) html.Open("a href=\"#" + CardId(entry, page.of_teams) + "\"");
-    html.Text(entry.name);
+    html.Text(NameOf(entry, page.of_teams));
     if (has_card) html.Close("a");
-    if (!entry.golfers.empty() && entry.golfers != entry.name) {
-      html.Element("small", entry.golfers);
+    const std::string small = SmallText(entry, page);
+    if (!small.empty()) {
+      html.Text(" ");
+      html.Element("small", small);
     }
     html.Close("th");
     cells.push_back(html.Take());
@@ -33,12 +42,13 @@ std::vector<std::string> NameCells(const ResultsPage& page, PageCards cards) {
 
 class StandingsWriter {
  public:
-  StandingsWriter(const ResultsPage& page, PageCards cards, HtmlWriter& html)
-      : page_(page), html_(html), names_(NameCells(page, cards)) {}
+  StandingsWriter(const ResultsPage& page, PageExtent extent, HtmlWriter& html)
+      : page_(page), html_(html), names_(NameCells(page, extent)) {}
 
   void WriteGroup(const StandingsGroup& group) {
     const std::string id = GroupId(group);
-    html_.Open("section class=\"group\" id=\"" + id + "\"");
+    const std::string_view kind = group.kind == Kind::kSex ? "sex" : "group";
+    html_.Open("section class=\"" + std::string(kind) + "\" id=\"" + id + "\"");
     html_.Element("h2", GroupTitle(group, page_.of_teams));
     html_.Open("div class=\"tables\"");
     html_.EndLine();
@@ -52,9 +62,12 @@ class StandingsWriter {
   void WriteTable(const StandingsGroup& group, const std::string& id, const PageTable& table) {
     const std::string_view measure = kMeasureIds[static_cast<std::size_t>(table.measure)];
     const std::string_view span = table.span == Span::kRound ? "round" : "total";
+    html_.Open("div class=\"wide\"");
+    const bool has_many_rounds = table.span == Span::kAllRounds && table.columns.size() > 3;
+    const std::string_view rounds = has_many_rounds ? " rounds" : "";
     const std::string_view is_short = group.members.size() <= kMostRowsOfShort ? " short" : "";
-    html_.Open("table class=\"standings" + std::string(is_short) + "\" id=\"" + id + "-" +
-               std::string(span) + "-" + std::string(measure) + "\"");
+    html_.Open("table class=\"standings" + std::string(rounds) + std::string(is_short) +
+               "\" id=\"" + id + "-" + std::string(span) + "-" + std::string(measure) + "\"");
     html_.Element("caption", table.title);
     html_.Open("thead");
     html_.Open("tr");
@@ -73,6 +86,7 @@ class StandingsWriter {
     }
     html_.Close("tbody");
     html_.Close("table");
+    html_.Close("div");
     html_.EndLine();
   }
 
@@ -93,6 +107,12 @@ class StandingsWriter {
 };
 
 }  // namespace
+
+std::string NameOf(const ResultEntry& entry, bool of_teams) {
+  std::string name = WithoutPadding(entry.name);
+  if (!name.empty()) return name;
+  return (of_teams ? "Team " : "Entry ") + std::to_string(entry.number);
+}
 
 std::string GroupId(const StandingsGroup& group) {
   switch (group.kind) {
@@ -118,18 +138,18 @@ std::string GroupTitle(const StandingsGroup& group, bool of_teams) {
   return group.key == "M" ? "Men" : "Ladies";
 }
 
-std::vector<StandingsGroup> ShownGroups(const ResultsPage& page) {
+std::vector<StandingsGroup> ShownGroups(const ResultsPage& page, PageExtent extent) {
   std::vector<StandingsGroup> groups = GroupsOf(page.entries);
-  const auto has_all = [&](const StandingsGroup& group) {
-    return group.kind != Kind::kAll && group.members.size() == page.entries.size();
-  };
-  std::erase_if(groups, has_all);
+  std::erase_if(groups, [&](const StandingsGroup& group) {
+    return group.kind != Kind::kAll &&
+           (extent == PageExtent::kNoGroups || group.members.size() == page.entries.size());
+  });
   return groups;
 }
 
 void WriteStandings(const ResultsPage& page, const std::vector<StandingsGroup>& groups,
-                    PageCards cards, HtmlWriter& html) {
-  StandingsWriter writer(page, cards, html);
+                    PageExtent extent, HtmlWriter& html) {
+  StandingsWriter writer(page, extent, html);
   for (const StandingsGroup& group : groups) writer.WriteGroup(group);
 }
 

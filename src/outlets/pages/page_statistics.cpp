@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <map>
 
 #include "core/number_text.h"
 #include "outlets/pages/charts.h"
@@ -10,15 +9,30 @@ namespace golf {
 namespace {
 
 // Returns how many scores each column of a distribution covers, so that the columns fit.
-int ColumnWidth(double lowest, double highest) {
+double ColumnWidth(double lowest, double highest) {
   constexpr double kMostNarrowColumns = 14;  // columns of one score have short labels
   const double most_columns = highest < 100 ? 8 : 6;
   if (highest - lowest < kMostNarrowColumns) return 1;
-  for (int power = 1;; power *= 10) {
-    for (const int step : {2, 5, 10}) {
+  for (double power = 1;; power *= 10) {
+    for (const double step : {2, 5, 10}) {
       if ((highest - lowest) / (step * power) < most_columns) return step * power;
     }
   }
+}
+
+// Returns the columns of a distribution, without their heights. The scores of a column begin at its
+// label.
+std::vector<ChartBar> EmptyColumns(double lowest, double highest, double width) {
+  std::vector<ChartBar> columns;
+  const double first = std::floor(lowest / width) * width;
+  const double count = std::floor((highest - first) / width) + 1;
+  for (int i = 0; i < count; ++i) {
+    const double start = first + i * width;
+    std::string label = FormatNumber(start, "0");
+    if (width > 1) label += "\x96" + FormatNumber(start + width - 1, "0");
+    columns.push_back({std::move(label), 0, ""});
+  }
+  return columns;
 }
 
 // Draws how many entries have each score of the round.
@@ -30,29 +44,23 @@ void WriteDistribution(const ResultsPage& page, const PageTable& table, HtmlWrit
   }
   if (scores.empty()) return;
   const auto [lowest, highest] = std::minmax_element(scores.begin(), scores.end());
-  const int width = ColumnWidth(*lowest, *highest);
-  std::map<std::int64_t, int> counts;
-  const auto column_of = [&](double score) {
-    return static_cast<std::int64_t>(std::floor(std::floor(score) / width));
-  };
-  for (std::int64_t column = column_of(*lowest); column <= column_of(*highest); ++column) {
-    counts[column] = 0;
+  const double width = ColumnWidth(*lowest, *highest);
+  std::vector<ChartBar> bars = EmptyColumns(*lowest, *highest, width);
+  for (const double score : scores) {
+    const double column = std::floor(score / width) - std::floor(*lowest / width);
+    bars[std::min(static_cast<std::size_t>(column), bars.size() - 1)].value += 1;
   }
-  for (const double score : scores) ++counts[column_of(score)];
-  std::vector<ChartBar> bars;
   std::string description;
-  for (const auto& [column, count] : counts) {
-    const std::int64_t first = column * width;
-    std::string label = std::to_string(first);
-    if (width > 1) label += "\x96" + std::to_string(first + width - 1);
-    bars.push_back({label, static_cast<double>(count), std::to_string(count)});
-    if (count == 0) continue;
-    description += (description.empty() ? "" : ", ") + label + ": " + std::to_string(count);
+  for (ChartBar& bar : bars) {
+    if (bar.value == 0) continue;
+    bar.shown = FormatNumber(bar.value, "0");
+    description += (description.empty() ? "" : ", ") + bar.label + ": " + bar.shown;
   }
+  const std::string title =
+      table.title + ": number of " + (page.of_teams ? "teams" : "players") + " by score";
   html.Open("figure");
-  html.Element("figcaption",
-               table.title + ": number of " + (page.of_teams ? "teams" : "players") + " by score");
-  html.Raw(ColumnChart({table.title, description + "."}, bars));
+  html.Element("figcaption", title);
+  html.Raw(ColumnChart({title, description + "."}, bars));
   html.Close("figure");
   html.EndLine();
 }

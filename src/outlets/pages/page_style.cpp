@@ -13,7 +13,8 @@ body{font-family:system-ui,sans-serif;line-height:1.4;max-width:78rem;margin:0 a
 header p{margin:.2rem 0}
 h1{font-size:1.7rem;margin:1rem 0 .3rem}
 h2{font-size:1.35rem;margin:2rem 0 .5rem;border-bottom:2px solid}
-h3{font-size:1rem;margin:.8rem 0 .2rem}
+h3,h4{font-size:1rem;margin:.8rem 0 .2rem}
+summary h3{display:inline;font-weight:normal}
 nav ul{display:flex;flex-wrap:wrap;gap:.3rem 1.2rem;list-style:none;margin:1rem 0;padding:0}
 a{color:inherit}
 small{display:block;opacity:.8}
@@ -29,11 +30,11 @@ thead th{border-bottom:1px solid;vertical-align:bottom;font-size:.85rem}
 .tables,.nines{display:grid;gap:1rem 2.5rem;align-items:start}
 .tables{grid-template-columns:repeat(auto-fit,minmax(min(100%,27rem),1fr))}
 .nines{grid-template-columns:repeat(auto-fit,minmax(min(100%,20rem),1fr))}
-.card{font-size:.8rem;table-layout:fixed}
+.card{font-size:.75rem;table-layout:fixed}
 .card th,.card td{padding:.1rem .05rem}
-.card th:first-child{text-align:left;overflow-wrap:break-word;width:4rem}
+.card th:first-child{text-align:left;overflow-wrap:break-word;width:3.3rem}
 .card tr:first-child th{border-bottom:1px solid}
-.sum{width:2.4rem}
+.sum{width:2.8rem}
 .counts{font-weight:bold;text-decoration:underline}
 .wide{overflow-x:auto}
 details{border-bottom:1px solid #8888;padding:.3rem 0}
@@ -44,22 +45,27 @@ svg{width:100%;max-width:30rem;height:auto;font-size:11px;fill:currentColor}
 .solid,.dashed{stroke:currentColor;fill:none;stroke-width:1.5}
 .dashed{stroke-dasharray:5 4}
 footer{margin-top:2rem;font-size:.85rem}
+@media screen and (max-width:30rem){
+.rounds th:nth-child(n+3):not(:last-child),.rounds td:nth-child(n+3):not(:last-child){display:none}
+}
 @media print{
 :root{color-scheme:light}
 body{max-width:none;padding:0;font-size:10pt}
 nav{display:none}
 a{text-decoration:none}
-h2,h3,caption,summary{break-after:avoid}
-.group+.group,#statistics,#cards{break-before:page}
+h2,h3,h4,caption,summary{break-after:avoid}
+.group+.group,.sex,#statistics,#cards{break-before:page}
+.sex+.sex{break-before:auto}
 .tables{display:block;columns:2;column-gap:8mm}
 .tables>*{margin-bottom:1rem}
 thead{display:table-header-group}
 tr,figure,.nines,svg,.short{break-inside:avoid}
-details svg{max-width:70mm}
+details svg{max-width:70mm;break-before:avoid}
 .wide{overflow:visible}
-.wide table{font-size:8pt}
+#holes{font-size:8pt;break-inside:avoid}
 details::details-content{content-visibility:visible;display:block;height:auto;opacity:1}
-summary{font-weight:bold;list-style:none}
+summary{list-style:none}
+summary h3{font-weight:bold}
 }
 )";
 

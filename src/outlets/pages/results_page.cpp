@@ -1,13 +1,14 @@
 #include "outlets/pages/results_page.h"
 
 #include <string_view>
+#include <utility>
 
 #include "outlets/pages/page_sections.h"
 
 namespace golf {
 namespace {
 
-constexpr std::string_view kSecondsToRefresh = "20";
+constexpr std::string_view kSecondsToRefresh = "30";
 
 void WriteHead(const ResultsPage& page, HtmlWriter& html) {
   html.Raw(
@@ -43,28 +44,16 @@ void WriteContents(const std::vector<StandingsGroup>& groups, const ResultsPage&
   html.EndLine();
 }
 
-bool HasCards(const ResultsPage& page, PageCards cards) {
+bool HasCards(const ResultsPage& page, PageExtent extent) {
   for (const ResultEntry& entry : page.entries) {
-    if (HasCard(entry, page, cards)) return true;
+    if (HasCard(entry, page, extent)) return true;
   }
   return false;
 }
 
-std::string_view NoteOf(PageCards cards) {
-  switch (cards) {
-    case PageCards::kAllRounds:
-      break;
-    case PageCards::kShownRound:
-      return "The score cards of earlier rounds are left out, since the page would be too large.";
-    case PageCards::kNone:
-      return "The score cards are left out, since the page would be too large.";
-  }
-  return {};
-}
-
-std::string PageHtml(const ResultsPage& page, PageCards cards) {
-  const std::vector<StandingsGroup> groups = ShownGroups(page);
-  const bool has_cards = HasCards(page, cards);
+std::string PageHtml(const ResultsPage& page, PageExtent extent) {
+  const std::vector<StandingsGroup> groups = ShownGroups(page, extent);
+  const bool has_cards = HasCards(page, extent);
   HtmlWriter html;
   WriteHead(page, html);
   html.Open("body");
@@ -77,13 +66,19 @@ std::string PageHtml(const ResultsPage& page, PageCards cards) {
   WriteContents(groups, page, has_cards, html);
   html.Open("main");
   html.EndLine();
-  WriteStandings(page, groups, cards, html);
+  WriteStandings(page, groups, extent, html);
   WriteStatistics(page, html);
-  if (has_cards) WriteCards(page, cards, html);
+  if (has_cards) WriteCards(page, extent, html);
   html.Close("main");
   html.Open("footer");
   for (const std::string& note : page.notes) html.Element("p", note);
-  if (!NoteOf(cards).empty()) html.Element("p", NoteOf(cards));
+  if (extent != PageExtent::kEverything) {
+    html.Element("p", "The page would be too large with " + std::string(LeftOutOf(extent)) + ".");
+  }
+  if (page.refreshes) {
+    html.Element("p",
+                 "The page is loaded again every " + std::string(kSecondsToRefresh) + " seconds.");
+  }
   if (!page.footer.empty()) html.Element("p", page.footer);
   html.Close("footer");
   html.Raw("\n</body>\n</html>\n");
@@ -92,17 +87,32 @@ std::string PageHtml(const ResultsPage& page, PageCards cards) {
 
 }  // namespace
 
-WrittenPage WriteResultsPage(const ResultsPage& page, std::size_t most_bytes) {
-  for (const PageCards cards : {PageCards::kAllRounds, PageCards::kShownRound, PageCards::kNone}) {
-    std::string html = PageHtml(page, cards);
-    if (html.size() <= most_bytes) return {std::move(html), cards};
+std::string_view LeftOutOf(PageExtent extent) {
+  switch (extent) {
+    case PageExtent::kEverything:
+      break;
+    case PageExtent::kCardsOfShownRound:
+      return "the score cards of earlier rounds";
+    case PageExtent::kNoCards:
+      return "score cards";
+    case PageExtent::kNoGroups:
+      return "score cards, flights and sexes";
   }
-  return {{}, PageCards::kNone};
+  return {};
 }
 
-std::string TooLargeRefusal() {
-  return "The page would be larger than " + std::to_string(kMostPageBytes) +
-         " bytes, even without score cards.";
+WrittenPage WriteResultsPage(const ResultsPage& page, std::size_t most_bytes) {
+  for (const PageExtent extent : {PageExtent::kEverything, PageExtent::kCardsOfShownRound,
+                                  PageExtent::kNoCards, PageExtent::kNoGroups}) {
+    std::string html = PageHtml(page, extent);
+    if (html.size() <= most_bytes) return {std::move(html), extent};
+  }
+  return {{}, PageExtent::kNoGroups};
+}
+
+std::string TooLargeRefusal(const WrittenPage& written) {
+  return "The page would have more than " + std::to_string(kMostPageBytes) +
+         " bytes, even without " + std::string(LeftOutOf(written.extent)) + ".";
 }
 
 }  // namespace golf

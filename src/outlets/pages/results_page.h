@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "outlets/pages/field_statistics.h"
@@ -40,22 +41,25 @@ struct ResultsPage {
   bool refreshes = false;              // a browser loads the page again after some seconds
 };
 
-// Describes the cards of a page.
-enum class PageCards { kAllRounds, kShownRound, kNone };
+// Describes what a page contains. Each extent leaves out more than the one before it.
+enum class PageExtent { kEverything, kCardsOfShownRound, kNoCards, kNoGroups };
+// Returns what is left out, such as "the score cards". Returns an empty text for kEverything.
+std::string_view LeftOutOf(PageExtent extent);
 
 // A page has at most this many bytes.
 inline constexpr std::size_t kMostPageBytes = 20'000'000;
 
 struct WrittenPage {
-  std::string html;  // UTF-8; empty if the page is too large even without cards
-  PageCards cards = PageCards::kAllRounds;
+  std::string html;  // UTF-8; empty if the page is too large in any extent
+  PageExtent extent = PageExtent::kEverything;
 };
 
 // Returns the page as HTML 5. It needs no other file and contains no script. Leaves out cards of
-// earlier rounds, and then all cards, if the page would have more than `most_bytes` bytes.
+// earlier rounds, then all cards, and then the flights and sexes, if the page would have more than
+// `most_bytes` bytes.
 WrittenPage WriteResultsPage(const ResultsPage& page, std::size_t most_bytes = kMostPageBytes);
 
-// Returns a sentence for a page that is too large even without cards.
-std::string TooLargeRefusal();
+// Returns a sentence for a page that is too large in any extent.
+std::string TooLargeRefusal(const WrittenPage& written);
 
 }  // namespace golf

@@ -35,9 +35,6 @@ class PageMaker {
   ResultsPage Players() {
     page_.entries = ReadPlayers(Entries());
     AddUsualParts();
-    Note(
-        "Points are those of the net scores. A quota result is the points of the gross scores "
-        "above the quota.");
     return Finish();
   }
 
@@ -79,7 +76,8 @@ class PageMaker {
   }
 
   void NoteFailed(const std::string& who, const NumberedError& error) {
-    Note("The results cannot be calculated. " + who + ": " + error.Report());
+    if (error.IsOfFile()) throw;
+    Note("These results cannot be calculated: " + who + ".");
     question_.failed(who, error);
   }
 
@@ -93,9 +91,6 @@ class PageMaker {
     if (rounds_ > 1) round += " of " + std::to_string(rounds_);
     page_.header = {tournament_.Name(), round + (Day().empty() ? "" : ", " + Day()),
                     tournament_.CourseNamePlayed(page_.round)};
-    const DateValue now = question_.state.Now();
-    page_.footer = "Made with Golf Transfer on " + FormatDay(now, question_.state.DateFormat) +
-                   " at " + FormatPicture(CivilFromDate(now), "HH:mm") + ".";
     AddRoundTables();
     if (page_.round > 1) AddTotalTables();
   }
@@ -104,7 +99,9 @@ class PageMaker {
 
   void AddRoundTables() {
     const bool by_nines = !HasTotalsOnly() && page_.holes == 18;
+    const bool by_holes = IsSomebodyOnCourse(page_.entries, page_.holes);
     const auto add = [&](Measure measure, std::vector<EntryColumn> columns, bool with_nines) {
+      if (by_holes) columns.insert(columns.begin(), HolesColumn(page_.holes));
       if (with_nines && by_nines) {
         columns.push_back(PartColumn("Out", Span::kRound, measure, 0));
         columns.push_back(PartColumn("In", Span::kRound, measure, 1));
@@ -121,6 +118,9 @@ class PageMaker {
           "score cards.");
       return;
     }
+    Note(
+        "Points are those of the net scores. A quota result is the points of the gross scores "
+        "above the quota.");
     add(Measure::kPoints, {handicap}, true);
     add(Measure::kQuota, {FactColumn("Quota", &ResultEntry::quota)}, true);
   }
@@ -142,7 +142,16 @@ class PageMaker {
       if (is_points && (page_.of_teams || HasTotalsOnly())) continue;
       AddTotalTable(measure, page_.round, std::string(WordsOf(measure).title) + ", " + RoundText());
     }
+    NoteTotals();
+  }
+
+  void NoteTotals() {
     Note("Who did not play each round has no place in the standings of " + RoundText() + ".");
+    if (page_.layout) return;
+    if (tournament_.HandicapDecimalPlaces() > 0) Note("Totals of net scores are whole strokes.");
+    if (!page_.of_teams && !HasTotalsOnly() && tournament_.PointQuotaOption() != 3) {
+      Note("The quota results of earlier rounds are those of the handicap of this round.");
+    }
   }
 
   void AddCustomTables() {
@@ -157,11 +166,11 @@ class PageMaker {
            {PartColumn("Out", Span::kRound, measure, 0), PartColumn("In", Span::kRound, measure, 1),
             TotalColumn("Total", Span::kRound, measure)}});
     }
-    if (rounds_ == 1) return;
+    if (page_.round == 1) return;
     for (const auto& [measure, title] : kCustom) {
-      AddTotalTable(measure, rounds_,
-                    std::string(title) + ", rounds 1 to " + std::to_string(rounds_));
+      AddTotalTable(measure, page_.round, std::string(title) + ", " + RoundText());
     }
+    NoteTotals();
   }
 
   void AddLayoutHeader(const ReportLayout& layout) {
@@ -182,28 +191,43 @@ class PageMaker {
   }
 
   ResultsPage Finish() {
-    AddStatistics();
+    if (!HasTotalsOnly()) page_.statistics = ReadFieldStatistics(tournament_);
     Note(page_.position_option == 1
              ? "Equal scores share a place. The places are numbered 1, 2, 2, 3."
              : "Equal scores share a place. The places are numbered 1, 2, 2, 4.");
-    constexpr const char* kTiebreakNotes[] = {"", "the last 9, 6, 3 and 1 holes",
-                                              "the holes in the order of their handicap strokes",
-                                              "the holes from the last one to the first one",
-                                              "the holes from the first one to the last one"};
-    if (question_.tiebreak != Tiebreak::kNone) {
-      Note(std::string("Equal ") + (page_.layout ? "scores" : "gross and net scores") +
-           " are ordered by " + kTiebreakNotes[static_cast<std::size_t>(question_.tiebreak)] + ".");
-    }
+    if (question_.tiebreak != Tiebreak::kNone) NoteTiebreak();
+    if (HasUnfinishedHole()) Note("F is the score of a hole that was not finished.");
+    const DateValue now = question_.state.Now();
+    page_.footer = "Made with Golf Transfer on " + FormatDay(now, question_.state.DateFormat) +
+                   " at " + FormatPicture(CivilFromDate(now), "HH:mm") + ".";
     return std::move(page_);
   }
 
-  void AddStatistics() {
-    if (HasTotalsOnly()) return;
-    try {
-      page_.statistics = ReadFieldStatistics(tournament_);
-    } catch (const NumberedError& error) {
-      NoteFailed("Statistics", error);
+  void NoteTiebreak() {
+    constexpr const char* kComparisons[] = {"", "the last 9, 6, 3 and 1 holes",
+                                            "the holes in the order of their handicap strokes",
+                                            "the holes from the last one to the first one",
+                                            "the holes from the first one to the last one"};
+    const std::string scores = page_.layout ? "scores" : "gross and net scores";
+    const std::string holes = kComparisons[static_cast<std::size_t>(question_.tiebreak)];
+    Note("Equal " + scores + " are ordered by " + holes + ".");
+    if (page_.round > 1) {
+      Note("Equal totals of several rounds are ordered by the score of round " +
+           std::to_string(page_.round) + ", and then by these holes of that round.");
     }
+  }
+
+  bool HasUnfinishedHole() const {
+    for (const ResultEntry& entry : page_.entries) {
+      for (const RoundCard& card : entry.cards) {
+        for (const CardRow& row : card.rows) {
+          for (int hole = 1; hole <= kHoles; ++hole) {
+            if (row.cells[hole] == "F") return true;
+          }
+        }
+      }
+    }
+    return false;
   }
 
   const PageQuestion& question_;

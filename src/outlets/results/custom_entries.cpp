@@ -1,5 +1,6 @@
 #include "outlets/results/custom_entries.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -9,10 +10,6 @@ namespace golf {
 namespace {
 
 std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
-
-std::optional<double> ValueOf(const TeamBalls::Sum& sum) {
-  return sum ? std::optional<double>(*sum) : std::nullopt;
-}
 
 std::string KeyOf(const CustomStanding& standing, Tiebreak tiebreak) {
   switch (tiebreak) {
@@ -30,19 +27,26 @@ std::string KeyOf(const CustomStanding& standing, Tiebreak tiebreak) {
   return {};
 }
 
-// Adds the scores of a measure. `sums` contains the sums of each round.
-void AddScores(const CustomStanding::Sums& sums, int round, Measure measure, std::string key,
+// Adds the scores of a measure. `sums` contains the sums of each round. A team that did not play
+// each round up to the shown one has no place in the totals.
+void AddScores(const CustomStanding::Sums& sums, int round, Measure measure, const std::string& key,
                ResultEntry& entry) {
-  if (round >= 1 && round <= static_cast<int>(sums.size())) {
-    const auto& of_round = sums[static_cast<std::size_t>(round) - 1];
-    ShownScore& score = entry.scores[Span::kRound][measure];
-    score = {
-        {Shown(of_round[0]), Shown(of_round[1])}, Shown(of_round[2]), {ValueOf(of_round[2]), key}};
-  }
+  const auto last = static_cast<std::size_t>(round) - 1;
+  if (last >= sums.size()) return;
+  const auto& of_round = sums[last];
+  const auto ranked = [&](const TeamBalls::Sum& sum, bool has_place) {
+    return has_place && sum ? RankedScore{*sum, key} : RankedScore{};
+  };
+  entry.scores[Span::kRound][measure] = {
+      {Shown(of_round[0]), Shown(of_round[1])}, Shown(of_round[2]), ranked(of_round[2], true)};
   ShownScore& total = entry.scores[Span::kAllRounds][measure];
-  for (const auto& of_round : sums) total.parts.push_back(Shown(of_round[2]));
-  total.total = Shown(sums.back()[3]);
-  total.ranked = {ValueOf(sums.back()[3]), std::move(key)};
+  bool is_complete = true;
+  for (std::size_t i = 0; i <= last; ++i) {
+    total.parts.push_back(Shown(sums[i][2]));
+    is_complete = is_complete && sums[i][2];
+  }
+  total.total = Shown(of_round[3]);
+  total.ranked = ranked(of_round[3], is_complete);
 }
 
 // Reads the cards of a team from its tables.
@@ -83,7 +87,11 @@ class CardReader {
       }
     }
     if (!sums[kWholeRound]) return;
-    for (int hole = 1; hole <= kWholeRound; ++hole) row.cells[hole] = Shown(sums[hole]);
+    for (int hole = 1; hole <= kWholeRound; ++hole) {
+      const bool is_unfinished =
+          table == BallTable::kGross && hole <= kHoles && sums[hole].value_or(0) >= kUnfinished;
+      row.cells[hole] = is_unfinished ? "F" : Shown(sums[hole]);
+    }
     card.rows.push_back(std::move(row));
   }
 
@@ -100,7 +108,7 @@ class CardReader {
 std::vector<ResultEntry> CustomEntries(SharedState& state, const CustomStandings& tables,
                                        const std::vector<CustomStanding>& standings,
                                        Tiebreak tiebreak, bool with_cards) {
-  const int active = state.Tournament().RoundOr({});
+  const int round = state.Tournament().RoundOr({});
   std::vector<ResultEntry> entries;
   for (const CustomStanding& standing : standings) {
     ResultEntry& entry = entries.emplace_back();
@@ -109,12 +117,12 @@ std::vector<ResultEntry> CustomEntries(SharedState& state, const CustomStandings
     entry.golfers = standing.golfers;
     entry.flight = standing.Flight;
     const std::string key = KeyOf(standing, tiebreak);
-    AddScores(standing.Scores, active, Measure::kGross, key, entry);
-    AddScores(standing.Points, active, Measure::kPoints, {}, entry);
+    AddScores(standing.Scores, round, Measure::kGross, key, entry);
+    AddScores(standing.Points, round, Measure::kPoints, {}, entry);
     if (!with_cards) continue;
     const TeamBalls& balls = tables.balls().Team(static_cast<int>(entries.size()));
-    for (int round = 1; round <= static_cast<int>(standing.Scores.size()); ++round) {
-      RoundCard card = CardReader(balls, round).Read();
+    for (int of = 1; of <= std::min(round, static_cast<int>(standing.Scores.size())); ++of) {
+      RoundCard card = CardReader(balls, of).Read();
       if (!card.rows.empty()) entry.cards.push_back(std::move(card));
     }
   }

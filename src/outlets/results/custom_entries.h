@@ -11,7 +11,7 @@ namespace golf {
 // Converts the results of teams under a layout to entries. Their gross scores are the sums of the
 // counted balls, and their points are the sums of the points of these balls. The entries have no
 // other measures. The shown round is the active round of the open tournament, and the totals are
-// those of all its rounds. `standings` is the result of `WorkOut` of `tables`.
+// those of the rounds up to it. `standings` is the result of `WorkOut` of `tables`.
 std::vector<ResultEntry> CustomEntries(SharedState& state, const CustomStandings& tables,
                                        const std::vector<CustomStanding>& standings,
                                        Tiebreak tiebreak, bool with_cards);

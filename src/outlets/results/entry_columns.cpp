@@ -1,8 +1,16 @@
 #include "outlets/results/entry_columns.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace golf {
+namespace {
+
+bool IsOnCourse(const ResultEntry& entry, int holes) {
+  return entry.holes_played > 0 && entry.holes_played < holes;
+}
+
+}  // namespace
 
 EntryColumn FactColumn(std::string heading, std::string ResultEntry::*fact) {
   return {std::move(heading), [fact](const ResultEntry& entry) { return entry.*fact; }};
@@ -18,6 +26,17 @@ EntryColumn PartColumn(std::string heading, Span span, Measure measure, std::siz
 EntryColumn TotalColumn(std::string heading, Span span, Measure measure) {
   return {std::move(heading),
           [=](const ResultEntry& entry) { return entry.scores[span][measure].total; }};
+}
+
+EntryColumn HolesColumn(int holes) {
+  return {"Holes", [holes](const ResultEntry& entry) {
+            return IsOnCourse(entry, holes) ? std::to_string(entry.holes_played) : std::string();
+          }};
+}
+
+bool IsSomebodyOnCourse(const std::vector<ResultEntry>& entries, int holes) {
+  return std::ranges::any_of(
+      entries, [holes](const ResultEntry& entry) { return IsOnCourse(entry, holes); });
 }
 
 }  // namespace golf

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "outlets/results/result_entry.h"
 
@@ -18,5 +19,10 @@ struct EntryColumn {
 EntryColumn FactColumn(std::string heading, std::string ResultEntry::*fact);
 EntryColumn PartColumn(std::string heading, Span span, Measure measure, std::size_t part);
 EntryColumn TotalColumn(std::string heading, Span span, Measure measure);
+// Returns the column of the number of holes that a player has played. It is empty for a player who
+// has played all holes of the round, or none. `holes` is the number of holes of a round.
+EntryColumn HolesColumn(int holes);
+// Returns true if the column has a text for one of the entries.
+bool IsSomebodyOnCourse(const std::vector<ResultEntry>& entries, int holes);
 
 }  // namespace golf

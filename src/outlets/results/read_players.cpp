@@ -38,13 +38,14 @@ class PlayerReader : public ScoreReader {
     entry.number = record;
     entry.name = player_.NameLF();
     entry.flight = player_.TourFlight(round_);
-    entry.sex = player_.sex();
     entry.handicap = player_.TourHandicap(round_);
+    entry.sex = player_.sex();  // the calculation corrects it
     entry.quota = player_.TourQuota(UsesDecimals(), round_);
     entry.exact_net = ExactNet();
     if (question_.with_cards) entry.cards = Cards(1);
     ReadRound(round_, entry);
     ReadTotals(round_, entry);
+    entry.holes_played = HolesPlayed();
     return entry;
   }
 
@@ -107,8 +108,20 @@ class PlayerReader : public ScoreReader {
     return player_.TourTotalQuotaResults(1, round_);
   }
 
+  bool HasPlaces(Measure measure) override {
+    return RanksLowestFirst(measure) || tournament_.ScoreEntryTotal() == 0;
+  }
+
   std::string Key(Measure measure) override {
     return TiebreakKey(player_, kTiebreaks, question_.tiebreak, measure, round_);
+  }
+
+  int HolesPlayed() {
+    int played = 0;
+    for (int hole = 1; hole <= tournament_.RoundType(); ++hole) {
+      played += player_.TourScoreGrossValue(hole, round_) >= 1 ? 1 : 0;
+    }
+    return played;
   }
 
   std::optional<double> ExactNet() {

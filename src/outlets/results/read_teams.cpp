@@ -1,11 +1,11 @@
 #include <algorithm>
+#include <set>
 
 #include "core/number_text.h"
 #include "outlets/results/entry_reader.h"
 #include "outlets/results/result_values.h"
 #include "outlets/results/score_reader.h"
 #include "outlets/results/tournament_walk.h"
-#include "stores/course/course_class.h"
 
 namespace golf {
 namespace {
@@ -64,6 +64,10 @@ class TeamReader : public ScoreReader {
     return std::nullopt;
   }
 
+  bool HasPlaces(Measure measure) override {
+    return RanksLowestFirst(measure) || tournament_.ScoreEntryTotal() == 0;
+  }
+
   std::string Key(Measure measure) override {
     return TiebreakKey(team_, kTiebreaks, question_.tiebreak, measure, round_);
   }
@@ -119,19 +123,32 @@ class TeamReader : public ScoreReader {
                                 hole > kHoles && team_.ShowsDecimals());
   }
 
-  // Adds the pars of the tee that also defines the order of the holes in a tiebreak. Adds nothing
-  // if the round has no such tee.
+  // Adds the pars of the team's golfers, who may play from several tees. The round must be the
+  // active one. Two different pars of a hole are shown as in "3/4".
   void AddPars(int round, RoundCard& card) {
-    const int group = tournament_.TeeCount(0) < 1 ? 1 : 0;
-    const int tee = tournament_.TeeNumberPlayed(group, 1, round);
-    if (tee < 1) return;
-    CourseClass& course = question_.state.Course();
-    course.GetRecord(tournament_.CourseNumberPlayed(round));
-    const int holes = tournament_.RoundType();
-    const auto par = [&](int hole) {
-      return hole <= holes ? RoundToInt32(LeadingNumber(course.HolePar(tee, hole))) : 0;
-    };
-    card.rows.push_back(SummedCardRow("Par", par));
+    PlayerClass& player = question_.state.Player();
+    const int team = team_.TeamNumber();
+    const std::int32_t golfers = player.TourIndexNumberofPlayersInIndex();
+    ByHole<std::set<std::int32_t>> pars;
+    std::int32_t i = player.TourIndex1stPlayerOnTeam(team, round);
+    for (; i >= 1 && i <= golfers; ++i) {
+      player.GetRecord(player.TourIndexPlayerbyTeam(i, round), true);
+      if (player.TourTeamOn(round) != team) break;
+      ByHole<std::int32_t> of_golfer;
+      for (int hole = 1; hole <= kHoles; ++hole) {
+        for (const int entry : {hole, NineOf(hole), kWholeRound}) {
+          of_golfer[entry] += player.TourHolePar(hole, round);
+        }
+      }
+      for (int entry = 1; entry <= kWholeRound; ++entry) pars[entry].insert(of_golfer[entry]);
+    }
+    card.rows.push_back(CardRowOf("Par", [&](int hole) {
+      std::string text;
+      for (const std::int32_t par : pars[hole]) {
+        text += (text.empty() ? "" : "/") + std::to_string(par);
+      }
+      return text;
+    }));
   }
 
   const EntryQuestion& question_;

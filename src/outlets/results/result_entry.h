@@ -80,6 +80,7 @@ struct ResultEntry {
   std::string sex;                  // "M" or "F"; empty for a team
   std::string handicap;             // in the round
   std::string quota;                // in the round
+  int holes_played = 0;             // in the round; 0 for a team, and if there are only totals
   std::optional<double> exact_net;  // of the round, before it is rounded for its text
   BySpan<ByMeasure<ShownScore>> scores;
   std::vector<RoundCard> cards;  // of the played rounds, in ascending order

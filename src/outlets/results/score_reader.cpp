@@ -8,7 +8,7 @@ void ScoreReader::ReadRound(int round, ResultEntry& entry) {
     ShownScore& score = entry.scores[Span::kRound][measure];
     score.parts = {Score(measure, kFirstNine, round), Score(measure, kSecondNine, round)};
     score.total = Score(measure, kWholeRound, round);
-    score.ranked = {NumberOfScore(score.total), Key(measure)};
+    if (HasPlaces(measure)) score.ranked = {NumberOfScore(score.total), Key(measure)};
   }
 }
 
@@ -24,7 +24,7 @@ void ScoreReader::ReadTotals(int round, ResultEntry& entry) {
       score.parts.push_back(IsPlayed(of) ? Score(measure, kWholeRound, of) : "");
     }
     score.total = *total;
-    if (played < round) continue;
+    if (played < round || !HasPlaces(measure)) continue;
     score.ranked = {NumberOfScore(score.total), Key(measure)};
   }
 }

@@ -41,6 +41,8 @@ class ScoreReader {
   // Returns the total of the rounds 1 to the shown one. Returns no value if the measure has none.
   virtual std::optional<std::string> Total(Measure measure) = 0;
   virtual std::string Key(Measure measure) = 0;
+  // Returns false for points and quota results if the tournament has only totals of rounds.
+  virtual bool HasPlaces(Measure measure) = 0;
 
   // Adds the scores of the shown round to an entry, if it was played.
   void ReadRound(int round, ResultEntry& entry);

@@ -9,8 +9,6 @@
 namespace golf {
 namespace {
 
-constexpr int kFinished = 99;  // the score of a hole that was not finished
-
 // Formats a whole number as the pattern "0" does.
 std::string Shown(std::int32_t value) { return std::to_string(value); }
 
@@ -62,7 +60,7 @@ TextOrNumber PlayerClass::TourScoreGross(int hole, OptionalRound round) {
   const std::int32_t score = TourScoreGrossValue(hole, round);
   if (hole > kHoles) return Shown(score);
   if (state().TournamentRecord().ScoreEntryTotal() != 0) return 0;
-  return score >= kFinished ? "F" : FormatNumber(score, "#0; ; ");
+  return score >= kUnfinished ? "F" : FormatNumber(score, "#0; ; ");
 }
 
 std::string PlayerClass::TourScoreNet(int hole, OptionalRound round) {

@@ -88,6 +88,7 @@ bool PlayerStandings::Read(Tiebreak tiebreak, std::string& problem) {
                               tiebreak,
                               false,
                               [&](const std::string& who, const NumberedError& error) {
+                                if (error.IsOfFile()) throw;
                                 problems += "\r" + who + ": " + error.Report();
                               },
                               {}});
@@ -166,6 +167,7 @@ std::vector<PlayerStandings::Column> PlayerStandings::Columns() const {
           HasMeasure(measure) && (is_round || results_.round > 1));
     }
   }
+  add(HolesColumn(results_.holes), IsSomebodyOnCourse(results_.entries, results_.holes));
   for (int round = 1; round <= results_.rounds; ++round) {
     add(PartColumn("Rd " + std::to_string(round), Span::kAllRounds, chosen,
                    static_cast<std::size_t>(round) - 1),

@@ -20,7 +20,7 @@ class PlayerStandings {
   // Reads the results of the active round. `problem` becomes a text that lists the players that are
   // left out because of an error, or an empty text. Returns false and keeps the previous results if
   // no player can be calculated. It also keeps them if it raises an error. Raises the errors of the
-  // records' classes.
+  // records' classes, and those of files that a player needs.
   bool Read(Tiebreak tiebreak, std::string& problem);
   // Shows the standings in the order of their places. The row of the player who was chosen last
   // becomes active.

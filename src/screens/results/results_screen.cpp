@@ -293,8 +293,10 @@ std::string Results::PageHtml() {
     std::string text = OpenShown();
     if (text.empty() && TabMain.page() == kLayoutsPage) text = teams.TakeLayout();
     if (!text.empty()) return text;
-    html = WriteResultsPage(MakePage()).html;
-    return html.empty() ? TooLargeRefusal() : "";
+    WrittenPage written = WriteResultsPage(MakePage());
+    if (written.html.empty()) return TooLargeRefusal(written);
+    html = std::move(written.html);
+    return text;
   });
   if (!problem.empty()) {
     host().Ask(Box{.title = "Notice", .text = problem, .icon = BoxIcon::kStop});
