@@ -44,7 +44,8 @@ class PageRun {
     const auto application = StartApplication(options_);
     SharedState& state = application->state();
     OpenForResults(state, request_);
-    const PageQuestion question{state, request_.tiebreak, request_.watch,
+    CheckRound(state.Tournament());
+    const PageQuestion question{state, request_.tiebreak, refreshes_,
                                 [this](const std::string& who, const NumberedError& error) {
                                   NoteProblem(who + ": " + error.Report());
                                   faults_.push_back(error);
@@ -55,7 +56,7 @@ class PageRun {
     return MakeCustomPage(question, LayoutOf(state, request_));
   }
 
-  // A damaged file may have an active round that does not exist.
+  // Raises Refusal if the active round of the record does not exist, as in a damaged file.
   static void CheckRound(TournamentClass& tournament) {
     const int round = tournament.RoundOr({});
     const int rounds = tournament.RoundCount();

@@ -671,6 +671,12 @@ TEST_F(PageTest, FilesThatAreNoPagesAreNotReplaced) {
   EXPECT_EQ(folder.Read("page.txt"), "kept");
   EXPECT_TRUE(folder.Read("page.HTM").starts_with("<!DOCTYPE html>"));
   EXPECT_EQ(In("results players --tournament 1 --watch").code, 2);
+  RandomTournament tournament(1);
+  tournament.Each<TournamentLayout>(folder, "i/qbdata/X0001.Q9C",
+                                    [](auto& control) { control.template Set<"ActiveRound">(0); });
+  const Ended ended = In(words + "new.html");
+  EXPECT_EQ(ended.code, 1);
+  EXPECT_NE(ended.problems.find("Choose a round with --round."), std::string::npos);
 }
 
 }  // namespace

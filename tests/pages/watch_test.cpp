@@ -83,6 +83,7 @@ TEST_F(WatchTest, ThePageFollowsTheFilesUntilASignal) {
   }
   EXPECT_TRUE(PageShows("<h1>Spring Medal</h1>"));
   EXPECT_EQ(Stop(SIGTERM), 0);
+  EXPECT_EQ(folder.Read("p.html").find("http-equiv"), std::string::npos);
   Rename("Autumn");
   EXPECT_TRUE(AllFiles() == files);
 }
