@@ -26,8 +26,9 @@ inline ExitCode ExitCodeOf(const NumberedError& error) {
   return error.Is(ErrorNumber::kPermissionDenied) ? ExitCode::kHeld : ExitCode::kError;
 }
 
-// Returns the exit code of a run that continued after faults. There must be at least one.
+// Returns the exit code of a run that continued after these faults.
 inline ExitCode ExitCodeOfFaults(const std::vector<NumberedError>& faults) {
+  if (faults.empty()) return ExitCode::kDone;
   const bool held = std::any_of(faults.begin(), faults.end(), [](const NumberedError& fault) {
     return fault.Is(ErrorNumber::kPermissionDenied);
   });

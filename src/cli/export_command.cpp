@@ -68,7 +68,7 @@ ExitCode RunExport(const Options& options, const ExportArguments& request) {
   bar.Clear();
   WriteSummary(options, request, format, summary);
   NoteFaultCount(summary.faults.size());
-  return summary.faults.empty() ? ExitCode::kDone : ExitCodeOfFaults(summary.faults);
+  return ExitCodeOfFaults(summary.faults);
 }
 
 }  // namespace golf

@@ -6,6 +6,7 @@
 #include "cli/plain_text.h"
 #include "core/number_text.h"
 #include "core/text.h"
+#include "outlets/results/tournament_files.h"
 #include "scoring/player/player_class.h"
 #include "scoring/tournament_class.h"
 #include "stores/kelvane/kelvane_files.h"
@@ -100,12 +101,8 @@ void ListQuenbyRosters(SharedState& state, const ListRequest&, ListWriter& out) 
 }
 
 void ListTournaments(SharedState& state, const ListRequest&, ListWriter& out) {
-  state.StoreDataPath = state.QBDataPath;
   out.SetHeadings({"No.", "Tournament", "Date", "Rounds", "Players"});
-  for (const std::string& file : state.files.FilesLike(state.QBDataPath, "X*.Q9C")) {
-    const std::int32_t number = TournamentOfFile(file).value_or(0);
-    if (number > 0) AddTournament(state, number, out);
-  }
+  for (const std::int32_t number : TournamentNumbers(state)) AddTournament(state, number, out);
 }
 
 }  // namespace golf

@@ -8,8 +8,8 @@
 #include "core/code_page.h"
 #include "outlets/pages/page_file.h"
 #include "outlets/pages/tournament_pages.h"
+#include "outlets/results/tournament_files.h"
 #include "scoring/tournament_class.h"
-#include "stores/course/course_library.h"
 
 namespace golf {
 namespace {
@@ -36,7 +36,7 @@ class PageRun {
     WritePageFile(target, written.html);
     Report(page, written.extent);
     NoteFaultCount(faults_.size());
-    return faults_.empty() ? ExitCode::kDone : ExitCodeOfFaults(faults_);
+    return ExitCodeOfFaults(faults_);
   }
 
  private:
@@ -88,13 +88,10 @@ class PageWatch {
  public:
   PageWatch(const Options& options, const ResultsRequest& request)
       : run_(options, request), html_(request.html), application_(StartApplication(options)) {
-    SharedState& state = application_->state();
-    const std::string& folder = state.QBDataPath;
-    for (const char* const extension : {".Q9C", ".Q9G", ".Q9T"}) {
-      paths_.push_back(folder + TournamentFileName(request.tournament, extension));
+    const std::string& folder = application_->state().QBDataPath;
+    for (const TournamentFile& file : FilesOfTournament(request.tournament)) {
+      paths_.push_back(folder + file.name);
     }
-    paths_.push_back(folder + "QBGOLFER.Q9D");
-    paths_.push_back(CourseFilePath(state, kQuenbyCourses));
     if (request.layout.empty()) return;
     for (const char* const file : {"1", "2"}) {
       paths_.push_back(folder + TextFromUtf8(request.layout) + std::string(kLayoutExtension) +

@@ -8,8 +8,7 @@
 namespace golf {
 namespace {
 
-// A new object for each tournament is required, since an empty control file leaves the record
-// unchanged.
+// Reads the tournament with a new object, since an empty control file leaves the record unchanged.
 std::string TitleOf(SharedState& state, std::int32_t number) {
   const std::string numbered = " (" + std::to_string(number) + ")";
   TournamentControl tournament(state);
@@ -25,14 +24,7 @@ std::string TitleOf(SharedState& state, std::int32_t number) {
   return tournament.Name() + (date.empty() ? "" : ", " + date) + numbered;
 }
 
-// Describes a file in Quenby's folder. A tournament without teams may have no team file.
-struct NeededFile {
-  std::string name;
-  bool is_required = true;
-  bool needs_record = false;
-};
-
-std::string FaultOf(SharedState& state, const NeededFile& file) {
+std::string FaultOf(SharedState& state, const TournamentFile& file) {
   const std::int64_t length = state.files.platform().StampOf(state.QBDataPath + file.name).length;
   if (length < 0) return file.is_required ? file.name + " is missing." : "";
   const auto layout = LayoutOfFile(file.name);
@@ -43,23 +35,34 @@ std::string FaultOf(SharedState& state, const NeededFile& file) {
 
 }  // namespace
 
-std::vector<TournamentTitle> TournamentTitles(SharedState& state) {
+std::vector<std::int32_t> TournamentNumbers(SharedState& state) {
   state.StoreDataPath = state.QBDataPath;
-  std::vector<TournamentTitle> titles;
+  std::vector<std::int32_t> numbers;
   for (const std::string& file : state.files.FilesLike(state.QBDataPath, "X*.Q9C")) {
     const std::int32_t number = TournamentOfFile(file).value_or(0);
-    if (number > 0) titles.push_back({number, TitleOf(state, number)});
+    if (number > 0) numbers.push_back(number);
+  }
+  return numbers;
+}
+
+std::vector<TournamentTitle> TournamentTitles(SharedState& state) {
+  std::vector<TournamentTitle> titles;
+  for (const std::int32_t number : TournamentNumbers(state)) {
+    titles.push_back({number, TitleOf(state, number)});
   }
   return titles;
 }
 
+std::vector<TournamentFile> FilesOfTournament(std::int32_t tournament) {
+  return {{TournamentFileName(tournament, ".Q9C"), true, true},
+          {TournamentFileName(tournament, ".Q9G")},
+          {TournamentFileName(tournament, ".Q9T"), false},
+          {"QBGOLFER.Q9D"},
+          {CourseFileName(kQuenbyCourses.program)}};
+}
+
 std::string FaultOfTournamentFiles(SharedState& state, std::int32_t tournament) {
-  const NeededFile files[] = {{TournamentFileName(tournament, ".Q9C"), true, true},
-                              {TournamentFileName(tournament, ".Q9G")},
-                              {TournamentFileName(tournament, ".Q9T"), false},
-                              {"QBGOLFER.Q9D"},
-                              {CourseFileName(kQuenbyCourses.program)}};
-  for (const NeededFile& file : files) {
+  for (const TournamentFile& file : FilesOfTournament(tournament)) {
     std::string fault = FaultOf(state, file);
     if (!fault.empty()) return fault;
   }
