@@ -81,4 +81,14 @@ void HtmlWriter::Element(std::string_view tag, std::string_view text) {
   Close(tag.substr(0, tag.find(' ')));
 }
 
+void HtmlWriter::OpenTableBody(const std::vector<std::string>& headings) {
+  Open("thead");
+  Open("tr");
+  for (const std::string& heading : headings) Element("th scope=\"col\"", heading);
+  Close("tr");
+  Close("thead");
+  Open("tbody");
+  EndLine();
+}
+
 }  // namespace golf

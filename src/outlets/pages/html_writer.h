@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace golf {
 
@@ -22,6 +23,8 @@ class HtmlWriter {
   void Text(std::string_view text) { html_ += HtmlText(text); }
   // Writes an element that contains only text.
   void Element(std::string_view tag, std::string_view text);
+  // Writes the row of headings of a table and opens its body.
+  void OpenTableBody(const std::vector<std::string>& headings);
   // Writes HTML as it is.
   void Raw(std::string_view html) { html_ += html; }
   // Ends the line. Breaks between lines have no meaning where the writer is used.

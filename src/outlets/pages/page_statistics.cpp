@@ -90,15 +90,7 @@ void WriteHoleTable(const FieldStatistics& statistics, HtmlWriter& html) {
       "tabindex=\"0\"");
   html.Open("table id=\"holes\"");
   html.Element("caption", "Holes: scores of all players in this round");
-  html.Open("thead");
-  html.Open("tr");
-  for (const std::string& heading : statistics.headings) {
-    html.Element("th scope=\"col\"", heading);
-  }
-  html.Close("tr");
-  html.Close("thead");
-  html.Open("tbody");
-  html.EndLine();
+  html.OpenTableBody(statistics.headings);
   for (const auto& cells : statistics.rows) {
     html.Open("tr");
     html.Element("th scope=\"row\"", cells.front());

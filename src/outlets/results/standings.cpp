@@ -1,27 +1,12 @@
 #include "outlets/results/standings.h"
 
 #include <cmath>
-#include <set>
+#include <map>
 #include <utility>
 
 #include "core/number_text.h"
 
 namespace golf {
-namespace {
-
-using Kind = StandingsGroup::Kind;
-
-// Adds a group if it has members.
-void AddGroup(const std::vector<ResultEntry>& entries, Kind kind, std::string ResultEntry::*member,
-              const std::string& key, std::vector<StandingsGroup>& groups) {
-  StandingsGroup group{kind, key, {}};
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    if (entries[i].*member == key) group.members.push_back(i);
-  }
-  if (!group.members.empty()) groups.push_back(std::move(group));
-}
-
-}  // namespace
 
 std::optional<double> NumberOfScore(const std::string& shown) {
   const bool is_plus = shown.starts_with('+');
@@ -31,15 +16,17 @@ std::optional<double> NumberOfScore(const std::string& shown) {
 }
 
 std::vector<StandingsGroup> GroupsOf(const std::vector<ResultEntry>& entries) {
-  std::vector<StandingsGroup> groups(1);
-  for (std::size_t i = 0; i < entries.size(); ++i) groups.front().members.push_back(i);
-  std::set<std::string> flights;
-  for (const ResultEntry& entry : entries) flights.insert(entry.flight);
-  for (const std::string& flight : flights) {
-    AddGroup(entries, Kind::kFlight, &ResultEntry::flight, flight, groups);
+  using Kind = StandingsGroup::Kind;
+  std::vector<StandingsGroup> groups = {FilteredGroup(entries, "", "")};
+  std::map<std::string, std::vector<std::size_t>> flights;
+  std::map<std::string, std::vector<std::size_t>> sexes;
+  for (const std::size_t i : groups.front().members) {
+    flights[entries[i].flight].push_back(i);
+    sexes[entries[i].sex].push_back(i);
   }
+  for (const auto& [flight, members] : flights) groups.push_back({Kind::kFlight, flight, members});
   for (const char* const sex : {"M", "F"}) {
-    AddGroup(entries, Kind::kSex, &ResultEntry::sex, sex, groups);
+    if (sexes.contains(sex)) groups.push_back({Kind::kSex, sex, sexes[sex]});
   }
   return groups;
 }

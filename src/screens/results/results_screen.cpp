@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <type_traits>
 #include <utility>
 
 #include "core/code_page.h"
@@ -33,11 +34,14 @@ std::string FirstLines(const std::string& text) {
   return end == std::string::npos ? text : text.substr(0, end) + "\rand more";
 }
 
-// Does work that may return the text of a problem. Returns this text, or the error that it raises.
+// Calls `work`, which may return the text of a problem. Returns this text, the report of the error
+// that `work` raises, or an empty text.
 template <class Work>
 std::string ProblemOf(Work work) {
   try {
-    return work();
+    if constexpr (!std::is_void_v<decltype(work())>) return work();
+    work();
+    return {};
   } catch (const NumberedError& error) {
     return error.Report();
   }
@@ -86,10 +90,7 @@ void Results::OnActivate() {
 void Results::Begin() {
   unchanged_.emplace(state().files.gate());
   std::int32_t active = 0;
-  const std::string problem = ProblemOf([&] {
-    active = ActiveTournament(state());
-    return std::string();
-  });
+  const std::string problem = ProblemOf([&] { active = ActiveTournament(state()); });
   if (!FillTournaments(active)) {
     host().Ask(NoActiveTournament());
     return host().Unload(*this);
@@ -125,10 +126,8 @@ bool Results::FillTournaments(std::int32_t chosen) {
 
 // Reads the list of the tournaments and the chosen round again.
 void Results::ReadAgain() {
-  ProblemOf([this] {  // ReadChosen reports the error if it remains
-    FillTournaments(ChosenTournament());
-    return std::string();
-  });
+  // ReadChosen reports the error if it remains.
+  ProblemOf([this] { FillTournaments(ChosenTournament()); });
   ReadChosen();
 }
 
@@ -143,36 +142,29 @@ Tiebreak Results::ChosenTiebreak() const {
 // Reads the chosen round from the files. If it cannot be read, the tables keep their results.
 void Results::ReadChosen() {
   is_open_ = false;
-  std::string problem;
-  bool is_read = false;
-  const std::string error = ProblemOf([&] {
-    is_read = Read(problem);
-    return std::string();
-  });
-  if (!error.empty()) problem = error;
-  if (!is_read) {
-    problem = "The results cannot be read. " + problem;
+  read_problem_ = ProblemOf([this] { return Read(); });
+  if (!is_open_) {
+    read_problem_ = "The results cannot be read. " + read_problem_;
     if (shown_.tournament > 0) {
-      problem += "\rThe tables still show " + shown_.title + ", round " +
-                 std::to_string(shown_.round) + ", as it was read before.";
+      read_problem_ += "\rThe tables still show " + shown_.title + ", round " +
+                       std::to_string(shown_.round) + ", as it was read before.";
     }
   }
-  read_problem_ = problem;
-  if (is_read || shown_.tournament == 0) return ShowPage();
+  if (is_open_ || shown_.tournament == 0) return ShowPage();
   ShowMessage();
 }
 
-// Returns false if the results cannot be read. `problem` becomes a text about that, or about
-// players that are left out.
-bool Results::Read(std::string& problem) {
+// Returns a text about a damaged file or about players that are left out, or an empty text. Opens
+// the tournament if the results can be read.
+std::string Results::Read() {
   const std::int32_t tournament = ChosenTournament();
   const bool is_other = tournament != shown_.tournament;
-  problem = Open(tournament, is_other ? 0 : RoundList.index() + 1);
-  if (!problem.empty() || !players.Read(ChosenTiebreak(), problem)) return false;
+  std::string problem = Open(tournament, is_other ? 0 : RoundList.index() + 1);
+  if (!problem.empty() || !players.Read(ChosenTiebreak(), problem)) return problem;
   shown_ = {tournament, state().Tournament().RoundOr({}), TournamentList.text()};
-  is_open_ = true;
   FillRounds();
-  return true;
+  is_open_ = true;
+  return problem;
 }
 
 // Opens a tournament and makes a round active. If the round is 0, it is the active round of the
@@ -318,7 +310,6 @@ void Results::PrintPage() {
   const std::string problem = ProblemOf([&] {
     path = WriteTemporaryPage(html);
     host().OpenInBrowser(path);
-    return std::string();
   });
   if (problem.empty()) return;
   host().Ask(Box{.title = "Notice",

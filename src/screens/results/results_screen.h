@@ -62,7 +62,7 @@ class Results : public Screen {
   std::int32_t ChosenTournament() const;
   Tiebreak ChosenTiebreak() const;
   void ReadChosen();
-  bool Read(std::string& problem);
+  std::string Read();
   std::string Open(std::int32_t tournament, int round);
   std::string OpenShown();
   void FillRounds();

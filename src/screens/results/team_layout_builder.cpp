@@ -9,6 +9,7 @@
 #include "core/text.h"
 #include "scoring/layouts/report_header.h"
 #include "screens/file_changes.h"
+#include "screens/results/no_tournament.h"
 #include "stores/quenby/program_class.h"
 
 namespace golf {
@@ -182,8 +183,7 @@ void XReportsCustomTeamResults::SetReportFileName(std::string name) {
 void XReportsCustomTeamResults::Begin() {
   sample_.SetSeed(host().Seed());
   if (state().Program().ActiveTournament() <= 0) {
-    host().Ask(Box{.title = "No active tournament",
-                   .text = "You must have an 'active' tournament to access this report"});
+    host().Ask(NoActiveTournament());
     return host().Unload(*this);
   }
   if (action_ == kNew) {
