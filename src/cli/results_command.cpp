@@ -58,16 +58,6 @@ void WriteStandings(ResultsForm form, const StandingsTable& table) {
   for (const auto& line : lines) std::cout << CsvLine(line) << '\n';
 }
 
-void ResultsRun::Try(const std::function<void()>& show, const std::function<std::string()>& what,
-                     const std::function<void(const NumberedError&)>& failed) {
-  try {
-    show();
-  } catch (const NumberedError& error) {
-    AddFault(what(), error);
-    failed(error);
-  }
-}
-
 void ResultsRun::AddFault(const std::string& who, const NumberedError& error) {
   NoteProblem(who + ": " + error.Report());
   faults.push_back(error);
@@ -99,7 +89,7 @@ ExitCode RunResults(const Options& options, const ResultsRequest& request) {
   ResultsRun run{state, request, form, {}};
   kind->show(run);
   NoteFaultCount(run.faults.size());
-  return run.faults.empty() ? ExitCode::kDone : ExitCodeOfFaults(run.faults);
+  return ExitCodeOfFaults(run.faults);
 }
 
 }  // namespace golf

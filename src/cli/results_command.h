@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -40,10 +39,6 @@ struct ResultsRun {
   EntryQuestion Entries();
   // Reports an error on standard error and adds it to the faults.
   void AddFault(const std::string& who, const NumberedError& error);
-  // Calls `show`. If that raises an error, reports it after the text that `what` returns, adds it
-  // to the faults and calls `failed`.
-  void Try(const std::function<void()>& show, const std::function<std::string()>& what,
-           const std::function<void(const NumberedError&)>& failed);
 };
 
 // These functions write the results of the active round of the open tournament: for each player,

@@ -35,6 +35,10 @@ Json SumsAsJson(const CustomStanding::Sums& sums) {
 }
 
 Json StandingAsJson(const CustomStanding& standing, int round) {
+  Json keys;
+  for (std::size_t i = 1; i < std::size(kTiebreakNames); ++i) {
+    keys[std::string(kTiebreakNames[i])] = KeyOf(standing, static_cast<Tiebreak>(i));
+  }
   return {{"TeamNumber", standing.TeamNumber},
           {"TeamName", JsonText(standing.TeamName)},
           {"Scores", SumsAsJson(standing.Scores)},
@@ -43,11 +47,7 @@ Json StandingAsJson(const CustomStanding& standing, int round) {
           {"PointsPositions", standing.PointsPositions},
           {"round", round},
           {"Flight", JsonText(standing.Flight)},
-          {"Tiebreaks",
-           {{"usga", standing.tiebreaks[0]},
-            {"handicap", standing.tiebreaks[1]},
-            {"18-to-1", standing.tiebreaks[3]},
-            {"1-to-18", standing.tiebreaks[2]}}}};
+          {"Tiebreaks", keys}};
 }
 
 }  // namespace
@@ -73,12 +73,10 @@ void ShowCustom(ResultsRun& run) {
   CustomStandings standings(run.state, layout);
   std::map<int, Json> objects;  // by team
   ForEachTeam(
-      run.state,
-      [&](int team) {
-        run.Try([&] { standings.AddTeam(); }, [team] { return "Team " + std::to_string(team); },
-                [&](const NumberedError& error) {
-                  objects[team] = {{"TeamNumber", team}, {"error", error.number()}};
-                });
+      run.state, [&](int) { standings.AddTeam(); },
+      [&](int team, const std::string& who, const NumberedError& error) {
+        run.AddFault(who, error);
+        objects[team] = {{"TeamNumber", team}, {"error", error.number()}};
       },
       NoteProblem);
   const std::vector<CustomStanding> worked_out = standings.WorkOut();

@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include "core/number_text.h"
 #include "scoring/tournament_class.h"
 
 namespace golf {
@@ -13,10 +14,6 @@ using Kind = StandingsGroup::Kind;
 
 constexpr std::string_view kKindKeys[] = {"all", "flight", "sex"};
 constexpr std::string_view kKindWords[] = {"", " in flight", " by sex"};
-
-std::string PlaceText(const std::optional<int>& place) {
-  return place ? std::to_string(*place) : "";
-}
 
 // Returns the name with a capital letter, after a word if it is not empty.
 std::string Heading(const std::string& word, const std::string& name) {
@@ -97,7 +94,7 @@ void ResultPlaces::AddPlaceColumns(Span span, Kind kind, std::vector<Column>& co
     const std::string words(kKindWords[static_cast<std::size_t>(kind)]);
     columns.push_back({Heading(span == Span::kAllRounds ? "total" : "", of.name + " place" + words),
                        [this, span, kind, measure = of.measure](std::size_t entry) {
-                         return PlaceText(places_[entry].At(kind, span, measure));
+                         return TextOrEmpty(places_[entry].At(kind, span, measure));
                        }});
   }
 }

@@ -50,15 +50,13 @@ void WriteJson(ResultsRun& run) {
     places.AddTo(record, object);
     WriteJsonLine(object);
   };
-  ForEachPlayer(run.state, [&](std::int32_t record) {
-    run.Try([&] { describe(record); },
-            [&] { return "Record " + std::to_string(record) + ", " + player.NameLF(); },
-            [&](const NumberedError& error) {
-              WriteJsonLine({{"record", record},
-                             {"NameLF", JsonText(player.NameLF())},
-                             {"error", error.number()}});
-            });
-  });
+  ForEachPlayer(
+      run.state, describe,
+      [&](std::int32_t record, const std::string& who, const NumberedError& error) {
+        run.AddFault(who, error);
+        WriteJsonLine(
+            {{"record", record}, {"NameLF", JsonText(player.NameLF())}, {"error", error.number()}});
+      });
 }
 
 }  // namespace

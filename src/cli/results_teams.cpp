@@ -17,20 +17,12 @@ const std::vector<PlacedMeasure> kMeasuresOfTeams = {{Measure::kGross, "gross", 
                                                      {Measure::kPoints, "points", false},
                                                      {Measure::kQuota, "quota", false}};
 
-void WriteJson(ResultsRun& run, int team, const ResultPlaces& places) {
-  TeamClass& object_of = run.state.Team1();
-  const int round = run.state.Tournament().RoundOr({});
-  run.Try(
-      [&] {
-        Json object = {{"TeamNumber", team}, {"round", round}};
-        AddResults(object_of, round, object);
-        places.AddTo(team, object);
-        WriteJsonLine(object);
-      },
-      [team] { return "Team " + std::to_string(team); },
-      [team](const NumberedError& error) {
-        WriteJsonLine({{"TeamNumber", team}, {"error", error.number()}});
-      });
+void WriteJson(SharedState& state, int team, const ResultPlaces& places) {
+  const int round = state.Tournament().RoundOr({});
+  Json object = {{"TeamNumber", team}, {"round", round}};
+  AddResults(state.Team1(), round, object);
+  places.AddTo(team, object);
+  WriteJsonLine(object);
 }
 
 }  // namespace
@@ -42,16 +34,20 @@ void ShowTeams(ResultsRun& run) {
       ReadTeams({run.state, run.request.tiebreak, false,
                  [](const std::string&, const NumberedError&) {}, [](const std::string&) {}}),
       kMeasuresOfTeams, run);
+  const bool is_json = run.form == ResultsForm::kJson;
   std::vector<StandingsRow> rows;
   ForEachTeam(
       run.state,
       [&](int team) {
-        if (run.form == ResultsForm::kJson) return WriteJson(run, team, places);
-        run.Try([&] { rows.push_back(TeamTotalsRow(run.state.Team1())); },
-                [team] { return "Team " + std::to_string(team); }, [](const NumberedError&) {});
+        if (is_json) return WriteJson(run.state, team, places);
+        rows.push_back(TeamTotalsRow(run.state.Team1()));
+      },
+      [&](int team, const std::string& who, const NumberedError& error) {
+        run.AddFault(who, error);
+        if (is_json) WriteJsonLine({{"TeamNumber", team}, {"error", error.number()}});
       },
       NoteProblem);
-  if (run.form == ResultsForm::kJson) return;
+  if (is_json) return;
   StandingsTable table = TeamTotalsTable(std::move(rows));
   places.AddTo(table);
   WriteStandings(run.form, table);

@@ -15,6 +15,10 @@ std::optional<double> ReadLeadingNumber(std::string_view text);
 
 // Returns the number in decimal. The first character is a minus sign or a blank.
 std::string NumberText(std::int64_t value);
+// Returns the number in decimal, or an empty text if there is no number.
+inline std::string TextOrEmpty(const std::optional<std::int32_t>& number) {
+  return number ? std::to_string(*number) : "";
+}
 
 // Returns `value` as text in a format pattern. In a pattern "0" is a digit that is always shown,
 // "#" is a digit that is shown if the number has it, "." is the decimal point, and "," separates

@@ -11,6 +11,11 @@ namespace golf {
 
 // Holds a result that is a text in some cases and a number in others.
 using TextOrNumber = std::variant<std::string, std::int32_t>;
+// Returns the text, or the number as a text.
+inline std::string TextOf(const TextOrNumber& value) {
+  const auto* const text = std::get_if<std::string>(&value);
+  return text != nullptr ? *text : std::to_string(std::get<std::int32_t>(value));
+}
 
 // A table by hole contains these sums after holes 1 to 18.
 inline constexpr int kFirstNine = 19;

@@ -11,8 +11,6 @@ namespace {
 
 constexpr int kMostBestBalls = 4;
 
-std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
-
 void SortByRank(std::vector<StandingsRow>& rows) {
   std::stable_sort(rows.begin(), rows.end(), [](const StandingsRow& a, const StandingsRow& b) {
     return a.rank && (!b.rank || *a.rank < *b.rank);
@@ -24,12 +22,12 @@ StandingsRow CustomRow(const CustomStanding& standing) {
   row.number = standing.TeamNumber;
   row.cells = {std::to_string(standing.TeamNumber), standing.TeamName, standing.golfers};
   for (const auto& block : standing.Scores) {
-    for (std::size_t i = 0; i < 3; ++i) row.cells.push_back(Shown(block[i]));
+    for (std::size_t i = 0; i < 3; ++i) row.cells.push_back(TextOrEmpty(block[i]));
   }
   const TeamBalls::Sum& total = standing.Scores.back().back();
   const int place = standing.Positions.back().back();
-  row.cells.push_back(Shown(total));
-  row.cells.push_back(Shown(standing.Points.back().back()));
+  row.cells.push_back(TextOrEmpty(total));
+  row.cells.push_back(TextOrEmpty(standing.Points.back().back()));
   row.cells.push_back(total ? std::to_string(place) : "");
   row.rank = place;
   return row;

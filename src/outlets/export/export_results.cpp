@@ -11,6 +11,7 @@
 #include "outlets/export/result_tables.h"
 #include "outlets/results/player_values.h"
 #include "outlets/results/team_values.h"
+#include "outlets/results/tournament_walk.h"
 #include "scoring/layouts/custom_standings.h"
 #include "scoring/layouts/report_layout.h"
 #include "scoring/open_tournament.h"
@@ -59,11 +60,9 @@ class TournamentResults {
   void ExportPlayers(int round) {
     PlayerClass& player = state_.Player();
     const bool decimals = state_.Tournament().HandicapDecimalPlaces() > 0;
-    const std::int32_t length = player.TourFileLength();
-    for (std::int32_t record = 1; record <= length; ++record) {
-      player.GetRecord(record, true);
+    ForEachPlayer(state_, [&](std::int32_t record) {
       const std::int64_t entry = tournament_.entries.Find(record);
-      if (!player.TourPlayerExists() || entry == 0) continue;
+      if (entry == 0) return;
       ResultRows rows;
       const int error = Try(", record " + std::to_string(record) + ", " + player.NameLF(),
                             [&] { VisitPlayerValues(&player, decimals, round, rows); });
@@ -72,21 +71,21 @@ class TournamentResults {
           static_cast<std::int64_t>(LeadingNumber(player.IDNum())));  // 0: none
       described.AddText(Utf8FromText(player.NameLF()));
       AddRows(kPlayerResults, entry, round, described, error, rows);
-    }
+    });
   }
 
-  // Calls `action(id)` for each team that can be read.
+  // Calls `action(team, id)` for each exported team that can be read.
   template <class Action>
-  void ForEachTeam(Action action) {
-    const int teams = state_.Tournament().TeamCount();
-    for (int team = 1; team <= teams; ++team) {
+  void ForEachExportedTeam(Action action) {
+    const auto export_team = [&](int team) {
       const std::int64_t id = tournament_.teams.Find(team);
-      if (state_.Team1().GetRecord(team) && id != 0) action(team, id);
-    }
+      if (id != 0) action(team, id);
+    };
+    ForEachTeam(state_, export_team, [](int) {});
   }
 
   void ExportTeams(int round) {
-    ForEachTeam([&](int team, std::int64_t id) {
+    ForEachExportedTeam([&](int team, std::int64_t id) {
       ResultRows rows;
       const int error = Try(", team " + std::to_string(team),
                             [&] { VisitTeamValues(&state_.Team1(), round, rows); });
@@ -141,7 +140,7 @@ class TournamentResults {
     if (!read.layout) return run_.Note(read.problem + " Its results are left out.");
     LimitToChoices(*read.layout);
     CustomStandings standings(state_, *read.layout);
-    ForEachTeam([&](int team, std::int64_t) {
+    ForEachExportedTeam([&](int team, std::int64_t) {
       Try(", layout " + name + ", team " + std::to_string(team), [&] { standings.AddTeam(); });
     });
     for (const CustomStanding& standing : standings.WorkOut()) AddStanding(name, standing);

@@ -2,15 +2,9 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <variant>
 
 namespace golf {
 namespace {
-
-std::string TextOf(const TextOrNumber& value) {
-  const auto* text = std::get_if<std::string>(&value);
-  return text != nullptr ? *text : std::to_string(std::get<std::int32_t>(value));
-}
 
 std::string DifferenceHeading(int difference) {
   if (difference == 0) return "Par";

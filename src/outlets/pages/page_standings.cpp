@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "core/number_text.h"
 #include "core/text.h"
 #include "outlets/pages/page_sections.h"
 
@@ -69,17 +70,9 @@ class StandingsWriter {
     html_.Open("table class=\"standings" + std::string(rounds) + std::string(is_short) +
                "\" id=\"" + id + "-" + std::string(span) + "-" + std::string(measure) + "\"");
     html_.Element("caption", table.title);
-    html_.Open("thead");
-    html_.Open("tr");
-    html_.Element("th scope=\"col\"", "Place");
-    html_.Element("th scope=\"col\"", page_.of_teams ? "Team" : "Player");
-    for (const EntryColumn& column : table.columns) {
-      html_.Element("th scope=\"col\"", column.heading);
-    }
-    html_.Close("tr");
-    html_.Close("thead");
-    html_.Open("tbody");
-    html_.EndLine();
+    std::vector<std::string> headings = {"Place", page_.of_teams ? "Team" : "Player"};
+    for (const EntryColumn& column : table.columns) headings.push_back(column.heading);
+    html_.OpenTableBody(headings);
     for (const RankedPlace& ranked :
          RankGroup(page_.entries, group, table.span, table.measure, page_.position_option)) {
       WriteRow(ranked, table);
@@ -92,7 +85,7 @@ class StandingsWriter {
 
   void WriteRow(const RankedPlace& ranked, const PageTable& table) {
     html_.Open("tr");
-    html_.Element("td", ranked.place ? std::to_string(*ranked.place) : "");
+    html_.Element("td", TextOrEmpty(ranked.place));
     html_.Raw(names_[ranked.index]);
     for (const EntryColumn& column : table.columns) {
       html_.Element("td", column.text(page_.entries[ranked.index]));

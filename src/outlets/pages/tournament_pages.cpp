@@ -51,14 +51,8 @@ class PageMaker {
     AddLayoutHeader(layout);
     CustomStandings standings(question_.state, layout);
     ForEachTeam(
-        question_.state,
-        [&](int team) {
-          try {
-            standings.AddTeam();
-          } catch (const NumberedError& error) {
-            NoteFailed("Team " + std::to_string(team), error);
-          }
-        },
+        question_.state, [&](int) { standings.AddTeam(); },
+        [&](int, const std::string& who, const NumberedError& error) { NoteFailed(who, error); },
         question_.note);
     const std::vector<CustomStanding> worked_out = standings.WorkOut();
     page_.entries = CustomEntries(question_.state, standings, worked_out, question_.tiebreak,
@@ -125,10 +119,10 @@ class PageMaker {
     add(Measure::kQuota, {FactColumn("Quota", &ResultEntry::quota)}, true);
   }
 
-  // Adds the standings of all rounds up to `last`.
-  void AddTotalTable(Measure measure, int last, const std::string& title) {
-    PageTable table{Span::kAllRounds, measure, title, {}};
-    for (int round = 1; round <= last; ++round) {
+  // Adds the standings of all rounds up to the shown one.
+  void AddTotalTable(Measure measure, const std::string& title) {
+    PageTable table{Span::kAllRounds, measure, title + ", " + RoundText(), {}};
+    for (int round = 1; round <= page_.round; ++round) {
       table.columns.push_back(PartColumn("Rd " + std::to_string(round), Span::kAllRounds, measure,
                                          static_cast<std::size_t>(round) - 1));
     }
@@ -140,7 +134,7 @@ class PageMaker {
     for (const Measure measure : kMeasures) {
       const bool is_points = !RanksLowestFirst(measure);
       if (is_points && (page_.of_teams || HasTotalsOnly())) continue;
-      AddTotalTable(measure, page_.round, std::string(WordsOf(measure).title) + ", " + RoundText());
+      AddTotalTable(measure, WordsOf(measure).title);
     }
     NoteTotals();
   }
@@ -167,9 +161,7 @@ class PageMaker {
             TotalColumn("Total", Span::kRound, measure)}});
     }
     if (page_.round == 1) return;
-    for (const auto& [measure, title] : kCustom) {
-      AddTotalTable(measure, page_.round, std::string(title) + ", " + RoundText());
-    }
+    for (const auto& [measure, title] : kCustom) AddTotalTable(measure, title);
     NoteTotals();
   }
 

@@ -4,28 +4,11 @@
 #include <string>
 #include <utility>
 
+#include "core/number_text.h"
 #include "scoring/tournament_class.h"
 
 namespace golf {
 namespace {
-
-std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
-
-std::string KeyOf(const CustomStanding& standing, Tiebreak tiebreak) {
-  switch (tiebreak) {
-    case Tiebreak::kNone:
-      break;
-    case Tiebreak::kUsga:
-      return standing.tiebreaks[0];
-    case Tiebreak::kHandicap:
-      return standing.tiebreaks[1];
-    case Tiebreak::k1To18:
-      return standing.tiebreaks[2];
-    case Tiebreak::k18To1:
-      return standing.tiebreaks[3];
-  }
-  return {};
-}
 
 // Adds the scores of a measure. `sums` contains the sums of each round. A team that did not play
 // each round up to the shown one has no place in the totals.
@@ -37,15 +20,16 @@ void AddScores(const CustomStanding::Sums& sums, int round, Measure measure, con
   const auto ranked = [&](const TeamBalls::Sum& sum, bool has_place) {
     return has_place && sum ? RankedScore{*sum, key} : RankedScore{};
   };
-  entry.scores[Span::kRound][measure] = {
-      {Shown(of_round[0]), Shown(of_round[1])}, Shown(of_round[2]), ranked(of_round[2], true)};
+  entry.scores[Span::kRound][measure] = {{TextOrEmpty(of_round[0]), TextOrEmpty(of_round[1])},
+                                         TextOrEmpty(of_round[2]),
+                                         ranked(of_round[2], true)};
   ShownScore& total = entry.scores[Span::kAllRounds][measure];
   bool is_complete = true;
   for (std::size_t i = 0; i <= last; ++i) {
-    total.parts.push_back(Shown(sums[i][2]));
+    total.parts.push_back(TextOrEmpty(sums[i][2]));
     is_complete = is_complete && sums[i][2];
   }
-  total.total = Shown(of_round[3]);
+  total.total = TextOrEmpty(of_round[3]);
   total.ranked = ranked(of_round[3], is_complete);
 }
 
@@ -90,13 +74,13 @@ class CardReader {
     for (int hole = 1; hole <= kWholeRound; ++hole) {
       const bool is_unfinished =
           table == BallTable::kGross && hole <= kHoles && sums[hole].value_or(0) >= kUnfinished;
-      row.cells[hole] = is_unfinished ? "F" : Shown(sums[hole]);
+      row.cells[hole] = is_unfinished ? "F" : TextOrEmpty(sums[hole]);
     }
     card.rows.push_back(std::move(row));
   }
 
   CardRow SumsRow(const char* heading, TeamBalls::Sum (TeamBalls::*sum)(int) const) const {
-    return CardRowOf(heading, [&](int hole) { return Shown((balls_.*sum)(ColumnOf(hole))); });
+    return CardRowOf(heading, [&](int hole) { return TextOrEmpty((balls_.*sum)(ColumnOf(hole))); });
   }
 
   const TeamBalls& balls_;
@@ -104,6 +88,22 @@ class CardReader {
 };
 
 }  // namespace
+
+std::string KeyOf(const CustomStanding& standing, Tiebreak tiebreak) {
+  switch (tiebreak) {
+    case Tiebreak::kNone:
+      break;
+    case Tiebreak::kUsga:
+      return standing.tiebreaks[0];
+    case Tiebreak::kHandicap:
+      return standing.tiebreaks[1];
+    case Tiebreak::k1To18:
+      return standing.tiebreaks[2];
+    case Tiebreak::k18To1:
+      return standing.tiebreaks[3];
+  }
+  return {};
+}
 
 std::vector<ResultEntry> CustomEntries(SharedState& state, const CustomStandings& tables,
                                        const std::vector<CustomStanding>& standings,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "core/shared_state.h"
@@ -7,6 +8,10 @@
 #include "scoring/layouts/custom_standings.h"
 
 namespace golf {
+
+// Returns the key that orders the team among equal sums of the active round. It is empty for
+// Tiebreak::kNone.
+std::string KeyOf(const CustomStanding& standing, Tiebreak tiebreak);
 
 // Converts the results of teams under a layout to entries. Their gross scores are the sums of the
 // counted balls, and their points are the sums of the points of these balls. The entries have no

@@ -2,7 +2,6 @@
 #include <cmath>
 #include <iterator>
 #include <utility>
-#include <variant>
 
 #include "outlets/results/entry_reader.h"
 #include "outlets/results/score_reader.h"
@@ -19,19 +18,11 @@ constexpr TiebreakTable<PlayerClass> kTiebreaks = {{
     {&PlayerClass::TourGrossTotalTiebreak1to18, &PlayerClass::TourNetTotalTiebreak1to18},
 }};
 
-std::string TextOf(const TextOrNumber& value) {
-  const auto* text = std::get_if<std::string>(&value);
-  return text != nullptr ? *text : std::to_string(std::get<std::int32_t>(value));
-}
-
 // Reads the results of the shared player's current entry.
 class PlayerReader : public ScoreReader {
  public:
   explicit PlayerReader(const EntryQuestion& question)
-      : question_(question),
-        player_(question.state.Player()),
-        tournament_(question.state.Tournament()),
-        round_(tournament_.RoundOr({})) {}
+      : ScoreReader(question), player_(question.state.Player()) {}
 
   ResultEntry Read(std::int32_t record) {
     ResultEntry entry;
@@ -43,8 +34,7 @@ class PlayerReader : public ScoreReader {
     entry.quota = player_.TourQuota(UsesDecimals(), round_);
     entry.exact_net = ExactNet();
     if (question_.with_cards) entry.cards = Cards(1);
-    ReadRound(round_, entry);
-    ReadTotals(round_, entry);
+    ReadScores(entry);
     entry.holes_played = HolesPlayed();
     return entry;
   }
@@ -108,10 +98,6 @@ class PlayerReader : public ScoreReader {
     return player_.TourTotalQuotaResults(1, round_);
   }
 
-  bool HasPlaces(Measure measure) override {
-    return RanksLowestFirst(measure) || tournament_.ScoreEntryTotal() == 0;
-  }
-
   std::string Key(Measure measure) override {
     return TiebreakKey(player_, kTiebreaks, question_.tiebreak, measure, round_);
   }
@@ -153,22 +139,13 @@ class PlayerReader : public ScoreReader {
         SummedCardRow("Par", [&](int hole) { return player_.TourHolePar(hole, round); }));
     card.rows.push_back(
         SummedCardRow("Strokes", [&](int hole) { return player_.TourHoleStrokes(hole, round); }));
-    const auto add_scores = [&](const char* heading, Measure measure) {
-      card.rows.push_back(
-          CardRowOf(heading, [&](int hole) { return Score(measure, hole, round); }));
-    };
-    add_scores("Gross", Measure::kGross);
-    add_scores("Net", Measure::kNet);
-    add_scores("Points", Measure::kPoints);
+    AddScoreRows(card);
     card.facts = {player_.TourCoursePlayedName(round), player_.TourCourseTeePlayedName(round),
                   "Handicap " + player_.TourHandicap(round)};
     return card;
   }
 
-  const EntryQuestion& question_;
   PlayerClass& player_;
-  TournamentClass& tournament_;
-  int round_;
 };
 
 }  // namespace
@@ -176,14 +153,11 @@ class PlayerReader : public ScoreReader {
 std::vector<ResultEntry> ReadPlayers(const EntryQuestion& question) {
   std::vector<ResultEntry> entries;
   PlayerReader reader(question);
-  ForEachPlayer(question.state, [&](std::int32_t record) {
-    try {
-      entries.push_back(reader.Read(record));
-    } catch (const NumberedError& error) {
-      question.failed("Record " + std::to_string(record) + ", " + question.state.Player().NameLF(),
-                      error);
-    }
-  });
+  ForEachPlayer(
+      question.state, [&](std::int32_t record) { entries.push_back(reader.Read(record)); },
+      [&](int, const std::string& who, const NumberedError& error) {
+        question.failed(who, error);
+      });
   return entries;
 }
 

@@ -21,10 +21,7 @@ constexpr TiebreakTable<TeamClass> kTiebreaks = {{
 class TeamReader : public ScoreReader {
  public:
   explicit TeamReader(const EntryQuestion& question)
-      : question_(question),
-        team_(question.state.Team1()),
-        tournament_(question.state.Tournament()),
-        round_(tournament_.RoundOr({})) {}
+      : ScoreReader(question), team_(question.state.Team1()) {}
 
   ResultEntry Read(int number) {
     ResultEntry entry;
@@ -35,8 +32,7 @@ class TeamReader : public ScoreReader {
     entry.handicap = team_.Handicap(round_);
     entry.quota = team_.Quota(round_);
     ReadCards(entry.cards);
-    ReadRound(round_, entry);
-    ReadTotals(round_, entry);
+    ReadScores(entry);
     return entry;
   }
 
@@ -64,16 +60,12 @@ class TeamReader : public ScoreReader {
     return std::nullopt;
   }
 
-  bool HasPlaces(Measure measure) override {
-    return RanksLowestFirst(measure) || tournament_.ScoreEntryTotal() == 0;
-  }
-
   std::string Key(Measure measure) override {
     return TiebreakKey(team_, kTiebreaks, question_.tiebreak, measure, round_);
   }
 
-  // Adds the cards of the played rounds. The golfers of a team are those of the active round, so
-  // each round becomes the active one while its card is read.
+  // Adds the cards of the played rounds. Makes each round the active one while its card is read,
+  // because the team's golfers are those of the active round. The shown round is active afterwards.
   void ReadCards(std::vector<RoundCard>& cards) {
     if (!question_.with_cards || tournament_.ScoreEntryTotal() != 0) return;
     if (round_ <= tournament_.RoundCount()) {
@@ -95,13 +87,7 @@ class TeamReader : public ScoreReader {
     RoundCard card{.round = round, .facts = {}, .rows = {}};
     AddPars(round, card);
     card.rows.push_back(CardRowOf("Strokes", [&](int hole) { return Strokes(hole, round); }));
-    const auto add_scores = [&](const char* heading, Measure measure) {
-      card.rows.push_back(
-          CardRowOf(heading, [&](int hole) { return Score(measure, hole, round); }));
-    };
-    add_scores("Gross", Measure::kGross);
-    add_scores("Net", Measure::kNet);
-    add_scores("Points", Measure::kPoints);
+    AddScoreRows(card);
     const int balls = std::min(kMostBalls, team_.Results(round).golfers);
     for (int ball = 1; ball <= balls; ++ball) {
       card.rows.push_back(
@@ -116,15 +102,16 @@ class TeamReader : public ScoreReader {
     return card;
   }
 
-  // Returns the strokes that the team's golfers received, as the gross score less the net score.
+  // Returns the handicap strokes of the team: the gross score minus the net score. They have the
+  // decimals of the net score.
   std::string Strokes(int hole, int round) {
     const double net = team_.ScoreNet(hole, round);
     return FormatSignedHandicap(team_.ScoreGross(hole, round) - net,
                                 hole > kHoles && team_.ShowsDecimals());
   }
 
-  // Adds the pars of the team's golfers, who may play from several tees. The round must be the
-  // active one. Two different pars of a hole are shown as in "3/4".
+  // Adds the row of the pars. The round must be the active one. Golfers who play from different
+  // tees may have different pars. A cell then contains all of them, as in "3/4".
   void AddPars(int round, RoundCard& card) {
     PlayerClass& player = question_.state.Player();
     const int team = team_.TeamNumber();
@@ -151,10 +138,7 @@ class TeamReader : public ScoreReader {
     }));
   }
 
-  const EntryQuestion& question_;
   TeamClass& team_;
-  TournamentClass& tournament_;
-  int round_;
 };
 
 }  // namespace
@@ -163,14 +147,8 @@ std::vector<ResultEntry> ReadTeams(const EntryQuestion& question) {
   std::vector<ResultEntry> entries;
   TeamReader reader(question);
   ForEachTeam(
-      question.state,
-      [&](int team) {
-        try {
-          entries.push_back(reader.Read(team));
-        } catch (const NumberedError& error) {
-          question.failed("Team " + std::to_string(team), error);
-        }
-      },
+      question.state, [&](int team) { entries.push_back(reader.Read(team)); },
+      [&](int, const std::string& who, const NumberedError& error) { question.failed(who, error); },
       question.note);
   return entries;
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "core/numbered_error.h"
 #include "core/shared_state.h"
 #include "scoring/player/player_class.h"
 #include "scoring/team/team_class.h"
@@ -22,20 +23,46 @@ void ForEachPlayer(SharedState& state, Action action) {
   }
 }
 
+// Does the same. If an action raises an error, calls `failed(record, who, error)` and continues.
+// `who` describes the player, in code page 1252.
+template <class Action, class Failed>
+void ForEachPlayer(SharedState& state, Action action, Failed failed) {
+  ForEachPlayer(state, [&](std::int32_t record) {
+    try {
+      action(record);
+    } catch (const NumberedError& error) {
+      failed(record, "Record " + std::to_string(record) + ", " + state.Player().NameLF(), error);
+    }
+  });
+}
+
 // Reads each team of the open tournament into the first team object and calls `action(team)`. Calls
-// `note(sentence)` instead for a team that cannot be read but has golfers.
-template <class Action, class Note>
-void ForEachTeam(SharedState& state, Action action, Note note) {
+// `unread(team)` instead for a team that cannot be read.
+template <class Action, class Unread>
+void ForEachTeam(SharedState& state, Action action, Unread unread) {
   const int teams = state.Tournament().TeamCount();
   for (int team = 1; team <= teams; ++team) {
-    if (state.Team1().GetRecord(team)) {
-      action(team);
-    } else if (state.Player().TourIndex1stPlayerOnTeam(team) > 0) {
-      note("Team " + std::to_string(team) +
-           " is left out, with its golfers: the last team that can be read is " +
-           std::to_string(team - 1) + ".");
-    }
+    state.Team1().GetRecord(team) ? action(team) : unread(team);
   }
+}
+
+// Does the same. If an action raises an error, calls `failed(team, who, error)` and continues.
+// Calls `note(sentence)` for a team that cannot be read but has golfers.
+template <class Action, class Failed, class Note>
+void ForEachTeam(SharedState& state, Action action, Failed failed, Note note) {
+  const auto try_action = [&](int team) {
+    try {
+      action(team);
+    } catch (const NumberedError& error) {
+      failed(team, "Team " + std::to_string(team), error);
+    }
+  };
+  ForEachTeam(state, try_action, [&](int team) {
+    if (state.Player().TourIndex1stPlayerOnTeam(team) <= 0) return;
+    note("Team " + std::to_string(team) +
+         " is left out, with its golfers: the last team that can be read is " +
+         std::to_string(team - 1) + ".");
+  });
 }
 
 }  // namespace golf

@@ -194,7 +194,7 @@ void PlayerStandings::Fill() {
     const ResultEntry& entry = entries[index];
     if (UpperCase(entry.name).find(wanted) == std::string::npos) continue;
     auto& row = rows.emplace_back();
-    row.push_back(place ? std::to_string(*place) : "");
+    row.push_back(TextOrEmpty(place));
     for (const Column& column : columns) {
       row.push_back(column.entry.heading.empty() ? "" : column.entry.text(entry));
     }

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "core/number_text.h"
+
 namespace golf {
 
 int SampleTeams::ColumnOf(int team, BallTable table, int player) {
@@ -68,13 +70,12 @@ void SampleTeams::Calculate() {
 void SampleTeams::ShowTeam(int team) {
   const TeamBalls& balls = balls_.Team(team);
   for (int row = 1; row <= kTableColumns; ++row) {
-    const TeamBalls::Sum total = balls.Score(row);
-    grid_.SetText(TotalColumn(team), row, total ? std::to_string(*total) : "");
+    grid_.SetText(TotalColumn(team), row, TextOrEmpty(balls.Score(row)));
     for (int player = 1; player <= kMostLayoutPlayers; ++player) {
       for (const BallTable table : {BallTable::kGross, BallTable::kNet}) {
         const Ball& ball = balls.At(table, player, row);
-        const std::string value = ball.value ? std::to_string(*ball.value) : "";
-        grid_.SetText(ColumnOf(team, table, player), row, value + (ball.selected ? " (Used)" : ""));
+        grid_.SetText(ColumnOf(team, table, player), row,
+                      TextOrEmpty(ball.value) + (ball.selected ? " (Used)" : ""));
       }
     }
   }

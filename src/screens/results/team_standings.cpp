@@ -5,9 +5,7 @@
 #include <utility>
 
 #include "core/number_text.h"
-#include "scoring/player/player_class.h"
-#include "scoring/team/team_class.h"
-#include "scoring/tournament_class.h"
+#include "outlets/results/tournament_walk.h"
 
 namespace golf {
 namespace {
@@ -17,8 +15,6 @@ constexpr int kNameColumn = 2;
 constexpr int kPlayersColumn = 3;
 constexpr int kHandicapHeading = 4;
 constexpr const char* kTotals = "Team totals";
-
-std::string Shown(const TeamBalls::Sum& sum) { return sum ? std::to_string(*sum) : ""; }
 
 // Breaks a long heading into lines, so that its column stays narrow.
 std::string OnLines(std::string heading) {
@@ -84,36 +80,28 @@ std::string TeamStandings::Calculate() {
       std::make_shared<Calculated>(context_.state, layout_, tournament.RoundOr({}), HasLayout());
   std::vector<StandingsRow> totals;
   std::string problems;
-  const int teams = tournament.TeamCount();
-  for (int team = 1; team <= teams; ++team) {
-    const std::string problem = AddTeam(team, *calculated, totals);
-    if (!problem.empty()) problems += "\rTeam " + std::to_string(team) + ": " + problem;
-  }
+  const auto note = [&](int team, const std::string& problem) {
+    problems += "\rTeam " + std::to_string(team) + ": " + problem;
+  };
+  const auto add = [&](int team) {
+    try {
+      StandingsRow row = TeamTotalsRow(context_.state.Team1());
+      calculated->standings.AddTeam();
+      calculated->teams.push_back(team);
+      totals.push_back(std::move(row));
+    } catch (const NumberedError& error) {
+      note(team, error.description());
+    }
+  };
+  ForEachTeam(context_.state, add, [&](int team) {
+    const bool has_golfers = context_.state.Player().TourIndex1stPlayerOnTeam(team) > 0;
+    if (has_golfers) note(team, "the record of this team cannot be read.");
+  });
   const auto worked_out = calculated->standings.WorkOut();
   calculated->table = calculated->by_layout ? CustomTable(worked_out, tournament.RoundCount())
                                             : TeamTotalsTable(std::move(totals));
   calculated_ = calculated;
   return problems.empty() ? "" : "These teams could not be worked out:" + problems;
-}
-
-// Adds a team to the standings. Returns the reason if it is left out because of an error. Returns
-// an empty text if it was added or has no golfers.
-std::string TeamStandings::AddTeam(int team, Calculated& calculated,
-                                   std::vector<StandingsRow>& totals) {
-  TeamClass& record = context_.state.Team1();
-  if (!record.GetRecord(team)) {
-    const bool has_golfers = context_.state.Player().TourIndex1stPlayerOnTeam(team) > 0;
-    return has_golfers ? "the record of this team cannot be read." : "";
-  }
-  try {
-    StandingsRow row = TeamTotalsRow(record);
-    calculated.standings.AddTeam();
-    calculated.teams.push_back(team);
-    totals.push_back(std::move(row));
-  } catch (const NumberedError& error) {
-    return error.description();
-  }
-  return "";
 }
 
 void TeamStandings::Show() {
@@ -142,6 +130,9 @@ void TeamStandings::ShowCard() {
   team.GetRecord(number);
   const std::int32_t golfers =
       std::min<std::int32_t>(team.Results().golfers, kMostGolfersWithBalls);
+  const std::vector<int>& teams = calculated_->teams;
+  const auto place = std::ranges::find(teams, number) - teams.begin();
+  const TeamBalls& balls = calculated_->standings.balls().Team(static_cast<int>(place) + 1);
   card.SetRepainting(false);
   card.SetRows(0);
   const bool by_layout = calculated_->by_layout;
@@ -149,45 +140,40 @@ void TeamStandings::ShowCard() {
   for (int golfer = 1; golfer <= golfers; ++golfer) {
     const std::string name =
         golfer <= 8 ? team.NameofPlayersOnTeam(golfer) : "Player #" + std::to_string(golfer);
-    ShowCardLine(2 * golfer - 1, name + ", gross", golfer, BallTable::kGross);
-    ShowCardLine(2 * golfer, name + ", net", golfer, BallTable::kNet);
+    ShowCardLine(balls, 2 * golfer - 1, name + ", gross", golfer, BallTable::kGross);
+    ShowCardLine(balls, 2 * golfer, name + ", net", golfer, BallTable::kNet);
   }
-  if (by_layout) ShowCardSums(2 * golfers + 1, number);
+  if (by_layout) ShowCardSums(balls, 2 * golfers + 1);
   card.SetRepainting(true);
   const std::string of_round = ", round " + std::to_string(calculated_->round);
   tables_.CardLabel.SetCaption(standings.text(kNameColumn, row) + of_round +
                                (by_layout ? ": a ball that counts is marked *" : ""));
 }
 
-const TeamBalls& TeamStandings::BallsOf(int team) const {
-  const std::vector<int>& teams = calculated_->teams;
-  const auto place = std::find(teams.begin(), teams.end(), team);
-  return calculated_->standings.balls().Team(static_cast<int>(place - teams.begin()) + 1);
-}
-
-void TeamStandings::ShowCardLine(int row, const std::string& name, int golfer, BallTable table) {
-  const TeamBalls& balls = BallsOf(context_.state.Team1().TeamNumber());
+void TeamStandings::ShowCardLine(const TeamBalls& balls, int row, const std::string& name,
+                                 int golfer, BallTable table) {
   tables_.grid2.SetText(1, row, name);
   const int block = calculated_->round - 1;
   std::array<TeamBalls::Sum, 3> sums;  // the two nines and the total
   for (int hole = 1; hole <= kHoles; ++hole) {
     const Ball& ball = balls.At(table, golfer, HoleColumn(block * kHoles + hole));
-    tables_.SetCardText(HoleColumn(hole), row, Shown(ball.value) + (ball.selected ? "*" : ""));
+    tables_.SetCardText(HoleColumn(hole), row,
+                        TextOrEmpty(ball.value) + (ball.selected ? "*" : ""));
     for (const std::size_t sum : {hole > 9 ? 1U : 0U, 2U}) {
       sums[sum] = AddSums(sums[sum], ball.value);
     }
   }
   for (int sum = 1; sum <= 3; ++sum) {
-    tables_.SetCardText(SumColumn(1, sum), row, Shown(sums[static_cast<std::size_t>(sum) - 1]));
+    tables_.SetCardText(SumColumn(1, sum), row,
+                        TextOrEmpty(sums[static_cast<std::size_t>(sum) - 1]));
   }
 }
 
-void TeamStandings::ShowCardSums(int row, int team) {
-  const TeamBalls& balls = BallsOf(team);
+void TeamStandings::ShowCardSums(const TeamBalls& balls, int row) {
   tables_.grid2.SetText(1, row, "Counted");
   for (int column = 1; column < kBlockWidth; ++column) {
     const int in_tables = (calculated_->round - 1) * kBlockWidth + column;
-    tables_.SetCardText(column, row, Shown(balls.Score(in_tables)));
+    tables_.SetCardText(column, row, TextOrEmpty(balls.Score(in_tables)));
   }
 }
 

@@ -42,10 +42,9 @@ class TeamStandings {
  private:
   struct Calculated;
 
-  std::string AddTeam(int team, Calculated& calculated, std::vector<StandingsRow>& totals);
-  void ShowCardLine(int row, const std::string& name, int golfer, BallTable table);
-  void ShowCardSums(int row, int team);
-  const TeamBalls& BallsOf(int team) const;
+  void ShowCardLine(const TeamBalls& balls, int row, const std::string& name, int golfer,
+                    BallTable table);
+  void ShowCardSums(const TeamBalls& balls, int row);
 
   ScreenContext context_;
   StandingsTables& tables_;
