@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.KVG
-  The file contains one record for each place of a golfer. Only Kelvane uses the fields that are named Setting, Value, Text or Reserved with their offset.
+  Each record contains a golfer or is free. Only Kelvane uses the fields whose names contain their offset in the record, such as Setting437.
 seq:
   - id: records
     type: record

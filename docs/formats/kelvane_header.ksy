@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.KV5
-  The file contains one record. Only Kelvane uses the fields that are named Setting, Code, Slope or Table with their offset.
+  The file contains one record. Only Kelvane uses the fields whose names contain their offset in the record, such as Setting153.
 seq:
   - id: records
     type: record

@@ -8,7 +8,7 @@ meta:
   encoding: windows-1252
 doc: |
   *.KVS
-  The file contains one record for each place of a golfer: 300 scores, the newest first. It belongs to the golfer with the same record number in the .KVG file.
+  Each record contains up to 300 scores of a golfer, the newest first. The golfer is in the record with the same number in the .KVG file.
 seq:
   - id: records
     type: record

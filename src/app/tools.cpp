@@ -64,7 +64,7 @@ MenuEntry CourseTool(const CourseLibrary& library) {
           }};
 }
 
-// Returns a tool that opens a screen for Quenby's tournaments.
+// Returns a menu entry that opens the screen with this name.
 MenuEntry ScreenTool(std::string caption, std::string screen) {
   return {.caption = std::move(caption),
           .open = [screen](SharedState&, ScreenHost& host) { host.ShowModal(host.Load(screen)); }};

@@ -21,7 +21,7 @@ ReportLayout LayoutOf(SharedState& state, const ResultsRequest& request);
 // there is no such tournament or round.
 void OpenForResults(SharedState& state, const ResultsRequest& request);
 
-// Writes the page of results, and repeats that after each change if the request says so.
+// Writes the page of results. If the request has `watch`, writes it again after each change.
 ExitCode RunResultsPage(const Options& options, const ResultsRequest& request);
 
 // Writes the standings as a table or as CSV. Their texts are in code page 1252.

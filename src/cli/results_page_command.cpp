@@ -125,8 +125,8 @@ class PageWatch {
     return stamps;
   }
 
-  // Returns true, and reports it once, if a file is missing or empty that had content when the page
-  // was written. Its program may be about to write it again.
+  // Returns true if a file is missing or empty that had content when the page was written. Reports
+  // this once. The page is not written then, since another program may be replacing the file.
   bool HasLost(const std::vector<FileStamp>& before, const std::vector<FileStamp>& now) {
     for (std::size_t i = 0; i < paths_.size(); ++i) {
       if (before[i].length <= 0 || now[i].length > 0) continue;

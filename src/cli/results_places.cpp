@@ -55,7 +55,8 @@ void ResultPlaces::AddTo(int number, Json& object) const {
   object["TotalPlaces"] = PlacesOfSpan(found->second, Span::kAllRounds);
 }
 
-// A table for people tells flights and sexes only if there are several.
+// Returns true if the table has a column for flights or sexes. A table for people has it only if
+// the entries have several of them.
 bool ResultPlaces::HasColumn(Kind kind) const {
   const auto member = kind == Kind::kFlight ? &ResultEntry::flight : &ResultEntry::sex;
   std::set<std::string> keys;

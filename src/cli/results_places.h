@@ -26,12 +26,12 @@ class ResultPlaces {
 
   const std::vector<ResultEntry>& entries() const { return entries_; }
 
-  // Adds the places of an entry to its object. `number` is that of the entry. Adds nothing if there
-  // is no such entry.
+  // Adds the places of the entry with this number to its object. Adds nothing if there is no such
+  // entry.
   void AddTo(int number, Json& object) const;
-  // Adds the flight, the sex, the scores that the table lacks, the keys of the tiebreak and the
-  // places as columns. A table for people has only the places of the round among all
-  // entries.
+  // Adds columns to the table: the flight, the sex, the scores that it does not have, the keys of
+  // the tiebreak and the places. In the form kTable it adds no totals, and only the places of the
+  // round among all entries.
   void AddTo(StandingsTable& table) const;
 
  private:
@@ -49,7 +49,7 @@ class ResultPlaces {
   std::vector<PlacedMeasure> measures_;
   std::vector<EntryPlaces> places_;
   std::map<int, std::size_t> index_;  // by the number of the entry
-  bool is_for_people_;
+  bool is_for_people_;                // the form is kTable
   Tiebreak tiebreak_;
 };
 

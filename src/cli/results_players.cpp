@@ -15,7 +15,7 @@ const std::vector<PlacedMeasure> kMeasuresOfPlayers = {{Measure::kGross, "gross"
                                                        {Measure::kPoints, "points", true},
                                                        {Measure::kQuota, "quota", true}};
 
-// Returns the row of a golfer. It has only a name and a handicap if the golfer has no score.
+// Returns the row of a golfer. A golfer without a score has only a name and a handicap.
 StandingsRow RowOf(const ResultEntry& entry) {
   const auto& scores = entry.scores[Span::kRound];
   StandingsRow row{entry.number, {entry.name, entry.handicap}, entry.exact_net};
@@ -32,7 +32,7 @@ void WriteJson(ResultsRun& run) {
   PlayerClass& player = run.state.Player();
   const bool decimals = run.state.Tournament().HandicapDecimalPlaces() > 0;
   const int round = run.state.Tournament().RoundOr({});
-  // The second reading below reports the errors.
+  // ForEachPlayer below reads the results again and reports the errors.
   const ResultPlaces places(ReadPlayers({run.state,
                                          run.request.tiebreak,
                                          false,

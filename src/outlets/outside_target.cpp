@@ -14,7 +14,7 @@ namespace {
 // The three programs search for their folders without regard to case.
 bool IsGolfFolder(const std::string& name) {
   constexpr std::string_view kFolders[] = {"kvdata", "qbdata", "zddata", "transfer-history"};
-  // Windows ignores blanks and dots at the end of a name.
+  // Windows removes blanks and dots at the end of a name, so "qbdata." is also the folder qbdata.
   const std::string lower = LowerCase(name.substr(0, name.find_last_not_of(" .") + 1));
   return std::ranges::find(kFolders, lower) != std::end(kFolders);
 }

@@ -10,8 +10,8 @@
 
 namespace golf {
 
-// A measure ranks players or teams. The lowest gross and net scores have the first place, and the
-// most points and the highest quota result.
+// A measure ranks players or teams. The lowest gross or net score has the first place, and so have
+// the highest points and the highest quota result.
 enum class Measure { kGross, kNet, kPoints, kQuota };
 inline constexpr Measure kMeasures[] = {Measure::kGross, Measure::kNet, Measure::kPoints,
                                         Measure::kQuota};

@@ -19,7 +19,7 @@ class TournamentClass : public TournamentControl {
 
   // Calculates the statistics from every entry with a golfer in the open player file. Afterwards
   // the player buffers contain the last record. Raises the errors of PlayerClass. If `left_out` is
-  // given, calls it instead, and leaves out the player.
+  // given, leaves out a player whose calculation raises an error, and calls `left_out` instead.
   void CalculateTotals(const std::function<void(const NumberedError&)>& left_out = {});
 
   std::int32_t ScoreTotalGross(int row) const { return gross_.Total(row); }

@@ -341,7 +341,7 @@ TEST_F(ExportTest, ResultsAreThoseOfTheCommand) {
         const std::string where = " from " + kind.table + " r where r.round = " + round + " and (" +
                                   kind.of + "r." + kind.owner + ") = " + object[kind.number].dump();
         for (const auto& [name, value] : object.items()) {
-          // The export has other tables for the flights and the sex, and no places.
+          // The tables of results have no columns for the flight, the sex and the places.
           const bool is_no_column = name == "record" || name == "round" || name == "TourFlight" ||
                                     name == "sex" || name.ends_with("Places");
           if (is_no_column) continue;

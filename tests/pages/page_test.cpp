@@ -29,7 +29,7 @@ double NumberOf(const Json& value) {
   return text.starts_with('+') ? -std::stod(text.substr(1)) : std::stod(text);
 }
 
-// Contains what a page shows of a player or a team, taken from the objects of its rounds.
+// Contains the JSON objects of a player or a team, one for each round.
 struct Competitor {
   std::vector<Json> rounds;  // the last one is the shown round
   const Json& shown() const { return rounds.back(); }
@@ -106,7 +106,7 @@ std::vector<Placed> Rank(std::vector<Placed> scored, std::vector<Placed> others,
   return scored;
 }
 
-// Is a tournament of the demonstration with random options, entries and golfers.
+// Fills the tournament of the demonstration with random options, entries and golfers.
 struct RandomTournament {
   explicit RandomTournament(std::uint32_t seed) : random(seed) {}
 

@@ -33,7 +33,7 @@ int NumberIn(const std::string& text) {
 }
 
 using Lines = std::vector<std::vector<std::string>>;
-// Returns all columns of the rows, with column 0.
+// Returns the texts of all rows, from column 0 on.
 Lines RowsOf(const Grid& grid) {
   Lines rows;
   for (int row = 1; row <= grid.rows(); ++row) {
@@ -67,7 +67,7 @@ class ResultsTest : public testing::Test {
     for (int hole = first; hole <= last; ++hole) sum += Gross(record, round, hole);
     return sum;
   }
-  // Returns what orders equal gross scores under the tiebreaks "last holes" and "18 to 1".
+  // Returns the scores that the tiebreaks "last holes" and "18 to 1" compare.
   std::vector<int> TiebreakOf(int record, int round, int tiebreak) const {
     std::vector<int> key;
     if (tiebreak == 1) {
@@ -319,7 +319,7 @@ TEST_F(ResultsTest, TheLastResultsStayIfTheFilesCannotBeRead) {
       results.RoundList.Select(0);
       EXPECT_EQ(RowsOf(results.tables.grid1), rows);
     }
-    // A failed reading closes the files. Windows does not delete a file that is open.
+    // Windows cannot delete an open file. A failed reading therefore closes all files first.
     damage(kEntries, 5000);
     install.host->Press(results, "ReadButton");
     install.folder.Remove(kEntries);

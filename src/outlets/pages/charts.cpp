@@ -62,8 +62,8 @@ double Highest(const std::vector<ChartBar>& bars) {
   return highest;
 }
 
-// Draws a line with its dots or squares, and the values beside them. A value is written above its
-// dot if it is not lower than that of the other line.
+// Draws a line with its dots or squares, and writes its values beside them. A value is above its
+// dot if it is not lower than the value of the other line.
 void DrawLine(Drawing& drawing, const ChartLine& line, const ChartLine& other, bool is_first,
               double step, double lowest, double range) {
   constexpr double kTop = 2 * kLabelHeight;

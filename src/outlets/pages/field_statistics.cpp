@@ -26,7 +26,7 @@ std::string RowHeading(int row) {
   }
 }
 
-// Returns the differences that occur in a row, and all those between them and par.
+// Returns the differences from par that occur in a row, and all differences between them and par.
 std::vector<int> ShownDifferences(const TournamentClass& tournament, int row) {
   int least = 0;
   int most = 0;
@@ -51,7 +51,7 @@ bool HasScores(const TournamentClass& tournament, int row) {
 }  // namespace
 
 FieldStatistics ReadFieldStatistics(TournamentClass& tournament) {
-  // The standings report the errors of the players.
+  // The reader of the standings has already reported the other errors.
   tournament.CalculateTotals([](const NumberedError& error) {
     if (error.IsOfFile()) throw;
   });

@@ -67,8 +67,8 @@ std::string CssString(std::string_view text) {
     } else if (code == 0 || code >= 0x80) {
       css += HtmlText(std::string_view(&c, 1));
     } else {
-      // An escape ends at a blank. It hides every character that has a meaning in a style sheet or
-      // in HTML.
+      // A style sheet reads a backslash, a hexadecimal code and a blank as one character. This
+      // character then has no special meaning in the style sheet or in HTML.
       css += {'\\', kDigits[code / 16], kDigits[code % 16], ' '};
     }
   }

@@ -27,7 +27,7 @@ class HtmlWriter {
   void OpenTableBody(const std::vector<std::string>& headings);
   // Writes HTML as it is.
   void Raw(std::string_view html) { html_ += html; }
-  // Ends the line. Breaks between lines have no meaning where the writer is used.
+  // Writes a line end, for readers of the file. It must not be called within a text.
   void EndLine() { html_ += '\n'; }
 
   const std::string& html() const { return html_; }

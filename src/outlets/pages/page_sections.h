@@ -16,7 +16,7 @@ std::string NameOf(const ResultEntry& entry, bool of_teams);
 // Returns the id and the title of a group's section, such as "flight-A" and "Flight A".
 std::string GroupId(const StandingsGroup& group);
 std::string GroupTitle(const StandingsGroup& group, bool of_teams);
-// Returns the groups that a page shows. A kind with only one flight or one sex is left out.
+// Returns the groups that a page shows. Leaves out a flight or a sex that contains all entries.
 std::vector<StandingsGroup> ShownGroups(const ResultsPage& page, PageExtent extent);
 
 void WriteStandings(const ResultsPage& page, const std::vector<StandingsGroup>& groups,

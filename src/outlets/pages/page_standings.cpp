@@ -14,13 +14,14 @@ constexpr std::size_t kMostRowsOfShort = 24;
 
 constexpr std::string_view kMeasureIds[] = {"gross", "net", "points", "quota"};
 
-// Returns what follows the name of a team: its golfers, or its number if it is named by them.
+// Returns the text after the name of a team: its golfers, or its number if they are its name.
 std::string SmallText(const ResultEntry& entry, const ResultsPage& page) {
   if (!page.of_teams || entry.golfers != entry.name) return entry.golfers;
   return "Team " + std::to_string(entry.number);
 }
 
-// Returns the second cell of each entry's rows. There are many rows, so the cells are made once.
+// Returns the cell with the name of each entry. The cells are made only once, since each of them is
+// part of many tables.
 std::vector<std::string> NameCells(const ResultsPage& page, PageExtent extent) {
   std::vector<std::string> cells;
   for (const ResultEntry& entry : page.entries) {

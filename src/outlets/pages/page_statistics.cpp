@@ -8,7 +8,8 @@
 namespace golf {
 namespace {
 
-// Returns how many scores each column of a distribution covers, so that the columns fit.
+// Returns the number of scores that each column of a distribution covers. The columns of a larger
+// range cover more scores, since the picture has space for few columns.
 double ColumnWidth(double lowest, double highest) {
   constexpr double kMostNarrowColumns = 14;  // columns of one score have short labels
   const double most_columns = highest < 100 ? 8 : 6;
@@ -35,7 +36,7 @@ std::vector<ChartBar> EmptyColumns(double lowest, double highest, double width) 
   return columns;
 }
 
-// Draws how many entries have each score of the round.
+// Draws the number of entries with each score.
 void WriteDistribution(const ResultsPage& page, const PageTable& table, HtmlWriter& html) {
   std::vector<double> scores;
   for (const ResultEntry& entry : page.entries) {

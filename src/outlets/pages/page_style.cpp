@@ -69,7 +69,7 @@ summary h3{font-weight:bold}
 }
 )";
 
-// Returns the declarations of a font of a layout. The size is limited to what a page can show.
+// Returns the declarations of a font of a layout. Limits its size to 6 to 72 points.
 std::string FontStyle(const ReportFont& font) {
   constexpr double kSmallest = 6;
   constexpr double kLargest = 72;

@@ -13,8 +13,8 @@
 
 namespace golf {
 
-// Describes standings. They are shown for each group of entries, after the columns of the place and
-// the name.
+// Describes a table of standings. The page shows it for each group of entries. Its first columns
+// are the place and the name, followed by `columns`.
 struct PageTable {
   Span span = Span::kRound;
   Measure measure = Measure::kNet;

@@ -15,8 +15,8 @@ struct PageQuestion {
   SharedState& state;
   Tiebreak tiebreak = Tiebreak::kNone;
   bool refreshes = false;
-  // Is called after a player or a team whose results cannot be calculated, as that of
-  // EntryQuestion. The page names them, too.
+  // Is called for each player or team whose results cannot be calculated; see EntryQuestion. The
+  // page also names the player or the team.
   std::function<void(const std::string& who, const NumberedError& error)> failed;
   // Is called with a sentence about a team that is left out.
   std::function<void(const std::string& sentence)> note;

@@ -10,8 +10,8 @@
 namespace golf {
 namespace {
 
-// Adds the scores of a measure. `sums` contains the sums of each round. A team that did not play
-// each round up to the shown one has no place in the totals.
+// Adds the scores of a measure. `sums` contains the sums of each round. A team has no place by its
+// total if it did not play each round up to the shown one.
 void AddScores(const CustomStanding::Sums& sums, int round, Measure measure, const std::string& key,
                ResultEntry& entry) {
   const auto last = static_cast<std::size_t>(round) - 1;

@@ -15,14 +15,15 @@ struct EntryColumn {
   std::function<std::string(const ResultEntry&)> text;
 };
 
-// Return a column of a text of the entries, of one part of a score, from 0, or of its total.
+// Return a column with a text of each entry, with one part of a score, or with its total. The first
+// part is 0.
 EntryColumn FactColumn(std::string heading, std::string ResultEntry::*fact);
 EntryColumn PartColumn(std::string heading, Span span, Measure measure, std::size_t part);
 EntryColumn TotalColumn(std::string heading, Span span, Measure measure);
 // Returns the column of the number of holes that a player has played. It is empty for a player who
 // has played all holes of the round, or none. `holes` is the number of holes of a round.
 EntryColumn HolesColumn(int holes);
-// Returns true if the column has a text for one of the entries.
+// Returns true if at least one entry has a text in this column.
 bool IsSomebodyOnCourse(const std::vector<ResultEntry>& entries, int holes);
 
 }  // namespace golf

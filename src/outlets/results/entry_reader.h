@@ -12,14 +12,14 @@
 
 namespace golf {
 
-// Describes which results of the open tournament to calculate. They are those of its active round
-// and of all rounds up to it.
+// Describes how to read the results of the open tournament. These are the scores of its active
+// round and the totals of round 1 to this round.
 struct EntryQuestion {
   SharedState& state;
   Tiebreak tiebreak = Tiebreak::kNone;
   bool with_cards = false;
-  // Is called after a player or a team whose results cannot be calculated. `who` describes the
-  // player or the team, in code page 1252. The result does not contain it.
+  // Is called for each player or team whose results cannot be calculated. `who` describes the
+  // player or the team, in code page 1252. The returned entries do not contain it.
   std::function<void(const std::string& who, const NumberedError& error)> failed;
   // Is called with a sentence about a team that has golfers but cannot be read.
   std::function<void(const std::string& sentence)> note;
@@ -28,8 +28,8 @@ struct EntryQuestion {
 // Returns the players of the entries that are not deleted, in the order of the file.
 std::vector<ResultEntry> ReadPlayers(const EntryQuestion& question);
 
-// Reads the cards and the statistics of a player, identified by the record of his entry. With
-// Span::kRound they are those of the active round, and otherwise those of all rounds up to it.
+// Reads the cards and the statistics of a player, identified by the record of his entry. Reads the
+// active round for Span::kRound, and round 1 to the active round for Span::kAllRounds.
 // Raises the errors of PlayerClass.
 PlayerCards ReadPlayerCards(SharedState& state, std::int32_t record, Span span);
 

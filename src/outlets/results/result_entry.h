@@ -15,7 +15,7 @@ namespace golf {
 // These structures contain the results of a player or a team as they are shown. All texts are in
 // code page 1252. They are the texts that the members of PlayerClass and TeamClass return.
 
-// A standing ranks the scores of the round that is shown, or those of all rounds up to it.
+// Standings rank the scores of the shown round, or the totals of round 1 to the shown round.
 enum class Span { kRound, kAllRounds };
 inline constexpr Span kSpans[] = {Span::kRound, Span::kAllRounds};
 
@@ -43,7 +43,8 @@ struct CardRow {
   std::bitset<kWholeRound + 1> counts;  // by hole: the score of this golfer counts for the team
 };
 
-// Returns a row. `text_of(hole)` returns the text of an entry of a table by hole.
+// Returns a row. `text_of(hole)` returns the text of a hole, 1 to 18, of kFirstNine, kSecondNine or
+// kWholeRound.
 template <class TextOf>
 CardRow CardRowOf(std::string heading, TextOf text_of) {
   CardRow row{std::move(heading), {}, {}};
@@ -68,7 +69,7 @@ CardRow SummedCardRow(std::string heading, NumberOf number_of) {
 struct RoundCard {
   int round = 0;
   std::vector<std::string> facts;  // such as the course; each is a short text
-  std::vector<CardRow> rows;       // a player's card has the rows of PlayerCardRow
+  std::vector<CardRow> rows;       // PlayerCardRow contains the order of the rows of a player
 };
 enum PlayerCardRow : std::size_t { kParRow, kStrokesRow, kGrossRow, kNetRow, kPointsRow };
 

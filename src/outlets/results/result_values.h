@@ -15,11 +15,14 @@ using ResultValue = std::variant<std::string, std::int32_t, float, double>;
 //   void Value(const char* name, ValueOf value_of);
 //   void Array(const char* name, int count, ValueOf value_of);
 //   void Arrays(const char* name, int first_key, int last_key, int count, ValueOf value_of);
-// `name` is a constant: the name of the member function that returns the value. In Value,
-// `value_of()` returns the value. In Array, `value_of(i)` returns the value of index `i`, 1 to
-// `count`. In Arrays, `value_of(key, i)` returns it for a key from `first_key` to `last_key`. The
-// visitor must read the values before it returns, since some of them are those of the round that
-// was calculated last.
+// `name` is a constant: the name of the member function that returns the value. The arguments of
+// `value_of` depend on the member function:
+//   Value   `value_of()` returns the value.
+//   Array   `value_of(i)` returns an element. `i` is 1 to `count`.
+//   Arrays  `value_of(key, i)` returns an element. `key` is `first_key` to `last_key`, and `i` is 1
+//           to `count`.
+// A visitor must call `value_of` before its member function returns, since the next calculation
+// replaces some values.
 //
 // An array has one of these counts:
 //   kHoles       the holes 1 to 18

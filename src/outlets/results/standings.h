@@ -8,7 +8,7 @@
 
 namespace golf {
 
-// Contains the entries that are ranked together: all, those of a flight, or those of a sex.
+// Contains the entries that are ranked together: all entries, or the entries of a flight or a sex.
 struct StandingsGroup {
   enum class Kind { kAll, kFlight, kSex };
   Kind kind = Kind::kAll;
@@ -21,8 +21,8 @@ inline constexpr StandingsGroup::Kind kGroupKinds[] = {
 // Returns the group of all entries, then a group for each flight and each sex that an entry has.
 std::vector<StandingsGroup> GroupsOf(const std::vector<ResultEntry>& entries);
 
-// Returns the group of the entries of a flight and a sex. An empty text stands for all flights
-// or both sexes.
+// Returns the group of the entries of a flight and a sex. An empty text selects all flights or both
+// sexes.
 StandingsGroup FilteredGroup(const std::vector<ResultEntry>& entries, const std::string& flight,
                              const std::string& sex);
 

@@ -70,7 +70,8 @@ class TeamBalls {
     return sums_[static_cast<int>(table)][column];
   }
 
-  // Return the name of a golfer of a block. It is empty if there is no such golfer.
+  // Return the name of the golfer in a row of a block. The name is empty if the team has fewer
+  // golfers in this round.
   std::string& Golfer(int block, int golfer) { return golfers_[block][golfer]; }
   const std::string& Golfer(int block, int golfer) const { return golfers_[block][golfer]; }
 

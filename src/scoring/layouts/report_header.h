@@ -18,9 +18,10 @@ struct HeaderValues {
   std::string date;    // of the round
 };
 
-// Returns a header line as it is shown. Replaces "(Tournament Name)", "(Course Name Played)",
-// "<Round#>" and "<RoundDate>" anywhere in the text, and removes the parentheses around a choice.
-// Ignores case. The result is empty if there is no line to show.
+// Returns a header line as a report shows it. Replaces "(Tournament Name)", "(Course Name Played)",
+// "<Round#>" and "<RoundDate>" by their values anywhere in the text, and removes the parentheses
+// around a choice. Upper and lower case are equal in these texts. Returns an empty text for the
+// choice "(No line)".
 std::string HeaderLine(std::string_view text, const HeaderValues& values);
 
 }  // namespace golf

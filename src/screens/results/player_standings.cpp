@@ -34,8 +34,8 @@ void Refill(ComboBox& list, const std::vector<std::string>& items) {
   list.Select(index);
 }
 
-// Returns the handicap strokes of a hole as dots. A minus sign means that the player gives the
-// strokes back.
+// Returns the handicap strokes of a hole as dots. A minus sign means that they are added to the
+// score instead of subtracted from it.
 std::string DotsOf(const std::string& strokes) {
   const int number = RoundToInt32(LeadingNumber(strokes));
   const int size = std::abs(number);
@@ -45,7 +45,7 @@ std::string DotsOf(const std::string& strokes) {
   return sign + std::string(static_cast<std::size_t>(size), '\x95');
 }
 
-// Returns the column of a block that shows an entry of a table by hole.
+// Returns the column of a block for a hole, a nine or the round.
 int BlockColumn(int hole) {
   return hole <= kHoles ? HoleColumn(hole) : SumColumn(1, hole - kFirstNine + 1);
 }
@@ -125,7 +125,7 @@ void PlayerStandings::SetVisible(bool visible) {
   SpanList.SetVisible(visible && results_.round > 1);
 }
 
-// Totals of rounds have neither points nor quota results.
+// A tournament that has only totals of rounds has neither points nor quota results.
 bool PlayerStandings::HasMeasure(Measure measure) const {
   return !results_.has_totals_only || RanksLowestFirst(measure);
 }

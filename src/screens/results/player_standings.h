@@ -11,8 +11,8 @@
 namespace golf {
 
 // Shows the standings of the open tournament's players in the tables of a screen. The operator
-// chooses what the places rank and which players are ranked. The card shows the player of the
-// active row, and his statistics are below it.
+// chooses the measure, the rounds and the players to rank. The card shows the player of the active
+// row, and his statistics are below it.
 class PlayerStandings {
  public:
   PlayerStandings(const ScreenContext& context, StandingsTables& tables);
@@ -43,7 +43,7 @@ class PlayerStandings {
   Label StatisticsLabel{"StatisticsLabel"};
 
  private:
-  // Contains the results of a round and what the tournament's options say about them.
+  // Contains the results of a round and the options of the tournament.
   struct Results {
     std::vector<ResultEntry> entries;
     int round = 1;

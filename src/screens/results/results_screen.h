@@ -13,10 +13,11 @@
 
 namespace golf {
 
-// Shows the results of a round of a tournament: the standings of the players, of the teams, and of
-// the teams under a layout, with the card of the active row. Makes web pages of them. The tables
-// keep the last results if the tournament cannot be read, and MessageLabel contains the reason. The
-// screen changes no data file: the chosen round and corrected values of records stay in memory.
+// Shows the results of one round of a tournament. Its tabs contain the standings of the players, of
+// the teams, and of the teams under a layout. Each tab also shows the card of the active row, and
+// the operator can save or print it as a web page. If the tournament cannot be read, the tables
+// keep the last results and MessageLabel shows the reason. The screen does not write to data files.
+// The chosen round and the corrected values of records are kept only in memory.
 class Results : public Screen {
  public:
   static constexpr const char* kName = "Results";
@@ -83,8 +84,8 @@ class Results : public Screen {
   Shown shown_;
   bool is_open_ = false;    // the shared objects have the shown tournament open
   int layout_ = 1;          // the last chosen item of LayoutList that is a layout
-  std::string calculated_;  // identifies what the standings of the teams were calculated for
-  // These are what the message says about the reading, the shown page and the card.
+  std::string calculated_;  // the tournament, round and layout of the standings of the teams
+  // MessageLabel shows these texts about the reading, the shown page and the card.
   std::string read_problem_;
   std::string page_problem_;
   std::string card_problem_;

@@ -29,7 +29,7 @@ class StandingsTables {
                      const std::vector<std::string>& keys = {});
   // Sorts the standings again by the keys of the last sort.
   void SortAgain();
-  // Forgets these keys.
+  // Forgets the keys of the last sort.
   void ForgetSort();
 
   // Sets the heading of the card's first column. Shows its columns for 18 holes with two nines, or

@@ -8,8 +8,8 @@
 
 namespace golf {
 
-// Shows the standings of the teams in the active tournament. The screen changes no data file: the
-// chosen round and corrected values of records stay in memory.
+// Shows the standings of the teams in the active tournament. The screen does not write to data
+// files. The chosen round and the corrected values of records are kept only in memory.
 class TeamResults : public Screen {
  public:
   static constexpr const char* kName = "TeamResults";

@@ -9,14 +9,14 @@
 
 namespace golf {
 
-// Shows the standings of the open tournament's teams in the tables of a screen, either over all
-// scores or under a report layout. The card shows the team of the active row hole by hole and marks
-// the balls that count.
+// Shows the standings of the open tournament's teams in the tables of a screen. The standings are
+// those of the total scores or those under a report layout. The card shows the team of the active
+// row hole by hole and marks the balls that count.
 class TeamStandings {
  public:
   TeamStandings(const ScreenContext& context, StandingsTables& tables);
 
-  // Fills LayoutList with the totals, which are selected, and the layouts.
+  // Fills LayoutList with the totals and the layouts, and selects the totals.
   void FillLayouts();
   // True if a layout is chosen, and not the totals.
   bool HasLayout() const { return LayoutList.index() > 0; }
