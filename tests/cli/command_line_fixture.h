@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <nlohmann/json.hpp>
@@ -46,6 +47,21 @@ class CommandLineTest : public testing::Test {
   void Restore(const Tree& files) {
     for (const auto& [name, bytes] : AllFiles()) folder.Remove("i/" + name);
     for (const auto& [name, bytes] : files) folder.Write("i/" + name, bytes);
+  }
+
+  // Calls `change` with the bytes of a file of the install, and writes them again.
+  template <class Change>
+  void Edit(const std::string& file, Change change) {
+    std::string bytes = folder.Read("i/" + file);
+    change(bytes);
+    folder.Write("i/" + file, bytes);
+  }
+  // Replaces bytes of a file. The file becomes longer if they are after its end.
+  void Put(const std::string& file, std::size_t at, const std::string& bytes) {
+    Edit(file, [&](std::string& content) {
+      content.resize(std::max(content.size(), at + bytes.size()));
+      content.replace(at, bytes.size(), bytes);
+    });
   }
 
   TempFolder folder;

@@ -139,20 +139,14 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   folder.Remove("i/qbdata/X0001.Q9T");
   const std::string entries = folder.Read("i/qbdata/X0001.Q9G");
   const std::string results = "--install i results players --tournament 1";
-  EXPECT_TRUE(Run(results + " --csv")
-                  .out.starts_with("Name,Handicap,Out,In,Total,Net,Points,Place,Flight,Sex,"));
-  EXPECT_NE(Run(results + " --csv").out.find("\n\"Duarte, Ines\",26,47,47,94,68,54,1,C,F,5,"),
-            std::string::npos);
-  std::string unplayed = entries;
-  unplayed.replace(7 * 3052 + 443, 2 * 36, 72, '\0');
-  folder.Write("i/qbdata/X0001.Q9G", unplayed);
+  const std::string csv = Run(results + " --csv").out;
+  EXPECT_TRUE(csv.starts_with("Name,Handicap,Out,In,Total,Net,Points,Place,Flight,Sex,"));
+  EXPECT_NE(csv.find("\n\"Duarte, Ines\",26,47,47,94,68,54,1,C,F,5,"), std::string::npos);
+  Put("qbdata/X0001.Q9G", 7 * 3052 + 443, std::string(72, '\0'));
   EXPECT_NE(Run(results + " --csv --round 2").out.find("\n\"Idris, Omar\",+1,,,,,,,A,M,,"),
             std::string::npos);
   folder.Write("i/qbdata/X0001.Q9G", entries);
-  // Round 1 has no ladies' tee.
-  std::string control = folder.Read("i/qbdata/X0001.Q9C");
-  control[180] = 0;
-  folder.Write("i/qbdata/X0001.Q9C", control);
+  Put("qbdata/X0001.Q9C", 180, std::string(1, '\0'));  // round 1 has no ladies' tee
   const Ended ended = Run(results + " --json");
   EXPECT_EQ(ended.code, 3);
   EXPECT_NE(ended.problems.find("Record 1, Bergstrom, Anna: Error # 9 was"), std::string::npos);
@@ -175,9 +169,7 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
 
 // The golfers' names hold what a spreadsheet or a terminal would obey.
 TEST_F(CommandLineTest, NamesAreNoCommands) {
-  std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
-  golfers.replace(golfers.find("Calder"), 6, "=\x7F+\x81 1");
-  folder.Write("i/qbdata/QBGOLFER.Q9D", golfers);
+  Put("qbdata/QBGOLFER.Q9D", folder.Read("i/qbdata/QBGOLFER.Q9D").find("Calder"), "=\x7F+\x81 1");
   const std::string results = "--install i results players --tournament 1";
   EXPECT_NE(Run(results + " --csv").out.find("\n\"'=?+? 1, "), std::string::npos);
   EXPECT_NE(Run(results + " --json").out.find(R"("NameLF":"=\u007f+\u0081 1, )"),

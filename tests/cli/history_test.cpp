@@ -45,6 +45,14 @@ class HistoryTest : public CommandLineTest {
     folder.Write("i/" + file, bytes);
   }
 
+  void AddEntryOfGolfer22() {
+    Edit("qbdata/X0001.Q9G", [](std::string& entries) {
+      std::string entry = RecordAt(entries, 1, 3052);
+      Put16(entry, 0, {22});
+      entries += entry;
+    });
+  }
+
   void WriteAll(const Tree& files) {
     for (const auto& [name, bytes] : files) Write(name, bytes);
   }
@@ -56,9 +64,9 @@ class HistoryTest : public CommandLineTest {
   }
   // Erases marks of a history file. Without "done" it is that of a crashed run.
   void Interrupt(int run, std::initializer_list<std::size_t> marks = {4}) {
-    std::string bytes = folder.Read("i/" + HistoryFile(run));
-    for (const std::size_t mark : marks) bytes.replace(mark * 512, 512, 512, '\0');
-    Write(HistoryFile(run), bytes);
+    for (const std::size_t mark : marks) {
+      Put(HistoryFile(run), mark * 512, std::string(512, '\0'));
+    }
   }
 };
 
@@ -235,8 +243,7 @@ TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
   for (const auto& c : kCases) {
     SCOPED_TRACE(c.section);
     MakeDemo();
-    std::string bytes = folder.Read(std::string("i/") + c.file);
-    Write(c.file, bytes.replace(c.at, c.bytes.size(), c.bytes));
+    Put(c.file, c.at, c.bytes);
     EXPECT_TRUE(In(c.words + " --dry-run").out.ends_with(c.section));
     EXPECT_TRUE(In(c.words + " --log log").out.ends_with(c.section));
     EXPECT_TRUE(In("history show 1").out.ends_with(std::string("\n\n") + c.section));
@@ -260,11 +267,8 @@ TEST_F(HistoryTest, WhoIsLeftOutAndWhy) {
 
 // A golfer without an ID number is written into a free record, which stays free for Quenby.
 TEST_F(HistoryTest, ChangesOfFreeAndEmptyRecordsAreShown) {
-  std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
-  PutRecord(golfers, 21, std::string(1867, '\0'));
-  Write("qbdata/QBGOLFER.Q9D", golfers);
-  std::string roster = folder.Read("i/kvdata/CLUB18.kvg");
-  Write("kvdata/CLUB18.kvg", roster.replace(11 * 2804 + 4, 4, 4, '\0'));  // the ID of golfer 12
+  Put("qbdata/QBGOLFER.Q9D", 20 * 1867, std::string(1867, '\0'));
+  Put("kvdata/CLUB18.kvg", 11 * 2804 + 4, std::string(4, '\0'));  // the ID of golfer 12
   Write("kvdata/CLUB18.kvs", "");
   std::string shown;
   for (const std::string words : {"golfers-kv-to-qb --roster CLUB18 --to 1",
@@ -362,10 +366,8 @@ TEST_F(HistoryTest, AConflictRefusesAndKeepsTheWholeGolfer) {
 TEST_F(HistoryTest, IndexesFollowACourseThatStays) {
   Transfer(kTransfers[0]);
   EXPECT_NE(In("history show 1").out.find("Number of courses ADDED: 5\n"), std::string::npos);
-  std::string library = folder.Read("i/qbdata/qbcrs.dat");
-  const std::size_t last = library.size() / 3226 * 3226 - 3226;
-  library[last + 34] = '!';  // the address
-  Write("qbdata/qbcrs.dat", library);
+  const std::size_t courses = folder.Read("i/qbdata/qbcrs.dat").size() / 3226;
+  Put("qbdata/qbcrs.dat", (courses - 1) * 3226 + 34, "!");  // the address
   ASSERT_EQ(In("undo --skip-changed").code, 0);
   // The index contains the number of courses, and their records in the order of the names.
   EXPECT_EQ(folder.Read("i/qbdata/ALLCRSQB.INX").substr(0, 10), Index({4, 8, 3, 2, 1}));
@@ -374,11 +376,7 @@ TEST_F(HistoryTest, IndexesFollowACourseThatStays) {
 TEST_F(HistoryTest, AnAddedGolferWhoPlaysByNowStays) {
   const Tree before = Data();
   Transfer(kGolfersKvToQb);
-  std::string entries = folder.Read("i/qbdata/X0001.Q9G");
-  std::string entry = RecordAt(entries, 1, 3052);
-  Put16(entry, 0, {22});
-  PutRecord(entries, entries.size() / 3052 + 1, entry);
-  Write("qbdata/X0001.Q9G", entries);
+  AddEntryOfGolfer22();
   const Ended refused = In("undo");
   EXPECT_EQ(refused.code, 1);
   EXPECT_TRUE(
@@ -394,11 +392,7 @@ TEST_F(HistoryTest, AnAddedGolferWhoPlaysByNowStays) {
 }
 
 TEST_F(HistoryTest, AReferenceThatIsOlderThanTheRunKeepsNoGolfer) {
-  std::string entries = folder.Read("i/qbdata/X0001.Q9G");
-  std::string entry = RecordAt(entries, 1, 3052);
-  Put16(entry, 0, {22});
-  PutRecord(entries, entries.size() / 3052 + 1, entry);
-  Write("qbdata/X0001.Q9G", entries);
+  AddEntryOfGolfer22();
   const Tree before = Data();
   Transfer(kGolfersKvToQb);
   ASSERT_EQ(In("undo").code, 0);
@@ -407,9 +401,8 @@ TEST_F(HistoryTest, AReferenceThatIsOlderThanTheRunKeepsNoGolfer) {
 
 TEST_F(HistoryTest, OthersWhoFollowAnAddedGolferKeepHim) {
   Transfer(kGolfersKvToQb);
-  std::string golfers = folder.Read("i/qbdata/QBGOLFER.Q9D");
-  PutRecord(golfers, 24, RecordAt(golfers, 10, 1867));
-  Write("qbdata/QBGOLFER.Q9D", golfers);
+  Edit("qbdata/QBGOLFER.Q9D",
+       [](std::string& golfers) { PutRecord(golfers, 24, RecordAt(golfers, 10, 1867)); });
   const auto events = JsonLines(In("undo --json").out);
   ASSERT_EQ(events.size(), 2u);
   EXPECT_EQ(events[1], json::parse(R"({"event":"conflict","file":"qbdata/QBGOLFER.Q9D","record":23,

@@ -2,7 +2,6 @@
 // other commands write.
 
 #include <algorithm>
-#include <functional>
 #include <random>
 #include <set>
 
@@ -79,13 +78,17 @@ bool IsEmpty(const std::string& value) {
          value.find_first_not_of(std::string(" \0", 2)) == std::string::npos;
 }
 
+std::string TextOf(const Json& value) {
+  return value.is_string() ? value.get<std::string>() : value.dump();
+}
+
 // Adds the elements of a field to the values, except for empty ones.
 void AddElements(const Json& field, const Field& described, Values& values) {
   if (field.is_array()) {
     for (const Json& element : field) AddElements(element, described, values);
     return;
   }
-  std::string value = field.is_string() ? field.get<std::string>() : field.dump();
+  std::string value = TextOf(field);
   if (described.type == FieldType::kSingle && field.is_number()) {
     value = Json(field.get<double>()).dump();
   }
@@ -234,29 +237,21 @@ TEST_F(ExportTest, RandomInstallsHaveEachNamedFieldOnce) {
 TEST_F(ExportTest, TheSumsAreThoseOfTheOtherCommands) {
   Export("--to e.sqlite");
   Database database(folder.Path("e.sqlite"));
-  const auto listed = [&](const std::string& words, const std::function<std::string(Json&)>& line) {
+  const auto listed = [&](const std::string& words, const std::vector<const char*>& keys) {
     std::string text;
-    for (Json& object : JsonLines(In("--json " + words).out)) {
-      if (const std::string one = line(object); !one.empty()) text += one + "\n";
+    for (const Json& object : JsonLines(In("--json " + words).out)) {
+      if (object.value("division", 1) == 0) continue;  // the league as a whole
+      for (const char* const key : keys) text += (key == keys[0] ? "" : "|") + TextOf(object[key]);
+      text += "\n";
     }
     return text;
   };
-  const auto number = [](const Json& object, const char* key) { return object[key].dump(); };
-  const auto text = [](const Json& object, const char* key) {
-    return object[key].get<std::string>();
-  };
   EXPECT_EQ(database.Text("select r.name, r.\"Holes\", count(*) from kelvane_rosters r "
                           "join kelvane_golfers g on g.roster_id = r.id group by r.id"),
-            listed("list rosters", [&](Json& roster) {
-              return text(roster, "name") + "|" + number(roster, "holes") + "|" +
-                     number(roster, "golfers");
-            }));
+            listed("list rosters", {"name", "holes", "golfers"}));
   EXPECT_EQ(database.Text("select roster, \"ClubName\", count(*) from quenby_roster_golfers "
                           "group by roster"),
-            listed("list qb-rosters", [&](Json& roster) {
-              return number(roster, "number") + "|" + text(roster, "name") + "|" +
-                     number(roster, "golfers");
-            }));
+            listed("list qb-rosters", {"number", "name", "golfers"}));
   for (const auto& [library, option] :
        {std::pair("kelvane", "kv"), {"quenby", "qb"}, {"zandel", "zd"}}) {
     EXPECT_EQ(database.Text("select c.number, c.\"Name\", ifnull(k.number, 0) from courses c "
@@ -264,36 +259,24 @@ TEST_F(ExportTest, TheSumsAreThoseOfTheOtherCommands) {
                             "join course_lists l on l.course_id = c.id and l.list = 'all' "
                             "where c.library = '" +
                             std::string(library) + "' order by c.number"),
-              listed("list courses --library " + std::string(option), [&](Json& course) {
-                return number(course, "number") + "|" + text(course, "name") + "|" +
-                       number(course, "link");
-              }));
+              listed("list courses --library " + std::string(option), {"number", "name", "link"}));
   }
   EXPECT_EQ(database.Text("select t.number, t.\"Name\", t.\"NumRounds\", count(*) "
                           "from tournaments t join entries e on e.tournament_id = t.id "
                           "group by t.id"),
-            listed("list tournaments", [&](Json& tournament) {
-              return number(tournament, "number") + "|" + text(tournament, "name") + "|" +
-                     number(tournament, "rounds") + "|" + number(tournament, "players");
-            }));
+            listed("list tournaments", {"number", "name", "rounds", "players"}));
   EXPECT_EQ(database.Text("select base, \"LeagueName\", \"LeagueHoles\", \"CurrentEvent\" "
                           "from leagues"),
-            listed("list leagues", [&](Json& league) {
-              if (league["division"] == 0) return std::string();  // the league as a whole
-              return text(league, "base") + "|" + text(league, "name") + "|" +
-                     number(league, "holes") + "|" + number(league, "currentEvent");
-            }));
+            listed("list leagues", {"base", "name", "holes", "currentEvent"}));
   EXPECT_EQ(database.Text("select count(*) from golfer_scores"),
             database.Text("select sum(\"ScoreCounter_1\") from kelvane_golfers"));
 }
 
 // A golfer whose net is below 0 is first, and one with a score below 0 has no place.
 TEST_F(ExportTest, TheStandingsHaveThePlacesOfTheCommand) {
-  std::string entries = folder.Read("i/qbdata/X0001.Q9G");
-  constexpr std::size_t kEntry = 3052;
-  entries.replace(2 * kEntry + 86, 4, "\0\0\xF0\x42", 4);  // a handicap of 120 in round 1
-  for (std::size_t hole = 0; hole < 18; ++hole) entries.replace(443 + 2 * hole, 2, "\xFE\xFF");
-  folder.Write("i/qbdata/X0001.Q9G", entries);
+  const char* const file = "qbdata/X0001.Q9G";
+  Put(file, 2 * 3052 + 86, std::string("\0\0\xF0\x42", 4));  // a handicap of 120 in round 1
+  for (std::size_t hole = 0; hole < 18; ++hole) Put(file, 443 + 2 * hole, "\xFE\xFF");
   Export("--to e.sqlite");
   std::istringstream csv(In("results players --tournament 1 --round 1 --csv").out);
   std::string wanted;
@@ -315,10 +298,6 @@ TEST_F(ExportTest, TheStandingsHaveThePlacesOfTheCommand) {
 TEST_F(ExportTest, ResultsAreThoseOfTheCommand) {
   Export("--to e.sqlite");
   Database database(folder.Path("e.sqlite"));
-  const auto text_of = [](const Json& value) {
-    if (value.is_null()) return std::string("null");
-    return value.is_string() ? value.get<std::string>() : value.dump();
-  };
   const struct {
     const char* what;
     std::string table;   // of rounds
@@ -346,7 +325,7 @@ TEST_F(ExportTest, ResultsAreThoseOfTheCommand) {
                                     name == "sex" || name.ends_with("Places");
           if (is_no_column) continue;
           const auto check = [&](const std::string& query, const Json& wanted) {
-            EXPECT_EQ(database.Text(query), text_of(wanted) + "\n") << query;
+            EXPECT_EQ(database.Text(query), TextOf(wanted) + "\n") << query;
             ++compared;
           };
           const auto column = [&](const std::string& end) {
@@ -388,12 +367,7 @@ TEST_F(ExportTest, TextsOfAnyBytesComeBack) {
   for (int code = 0; code < 256; ++code) names += static_cast<char>(code);
   const std::string texts[] = {"=1+1", "'=x", "a\"b,c", "-two", "\t=3", "@d", "+5", "''x"};
   for (const std::string& text : texts) names += text + std::string(16 - text.size(), ' ');
-  const std::string file = "i/qbdata/" + [&] {
-    for (const auto& [name, bytes] : AllFiles()) {
-      if (name.ends_with("QBGOLFER.Q9D")) return name.substr(name.find('/') + 1);
-    }
-    return std::string();
-  }();
+  const std::string file = "i/qbdata/QBGOLFER.Q9D";
   std::string golfers = folder.Read(file);
   constexpr std::size_t kLength = 1867;
   golfers.resize(kLength * 9);
@@ -483,9 +457,7 @@ TEST_F(ExportTest, DeletedRecordsComeOnRequest) {
             "(select count(*) from courses), (select count(*) from courses where deleted), "
             "(select count(*) from kelvane_scores where golfer_id = 1)");
   };
-  std::string golfers = folder.Read("i/kvdata/CLUB18.kvg");
-  golfers[455] = 3;  // the first golfer has three scores
-  folder.Write("i/kvdata/CLUB18.kvg", golfers);
+  Put("kvdata/CLUB18.kvg", 455, "\3");  // the first golfer has three scores
   ASSERT_EQ(Script("open CourseTable KV\nrow CourseGrid 1\nanswer \"DELETE COURSE?\" YES\n"
                    "click DeleteCourseButton\n")
                 .code,

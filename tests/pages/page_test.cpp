@@ -8,7 +8,7 @@
 #include <set>
 
 #include "cli/command_line_fixture.h"
-#include "core/record.h"
+#include "outlets/install_reader.h"
 #include "outlets/pages/results_page.h"
 #include "pages/html_page.h"
 #include "stores/quenby/quenby_layouts.h"
@@ -106,59 +106,54 @@ std::vector<Placed> Rank(std::vector<Placed> scored, std::vector<Placed> others,
   return scored;
 }
 
+// Calls `change` with each record of a file, and writes the file again.
+template <class Layout, class Change>
+void Each(TempFolder& folder, const std::string& name, Change change) {
+  const std::string file = "i/qbdata/" + name;
+  std::string bytes = folder.Read(file);
+  for (std::size_t at = 0; at + Layout::kLength <= bytes.size(); at += Layout::kLength) {
+    auto record = RecordOf<Layout>(bytes.substr(at, Layout::kLength));
+    change(record);
+    bytes.replace(at, Layout::kLength, record.Bytes());
+  }
+  folder.Write(file, bytes);
+}
+
 // Fills the tournament of the demonstration with random options, entries and golfers.
 struct RandomTournament {
   explicit RandomTournament(std::uint32_t seed) : random(seed) {}
 
   int Below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
 
-  template <class Layout, class Change>
-  void Each(TempFolder& folder, const std::string& file, Change change) {
-    std::string bytes = folder.Read(file);
-    for (std::size_t at = 0; at + Layout::kLength <= bytes.size(); at += Layout::kLength) {
-      Record<Layout> record;
-      std::copy_n(bytes.begin() + static_cast<std::ptrdiff_t>(at), Layout::kLength,
-                  record.MutableBytes().begin());
-      change(record);
-      bytes.replace(at, Layout::kLength, record.Bytes());
-    }
-    folder.Write(file, bytes);
-  }
-
   void Write(TempFolder& folder) {
-    Each<TournamentLayout>(folder, "i/qbdata/X0001.Q9C", [&](auto& control) {
-      control.template Set<"PositionOption">(
-          static_cast<std::int16_t>(position_option = 1 + Below(2)));
-      control.template Set<"HandicapDecimalPlaces">(static_cast<std::int16_t>(-Below(2)));
-      control.template Set<"ScoreEntryTotal">(
-          static_cast<std::int16_t>(-(has_totals_only = Below(5) == 0)));
-      control.template Set<"RoundType">(static_cast<std::int16_t>(holes = Below(4) == 0 ? 9 : 18));
-      control.template Set<"NumFlights">(4);
-      control.template Set<"NumTeamFlights">(4);
+    Each<TournamentLayout>(folder, "X0001.Q9C", [&](Record<TournamentLayout>& control) {
+      control.Set<"PositionOption">(static_cast<std::int16_t>(position_option = 1 + Below(2)));
+      control.Set<"HandicapDecimalPlaces">(static_cast<std::int16_t>(-Below(2)));
+      control.Set<"ScoreEntryTotal">(static_cast<std::int16_t>(-(has_totals_only = Below(5) == 0)));
+      control.Set<"RoundType">(static_cast<std::int16_t>(holes = Below(4) == 0 ? 9 : 18));
+      control.Set<"NumFlights">(4);
+      control.Set<"NumTeamFlights">(4);
     });
-    Each<TournamentPlayerLayout>(folder, "i/qbdata/X0001.Q9G", [&](auto& entry) {
+    Each<TournamentPlayerLayout>(folder, "X0001.Q9G", [&](Record<TournamentPlayerLayout>& entry) {
       for (int round = 1; round <= 2; ++round) {
-        entry.template Set<"TourFlight">({round},
-                                         std::string(1, static_cast<char>('A' + Below(3))));
-        const int team =
-            round > 1 && !changes_teams ? entry.template Get<"TourTeamOn">(1) : Below(4);
-        entry.template Set<"TourTeamOn">({round}, static_cast<std::int16_t>(team));
-        entry.template Set<"TourScoreGrossTotal">({round},
-                                                  static_cast<std::int16_t>(Below(3) * 40));
+        entry.Set<"TourFlight">({round}, std::string(1, static_cast<char>('A' + Below(3))));
+        const int team = round > 1 && !changes_teams ? entry.Get<"TourTeamOn">(1) : Below(4);
+        entry.Set<"TourTeamOn">({round}, static_cast<std::int16_t>(team));
+        entry.Set<"TourScoreGrossTotal">({round}, static_cast<std::int16_t>(Below(3) * 40));
         const bool is_played = Below(4) > 0;
         for (int hole = 1; hole <= 18; ++hole) {
           const int score = Below(60) == 0 ? 99 : Below(20) == 0 ? 0 : 4 + Below(2);
-          entry.template Set<"TourScoreGross">({hole, round},
-                                               static_cast<std::int16_t>(is_played ? score : 0));
+          entry.Set<"TourScoreGross">({hole, round},
+                                      static_cast<std::int16_t>(is_played ? score : 0));
         }
       }
     });
-    Each<PlayerLayout>(folder, "i/qbdata/QBGOLFER.Q9D", [&](auto& golfer) {
+    Each<PlayerLayout>(folder, "QBGOLFER.Q9D", [&](Record<PlayerLayout>& golfer) {
       constexpr std::uint8_t kSexes[] = {0, 1, 9};  // 9 counts as 0
-      golfer.template Set<"Sex">(kSexes[Below(3)]);
+      golfer.Set<"Sex">(kSexes[Below(3)]);
     });
-    Each<TeamLayout>(folder, "i/qbdata/X0001.Q9T", [&](auto& team) {
-      team.template Set<"Flight">({2}, std::string(1, static_cast<char>('A' + Below(2))));
+    Each<TeamLayout>(folder, "X0001.Q9T", [&](Record<TeamLayout>& team) {
+      team.Set<"Flight">({2}, std::string(1, static_cast<char>('A' + Below(2))));
     });
   }
 
@@ -505,14 +500,12 @@ TEST_F(PageTest, StatisticsAreThoseOfTheScores) {
 // Names, texts and fonts of any bytes add no element and no rule to the page.
 TEST_F(PageTest, HostileTextsStayTexts) {
   const std::string hostile = "</style><script>\"'&\x81\x01\r\n-->";
-  RandomTournament tournament(1);
-  tournament.Each<TournamentLayout>(folder, "i/qbdata/X0001.Q9C",
-                                    [&](auto& control) { control.template Set<"Name">(hostile); });
-  tournament.Each<PlayerLayout>(folder, "i/qbdata/QBGOLFER.Q9D", [&](auto& golfer) {
-    golfer.template Set<"NameLast">("<b>\x90&lt;");
-  });
-  tournament.Each<TeamLayout>(folder, "i/qbdata/X0001.Q9T",
-                              [&](auto& team) { team.template Set<"TeamName">(hostile); });
+  Each<TournamentLayout>(folder, "X0001.Q9C",
+                         [&](Record<TournamentLayout>& control) { control.Set<"Name">(hostile); });
+  Each<PlayerLayout>(folder, "QBGOLFER.Q9D",
+                     [&](Record<PlayerLayout>& golfer) { golfer.Set<"NameLast">("<b>\x90&lt;"); });
+  Each<TeamLayout>(folder, "X0001.Q9T",
+                   [&](Record<TeamLayout>& team) { team.Set<"TeamName">(hostile); });
   std::string fonts = folder.Read("i/qbdata/Two best nets.TR2");
   const std::size_t name = fonts.find('"') + 1;
   fonts.replace(name, fonts.find('"', name) - name, "A';}</style><b>\\");
@@ -562,9 +555,6 @@ TEST_F(PageTest, ACustomPageHasTheLayout) {
   };
   write();
   const std::string words = "custom --layout \"Two best nets\" --tournament 1 --round 2";
-  const auto header = [](const HtmlPage& page) {
-    return page.All("", page.All("header").at(0)).size() - 1;
-  };
   const auto lines_of = [](const HtmlPage& page) {
     std::vector<std::string> texts;
     for (const GumboNode* line : page.All("", page.All("header").at(0))) {
@@ -573,7 +563,7 @@ TEST_F(PageTest, ACustomPageHasTheLayout) {
     return texts;
   };
   const HtmlPage page = Page(words);
-  EXPECT_EQ(header(page), 4u);
+  EXPECT_EQ(lines_of(page).size(), 4u);
   EXPECT_EQ(lines_of(page),
             (std::vector<std::string>{"Cup of Autumn Medal", "Current Round - 2 on 09/15/24",
                                       "No. 7", "05/13/26"}));
@@ -585,7 +575,7 @@ TEST_F(PageTest, ACustomPageHasTheLayout) {
   for (std::size_t item = 3; item < 6; ++item) lines[item] = "0\r";
   write();
   const HtmlPage plain = Page(words);
-  EXPECT_EQ(header(plain), 2u);
+  EXPECT_EQ(lines_of(plain).size(), 2u);
   EXPECT_EQ(HtmlPage::Text(plain.All("style").at(0)).find("counter(page)"), std::string::npos);
   // The places are those of the JSON objects.
   for (const Json& team : JsonLines(In("--json results " + words).out)) {
@@ -600,10 +590,9 @@ TEST_F(PageTest, ACustomPageHasTheLayout) {
 }
 
 TEST_F(PageTest, ATeamWithoutARoundHasNoPlaceInTheTotals) {
-  RandomTournament tournament(1);
-  tournament.Each<TournamentPlayerLayout>(folder, "i/qbdata/X0001.Q9G", [](auto& entry) {
-    for (int hole = 1; hole <= 18 && entry.template Get<"TourTeamOn">(2) == 1; ++hole) {
-      entry.template Set<"TourScoreGross">({hole, 2}, 0);
+  Each<TournamentPlayerLayout>(folder, "X0001.Q9G", [](Record<TournamentPlayerLayout>& entry) {
+    for (int hole = 1; hole <= 18 && entry.Get<"TourTeamOn">(2) == 1; ++hole) {
+      entry.Set<"TourScoreGross">({hole, 2}, 0);
     }
   });
   const std::string words = "custom --layout \"Two best nets\" --tournament 1 --round 2";
@@ -671,9 +660,8 @@ TEST_F(PageTest, FilesThatAreNoPagesAreNotReplaced) {
   EXPECT_EQ(folder.Read("page.txt"), "kept");
   EXPECT_TRUE(folder.Read("page.HTM").starts_with("<!DOCTYPE html>"));
   EXPECT_EQ(In("results players --tournament 1 --watch").code, 2);
-  RandomTournament tournament(1);
-  tournament.Each<TournamentLayout>(folder, "i/qbdata/X0001.Q9C",
-                                    [](auto& control) { control.template Set<"ActiveRound">(0); });
+  Each<TournamentLayout>(folder, "X0001.Q9C",
+                         [](Record<TournamentLayout>& control) { control.Set<"ActiveRound">(0); });
   const Ended ended = In(words + "new.html");
   EXPECT_EQ(ended.code, 1);
   EXPECT_NE(ended.problems.find("Choose a round with --round."), std::string::npos);

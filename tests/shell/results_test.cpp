@@ -56,6 +56,14 @@ class ResultsTest : public testing::Test {
     install.Open("Results", [&](Screen& screen) { work(dynamic_cast<Results&>(screen)); });
   }
 
+  // Another program holds the file until the platform heals.
+  void Hold(const char* file) {
+    install.platform->Fail({.error = ErrorNumber::kPermissionDenied,
+                            .only = Operation::kOpen,
+                            .name = file,
+                            .stays = true});
+  }
+
   // Returns the gross score of a hole. Records, rounds and holes count from 1.
   int Gross(int record, int round, int hole) const {
     constexpr int kRecordLength = 3052, kFirstScore = 443;
@@ -292,12 +300,7 @@ TEST_F(ResultsTest, TheLastResultsStayIfTheFilesCannotBeRead) {
       {"X0001.Q9C is damaged: its last record is incomplete.", [&] { damage(kControl, 100); }},
       {"X0001.Q9C is damaged: it is empty.", [&] { damage(kControl, 0); }},
       {"X0001.Q9G is damaged: its last record is incomplete.", [&] { damage(kEntries, 5000); }},
-      {"X0001.Q9G", [&] {
-         install.platform->Fail({.error = ErrorNumber::kPermissionDenied,
-                                 .only = Operation::kOpen,
-                                 .name = "X0001.Q9G",
-                                 .stays = true});
-       }}};
+      {"X0001.Q9G", [&] { Hold("X0001.Q9G"); }}};
   OpenResults([&](Results& results) {
     const auto rows = RowsOf(results.tables.grid1);
     for (const auto& c : kCases) {
@@ -330,17 +333,11 @@ TEST_F(ResultsTest, TheLastResultsStayIfTheFilesCannotBeRead) {
 }
 
 TEST_F(ResultsTest, AHeldTournamentIsReadWhenItIsFree) {
-  const auto hold = [&](const char* file) {
-    install.platform->Fail({.error = ErrorNumber::kPermissionDenied,
-                            .only = Operation::kOpen,
-                            .name = file,
-                            .stays = true});
-  };
   for (const auto& [file, title, message] :
        {std::array{"QBMASTER.Q9D", "Autumn Medal, 09/14/24 (1)",
                    "The active tournament is not known, because QBMASTER.Q9D cannot be read."},
         std::array{"X0001.Q9C", "X0001.Q9C cannot be read (1)", "The results cannot be read. "}}) {
-    hold(file);
+    Hold(file);
     OpenResults([&, title = title, message = message](Results& results) {
       EXPECT_EQ(results.TournamentList.text(), title);
       EXPECT_TRUE(results.MessageLabel.caption().starts_with(message));
