@@ -53,12 +53,11 @@ Json StandingAsJson(const CustomStanding& standing, int round) {
 }  // namespace
 
 ReportLayout LayoutOf(SharedState& state, const ResultsRequest& request) {
-  if (!FitsFileName(TextFromUtf8(request.layout))) {
+  const std::string name = TextFromUtf8(request.layout);
+  if (!FitsFileName(name)) {
     throw Refusal("There is no layout " + request.layout + ".\n" + LayoutsThereAre(state));
   }
-  const std::string path =
-      state.StoreDataPath + TextFromUtf8(request.layout) + std::string(kLayoutExtension);
-  ReadLayout read = ReadReportLayout(state.files, path);
+  ReadLayout read = ReadReportLayout(state.files, state.StoreDataPath, name);
   if (!read.layout) {
     throw Refusal(PlainText(read.problem) + "\n" + LayoutsThereAre(state));
   }

@@ -41,7 +41,7 @@ Json ResultPlaces::PlacesOfSpan(std::size_t entry, Span span) const {
     Json& of_kind = places[std::string(kKindKeys[static_cast<std::size_t>(kind)])];
     for (const PlacedMeasure& measure : measures_) {
       if (span == Span::kAllRounds && !measure.has_totals) continue;
-      const std::optional<int>& place = places_[entry].At(kind, span, measure.measure);
+      const std::optional<int>& place = places_[entry][kind][span][measure.measure];
       of_kind[measure.name] = place ? Json(*place) : Json(nullptr);
     }
   }
@@ -95,7 +95,7 @@ void ResultPlaces::AddPlaceColumns(Span span, Kind kind, std::vector<Column>& co
     const std::string words(kKindWords[static_cast<std::size_t>(kind)]);
     columns.push_back({Heading(span == Span::kAllRounds ? "total" : "", of.name + " place" + words),
                        [this, span, kind, measure = of.measure](std::size_t entry) {
-                         return TextOrEmpty(places_[entry].At(kind, span, measure));
+                         return TextOrEmpty(places_[entry][kind][span][measure]);
                        }});
   }
 }

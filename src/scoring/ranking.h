@@ -19,16 +19,18 @@ constexpr bool RanksLowestFirst(Measure measure) {
   return measure == Measure::kGross || measure == Measure::kNet;
 }
 
-// Holds a value for each measure.
-template <class T>
-class ByMeasure {
+// Holds a value for each constant of an enumeration. The constants are 0 to kCount - 1.
+template <class Enum, std::size_t kCount, class T>
+class ByEnum {
  public:
-  T& operator[](Measure measure) { return values_[static_cast<std::size_t>(measure)]; }
-  const T& operator[](Measure measure) const { return values_[static_cast<std::size_t>(measure)]; }
+  T& operator[](Enum constant) { return values_[static_cast<std::size_t>(constant)]; }
+  const T& operator[](Enum constant) const { return values_[static_cast<std::size_t>(constant)]; }
 
  private:
-  std::array<T, std::size(kMeasures)> values_{};
+  std::array<T, kCount> values_{};
 };
+template <class T>
+using ByMeasure = ByEnum<Measure, std::size(kMeasures), T>;
 
 // A tiebreak orders equal gross or net scores. It compares the scores of the last 9, 6, 3 and 1
 // holes, or those of single holes: in the order of their handicap strokes, from the last hole to

@@ -135,8 +135,7 @@ class TournamentResults {
   }
 
   void ExportLayout(const std::string& name) {
-    ReadLayout read =
-        ReadReportLayout(state_.files, state_.StoreDataPath + name + std::string(kLayoutExtension));
+    ReadLayout read = ReadReportLayout(state_.files, state_.StoreDataPath, name);
     if (!read.layout) return run_.Note(read.problem + " Its results are left out.");
     LimitToChoices(*read.layout);
     CustomStandings standings(state_, *read.layout);

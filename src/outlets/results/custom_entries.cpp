@@ -62,19 +62,15 @@ class CardReader {
   void AddGolfer(int golfer, BallTable table, RoundCard& card) const {
     CardRow row{
         balls_.Golfer(round_, golfer) + (table == BallTable::kGross ? ", gross" : ", net"), {}, {}};
-    ByHole<TeamBalls::Sum> sums;
-    for (int hole = 1; hole <= kHoles; ++hole) {
-      const Ball& ball = balls_.At(table, golfer, ColumnOf(hole));
-      row.counts[static_cast<std::size_t>(hole)] = ball.selected;
-      for (const int entry : {hole, NineOf(hole), kWholeRound}) {
-        sums[entry] = AddSums(sums[entry], ball.value);
-      }
-    }
-    if (!sums[kWholeRound]) return;
+    const ByHole<TeamBalls::Sum> values = balls_.Values(table, golfer, round_);
+    if (!values[kWholeRound]) return;
     for (int hole = 1; hole <= kWholeRound; ++hole) {
+      const bool is_hole = hole <= kHoles;
       const bool is_unfinished =
-          table == BallTable::kGross && hole <= kHoles && sums[hole].value_or(0) >= kUnfinished;
-      row.cells[hole] = is_unfinished ? "F" : TextOrEmpty(sums[hole]);
+          is_hole && table == BallTable::kGross && values[hole].value_or(0) >= kUnfinished;
+      row.cells[hole] = is_unfinished ? "F" : TextOrEmpty(values[hole]);
+      row.counts[static_cast<std::size_t>(hole)] =
+          is_hole && balls_.At(table, golfer, ColumnOf(hole)).selected;
     }
     card.rows.push_back(std::move(row));
   }

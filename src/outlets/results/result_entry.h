@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <bitset>
 #include <optional>
 #include <string>
@@ -20,14 +19,7 @@ enum class Span { kRound, kAllRounds };
 inline constexpr Span kSpans[] = {Span::kRound, Span::kAllRounds};
 
 template <class T>
-class BySpan {
- public:
-  T& operator[](Span span) { return values_[static_cast<std::size_t>(span)]; }
-  const T& operator[](Span span) const { return values_[static_cast<std::size_t>(span)]; }
-
- private:
-  std::array<T, std::size(kSpans)> values_{};
-};
+using BySpan = ByEnum<Span, std::size(kSpans), T>;
 
 // Contains a score of a measure. All texts are empty if there is no score.
 struct ShownScore {

@@ -61,7 +61,7 @@ std::vector<EntryPlaces> PlacesOf(const std::vector<ResultEntry>& entries, int p
       for (const Measure measure : kMeasures) {
         for (const auto& [index, place] :
              RankGroup(entries, group, span, measure, position_option)) {
-          places[index].At(group.kind, span, measure) = place;
+          places[index][group.kind][span][measure] = place;
         }
       }
     }

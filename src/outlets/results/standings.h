@@ -32,18 +32,8 @@ std::vector<RankedPlace> RankGroup(const std::vector<ResultEntry>& entries,
                                    int position_option);
 
 // Contains the places of an entry in the groups of each kind.
-class EntryPlaces {
- public:
-  std::optional<int>& At(StandingsGroup::Kind kind, Span span, Measure measure) {
-    return places_[static_cast<std::size_t>(kind)][span][measure];
-  }
-  const std::optional<int>& At(StandingsGroup::Kind kind, Span span, Measure measure) const {
-    return places_[static_cast<std::size_t>(kind)][span][measure];
-  }
-
- private:
-  std::array<BySpan<ByMeasure<std::optional<int>>>, std::size(kGroupKinds)> places_;
-};
+using EntryPlaces =
+    ByEnum<StandingsGroup::Kind, std::size(kGroupKinds), BySpan<ByMeasure<std::optional<int>>>>;
 
 // Returns the places of each entry.
 std::vector<EntryPlaces> PlacesOf(const std::vector<ResultEntry>& entries, int position_option);

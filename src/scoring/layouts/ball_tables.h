@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "scoring/layouts/report_layout.h"
+#include "scoring/round_results.h"
 #include "scoring/team/team_round.h"
 #include "stores/quenby/quenby_layouts.h"
 
@@ -74,6 +75,9 @@ class TeamBalls {
   // golfers in this round.
   std::string& Golfer(int block, int golfer) { return golfers_[block][golfer]; }
   const std::string& Golfer(int block, int golfer) const { return golfers_[block][golfer]; }
+
+  // Returns the values of a golfer's balls in a block, with their sums.
+  ByHole<Sum> Values(BallTable table, int golfer, int block) const;
 
   // Return the gross sum plus the net sum, of scores and of points.
   Sum Score(int column) const;

@@ -178,6 +178,17 @@ TeamBalls::Sum AddSums(const TeamBalls::Sum& a, const TeamBalls::Sum& b) {
   return AddWhole(*a, *b);
 }
 
+ByHole<TeamBalls::Sum> TeamBalls::Values(BallTable table, int golfer, int block) const {
+  ByHole<Sum> values;
+  for (int hole = 1; hole <= kHoles; ++hole) {
+    const Sum& value = At(table, golfer, HoleColumn((block - 1) * kHoles + hole)).value;
+    for (const int entry : {hole, NineOf(hole), kWholeRound}) {
+      values[entry] = AddSums(values[entry], value);
+    }
+  }
+  return values;
+}
+
 TeamBalls::Sum TeamBalls::Score(int column) const {
   return AddSums(SumAt(BallTable::kGross, column), SumAt(BallTable::kNet, column));
 }

@@ -91,6 +91,10 @@ struct ReadLayout {
 // Read and write a layout. The names of its two files are `path` plus "1" and `path` plus "2".
 // `path` includes the extension. These functions raise the errors of FileTable.
 ReadLayout ReadReportLayout(FileTable& files, const std::string& path);
+inline ReadLayout ReadReportLayout(FileTable& files, const std::string& folder,
+                                   const std::string& name) {
+  return ReadReportLayout(files, folder + name + std::string(kLayoutExtension));
+}
 void WriteReportLayout(FileTable& files, const std::string& path, const ReportLayout& layout);
 // Returns true if the files can contain the text. They cannot contain a quote or a line end.
 bool FitsReportLayout(std::string_view text);

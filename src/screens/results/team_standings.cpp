@@ -1,7 +1,6 @@
 #include "screens/results/team_standings.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "core/number_text.h"
@@ -65,9 +64,8 @@ void TeamStandings::FillLayouts() {
 std::string TeamStandings::TakeLayout() {
   layout_ = {};
   if (!HasLayout()) return {};
-  ReadLayout read =
-      ReadReportLayout(context_.state.files, context_.state.StoreDataPath + LayoutList.text() +
-                                                 std::string(kLayoutExtension));
+  SharedState& state = context_.state;
+  ReadLayout read = ReadReportLayout(state.files, state.StoreDataPath, LayoutList.text());
   if (!read.layout) return read.problem;
   layout_ = *std::move(read.layout);
   LimitToChoices(layout_);
@@ -153,19 +151,15 @@ void TeamStandings::ShowCard() {
 void TeamStandings::ShowCardLine(const TeamBalls& balls, int row, const std::string& name,
                                  int golfer, BallTable table) {
   tables_.grid2.SetText(1, row, name);
-  const int block = calculated_->round - 1;
-  std::array<TeamBalls::Sum, 3> sums;  // the two nines and the total
+  const int round = calculated_->round;
+  const ByHole<TeamBalls::Sum> values = balls.Values(table, golfer, round);
   for (int hole = 1; hole <= kHoles; ++hole) {
-    const Ball& ball = balls.At(table, golfer, HoleColumn(block * kHoles + hole));
+    const Ball& ball = balls.At(table, golfer, HoleColumn((round - 1) * kHoles + hole));
     tables_.SetCardText(HoleColumn(hole), row,
-                        TextOrEmpty(ball.value) + (ball.selected ? "*" : ""));
-    for (const std::size_t sum : {hole > 9 ? 1U : 0U, 2U}) {
-      sums[sum] = AddSums(sums[sum], ball.value);
-    }
+                        TextOrEmpty(values[hole]) + (ball.selected ? "*" : ""));
   }
   for (int sum = 1; sum <= 3; ++sum) {
-    tables_.SetCardText(SumColumn(1, sum), row,
-                        TextOrEmpty(sums[static_cast<std::size_t>(sum) - 1]));
+    tables_.SetCardText(SumColumn(1, sum), row, TextOrEmpty(values[kHoles + sum]));
   }
 }
 
