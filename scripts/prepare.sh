@@ -1,8 +1,8 @@
 # Defines the packages that the project needs, and functions that install them and build the
 # project. The scripts run and test source it in the folder of the checkout.
 
-build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev zlib1g-dev
-                libsqlite3-dev)
+build_packages=(g++ cmake ninja-build pkg-config libwxgtk3.2-dev libgtk-3-dev libcli11-dev
+                nlohmann-json3-dev zlib1g-dev libsqlite3-dev)
 test_packages=(libgtest-dev librapidcheck-dev libgumbo-dev xvfb xauth)
 window_manager_packages=(openbox icewm x11-utils xdotool)
 fuzz_packages=(clang libclang-rt-14-dev)

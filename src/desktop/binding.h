@@ -72,6 +72,7 @@ class Binding {
   void Release();
   bool IsReleased() const { return screen_ == nullptr; }
 
+  HostBase& host() const { return host_; }
   // True if the system writes numbers with a decimal comma.
   bool has_decimal_comma() const { return host_.has_decimal_comma(); }
 

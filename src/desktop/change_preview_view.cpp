@@ -1,5 +1,6 @@
-#include "desktop/grid_widget.h"
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
+#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/history/change_preview.h"
@@ -17,12 +18,14 @@ wxSizer* Search(ScreenPanel& panel, ChangePreview& screen) {
   const auto beside = wxSizerFlags(middle).Border(wxLEFT, CloseGap(panel));
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(MakeFieldLabel(binding, &panel, screen.FilterLabel), middle);
-  wxTextCtrl* find = MakeTextBox(binding, &panel, screen.FilterBox);
+  wxTextCtrl* find =
+      NameAfter(binding, screen.FilterLabel, MakeTextBox(binding, &panel, screen.FilterBox));
   SetColumns(*find, kFindCharacters);
   row->Add(find, beside);
   row->Add(MakeFieldLabel(binding, &panel, screen.KindLabel),
            wxSizerFlags(middle).Border(wxLEFT, GroupGap(panel)));
-  row->Add(MakeChoice(binding, &panel, screen.KindList), beside);
+  row->Add(NameAfter(binding, screen.KindLabel, MakeChoice(binding, &panel, screen.KindList)),
+           beside);
   return row;
 }
 
@@ -47,8 +50,10 @@ void FillChangePreview(ScreenPanel& panel, ChangePreview& screen) {
   content->Add(counts, wxSizerFlags().Expand());
   content->Add(MakeWrappedLabel(binding, &panel, screen.NoteLabel, width), below);
   content->Add(Search(panel, screen), wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
-  wxGrid* list = MakeGrid(binding, &panel, screen.ChangeList, GridMarks::kRows, kRowsSeen);
-  SetRoom(panel, *list, kCharacters, kRowsSeen);
+  content->Add(MakeHeading(&panel, "Changes"), wxSizerFlags().Border(wxTOP, GroupGap(panel)));
+  wxDataViewCtrl* list =
+      MakeList(binding, &panel, screen.ChangeList, SelectedRows::kSeveral, kRowsSeen);
+  SetRoom(panel, *Named("Changes", list), kCharacters, kRowsSeen);
   content->Add(list, wxSizerFlags(below).Proportion(1));
   AddToFoot(panel, Buttons(panel, screen));
   FinishWindow(panel, content);

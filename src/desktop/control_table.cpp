@@ -2,16 +2,13 @@
 
 #include <wx/settings.h>
 
-#include <algorithm>
 #include <utility>
 
-#include "core/number_text.h"
 #include "desktop/wx_text.h"
 
 namespace golf {
 
-ControlTable::ControlTable(Binding& binding, Grid& control, bool labelled)
-    : binding_(binding), control_(control), labelled_(labelled) {
+ControlTable::ControlTable(Binding& binding, Grid& control) : binding_(binding), control_(control) {
   ChooseColumns();
   FillDropDowns();
 }
@@ -21,7 +18,7 @@ wxString ControlTable::GetColLabelValue(int column) {
 }
 
 wxString ControlTable::GetRowLabelValue(int row) {
-  return labelled_ && row < control_.rows() ? WxText(control_.text(0, row + 1)) : wxString();
+  return row < control_.rows() ? WxText(control_.text(0, row + 1)) : wxString();
 }
 
 wxString ControlTable::GetValue(int row, int column) {
@@ -38,26 +35,12 @@ void ControlTable::SetValue(int row, int column, const wxString& value) {
   Enter(row, column, text);
 }
 
-wxString ControlTable::GetTypeName(int, int column) {
-  return IsTick(column) ? wxGRID_VALUE_BOOL : wxGRID_VALUE_STRING;
-}
-
-bool ControlTable::CanGetValueAs(int row, int column, const wxString& type) {
-  return type == GetTypeName(row, column);
-}
-
-bool ControlTable::GetValueAsBool(int row, int column) {
-  return row < control_.rows() && LeadingNumber(control_.text(ControlColumn(column), row + 1)) != 0;
-}
-
 wxGridCellAttr* ControlTable::GetAttr(int row, int column, wxGridCellAttr::wxAttrKind) {
   auto* attributes = new wxGridCellAttr;
   const int control_column = ControlColumn(column);
   const bool locked = control_.IsLocked(control_column, row + 1);
-  attributes->SetReadOnly(locked || IsTick(column));  // only TurnTick changes ticks
-  if (IsTick(column) || control_.IsCentred(control_column)) {
-    attributes->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
-  }
+  attributes->SetReadOnly(locked);
+  if (control_.IsCentred(control_column)) attributes->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
   if (locked && control_.cell_type(control_column) != CellType::kText) {
     attributes->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
   }
@@ -67,22 +50,6 @@ wxGridCellAttr* ControlTable::GetAttr(int row, int column, wxGridCellAttr::wxAtt
     attributes->SetEditor(editor->second.editor.get());
   }
   return attributes;
-}
-
-bool ControlTable::TurnTick(int row, int column) {
-  const bool there = row >= 0 && row < control_.rows() && column >= 0 && IsTick(column);
-  if (!there || control_.IsLocked(ControlColumn(column), row + 1)) return false;
-  Enter(row, column, GetValueAsBool(row, column) ? "0" : "1");
-  return true;
-}
-
-int ControlTable::OnlyTickColumn() const {
-  const auto is_tick = [this](int control_column) {
-    return control_.cell_type(control_column) == CellType::kCheckBox;
-  };
-  if (std::count_if(columns_.begin(), columns_.end(), is_tick) != 1) return -1;
-  const auto only = std::find_if(columns_.begin(), columns_.end(), is_tick);
-  return static_cast<int>(only - columns_.begin());
 }
 
 bool ControlTable::CatchUp() {
@@ -105,10 +72,6 @@ const std::string& ControlTable::Shown(int control_column, int row) const {
     if (item.CellText() == text) return item.text;
   }
   return text;
-}
-
-bool ControlTable::IsTick(int column) const {
-  return control_.cell_type(ControlColumn(column)) == CellType::kCheckBox;
 }
 
 // Creates one editor for each column of drop-downs. An editor must exist longer than the attributes
@@ -138,7 +101,7 @@ void ControlTable::Enter(int row, int column, std::string text) {
 void ControlTable::ChooseColumns() {
   rows_ = control_.rows();
   columns_.clear();
-  for (int column = labelled_ ? 1 : 0; column <= control_.columns(); ++column) {
+  for (int column = 1; column <= control_.columns(); ++column) {
     if (!control_.IsHidden(column)) columns_.push_back(column);
   }
 }

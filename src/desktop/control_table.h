@@ -16,8 +16,8 @@ namespace golf {
 // the control.
 class ControlTable : public wxGridTableBase {
  public:
-  // If `labelled` is true, column 0 of the control contains the row labels.
-  ControlTable(Binding& binding, Grid& control, bool labelled);
+  // Column 0 of the control contains the row labels.
+  ControlTable(Binding& binding, Grid& control);
 
   int GetNumberRows() override { return rows_; }
   int GetNumberCols() override { return static_cast<int>(columns_.size()); }
@@ -25,18 +25,7 @@ class ControlTable : public wxGridTableBase {
   wxString GetRowLabelValue(int row) override;
   wxString GetValue(int row, int column) override;
   void SetValue(int row, int column, const wxString& value) override;
-  wxString GetTypeName(int row, int column) override;
-  bool CanGetValueAs(int row, int column, const wxString& type) override;
-  bool GetValueAsBool(int row, int column) override;
   wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind kind) override;
-
-  // Returns the column of the control that a column of the toolkit's grid shows.
-  int ControlColumn(int column) const { return columns_[static_cast<std::size_t>(column)]; }
-
-  // Toggles the tick of a cell. Returns false if the cell has no tick or is locked.
-  bool TurnTick(int row, int column);
-  // Returns the column of ticks if there is exactly one, or -1 otherwise.
-  int OnlyTickColumn() const;
 
   // Notifies the view of rows and columns that have been added or removed. Returns true if there
   // were any.
@@ -48,8 +37,9 @@ class ControlTable : public wxGridTableBase {
     wxArrayString choices;
   };
 
+  // Returns the column of the control that a column of the toolkit's grid shows.
+  int ControlColumn(int column) const { return columns_[static_cast<std::size_t>(column)]; }
   const std::string& Shown(int control_column, int row) const;
-  bool IsTick(int column) const;
   void FillDropDowns();
   wxArrayString Choices(int control_column) const;
   void Enter(int row, int column, std::string text);
@@ -58,7 +48,6 @@ class ControlTable : public wxGridTableBase {
 
   Binding& binding_;
   Grid& control_;
-  bool labelled_;
   std::map<int, DropDown> drop_downs_;  // by the control's column
   std::vector<int> columns_;            // the control's visible columns
   int rows_ = 0;

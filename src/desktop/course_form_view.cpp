@@ -1,5 +1,6 @@
-#include "desktop/grid_widget.h"
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
+#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/courses/course_form.h"
@@ -23,7 +24,8 @@ wxSizer* Texts(ScreenPanel& panel, CourseForm& screen) {
   for (TextBox* text : {&screen.FCourseName, &screen.FAddress1, &screen.FAddress2, &screen.FCity,
                         &screen.FState, &screen.FZipcode, &screen.FPhone, &screen.FGolfPro}) {
     name();
-    wxTextCtrl* box = MakeTextBox(binding, &panel, *text);
+    wxTextCtrl* box =
+        NameAfter(binding, screen.lblLabels[i - 1], MakeTextBox(binding, &panel, *text));
     SetColumns(*box, kTextCharacters);
     SetRoom(panel, *box);
     fields->Add(box, wxSizerFlags().Expand());
@@ -33,9 +35,7 @@ wxSizer* Texts(ScreenPanel& panel, CourseForm& screen) {
 
 wxPanel* Holes(ScreenPanel& panel, CourseForm& screen) {
   wxPanel* frame = MakeFrame(panel.binding(), &panel, screen.HolesFrame);
-  wxStaticText* title = new wxStaticText(frame, wxID_ANY, "Holes");
-  MakeBold(*title);
-  wxSizer* column = Column({title});
+  wxSizer* column = Column({MakeHeading(frame, "Holes")});
   long style = wxRB_GROUP;
   for (OptionButton& option : screen.FHoleNum) {
     column->Add(MakeOption(panel.binding(), frame, option, style),
@@ -55,9 +55,11 @@ void FillCourseForm(ScreenPanel& panel, CourseForm& screen) {
   top->Add(Holes(panel, screen));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(top, wxSizerFlags().Expand());
-  wxGrid* tees = MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, screen.grid1.rows());
-  SetRoom(panel, *tees);
-  content->Add(tees, wxSizerFlags(1).Expand().Border(wxTOP, GroupGap(panel)));
+  content->Add(MakeHeading(&panel, "Tees"), wxSizerFlags().Border(wxTOP, GroupGap(panel)));
+  wxDataViewCtrl* tees =
+      MakeList(binding, &panel, screen.grid1, SelectedRows::kOne, screen.grid1.rows());
+  SetRoom(panel, *Named("Tees", tees));
+  content->Add(tees, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
   content->Add(MakeButton(binding, &panel, screen.EditTeeButton),
                wxSizerFlags().Border(wxTOP, CloseGap(panel)));
   AddToFoot(panel, ButtonRow({.affirmative = MakeButton(binding, panel.foot(), screen.OKButton),

@@ -1,5 +1,6 @@
-#include "desktop/grid_widget.h"
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
+#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/courses/course_table.h"
@@ -14,8 +15,12 @@ constexpr int kListCharacters = 56;
 
 void FillCourseTable(ScreenPanel& panel, CourseTable& screen) {
   const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
-  wxGrid* grid = MakeGrid(panel.binding(), &panel, screen.CourseGrid, GridMarks::kRows, kRowsSeen);
-  SetRoom(panel, *grid, kListCharacters, kRowsSeen);
+  auto* list = new wxBoxSizer(wxVERTICAL);
+  list->Add(MakeHeading(&panel, "Courses"), wxSizerFlags().Border(wxBOTTOM, CloseGap(panel)));
+  wxDataViewCtrl* courses =
+      MakeList(panel.binding(), &panel, screen.CourseGrid, SelectedRows::kOne, kRowsSeen);
+  SetRoom(panel, *Named("Courses", courses), kListCharacters, kRowsSeen);
+  list->Add(courses, wxSizerFlags(1).Expand());
   auto* buttons = new wxBoxSizer(wxVERTICAL);
   buttons->Add(Column({button(screen.AddCourseButton), button(screen.EditCourseButton),
                        button(screen.DeleteCourseButton), button(screen.Help)}),
@@ -23,7 +28,7 @@ void FillCourseTable(ScreenPanel& panel, CourseTable& screen) {
   buttons->AddStretchSpacer();
   buttons->Add(button(screen.CloseButton), wxSizerFlags().Expand());
   auto* content = new wxBoxSizer(wxHORIZONTAL);
-  content->Add(grid, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
+  content->Add(list, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
   content->Add(buttons, wxSizerFlags().Expand());
   FinishWindow(panel, content);
 }

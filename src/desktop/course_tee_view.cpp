@@ -1,5 +1,7 @@
 #include <wx/gbsizer.h>
 
+#include "core/text.h"
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
@@ -20,6 +22,20 @@ constexpr int kNumberCharacters = 5;
 constexpr int kNoteCharacters = 72;
 
 constexpr int kNoteLines = 3;
+
+enum CardRow { kLengthRow = 1, kParRow, kHandicapRow };
+
+wxString HoleText(const CourseTee& screen, std::size_t hole) {
+  const bool is_first = hole % kNine == 0;  // whose number is chosen in a list
+  const ComboBox& list = hole == 0 ? screen.FrontHoleNumber : screen.BackHoleNumber;
+  return "Hole " + WxText(is_first ? list.text() : screen.HoleNumber[hole].caption());
+}
+
+// Says what a row of the card contains: yards or meters, par or handicap.
+wxString WhatText(const CourseTee& screen, int row) {
+  if (row == kLengthRow) return WxText(LowerCase(screen.YardOrMeter.caption()));
+  return row == kParRow ? "par" : "handicap";
+}
 
 class TeeFiller {
  public:
@@ -49,10 +65,6 @@ class TeeFiller {
  private:
   wxSizerFlags Below() const { return wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)); }
 
-  wxStaticText* Text(wxWindow* parent, const wxString& text) {
-    return new wxStaticText(parent, wxID_ANY, text);
-  }
-
   wxSizer* Heading() {
     wxStaticText* course = MakeLabel(binding_, &panel_, screen_.FCourse);
     MakeBold(*course);
@@ -60,7 +72,7 @@ class TeeFiller {
     row->Add(course, wxSizerFlags().CentreVertical());
     row->Add(MakeLabel(binding_, &panel_, screen_.FHoles),
              wxSizerFlags().CentreVertical().Border(wxLEFT, 2 * GroupGap(panel_)));
-    row->Add(Text(&panel_, " holes"), wxSizerFlags().CentreVertical());
+    row->Add(MakeText(&panel_, " holes"), wxSizerFlags().CentreVertical());
     row->Add(MakeCheckBox(binding_, &panel_, screen_.ActiveTee),
              wxSizerFlags().CentreVertical().Border(wxLEFT, 2 * GroupGap(panel_)));
     return row;
@@ -69,22 +81,32 @@ class TeeFiller {
   // Lays out the name, the ratings and the slopes.
   wxPanel* Entries() {
     wxPanel* frame = MakeFrame(binding_, &panel_, screen_.TeeFrame);
-    auto* rows = new wxFlexGridSizer(5, CloseGap(panel_), GroupGap(panel_));
+    auto* rows = new wxFlexGridSizer(6, CloseGap(panel_), GroupGap(panel_));
     const auto middle = wxSizerFlags().CentreVertical();
     const auto add = [&](wxControl* widget, int characters) {
       SetColumns(*widget, characters);
       rows->Add(widget, middle);
     };
-    rows->Add(Text(frame, "Tee"), middle);
-    add(MakeTextCombo(binding_, frame, screen_.FTeeName), kNameCharacters);
-    rows->Add(Text(frame, "Abbreviation"), middle);
-    add(MakeTextBox(binding_, frame, screen_.FTeeNameAbv), kNumberCharacters);
-    add(MakeChoice(binding_, frame, screen_.YardsOrMeters), kNameCharacters);
-    const auto add_group = [&](const char* group, RatingBox& rating, SlopeBox& slope) {
-      rows->Add(Text(frame, wxString(group) + " rating"), middle);
-      add(MakeTextBox(binding_, frame, rating), kNumberCharacters);
-      rows->Add(Text(frame, "Slope"), middle);
-      add(MakeTextBox(binding_, frame, slope), kNumberCharacters);
+    MakeAccessibleGroup(*frame, "Tee");
+    rows->Add(MakeText(frame, "Tee"), middle);
+    add(Named("Tee", MakeTextCombo(binding_, frame, screen_.FTeeName)), kNameCharacters);
+    rows->Add(MakeText(frame, "Abbreviation"), middle);
+    add(Named("Abbreviation", MakeTextBox(binding_, frame, screen_.FTeeNameAbv)),
+        kNumberCharacters);
+    rows->Add(MakeText(frame, "Unit"), middle);
+    add(Named("Unit", MakeChoice(binding_, frame, screen_.YardsOrMeters)), kNameCharacters);
+    const auto add_number = [&](const wxString& what, TextBox& number) {
+      wxTextCtrl* entry = MakeTextBox(binding_, frame, number);
+      add(NameBy(binding_, entry,
+                 [=, tee = &screen_.FTeeName] { return what + ", " + WxText(tee->text()); }),
+          kNumberCharacters);
+    };
+    const auto add_group = [&](const wxString& group, RatingBox& rating, SlopeBox& slope) {
+      rows->Add(MakeText(frame, group + " rating"), middle);
+      add_number(group + " rating", rating);
+      rows->Add(MakeText(frame, "Slope"), middle);
+      add_number(group + " slope", slope);
+      rows->AddSpacer(0);
       rows->AddSpacer(0);
     };
     add_group("Men's", screen_.FMensRating, screen_.FMensSlope);
@@ -97,6 +119,7 @@ class TeeFiller {
   wxPanel* Card(Frame& control, ComboBox& first_number, std::size_t first, const char* sum_name,
                 Label& yard_sum, Label& par_sum) {
     wxPanel* frame = MakeFrame(binding_, &panel_, control);
+    MakeAccessibleGroup(*frame, first == 0 ? "Front nine" : "Back nine");
     auto* card = new wxGridBagSizer(CloseGap(panel_) / 2, CloseGap(panel_) / 2);
     const auto put = [&](wxWindow* widget, int row, std::size_t column, int flags = 0) {
       card->Add(widget, {row, static_cast<int>(column)}, {1, 1}, wxALIGN_CENTRE_VERTICAL | flags);
@@ -111,36 +134,47 @@ class TeeFiller {
       card->Add(sum, {row, static_cast<int>(kNine) + 1}, {1, 1}, wxALIGN_CENTRE_VERTICAL | wxLEFT,
                 CloseGap(panel_));
     };
-    put_label(Text(frame, "Hole"), 0);
-    put(MakeChoice(binding_, frame, first_number), 0, 1);
+    put_label(MakeText(frame, "Hole"), 0);
+    put(Named("First hole", MakeChoice(binding_, frame, first_number)), 0, 1);
     for (std::size_t i = 1; i < kNine; ++i) {
       wxStaticText* hole = MakeLabel(binding_, frame, screen_.HoleNumber[first + i]);
       MakeBold(*hole);
       put(hole, 0, i + 1, wxALIGN_CENTRE_HORIZONTAL);
     }
-    put_sum(Text(frame, sum_name), 0);
-    put_label(first == 0 ? MakeLabel(binding_, frame, screen_.YardOrMeter) : UnitAgain(frame), 1);
-    put_label(Text(frame, "Par"), 2);
-    put_label(Text(frame, "Handicap"), 3);
-    int row = 1;
-    for (HoleControls<TextBox>* boxes : {&screen_.FYardage, &screen_.FPar, &screen_.FHandicap}) {
+    put_sum(MakeText(frame, sum_name), 0);
+    const auto put_row = [&](wxStaticText* label, HoleControls<TextBox>& boxes, int row) {
+      put_label(label, row);
       for (std::size_t i = 0; i < kNine; ++i) {
-        TextBox& box = (*boxes)[first + i];
+        TextBox& box = boxes[first + i];
         wxTextCtrl* entry = MakeTextBox(binding_, frame, box, wxTE_CENTRE);
+        NameBy(binding_, entry, [this_screen = &screen_, hole = first + i, row] {
+          return HoleText(*this_screen, hole) + " " + WhatText(*this_screen, row);
+        });
         SetColumns(*entry, kHoleCharacters);
         put(entry, row, i + 1, wxALIGN_CENTRE_HORIZONTAL);
       }
-      ++row;
-    }
-    put_sum(MakeLabel(binding_, frame, yard_sum), 1);
-    put_sum(MakeLabel(binding_, frame, par_sum), 2);
+    };
+    put_row(first == 0 ? MakeLabel(binding_, frame, screen_.YardOrMeter) : UnitAgain(frame),
+            screen_.FYardage, kLengthRow);
+    put_row(MakeText(frame, "Par"), screen_.FPar, kParRow);
+    put_row(MakeText(frame, "Handicap"), screen_.FHandicap, kHandicapRow);
+    put_sum(NameSum(MakeLabel(binding_, frame, yard_sum), sum_name, kLengthRow, yard_sum),
+            kLengthRow);
+    put_sum(NameSum(MakeLabel(binding_, frame, par_sum), sum_name, kParRow, par_sum), kParRow);
     frame->SetSizer(card);
     return frame;
   }
 
+  // Names a sum, such as "Out par 36".
+  wxStaticText* NameSum(wxStaticText* text, const wxString& nine, int row, const Label& sum) {
+    return NameBy(binding_, text, [this_screen = &screen_, nine, row, &sum] {
+      return nine + " " + WhatText(*this_screen, row) + " " + WxText(sum.caption());
+    });
+  }
+
   // Returns a text that shows the unit also beside the second nine.
   wxStaticText* UnitAgain(wxWindow* frame) {
-    wxStaticText* unit = Text(frame, "");
+    wxStaticText* unit = MakeText(frame, "");
     binding_.ShowAlso([unit, this_unit = &screen_.YardOrMeter] {
       unit->SetLabelText(WxText(this_unit->caption()));
     });
@@ -149,12 +183,13 @@ class TeeFiller {
 
   wxPanel* Totals() {
     wxPanel* frame = MakeFrame(binding_, &panel_, screen_.TotalFrame);
+    MakeAccessibleGroup(*frame, "Totals");
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     const auto add = [&](const char* name, Label& total) {
       wxStaticText* sum = MakeLabel(binding_, frame, total);
       MakeBold(*sum);
       SetColumns(*sum, kTotalCharacters);
-      row->Add(Text(frame, name), wxSizerFlags().Border(wxRIGHT, CloseGap(panel_)));
+      row->Add(MakeText(frame, name), wxSizerFlags().Border(wxRIGHT, CloseGap(panel_)));
       row->Add(sum, wxSizerFlags().Border(wxRIGHT, GroupGap(panel_)));
     };
     add("Total length", screen_.FYardTotal);

@@ -1,6 +1,8 @@
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
+#include "desktop/wx_text.h"
 #include "screens/results/grid_sort_screen.h"
 
 namespace golf {
@@ -27,10 +29,17 @@ wxSizer* Keys(ScreenPanel& panel, GridSort& screen) {
   rows->AddSpacer(0);
   for (std::size_t i = 0; i < screen.SortList.size(); ++i) {
     rows->Add(MakeLabel(panel.binding(), &panel, screen.SortLabel[i]), middle);
-    rows->Add(MakeColumnList(panel, screen.SortList[i]), wxSizerFlags().Expand().CentreVertical());
-    GridSort::Options& orders = *screen.options[i];
-    rows->Add(MakeOption(panel.binding(), &panel, orders[0], wxRB_GROUP), middle);
-    rows->Add(MakeOption(panel.binding(), &panel, orders[1]), middle);
+    // The labels and the options of the keys repeat each other.
+    const wxString key = ", key " + std::to_string(i + 1);
+    rows->Add(Named(NameOf(screen.SortLabel[i]) + key, MakeColumnList(panel, screen.SortList[i])),
+              wxSizerFlags().Expand().CentreVertical());
+    long option_style = wxRB_GROUP;
+    for (OptionButton& order : *screen.options[i]) {
+      rows->Add(Named(WxText(order.caption()) + key,
+                      MakeOption(panel.binding(), &panel, order, option_style)),
+                middle);
+      option_style = 0;
+    }
   }
   return rows;
 }

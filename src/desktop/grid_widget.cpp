@@ -20,24 +20,17 @@ constexpr int kMargin = 8;    // around a cell's text, both sides together
 // Is the widget of a grid control.
 class GridView : public wxGrid {
  public:
-  GridView(Binding& binding, wxWindow* parent, Grid& control, GridMarks marks)
+  GridView(Binding& binding, wxWindow* parent, Grid& control)
       : wxGrid(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxWANTS_CHARS | wxBORDER_THEME),
         binding_(binding),
         control_(control),
-        marks_(marks),
-        table_(new ControlTable(binding, control, marks == GridMarks::kLabelledCells)) {
-    SetTable(table_, true, marks == GridMarks::kRows ? wxGridSelectRows : wxGridSelectCells);
+        table_(new ControlTable(binding, control)) {
+    SetTable(table_, true, wxGridSelectCells);
     SetRowLabelAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
-    SetRowLabelSize(marks == GridMarks::kLabelledCells ? wxGRID_AUTOSIZE : 0);
+    SetRowLabelSize(wxGRID_AUTOSIZE);
     SetColLabelSize(wxGRID_AUTOSIZE);
     DisableDragRowSize();
-    if (marks == GridMarks::kRows) SetCellHighlightPenWidth(0);
-    if (marks == GridMarks::kRows) SetCellHighlightROPenWidth(0);
     Bind(wxEVT_GRID_SELECT_CELL, &GridView::OnSelect, this);
-    Bind(wxEVT_GRID_CELL_LEFT_CLICK, &GridView::OnClick, this);
-    Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &GridView::OnDoubleClick, this);
-    Bind(wxEVT_GRID_LABEL_LEFT_CLICK, &GridView::OnHeadingClick, this);
-    Bind(wxEVT_GRID_LABEL_LEFT_DCLICK, &GridView::OnHeadingClick, this);  // each click counts
     Bind(wxEVT_GRID_COL_AUTO_SIZE, [this](wxGridSizeEvent& event) {
       SetColSize(event.GetRowOrCol(), WidthOf(event.GetRowOrCol()));
     });
@@ -117,7 +110,6 @@ class GridView : public wxGrid {
     const int row = control_.active_row() - 1;
     if (row < 0) return ClearSelection();
     if (GetGridCursorRow() != row) SetGridCursor(row, std::max(GetGridCursorCol(), 0));
-    if (marks_ == GridMarks::kRows && !IsInSelection(row, 0)) SelectRow(row);
     MakeCellVisible(row, std::max(GetGridCursorCol(), 0));
   }
 
@@ -146,15 +138,8 @@ class GridView : public wxGrid {
   void OnSelect(wxGridEvent& event) {
     event.Skip();
     const int row = event.GetRow() + 1;
-    // The toolkit deselects the row when the cursor moves along it.
-    const bool marks_row = marks_ == GridMarks::kRows && !showing_;
-    if (marks_row && !IsInSelection(row - 1, 0)) SelectRow(row - 1);
-    if (!showing_) Activate(row);
-  }
-
-  // Activates a row after the current event. The row is checked then, since the rows may have
-  // changed.
-  void Activate(int row) {
+    if (showing_) return;
+    // The row is checked after the current event, since the rows may have changed by then.
     binding_.OperateSoon(control_, [this, row] {
       if (row != control_.active_row() && row <= control_.rows()) control_.SetActiveRow(row);
     });
@@ -174,26 +159,6 @@ class GridView : public wxGrid {
                                : TextColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
   }
 
-  // Toggles a tick at a single click. The toolkit would only move its cursor at the first click.
-  void OnClick(wxGridEvent& event) {
-    event.Skip();
-    const bool selects = event.ControlDown() || event.ShiftDown();
-    if (!selects) table_->TurnTick(event.GetRow(), event.GetCol());
-  }
-
-  void OnDoubleClick(wxGridEvent& event) {
-    if (table_->TurnTick(event.GetRow(), event.GetCol())) return;  // each click counts
-    if (!control_.on_double_click) return event.Skip();
-    binding_.OperateSoon(control_, control_.on_double_click);
-  }
-
-  void OnHeadingClick(wxGridEvent& event) {
-    event.Skip();
-    if (event.GetCol() < 0 || !control_.on_heading_click) return;
-    const int column = table_->ControlColumn(event.GetCol());
-    binding_.OperateSoon(control_, [this, column] { control_.on_heading_click(column); });
-  }
-
   // Makes Escape cancel the edit of a cell, and not the screen, while a cell is edited. The tab key
   // ends the edit before it moves the focus out of the grid.
   void OnCharHook(wxKeyEvent& event) {
@@ -203,51 +168,19 @@ class GridView : public wxGrid {
     DisableCellEditControl();
   }
 
-  // True if the key must select the first row. The toolkit's cursor is already in that row before
-  // any row is selected, so Down would skip it.
-  bool MarksFirstRow(int key) const {
-    return (key == WXK_DOWN || key == WXK_NUMPAD_DOWN) && marks_ == GridMarks::kRows &&
-           control_.active_row() == 0 && control_.rows() > 0;
-  }
-
-  // Toggles the tick under the toolkit's cursor, or else the only tick of the row.
-  bool TurnTick() {
-    const int row = GetGridCursorRow();
-    return table_->TurnTick(row, GetGridCursorCol()) ||
-           table_->TurnTick(row, table_->OnlyTickColumn());
-  }
-
   // Handles the keys that the screen uses. All other keys move within the grid.
   void OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
-    if (MarksFirstRow(key)) return Activate(1);
-    if (key == WXK_SPACE && marks_ == GridMarks::kRows) return;  // it would deselect the row
-    const bool turns = key == WXK_SPACE && !event.HasAnyModifiers() && !IsCellEditControlShown();
-    if (turns && TurnTick()) return;
     const char* name = key == WXK_RETURN || key == WXK_NUMPAD_ENTER ? "Enter"
                        : key == WXK_INSERT                          ? "Insert"
                        : key == WXK_DELETE                          ? "Delete"
                                                                     : nullptr;
-    if (name == nullptr || IsCellEditControlShown()) return event.Skip();
-    if (control_.on_key) return TakeKeySoon(name);
-    const bool takes_row = name == std::string_view("Enter") && marks_ == GridMarks::kRows &&
-                           control_.active_row() > 0 && control_.on_double_click;
-    if (takes_row) return binding_.OperateSoon(control_, control_.on_double_click);
-    if (!binding_.OperateKeySoon(name)) event.Skip();
-  }
-
-  // Passes a key to the control after the current event. The toolkit cannot handle a refused key by
-  // then, so a refused Enter moves the cursor down here.
-  void TakeKeySoon(const std::string& name) {
-    binding_.OperateSoon(control_, [this, name] {
-      if (control_.on_key(name) || binding_.OperateKeySoon(name)) return;
-      if (name == "Enter") MoveCursorDown(false);
-    });
+    const bool is_used = name != nullptr && !IsCellEditControlShown();
+    if (!is_used || !binding_.OperateKeySoon(name)) event.Skip();
   }
 
   Binding& binding_;
   Grid& control_;
-  GridMarks marks_;
   ControlTable* table_;
   bool showing_ = false;
   bool measured_ = false;
@@ -257,9 +190,8 @@ class GridView : public wxGrid {
 
 }  // namespace
 
-wxGrid* MakeGrid(Binding& binding, wxWindow* parent, Grid& control, GridMarks marks,
-                 int rows_seen) {
-  auto* grid = new GridView(binding, parent, control, marks);
+wxGrid* MakeGrid(Binding& binding, wxWindow* parent, Grid& control, int rows_seen) {
+  auto* grid = new GridView(binding, parent, control);
   binding.Bind(control, *grid, [grid] { grid->Follow(); });
   binding.FollowFocus(control, *grid->GetGridWindow());
   grid->Follow();

@@ -7,12 +7,10 @@
 
 namespace golf {
 
-// Says what the operator selects in a grid: rows or cells. With kLabelledCells, column 0 is shown
-// as row labels, which do not scroll sideways.
-enum class GridMarks { kRows, kCells, kLabelledCells };
-
-// Creates the widget of a grid without its hidden columns. Its first size shows `rows_seen` rows
-// and the full width of its columns.
-wxGrid* MakeGrid(Binding& binding, wxWindow* parent, Grid& control, GridMarks marks, int rows_seen);
+// Creates the widget of a grid control whose cells can be edited, without its hidden columns.
+// Column 0 is shown as row labels, which do not scroll sideways. The first size of the widget shows
+// `rows_seen` rows and the full width of its columns. MakeList creates the widget of a grid control
+// that only shows its cells.
+wxGrid* MakeGrid(Binding& binding, wxWindow* parent, Grid& control, int rows_seen);
 
 }  // namespace golf

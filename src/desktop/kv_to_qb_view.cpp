@@ -1,5 +1,6 @@
-#include "desktop/grid_widget.h"
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
+#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/transfers/kv_to_qb.h"
@@ -30,9 +31,10 @@ void FillKVtoQB(ScreenPanel& panel, KVtoQB& screen) {
                        MakeCheckBox(binding, &panel, screen.Convert18Hcpto9Hcp),
                        MakeCheckBox(binding, &panel, screen.Convert9Hcpto18Hcp)}));
   content->AddSpacer(GroupGap(panel));
-  wxGrid* items = MakeGrid(binding, &panel, screen.grid1, GridMarks::kCells, kRowsSeen);
-  SetRoom(panel, *items);
-  content->Add(items, wxSizerFlags(1).Expand());
+  content->Add(MakeHeading(&panel, "Items to copy"));
+  wxDataViewCtrl* items = MakeList(binding, &panel, screen.grid1, SelectedRows::kOne, kRowsSeen);
+  SetRoom(panel, *Named("Items to copy", items));
+  content->Add(items, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
   content->AddSpacer(GroupGap(panel));
   content->Add(MakeLabel(binding, &panel, screen.Working), wxSizerFlags().Expand());
   AddKeepingPlace(*content, *panel.MakeGauge(&panel), CloseGap(panel));

@@ -1,7 +1,9 @@
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/league_panel.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
+#include "desktop/wx_text.h"
 #include "screens/transfers/kv_to_zd.h"
 
 namespace golf {
@@ -22,13 +24,19 @@ wxSizer* Handicaps(Binding& binding, wxWindow* parent, KVtoZD& screen) {
   const int gap = CloseGap(*parent);
   auto* types = new wxFlexGridSizer(2, gap, gap);
   const auto middle = wxSizerFlags().CentreVertical();
-  types->Add(MakeOption(binding, parent, screen.HandicapType[0], wxRB_GROUP), middle);
+  const auto make_type = [&](std::size_t type, const wxString& note, long style) {
+    OptionButton& option = screen.HandicapType[type];
+    const wxString caption = WxText(option.caption()).Trim(false);
+    return Named(caption + note, MakeOption(binding, parent, option, style));
+  };
+  types->Add(make_type(0, " " + NameOf(screen.Label1[7]), wxRB_GROUP), middle);
   types->Add(MakeLabel(binding, parent, screen.Label1[7]), middle);
-  types->Add(MakeOption(binding, parent, screen.HandicapType[1]), middle);
+  types->Add(make_type(1, "", 0), middle);
 
   auto* percent = new wxBoxSizer(wxHORIZONTAL);
   percent->Add(MakeLabel(binding, parent, screen.Label1[5]), middle);
-  wxTextCtrl* box = MakeTextBox(binding, parent, screen.HandicapPrct);
+  wxTextCtrl* box = Named(NameOf(screen.Label1[5]) + " " + NameOf(screen.Label1[6]),
+                          MakeTextBox(binding, parent, screen.HandicapPrct));
   SetColumns(*box, kPercentDigits);
   percent->Add(box, wxSizerFlags().CentreVertical().Border(wxLEFT | wxRIGHT, gap));
   percent->Add(MakeLabel(binding, parent, screen.Label1[6]), middle);

@@ -7,6 +7,8 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "desktop/accessible.h"
+#include "desktop/list_widget.h"
 #include "desktop/log_buttons.h"
 #include "desktop/widgets.h"
 
@@ -143,7 +145,9 @@ int LineWidth(const ScreenPanel& panel, int characters) {
 void SetRoom(ScreenPanel& panel, wxWindow& widget) {
   const wxSize preferred = widget.GetMinSize();
   int height = TextHeight(widget, kLeastLines + 1);  // with the border
-  if (const auto* grid = dynamic_cast<wxGrid*>(&widget)) {
+  if (const auto* list = dynamic_cast<wxDataViewCtrl*>(&widget)) {
+    height = ListHeight(*list, kLeastLines);
+  } else if (const auto* grid = dynamic_cast<wxGrid*>(&widget)) {
     height = grid->GetColLabelSize() + (kLeastLines + 1) * grid->GetDefaultRowSize();
   }
   const wxSize least(std::min(preferred.x, TextWidth(widget, kLeastColumns)),
@@ -153,8 +157,10 @@ void SetRoom(ScreenPanel& panel, wxWindow& widget) {
 
 void SetRoom(ScreenPanel& panel, wxWindow& widget, int characters, int lines) {
   wxSize size(TextWidth(widget, characters), TextHeight(widget, lines));
-  if (const auto* grid = dynamic_cast<wxGrid*>(&widget)) {
-    size = grid->GetMinSize();
+  const bool is_table = dynamic_cast<wxDataViewCtrl*>(&widget) != nullptr ||
+                        dynamic_cast<wxGrid*>(&widget) != nullptr;
+  if (is_table) {
+    size = widget.GetMinSize();
     if (characters > 0) size.x = TextWidth(widget, characters);
   }
   widget.SetMinSize(size);
@@ -207,7 +213,7 @@ wxSizer* RosterColumn(Binding& binding, wxWindow* parent, Label& heading, TextBo
                       Button& finder) {
   wxStaticText* title = MakeLabel(binding, parent, heading);
   MakeBold(*title);
-  wxTextCtrl* box = MakeTextBox(binding, parent, name);
+  wxTextCtrl* box = NameAfter(binding, heading, MakeTextBox(binding, parent, name));
   // The toolkit selects the text and scrolls to its end when the box gets the focus. The operator
   // would see only the number that follows many blanks.
   for (const auto& type : {wxEVT_SET_FOCUS, wxEVT_KILL_FOCUS}) {
@@ -241,7 +247,8 @@ void AddLog(wxSizer& content, ScreenPanel& panel, wxStaticText& heading, wxTextC
 void AddRun(wxSizer& content, ScreenPanel& panel, wxWindow* parent, const RunControls& run) {
   Binding& binding = panel.binding();
   wxStaticText* heading = MakeLabel(binding, parent, run.heading, WithoutEdges);
-  wxTextCtrl* log = MakeLog(panel, parent, run.log, kLogColumns, kLogLines);
+  wxTextCtrl* log =
+      NameAfter(binding, run.heading, MakeLog(panel, parent, run.log, kLogColumns, kLogLines));
   AddLog(content, panel, *heading, *log, run.working, run.count);
   AddToFoot(panel, ButtonRow({.affirmative = MakeButton(binding, panel.foot(), run.transfer),
                               .variant = MakeButton(binding, panel.foot(), run.preview),
@@ -253,6 +260,12 @@ void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above) {
 }
 
 void MakeBold(wxWindow& widget) { widget.SetFont(widget.GetFont().Bold()); }
+
+wxStaticText* MakeHeading(wxWindow* parent, const wxString& text) {
+  wxStaticText* heading = MakeText(parent, text);
+  MakeBold(*heading);
+  return heading;
+}
 
 void MakeMonospaced(wxWindow& widget) {
   wxFont font = widget.GetFont();

@@ -80,6 +80,8 @@ void AddRun(wxSizer& content, ScreenPanel& panel, wxWindow* parent, const RunCon
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above);
 
 void MakeBold(wxWindow& widget);
+// Creates a bold text above a list or a group.
+wxStaticText* MakeHeading(wxWindow* parent, const wxString& text);
 // Gives a log the monospaced font.
 void MakeMonospaced(wxWindow& widget);
 // Creates a log in the monospaced font.

@@ -1,5 +1,6 @@
 #include "desktop/league_panel.h"
 
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/widgets.h"
 
@@ -13,7 +14,8 @@ wxPanel* MakeLeaguePanel(ScreenPanel& panel, LeaguePicker& picker) {
   MakeBold(*title);
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(title, wxSizerFlags().Expand());
-  content->Add(MakeListBox(binding, frame, picker.LeagueList, LeaguePicker::HeadingOf),
+  wxListBox* list = MakeListBox(binding, frame, picker.LeagueList, LeaguePicker::HeadingOf);
+  content->Add(NameAfter(binding, picker.LoadLeagueLabel, list),
                wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
   AddToFoot(panel, ButtonRow({.affirmative = MakeButton(binding, panel.foot(), picker.OKLEague),
                               .cancel = MakeButton(binding, panel.foot(), picker.CancelLeague)}));

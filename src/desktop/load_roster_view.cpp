@@ -1,5 +1,6 @@
-#include "desktop/grid_widget.h"
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
+#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/rosters/load_roster.h"
@@ -21,8 +22,10 @@ wxSizer* NewRoster(ScreenPanel& panel, LoadRoster& screen) {
   Binding& binding = panel.binding();
   wxStaticText* title = MakeLabel(binding, &panel, screen.InputTitle);
   MakeBold(*title);
-  wxSizer* column = Column({title, MakeLabel(binding, &panel, screen.NameLabel),
-                            MakeTextBox(binding, &panel, screen.NewRosterName)});
+  wxStaticText* label = MakeLabel(binding, &panel, screen.NameLabel);
+  wxSizer* column = Column(
+      {title, label,
+       NameAfter(binding, screen.NameLabel, MakeTextBox(binding, &panel, screen.NewRosterName))});
   AddToFoot(panel, ButtonRow({.affirmative = MakeButton(binding, panel.foot(), screen.OK2Button),
                               .cancel = MakeButton(binding, panel.foot(), screen.Cancel2Button)}));
   return column;
@@ -33,9 +36,9 @@ wxSizer* NewRoster(ScreenPanel& panel, LoadRoster& screen) {
 void FillLoadRoster(ScreenPanel& panel, LoadRoster& screen) {
   Binding& binding = panel.binding();
   auto* list = new wxBoxSizer(wxHORIZONTAL);
-  wxGrid* grid = MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, kRowsSeen);
-  SetRoom(panel, *grid);
-  list->Add(grid, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
+  wxDataViewCtrl* rosters = MakeList(binding, &panel, screen.grid1, SelectedRows::kOne, kRowsSeen);
+  SetRoom(panel, *Named("Rosters", rosters));
+  list->Add(rosters, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
   list->Add(Column({MakeButton(binding, &panel, screen.LoadButton),
                     MakeButton(binding, &panel, screen.NewButton),
                     MakeButton(binding, &panel, screen.DeleteButton),

@@ -1,5 +1,6 @@
-#include "desktop/grid_widget.h"
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
+#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/rosters/load_rosters.h"
@@ -24,7 +25,9 @@ wxSizer* Entry(ScreenPanel& panel, LoadRosters& screen) {
   fields->AddGrowableCol(1);
   for (std::size_t i = 0; i < screen.Text1.size(); ++i) {
     fields->Add(MakeLabel(binding, &panel, screen.FieldName[i]), wxSizerFlags().CentreVertical());
-    fields->Add(MakeTextBox(binding, &panel, screen.Text1[i]), wxSizerFlags().Expand());
+    fields->Add(
+        NameAfter(binding, screen.FieldName[i], MakeTextBox(binding, &panel, screen.Text1[i])),
+        wxSizerFlags().Expand());
   }
   const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
   AddToFoot(panel, ButtonRow({.affirmative = button(screen.AddEditRosterOK),
@@ -37,10 +40,10 @@ wxSizer* Entry(ScreenPanel& panel, LoadRosters& screen) {
 
 void FillLoadRosters(ScreenPanel& panel, LoadRosters& screen) {
   Binding& binding = panel.binding();
-  wxGrid* grid = MakeGrid(binding, &panel, screen.grid1, GridMarks::kRows, kRowsSeen);
-  SetRoom(panel, *grid, kListCharacters, kRowsSeen);
+  wxDataViewCtrl* rosters = MakeList(binding, &panel, screen.grid1, SelectedRows::kOne, kRowsSeen);
+  SetRoom(panel, *NameAfter(binding, screen.FilterLabel, rosters), kListCharacters, kRowsSeen);
   auto* list = new wxBoxSizer(wxHORIZONTAL);
-  list->Add(grid, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
+  list->Add(rosters, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel)));
   list->Add(ListButtons(panel, screen));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(Column({MakeLabel(binding, &panel, screen.FilterLabel),

@@ -1,3 +1,4 @@
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
@@ -19,30 +20,29 @@ constexpr int kNoteCharacters = 36;
 constexpr int kListLines = 6;
 constexpr int kLogLines = 7;
 
-wxStaticText* MakeHeading(wxWindow* parent, const wxString& text) {
-  auto* heading = new wxStaticText(parent, wxID_ANY, text);
-  MakeBold(*heading);
-  return heading;
-}
-
-wxListBox* MakeList(ScreenPanel& panel, ListBox& control, int characters, Shown shown) {
-  wxListBox* list = MakeListBox(panel.binding(), &panel, control, shown);
+// Lays out a list below its heading. Both keep their space while the list is hidden.
+wxSizer* HeadedList(ScreenPanel& panel, const wxString& heading, ListBox& control, int characters,
+                    Shown shown) {
+  wxStaticText* title = MakeHeading(&panel, heading);
+  panel.binding().ShowAlso([title, &control] { title->Show(control.IsShown()); });
+  wxListBox* list = Named(heading, MakeListBox(panel.binding(), &panel, control, shown));
   SetRoom(panel, *list, characters, kListLines);
-  return list;
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(title, wxSizerFlags().ReserveSpaceEvenIfHidden());
+  column->Add(list,
+              wxSizerFlags(1).Expand().ReserveSpaceEvenIfHidden().Border(wxTOP, CloseGap(panel)));
+  return column;
 }
 
-// Lays out the tournaments and the rounds. The list of rounds keeps its space while it is hidden.
+// Lays out the tournaments and the rounds.
 wxSizer* Source(ScreenPanel& panel, QBtoKV& screen) {
   auto* lists = new wxBoxSizer(wxHORIZONTAL);
-  lists->Add(
-      MakeList(panel, screen.TournamentList, kTournamentCharacters, QBtoKV::TournamentHeading),
-      wxSizerFlags(3).Expand());
-  lists->Add(MakeList(panel, screen.RoundList, kRoundCharacters, nullptr),
-             wxSizerFlags(1).Expand().ReserveSpaceEvenIfHidden().Border(wxLEFT, CloseGap(panel)));
-  auto* source = new wxBoxSizer(wxVERTICAL);
-  source->Add(MakeHeading(&panel, "Tournament and round"));
-  source->Add(lists, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
-  return source;
+  lists->Add(HeadedList(panel, "Tournament", screen.TournamentList, kTournamentCharacters,
+                        QBtoKV::TournamentHeading),
+             wxSizerFlags(3).Expand());
+  lists->Add(HeadedList(panel, "Round", screen.RoundList, kRoundCharacters, nullptr),
+             wxSizerFlags(1).Expand().Border(wxLEFT, CloseGap(panel)));
+  return lists;
 }
 
 // Lays out the source of the scores beside their destination.
@@ -51,14 +51,15 @@ wxSizer* Ends(ScreenPanel& panel, QBtoKV& screen) {
   ends->AddGrowableCol(0, 3);
   ends->AddGrowableCol(1, 2);
   ends->Add(Source(panel, screen), wxSizerFlags().Expand());
-  ends->Add(Column({MakeHeading(&panel, "Handicap roster"),
-                    MakeTextBox(panel.binding(), &panel, screen.HandicapRoster),
-                    MakeButton(panel.binding(), &panel, screen.DestButton),
-                    MakeNote(
-                        panel.binding(), &panel, "HandicapRosterNote",
-                        [&screen] { return screen.HandicapRoster.note(); },
-                        TextWidth(panel, kNoteCharacters))}),
-            wxSizerFlags().Expand());
+  ends->Add(
+      Column({MakeHeading(&panel, "Handicap roster"),
+              Named("Handicap roster", MakeTextBox(panel.binding(), &panel, screen.HandicapRoster)),
+              MakeButton(panel.binding(), &panel, screen.DestButton),
+              MakeNote(
+                  panel.binding(), &panel, "HandicapRosterNote",
+                  [&screen] { return screen.HandicapRoster.note(); },
+                  TextWidth(panel, kNoteCharacters))}),
+      wxSizerFlags().Expand());
   return ends;
 }
 
@@ -80,10 +81,10 @@ wxSizer* Courses(ScreenPanel& panel, QBtoKV& screen) {
   rows->Add(MakeHeading(&panel, "Course of the round in Quenby"));
   rows->Add(partner);
   rows->Add(MakeLabel(binding, &panel, screen.QBCourse), wide);
-  rows->Add(
-      WithRoom(panel, MakeLongChoice(binding, &panel, screen.CourseCombo, QBtoKV::CourseHeading),
-               kCourseCharacters),
-      wide);
+  wxControl* courses =
+      NameAfter(binding, screen.Label1[1],
+                MakeLongChoice(binding, &panel, screen.CourseCombo, QBtoKV::CourseHeading));
+  rows->Add(WithRoom(panel, courses, kCourseCharacters), wide);
   return rows;
 }
 
@@ -100,8 +101,11 @@ wxSizer* Tees(ScreenPanel& panel, QBtoKV::Labels& sexes, QBtoKV::Labels& tees,
     SetColumns(*tee, kTeeCharacters);
     rows->Add(MakeLabel(binding, &panel, sexes[i]), middle);
     rows->Add(tee, middle);
-    rows->Add(WithRoom(panel, MakeChoice(binding, &panel, partners[i], QBtoKV::TeeHeading),
-                       kPartnerCharacters),
+    wxChoice* partner = MakeChoice(binding, &panel, partners[i], QBtoKV::TeeHeading);
+    NameBy(binding, partner, [this_sex = &sexes[i], this_tee = &tees[i]] {
+      return "Corresponding tee, " + NameOf(*this_sex) + " " + NameOf(*this_tee);
+    });
+    rows->Add(WithRoom(panel, partner, kPartnerCharacters),
               wxSizerFlags().Expand().CentreVertical());
   }
   return rows;
@@ -133,8 +137,9 @@ void FillQBtoKV(ScreenPanel& panel, QBtoKV& screen) {
               wxSizerFlags().Border(wxLEFT, GroupGap(panel)));
   content->Add(checks, group);
   panel.folding_rows().push_back(checks);
-  auto* heading = new wxStaticText(&panel, wxID_ANY, "Messages");
-  wxTextCtrl* log = MakeLog(panel, &panel, screen.Message, kLogCharacters, kLogLines);
+  wxStaticText* heading = MakeHeading(&panel, "Messages");
+  wxTextCtrl* log =
+      Named("Messages", MakeLog(panel, &panel, screen.Message, kLogCharacters, kLogLines));
   AddLog(*content, panel, *heading, *log, screen.Working, nullptr);
   wxButton* transfer = MakeButton(binding, panel.foot(), screen.TransferButton);
   SetColumns(*transfer, kTransferCharacters);

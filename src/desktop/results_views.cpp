@@ -1,6 +1,7 @@
+#include "desktop/accessible.h"
 #include "desktop/colours.h"
-#include "desktop/grid_widget.h"
 #include "desktop/layout_helpers.h"
+#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/results/results_screen.h"
@@ -26,16 +27,20 @@ class ChoiceRow {
 
   void Add(Label& label, ComboBox& list, int characters = 0) {
     AddWidget(MakeFieldLabel(binding_, &panel_, label), CloseGap(panel_));
-    AddList(list, characters);
-  }
-  void AddList(ComboBox& list, int characters = 0) {
-    wxChoice* choice = MakeChoice(binding_, &panel_, list);
+    wxChoice* choice = NameAfter(binding_, label, MakeChoice(binding_, &panel_, list));
     if (characters > 0) SetColumns(*choice, characters);
     AddWidget(choice, GroupGap(panel_));
   }
+  // Adds a list whose label is not a control.
+  void Add(const wxString& label, ComboBox& list) {
+    auto* text = MakeText(&panel_, label);
+    binding_.ShowAlso([text, &list] { text->Show(list.IsShown()); });
+    AddWidget(text, CloseGap(panel_));
+    AddWidget(Named(label, MakeChoice(binding_, &panel_, list)), GroupGap(panel_));
+  }
   void Add(Label& label, TextBox& text, int characters) {
     AddWidget(MakeFieldLabel(binding_, &panel_, label), CloseGap(panel_));
-    wxTextCtrl* entry = MakeTextBox(binding_, &panel_, text);
+    wxTextCtrl* entry = NameAfter(binding_, label, MakeTextBox(binding_, &panel_, text));
     SetColumns(*entry, characters);
     AddWidget(entry, GroupGap(panel_));
   }
@@ -65,18 +70,21 @@ wxSizer* TeamChoices(ScreenPanel& panel, TeamResults& screen) {
   SetColumns(*tournament, kTournamentCharacters);
   row->Add(tournament, wxSizerFlags(1).CentreVertical());
   row->Add(MakeLabel(binding, &panel, screen.teams.LayoutLabel), middle);
-  wxChoice* layouts = MakeChoice(binding, &panel, screen.teams.LayoutList);
+  wxChoice* layouts = NameAfter(binding, screen.teams.LayoutLabel,
+                                MakeChoice(binding, &panel, screen.teams.LayoutList));
   SetColumns(*layouts, kListCharacters);
   row->Add(layouts, middle);
   row->Add(MakeLabel(binding, &panel, screen.RoundLabel), middle);
-  row->Add(MakeChoice(binding, &panel, screen.RoundList), middle);
+  row->Add(NameAfter(binding, screen.RoundLabel, MakeChoice(binding, &panel, screen.RoundList)),
+           middle);
   return row;
 }
 
-wxGrid* MakeTable(ScreenPanel& panel, Grid& control, GridMarks marks, int rows_seen) {
-  wxGrid* grid = MakeGrid(panel.binding(), &panel, control, marks, rows_seen);
-  SetRoom(panel, *grid, kCharacters, rows_seen);
-  return grid;
+wxDataViewCtrl* MakeTable(ScreenPanel& panel, Grid& control, int rows_seen) {
+  wxDataViewCtrl* list =
+      MakeList(panel.binding(), &panel, control, SelectedRows::kSeveral, rows_seen);
+  SetRoom(panel, *list, kCharacters, rows_seen);
+  return list;
 }
 
 wxSizerFlags Below(const ScreenPanel& panel) {
@@ -86,17 +94,23 @@ wxSizerFlags Below(const ScreenPanel& panel) {
 // Adds the standings and the card below them.
 void AddTables(wxSizer& content, ScreenPanel& panel, StandingsTables& tables, int card_seen) {
   Binding& binding = panel.binding();
-  content.Add(MakeTable(panel, tables.grid1, GridMarks::kRows, kStandingsSeen),
+  content.Add(MakeHeading(&panel, "Results"), Below(panel));
+  content.Add(Named("Results", MakeTable(panel, tables.grid1, kStandingsSeen)),
               wxSizerFlags(Below(panel)).Proportion(kStandingsSeen));
   content.Add(MakeLabel(binding, &panel, tables.SortedLabel), Below(panel));
   content.Add(MakeLabel(binding, &panel, tables.CardLabel), Below(panel));
-  content.Add(MakeTable(panel, tables.grid2, GridMarks::kCells, card_seen),
+  content.Add(NameBy(binding, MakeTable(panel, tables.grid2, card_seen),
+                     [&tables] { return "Score card: " + NameOf(tables.CardLabel); }),
               wxSizerFlags(Below(panel)).Proportion(card_seen));
 }
 
 wxStaticText* MakeMessage(ScreenPanel& panel, Label& control) {
   wxStaticText* message =
       MakeWrappedLabel(panel.binding(), &panel, control, LineWidth(panel, kCharacters));
+  panel.binding().ShowAlso([message, &control, last = std::string()]() mutable {
+    if (std::exchange(last, control.caption()) == control.caption()) return;
+    if (control.IsShown()) Announce(*message, NameOf(control));
+  });
   message->SetForegroundColour(WarningColour(panel.GetBackgroundColour()));
   return message;
 }
@@ -115,7 +129,7 @@ wxSizer* PageChoices(ScreenPanel& panel, Results& screen) {
   PlayerStandings& players = screen.players;
   ChoiceRow row(panel);
   row.Add(players.MeasureLabel, players.MeasureList);
-  row.AddList(players.SpanList);
+  row.Add("of", players.SpanList);
   row.Add(players.FlightLabel, players.FlightList);
   row.Add(players.SexLabel, players.SexList);
   row.Add(players.SearchLabel, players.SearchText, kFindCharacters);
@@ -126,7 +140,13 @@ wxSizer* PageChoices(ScreenPanel& panel, Results& screen) {
 // Lays out the numbers of holes, and the other statistics beside them.
 wxSizer* Statistics(ScreenPanel& panel, PlayerStandings& players) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
-  row->Add(MakeGrid(panel.binding(), &panel, players.grid3, GridMarks::kCells, kStatisticsSeen));
+  auto* numbers = new wxBoxSizer(wxVERTICAL);
+  wxStaticText* heading = MakeHeading(&panel, "Numbers of holes");
+  panel.binding().ShowAlso([heading, &players] { heading->Show(players.grid3.IsShown()); });
+  numbers->Add(heading, wxSizerFlags().Border(wxBOTTOM, CloseGap(panel)));
+  numbers->Add(Named("Numbers of holes", MakeList(panel.binding(), &panel, players.grid3,
+                                                  SelectedRows::kSeveral, kStatisticsSeen)));
+  row->Add(numbers);
   row->Add(MakeLabel(panel.binding(), &panel, players.StatisticsLabel),
            wxSizerFlags(1).CentreVertical().Border(wxLEFT, GroupGap(panel)));
   panel.folding_rows().push_back(row);

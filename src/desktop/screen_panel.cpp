@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <string>
 
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/wx_text.h"
 
@@ -120,6 +121,7 @@ ScreenPanel::~ScreenPanel() {
 wxGauge* ScreenPanel::MakeGauge(wxWindow* parent) {
   gauge_ = new wxGauge(parent, wxID_ANY, kGaugeSteps);
   gauge_->SetName("Progress");
+  SetAccessibleName(*gauge_, "Progress");
   gauge_->Hide();
   return gauge_;
 }
@@ -149,6 +151,7 @@ bool ScreenPanel::ShowLeftOut(const LeftOut& left_out) {
   left_out.ForEachLine([&lines](std::string_view line) { lines.append(line).append("\n"); });
   const std::size_t heading = std::min(lines.find('\n'), lines.size());
   left_out_heading_->SetLabelText(WxText(lines.substr(0, heading)));
+  SetAccessibleName(*left_out_list_, WxText(lines.substr(0, heading)));
   left_out_list_->ChangeValue(WxText(lines.substr(std::min(heading + 1, lines.size()))));
   if (left_out_->Show(!lines.empty())) LayOutAgain(*this);
   return true;

@@ -1,3 +1,5 @@
+#include "desktop/accessible.h"
+#include "desktop/cell_choices.h"
 #include "desktop/grid_widget.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
@@ -50,9 +52,13 @@ class BuilderFiller {
     content->Add(top, wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
     content->Add(MakeLabel(binding_, page, screen_.CopyLabel),
                  wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
-    wxGrid* grid = MakeGrid(binding_, page, screen_.grid1, GridMarks::kLabelledCells, kRowsSeen);
+    wxGrid* grid = MakeGrid(binding_, page, screen_.grid1, kRowsSeen);
+    SetAccessibleName(*grid, "Scores to use on each hole");
     SetRoom(panel_, *grid, kGridCharacters, kRowsSeen);
-    content->Add(grid, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel_)));
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(grid, wxSizerFlags(1).Expand().Border(wxRIGHT, GroupGap(panel_)));
+    row->Add(MakeCellChoices(binding_, page, screen_.grid1));
+    content->Add(row, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel_)));
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
     for (Button* button : {&screen_.SampleDataGenerate, &screen_.CalculateButton}) {
       buttons->Add(NewButton(page, *button), wxSizerFlags().Border(wxRIGHT, CloseGap(panel_)));
@@ -66,7 +72,8 @@ class BuilderFiller {
     rows->AddGrowableCol(1);
     const auto add = [&](Label& label, TextBox& box) {
       rows->Add(MakeLabel(binding_, page, label), wxSizerFlags().CentreVertical());
-      rows->Add(MakeTextBox(binding_, page, box), wxSizerFlags().Expand());
+      rows->Add(NameAfter(binding_, label, MakeTextBox(binding_, page, box)),
+                wxSizerFlags().Expand());
     };
     add(screen_.NameLabel, screen_.ReportName);
     add(screen_.DescriptionLabel, screen_.ReportDescription);
@@ -77,7 +84,8 @@ class BuilderFiller {
     auto* rows = new wxFlexGridSizer(2, CloseGap(panel_), GroupGap(panel_));
     const auto add = [&](Label& label, ComboBox& list) {
       rows->Add(MakeLabel(binding_, page, label), wxSizerFlags().CentreVertical());
-      rows->Add(MakeChoice(binding_, page, list), wxSizerFlags().Expand());
+      rows->Add(NameAfter(binding_, label, MakeChoice(binding_, page, list)),
+                wxSizerFlags().Expand());
     };
     add(screen_.HoleNumberLabel, screen_.HoleNumberUsedList);
     add(screen_.PlayersLabel, screen_.PlayerPerTeamList);
@@ -88,10 +96,8 @@ class BuilderFiller {
   // `column`.
   wxPanel* NewFrame(wxWindow* page, Frame& control, wxSizer*& column) {
     wxPanel* frame = MakeFrame(binding_, page, control);
-    auto* caption = new wxStaticText(frame, wxID_ANY, WxText(control.caption()));
-    MakeBold(*caption);
     column = new wxBoxSizer(wxVERTICAL);
-    column->Add(caption, wxSizerFlags().Expand());
+    column->Add(MakeHeading(frame, WxText(control.caption())), wxSizerFlags().Expand());
     frame->SetSizer(column);
     return frame;
   }
@@ -101,7 +107,10 @@ class BuilderFiller {
     wxPanel* frame = NewFrame(page, screen_.SelectionFrame, column);
     column->Add(MakeOption(binding_, frame, screen_.BallSelectionOpt[0], wxRB_GROUP), Below());
     column->Add(MakeOption(binding_, frame, screen_.BallSelectionOpt[1]), Below());
-    column->Add(MakeChoice(binding_, frame, screen_.BallSelectionStyle), Below());
+    column->Add(MakeText(frame, "Order of the selection"), Below());
+    column->Add(
+        Named("Order of the selection", MakeChoice(binding_, frame, screen_.BallSelectionStyle)),
+        Below());
     return frame;
   }
 
@@ -116,12 +125,16 @@ class BuilderFiller {
   wxPanel* Headers(wxWindow* page) {
     wxSizer* column = nullptr;
     wxPanel* frame = NewFrame(page, screen_.HeaderFrame, column);
-    for (TextCombo& header : screen_.HeaderText) {
-      column->Add(MakeTextCombo(binding_, frame, header), Below());
+    for (std::size_t i = 0; i < screen_.HeaderText.size(); ++i) {
+      const wxString name = "Line " + std::to_string(i + 1);
+      column->Add(MakeText(frame, name), Below());
+      column->Add(Named(name, MakeTextCombo(binding_, frame, screen_.HeaderText[i])), Below());
     }
     column->Add(MakeLabel(binding_, frame, screen_.NumberLabel),
                 wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_)));
-    column->Add(MakeTextBox(binding_, frame, screen_.ReportNumber), Below());
+    column->Add(NameAfter(binding_, screen_.NumberLabel,
+                          MakeTextBox(binding_, frame, screen_.ReportNumber)),
+                Below());
     for (CheckBox& header : screen_.Header) {
       column->Add(MakeCheckBox(binding_, frame, header), Below());
     }

@@ -1,3 +1,4 @@
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
@@ -15,7 +16,8 @@ void FillTeamLayouts(ScreenPanel& panel, TeamLayouts& screen) {
   Binding& binding = panel.binding();
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(MakeLabel(binding, &panel, screen.ListLabel), wxSizerFlags().Expand());
-  wxListBox* list = MakeListBox(binding, &panel, screen.LayoutList);
+  wxListBox* list =
+      NameAfter(binding, screen.ListLabel, MakeListBox(binding, &panel, screen.LayoutList));
   SetRoom(panel, *list, kCharacters, kLines);
   content->Add(list, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
   const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };

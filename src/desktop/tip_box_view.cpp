@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
@@ -35,6 +36,10 @@ wxSize MessageSize(wxWindow* parent, const wxString& message, int width) {
 wxTextCtrl* NewMessage(ScreenPanel& panel, TipBox& screen, int width) {
   wxTextCtrl* message = MakeTextBox(panel.binding(), &panel, screen.Message,
                                     wxTE_MULTILINE | wxTE_READONLY | wxTE_BESTWRAP | wxBORDER_NONE);
+  NameBy(panel.binding(), message, [&screen] {
+    const wxString title = NameOf(screen.Title);
+    return title.empty() ? wxString("Message") : title;
+  });
   message->SetBackgroundColour(panel.window().GetBackgroundColour());
   message->SetMinSize(MessageSize(&panel, message->GetValue(), width));
   SetRoom(panel, *message);

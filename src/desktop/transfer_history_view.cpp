@@ -1,5 +1,6 @@
-#include "desktop/grid_widget.h"
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
+#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/history/transfer_history.h"
@@ -30,12 +31,14 @@ void FillTransferHistory(ScreenPanel& panel, TransferHistory& screen) {
   const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(MakeFieldLabel(binding, &panel, screen.ListLabel));
-  wxGrid* list = MakeGrid(binding, &panel, screen.RunList, GridMarks::kRows, kRowsSeen);
-  SetRoom(panel, *list, kCharacters, kRowsSeen);
+  wxDataViewCtrl* list = MakeList(binding, &panel, screen.RunList, SelectedRows::kOne, kRowsSeen);
+  SetRoom(panel, *NameAfter(binding, screen.ListLabel, list), kCharacters, kRowsSeen);
   content->Add(list, wxSizerFlags(below).Proportion(3));
   content->Add(MakeFieldLabel(binding, &panel, screen.ReportLabel), group);
-  content->Add(MakeLog(panel, &panel, screen.ReportText, kReportCharacters, kReportLines),
-               wxSizerFlags(below).Proportion(2));
+  content->Add(
+      NameAfter(binding, screen.ReportLabel,
+                MakeLog(panel, &panel, screen.ReportText, kReportCharacters, kReportLines)),
+      wxSizerFlags(below).Proportion(2));
   AddToFoot(panel, Buttons(panel, screen));
   FinishWindow(panel, content);
 }

@@ -79,9 +79,8 @@ class MenuFiller {
   }
 
   wxWindow* Legend() {
-    return new wxStaticText(
-        page_, wxID_ANY,
-        "KV: Kelvane (handicaps)   QB: Quenby (tournaments)   ZD: Zandel (leagues)");
+    return MakeText(page_,
+                    "KV: Kelvane (handicaps)   QB: Quenby (tournaments)   ZD: Zandel (leagues)");
   }
 
   wxButton* NewButton(wxWindow* parent, Button& control) {

@@ -1,19 +1,30 @@
 #include "desktop/widgets.h"
 
-#include <wx/dc.h>
-
 #include <algorithm>
 #include <utility>
 
+#include "desktop/accessible.h"
 #include "desktop/colours.h"
 #include "desktop/wx_text.h"
 
 namespace golf {
 namespace {
 
-wxStaticText* NewText(wxWindow* parent, long style) {
-  return new wxStaticText(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, style);
-}
+constexpr std::size_t kMostInDropDown = 500;
+constexpr int kLongListLines = 6;
+
+// Is a text that does not label the next widget. GTK would make each text such a label, and a
+// screen reader would say it before the widget.
+class PlainText : public wxStaticText {
+ public:
+  PlainText(wxWindow* parent, const wxString& text, long style)
+      : wxStaticText(parent, wxID_ANY, text, wxDefaultPosition, wxDefaultSize, style) {}
+#ifdef __WXGTK__
+  bool GTKWidgetNeedsMnemonic() const override { return false; }
+#endif
+};
+
+wxStaticText* NewText(wxWindow* parent, long style) { return new PlainText(parent, "", style); }
 
 wxString TextToShow(const std::string& text, Shown shown) {
   return WxText(shown == nullptr ? text : shown(text));
@@ -37,6 +48,10 @@ void BindList(Binding& binding, List& control, Widget& widget,
 
 }  // namespace
 
+wxStaticText* MakeText(wxWindow* parent, const wxString& text) {
+  return new PlainText(parent, text, 0);
+}
+
 wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Shown shown) {
   wxStaticText* text = NewText(parent, wxST_ELLIPSIZE_END);
   binding.Bind(control, *text, [text, &control, shown] {
@@ -47,7 +62,7 @@ wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Show
 }
 
 wxStaticText* MakeFieldLabel(Binding& binding, wxWindow* parent, Label& control) {
-  wxStaticText* text = NewText(parent, 0);
+  auto* text = new wxStaticText(parent, wxID_ANY, "");
   binding.Bind(control, *text, [text, &control] { text->SetLabel(WxText(control.caption())); });
   return text;
 }
@@ -120,37 +135,18 @@ wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Sho
   return list;
 }
 
-namespace {
-
-// Paints the selection in a colour on which its text is easy to read.
-class LongChoice : public wxOwnerDrawnComboBox {
- public:
-  using wxOwnerDrawnComboBox::wxOwnerDrawnComboBox;
-
- private:
-  void OnDrawBackground(wxDC& dc, const wxRect& place, int item, int flags) const override {
-    wxOwnerDrawnComboBox::OnDrawBackground(dc, place, item, flags);
-    if ((flags & wxODCB_PAINTING_SELECTED) == 0) return;
-    const wxDCBrushChanger brush(dc, SelectionColour());
-    const wxDCPenChanger pen(dc, SelectionColour());
-    dc.DrawRectangle(place);
-  }
-};
-
-}  // namespace
-
-wxOwnerDrawnComboBox* MakeLongChoice(Binding& binding, wxWindow* parent, ComboBox& control,
-                                     Shown shown) {
-  auto* choice = new LongChoice(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
-                                wxArrayString(), wxCB_READONLY);
-  BindList(binding, control, *choice, wxEVT_COMBOBOX, shown);
-  return choice;
-}
-
 wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown) {
   auto* choice = new wxChoice(parent, wxID_ANY);
   BindList(binding, control, *choice, wxEVT_CHOICE, shown);
   return choice;
+}
+
+wxControl* MakeLongChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown) {
+  if (control.items().size() <= kMostInDropDown) return MakeChoice(binding, parent, control, shown);
+  auto* list = new wxListBox(parent, wxID_ANY);
+  list->SetMinSize({-1, kLongListLines * list->GetCharHeight()});
+  BindList(binding, control, *list, wxEVT_LISTBOX, shown);
+  return list;
 }
 
 namespace {
@@ -194,6 +190,7 @@ void MarkNote(wxWindow& widget, const Control& control) {
   if (noted == (widget.GetBackgroundColour() == kNotedField)) return;
   widget.SetBackgroundColour(noted ? kNotedField : wxNullColour);
   widget.SetForegroundColour(noted ? *wxBLACK : wxNullColour);
+  SetAccessibleDescription(widget, WxText(control.note()));
   if (noted) {
     widget.SetToolTip(WxText(control.note()));
   } else {
@@ -265,6 +262,7 @@ wxStaticText* MakeNote(Binding& binding, wxWindow* parent, const wxString& name,
     if (std::exchange(shown, now) == now) return;
     text->SetLabelText(now);
     text->Wrap(width);
+    if (!now.empty()) Announce(*text, now);
     if (lines > 0) return;
     text->SetMinSize(text->GetBestSize());
     text->Show(!now.empty());
@@ -276,6 +274,7 @@ wxStaticText* MakeNote(Binding& binding, wxWindow* parent, const wxString& name,
 wxPanel* MakeFrame(Binding& binding, wxWindow* parent, Frame& control) {
   auto* frame = new wxPanel(parent);
   binding.Bind(control, *frame, [] {});
+  if (!control.caption().empty()) MakeAccessibleGroup(*frame, WxText(control.caption()));
   return frame;
 }
 

@@ -6,7 +6,6 @@
 #include <wx/combobox.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
-#include <wx/odcombo.h>
 #include <wx/panel.h>
 #include <wx/radiobut.h>
 #include <wx/stattext.h>
@@ -25,6 +24,8 @@ namespace golf {
 // Is a function that returns the part of a text that is shown, without the key at its end.
 using Shown = std::string (*)(const std::string& text);
 
+// Creates a text that no control has. It is not the label of another widget.
+wxStaticText* MakeText(wxWindow* parent, const wxString& text);
 // Shows "&" as a plain character, since the caption is data. A text that is too long is cut and
 // ends in dots.
 wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Shown shown = nullptr);
@@ -40,9 +41,10 @@ wxRadioButton* MakeOption(Binding& binding, wxWindow* parent, OptionButton& cont
                           long style = 0);
 wxListBox* MakeListBox(Binding& binding, wxWindow* parent, ListBox& control, Shown shown = nullptr);
 wxChoice* MakeChoice(Binding& binding, wxWindow* parent, ComboBox& control, Shown shown = nullptr);
-// Does the same for a list of thousands of items. GTK needs seconds to fill the usual widget.
-wxOwnerDrawnComboBox* MakeLongChoice(Binding& binding, wxWindow* parent, ComboBox& control,
-                                     Shown shown = nullptr);
+// Does the same for a list that may have thousands of items. Such a long list is always open, since
+// GTK needs many seconds to create its drop-down.
+wxControl* MakeLongChoice(Binding& binding, wxWindow* parent, ComboBox& control,
+                          Shown shown = nullptr);
 wxTextCtrl* MakeTextBox(Binding& binding, wxWindow* parent, TextBox& control, long style = 0);
 wxComboBox* MakeTextCombo(Binding& binding, wxWindow* parent, TextCombo& control);
 // Creates a warning that shows what `note` returns. It is updated after each change of a control.

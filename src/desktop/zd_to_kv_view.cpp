@@ -1,3 +1,4 @@
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/league_panel.h"
 #include "desktop/views.h"
@@ -17,7 +18,10 @@ wxSizer* Ends(ScreenPanel& panel, wxWindow* parent, ZDtoKV& screen) {
   league->Add(
       RosterColumn(binding, parent, screen.Label1[2], screen.LeagueRoster, screen.SourceButton),
       wxSizerFlags().Expand());
-  wxChoice* batches = MakeChoice(binding, parent, screen.EventList, BatchHeading);
+  league->Add(MakeText(parent, "Scores to transfer"),
+              wxSizerFlags().Border(wxTOP, CloseGap(*parent)));
+  wxChoice* batches =
+      Named("Scores to transfer", MakeChoice(binding, parent, screen.EventList, BatchHeading));
   SetColumns(*batches, kBatchCharacters);
   SetRoom(panel, *batches);
   league->Add(batches, wxSizerFlags().Expand().Border(wxTOP, CloseGap(*parent)));

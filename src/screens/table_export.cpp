@@ -1,6 +1,7 @@
 #include "screens/table_export.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "core/change_gate.h"
 #include "core/file_name.h"
@@ -10,12 +11,18 @@
 namespace golf {
 
 std::vector<std::vector<std::string>> GridLines(const Grid& grid) {
-  std::vector<std::vector<std::string>> lines(static_cast<std::size_t>(grid.rows()) + 1);
+  std::vector<int> rows(static_cast<std::size_t>(grid.rows()));
+  std::iota(rows.begin(), rows.end(), 1);
+  return GridLines(grid, rows);
+}
+
+std::vector<std::vector<std::string>> GridLines(const Grid& grid, const std::vector<int>& rows) {
+  std::vector<std::vector<std::string>> lines(rows.size() + 1);
   for (int column = 1; column <= grid.columns(); ++column) {
     if (grid.IsHidden(column)) continue;
     lines[0].push_back(ReplaceText(grid.heading(column), "\n", " ", ReplaceMode::kExact));
-    for (int row = 1; row <= grid.rows(); ++row) {
-      lines[static_cast<std::size_t>(row)].push_back(grid.text(column, row));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      lines[i + 1].push_back(grid.text(column, rows[i]));
     }
   }
   return lines;

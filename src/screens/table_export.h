@@ -11,6 +11,9 @@ namespace golf {
 // Returns the headings and the rows of a grid without its column 0 and its hidden columns.
 std::vector<std::vector<std::string>> GridLines(const Grid& grid);
 
+// Returns the headings and these rows only. `rows` are in ascending order.
+std::vector<std::vector<std::string>> GridLines(const Grid& grid, const std::vector<int>& rows);
+
 // Copies lines to the clipboard. Tabs separate the cells, so that a spreadsheet can paste them.
 void CopyLines(ScreenHost& host, const std::vector<std::vector<std::string>>& lines);
 

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
+#include <wx/ctrlsub.h>
 #include <wx/gauge.h>
-#include <wx/grid.h>
-#include <wx/odcombo.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
@@ -276,9 +275,9 @@ TEST_F(ComfortTest, ALongListOfCoursesIsShownWhole) {
   user.When(
       "the courses", [] { return Operator::Find("CourseCombo") != nullptr; },
       [] {
-        auto& list = dynamic_cast<wxOwnerDrawnComboBox&>(*Operator::Find("CourseCombo"));
+        auto& list = dynamic_cast<wxControlWithItems&>(*Operator::Find("CourseCombo"));
         EXPECT_GT(static_cast<int>(list.GetCount()), kCourses);
-        EXPECT_EQ(list.GetValue(), "Larkfield Golf Club");
+        EXPECT_EQ(list.GetStringSelection(), "Larkfield Golf Club");
         list.SetFocus();
       });
   const auto chosen = [this] {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <wx/evtloop.h>
+#include <wx/stopwatch.h>
 #include <wx/toplevel.h>
 
 #include <string>
@@ -14,6 +16,18 @@
 #include "support/test_host.h"
 
 namespace golf {
+
+constexpr long kWindowTime = 100;  // milliseconds until the window system has shown a window
+
+// Handles the events of the toolkit for this number of milliseconds.
+inline void RunEvents(long time_allowed) {
+  wxEventLoop loop;
+  const wxEventLoopActivator active(&loop);
+  for (const wxStopWatch time; time.Time() < time_allowed;) {
+    while (loop.Pending()) loop.Dispatch();
+    loop.ProcessIdle();
+  }
+}
 
 // Is a host that answers boxes without showing them. Its function PaintNow is public for the tests.
 class BoxlessHost : public DesktopHost {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
+#include <wx/dataview.h>
 #include <wx/eventfilter.h>
 #include <wx/evtloop.h>
-#include <wx/grid.h>
 #include <wx/modalhook.h>
 #include <wx/msgdlg.h>
 #include <wx/statbmp.h>
@@ -63,25 +63,28 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
       return widget != nullptr && PointAt(widget, widget->GetSize());
     });
   }
-  // Clicks a cell of a grid when it is visible and enabled.
+  // Clicks a cell of a list when it is visible and enabled. Rows and columns count from 0.
   void PressCell(const std::string& name, int row, int column) {
     PressWhen("a cell of " + name, [this, name, row, column] {
-      auto* grid = dynamic_cast<wxGrid*>(Find(name));
-      if (grid == nullptr) return false;
-      wxRect cell = grid->CellToRect(row, column);
-      cell.SetPosition(grid->CalcScrolledPosition(cell.GetPosition()));
-      return PointAt(grid->GetGridWindow(), cell);
+      auto* list = dynamic_cast<wxDataViewCtrl*>(Find(name));
+      if (list == nullptr) return false;
+      return PointAt(list->GetMainWindow(), CellOf(*list, row, column));
     });
   }
-  // Clicks the heading of a column.
+  // Clicks the heading of a column when the first cell below it is visible and enabled. The toolkit
+  // reports no motion over the headings.
   void PressHeading(const std::string& name, int column) {
-    PressWhen("a heading of " + name, [this, name, column] {
-      auto* grid = dynamic_cast<wxGrid*>(Find(name));
-      if (grid == nullptr) return false;
-      wxWindow* headings = grid->GetGridColLabelWindow();
-      const wxRect cell = grid->CellToRect(0, column);
-      return PointAt(headings, {cell.x, 0, cell.width, headings->GetSize().y});
-    });
+    const auto list = [name] { return dynamic_cast<wxDataViewCtrl*>(Find(name)); };
+    When(
+        "press a heading of " + name,
+        [=, this] {
+          return list() != nullptr && PointAt(list()->GetMainWindow(), CellOf(*list(), 0, column));
+        },
+        [=, this] {
+          const wxRect cell = CellOf(*list(), 0, column);
+          MoveTo(*list()->GetMainWindow(), {cell.x, 0, cell.width, cell.y});
+          Click();
+        });
   }
   // Presses the button of the menu that ends the program, and runs the program until then.
   void RunToExit() {
@@ -183,6 +186,25 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
     return nullptr;
   }
 
+  // Returns the model of a list, with all rows of the list.
+  static const wxDataViewVirtualListModel& ModelOf(const wxDataViewCtrl& list) {
+    return dynamic_cast<const wxDataViewVirtualListModel&>(*list.GetModel());
+  }
+  // Returns the text of a cell in the list of this name, or an empty text if there is none. Rows
+  // and columns count from 0; a negative row counts from the end.
+  static std::string CellText(const std::string& name, int row, unsigned column) {
+    const auto* list = dynamic_cast<wxDataViewCtrl*>(Find(name));
+    if (list == nullptr || ModelOf(*list).GetCount() == 0) return "";
+    const int rows = static_cast<int>(ModelOf(*list).GetCount());
+    wxVariant text;
+    ModelOf(*list).GetValueByRow(text, static_cast<unsigned>(row < 0 ? rows + row : row),
+                                 list->GetColumn(column)->GetModelColumn());
+    return text.GetString().utf8_string();
+  }
+  static unsigned RowCount(const std::string& name) {
+    return ModelOf(dynamic_cast<wxDataViewCtrl&>(*Find(name))).GetCount();
+  }
+
  private:
   static constexpr int kTick = 5;                       // milliseconds
   static constexpr std::chrono::seconds kPatience{60};  // for a step on a slow machine
@@ -193,6 +215,10 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
     Action action;
   };
 
+  static wxRect CellOf(const wxDataViewCtrl& list, int row, int column) {
+    return list.GetItemRect(ModelOf(list).GetItem(static_cast<unsigned>(row)),
+                            list.GetColumn(static_cast<unsigned>(column)));
+  }
   static bool CanBeUsed(const wxWindow* widget) { return widget != nullptr && widget->IsEnabled(); }
   // Returns the text control of an input box, or null for any other dialog.
   static wxTextCtrl* EntryOf(wxDialog* dialog) {

@@ -2,6 +2,7 @@
 // screen exactly if the operator can reach the control.
 
 #include <wx/app.h>
+#include <wx/dataview.h>
 #include <wx/dialog.h>
 
 #include "desktop/demo_desktop.h"
@@ -46,10 +47,33 @@ const Command kCommands[] = {
     {wxCLASSINFO(wxListBox), wxEVT_LISTBOX_DCLICK, "double click"},
     {wxCLASSINFO(wxComboBox), wxEVT_COMBOBOX, "choice"},
     {wxCLASSINFO(wxComboBox), wxEVT_TEXT, "text"},
-    {wxCLASSINFO(wxOwnerDrawnComboBox), wxEVT_COMBOBOX, "choice"},
     {wxCLASSINFO(wxChoice), wxEVT_CHOICE, "choice"},
     {wxCLASSINFO(wxTextCtrl), wxEVT_TEXT, "text"},
 };
+
+void AddDeeds(wxDataViewCtrl& list, std::vector<Deed>& deeds) {
+  auto& model = dynamic_cast<wxDataViewVirtualListModel&>(*list.GetModel());
+  deeds.push_back(
+      {"row", [&list, &model] {
+         list.SetCurrentItem(model.GetItem(1));
+         list.Select(model.GetItem(1));
+         Send(list, wxDataViewEvent(wxEVT_DATAVIEW_SELECTION_CHANGED, &list, model.GetItem(1)));
+       }});
+  for (const auto& [what, type] : {std::pair("double click", wxEVT_DATAVIEW_ITEM_ACTIVATED),
+                                   std::pair("heading", wxEVT_DATAVIEW_COLUMN_HEADER_CLICK)}) {
+    wxDataViewEvent event(type, &list, list.GetColumn(0), model.GetItem(0));
+    deeds.push_back({what, [&list, event] { Send(list, event); }});
+  }
+  for (unsigned i = 0; i < list.GetColumnCount(); ++i) {
+    const unsigned column = list.GetColumn(i)->GetModelColumn();
+    if (list.GetColumn(i)->GetRenderer()->GetVariantType() != "bool") continue;
+    deeds.push_back({"tick", [&model, column] { model.SetValueByRow(true, 1, column); }});
+  }
+  for (const int key : {WXK_RETURN, WXK_INSERT, WXK_DELETE}) {
+    deeds.push_back(
+        {"key " + std::to_string(key), [&list, key] { SendKey(list, wxEVT_CHAR_HOOK, key); }});
+  }
+}
 
 std::vector<Deed> DeedsOf(wxWindow& widget) {
   std::vector<Deed> deeds = {{"focus", [&widget] { Send(widget, wxFocusEvent(wxEVT_SET_FOCUS)); }}};
@@ -77,21 +101,12 @@ std::vector<Deed> DeedsOf(wxWindow& widget) {
     const wxBookCtrlEvent turned(wxEVT_NOTEBOOK_PAGE_CHANGED, widget.GetId(), 0);
     deeds.push_back({"page", [&widget, turned] { Send(widget, turned); }});
   }
-  auto* grid = dynamic_cast<wxGrid*>(&widget);
-  if (grid == nullptr) return deeds;
-  const auto add_cell = [&](const char* what, const auto& type, int row, int column) {
-    const wxGridEvent event(grid->GetId(), type, grid, row, column);
-    deeds.push_back({what, [grid, event] { Send(*grid, event); }});
-  };
-  add_cell("row", wxEVT_GRID_SELECT_CELL, 1, 0);
-  add_cell("double click", wxEVT_GRID_CELL_LEFT_DCLICK, 0, 0);
-  add_cell("heading", wxEVT_GRID_LABEL_LEFT_CLICK, -1, 0);
-  deeds.push_back({"text", [grid] { grid->GetTable()->SetValue(0, 0, "typed"); }});
-  for (int column = 0; column < grid->GetNumberCols(); ++column) {
-    if (grid->GetTable()->GetTypeName(1, column) != wxGRID_VALUE_BOOL) continue;
-    add_cell("tick", wxEVT_GRID_CELL_LEFT_CLICK, 1, column);
+  if (auto* grid = dynamic_cast<wxGrid*>(&widget)) {
+    const wxGridEvent event(grid->GetId(), wxEVT_GRID_SELECT_CELL, grid, 1, 0);
+    deeds.push_back({"row", [grid, event] { Send(*grid, event); }});
+    deeds.push_back({"text", [grid] { grid->GetTable()->SetValue(0, 0, "typed"); }});
   }
-  for (const int key : {WXK_RETURN, WXK_INSERT, WXK_DELETE}) add_key(*grid, wxEVT_KEY_DOWN, key);
+  if (auto* list = dynamic_cast<wxDataViewCtrl*>(&widget)) AddDeeds(*list, deeds);
   return deeds;
 }
 

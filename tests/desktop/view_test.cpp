@@ -4,12 +4,11 @@
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/button.h>
+#include <wx/dataview.h>
 #include <wx/display.h>
-#include <wx/evtloop.h>
 #include <wx/grid.h>
 #include <wx/settings.h>
 #include <wx/stattext.h>
-#include <wx/stopwatch.h>
 
 #include <algorithm>
 #include <functional>
@@ -25,18 +24,8 @@
 namespace golf {
 namespace {
 
-constexpr long kWindowTime = 100;  // milliseconds until the window system has shown a window
 constexpr long kKeyTime = 5;
 constexpr double kReadable = 4.5;
-
-void RunEvents(long time_allowed) {
-  wxEventLoop loop;
-  const wxEventLoopActivator active(&loop);
-  for (const wxStopWatch time; time.Time() < time_allowed;) {
-    while (loop.Pending()) loop.Dispatch();
-    loop.ProcessIdle();
-  }
-}
 
 void ForEachWidget(wxWindow& window, const std::function<void(wxWindow&)>& visit) {
   for (wxWindow* child : window.GetChildren()) {
@@ -162,11 +151,15 @@ TEST(ViewTest, WindowsFitTheDisplayAndCutNoText) {
           EXPECT_EQ(widget.GetFont().GetFamily(), wxFONTFAMILY_TELETYPE);
         }
       }
-      if (const auto* const grid = dynamic_cast<const wxGrid*>(&widget)) {
-        for (int row = 0; row < std::min(grid->GetNumberRows(), 20); ++row) {
-          for (int column = 0; column < grid->GetNumberCols(); ++column) {
-            const wxString text = grid->GetCellValue(row, column);
-            EXPECT_GE(grid->GetColSize(column), grid->GetTextExtent(text).x) << text;
+      if (const auto* const list = dynamic_cast<const wxDataViewCtrl*>(&widget)) {
+        const auto& model = dynamic_cast<const wxDataViewVirtualListModel&>(*list->GetModel());
+        for (unsigned row = 0; row < std::min(model.GetCount(), 20u); ++row) {
+          for (unsigned i = 0; i < list->GetColumnCount(); ++i) {
+            wxVariant value;
+            model.GetValueByRow(value, row, list->GetColumn(i)->GetModelColumn());
+            if (value.GetType() != "string") continue;
+            EXPECT_GE(list->GetColumn(i)->GetWidth(), list->GetTextExtent(value.GetString()).x)
+                << value.GetString();
           }
         }
       }
