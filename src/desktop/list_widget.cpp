@@ -127,7 +127,10 @@ class ListView : public wxDataViewCtrl {
   // Returns the width that the heading and the first rows of a column need. The toolkit's own
   // function would read all rows.
   int WidthOf(int column) const {
-    int width = GetTextExtent(HeadingOf(control_, column)).x;
+    const wxFont bold = GetFont().Bold();  // of headings on some desktops
+    int width = 0;
+    int height = 0;
+    GetTextExtent(HeadingOf(control_, column), &width, &height, nullptr, nullptr, &bold);
     if (control_.cell_type(column) == CellType::kCheckBox) return width + FromDIP(kCellMargin);
     const int rows = std::min(control_.rows(), kMostRowsMeasured);
     for (int row = 1; row <= rows; ++row) {

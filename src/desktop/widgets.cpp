@@ -279,7 +279,7 @@ wxPanel* MakeFrame(Binding& binding, wxWindow* parent, Frame& control) {
 }
 
 wxNotebook* MakeTab(Binding& binding, wxWindow* parent, Tab& control) {
-  auto* book = new wxNotebook(parent, wxID_ANY);
+  auto* book = Named("Pages", new wxNotebook(parent, wxID_ANY));
   for (const std::string& page : control.pages()) {
     book->AddPage(new wxPanel(book), WxText(page));
   }

@@ -105,7 +105,7 @@ std::vector<std::string> RowsOf(wxDataViewCtrl& list) {
   return rows;
 }
 
-std::string ReadRow(const std::vector<std::string>&, const std::vector<std::string>& cells) {
+std::string ReadRow(int, const std::vector<std::string>&, const std::vector<std::string>& cells) {
   std::string row;
   for (const std::string& cell : cells) row += cell + "|";
   return row;

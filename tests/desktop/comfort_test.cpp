@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
+#include <wx/clipbrd.h>
 #include <wx/ctrlsub.h>
 #include <wx/gauge.h>
 #include <wx/stattext.h>
@@ -11,6 +12,7 @@
 #include "desktop/operator.h"
 #include "screens/courses/course_form.h"
 #include "screens/courses/course_tee.h"
+#include "screens/results/results_screen.h"
 #include "screens/rosters/load_rosters.h"
 #include "screens/transfers/kv_to_qb.h"
 #include "screens/transfers/qb_to_kv.h"
@@ -250,6 +252,42 @@ TEST_F(ComfortTest, ARunEndsWithAFullGaugeAndAWindowKeepsItsSize) {
         EXPECT_EQ(box.GetStringSelection(), "");
       });
   Leave("ExitButton");
+}
+
+TEST_F(ComfortTest, AListIsUsedWithTheKeyboard) {
+  const auto clipboard = [] {
+    wxTextDataObject text;
+    const wxClipboardLocker locker;
+    wxTheClipboard->GetData(text);
+    return text.GetText().utf8_string();
+  };
+  user.Do([this] { host.Operate([&] { OpenScreen(demo.install.state(), host, "Results", ""); }); });
+  const auto await_row = [this](int row) {
+    user.Await("row " + std::to_string(row), [this, row] {
+      const Grid& list = dynamic_cast<Results&>(host.Load("Results")).tables.grid1;
+      return list.active_row() == row && list.text(2, row).starts_with("E");
+    });
+  };
+  user.When(
+      "the list", [] { return Operator::Find("grid1") != nullptr; },
+      [] { Operator::Find("grid1")->SetFocus(); });
+  TypeAll({{"grid1", 'e'}});
+  await_row(4);
+  user.Next([this] { user.TypeNow('C', wxMOD_CONTROL); });
+  user.Await("one row", [=] {
+    return clipboard().find("Eames, Walt\t21\tC") != std::string::npos &&
+           clipboard().find("Idris") == std::string::npos;
+  });
+  user.Next([this] { user.TypeNow('A', wxMOD_CONTROL); });
+  user.Next([this] { user.TypeNow('C', wxMOD_CONTROL); });
+  user.Await("all rows", [=] {
+    const std::string text = clipboard();
+    return text.starts_with("Place\tName\tHandicap") &&
+           std::count(text.begin(), text.end(), '\n') == 13;
+  });
+  user.Type("grid1", WXK_ESCAPE);
+  user.Await("the menu", [this] { return !host.IsShown("Results"); });
+  user.RunToExit();
 }
 
 TEST_F(ComfortTest, ALongListOfCoursesIsShownWhole) {

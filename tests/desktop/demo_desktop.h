@@ -24,7 +24,7 @@ inline void RunEvents(long time_allowed) {
   wxEventLoop loop;
   const wxEventLoopActivator active(&loop);
   for (const wxStopWatch time; time.Time() < time_allowed;) {
-    while (loop.Pending()) loop.Dispatch();
+    while (loop.Pending() && time.Time() < time_allowed) loop.Dispatch();
     loop.ProcessIdle();
   }
 }

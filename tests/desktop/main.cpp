@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/init.h>
+#include <wx/log.h>
 #include <wx/utils.h>
 
 #include "support/temp_folder.h"
@@ -20,5 +21,6 @@ int main(int argc, char** argv) {
   wxApp::SetInstance(new wxApp);
   const wxInitializer toolkit(argc, argv);
   if (!toolkit.IsOk()) return 1;
+  wxLog::SetActiveTarget(new wxLogStderr);  // no box
   return RUN_ALL_TESTS();
 }

@@ -319,7 +319,9 @@ TEST_F(ExportTest, ResultsAreThoseOfTheCommand) {
                    .out)) {
         const std::string where = " from " + kind.table + " r where r.round = " + round + " and (" +
                                   kind.of + "r." + kind.owner + ") = " + object[kind.number].dump();
-        for (const auto& [name, value] : object.items()) {
+        for (const auto& item : object.items()) {
+          const std::string& name = item.key();
+          const Json& value = item.value();
           // The tables of results have no columns for the flight, the sex and the places.
           const bool is_no_column = name == "record" || name == "round" || name == "TourFlight" ||
                                     name == "sex" || name.ends_with("Places");

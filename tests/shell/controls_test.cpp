@@ -1,6 +1,7 @@
 #include "forms/dialogs.h"
 #include "forms/grid.h"
 #include "forms/screen.h"
+#include "forms/type_ahead.h"
 #include "screens/tip_box.h"
 #include "screens/transfer_menu.h"
 #include "support/test_host.h"
@@ -251,6 +252,38 @@ TEST(ControlsTest, GridCellsLocksAndEvents) {
   EXPECT_EQ(grid.active_row(), 0);
   for (const auto& [column, row] : {std::pair(3, 1), {-1, 1}, {0, 0}, {0, 3}}) {
     EXPECT_EQ(ErrorOf([&, c = column, r = row] { grid.SetText(c, r, ""); }), 9);
+  }
+}
+
+// Each case types a text into a list of three rows whose first row is active, with a pause before
+// each "_". The last key decides.
+TEST(TypeAheadTest, GoesToTheRowThatBeginsWithTheTypedLetters) {
+  Grid grid("grid", 3);
+  grid.SetRows(4);
+  const char* const kCells[4][3] = {
+      {"1", "  Idris, Omar", "1"}, {"2", "Calder", "1"}, {"12", "Camden", "0"}, {"3", "Idle", "0"}};
+  for (int row = 1; row <= 4; ++row) {
+    for (int column = 1; column <= 3; ++column) {
+      grid.SetText(column, row, kCells[row - 1][column - 1]);
+    }
+  }
+  grid.SetCellType(3, CellType::kCheckBox);
+  grid.SetHidden(0, true);
+  grid.SetActiveRow(1);
+  const struct {
+    const char* typed;
+    int row;
+  } kCases[] = {{"c", 2},  {"CAM", 3}, {"i", 4},  {"ii", 4},  {"idr", 1},     {"1", 3},
+                {"12", 3}, {"0", 0},   {"cx", 0}, {"c_i", 4}, {"idris, o", 1}};
+  for (const auto& c : kCases) {
+    TypeAhead type_ahead;
+    std::chrono::milliseconds now{0};
+    int row = 0;
+    for (const char typed : std::string(c.typed)) {
+      now += std::chrono::milliseconds(typed == '_' ? 1001 : 1);
+      if (typed != '_') row = type_ahead.Type(grid, typed, now);
+    }
+    EXPECT_EQ(row, c.row) << c.typed;
   }
 }
 
