@@ -20,7 +20,9 @@ wxSizer* Choice(Binding& binding, wxWindow* parent, Label& heading, Label& chose
       {title, MakeLabel(binding, parent, chosen, shown), MakeButton(binding, parent, finder)});
 }
 
-wxSizer* Handicaps(Binding& binding, wxWindow* parent, KVtoZD& screen) {
+wxPanel* MakeHandicaps(Binding& binding, wxWindow* frame, KVtoZD& screen) {
+  auto* parent = new wxPanel(frame);
+  MakeAccessibleGroup(*parent, NameOf(screen.Label1[4]));
   const int gap = CloseGap(*parent);
   auto* types = new wxFlexGridSizer(2, gap, gap);
   const auto middle = wxSizerFlags().CentreVertical();
@@ -47,7 +49,8 @@ wxSizer* Handicaps(Binding& binding, wxWindow* parent, KVtoZD& screen) {
   column->Add(title, wxSizerFlags().Expand());
   column->Add(types, wxSizerFlags().Border(wxTOP, gap));
   column->Add(percent, wxSizerFlags().Border(wxTOP, gap));
-  return column;
+  parent->SetSizer(column);
+  return parent;
 }
 
 wxPanel* MakeMain(ScreenPanel& panel, KVtoZD& screen) {
@@ -61,7 +64,7 @@ wxPanel* MakeMain(ScreenPanel& panel, KVtoZD& screen) {
                                   Choice(binding, frame, screen.Label1[2], screen.DestLabel,
                                          screen.FindZDButton, LeaguePicker::HeadingOf)}),
                group);
-  content->Add(Handicaps(binding, frame, screen), group);
+  content->Add(MakeHandicaps(binding, frame, screen), group);
   AddRun(*content, panel, frame,
          {.heading = screen.Label1[3],
           .log = screen.Message,

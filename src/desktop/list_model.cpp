@@ -1,7 +1,5 @@
 #include "desktop/list_model.h"
 
-#include <utility>
-
 #include "core/number_text.h"
 #include "desktop/wx_text.h"
 
@@ -10,21 +8,30 @@ namespace golf {
 ListModel::ListModel(Binding& binding, Grid& control) : binding_(binding), control_(control) {}
 
 bool ListModel::CatchUp() {
-  std::vector<Row> now;
-  for (int row = 1; row <= control_.rows(); ++row) now.push_back(RowOf(row));
-  const std::vector<Row> before = std::exchange(shown_, std::move(now));
-  if (before.size() != shown_.size()) {
-    Reset(static_cast<unsigned>(shown_.size()));
-    return true;
+  const auto rows = static_cast<std::size_t>(control_.rows());
+  const bool is_resized = rows != shown_.size();
+  shown_.resize(rows, Row(static_cast<std::size_t>(control_.columns()) + 1));
+  for (std::size_t row = 0; row < rows; ++row) {
+    if (CopyRow(row) && !is_resized) RowChanged(static_cast<unsigned>(row));
   }
-  for (std::size_t i = 0; i < shown_.size(); ++i) {
-    if (shown_[i] != before[i]) RowChanged(static_cast<unsigned>(i));
+  if (is_resized) Reset(static_cast<unsigned>(rows));
+  return is_resized;
+}
+
+// Copies the texts of a row, from 0, that differ. Returns true if there were any.
+bool ListModel::CopyRow(std::size_t row) {
+  bool differs = false;
+  for (std::size_t column = 0; column < shown_[row].size(); ++column) {
+    const std::string& text = control_.text(static_cast<int>(column), static_cast<int>(row) + 1);
+    if (shown_[row][column] == text) continue;
+    shown_[row][column] = text;
+    differs = true;
   }
-  return false;
+  return differs;
 }
 
 bool ListModel::ToggleTick(int column, int row) {
-  if (control_.IsLocked(column, row)) return false;
+  if (row > control_.rows() || control_.IsLocked(column, row)) return false;
   const bool ticked = LeadingNumber(control_.text(column, row)) != 0;
   binding_.Operate(control_, [&] { control_.Enter(column, row, ticked ? "0" : "1"); });
   return true;
@@ -45,14 +52,6 @@ bool ListModel::SetValueByRow(const wxVariant&, unsigned row, unsigned column) {
 
 bool ListModel::IsEnabledByRow(unsigned row, unsigned column) const {
   return !IsTick(column) || !control_.IsLocked(static_cast<int>(column), static_cast<int>(row) + 1);
-}
-
-ListModel::Row ListModel::RowOf(int row) const {
-  Row cells;
-  for (int column = 0; column <= control_.columns(); ++column) {
-    cells.push_back(control_.text(column, row));
-  }
-  return cells;
 }
 
 bool ListModel::IsTick(unsigned column) const {

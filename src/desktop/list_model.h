@@ -20,7 +20,8 @@ class ListModel : public wxDataViewVirtualListModel {
   // has changed.
   bool CatchUp();
 
-  // Toggles the tick of a cell. `row` counts from 1. Returns false if the cell is locked.
+  // Toggles the tick of a cell. `row` counts from 1. Returns false if the cell is locked or the row
+  // no longer exists.
   bool ToggleTick(int column, int row);
 
   void GetValueByRow(wxVariant& value, unsigned row, unsigned column) const override;
@@ -29,7 +30,7 @@ class ListModel : public wxDataViewVirtualListModel {
 
  private:
   using Row = std::vector<std::string>;
-  Row RowOf(int row) const;
+  bool CopyRow(std::size_t row);
   bool IsTick(unsigned column) const;
 
   Binding& binding_;

@@ -144,8 +144,10 @@ wxSizer* Statistics(ScreenPanel& panel, PlayerStandings& players) {
   wxStaticText* heading = MakeHeading(&panel, "Numbers of holes");
   panel.binding().ShowAlso([heading, &players] { heading->Show(players.grid3.IsShown()); });
   numbers->Add(heading, wxSizerFlags().Border(wxBOTTOM, CloseGap(panel)));
-  numbers->Add(Named("Numbers of holes", MakeList(panel.binding(), &panel, players.grid3,
-                                                  SelectedRows::kSeveral, kStatisticsSeen)));
+  wxDataViewCtrl* list =
+      MakeList(panel.binding(), &panel, players.grid3, SelectedRows::kSeveral, kStatisticsSeen);
+  SetRoom(panel, *Named("Numbers of holes", list));
+  numbers->Add(list);
   row->Add(numbers);
   row->Add(MakeLabel(panel.binding(), &panel, players.StatisticsLabel),
            wxSizerFlags(1).CentreVertical().Border(wxLEFT, GroupGap(panel)));

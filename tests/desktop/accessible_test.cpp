@@ -54,16 +54,6 @@ void ExpectNames(const AccessibleNode& node) {
   expect_in_groups(node);
 }
 
-std::vector<wxWindow*> WidgetsNamed(wxWindow& window, const wxString& name) {
-  std::vector<wxWindow*> widgets;
-  for (wxWindow* child : window.GetChildren()) {
-    if (child->GetName() == name) widgets.push_back(child);
-    const auto below = WidgetsNamed(*child, name);
-    widgets.insert(widgets.end(), below.begin(), below.end());
-  }
-  return widgets;
-}
-
 std::string Utf8(const std::string& text) { return WxText(text).utf8_string(); }
 
 void ExpectRows(const Grid& grid, wxDataViewCtrl& list) {

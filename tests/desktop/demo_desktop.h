@@ -5,6 +5,7 @@
 #include <wx/toplevel.h>
 
 #include <string>
+#include <vector>
 
 #include "app/application.h"
 #include "app/demo/demo_install.h"
@@ -27,6 +28,17 @@ inline void RunEvents(long time_allowed) {
     while (loop.Pending() && time.Time() < time_allowed) loop.Dispatch();
     loop.ProcessIdle();
   }
+}
+
+// Returns the widgets of this name within a window, in the order of their creation.
+inline std::vector<wxWindow*> WidgetsNamed(wxWindow& window, const wxString& name) {
+  std::vector<wxWindow*> widgets;
+  for (wxWindow* child : window.GetChildren()) {
+    if (child->GetName() == name) widgets.push_back(child);
+    const auto below = WidgetsNamed(*child, name);
+    widgets.insert(widgets.end(), below.begin(), below.end());
+  }
+  return widgets;
 }
 
 // Is a host that answers boxes without showing them. Its function PaintNow is public for the tests.

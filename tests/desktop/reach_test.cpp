@@ -167,16 +167,6 @@ class CountingScreen {
            control.kind() != ControlKind::kTimer;
   }
 
-  static std::vector<wxWindow*> WidgetsNamed(wxWindow& window, const std::string& name) {
-    std::vector<wxWindow*> widgets;
-    for (wxWindow* child : window.GetChildren()) {
-      if (child->GetName() == name) widgets.push_back(child);
-      const auto below = WidgetsNamed(*child, name);
-      widgets.insert(widgets.end(), below.begin(), below.end());
-    }
-    return widgets;
-  }
-
   // Makes a control and everything that contains it reachable.
   static void Reach(Control& control) {
     if (control.parent() != nullptr) Reach(*control.parent());
