@@ -85,7 +85,6 @@ void CollectTabStops(const wxWindow& window, std::vector<wxWindow*>& stops) {
 ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen)
     : wxPanel(new Scroller(&window)),
       window_(window),
-      host_(host),
       screen_(&screen),
       binding_(host, screen),
       foot_(new wxPanel(&window)) {

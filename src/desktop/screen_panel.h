@@ -78,7 +78,6 @@ class ScreenPanel : public wxPanel {
   void MoveFocusByTab(bool backward);
 
   wxTopLevelWindow& window_;
-  HostBase& host_;
   Screen* screen_;
   Binding binding_;
   wxPanel* foot_;

@@ -51,7 +51,7 @@ class MenuFiller {
     wxNotebook* tab = MakeTab(panel_.binding(), &panel_, screen_.SSTab1);
     page_ = tab->GetPage(0);
     auto* columns = new wxFlexGridSizer(3, 0, CloseGap(panel_));
-    for (const std::size_t column : {0, 1, 2}) columns->AddGrowableCol(column);
+    for (const std::size_t column : {0u, 1u, 2u}) columns->AddGrowableCol(column);
     const auto add = [&](Label& heading, std::initializer_list<Button*> buttons) {
       columns->Add(HeadedColumn(heading, buttons), wxSizerFlags().Expand());
     };

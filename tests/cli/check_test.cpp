@@ -87,7 +87,7 @@ TEST_F(CheckTest, EachPlantedFaultIsFoundOnce) {
       {"golfer-twice", "kvdata/CLUB18.kvg", 2, "Bergstrom, Anna",
        [&](const std::string&) {
          Put("kvdata/CLUB18.kv5", 673, FitText("Birthday", 12));
-         for (const std::size_t at : {0, 2804}) {
+         for (const std::size_t at : {0u, 2804u}) {
            Put("kvdata/CLUB18.kvg", at + 8, FitText("Anna", 11) + FitText("Bergstrom", 16));
            Put("kvdata/CLUB18.kvg", at + 561, later);
          }

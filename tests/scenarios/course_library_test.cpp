@@ -312,7 +312,8 @@ TEST_F(CourseLibraryTest, TheFormShowsTheHolesOfTheCourse) {
     Put16(course, 2, {holes});
     Write(course);
     Run(Presses("EditCourseButton"), [&, option = option](CourseForm& form) {
-      for (int i = 0; i < 3; ++i) EXPECT_EQ(form.FHoleNum[i].value(), i == option) << option;
+      int i = 0;
+      for (const OptionButton& button : form.FHoleNum) EXPECT_EQ(button.value(), i++ == option);
     });
   }
 }

@@ -104,7 +104,7 @@ TEST_F(MemoryPlatformTest, APowerCutTakesWhatIsNotSynced) {
     MemoryPlatform kept = memory.Copy();
     memory.PowerCut(0);
     EXPECT_EQ(FilesOf(memory), row.lost);
-    for (const std::uint64_t seed : {1, 0}) {  // what the first one leaves is synced
+    for (const std::uint64_t seed : {1u, 0u}) {  // what the first one leaves is synced
       kept.PowerCut(seed);
       EXPECT_EQ(FilesOf(kept), row.kept);
     }
