@@ -1,6 +1,6 @@
 #include "desktop/list_widget.h"
 
-#include <wx/dcclient.h>
+#include <wx/headerctrl.h>
 #include <wx/menu.h>
 #include <wx/settings.h>
 #include <wx/stopwatch.h>
@@ -52,6 +52,12 @@ class ListView : public wxDataViewCtrl {
     Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, &ListView::OnSelection, this);
     Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, &ListView::OnActivated, this);
     Bind(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK, &ListView::OnHeadingClick, this);
+#ifdef __WXMSW__
+    // Each click counts, also the second one of a double click.
+    GenericGetHeader()->Bind(wxEVT_HEADER_DCLICK, [this](wxHeaderCtrlEvent& event) {
+      ClickHeading(*GetColumn(static_cast<unsigned>(event.GetColumn())));
+    });
+#endif
     Bind(wxEVT_DATAVIEW_ITEM_CONTEXT_MENU, [this](wxDataViewEvent&) { ShowMenu(); });
     Bind(wxEVT_CHAR_HOOK, &ListView::OnCharHook, this);
     GetMainWindow()->Bind(wxEVT_CHAR, &ListView::OnChar, this);
@@ -223,8 +229,12 @@ class ListView : public wxDataViewCtrl {
 
   void OnHeadingClick(wxDataViewEvent& event) {
     event.Skip();
-    if (event.GetDataViewColumn() == nullptr || !control_.on_heading_click) return;
-    const int column = static_cast<int>(event.GetDataViewColumn()->GetModelColumn());
+    if (event.GetDataViewColumn() != nullptr) ClickHeading(*event.GetDataViewColumn());
+  }
+
+  void ClickHeading(const wxDataViewColumn& clicked) {
+    if (!control_.on_heading_click) return;
+    const int column = static_cast<int>(clicked.GetModelColumn());
     binding_.OperateSoon(control_, [this, column] { control_.on_heading_click(column); });
   }
 
@@ -294,8 +304,8 @@ class ListView : public wxDataViewCtrl {
     for (int row = 1; row <= control_.rows(); ++row) {
       if (IsSelected(ItemOf(row))) rows.push_back(row);
     }
-    if (!rows.empty())
-      binding_.Operate(control_, [&] { CopyLines(binding_.host(), GridLines(control_, rows)); });
+    if (rows.empty()) return;
+    binding_.Operate(control_, [&] { CopyLines(binding_.host(), GridLines(control_, rows)); });
   }
 
   void ShowMenu() {
