@@ -26,6 +26,7 @@ class CellChoice : public wxChoice {
     binding.FollowFocus(control, *this);
     binding.ShowAlso([this] { Follow(); });
     Bind(wxEVT_CHOICE, [this, &binding](wxCommandEvent& event) {
+      if (binding.IsReleased()) return;
       const auto chosen = static_cast<std::size_t>(event.GetSelection());
       const int row = control_.active_row();
       binding.OperateSoon(control_, [this, chosen, row] { Enter(chosen, row); });

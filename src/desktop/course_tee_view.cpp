@@ -16,7 +16,7 @@ constexpr std::size_t kNine = 9;
 // These are in characters.
 constexpr int kHoleCharacters = 4;
 constexpr int kCardLabelCharacters = 10;
-constexpr int kTotalCharacters = 7;
+constexpr int kTotalCharacters = 4;
 constexpr int kNameCharacters = 8;
 constexpr int kNumberCharacters = 5;
 constexpr int kNoteCharacters = 72;

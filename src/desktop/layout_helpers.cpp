@@ -133,8 +133,9 @@ int TextHeight(const wxWindow& window, int lines) { return lines * window.GetCha
 
 void SetColumns(wxControl& widget, int characters) {
   const wxString digits('0', static_cast<std::size_t>(characters));
-  widget.SetMinSize(
-      {widget.GetSizeFromTextSize(widget.GetTextExtent(digits).x).x, widget.GetMinSize().y});
+  const int width = widget.GetTextExtent(digits).x;
+  const bool is_text = dynamic_cast<wxStaticText*>(&widget) != nullptr;  // has no frame
+  widget.SetMinSize({is_text ? width : widget.GetSizeFromTextSize(width).x, widget.GetMinSize().y});
 }
 
 int LineWidth(const ScreenPanel& panel, int characters) {

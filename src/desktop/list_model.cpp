@@ -8,6 +8,10 @@ namespace golf {
 ListModel::ListModel(Binding& binding, Grid& control) : binding_(binding), control_(control) {}
 
 bool ListModel::CatchUp() {
+  ticks_.clear();
+  for (int column = 0; column <= control_.columns(); ++column) {
+    ticks_.push_back(control_.cell_type(column) == CellType::kCheckBox);
+  }
   const auto rows = static_cast<std::size_t>(control_.rows());
   const bool is_resized = rows != shown_.size();
   shown_.resize(rows, Row(static_cast<std::size_t>(control_.columns()) + 1));
@@ -31,7 +35,8 @@ bool ListModel::CopyRow(std::size_t row) {
 }
 
 bool ListModel::ToggleTick(int column, int row) {
-  if (row > control_.rows() || control_.IsLocked(column, row)) return false;
+  if (binding_.IsReleased() || row > control_.rows() || control_.IsLocked(column, row))
+    return false;
   const bool ticked = LeadingNumber(control_.text(column, row)) != 0;
   binding_.Operate(control_, [&] { control_.Enter(column, row, ticked ? "0" : "1"); });
   return true;
@@ -39,7 +44,7 @@ bool ListModel::ToggleTick(int column, int row) {
 
 void ListModel::GetValueByRow(wxVariant& value, unsigned row, unsigned column) const {
   const std::string& text = shown_.at(row).at(column);
-  if (IsTick(column)) {
+  if (ticks_.at(column)) {
     value = LeadingNumber(text) != 0;
   } else {
     value = WxText(text);
@@ -47,15 +52,12 @@ void ListModel::GetValueByRow(wxVariant& value, unsigned row, unsigned column) c
 }
 
 bool ListModel::SetValueByRow(const wxVariant&, unsigned row, unsigned column) {
-  return IsTick(column) && ToggleTick(static_cast<int>(column), static_cast<int>(row) + 1);
+  return ticks_.at(column) && ToggleTick(static_cast<int>(column), static_cast<int>(row) + 1);
 }
 
 bool ListModel::IsEnabledByRow(unsigned row, unsigned column) const {
-  return !IsTick(column) || !control_.IsLocked(static_cast<int>(column), static_cast<int>(row) + 1);
-}
-
-bool ListModel::IsTick(unsigned column) const {
-  return control_.cell_type(static_cast<int>(column)) == CellType::kCheckBox;
+  return binding_.IsReleased() || !ticks_.at(column) ||
+         !control_.IsLocked(static_cast<int>(column), static_cast<int>(row) + 1);
 }
 
 }  // namespace golf

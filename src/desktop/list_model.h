@@ -11,7 +11,8 @@
 namespace golf {
 
 // Provides the rows of a grid control to the toolkit's list. Rows count from 0. The columns are
-// those of the control. Cells of check boxes are bool values, all others are texts.
+// those of the control. Cells of check boxes are bool values, all others are texts. The toolkit may
+// ask for values after the binding has been released, when the control no longer exists.
 class ListModel : public wxDataViewVirtualListModel {
  public:
   ListModel(Binding& binding, Grid& control);
@@ -31,10 +32,10 @@ class ListModel : public wxDataViewVirtualListModel {
  private:
   using Row = std::vector<std::string>;
   bool CopyRow(std::size_t row);
-  bool IsTick(unsigned column) const;
 
   Binding& binding_;
   Grid& control_;
+  std::vector<bool> ticks_;  // by the column
   std::vector<Row> shown_;
 };
 

@@ -205,7 +205,7 @@ class ListView : public wxDataViewCtrl {
   // selected again.
   void OnSelection(wxDataViewEvent& event) {
     event.Skip();
-    if (showing_) return;
+    if (showing_ || binding_.IsReleased()) return;
     const int row = RowOf(several_ ? GetCurrentItem() : GetSelection());
     if (row > 0 && IsSelected(ItemOf(row))) return Activate(row);
     if (!several_ && control_.active_row() > 0) {
@@ -224,7 +224,8 @@ class ListView : public wxDataViewCtrl {
   }
 
   void OnActivated(wxDataViewEvent&) {
-    if (control_.on_double_click) binding_.OperateSoon(control_, control_.on_double_click);
+    if (binding_.IsReleased() || !control_.on_double_click) return;
+    binding_.OperateSoon(control_, control_.on_double_click);
   }
 
   void OnHeadingClick(wxDataViewEvent& event) {
@@ -233,7 +234,7 @@ class ListView : public wxDataViewCtrl {
   }
 
   void ClickHeading(const wxDataViewColumn& clicked) {
-    if (!control_.on_heading_click) return;
+    if (binding_.IsReleased() || !control_.on_heading_click) return;
     const int column = static_cast<int>(clicked.GetModelColumn());
     binding_.OperateSoon(control_, [this, column] { control_.on_heading_click(column); });
   }
@@ -248,6 +249,7 @@ class ListView : public wxDataViewCtrl {
 
   // Handles the keys that the screen uses. All other keys move within the list.
   void OnCharHook(wxKeyEvent& event) {
+    if (binding_.IsReleased()) return event.Skip();
     const int key = event.GetKeyCode();
     if (event.GetModifiers() == wxMOD_CONTROL) {
       if (key == 'C' || key == WXK_INSERT) return Copy();
@@ -291,7 +293,8 @@ class ListView : public wxDataViewCtrl {
   // Goes to the row that begins with the typed letters.
   void OnChar(wxKeyEvent& event) {
     const wxChar typed = event.GetUnicodeKey();
-    if (typed < WXK_SPACE || typed == WXK_DELETE || event.HasModifiers()) return event.Skip();
+    const bool is_text = typed >= WXK_SPACE && typed != WXK_DELETE && !event.HasModifiers();
+    if (!is_text || binding_.IsReleased()) return event.Skip();
     const int row = type_ahead_.Type(control_, TextFromWx(wxString(typed)).front(), Now());
     if (row > 0) Activate(row);
   }
@@ -309,6 +312,7 @@ class ListView : public wxDataViewCtrl {
   }
 
   void ShowMenu() {
+    if (binding_.IsReleased()) return;
     wxMenu menu;
     const auto add = [&](wxWindowID id, const char* caption, bool enabled, auto work) {
       menu.Append(id, caption)->Enable(enabled);

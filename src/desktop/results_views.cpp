@@ -16,7 +16,6 @@ constexpr int kPlayerCardSeen = 5;
 constexpr int kStatisticsSeen = 2;
 constexpr int kCharacters = 140;
 constexpr int kListCharacters = 26;
-constexpr int kTournamentCharacters = 16;
 constexpr int kFindCharacters = 16;
 
 // Lays out choices in a row. Each follows its label.
@@ -67,7 +66,6 @@ wxSizer* TeamChoices(ScreenPanel& panel, TeamResults& screen) {
   const auto middle = wxSizerFlags().CentreVertical().Border(wxLEFT, GroupGap(panel));
   wxStaticText* tournament = MakeLabel(binding, &panel, screen.TournamentLabel);
   MakeBold(*tournament);
-  SetColumns(*tournament, kTournamentCharacters);
   row->Add(tournament, wxSizerFlags(1).CentreVertical());
   row->Add(MakeLabel(binding, &panel, screen.teams.LayoutLabel), middle);
   wxChoice* layouts = NameAfter(binding, screen.teams.LayoutLabel,

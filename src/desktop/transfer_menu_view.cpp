@@ -1,8 +1,10 @@
 #include <wx/display.h>
 
+#include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
+#include "desktop/wx_text.h"
 #include "screens/transfer_menu.h"
 
 namespace golf {
@@ -72,7 +74,9 @@ class MenuFiller {
     MakeBold(*text);
     wxSizer* column = Column({text});
     for (Button* button : buttons) {
-      column->Add(NewButton(page_, *button),
+      // Buttons of different columns have the same caption.
+      const wxString caption = wxControl::RemoveMnemonics(WxText(button->caption())).Trim();
+      column->Add(Named(caption + ", " + NameOf(heading), NewButton(page_, *button)),
                   wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel_)));
     }
     return column;

@@ -36,7 +36,8 @@ void ExpectNames(const AccessibleNode& node) {
   std::set<std::string> names;
   for (const AccessibleNode* sibling : siblings) {
     EXPECT_NE(sibling->name, "") << "a control with the value " << sibling->value.value_or("");
-    EXPECT_TRUE(names.insert(sibling->name).second) << "twice: " << sibling->name;
+    EXPECT_TRUE(names.insert(std::string(Trim(sibling->name))).second)
+        << "twice: " << sibling->name;
     // The toolkit connects a label with the widget that follows it.
     EXPECT_NE(LowerCase(sibling->name).find(Trim(LowerCase(sibling->label))), std::string::npos)
         << sibling->name << " has the label " << sibling->label;

@@ -35,6 +35,16 @@ void ForEachWidget(wxWindow& window, const std::function<void(wxWindow&)>& visit
   }
 }
 
+// True if the toolkit has laid out all lists. On a slow machine that takes some time.
+bool AreListsLaidOut(wxWindow& window) {
+  bool laid_out = true;
+  ForEachWidget(window, [&laid_out](wxWindow& widget) {
+    const auto* list = dynamic_cast<wxDataViewCtrl*>(&widget);
+    if (list != nullptr && list->GetColumn(0)->GetWidth() == 0) laid_out = false;
+  });
+  return laid_out;
+}
+
 // Shows each screen in turn.
 void ForEachWindow(const std::function<void(wxTopLevelWindow&, Screen&)>& visit) {
   for (const auto& view : Views()) {
@@ -45,7 +55,9 @@ void ForEachWindow(const std::function<void(wxTopLevelWindow&, Screen&)>& visit)
     if (auto* builder = dynamic_cast<XReportsCustomTeamResults*>(&screen)) {
       builder->Timer1.SetInterval(0);  // it would close the screen, which has no layout
     }
+    constexpr int kMostTimes = 100;
     RunEvents(kWindowTime);
+    for (int i = 0; i < kMostTimes && !AreListsLaidOut(window); ++i) RunEvents(kWindowTime);
     visit(window, screen);
   }
 }
