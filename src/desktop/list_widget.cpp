@@ -255,8 +255,8 @@ class ListView : public wxDataViewCtrl {
       if (key == 'C' || key == WXK_INSERT) return Copy();
       if (key == 'A' && several_) return SelectAll();
     }
-    const bool asks_menu = key == WXK_WINDOWS_MENU || (key == WXK_F10 && event.ShiftDown());
-    if (asks_menu) return ShowMenu();
+    const bool is_menu_key = key == WXK_MENU || key == WXK_WINDOWS_MENU;  // on GTK, on Windows
+    if (is_menu_key || (key == WXK_F10 && event.ShiftDown())) return ShowMenu();
     if (event.HasModifiers()) return event.Skip();
     if (key == WXK_SPACE && !type_ahead_.Continues(Now())) return ToggleTick();
     // The toolkit's cursor may already be in the first row, so Down would skip it.
