@@ -4,14 +4,12 @@ enable_language(RC)
 set(GOLF_PACKAGING ${CMAKE_CURRENT_LIST_DIR})
 
 # A program that runs on the build machine draws the icon.
-find_program(GOLF_HOST_CXX NAMES g++ c++ REQUIRED)
+golf_host_tool(${GOLF_PACKAGING}/make_icon.cpp make_icon)
 set(GOLF_ICON ${PROJECT_BINARY_DIR}/golf-transfer.ico)
 add_custom_command(
   OUTPUT ${GOLF_ICON}
-  COMMAND ${GOLF_HOST_CXX} -std=c++20 -O2 -o make_icon ${GOLF_PACKAGING}/make_icon.cpp
-  COMMAND ./make_icon ${GOLF_ICON}
-  DEPENDS ${GOLF_PACKAGING}/make_icon.cpp
-  WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+  COMMAND ${make_icon} ${GOLF_ICON}
+  DEPENDS ${make_icon})
 add_custom_target(golf_icon DEPENDS ${GOLF_ICON})
 
 # golf_resources(PROGRAM DESCRIPTION) adds the resources of an executable.

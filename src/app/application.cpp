@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "app/demo/demo_folder.h"
 #include "app/tools.h"
 #include "core/entry.h"
 #include "history/record_changes.h"
@@ -13,12 +14,18 @@
 #include "scoring/stroke_control.h"
 #include "scoring/team/team_class.h"
 #include "scoring/tournament_class.h"
+#include "screens/about.h"
 #include "screens/courses/course_form.h"
 #include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
+#include "screens/courses/deleted_courses.h"
 #include "screens/history/change_preview.h"
 #include "screens/history/interrupted_run.h"
 #include "screens/history/transfer_history.h"
+#include "screens/menu/recent_folders.h"
+#include "screens/menu/transfer_menu.h"
+#include "screens/outlets/check_data.h"
+#include "screens/outlets/export_data.h"
 #include "screens/results/grid_sort_screen.h"
 #include "screens/results/results_screen.h"
 #include "screens/results/team_layout_builder.h"
@@ -27,7 +34,6 @@
 #include "screens/rosters/load_roster.h"
 #include "screens/rosters/load_rosters.h"
 #include "screens/tip_box.h"
-#include "screens/transfer_menu.h"
 #include "screens/transfers/kv_courses_to_qb.h"
 #include "screens/transfers/kv_to_qb.h"
 #include "screens/transfers/kv_to_zd.h"
@@ -74,6 +80,13 @@ std::shared_ptr<Screen> Make(const ScreenContext& context) {
   return std::make_shared<AnyScreen>(context);
 }
 
+std::shared_ptr<Screen> MakeMenu(const ScreenContext& context) {
+  return std::make_shared<TransferMenu>(context,
+                                        [&host = context.host](const std::string& utf8_folder) {
+                                          CreateDemoFolder(utf8_folder, host.Now());
+                                        });
+}
+
 }  // namespace
 
 Application::Application(std::unique_ptr<Platform> platform)
@@ -90,7 +103,8 @@ Application::Application(std::unique_ptr<Platform> platform)
 }
 
 ScreenCatalogue Application::Screens() {
-  return {{"TransferMenu", Make<TransferMenu>},
+  return {{"TransferMenu", MakeMenu},
+          {"About", Make<About>},
           {"TipBox", Make<TipBox>},
           {"GridSort", Make<GridSort>},
           {"ChangePreview", Make<ChangePreview>},
@@ -100,8 +114,12 @@ ScreenCatalogue Application::Screens() {
           {"CourseTable", Make<CourseTable>},
           {"CourseForm", Make<CourseForm>},
           {"CourseTee", Make<CourseTee>},
+          {"DeletedCourses", Make<DeletedCourses>},
           {"TransferHistory", Make<TransferHistory>},
           {"Results", Make<Results>},
+          {"RecentFolders", Make<RecentFolders>},
+          {"CheckData", Make<CheckData>},
+          {"ExportData", Make<ExportData>},
           {"TeamResults", Make<TeamResults>},
           {"TeamLayouts", Make<TeamLayouts>},
           {"XReportsCustomTeamResults", Make<XReportsCustomTeamResults>},
@@ -138,6 +156,9 @@ void OpenScreen(SharedState& state, ScreenHost& host, std::string_view name,
   if (name == "XReportsCustomTeamResults") {
     return OpenTeamLayoutBuilder(state, host, word == "new" ? "" : std::string(word));
   }
+  // These screens change nothing, so they also do not finish an interrupted run.
+  if (name == "About" || name == "CheckData" || name == "ExportData")
+    return host.ShowModal(host.Load(name));
   if (name == "LoadRosters") OpenForLoadRosters(state);
   OpenTransfer(state, host, name, word);
 }

@@ -1,16 +1,18 @@
 #include "app/tools.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "screens/courses/course_table.h"
+#include "screens/courses/deleted_courses.h"
+#include "screens/courses/library_opening.h"
 #include "screens/file_changes.h"
+#include "screens/rosters/roster_tools.h"
 #include "stores/course/course_class.h"
 #include "stores/course/course_library.h"
 
 namespace golf {
 namespace {
-
-constexpr const char* kCourseLibrary = "Course library";
 
 void ShowOpenLibrary(SharedState& state, ScreenHost& host) {
   host.ShowModal(Load<CourseTable>(host));
@@ -19,7 +21,7 @@ void ShowOpenLibrary(SharedState& state, ScreenHost& host) {
 
 // Asks whether to open a sibling's own file.
 bool IsWanted(ScreenHost& host, const std::string& sibling, const std::string& path) {
-  const Box question{.title = kCourseLibrary,
+  const Box question{.title = kCourseLibraryTitle,
                      .text = "This is " + sibling + "'s own course library:\r" + path +
                              "\r\rWhat you change in it is changed for " + sibling +
                              " as well. Close " + sibling + " before you go on.\r\rOpen it?",
@@ -27,24 +29,6 @@ bool IsWanted(ScreenHost& host, const std::string& sibling, const std::string& p
                      .buttons = {BoxButton::kYes, BoxButton::kNo},
                      .default_button = 1};
   return host.Ask(question) == BoxButton::kYes;
-}
-
-// Opens the library. If another program has locked it, shows the operator a message and returns
-// false.
-bool OpenUnlessHeld(SharedState& state, ScreenHost& host, const CourseLibrary& library) {
-  try {
-    OpenCourseLibrary(state, library);
-    return true;
-  } catch (const NumberedError& error) {
-    state.Course().CloseCourseFile();
-    if (!error.Is(ErrorNumber::kPermissionDenied)) throw;
-  }
-  const std::string sibling(library.sibling);
-  host.Ask(Box{.title = kCourseLibrary,
-               .text = sibling + "'s course library is in use:\r" + CourseFilePath(state, library) +
-                       "\r\rClose " + sibling + " and try again.",
-               .icon = BoxIcon::kStop});
-  return false;
 }
 
 void OpenForOperator(SharedState& state, ScreenHost& host, const CourseLibrary& library) {
@@ -57,11 +41,36 @@ void OpenForOperator(SharedState& state, ScreenHost& host, const CourseLibrary& 
   ShowOpenLibrary(state, host);
 }
 
+// Shows the rosters of Quenby. If another program has locked their file, shows a message instead.
+void ManageQuenbyRosters(SharedState& state, ScreenHost& host) {
+  RecoverInterruptedRun(state, host);
+  try {
+    ShowQuenbyRosters(state, host, RosterUse::kManage);
+  } catch (const NumberedError& error) {
+    if (!error.Is(ErrorNumber::kPermissionDenied)) throw;
+    host.Ask(Box{.title = "Rosters",
+                 .text = "Quenby's rosters are in use:\r" + state.QBDataPath +
+                         "\r\rClose Quenby and try again.",
+                 .icon = BoxIcon::kStop});
+  }
+}
+
+void ManageKelvaneRosters(SharedState& state, ScreenHost& host) {
+  RecoverInterruptedRun(state, host);
+  ShowKelvaneRosters(state, host, RosterUse::kManage);
+}
+
+void ShowDeletedCourses(SharedState& state, ScreenHost& host) {
+  RecoverInterruptedRun(state, host);
+  host.ShowModal(Load<DeletedCourses>(host));
+}
+
 MenuEntry CourseTool(const CourseLibrary& library) {
-  return {.caption = std::string(kCourseLibrary) + " of &" + std::string(library.sibling) + "...",
-          .open = [&library](SharedState& state, ScreenHost& host) {
-            OpenForOperator(state, host, library);
-          }};
+  return {
+      .caption = std::string(kCourseLibraryTitle) + " of &" + std::string(library.sibling) + "...",
+      .open = [&library](SharedState& state, ScreenHost& host) {
+        OpenForOperator(state, host, library);
+      }};
 }
 
 // Returns a menu entry that opens the screen with this name.
@@ -74,14 +83,33 @@ MenuEntry ScreenTool(std::string caption, std::string screen) {
 
 std::vector<MenuEntry> Tools(SharedState& state) {
   std::vector<MenuEntry> tools;
+  Platform& platform = state.files.platform();
+  if (platform.FolderExists(state.KVDataPath)) {
+    tools.push_back({.caption = "Rosters of Kel&vane...", .open = ManageKelvaneRosters});
+  }
+  if (platform.FolderExists(state.QBDataPath)) {
+    tools.push_back({.caption = "Rosters of Q&uenby...", .open = ManageQuenbyRosters});
+  }
+  const std::size_t rosters = tools.size();
   for (const CourseLibrary& library : kCourseLibraries) {
     if (state.files.FileExists(CourseFilePath(state, library))) {
       tools.push_back(CourseTool(library));
     }
   }
-  if (!state.files.platform().FolderExists(state.QBDataPath)) return tools;
-  tools.push_back(ScreenTool("&Results...", "Results"));
-  tools.push_back(ScreenTool("Team results &layouts...", "TeamLayouts"));
+  if (tools.size() > rosters) {
+    tools.push_back({.caption = "&Deleted courses...", .open = ShowDeletedCourses});
+  }
+  if (platform.FolderExists(state.QBDataPath)) {
+    tools.push_back(ScreenTool("&Results...", "Results"));
+    tools.push_back(ScreenTool("Team results &layouts...", "TeamLayouts"));
+  }
+  const bool has_data = std::ranges::any_of(kCourseLibraries, [&](const CourseLibrary& library) {
+    return platform.FolderExists(state.*library.folder);
+  });
+  if (has_data) {
+    tools.push_back(ScreenTool("&Check the data...", "CheckData"));
+    tools.push_back(ScreenTool("&Export...", "ExportData"));
+  }
   return tools;
 }
 

@@ -1,8 +1,5 @@
 #include <algorithm>
-#include <array>
 #include <iostream>
-#include <iterator>
-#include <utility>
 #include <vector>
 
 #include "app/application.h"
@@ -11,22 +8,12 @@
 #include "cli/json_text.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
-#include "core/text.h"
 #include "outlets/checkup/checkup.h"
+#include "outlets/checkup/finding_list.h"
 #include "screens/file_changes.h"
 
 namespace golf {
 namespace {
-
-// Returns the findings, sorted by file.
-std::vector<Finding> Check(SharedState& state) {
-  std::vector<Finding> findings;
-  CheckInstall(state, [&](const Finding& finding) { findings.push_back(finding); });
-  std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
-    return CompareIgnoringCase(a.file, b.file) < 0;
-  });
-  return findings;
-}
 
 void RequireKnownCodes(const CheckRequest& request) {
   for (const std::string& code : request.only) {
@@ -44,35 +31,6 @@ void KeepWanted(std::vector<Finding>& findings, const CheckRequest& request) {
         request.only.empty() || std::ranges::find(request.only, kind.name) != request.only.end();
     return kind.severity < least || !is_named;
   });
-}
-
-// Counts findings by severity.
-class Counts {
- public:
-  void Add(const Finding& finding) {
-    ++counts_[static_cast<std::size_t>(KindOf(finding.code).severity)];
-  }
-  bool HasWarning() const { return counts_[1] + counts_[2] > 0; }
-  // Returns a text such as "2 errors, 1 warning".
-  std::string Text() const {
-    std::string text;
-    for (std::size_t i = counts_.size(); i-- > 0;) {
-      if (counts_[i] == 0) continue;
-      if (!text.empty()) text += ", ";
-      text += std::to_string(counts_[i]) + " " + std::string(NameOf(static_cast<Severity>(i))) +
-              (counts_[i] == 1 ? "" : "s");
-    }
-    return text;
-  }
-
- private:
-  std::array<std::size_t, 3> counts_{};
-};
-
-Counts CountOf(std::span<const Finding> findings) {
-  Counts counts;
-  for (const Finding& finding : findings) counts.Add(finding);
-  return counts;
 }
 
 void WriteJson(const Finding& finding) {
@@ -93,8 +51,7 @@ void WriteCode(std::span<const Finding> findings) {
   std::cout << "  " << NameOf(kind.severity) << ' ' << kind.name << ": " << kind.effect
             << "\n    What to do: " << kind.advice << '\n';
   for (const Finding& finding : findings) {
-    std::string where = finding.record > 0 ? "Record " + std::to_string(finding.record) : "";
-    if (!finding.title.empty()) where += (where.empty() ? "" : ", ") + PlainCell(finding.title);
+    const std::string where = PlainCell(PlaceInFile(finding));
     std::cout << "    " << where << (where.empty() ? "" : ": ") << PlainCell(finding.text) << '\n';
   }
 }
@@ -112,25 +69,22 @@ void ForEachRange(std::span<const Finding> findings, const Alike& alike, const E
 }
 
 void WriteForPeople(std::vector<Finding>& findings) {
-  const Counts counts = CountOf(findings);
+  const FindingCounts counts(findings);
   std::cout << (findings.empty() ? "Nothing was found." : counts.Text() + ".") << '\n';
   const auto same_file = [](const Finding& a, const Finding& b) { return a.file == b.file; };
   const auto same_code = [](const Finding& a, const Finding& b) { return a.code == b.code; };
   ForEachRange(findings, same_file, [&](std::span<const Finding> of_file) {
-    std::cout << '\n' << PlainCell(of_file.front().file) << ": " << CountOf(of_file).Text() << '\n';
+    std::cout << '\n'
+              << PlainCell(of_file.front().file) << ": " << FindingCounts(of_file).Text() << '\n';
     std::vector<Finding> by_code(of_file.begin(), of_file.end());
-    std::stable_sort(by_code.begin(), by_code.end(), [](const Finding& a, const Finding& b) {
-      const Severity of_a = KindOf(a.code).severity;
-      const Severity of_b = KindOf(b.code).severity;
-      return of_a != of_b ? of_a > of_b : a.code < b.code;
-    });
+    SortByKind(by_code);
     ForEachRange(std::span<const Finding>(by_code), same_code, WriteCode);
   });
 }
 
 // Writes the indexes of the libraries anew, as a run of the history.
 void Repair(const Options& options, SharedState& state, HeadlessHost& host) {
-  const std::vector<const CourseLibrary*> libraries = LibrariesToRepair(Check(state));
+  const std::vector<const CourseLibrary*> libraries = LibrariesToRepair(FindingsByFile(state));
   if (libraries.empty()) return;
   host.Operate([&] {
     ChangeFiles(state, host, "check-repair", "course indexes", [&] {
@@ -162,14 +116,14 @@ ExitCode RunCheck(const Options& options, const CheckRequest& request) {
     }
     if (const auto lost = CloseFiles(state.files)) return ExitCodeOf(*lost);
   }
-  std::vector<Finding> findings = Check(state);
+  std::vector<Finding> findings = FindingsByFile(state);
   KeepWanted(findings, request);
   if (options.json) {
     for (const Finding& finding : findings) WriteJson(finding);
   } else {
     WriteForPeople(findings);
   }
-  return CountOf(findings).HasWarning() ? ExitCode::kRefused : ExitCode::kDone;
+  return FindingCounts(findings).HasWarning() ? ExitCode::kRefused : ExitCode::kDone;
 }
 
 }  // namespace golf

@@ -132,6 +132,7 @@ struct Arguments {
   CheckRequest check;
   ExportArguments data_export;
   std::string formats_folder;
+  std::string manual;
   std::int32_t run = 0;
   std::string forgotten;
   UndoRequest undo;
@@ -460,6 +461,13 @@ void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chos
                    "parsers. Files of the same names are replaced")
       ->required()
       ->type_name("DIR");
+
+  AddCommand(app, "manual", "Write the help of Golf Transfer as a web page",
+             "manual --to golf-transfer.html", chosen,
+             [&] { return RunManual(options, args.manual); })
+      ->add_option("--to", args.manual, "The web page. Replaces the file if it exists")
+      ->required()
+      ->type_name("FILE.html");
 
   AddTransfer(app, options, "courses-kv-to-qb", "Transfer the course library, Kelvane to Quenby",
               "courses-kv-to-qb", chosen, [&] { return RunCoursesKvToQb(options); });

@@ -58,6 +58,9 @@ ExitCode RunExport(const Options& options, const ExportArguments& request);
 // Writes the descriptions of all file formats into the folder.
 ExitCode RunFormats(const Options& options, const std::string& folder);
 
+// Writes the help, a web page, to the file. Replaces a page that exists.
+ExitCode RunManual(const Options& options, const std::string& file);
+
 struct ResultsRequest {
   std::string what;  // one of ResultsNames
   std::int32_t tournament = 0;

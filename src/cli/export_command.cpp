@@ -49,7 +49,8 @@ ExitCode RunExport(const Options& options, const ExportArguments& request) {
   NoteUnfinished(state);
   NewTarget target(request.to);
   const ExportFormat format = FormatOf(request, target);
-  const std::string refusal = RefusalOfTarget(target, format, request.replace);
+  const std::string refusal =
+      RefusalOfTarget(target, format, request.replace, "With --replace, the export replaces it.");
   if (!refusal.empty()) throw Refusal(refusal);
   ProgressBar bar(!options.quiet && !options.json);
   const auto stops = state.files.platform().WatchStops();
@@ -61,10 +62,8 @@ ExitCode RunExport(const Options& options, const ExportArguments& request) {
     bar.Clear();
     NoteProblem(text);
   };
-  const auto sink =
-      MakeExportSink(format, target.Prepare(format != ExportFormat::kSqlite), request.bom);
-  const ExportSummary summary = ExportInstall({state, *sink, request.with_deleted, report, note});
-  target.Publish();
+  const ExportSummary summary =
+      ExportTo(target, {state, format, request.with_deleted, request.bom, report, note});
   bar.Clear();
   WriteSummary(options, request, format, summary);
   NoteFaultCount(summary.faults.size());

@@ -68,6 +68,12 @@ void JsonListener::OnStart(const std::string& program, const std::string& argume
   WriteJsonLine(event);
 }
 
+void JsonListener::OnInstall(const std::string& utf8_folder) {
+  Json event = Event("install");
+  event["folder"] = utf8_folder;
+  WriteJsonLine(event);
+}
+
 void JsonListener::OnError(const NumberedError& error) {
   Json event = Event("error");
   event["number"] = error.number();

@@ -18,6 +18,7 @@ class JsonListener : public HostListener {
   void OnTip(const TipView& tip, const std::string& answer) override;
   void OnBeep() override;
   void OnStart(const std::string& program, const std::string& arguments) override;
+  void OnInstall(const std::string& utf8_folder) override;
   void OnError(const NumberedError& error) override;
   void OnFault(const NumberedError& fault) override;
   void OnNotice(const std::string& text) override;

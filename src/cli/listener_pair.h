@@ -33,6 +33,9 @@ class ListenerPair : public HostListener {
   void OnStart(const std::string& program, const std::string& arguments) override {
     for (HostListener* one : both_) one->OnStart(program, arguments);
   }
+  void OnInstall(const std::string& utf8_folder) override {
+    for (HostListener* one : both_) one->OnInstall(utf8_folder);
+  }
   void OnError(const NumberedError& error) override {
     for (HostListener* one : both_) one->OnError(error);
   }

@@ -24,6 +24,9 @@ struct Box {
   std::optional<std::size_t> window_default = {};
   // Answers the box without showing it.
   std::optional<BoxButton> window_answer = {};
+  // Is the id of a heading of the help, or empty. A window opens the help there instead of showing
+  // the box.
+  std::string window_help = {};
 };
 
 }  // namespace golf

@@ -1,5 +1,7 @@
 #include "core/entry.h"
 
+#include "core/data_folders.h"
+
 namespace golf {
 
 void PrepareStart(SharedState& state, const RegionalForms& forms, DateValue now) {
@@ -12,13 +14,10 @@ void PrepareStart(SharedState& state, const RegionalForms& forms, DateValue now)
   state.TimeMask = times.mask;
   state.decimal_comma = forms.decimal_comma;
   Platform& platform = state.files.platform();
-  const auto folder = [&](const char* name) {
-    return state.ProgramPath + name + platform.Separator();
-  };
   state.ProgramPath = platform.ProgramFolder();
-  state.QBDataPath = folder("qbdata");
-  state.KVDataPath = folder("kvdata");
-  state.ZDDataPath = folder("zddata");
+  state.QBDataPath = DataFolder(platform, "qbdata");
+  state.KVDataPath = DataFolder(platform, "kvdata");
+  state.ZDDataPath = DataFolder(platform, "zddata");
   state.CourseDataPath = state.KVDataPath;
 }
 

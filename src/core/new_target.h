@@ -48,9 +48,13 @@ class NewTarget {
   std::string written_;  // empty if there is nothing to delete
 };
 
+// Returns the user's folder for temporary files, which ends in a separator, in UTF-8. Raises error
+// 76 if there is no such folder.
+std::string TemporaryFolder();
+
 // Returns the path of a file in the user's folder for temporary files. Its name is the stem, a
-// number and the extension, and no file has this path yet. All texts are UTF-8. Raises error 76 if
-// there is no such folder.
+// number and the extension, and no file has this path yet. All texts are UTF-8. Raises the error of
+// TemporaryFolder.
 std::string TemporaryPath(const std::string& stem, const std::string& extension);
 
 }  // namespace golf

@@ -135,6 +135,8 @@ class Platform {
 
   // Returns the folder of the install. It ends in a separator.
   virtual std::string ProgramFolder() const = 0;
+  // Returns the same folder in UTF-8, with the characters that the code page lacks.
+  virtual std::string Utf8ProgramFolder() const = 0;
   virtual char Separator() const = 0;
   virtual RegionalForms Regional() const = 0;
 };

@@ -135,15 +135,19 @@ void NewTarget::Publish() {
   if (!old.empty()) fs::remove_all(PathOf(old), error);
 }
 
-std::string TemporaryPath(const std::string& stem, const std::string& extension) {
+std::string TemporaryFolder() {
   std::error_code error;
   const fs::path folder = fs::temp_directory_path(error);
   if (error) {
     throw NumberedError(ErrorNumber::kPathNotFound, "There is no folder for temporary files.");
   }
+  return Utf8Of(folder / "");
+}
+
+std::string TemporaryPath(const std::string& stem, const std::string& extension) {
+  const std::string folder = TemporaryFolder();
   for (int number = 1;; ++number) {
-    const fs::path name = PathOf(stem + std::to_string(number) + extension);
-    std::string path = Utf8Of(folder / name);
+    std::string path = folder + stem + std::to_string(number) + extension;
     if (!fs::exists(StatusOf(path))) return path;
   }
 }

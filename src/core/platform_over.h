@@ -45,6 +45,7 @@ class PlatformOver : public Platform {
     real_.StartProgram(path, arguments);
   }
   std::string ProgramFolder() const override { return real_.ProgramFolder(); }
+  std::string Utf8ProgramFolder() const override { return real_.Utf8ProgramFolder(); }
   char Separator() const override { return real_.Separator(); }
   RegionalForms Regional() const override { return real_.Regional(); }
 

@@ -423,6 +423,7 @@ class PosixPlatform : public Platform {
   }
 
   std::string ProgramFolder() const override { return root_; }
+  std::string Utf8ProgramFolder() const override { return native_root_; }
   char Separator() const override { return '/'; }
 
   RegionalForms Regional() const override {

@@ -67,14 +67,16 @@ std::wstring WideFromUtf8(std::string_view utf8) {
   return wide;
 }
 
-std::string TextFromWide(std::wstring_view wide) {
+std::string Utf8FromWide(std::wstring_view wide) {
   const auto size = static_cast<int>(wide.size());
   const int length =
       WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, nullptr, 0, nullptr, nullptr);
   std::string utf8(static_cast<std::size_t>(length), '\0');
   WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, utf8.data(), length, nullptr, nullptr);
-  return TextFromUtf8(utf8);
+  return utf8;
 }
+
+std::string TextFromWide(std::wstring_view wide) { return TextFromUtf8(Utf8FromWide(wide)); }
 
 std::wstring WideFromText(std::string_view text) { return WideFromUtf8(Utf8FromText(text)); }
 
@@ -463,6 +465,7 @@ class WindowsPlatform : public Platform {
   }
 
   std::string ProgramFolder() const override { return root_; }
+  std::string Utf8ProgramFolder() const override { return Utf8FromWide(native_root_); }
   char Separator() const override { return '\\'; }
 
   RegionalForms Regional() const override {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 namespace golf {
@@ -12,5 +13,8 @@ struct Progress {
   std::int64_t total = 0;
   std::string_view doing;
 };
+
+// Is called often during a run. May throw an exception that ends the run.
+using ReportProgress = std::function<void(const Progress&)>;
 
 }  // namespace golf

@@ -55,15 +55,25 @@ void Binding::Operate(const Control& control, const Event& event) {
 }
 
 void Binding::OperateSoon(const Control& control, Event event) {
-  if (held_ || screen_ == nullptr) return;
+  if (screen_ == nullptr || IsHeld(control)) return;
   waiting_.Add([this, &control, event = std::move(event)] { Run(control, event); });
 }
 
+void Binding::OperateSoon(Event event) {
+  if (screen_ == nullptr || held_) return;
+  waiting_.Add([this, event = std::move(event)] {
+    if (screen_ == nullptr || host_.ended()) return;
+    host_.Operate(*screen_, event);
+    Refresh();
+  });
+}
+
 bool Binding::OperateKeySoon(std::string_view key) {
-  if (held_ || screen_ == nullptr) return false;
+  if (screen_ == nullptr) return false;
   const Button* button = screen_->ButtonOfKey(key);
-  if (button != nullptr) OperateSoon(*button, [button] { button->Click(); });
-  return button != nullptr;
+  if (button == nullptr || IsHeld(*button)) return false;
+  OperateSoon(*button, [button] { button->Click(); });
+  return true;
 }
 
 // Runs an event. If the control refuses it, the widget may show a value that the control does not
@@ -75,6 +85,10 @@ void Binding::Run(const Control& control, const Event& event) {
   }
   host_.Operate(*screen_, control, event);
   Refresh();
+}
+
+bool Binding::IsHeld(const Control& control) const {
+  return held_ && &control != screen_->RunCancelButton();
 }
 
 void Binding::Mark(BoundWidget& bound) {
@@ -101,7 +115,7 @@ void Binding::ShowChanges() {
 }
 
 bool Binding::ShowState(const BoundWidget& bound) {
-  const bool held = held_ && TakesInput(*bound.control);
+  const bool held = TakesInput(*bound.control) && IsHeld(*bound.control);
   bound.widget->Enable(bound.control->IsUsable() && !held);
   return bound.widget->Show(IsVisibleOnItsPage(*bound.control));
 }
@@ -184,6 +198,10 @@ void Binding::HoldInput(bool held) {
   changed_ = true;
   shown_focus_ = nullptr;  // the toolkit removes it from disabled widgets
   Refresh();
+  if (!held || screen_ == nullptr) return;
+  for (const BoundWidget& bound : bound_widgets_) {
+    if (bound.control == screen_->RunCancelButton()) bound.widget->SetFocus();
+  }
 }
 
 void Binding::Release() {

@@ -47,6 +47,8 @@ class Binding {
   // within a key event may receive the same key again, on some systems endlessly. A box that is
   // opened while the focus moves disturbs the focus.
   void OperateSoon(const Control& control, Event event);
+  // Does the same for an event that belongs to no control. Does nothing during a run.
+  void OperateSoon(Event event);
   // Presses the button of a key in the same way. Returns false if the screen does not use the key.
   // An open menu or an edited cell can handle it then.
   bool OperateKeySoon(std::string_view key);
@@ -65,7 +67,8 @@ class Binding {
   // Is called after widgets have appeared or disappeared.
   std::function<void()> on_rearranged;
 
-  // Disables all widgets that accept input, or enables them again.
+  // Disables all widgets that accept input, or enables them again. The button that cancels a run
+  // stays enabled and gets the focus.
   void HoldInput(bool held);
   // Disconnects all widgets. It must be called before the screen is destroyed, if widgets still
   // exist.
@@ -87,6 +90,8 @@ class Binding {
   // Says what Enter or Space would do, typed by accident in a control. The least effect is first.
   enum class EnterEffect { kNone, kPressesButton, kLeavesScreen };
 
+  // True if the control accepts no input because of a run.
+  bool IsHeld(const Control& control) const;
   void Mark(BoundWidget& bound);
   void Run(const Control& control, const Event& event);
   void ShowChanges();

@@ -11,7 +11,6 @@
 
 #include "core/code_page.h"
 #include "desktop/wx_text.h"
-#include "screens/history/interrupted_run.h"
 
 namespace golf {
 
@@ -38,36 +37,27 @@ bool DesktopApp::Initialize(int& count, wxChar** arguments) {
 
 bool DesktopApp::OnInit() {
   SetAppDisplayName("Golf Transfer");
+  Bind(wxEVT_QUERY_END_SESSION, &DesktopApp::OnQueryEndSession, this);
+  Bind(wxEVT_END_SESSION, [](wxCloseEvent&) {});  // the system ends the process
   try {
-    application_ = std::make_unique<Application>(MakePlatform(invocation_.install));
+    program_.Open(invocation_.install, invocation_.word);
   } catch (const NumberedError& error) {
     std::cerr << Utf8FromText(error.description()) << std::endl;
     wxMessageBox(WxText(error.description()), GetAppDisplayName(), wxICON_STOP);
-    return true;  // OnRun then returns the exit code of a failure
   }
-  SharedState& state = application_->state();
-  host_ = std::make_unique<DesktopHost>(state, Application::Screens(), Views());
-  application_->Start(host_->Now(), {});
-  state.CommandLine = invocation_.word;
-  Bind(wxEVT_QUERY_END_SESSION, &DesktopApp::OnQueryEndSession, this);
-  Bind(wxEVT_END_SESSION, [](wxCloseEvent&) {});  // the system ends the process
-  host_->Show(host_->Load("TransferMenu"));
-  CallAfter(
-      [this] { host_->Operate([this] { ResolveInterruptedRun(application_->state(), *host_); }); });
-  return true;
+  return true;  // OnRun returns the exit code of a failure
 }
 
 // Refuses to end the operator's session during a run. It does not press Close, since Close starts
 // the sibling that started this program.
 void DesktopApp::OnQueryEndSession(wxCloseEvent& event) {
-  if (host_->in_run()) event.Veto();
+  if (program_.IsOpen() && program_.host().in_run()) event.Veto();
 }
 
-int DesktopApp::OnRun() { return host_ == nullptr ? EXIT_FAILURE : wxApp::OnRun(); }
+int DesktopApp::OnRun() { return program_.IsOpen() ? wxApp::OnRun() : EXIT_FAILURE; }
 
 int DesktopApp::OnExit() {
-  host_.reset();
-  application_.reset();
+  program_.Close();
   return wxApp::OnExit();
 }
 

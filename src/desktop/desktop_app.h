@@ -2,10 +2,8 @@
 
 #include <wx/app.h>
 
-#include <memory>
-
-#include "app/application.h"
-#include "desktop/desktop_host.h"
+#include "desktop/desktop_profile.h"
+#include "desktop/desktop_program.h"
 #include "desktop/invocation.h"
 
 namespace golf {
@@ -23,8 +21,8 @@ class DesktopApp : public wxApp {
   void OnQueryEndSession(wxCloseEvent& event);
 
   Invocation invocation_;
-  std::unique_ptr<Application> application_;
-  std::unique_ptr<DesktopHost> host_;
+  DesktopProfile user_;
+  DesktopProgram program_{user_};
 };
 
 }  // namespace golf

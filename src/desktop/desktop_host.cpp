@@ -8,6 +8,8 @@
 #include <wx/filename.h>
 #include <wx/frame.h>
 #include <wx/log.h>
+#include <wx/process.h>
+#include <wx/stdpaths.h>
 #include <wx/utils.h>
 
 #include <algorithm>
@@ -20,12 +22,14 @@
 #include "desktop/wx_text.h"
 #include "history/transactions.h"
 #include "screens/history/interrupted_run.h"
+#include "screens/open_page.h"
 #include "screens/tip_box.h"
 
 namespace golf {
 namespace {
 
 constexpr std::chrono::milliseconds kPaintInterval{50};
+constexpr const char* kNoBrowser = "No browser can be started.";
 constexpr int kBoxesBeforeOffer = 2;  // boxes of the same kind that offer only their own buttons
 
 // Reports that the operator has stopped a run in a box.
@@ -113,6 +117,30 @@ std::string LeftOutText(const LeftOut& left_out) {
   }
   return text;
 }
+
+#ifdef __WXGTK__
+// Runs xdg-open, and calls a function if xdg-open reports that there is no browser. Deletes itself
+// when xdg-open has ended.
+class BrowserStarter : public wxProcess {
+ public:
+  explicit BrowserStarter(std::function<void()> failed) : failed_(std::move(failed)) {}
+
+  bool Start(const wxString& address) {
+    wxString program, folders;
+    return wxGetEnv("PATH", &folders) && wxFindFileInPath(&program, folders, "xdg-open") &&
+           wxExecute("'" + program + "' '" + address + "'", wxEXEC_ASYNC, this) != 0;
+  }
+
+  void OnTerminate(int, int status) override {
+    constexpr int kNoProgram = 3;
+    if (status == kNoProgram) failed_();
+    delete this;
+  }
+
+ private:
+  std::function<void()> failed_;
+};
+#endif
 
 // Makes the pointer normal as long as this object exists. The toolkit has such a class only on some
 // systems.
@@ -271,12 +299,33 @@ void DesktopHost::RunStopped() {
 
 BoxButton DesktopHost::ShowBox(const Box& box) {
   if (box.window_answer) return *box.window_answer;
+  if (!box.window_help.empty()) {
+    ShowHelp(*this, box.window_help);
+    return box.buttons[box.default_button];
+  }
   if (IsRepeated(box)) return AskRepeated(box);
   return OverTopWindow([&box](wxWindow* parent) { return ShowMessageDialog(parent, box); });
 }
 
 std::string DesktopHost::ShowInputBox(const InputBox& box) {
   return OverTopWindow([&box](wxWindow* parent) { return ShowInputDialog(parent, box); });
+}
+
+std::string DesktopHost::ShowPathChoice(const std::string& title, const std::string& current) {
+  return OverTopWindow([&](wxWindow* parent) { return ShowPathDialog(parent, title, current); });
+}
+
+std::string DesktopHost::ShowFolderChoice(const std::string& title,
+                                          const std::string& utf8_current) {
+  return OverTopWindow(
+      [&](wxWindow* parent) { return ShowFolderDialog(parent, title, utf8_current); });
+}
+
+// Returns an empty text if the code page lacks a character of the path.
+std::string DesktopHost::DocumentsFolder() {
+  const wxString folder = wxStandardPaths::Get().GetDocumentsDir() + wxFileName::GetPathSeparator();
+  const std::string text = TextFromWx(folder);
+  return WxText(text) == folder ? text : std::string();
 }
 
 Font DesktopHost::ShowFontChoice(std::string_view title, const Font& current) {
@@ -318,7 +367,10 @@ void DesktopHost::PaintNow() {
     window.panel->binding().Refresh();
     window.panel->Update();
   }
-  Yield(wxEVT_CATEGORY_UI);
+  const bool can_cancel = run_by_ != nullptr && run_by_->RunCancelButton() != nullptr;
+  Yield(can_cancel ? wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT : wxEVT_CATEGORY_UI);
+  const auto window = can_cancel ? Find(*run_by_) : windows_.end();
+  if (window != windows_.end()) window->panel->binding().RunWaiting();
   painted_ = std::chrono::steady_clock::now();
 }
 
@@ -356,7 +408,7 @@ void DesktopHost::EndRun() {
   ForgetTypedInput();
   HostBase::EndRun();
   SetInRun(false);
-  const Screen* const screen = std::exchange(run_by_, nullptr);
+  Screen* const screen = std::exchange(run_by_, nullptr);
   ShowTitles();
   busy_in_run_.reset();
   if (faults().size() > faults_before_) ShowFaultsSoon();
@@ -396,11 +448,20 @@ void DesktopHost::StartProgram(const std::string& path, const std::string& argum
   state().files.platform().StartProgram(path, arguments);
 }
 
+// On Linux, the program that starts the browser reports only at its end that there is none. A box
+// names the page then.
 void DesktopHost::OpenInBrowser(const std::string& utf8_path) {
   const wxLogNull quiet;  // the toolkit would show its own message
   const wxString address = wxFileName::FileNameToURL(wxString::FromUTF8(utf8_path));
+#ifdef __WXGTK__
+  auto* starter = new BrowserStarter([this, utf8_path, alive = std::weak_ptr<const bool>(alive_)] {
+    if (!alive.expired() && !windows_.empty()) ShowSoon(UnopenedPage(kNoBrowser, utf8_path));
+  });
+  if (starter->Start(address)) return;
+  delete starter;
+#endif
   if (wxLaunchDefaultBrowser(address)) return;
-  throw NumberedError(ErrorNumber::kBadCall, "No browser can be started.");
+  throw NumberedError(ErrorNumber::kBadCall, kNoBrowser);
 }
 
 void DesktopHost::CopyText(const std::string& text) {
@@ -417,6 +478,12 @@ void DesktopHost::SuggestRow(Screen& screen, Grid& list, int row) {
 bool DesktopHost::OpensDespite(const std::string& text) {
   ShowSoon({.title = "Golf Transfer", .text = text, .icon = BoxIcon::kWarning});
   return true;
+}
+
+void DesktopHost::OpenInstall(const std::string& utf8_folder) {
+  wxTheApp->CallAfter([open = on_open_install, utf8_folder] {
+    if (open) open(utf8_folder);
+  });
 }
 
 void DesktopHost::EndProcess() {

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -24,6 +25,8 @@ class DesktopHost : public HostBase {
 
   // Returns the current date and time. The default is the system clock.
   std::function<DateValue()> clock;
+  // Opens the install in a folder, in UTF-8. May destroy this host.
+  std::function<void(const std::string& utf8_folder)> on_open_install;
 
   void Beep() override;
   void SetPointer(Pointer pointer) override;
@@ -41,6 +44,8 @@ class DesktopHost : public HostBase {
   void SuggestRow(Screen& screen, Grid& list, int row) override;
   std::string AfterCancel(const std::string& before, const std::string&) override { return before; }
   bool OpensDespite(const std::string& text) override;
+  std::string DocumentsFolder() override;
+  void OpenInstall(const std::string& utf8_folder) override;
   void EndProcess() override;
 
  protected:
@@ -49,6 +54,8 @@ class DesktopHost : public HostBase {
   void Close(Screen& screen) override;
   BoxButton ShowBox(const Box& box) override;
   std::string ShowInputBox(const InputBox& box) override;
+  std::string ShowPathChoice(const std::string& title, const std::string& current) override;
+  std::string ShowFolderChoice(const std::string& title, const std::string& utf8_current) override;
   Font ShowFontChoice(std::string_view title, const Font& current) override;
   void ErrorEndsClick(const NumberedError& error) override;
   void RunStopped() override;
@@ -89,12 +96,13 @@ class DesktopHost : public HostBase {
   std::vector<Window> windows_;  // bottom first
   std::chrono::steady_clock::time_point painted_;
   std::map<BoxKind, Repeats> repeats_;
-  const Screen* run_by_ = nullptr;  // the screen of the current run
-  Progress reported_;               // of the current run, without its text
-  LeftOut left_out_;                // by the current run
-  std::size_t faults_before_ = 0;   // the faults of earlier runs
+  Screen* run_by_ = nullptr;       // the screen of the current run
+  Progress reported_;              // of the current run, without its text
+  LeftOut left_out_;               // by the current run
+  std::size_t faults_before_ = 0;  // the faults of earlier runs
   std::optional<wxBusyCursor> busy_;
   std::optional<wxBusyCursor> busy_in_run_;
+  const std::shared_ptr<const bool> alive_ = std::make_shared<const bool>(true);
 };
 
 }  // namespace golf

@@ -5,9 +5,11 @@
 #include <wx/settings.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "core/text.h"
 #include "desktop/accessible.h"
+#include "desktop/colours.h"
 #include "desktop/list_widget.h"
 #include "desktop/log_buttons.h"
 #include "desktop/widgets.h"
@@ -129,6 +131,7 @@ int GroupGap(const wxWindow& window) { return window.FromDIP(16); }
 int EdgeGap(const wxWindow& window) { return window.FromDIP(14); }
 
 int TextWidth(const wxWindow& window, int characters) { return characters * window.GetCharWidth(); }
+int PathWidth(const wxWindow& window) { return TextWidth(window, 24); }
 int TextHeight(const wxWindow& window, int lines) { return lines * window.GetCharHeight(); }
 
 void SetColumns(wxControl& widget, int characters) {
@@ -254,6 +257,27 @@ void AddRun(wxSizer& content, ScreenPanel& panel, wxWindow* parent, const RunCon
   AddToFoot(panel, ButtonRow({.affirmative = MakeButton(binding, panel.foot(), run.transfer),
                               .variant = MakeButton(binding, panel.foot(), run.preview),
                               .cancel = MakeButton(binding, panel.foot(), run.leave)}));
+}
+
+void AddCancellableRun(wxSizer& content, ScreenPanel& panel, Button& start, CancellableRun& run) {
+  const auto middle = wxSizerFlags().CentreVertical();
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(MakeButton(panel.binding(), &panel, start), middle);
+  row->Add(RunProgress(panel, &panel, run.Working, nullptr),
+           wxSizerFlags(1).CentreVertical().Border(wxLEFT, GroupGap(panel)));
+  row->Add(MakeButton(panel.binding(), &panel, run.CancelButton),
+           wxSizerFlags(middle).Border(wxLEFT, GroupGap(panel)));
+  content.Add(row, wxSizerFlags().Expand());
+}
+
+wxStaticText* MakeWarning(ScreenPanel& panel, Label& control, int width) {
+  wxStaticText* message = MakeWrappedLabel(panel.binding(), &panel, control, width);
+  panel.binding().ShowAlso([message, &control, last = std::string()]() mutable {
+    if (std::exchange(last, control.caption()) == control.caption()) return;
+    if (control.IsShown()) Announce(*message, NameOf(control));
+  });
+  message->SetForegroundColour(WarningColour(panel.GetBackgroundColour()));
+  return message;
 }
 
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desktop/screen_panel.h"
+#include "screens/outlets/cancellable_run.h"
 
 namespace golf {
 
@@ -23,6 +24,9 @@ int TextWidth(const wxWindow& window, int characters);
 int TextHeight(const wxWindow& window, int lines);
 // Makes an entry or a list so wide that it shows this number of digits.
 void SetColumns(wxControl& widget, int characters);
+
+// Returns the least width of a label that shows a path.
+int PathWidth(const wxWindow& window);
 
 // Returns the width of a line of text. The line has this number of characters, or fewer on a narrow
 // display.
@@ -75,6 +79,12 @@ struct RunControls {
 };
 // Adds these controls and the panel's gauge to the content, and the buttons to the foot.
 void AddRun(wxSizer& content, ScreenPanel& panel, wxWindow* parent, const RunControls& run);
+
+// Adds the button that starts a run, the progress of the run, and the button that cancels it.
+void AddCancellableRun(wxSizer& content, ScreenPanel& panel, Button& start, CancellableRun& run);
+
+// Creates a warning that wraps at this width, in pixels. A screen reader says each new text.
+wxStaticText* MakeWarning(ScreenPanel& panel, Label& control, int width);
 
 // Adds a widget that keeps its space while it is hidden.
 void AddKeepingPlace(wxSizer& sizer, wxWindow& widget, int gap_above);

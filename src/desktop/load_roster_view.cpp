@@ -14,7 +14,8 @@ wxSizer* Folder(ScreenPanel& panel, LoadRoster& screen) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(MakeLabel(panel.binding(), &panel, screen.Label1),
            wxSizerFlags().Border(wxRIGHT, CloseGap(panel)));
-  row->Add(MakeLabel(panel.binding(), &panel, screen.DataPathLabel), wxSizerFlags(1));
+  row->Add(MakePathLabel(panel.binding(), &panel, screen.DataPathLabel, PathWidth(panel)),
+           wxSizerFlags(1));
   return row;
 }
 

@@ -47,7 +47,7 @@ void FillLoadRosters(ScreenPanel& panel, LoadRosters& screen) {
   list->Add(ListButtons(panel, screen));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(Column({MakeLabel(binding, &panel, screen.FilterLabel),
-                       MakeLabel(binding, &panel, screen.DataPathLabel)}),
+                       MakePathLabel(binding, &panel, screen.DataPathLabel, PathWidth(panel))}),
                wxSizerFlags().Expand());
   content->Add(list, wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel)));
   content->Add(Entry(panel, screen), wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));

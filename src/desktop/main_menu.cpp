@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/help_entries.h"
 #include "app/history_entries.h"
 #include "app/tools.h"
 #include "desktop/wx_text.h"
@@ -62,6 +63,7 @@ void AddMainMenu(wxFrame& window, SharedState& state, HostBase& host) {
   auto* bar = new wxMenuBar;
   bar->Append(new ListedMenu(Tools, state, host), "T&ools");
   bar->Append(history, "&History");
+  bar->Append(new ListedMenu(HelpEntries, state, host), "H&elp");
   window.SetMenuBar(bar);
   // Some toolkits calculate the width of a menu before they report that it opens.
   window.Bind(wxEVT_ACTIVATE, [history](wxActivateEvent& event) {

@@ -6,7 +6,8 @@
 
 namespace golf {
 
-// Adds the menus "Tools" and "History" to the main window. A menu is filled each time it opens.
+// Adds the menus "Tools", "History" and "Help" to the main window. A menu is filled each time it
+// opens.
 void AddMainMenu(wxFrame& window, SharedState& state, HostBase& host);
 
 }  // namespace golf

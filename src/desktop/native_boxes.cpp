@@ -1,5 +1,8 @@
 #include "desktop/native_boxes.h"
 
+#include <wx/dirdlg.h>
+#include <wx/filedlg.h>
+#include <wx/filename.h>
 #include <wx/fontdlg.h>
 #include <wx/msgdlg.h>
 #include <wx/richmsgdlg.h>
@@ -111,6 +114,20 @@ RepeatedAnswer ShowRepeatedDialog(wxWindow* parent, const Box& box) {
 std::string ShowInputDialog(wxWindow* parent, const InputBox& box) {
   InputDialog dialog(parent, WxText(box.text), WxText(box.title), WxText(box.default_answer));
   return dialog.ShowModal() == wxID_OK ? TextFromWx(dialog.GetValue()) : std::string();
+}
+
+std::string ShowPathDialog(wxWindow* parent, const std::string& title, const std::string& current) {
+  const wxFileName path(WxText(current));
+  wxFileDialog dialog(parent, WxText(title), path.GetPath(), path.GetFullName(),
+                      wxFileSelectorDefaultWildcardStr, wxFD_SAVE);
+  return dialog.ShowModal() == wxID_OK ? TextFromWx(dialog.GetPath()) : std::string();
+}
+
+std::string ShowFolderDialog(wxWindow* parent, const std::string& title,
+                             const std::string& utf8_current) {
+  wxDirDialog dialog(parent, WxText(title), wxString::FromUTF8(utf8_current),
+                     wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST);
+  return dialog.ShowModal() == wxID_OK ? dialog.GetPath().utf8_string() : std::string();
 }
 
 Font ShowFontDialog(wxWindow* parent, std::string_view title, const Font& current) {

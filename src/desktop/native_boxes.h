@@ -25,6 +25,11 @@ struct RepeatedAnswer {
 RepeatedAnswer ShowRepeatedDialog(wxWindow* parent, const Box& box);
 
 std::string ShowInputDialog(wxWindow* parent, const InputBox& box);
+// Returns the chosen path of a new file or folder, or an empty text if the operator cancels.
+std::string ShowPathDialog(wxWindow* parent, const std::string& title, const std::string& current);
+// Returns the chosen existing folder in UTF-8, or an empty text if the operator cancels.
+std::string ShowFolderDialog(wxWindow* parent, const std::string& title,
+                             const std::string& utf8_current);
 // Returns the chosen font, or the current one if the operator cancels.
 Font ShowFontDialog(wxWindow* parent, std::string_view title, const Font& current);
 

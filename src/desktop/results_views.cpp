@@ -1,5 +1,4 @@
 #include "desktop/accessible.h"
-#include "desktop/colours.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/list_widget.h"
 #include "desktop/views.h"
@@ -102,17 +101,6 @@ void AddTables(wxSizer& content, ScreenPanel& panel, StandingsTables& tables, in
               wxSizerFlags(Below(panel)).Proportion(card_seen));
 }
 
-wxStaticText* MakeMessage(ScreenPanel& panel, Label& control) {
-  wxStaticText* message =
-      MakeWrappedLabel(panel.binding(), &panel, control, LineWidth(panel, kCharacters));
-  panel.binding().ShowAlso([message, &control, last = std::string()]() mutable {
-    if (std::exchange(last, control.caption()) == control.caption()) return;
-    if (control.IsShown()) Announce(*message, NameOf(control));
-  });
-  message->SetForegroundColour(WarningColour(panel.GetBackgroundColour()));
-  return message;
-}
-
 wxSizer* ResultsChoices(ScreenPanel& panel, Results& screen) {
   ChoiceRow row(panel);
   row.Add(screen.TournamentLabel, screen.TournamentList, kListCharacters);
@@ -173,7 +161,8 @@ void FillResults(ScreenPanel& panel, Results& screen) {
   const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(ResultsChoices(panel, screen), wxSizerFlags().Expand());
-  content->Add(MakeMessage(panel, screen.MessageLabel), Below(panel));
+  content->Add(MakeWarning(panel, screen.MessageLabel, LineWidth(panel, kCharacters)),
+               Below(panel));
   // The pages share the tables, which are therefore below the tabs and not in the pages.
   content->Add(MakeTab(binding, &panel, screen.TabMain), Below(panel));
   content->Add(PageChoices(panel, screen), Below(panel));

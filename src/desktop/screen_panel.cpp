@@ -10,6 +10,7 @@
 #include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/wx_text.h"
+#include "screens/open_page.h"
 
 namespace golf {
 namespace {
@@ -85,6 +86,7 @@ void CollectTabStops(const wxWindow& window, std::vector<wxWindow*>& stops) {
 ScreenPanel::ScreenPanel(wxTopLevelWindow& window, HostBase& host, Screen& screen)
     : wxPanel(new Scroller(&window)),
       window_(window),
+      host_(host),
       screen_(&screen),
       binding_(host, screen),
       foot_(new wxPanel(&window)) {
@@ -222,17 +224,23 @@ void ScreenPanel::OnClose(wxCloseEvent& event) {
   if (screen_ != nullptr) press(screen_->LeaveButton());
 }
 
-// Handles the tab key, and Escape for the screen. While a menu is open, Escape closes the menu. In
-// the main window Escape does nothing, since it would end the program.
+// Handles F1 and the tab key, and Escape for the screen. While a menu is open, Escape closes the
+// menu. In the main window Escape does nothing, since it would end the program.
 void ScreenPanel::OnCharHook(wxKeyEvent& event) {
   binding_.RunWaiting();
   const int key = event.GetKeyCode();
   if (key == WXK_TAB && !event.ControlDown() && !event.AltDown()) {
     return MoveFocusByTab(event.ShiftDown());
   }
+  if (key == WXK_F1 && !event.HasAnyModifiers()) return ShowHelpSoon();
   const bool leaves =
       key == WXK_ESCAPE && !menu_is_open_ && dynamic_cast<wxDialog*>(&window_) != nullptr;
   if (!leaves || !binding_.OperateKeySoon("Escape")) event.Skip();
+}
+
+void ScreenPanel::ShowHelpSoon() {
+  if (screen_ == nullptr) return;
+  binding_.OperateSoon([this, heading = screen_->name()] { ShowHelp(host_, heading); });
 }
 
 // The toolkit's own order leaves out widgets that were hidden when it was determined.

@@ -75,9 +75,11 @@ class ScreenPanel : public wxPanel {
   void ScrollTo(const wxWindow& widget);
   void OnClose(wxCloseEvent& event);
   void OnCharHook(wxKeyEvent& event);
+  void ShowHelpSoon();
   void MoveFocusByTab(bool backward);
 
   wxTopLevelWindow& window_;
+  HostBase& host_;
   Screen* screen_;
   Binding binding_;
   wxPanel* foot_;

@@ -23,7 +23,8 @@ void FillTeamLayouts(ScreenPanel& panel, TeamLayouts& screen) {
   const auto button = [&](Button& control) { return MakeButton(binding, panel.foot(), control); };
   AddToFoot(panel, ButtonRow({.affirmative = button(screen.EditButton),
                               .cancel = button(screen.ExitButton),
-                              .aside = {button(screen.NewButton)}}));
+                              .aside = {button(screen.NewButton), button(screen.DuplicateButton),
+                                        button(screen.DeleteButton)}}));
   FinishWindow(panel, content);
 }
 

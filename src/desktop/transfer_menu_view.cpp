@@ -1,14 +1,20 @@
 #include <wx/display.h>
 
+#include <utility>
+
 #include "desktop/accessible.h"
+#include "desktop/folder_drop.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "desktop/wx_text.h"
-#include "screens/transfer_menu.h"
+#include "screens/menu/transfer_menu.h"
 
 namespace golf {
 namespace {
+
+constexpr int kNoticeCharacters = 90;
+constexpr int kStepCharacters = 40;
 
 // Describes the tooltip of a button.
 struct ButtonHelp {
@@ -42,13 +48,81 @@ class MenuFiller {
 
   wxSizer* Content() {
     auto* content = new wxBoxSizer(wxVERTICAL);
-    content->Add(FilledTab(), wxSizerFlags(1).Expand());
+    const auto below = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_));
+    content->Add(Notice(), wxSizerFlags().Expand().Border(wxBOTTOM, GroupGap(panel_)));
+    auto* middle = new wxBoxSizer(wxHORIZONTAL);
+    middle->Add(FilledTab(), wxSizerFlags(1).Expand());
+    middle->Add(Steps(), wxSizerFlags().Expand().Border(wxLEFT, GroupGap(panel_)));
+    panel_.folding_rows().push_back(middle);
+    content->Add(middle, wxSizerFlags(1).Expand());
+    content->Add(Folder(), below);
     AddToFoot(panel_, ButtonRow({.cancel = NewButton(panel_.foot(), screen_.ExitButton),
                                  .aside = {NewButton(panel_.foot(), screen_.PriorTransfer)}}));
     return content;
   }
 
  private:
+  // Lays out the notice that there is no golf data.
+  wxPanel* Notice() {
+    FolderChoice& folder = screen_.folder;
+    wxPanel* notice = MakeFrame(panel_.binding(), &panel_, folder.NoticeFrame);
+    const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel_));
+    wxStaticText* heading = MakeLabel(panel_.binding(), notice, folder.NoticeLabel);
+    MakeBold(*heading);
+    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
+    buttons->Add(NewButton(notice, folder.ChooseFolderButton));
+    buttons->Add(NewButton(notice, folder.DemonstrationButton),
+                 wxSizerFlags().Border(wxLEFT, CloseGap(panel_)));
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(heading);
+    column->Add(MakeWrappedLabel(panel_.binding(), notice, folder.ReasonLabel,
+                                 LineWidth(panel_, kNoticeCharacters)),
+                below);
+    column->Add(buttons, below);
+    notice->SetSizer(column);
+    return notice;
+  }
+
+  wxPanel* Steps() {
+    FirstSteps& steps = screen_.steps;
+    wxPanel* frame = MakeFrame(panel_.binding(), &panel_, steps.StepsFrame);
+    MakeAccessibleGroup(*frame, NameOf(steps.StepsLabel));
+    wxStaticText* heading = MakeLabel(panel_.binding(), frame, steps.StepsLabel);
+    MakeBold(*heading);
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(heading);
+    const auto add = [&](Label& line) {
+      column->Add(
+          MakeWrappedLabel(panel_.binding(), frame, line, LineWidth(panel_, kStepCharacters)),
+          wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel_)));
+    };
+    for (Label& step : steps.StepLabel) add(step);
+    add(steps.UndoLabel);
+    column->AddStretchSpacer();
+    column->Add(NewButton(frame, steps.CloseStepsButton),
+                wxSizerFlags().Border(wxTOP, CloseGap(panel_)));
+    frame->SetSizer(column);
+    panel_.binding().ShowAlso([&steps, &window = panel_.window(), last = false]() mutable {
+      const bool closed = std::exchange(last, steps.StepsFrame.visible()) && !last;
+      if (closed) window.CallAfter([&window] { window.SetClientSize(window.GetMinClientSize()); });
+    });
+    return frame;
+  }
+
+  // Lays out the folder of the install and the buttons that open another one.
+  wxSizer* Folder() {
+    FolderChoice& folder = screen_.folder;
+    const auto middle = wxSizerFlags().CentreVertical();
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(MakeLabel(panel_.binding(), &panel_, folder.FolderLabel), middle);
+    row->Add(MakePathLabel(panel_.binding(), &panel_, folder.FolderText, PathWidth(panel_)),
+             wxSizerFlags(1).CentreVertical().Border(wxLEFT, CloseGap(panel_)));
+    for (Button* button : {&folder.ChangeButton, &folder.RecentButton}) {
+      row->Add(NewButton(&panel_, *button), wxSizerFlags(middle).Border(wxLEFT, CloseGap(panel_)));
+    }
+    return row;
+  }
+
   wxNotebook* FilledTab() {
     wxNotebook* tab = MakeTab(panel_.binding(), &panel_, screen_.SSTab1);
     page_ = tab->GetPage(0);
@@ -101,6 +175,11 @@ class MenuFiller {
 }  // namespace
 
 void FillTransferMenu(ScreenPanel& panel, TransferMenu& screen) {
+  AcceptFolders(panel, [&](const std::string& path) {
+    if (panel.binding().host().Top() != &screen) return;  // another window is in front
+    Button& button = screen.folder.ChangeButton;
+    panel.binding().OperateSoon(button, [&screen, path] { screen.folder.Open(path); });
+  });
   FinishWindow(panel, MenuFiller(panel, screen).Content());
   panel.window().Move(wxDisplay(&panel.window()).GetClientArea().GetTopLeft());
 }

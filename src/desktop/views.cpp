@@ -1,11 +1,17 @@
 #include "desktop/views.h"
 
+#include "screens/about.h"
 #include "screens/courses/course_form.h"
 #include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
+#include "screens/courses/deleted_courses.h"
 #include "screens/history/change_preview.h"
 #include "screens/history/interrupted_run.h"
 #include "screens/history/transfer_history.h"
+#include "screens/menu/recent_folders.h"
+#include "screens/menu/transfer_menu.h"
+#include "screens/outlets/check_data.h"
+#include "screens/outlets/export_data.h"
 #include "screens/results/grid_sort_screen.h"
 #include "screens/results/results_screen.h"
 #include "screens/results/team_layout_builder.h"
@@ -14,7 +20,6 @@
 #include "screens/rosters/load_roster.h"
 #include "screens/rosters/load_rosters.h"
 #include "screens/tip_box.h"
-#include "screens/transfer_menu.h"
 #include "screens/transfers/kv_courses_to_qb.h"
 #include "screens/transfers/kv_to_qb.h"
 #include "screens/transfers/kv_to_zd.h"
@@ -35,6 +40,7 @@ void Fill(ScreenPanel& panel, Screen& screen) {
 ViewCatalogue Views() {
   return {
       {"TransferMenu", {WindowKind::kMain, Fill<TransferMenu, FillTransferMenu>}},
+      {"About", {WindowKind::kDialog, Fill<About, FillAbout>, true}},
       {"TipBox", {WindowKind::kDialog, Fill<TipBox, FillTipBox>}},
       {"GridSort", {WindowKind::kDialog, Fill<GridSort, FillGridSort>}},
       {"ChangePreview", {WindowKind::kDialog, Fill<ChangePreview, FillChangePreview>, true}},
@@ -45,7 +51,11 @@ ViewCatalogue Views() {
       {"CourseTable", {WindowKind::kDialog, Fill<CourseTable, FillCourseTable>, true}},
       {"CourseForm", {WindowKind::kDialog, Fill<CourseForm, FillCourseForm>}},
       {"CourseTee", {WindowKind::kDialog, Fill<CourseTee, FillCourseTee>}},
+      {"DeletedCourses", {WindowKind::kDialog, Fill<DeletedCourses, FillDeletedCourses>, true}},
       {"Results", {WindowKind::kDialog, Fill<Results, FillResults>, true}},
+      {"RecentFolders", {WindowKind::kDialog, Fill<RecentFolders, FillRecentFolders>, true}},
+      {"CheckData", {WindowKind::kDialog, Fill<CheckData, FillCheckData>, true}},
+      {"ExportData", {WindowKind::kDialog, Fill<ExportData, FillExportData>, true}},
       {"TeamResults", {WindowKind::kDialog, Fill<TeamResults, FillTeamResults>, true}},
       {"TeamLayouts", {WindowKind::kDialog, Fill<TeamLayouts, FillTeamLayouts>, true}},
       {"XReportsCustomTeamResults",

@@ -7,10 +7,14 @@
 
 namespace golf {
 
+class About;
 class ChangePreview;
+class CheckData;
 class CourseForm;
 class CourseTable;
 class CourseTee;
+class DeletedCourses;
+class ExportData;
 class GridSort;
 class InterruptedRun;
 class KVCoursestoQB;
@@ -19,6 +23,7 @@ class KVtoZD;
 class LoadRoster;
 class LoadRosters;
 class QBtoKV;
+class RecentFolders;
 class Results;
 class TeamLayouts;
 class TeamResults;
@@ -45,11 +50,16 @@ using ViewCatalogue = std::map<std::string, View, std::less<>>;
 ViewCatalogue Views();
 
 void FillTransferMenu(ScreenPanel& panel, TransferMenu& screen);
+void FillAbout(ScreenPanel& panel, About& screen);
 void FillTipBox(ScreenPanel& panel, TipBox& screen);
 void FillChangePreview(ScreenPanel& panel, ChangePreview& screen);
 void FillTransferHistory(ScreenPanel& panel, TransferHistory& screen);
 void FillInterruptedRun(ScreenPanel& panel, InterruptedRun& screen);
+void FillDeletedCourses(ScreenPanel& panel, DeletedCourses& screen);
 void FillResults(ScreenPanel& panel, Results& screen);
+void FillRecentFolders(ScreenPanel& panel, RecentFolders& screen);
+void FillCheckData(ScreenPanel& panel, CheckData& screen);
+void FillExportData(ScreenPanel& panel, ExportData& screen);
 void FillTeamResults(ScreenPanel& panel, TeamResults& screen);
 void FillTeamLayouts(ScreenPanel& panel, TeamLayouts& screen);
 void FillTeamLayoutBuilder(ScreenPanel& panel, XReportsCustomTeamResults& screen);

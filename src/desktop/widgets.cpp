@@ -61,6 +61,16 @@ wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Show
   return text;
 }
 
+wxStaticText* MakePathLabel(Binding& binding, wxWindow* parent, Label& control, int width) {
+  wxStaticText* text = NewText(parent, wxST_ELLIPSIZE_START | wxST_NO_AUTORESIZE);
+  text->SetMinSize({width, -1});
+  binding.Bind(control, *text, [text, &control] {
+    text->SetLabelText(WxText(control.caption()));
+    text->SetToolTip(WxText(control.caption()));
+  });
+  return text;
+}
+
 wxStaticText* MakeFieldLabel(Binding& binding, wxWindow* parent, Label& control) {
   auto* text = new wxStaticText(parent, wxID_ANY, "");
   binding.Bind(control, *text, [text, &control] { text->SetLabel(WxText(control.caption())); });

@@ -29,6 +29,9 @@ wxStaticText* MakeText(wxWindow* parent, const wxString& text);
 // Shows "&" as a plain character, since the caption is data. A text that is too long is cut and
 // ends in dots.
 wxStaticText* MakeLabel(Binding& binding, wxWindow* parent, Label& control, Shown shown = nullptr);
+// Creates a label that shows a path. It needs only this width, in pixels. If the path is wider than
+// the label, its beginning is cut, and a tooltip shows the whole path.
+wxStaticText* MakePathLabel(Binding& binding, wxWindow* parent, Label& control, int width);
 // Creates a label whose caption has an access key. The key moves the focus to the widget that is
 // created next.
 wxStaticText* MakeFieldLabel(Binding& binding, wxWindow* parent, Label& control);

@@ -3,26 +3,20 @@
 #include <wx/fileconf.h>
 #include <wx/filename.h>
 #include <wx/log.h>
-#include <wx/stdpaths.h>
 
+#include "desktop/desktop_profile.h"
 #include "desktop/wx_text.h"
 
 namespace golf {
 namespace {
 
-wxString SettingsPath() {
-  wxStandardPaths& paths = wxStandardPaths::Get();
-  paths.SetFileLayout(wxStandardPaths::FileLayout_XDG);
-  wxFileName path(paths.GetUserConfigDir(), "windows.ini");
-  path.AppendDir("golf-transfer");
-  return path.GetFullPath();
-}
+constexpr const char* kFile = "windows.ini";
 
 }  // namespace
 
 void RestoreSize(wxTopLevelWindow& window, const std::string& name, const wxSize& most) {
   const wxLogNull quiet;  // a window without a stored size has its usual size
-  const wxFileConfig settings("", "", SettingsPath(), "", wxCONFIG_USE_LOCAL_FILE);
+  const wxFileConfig settings("", "", UserSettingsPath(kFile), "", wxCONFIG_USE_LOCAL_FILE);
   const wxString section = WxText(name);
   wxSize size;
   if (!settings.Read(section + "/Width", &size.x) || !settings.Read(section + "/Height", &size.y)) {
@@ -37,7 +31,7 @@ void KeepSize(const wxTopLevelWindow& window, const std::string& name, const wxS
   const wxSize size = window.GetClientSize();
   if (size == noted || window.IsMaximized()) return;
   const wxLogNull quiet;  // a size that cannot be stored is no reason to disturb the operator
-  const wxString path = SettingsPath();
+  const wxString path = UserSettingsPath(kFile);
   wxFileName::Mkdir(wxPathOnly(path), wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
   wxFileConfig settings("", "", path, "", wxCONFIG_USE_LOCAL_FILE);
   const wxString section = WxText(name);

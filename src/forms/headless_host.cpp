@@ -148,6 +148,15 @@ std::string HeadlessHost::ShowInputBox(const InputBox& box) {
   return answer;
 }
 
+std::string HeadlessHost::ShowPathChoice(const std::string& title, const std::string& current) {
+  return ShowInputBox({.title = title, .text = "Path", .default_answer = current});
+}
+
+std::string HeadlessHost::ShowFolderChoice(const std::string& title,
+                                           const std::string& utf8_current) {
+  return Utf8FromText(ShowPathChoice(title, TextFromUtf8(utf8_current)));
+}
+
 Font HeadlessHost::ShowFontChoice(std::string_view title, const Font& current) {
   Font answer = current;
   if (const std::string* queued = NextAnswer(title)) {

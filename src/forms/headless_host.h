@@ -22,6 +22,7 @@ class HostListener {
   virtual void OnTip(const TipView&, const std::string& /*answer*/) {}
   virtual void OnBeep() {}
   virtual void OnStart(const std::string& /*program*/, const std::string& /*arguments*/) {}
+  virtual void OnInstall(const std::string& /*utf8_folder*/) {}
   virtual void OnError(const NumberedError&) {}
   virtual void OnFault(const NumberedError&) {}
   virtual void OnNotice(const std::string& /*text*/) {}
@@ -85,6 +86,8 @@ class HeadlessHost : public HostBase {
   // Reports the page to the listener as a start, but never starts a browser.
   void OpenInBrowser(const std::string& utf8_path) override;
   DateValue Now() override { return clock(); }
+  // Reports the folder to the listener, but goes on with the same install.
+  void OpenInstall(const std::string& utf8_folder) override { listener_.OnInstall(utf8_folder); }
   void EndProcess() override;
   void CopyText(const std::string& text) override { copied_ = text; }
   // Returns the text that was copied last.
@@ -96,6 +99,9 @@ class HeadlessHost : public HostBase {
   void Close(Screen& screen) override;
   BoxButton ShowBox(const Box& box) override;
   std::string ShowInputBox(const InputBox& box) override;
+  // These show an input box in place of the dialog.
+  std::string ShowPathChoice(const std::string& title, const std::string& current) override;
+  std::string ShowFolderChoice(const std::string& title, const std::string& utf8_current) override;
   Font ShowFontChoice(std::string_view title, const Font& current) override;
   void ErrorEndsClick(const NumberedError& error) override;
 

@@ -22,7 +22,9 @@ void HostBase::Operate(Screen& screen, const std::function<void()>& event) {
 }
 
 void HostBase::Operate(Screen& screen, const Control& control, const std::function<void()>& event) {
-  if (control.IsReachable()) Operate(screen, event);
+  if (!control.IsReachable()) return;
+  if (in_run_ && &control == screen.RunCancelButton()) return event();
+  Operate(screen, event);
 }
 
 void HostBase::Operate(const std::function<void()>& event) {
@@ -147,6 +149,16 @@ std::string HostBase::Ask(const InputBox& box) {
 Font HostBase::AskForFont(std::string_view title, const Font& current) {
   state_.files.Synchronize();
   return ShowFontChoice(title, current);
+}
+
+std::string HostBase::AskForPath(const std::string& title, const std::string& current) {
+  state_.files.Synchronize();
+  return ShowPathChoice(title, current);
+}
+
+std::string HostBase::AskForFolder(const std::string& title, const std::string& utf8_current) {
+  state_.files.Synchronize();
+  return ShowFolderChoice(title, utf8_current);
 }
 
 void HostBase::NoteCount(std::string_view name, std::int64_t count) {

@@ -31,7 +31,8 @@ class HostBase : public ScreenHost {
   // the event has ended.
   void Operate(const std::function<void()>& event);
   void Operate(Screen& screen, const std::function<void()>& event);
-  // Runs an event of a control. Does nothing if the operator cannot reach the control.
+  // Runs an event of a control. Does nothing if the operator cannot reach the control. During a run
+  // he reaches only the button that cancels it.
   void Operate(Screen& screen, const Control& control, const std::function<void()>& event);
 
   // Returns the screen in front, without regard to tip boxes, or null if there is none.
@@ -50,6 +51,12 @@ class HostBase : public ScreenHost {
   std::string Ask(const InputBox& box) override;
   Font AskForFont(std::string_view title, const Font& current) override;
 
+  // Is what User() returns. The host does not own it.
+  UserProfile* user = nullptr;
+
+  std::string AskForPath(const std::string& title, const std::string& current) override;
+  std::string AskForFolder(const std::string& title, const std::string& utf8_current) override;
+
   void BeginRun() override { in_run_ = true; }
   void EndRun() override { in_run_ = false; }
   void NoteCount(std::string_view name, std::int64_t count) override;
@@ -59,6 +66,8 @@ class HostBase : public ScreenHost {
   void SuggestRow(Screen&, Grid&, int) override {}
   std::string AfterCancel(const std::string&, const std::string& usual) override { return usual; }
   bool OpensDespite(const std::string&) override { return false; }
+  std::string DocumentsFolder() override { return {}; }
+  UserProfile* User() override { return user; }
   void EndProcess() override { ended_ = true; }
   std::uint32_t Seed() override;
 
@@ -89,6 +98,9 @@ class HostBase : public ScreenHost {
   virtual void Close(Screen& screen) = 0;
   virtual BoxButton ShowBox(const Box& box) = 0;
   virtual std::string ShowInputBox(const InputBox& box) = 0;
+  virtual std::string ShowPathChoice(const std::string& title, const std::string& current) = 0;
+  virtual std::string ShowFolderChoice(const std::string& title,
+                                       const std::string& utf8_current) = 0;
   virtual Font ShowFontChoice(std::string_view title, const Font& current) = 0;
   virtual void ErrorEndsClick(const NumberedError& error) = 0;
   // Is called from the handler of the exception Stopped, when a request to end the process has

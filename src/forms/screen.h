@@ -75,6 +75,10 @@ class Screen : public std::enable_shared_from_this<Screen> {
   virtual Button* LeaveButton() = 0;
   virtual Button* PanelLeaveButton() { return nullptr; }
 
+  // Returns the button that the operator can press also during a run of the screen, or null if
+  // there is none. Its event must only note that the run is to end.
+  virtual Button* RunCancelButton() { return nullptr; }
+
   // Returns what to show if the screen is a tip box, and null for any other screen.
   virtual const TipView* Tip() const { return nullptr; }
 

@@ -10,6 +10,7 @@
 #include "core/progress.h"
 #include "forms/dialogs.h"
 #include "forms/screen.h"
+#include "forms/user_profile.h"
 
 namespace golf {
 
@@ -39,6 +40,13 @@ class ScreenHost {
   virtual std::string Ask(const InputBox& box) = 0;
   virtual Font AskForFont(std::string_view title, const Font& current) = 0;
 
+  // Lets the operator choose the path of a new file or folder. Returns an empty text if he presses
+  // Cancel.
+  virtual std::string AskForPath(const std::string& title, const std::string& current) = 0;
+  // Lets the operator choose an existing folder. Returns an empty text if he presses Cancel. Both
+  // paths are in UTF-8.
+  virtual std::string AskForFolder(const std::string& title, const std::string& utf8_current) = 0;
+
   virtual void Beep() = 0;
   virtual void SetPointer(Pointer pointer) = 0;
 
@@ -62,7 +70,7 @@ class ScreenHost {
   // Shows the operator a text that needs no answer. Scripts do not receive it as a box.
   virtual void Notify(const std::string& text) = 0;
 
-  // The following three are hints for a window. Other hosts ignore them.
+  // The following four are hints for a window. Other hosts ignore them.
   // Suggests the row of a list that the operator probably wants. A window makes it the active row
   // and moves the focus to the list.
   virtual void SuggestRow(Screen& screen, Grid& list, int row) = 0;
@@ -72,6 +80,9 @@ class ScreenHost {
   // Returns true if a screen must open although an error leaves it incomplete. A window shows the
   // text to the operator and returns true. Other hosts return false.
   virtual bool OpensDespite(const std::string& text) = 0;
+
+  // Returns the folder of the user's documents, which ends in a separator, or an empty text.
+  virtual std::string DocumentsFolder() = 0;
 
   // Starts a program with its arguments and does not wait for its end. Raises an error if the
   // program cannot be started.
@@ -85,6 +96,10 @@ class ScreenHost {
   virtual std::uint32_t Seed() = 0;
   // Copies a text to the clipboard.
   virtual void CopyText(const std::string& text) = 0;
+  // Opens the install in another folder after the current event has returned, and closes this one.
+  virtual void OpenInstall(const std::string& utf8_folder) = 0;
+  // Returns what the program remembers of its user, or null if the host remembers nothing.
+  virtual UserProfile* User() = 0;
   // Ends the process after the current event has returned.
   virtual void EndProcess() = 0;
 };

@@ -5,8 +5,10 @@
 #include <utility>
 
 #include "core/numbered_error.h"
+#include "core/resume_next.h"
 #include "core/text.h"
 #include "history/transactions.h"
+#include "outlets/file_kinds.h"
 
 namespace golf {
 namespace {
@@ -85,6 +87,20 @@ std::vector<std::string> RecordFiles::BasesLike(
   std::vector<std::string> names;
   for (auto& [upper, base] : bases) names.push_back(std::move(base));
   return names;
+}
+
+std::int64_t RecordFiles::LengthOfAll() const {
+  std::int64_t length = 0;
+  const ResumeNext anyway(nullptr);
+  for (const std::string* folder : {&state_.KVDataPath, &state_.QBDataPath, &state_.ZDDataPath}) {
+    for (const std::string& name : FilesLike(*folder, "*")) {
+      if (!LayoutOfFile(name)) continue;
+      anyway([&] {
+        if (const auto open = Open(NameOf(*folder, name))) length += open->Length();
+      });
+    }
+  }
+  return length;
 }
 
 std::unique_ptr<PlatformFile> RecordFiles::Open(const std::string& file) const {

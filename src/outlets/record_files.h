@@ -62,6 +62,10 @@ class RecordFiles {
   std::vector<std::string> BasesLike(const std::string& folder, std::string_view pattern,
                                      std::initializer_list<std::string_view> extensions) const;
 
+  // Returns the length of all data files of the install in the three programs' folders, in bytes.
+  // Leaves out a file that cannot be opened.
+  std::int64_t LengthOfAll() const;
+
   // Opens a file for reading. Returns null if the file or its folder does not exist. Raises the
   // errors of Platform otherwise.
   std::unique_ptr<PlatformFile> Open(const std::string& file) const;

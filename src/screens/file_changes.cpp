@@ -55,4 +55,15 @@ bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std:
   return true;
 }
 
+void ThenCloseFiles(SharedState& state, const std::function<void()>& show) {
+  try {
+    show();
+  } catch (const NumberedError&) {
+    const ResumeNext anyway(nullptr);
+    anyway([&state] { state.InitSharedObjects(); });
+    throw;
+  }
+  state.InitSharedObjects();
+}
+
 }  // namespace golf

@@ -40,4 +40,8 @@ class ChangingClick {
 bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std::string about,
                  const std::function<void()>& change);
 
+// Calls `show`, and then makes the shared objects again, which closes all files. Passes on what
+// `show` raises, and raises the first error of closing.
+void ThenCloseFiles(SharedState& state, const std::function<void()>& show);
+
 }  // namespace golf

@@ -222,6 +222,55 @@ TEST_F(CheckTest, FindingsAreChosenAndGroupedByFile) {
   EXPECT_EQ(unknown.problems, "There is no finding nonsense; docs/check.md lists them.\n");
 }
 
+// Plants faults of all severities in the files of all three programs.
+TEST_F(CheckTest, TheScreenListsTheSameFindingsByKind) {
+  Put("kvdata/CLUB18.kvg", 455, Whole(3));
+  Put("qbdata/qbcrs.dat", 1224, Whole(1));
+  Put("qbdata/X0001.Q9G", 0, Whole(9));
+  Put("zddata/00021.ZP8", 23, "Farr\xF3w");
+  In("golfers-kv-to-zd --roster CLUB18 --league 00021 --even-if-scored");
+  for (const auto& [name, bytes] : AllFiles()) {
+    if (name.ends_with(".run")) Put(name, 4 * 512, std::string(512, '\0'));
+  }
+  const auto planted = AllFiles();
+  std::vector<std::vector<std::string>> expected;
+  for (const json& finding : JsonLines(In("check --json").out)) {
+    expected.push_back({finding["severity"], finding["code"], finding["file"],
+                        finding["record"].is_null() ? "" : finding["record"].dump(),
+                        finding["title"], finding["text"]});
+  }
+  const auto rank = [](const std::string& severity) {
+    return severity == "error" ? 0 : severity == "warning" ? 1 : 2;
+  };
+  const Ended ended = Script(
+      "open CheckData\nclick CheckButton\nshow FindingList\n"
+      "show SummaryLabel\nselect KindList 1\nshow FindingList\n");
+  EXPECT_EQ(ended.code, 0) << ended.problems;
+  std::vector<std::vector<std::vector<std::string>>> lists;
+  for (const json& event : JsonLines(ended.out)) {
+    if (event.value("name", "") == "FindingList") {
+      auto& rows = lists.emplace_back();
+      for (const json& row : event["rows"]) {
+        const auto cells = row.get<std::vector<std::string>>();
+        rows.emplace_back(cells.begin() + 1, cells.end());
+      }
+    }
+    if (event.value("name", "") == "SummaryLabel") {
+      const std::string people = In("check").out;
+      EXPECT_EQ(event["text"], people.substr(0, people.find('\n')));
+    }
+  }
+  ASSERT_EQ(lists.size(), 2u);
+  EXPECT_TRUE(std::ranges::is_sorted(lists[0], {}, [&](const auto& row) { return rank(row[0]); }));
+  std::erase_if(lists[1], [&](const auto& row) { return row[1] != lists[0][0][1]; });
+  EXPECT_EQ(static_cast<std::ptrdiff_t>(lists[1].size()),
+            std::ranges::count(lists[0], lists[0][0][1], [](const auto& row) { return row[1]; }));
+  std::ranges::sort(lists[0]);
+  std::ranges::sort(expected);
+  EXPECT_EQ(lists[0], expected);
+  EXPECT_TRUE(AllFiles() == planted);
+}
+
 TEST_F(CheckTest, RepairWritesIndexesAnewAndCanBeUndone) {
   const Tree sound = Data();
   Put("kvdata/ALLCRSKV.INX", 2, Whole(99));

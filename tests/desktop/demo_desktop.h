@@ -10,6 +10,7 @@
 #include "app/application.h"
 #include "app/demo/demo_install.h"
 #include "desktop/desktop_host.h"
+#include "screens/menu/recent_folders.h"
 #include "screens/tip_box.h"
 #include "stores/course/course_class.h"
 #include "stores/course/course_library.h"
@@ -69,6 +70,8 @@ struct Demo {
     MakeDemoInstall(install.state());
     install.host.reset();
     install.state().Now = [this] { return host.Now(); };
+    NoteRecentFolder(user, "/home/club/golf");
+    host.user = &user;
   }
 
   // Shows a screen without any other one and returns its window.
@@ -84,6 +87,7 @@ struct Demo {
   }
 
   TestInstall install{false};
+  UserProfile user;  // of a newcomer, so the menu shows the first steps
   Host host{install.state(), Application::Screens(), Views()};
 };
 

@@ -2,9 +2,11 @@
 #include <wx/menu.h>
 #include <wx/stattext.h>
 
+#include "core/new_target.h"
 #include "desktop/demo_desktop.h"
 #include "desktop/invocation.h"
 #include "desktop/operator.h"
+#include "outlets/help/help_page.h"
 #include "screens/courses/course_table.h"
 #include "screens/courses/course_tee.h"
 #include "screens/rosters/load_roster.h"
@@ -17,7 +19,8 @@
 namespace golf {
 namespace {
 
-// Is a host that reports progress to the test. Its function PaintNow is public for the tests.
+// Is a host that reports progress and web pages to the test. Its function PaintNow is public for
+// the tests.
 class TestHost : public DesktopHost {
  public:
   using DesktopHost::DesktopHost;
@@ -27,7 +30,15 @@ class TestHost : public DesktopHost {
     DesktopHost::Report(progress);
     if (on_progress) on_progress(progress);
   }
+  void OpenInBrowser(const std::string& utf8_path) override {
+    if (!has_browser) throw NumberedError(ErrorNumber::kBadCall, "No browser can be started.");
+    if (starts_browser) return DesktopHost::OpenInBrowser(utf8_path);
+    pages.push_back(utf8_path.substr(utf8_path.find_last_of("/\\") + 1));
+  }
   std::function<void(const Progress&)> on_progress;
+  bool has_browser = true;
+  bool starts_browser = false;     // starts the one of the system
+  std::vector<std::string> pages;  // the names of the files that were opened
 };
 
 // Waits for the roster picker, and then chooses its first roster.
@@ -112,6 +123,101 @@ class DesktopTest : public testing::Test {
   Operator user;
 };
 
+// Returns the name of the help's file that begins at a heading.
+std::string HelpFile(const std::string& heading) {
+  return "golf-transfer-help-" + std::string(ProgramVersion()) + "-" + heading + "-page.html";
+}
+
+TEST_F(DesktopTest, F1OpensTheHelpAtTheWindowInFront) {
+  std::size_t expected = 0;
+  const auto await_page = [&] {
+    ++expected;
+    user.Await("a page", [this, expected] { return host.pages.size() == expected; });
+  };
+  const auto leave = [this](const char* button, const char* screen) {
+    user.Press(button);
+    user.Await("the end of a window", [=, this] { return !host.IsShown(screen); });
+  };
+  user.Press("KVtoQBButton");
+  user.Type("HandicapRoster", WXK_F1);
+  await_page();
+  user.Press("SourceButton");
+  user.Type("grid1", WXK_F1);
+  await_page();
+  leave("CancelButton", "LoadRoster");
+  leave("ExitButton", "KVtoQB");
+  user.Type("KVtoQBButton", WXK_F1);
+  await_page();
+  ChooseInMenu(2, 0, [](const wxMenu& menu, const wxMenuItem& entry) {
+    EXPECT_EQ(menu.GetTitle(), "H&elp");
+    EXPECT_EQ(entry.GetItemLabel(), "&Contents\tF1");
+  });
+  await_page();
+  user.RunToExit();
+  EXPECT_EQ(host.pages,
+            (std::vector<std::string>{HelpFile("KVtoQB"), HelpFile("LoadRoster"),
+                                      HelpFile("TransferMenu"), HelpFile("TransferMenu")}));
+}
+
+TEST_F(DesktopTest, F1DoesNothingDuringARun) {
+  host.on_progress = [this](const Progress& progress) {
+    if (progress.done != 2) return;
+    user.TypeNow(WXK_F1);
+    host.PaintNow();
+  };
+  user.Press("KVCoursestoQBButton");
+  user.Press("TransferCourses");
+  ExpectThreeCourses();
+  user.RunToExit();
+  EXPECT_TRUE(host.pages.empty());
+}
+
+TEST_F(DesktopTest, WithoutABrowserABoxNamesThePage) {
+  host.has_browser = false;
+  const std::string path = TemporaryFolder() + HelpFile("KVCoursestoQB");
+  user.Press("KVCoursestoQBButton");
+  user.Type("TransferCourses", WXK_F1);
+  user.Answer("Notice",
+              "No browser can be started.\n\nThe page is in this file. Open it yourself:\n" + path);
+  user.Press("CancelButton");
+  user.RunToExit();
+  EXPECT_TRUE(std::filesystem::exists(path));
+}
+
+#ifdef __WXGTK__
+// The program xdg-open of the test notes the address, and ends as if there were no browser.
+TEST_F(DesktopTest, ABoxNamesThePageAlsoIfTheSystemFindsNoBrowserLater) {
+  host.starts_browser = true;
+  install.folder.Write("programs/xdg-open",
+                       "#!/bin/sh\necho \"$1\" > \"$(dirname \"$0\")/address\"\nexit 3\n");
+  std::filesystem::permissions(install.folder.Path("programs/xdg-open"),
+                               std::filesystem::perms::owner_all);
+  wxString before;
+  wxGetEnv("PATH", &before);
+  wxSetEnv("PATH", install.folder.Path("programs") + ":" + before);
+  const std::string path = TemporaryFolder() + HelpFile("KVCoursestoQB");
+  user.Press("KVCoursestoQBButton");
+  user.Type("TransferCourses", WXK_F1);
+  user.Answer("Notice",
+              "No browser can be started.\n\nThe page is in this file. Open it yourself:\n" + path);
+  user.Press("CancelButton");
+  user.RunToExit();
+  wxSetEnv("PATH", before);
+  EXPECT_EQ(install.folder.Read("programs/address"), "file://" + path + "\n");
+}
+#endif
+
+TEST_F(DesktopTest, TheHelpButtonOfAScreenOpensTheHelp) {
+  user.Do([this] { host.Operate([this] { OpenScreen(state(), host, "CourseTable", "KV"); }); });
+  user.Press("Help");
+  user.Await("a page", [this] { return host.pages.size() == 1; });
+  user.Press("CloseButton");
+  user.When(
+      "the end of the library", [this] { return !host.IsShown("CourseTable"); }, [] {});
+  user.RunToExit();
+  EXPECT_EQ(host.pages, std::vector<std::string>{HelpFile("CourseTable")});
+}
+
 TEST_F(DesktopTest, TransfersCoursesAndStartsTheCallerAgain) {
   state().CommandLine = "QB";
   install.platform->StartForReal();
@@ -172,8 +278,8 @@ TEST_F(DesktopTest, NamesAMissingSiblingAndClosesByItsWindow) {
 }
 
 TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
-  ChooseInMenu(0, 0, [](const wxMenu& tools, const wxMenuItem&) {
-    EXPECT_EQ(tools.GetMenuItemCount(), 3u);  // only Kelvane has a course library
+  ChooseInMenu(0, 2, [](const wxMenu& tools, const wxMenuItem&) {
+    EXPECT_EQ(tools.GetMenuItemCount(), 8u);  // only Kelvane has a course library
   });
   user.Answer(
       "Course library",

@@ -18,6 +18,9 @@ int main(int argc, char** argv) {
   settings.Write("gtk-3.0/settings.ini", "[Settings]\ngtk-entry-select-on-focus=0\n");
   wxSetEnv("XDG_CONFIG_HOME", folder);
   wxSetEnv("GTK_OVERLAY_SCROLLING", "0");  // as in the program
+  if (!wxGetEnv("GOLF_PICTURES", nullptr)) {
+    for (const char* const temporary : {"TMPDIR", "TMP"}) wxSetEnv(temporary, folder);
+  }
   wxApp::SetInstance(new wxApp);
   const wxInitializer toolkit(argc, argv);
   if (!toolkit.IsOk()) return 1;

@@ -306,10 +306,12 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
     const auto& box = dynamic_cast<wxMessageDialogBase&>(*dialogs_.back());
     EXPECT_EQ(box.GetTitle().utf8_string(), title);
     EXPECT_EQ(box.GetMessage().utf8_string(), text);
+#ifdef __WXGTK__  // elsewhere the system draws the icon
     const wxWindowList& parts = box.GetChildren();
     EXPECT_TRUE(std::any_of(parts.begin(), parts.end(), [](const wxWindow* part) {
       return part->IsKindOf(wxCLASSINFO(wxStaticBitmap));
     })) << "no icon";
+#endif
     answered_ = opened_;
   }
 

@@ -233,7 +233,7 @@ TEST(ViewTest, TheProgressOfARunIsShownWhole) {
       EXPECT_GE(widget.GetSize().x, widget.GetTextExtent(text).x);
     }
   });
-  EXPECT_EQ(labels, 6);
+  EXPECT_EQ(labels, 8);
 }
 
 TEST(ViewTest, TextsAreReadable) {

@@ -12,6 +12,7 @@
 #include "desktop/demo_desktop.h"
 #include "desktop/layout_helpers.h"
 #include "desktop/operator.h"
+#include "screens/outlets/check_data.h"
 #include "support/temp_folder.h"
 
 namespace golf {
@@ -40,6 +41,52 @@ TEST(WindowTest, AWindowOutsideTheDisplayIsMovedOntoIt) {
   for (const auto& c : kCases) {
     MoveOntoDisplay(window, c.place);
     EXPECT_EQ(window.GetPosition(), c.expected) << c.place.x << ", " << c.place.y;
+  }
+}
+
+// The mouse and Escape press the button during a run. All other widgets are disabled.
+TEST(WindowTest, OnlyTheCancelButtonWorksDuringARun) {
+  for (const bool by_key : {false, true}) {
+    SCOPED_TRACE(by_key);
+    Demo<BoxlessHost> demo;
+    wxTopLevelWindow& window = demo.Show("CheckData");
+    RunEvents(kWindowTime);
+    auto& screen = dynamic_cast<CheckData&>(demo.host.Load("CheckData"));
+    const auto widget = [&](const char* name) { return WidgetsNamed(window, name).front(); };
+    const auto press = [&](const char* name) {
+      wxCommandEvent click(wxEVT_BUTTON, widget(name)->GetId());
+      click.SetEventObject(widget(name));
+      widget(name)->HandleWindowEvent(click);
+    };
+    int reports = 0;
+    demo.host.Operate([&] {
+      EXPECT_FALSE(screen.run.Run([&](const ReportProgress& report) {
+        for (; reports < 3; ++reports) {
+          report({.done = reports, .total = 3, .doing = "a file"});
+          demo.host.PaintNow();
+          EXPECT_TRUE(widget("CancelButton")->IsEnabled());
+          EXPECT_TRUE(widget("Progress")->IsShown());
+          for (const char* name : {"CheckButton", "FindingList", "KindList", "ExitButton"}) {
+            EXPECT_FALSE(widget(name)->IsEnabled()) << name;
+          }
+          press("ExitButton");
+          EXPECT_TRUE(demo.host.IsShown("CheckData"));
+          if (reports < 1) continue;
+          wxKeyEvent key(wxEVT_CHAR_HOOK);
+          key.m_keyCode = WXK_ESCAPE;
+          by_key ? void(widget("CancelButton")->HandleWindowEvent(key)) : press("CancelButton");
+          RunEvents(kWindowTime);
+        }
+      }));
+    });
+    EXPECT_EQ(reports, 2);
+    demo.host.PaintNow();
+    EXPECT_FALSE(widget("CancelButton")->IsEnabled());
+    EXPECT_TRUE(widget("CheckButton")->IsEnabled());
+    press("CheckButton");
+    EXPECT_GT(screen.FindingList.rows(), 0);
+    window.Close();
+    EXPECT_FALSE(demo.host.IsShown("CheckData"));
   }
 }
 

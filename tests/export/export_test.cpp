@@ -450,6 +450,29 @@ TEST_F(ExportTest, ATargetIsReplacedOnlyOnRequest) {
   }
 }
 
+TEST_F(ExportTest, TheScreenWritesTheSameFiles) {
+  for (const char* const side : {"a", "b"}) folder.MakeFolder(side);
+  const auto install = AllFiles();
+  const char* const kFormats[] = {"sqlite", "csv", "jsonl"};
+  for (int i = 0; i < 3; ++i) {
+    for (const bool with_deleted : {false, true}) {
+      const std::string format = kFormats[i];
+      SCOPED_TRACE(format);
+      Export("--replace --to a/of." + format + " --format " + format +
+             (with_deleted ? " --with-deleted" : ""));
+      const Ended ended = Script(
+          "open ExportData\nselect FormatList " + std::to_string(i) + "\nset TargetText \"" +
+          folder.Path("b/of." + format) + "\"\ncheck DeletedCheck " +
+          (with_deleted ? "on" : "off") +
+          "\ncheck ReplaceCheck on\nclick ExportButton\nshow MessageLabel\nshow SummaryLabel\n");
+      EXPECT_NE(ended.out.find("The golf data was exported to "), std::string::npos) << ended.out;
+    }
+  }
+  EXPECT_FALSE(folder.Files("a").empty());
+  EXPECT_TRUE(folder.Files("a") == folder.Files("b"));
+  EXPECT_TRUE(AllFiles() == install);
+}
+
 TEST_F(ExportTest, DeletedRecordsComeOnRequest) {
   const auto count = [&](const std::string& words) {
     Export("--to e.sqlite --replace " + words);

@@ -2,8 +2,8 @@
 #include "forms/grid.h"
 #include "forms/screen.h"
 #include "forms/type_ahead.h"
+#include "screens/menu/transfer_menu.h"
 #include "screens/tip_box.h"
-#include "screens/transfer_menu.h"
 #include "support/test_host.h"
 
 namespace golf {

@@ -7,7 +7,9 @@
 
 #include "app/demo/demo_install.h"
 #include "core/code_page.h"
+#include "core/new_target.h"
 #include "core/text.h"
+#include "screens/about.h"
 #include "support/test_host.h"
 
 namespace golf {
@@ -95,11 +97,16 @@ std::string LinesOf(const Screen& screen) {
 
 TEST(ScreensTest, ShowTheTextsAndMarksOfTheFile) {
   const std::pair<const char*, const char*> kOpened[] = {
-      {"TransferMenu", ""}, {"LoadRoster", ""},    {"LoadRoster", "OPENONLY"},
-      {"LoadRosters", ""},  {"CourseTable", "KV"}, {"Results", ""},
-      {"TeamResults", ""},  {"TeamLayouts", ""},   {"KVCoursestoQB", ""},
-      {"KVtoQB", ""},       {"KVtoZD", ""},        {"QBtoKV", ""},
-      {"ZDtoKV", ""},       {"ZDtoQB", ""},        {"TransferHistory", ""}};
+      {"TransferMenu", ""},     {"RecentFolders", ""},
+      {"LoadRoster", ""},       {"LoadRoster", "OPENONLY"},
+      {"LoadRosters", ""},      {"CourseTable", "KV"},
+      {"Results", ""},          {"TeamResults", ""},
+      {"TeamLayouts", ""},      {"KVCoursestoQB", ""},
+      {"KVtoQB", ""},           {"KVtoZD", ""},
+      {"QBtoKV", ""},           {"ZDtoKV", ""},
+      {"ZDtoQB", ""},           {"TransferHistory", ""},
+      {"CheckData", ""},        {"ExportData", ""},
+      {"DeletedCourses", "QB"}, {"About", ""}};
   const std::map<std::string, const char*> kPressed = {{"CourseTable", "EditCourseButton"},
                                                        {"CourseForm", "EditTeeButton"},
                                                        {"TeamResults", "SortButton"},
@@ -109,6 +116,9 @@ TEST(ScreensTest, ShowTheTextsAndMarksOfTheFile) {
   MakeDemoInstall(install.state());
   std::string folder = install.state().ProgramPath;
   std::replace(folder.begin(), folder.end(), '\\', '/');  // the file has "/" for every system
+  const std::string beside = folder.substr(0, folder.rfind('/', folder.size() - 2) + 1);
+  std::string temporary = TextFromUtf8(TemporaryFolder());
+  std::replace(temporary.begin(), temporary.end(), '\\', '/');
   std::string screens;
   for (const auto& [name, word] : kOpened) {
     install.Restart();
@@ -117,9 +127,16 @@ TEST(ScreensTest, ShowTheTextsAndMarksOfTheFile) {
       if (timer != nullptr) install.host->Operate(screen, timer->on_timer);
       auto* grid = dynamic_cast<Grid*>(screen.FindControl("grid1"));
       if (grid != nullptr) grid->SetActiveRow(grid->rows());
+      // The versions of the program and of its libraries change.
+      if (auto* about = dynamic_cast<About*>(&screen)) {
+        about->VersionLabel.SetCaption("<version>");
+        about->LibrariesText.SetText("<libraries>");
+      }
       std::string lines = LinesOf(screen);
       std::replace(lines.begin(), lines.end(), '\\', '/');
-      screens += ReplaceText(lines, folder, "<install>/", ReplaceMode::kExact);
+      lines = ReplaceText(lines, folder, "<install>/", ReplaceMode::kExact);
+      lines = ReplaceText(lines, beside, "<beside>/", ReplaceMode::kExact);
+      screens += ReplaceText(lines, temporary, "<temporary>/", ReplaceMode::kExact);
       const auto pressed = kPressed.find(screen.name());
       if (pressed != kPressed.end()) install.host->Press(screen, pressed->second);
     };

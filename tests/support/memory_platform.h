@@ -69,6 +69,7 @@ class MemoryPlatform : public Platform {
   std::unique_ptr<RunLock> LockRun(const std::string& folder) override;
   void StartProgram(const std::string&, const std::string&) override {}
   std::string ProgramFolder() const override { return "/"; }
+  std::string Utf8ProgramFolder() const override { return ProgramFolder(); }
   char Separator() const override { return '/'; }
   RegionalForms Regional() const override { return {}; }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -66,10 +67,13 @@ class TempFolder {
     return {std::u8string(name.begin(), name.end())};
   }
   static std::filesystem::path NewFolder() {
+    // The pictures of the help show the name, so it must be the same each time they are taken.
+    const bool is_picture = std::getenv("GOLF_PICTURES") != nullptr;
     std::random_device random;
-    for (;;) {
+    for (int number = 1;; ++number) {
       const auto folder = std::filesystem::temp_directory_path() /
-                          ("golf-transfer-test-" + std::to_string(random()));
+                          (is_picture ? "golf-" + std::to_string(number)
+                                      : "golf-transfer-test-" + std::to_string(random()));
       if (std::filesystem::create_directory(folder)) return folder;
     }
   }

@@ -39,6 +39,7 @@ class RecordingListener : public HostListener {
   void OnStart(const std::string& program, const std::string& arguments) override {
     Add("start " + program.substr(program.find_last_of("/\\") + 1) + "|" + arguments);
   }
+  void OnInstall(const std::string& utf8_folder) override { Add("install " + utf8_folder); }
   void OnError(const NumberedError& error) override {
     Add("error " + std::to_string(error.number()));
   }

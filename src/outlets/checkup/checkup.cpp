@@ -17,8 +17,8 @@
 
 namespace golf {
 
-void CheckInstall(SharedState& state, const EachFinding& each) {
-  FileScan scan(state, each);
+void CheckInstall(SharedState& state, const EachFinding& each, const ReportProgress& report) {
+  FileScan scan(state, each, report);
   if (state.transactions->IsUnfinished()) {
     scan.Add(FindingCode::kRunInterrupted, "transfer-history", 0, "",
              "A run was interrupted and is not finished.");
@@ -31,8 +31,10 @@ void CheckInstall(SharedState& state, const EachFinding& each) {
   std::unordered_set<std::int64_t> days;
   for (const PlayedRound& round : quenby.rounds) days.insert(round.day);
   const KnownKelvane kelvane = CheckKelvane(scan, courses.kelvane, days);
+  scan.Report("posted rounds");
   CheckPostedRounds(scan, quenby, kelvane);
   const std::vector<KnownGolfers> zandel = CheckZandel(scan, courses.zandel);
+  scan.Report("names");
   CheckNames(scan, {kelvane.rosters, quenby.golfers, zandel});
 }
 

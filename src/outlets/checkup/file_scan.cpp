@@ -6,6 +6,23 @@
 
 namespace golf {
 
+FileScan::FileScan(SharedState& state, EachFinding each, ReportProgress report)
+    : RecordFiles(state), each_(std::move(each)), report_(std::move(report)) {
+  if (report_) progress_.total = LengthOfAll();
+}
+
+void FileScan::Report(std::string_view doing) {
+  if (!report_) return;
+  progress_.doing = doing;
+  report_(progress_);
+}
+
+// The total does not contain the file outside the three folders.
+void FileScan::Advance(const std::string& file, std::size_t bytes) {
+  progress_.done = std::min(progress_.done + static_cast<std::int64_t>(bytes), progress_.total);
+  Report(file);
+}
+
 void FileScan::Add(FindingCode code, const std::string& file, std::int64_t record,
                    std::string title, std::string text) {
   constexpr FindingCode kDamages[] = {FindingCode::kFileUnreadable, FindingCode::kFileHeld,

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/numbered_error.h"
+#include "core/progress.h"
 #include "core/record.h"
 #include "outlets/checkup/finding.h"
 #include "outlets/install_reader.h"
@@ -18,8 +19,8 @@ namespace golf {
 // is a finding and does not end the check-up.
 class FileScan : public RecordFiles {
  public:
-  // `each` gets the findings in the order in which they are added.
-  FileScan(SharedState& state, EachFinding each) : RecordFiles(state), each_(std::move(each)) {}
+  // `each` gets the findings in the order in which they are added. `report` may be null.
+  FileScan(SharedState& state, EachFinding each, ReportProgress report);
 
   void Add(FindingCode code, const std::string& file, std::int64_t record, std::string title,
            std::string text);
@@ -43,6 +44,7 @@ class FileScan : public RecordFiles {
       RecordReader reader(std::move(open), Layout::kLength);
       if (reader.rest() != 0) AddLength(file, reader.rest(), Layout::kLength);
       for (std::string_view bytes = reader.Next(); !bytes.empty(); bytes = reader.Next()) {
+        Advance(file, bytes.size());
         each(reader.number(), RecordOf<Layout>(bytes));
       }
       return reader.count();
@@ -52,12 +54,19 @@ class FileScan : public RecordFiles {
     }
   }
 
+  // Reports the progress again with the text `doing`.
+  void Report(std::string_view doing);
+
  private:
+  // Reports that bytes of a file have been read.
+  void Advance(const std::string& file, std::size_t bytes);
   void AddMissing(const std::string& file);
   void AddLength(const std::string& file, std::size_t rest, std::size_t length);
   void AddError(const std::string& file, const NumberedError& error);
 
   EachFinding each_;
+  ReportProgress report_;
+  Progress progress_;  // in bytes
   std::set<std::string> damaged_;
 };
 

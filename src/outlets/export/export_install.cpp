@@ -35,4 +35,14 @@ ExportSummary ExportInstall(const ExportChannels& channels) {
   return summary;
 }
 
+ExportSummary ExportTo(NewTarget& target, const ExportRequest& request) {
+  const bool is_folder = request.format != ExportFormat::kSqlite;
+  const auto sink =
+      MakeExportSink(request.format, target.Prepare(is_folder), request.byte_order_mark);
+  ExportSummary summary =
+      ExportInstall({request.state, *sink, request.with_deleted, request.report, request.note});
+  target.Publish();
+  return summary;
+}
+
 }  // namespace golf

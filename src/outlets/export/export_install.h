@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/new_target.h"
 #include "core/numbered_error.h"
 #include "outlets/export/export_run.h"
 
@@ -21,5 +22,19 @@ struct ExportSummary {
 // install. Raises the errors of the files and of the sink. A result that cannot be calculated is
 // noted and does not end the export.
 ExportSummary ExportInstall(const ExportChannels& channels);
+
+// Says what to export. The last two members are those of ExportChannels.
+struct ExportRequest {
+  SharedState& state;
+  ExportFormat format;
+  bool with_deleted = false;
+  bool byte_order_mark = false;  // concerns only CSV
+  ReportProgress report;
+  std::function<void(const std::string&)> note;
+};
+// Exports to a target that RefusalOfTarget allows. Replaces what exists there. If an exception ends
+// the export, nothing is left behind after the destructor of the target. Raises the errors of
+// ExportInstall and of NewTarget.
+ExportSummary ExportTo(NewTarget& target, const ExportRequest& request);
 
 }  // namespace golf

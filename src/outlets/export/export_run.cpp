@@ -5,26 +5,8 @@
 
 #include "core/code_page.h"
 #include "outlets/export/export_tables.h"
-#include "outlets/file_kinds.h"
 
 namespace golf {
-namespace {
-
-// Returns the length of all files that are exported, in bytes.
-std::int64_t LengthOfFiles(const RecordFiles& files) {
-  std::int64_t length = 0;
-  const SharedState& state = files.state();
-  for (const std::string* folder : {&state.KVDataPath, &state.QBDataPath, &state.ZDDataPath}) {
-    for (const std::string& name : files.FilesLike(*folder, "*")) {
-      if (!LayoutOfFile(name)) continue;
-      if (const auto open = files.Open(files.NameOf(*folder, name))) length += open->Length();
-    }
-  }
-  return length;
-}
-
-}  // namespace
-
 void OwnValue::AddTo(ExportRow& row) const {
   if (kind_ == CellKind::kText) return row.AddText(Utf8FromText(text_));
   kind_ == CellKind::kBoolean ? row.AddBoolean(number_ != 0) : row.AddInteger(number_);
@@ -32,7 +14,7 @@ void OwnValue::AddTo(ExportRow& row) const {
 
 ExportRun::ExportRun(ExportChannels channels)
     : channels_(std::move(channels)), files_(channels_.state), rows_(ExportTables().size()) {
-  progress_.total = LengthOfFiles(files_);
+  progress_.total = files_.LengthOfAll();
 }
 
 std::string ExportRun::ReadStart(const std::string& file, std::size_t length) {
@@ -66,7 +48,8 @@ std::string_view ExportRun::Next(RecordReader& reader, const std::string& file) 
 
 void ExportRun::Advance(const std::string& file, std::size_t bytes) {
   progress_.done += static_cast<std::int64_t>(bytes);
-  progress_.doing = file;
+  if (doing_ != file) doing_ = file;
+  progress_.doing = doing_;
   Report();
 }
 

@@ -40,8 +40,7 @@ struct ExportChannels {
   SharedState& state;
   ExportSink& sink;
   bool with_deleted = false;
-  // Is called often. May throw an exception that ends the export.
-  std::function<void(const Progress&)> report;
+  ReportProgress report;
   // Is called with a sentence, in code page 1252, about data that is left out.
   std::function<void(const std::string&)> note;
 };
@@ -127,6 +126,7 @@ class ExportRun {
   std::array<std::int64_t, kInstallTables> last_ids_{};
   std::vector<std::int64_t> rows_;
   Progress progress_;  // in bytes
+  std::string doing_;  // the text of progress_, which is reported again later
 };
 
 // Contains the ids of the courses and tees of a library.

@@ -25,7 +25,8 @@ ExportFormat FormatOfTarget(const NewTarget& target) {
   return is_sqlite ? ExportFormat::kSqlite : ExportFormat::kCsv;
 }
 
-std::string RefusalOfTarget(const NewTarget& target, ExportFormat format, bool replace) {
+std::string RefusalOfTarget(const NewTarget& target, ExportFormat format, bool replace,
+                            std::string_view how_to_replace) {
   const std::string& path = target.path();
   const bool is_file = format == ExportFormat::kSqlite;
   const std::string refusal = RefusalOfPlace(target, is_file);
@@ -42,7 +43,7 @@ std::string RefusalOfTarget(const NewTarget& target, ExportFormat format, bool r
                                        : existing == NewTarget::Kind::kFolder && IsExport(target);
   if (can_be_replaced && replace) return {};
   return path + " exists. " +
-         (can_be_replaced ? "With --replace, the export replaces it."
+         (can_be_replaced ? std::string(how_to_replace)
           : is_file ? "It is no file with the extension .sqlite, .sqlite3 or .db, so the export "
                       "does not replace it."
                     : "It is not a folder of an earlier export, so the export does not "

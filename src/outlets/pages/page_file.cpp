@@ -1,6 +1,8 @@
 #include "outlets/pages/page_file.h"
 
+#include "core/code_page.h"
 #include "core/new_file.h"
+#include "core/numbered_error.h"
 #include "core/text.h"
 #include "outlets/outside_target.h"
 
@@ -25,8 +27,16 @@ void WritePageFile(NewTarget& target, const std::string& html) {
   target.Publish();
 }
 
-std::string WriteTemporaryPage(const std::string& html) {
-  NewTarget target(TemporaryPath("golf-transfer-results-", ".html"));
+std::string WriteTemporaryPage(const std::string& stem, const std::string& html) {
+  NewTarget target(TemporaryPath(stem, ".html"));
+  WritePageFile(target, html);
+  return target.path();
+}
+
+std::string ReplaceTemporaryPage(const std::string& name, const std::string& html) {
+  NewTarget target(TemporaryFolder() + name);
+  const std::string refusal = RefusalOfPage(target);
+  if (!refusal.empty()) throw NumberedError(ErrorNumber::kPathAccess, TextFromUtf8(refusal));
   WritePageFile(target, html);
   return target.path();
 }

@@ -199,6 +199,18 @@ std::string SecondFile(const ReportLayout& layout) {
   return to.TextWith(layout.behind[1]);
 }
 
+std::string PathOf(const std::string& folder, const std::string& name) {
+  return folder + name + std::string(kLayoutExtension);
+}
+
+std::string BytesOf(FileTable& files, const std::string& path) {
+  const auto file = files.gate().Open(path, FileAccess::kReadOnly);
+  std::string bytes(static_cast<std::size_t>(file->Length()), '\0');
+  bytes.resize(file->ReadAt(0, bytes));
+  file->Close();
+  return bytes;
+}
+
 }  // namespace
 
 ReadLayout ReadReportLayout(FileTable& files, const std::string& path) {
@@ -232,6 +244,26 @@ std::vector<std::string> ListReportLayouts(FileTable& files, const std::string& 
   std::vector<std::string> names = files.FilesLike(folder, "*" + ending);
   for (std::string& name : names) name.resize(name.size() - ending.size());
   return names;
+}
+
+bool ReportLayoutExists(FileTable& files, const std::string& folder, const std::string& name) {
+  return files.FileExists(PathOf(folder, name) + '1');
+}
+
+// Reads both files before it writes one, so that a missing file leaves no half of a copy.
+void CopyReportLayout(FileTable& files, const std::string& folder, const std::string& name,
+                      const std::string& copy) {
+  const std::string first = BytesOf(files, PathOf(folder, name) + '1');
+  const std::string second = BytesOf(files, PathOf(folder, name) + '2');
+  files.gate().ReplaceText(PathOf(folder, copy) + '1', first);
+  files.gate().ReplaceText(PathOf(folder, copy) + '2', second);
+}
+
+void DeleteReportLayout(FileTable& files, const std::string& folder, const std::string& name) {
+  for (const char part : {'1', '2'}) {
+    const std::string path = PathOf(folder, name) + part;
+    if (files.FileExists(path)) files.gate().Delete(path);
+  }
 }
 
 }  // namespace golf

@@ -80,6 +80,7 @@ std::string UnknownCodesText(int codes);
 void CopyForward(ReportLayout& layout);
 
 inline constexpr std::string_view kLayoutExtension = ".TR";
+inline constexpr std::size_t kLayoutNameWidth = 40;  // the most characters of a name
 
 // Contains the result of reading a layout. It contains the layout, or the reason why it could not
 // be read.
@@ -98,6 +99,13 @@ inline ReadLayout ReadReportLayout(FileTable& files, const std::string& folder,
 void WriteReportLayout(FileTable& files, const std::string& path, const ReportLayout& layout);
 // Returns true if the files can contain the text. They cannot contain a quote or a line end.
 bool FitsReportLayout(std::string_view text);
+
+// These work on the two files of the layout `name`. They raise the errors of ChangeGate, and
+// CopyReportLayout error 53 if a file is missing.
+bool ReportLayoutExists(FileTable& files, const std::string& folder, const std::string& name);
+void CopyReportLayout(FileTable& files, const std::string& folder, const std::string& name,
+                      const std::string& copy);
+void DeleteReportLayout(FileTable& files, const std::string& folder, const std::string& name);
 
 // Returns the names of the layouts in a folder, without extension.
 std::vector<std::string> ListReportLayouts(FileTable& files, const std::string& folder);

@@ -71,7 +71,8 @@ CourseForm::CourseForm(const ScreenContext& context) : Screen(kName, context) {
                    .text = "Enter the course, choose its number of holes, and edit its tees. A "
                            "course is saved with at least one active tee; from then on its number "
                            "of holes stays as it is.",
-                   .icon = BoxIcon::kInformation});
+                   .icon = BoxIcon::kInformation,
+                   .window_help = name()});
   };
 }
 
@@ -90,6 +91,15 @@ void CourseForm::BeginEdit(std::int32_t number) {
   const int flag = course().HoleNumFlag();
   ChooseHoles(flag == 9 ? 1 : flag == -9 ? 2 : 0);
   Begin();
+}
+
+void CourseForm::BeginView(std::int32_t number) {
+  is_view_ = true;
+  BeginEdit(number);
+  SetCaption("Course");
+  for (const CourseText& text : kTexts) (this->*text.box).SetReadOnly(true);
+  for (Button* button : {&OKButton, &Help}) button->SetVisible(false);
+  CancelButton.SetCaption("Close");
 }
 
 std::string CourseForm::Entered() const {
@@ -158,7 +168,7 @@ void CourseForm::ShowTees() {
 void CourseForm::ShowHoles() {
   bool any_active = false;
   for (int tee = 1; tee <= kShownTees; ++tee) any_active |= course().ActiveTees(tee);
-  HolesFrame.SetEnabled(!any_active);
+  HolesFrame.SetEnabled(!any_active && !is_view_);
   if (any_active) return;
   FHoleNum[0].SetVisible(course().Allow18HoleCourses);
   for (const auto nine : {std::size_t{1}, std::size_t{2}}) {
@@ -167,7 +177,8 @@ void CourseForm::ShowHoles() {
 }
 
 void CourseForm::ShowEditCaption() {
-  EditTeeButton.SetCaption("Edit " + course().TeeName(grid1.active_row()) + " tee");
+  EditTeeButton.SetCaption((is_view_ ? "Show " : "Edit ") + course().TeeName(grid1.active_row()) +
+                           " tee");
 }
 
 void CourseForm::EditTee() {
@@ -176,6 +187,7 @@ void CourseForm::EditTee() {
   tee_screen_used_ = true;
   tee_ = grid1.active_row();
   tee_screen.SetCaption("Edit Tee");
+  if (is_view_) tee_screen.ShowOnly();
   tee_screen.SetTag("");
   tee_screen.FHoles.SetCaption(HolesText(HoleNumFlag()));
   tee_screen.ShowHolesPlayed();
@@ -239,7 +251,7 @@ void CourseForm::Accept() {
 }
 
 void CourseForm::Cancel() {
-  if (!FCourseName.text().empty()) {
+  if (!is_view_ && !FCourseName.text().empty()) {
     const BoxButton answer = host().Ask(Box{.title = "CANCEL",
                                             .text = "Cancel changes?",
                                             .buttons = {BoxButton::kYes, BoxButton::kNo},

@@ -23,8 +23,10 @@ class CourseForm : public Screen {
   explicit CourseForm(const ScreenContext& context);
 
   // BeginAdd clears the controls for a new course. BeginEdit fills them from the current record.
+  // BeginView does the same, but the operator can change nothing until the screen is unloaded.
   void BeginAdd();
   void BeginEdit(std::int32_t number);
+  void BeginView(std::int32_t number);
   // Copies the texts and the number of holes into the current record.
   void CopyToRecord();
 
@@ -81,6 +83,7 @@ class CourseForm : public Screen {
   int tee_ = 1;          // the tee being edited
   int unsaved_tee_ = 0;  // the tee whose entries could not be stored and are still on its screen
   bool tee_screen_used_ = false;
+  bool is_view_ = false;      // the operator can change nothing
   bool tee_changed_ = false;  // true if the operator has changed a tee in the record
   std::string unchanged_;     // what the controls contained at first
 };

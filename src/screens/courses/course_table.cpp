@@ -51,7 +51,8 @@ CourseTable::CourseTable(const ScreenContext& context) : Screen(kName, context) 
                    .text = "Insert adds a course, Delete deletes the marked one, a double click "
                            "edits it. A deleted course keeps its number, which is never given "
                            "again. Close brings the lists of courses up to date.",
-                   .icon = BoxIcon::kInformation});
+                   .icon = BoxIcon::kInformation,
+                   .window_help = name()});
   };
 }
 

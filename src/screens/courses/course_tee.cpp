@@ -59,7 +59,8 @@ CourseTee::CourseTee(const ScreenContext& context) : Screen(kName, context) {
                            "itself behind a length of three figures and behind a par.\r"
                            "Handicap 1 is the hole where the first stroke is given; without "
                            "handicaps leave 0.",
-                   .icon = BoxIcon::kInformation});
+                   .icon = BoxIcon::kInformation,
+                   .window_help = name()});
   };
 }
 
@@ -160,6 +161,17 @@ void CourseTee::ShowHolesPlayed() {
   TotalFrame.SetVisible(!front_only && !back_only);
 }
 
+void CourseTee::ShowOnly() {
+  is_view_ = true;
+  SetCaption("Tee");
+  for (Control* entries : std::initializer_list<Control*>{&ActiveTee, &TeeFrame, &FrontNineFrame,
+                                                          &BackNineFrame, &TotalFrame}) {
+    entries->SetEnabled(false);
+  }
+  for (Button* button : {&OKButton, &Help}) button->SetVisible(false);
+  CancelButton.SetCaption("Close");
+}
+
 void CourseTee::SetUp() {
   ShowHolesPlayed();
   ShowTotals();
@@ -171,7 +183,7 @@ void CourseTee::SetUp() {
 
 void CourseTee::ShowActive() {
   for (Frame* frame : {&TeeFrame, &FrontNineFrame, &BackNineFrame, &TotalFrame}) {
-    frame->SetEnabled(ActiveTee.value());
+    frame->SetEnabled(ActiveTee.value() && !is_view_);
   }
   if (ActiveTee.value()) return;
   for (Control* entry : Entries()) entry->SetNote("");
@@ -349,7 +361,7 @@ void CourseTee::CopyBackNineToFront() {
 }
 
 void CourseTee::Cancel() {
-  if (!FTeeName.text().empty()) {
+  if (!is_view_ && !FTeeName.text().empty()) {
     const BoxButton answer = host().Ask(Box{.title = "Cancel",
                                             .text = "Cancel changes?",
                                             .buttons = {BoxButton::kYes, BoxButton::kNo},

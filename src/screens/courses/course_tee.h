@@ -27,6 +27,10 @@ class CourseTee : public Screen {
   // created, since the size of the window depends on what is visible.
   void ShowHolesPlayed();
 
+  // Lets the operator change nothing until the screen is unloaded. It must be called before the
+  // screen is shown.
+  void ShowOnly();
+
   // Must be called after the caller has filled the controls. Cancel does not ask if nothing has
   // changed since then.
   void NoteUnchanged() { unchanged_ = Entered(); }
@@ -115,6 +119,7 @@ class CourseTee : public Screen {
   std::vector<TeeFault> FaultsOfHoles() const;
 
   std::string unchanged_;  // what the controls contained at first
+  bool is_view_ = false;   // the operator can change nothing
 };
 
 }  // namespace golf

@@ -23,7 +23,9 @@ constexpr std::pair<std::string_view, const char*> kNames[] = {
     {"scores-qb-to-kv", "scores of QB to KV"}, {"scores-zd-to-kv", "scores of ZD to KV"},
     {"new-kv-roster", "new roster of KV"},     {"delete-kv-roster", "roster of KV deleted"},
     {"save-qb-roster", "roster of QB saved"},  {"delete-qb-roster", "roster of QB deleted"},
-    {"course-indexes", "course indexes"},      {"save-layout", "layout saved"}};
+    {"course-indexes", "course indexes"},      {"save-layout", "layout saved"},
+    {"delete-layout", "layout deleted"},       {"copy-layout", "layout duplicated"},
+    {"restore-course", "course restored"}};
 
 // Returns what the undo did with the conflicts, or an empty text.
 std::string LeftText(const UndoResult& result) {

@@ -117,7 +117,8 @@ void GridSort::ShowHelp() {
   host().Ask(Box{.title = caption(),
                  .text = "Choose the column to sort by. Rows that are alike in it are sorted by "
                          "the next column that you choose, and then by the third one.",
-                 .icon = BoxIcon::kInformation});
+                 .icon = BoxIcon::kInformation,
+                 .window_help = name()});
 }
 
 void GridSort::HowPlayersAreSorted(Grid& grid, int column, int row) const {

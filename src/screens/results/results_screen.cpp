@@ -12,6 +12,7 @@
 #include "outlets/results/tournament_files.h"
 #include "scoring/open_tournament.h"
 #include "scoring/tournament_class.h"
+#include "screens/open_page.h"
 #include "screens/results/no_tournament.h"
 #include "screens/table_export.h"
 
@@ -306,15 +307,7 @@ void Results::SavePage() {
 void Results::PrintPage() {
   const std::string html = PageHtml();
   if (html.empty()) return;
-  std::string path;
-  const std::string problem = ProblemOf([&] {
-    path = WriteTemporaryPage(html);
-    host().OpenInBrowser(path);
-  });
-  if (problem.empty()) return;
-  host().Ask(Box{.title = "Notice",
-                 .text = problem + (path.empty() ? "" : "\r\rThe page is " + TextFromUtf8(path)),
-                 .icon = BoxIcon::kStop});
+  OpenPage(host(), [&html] { return WriteTemporaryPage("golf-transfer-results-", html); });
 }
 
 void Results::OnUnload() { unchanged_.reset(); }

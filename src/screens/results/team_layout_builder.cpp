@@ -16,7 +16,6 @@ namespace golf {
 namespace {
 
 constexpr int kLabelColumn = 0;
-constexpr std::size_t kNameWidth = 40;
 constexpr std::size_t kBlanks = 40;  // between an item of a cell and its code
 
 struct SelectionStyle {
@@ -164,7 +163,8 @@ void XReportsCustomTeamResults::BindEvents() {
                            "differently; the others follow them. A hole can take a second "
                            "selection, in the next columns. The sample columns show what made-up "
                            "teams get: a ball that counts is marked as used.",
-                   .icon = BoxIcon::kInformation});
+                   .icon = BoxIcon::kInformation,
+                   .window_help = name()});
   };
   Timer1.on_timer = [this] {
     Timer1.SetInterval(0);
@@ -396,7 +396,7 @@ bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
 }
 
 bool XReportsCustomTeamResults::SaveReport() {
-  const std::string name(Trim(ReportName.text().substr(0, kNameWidth)));
+  const std::string name(Trim(ReportName.text().substr(0, kLayoutNameWidth)));
   if (IsRefused(name) || !HasTextThatFits()) return false;
   TakeControls();
   CopyForward(layout_);

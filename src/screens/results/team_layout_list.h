@@ -11,15 +11,15 @@ namespace golf {
 // `name` is empty.
 void OpenTeamLayoutBuilder(SharedState& state, ScreenHost& host, const std::string& name);
 
-// Lists the team report layouts in Quenby's folder. The operator edits one of them or starts a new
-// one.
+// Lists the team report layouts in Quenby's folder. The operator edits, duplicates or deletes one
+// of them, or starts a new one.
 class TeamLayouts : public Screen {
  public:
   static constexpr const char* kName = "TeamLayouts";
 
   explicit TeamLayouts(const ScreenContext& context);
 
-  void OnLoad() override { LoadList(); }
+  void OnLoad() override { LoadList(""); }
   Button* LeaveButton() override { return &ExitButton; }
 
   Label ListLabel{"ListLabel", "Team report layouts"};
@@ -27,9 +27,15 @@ class TeamLayouts : public Screen {
   Button EditButton{"EditButton", "&Edit..."};
   Button NewButton{"NewButton", "&New..."};
   Button ExitButton{"ExitButton", "Close"};
+  Button DuplicateButton{"DuplicateButton", "D&uplicate..."};
+  Button DeleteButton{"DeleteButton", "&Delete..."};
 
  private:
-  void LoadList();
+  // Lists the layouts and selects the one with this name, or else the first one.
+  void LoadList(const std::string& chosen);
+  std::string UnusedName(const std::string& name) const;
+  void Duplicate();
+  void Delete();
   void Build(const std::string& name);
 };
 

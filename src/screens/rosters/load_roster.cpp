@@ -1,5 +1,7 @@
 #include "screens/rosters/load_roster.h"
 
+#include <algorithm>
+
 #include "core/file_name.h"
 #include "core/general_routines.h"
 #include "core/resume_next.h"
@@ -58,10 +60,16 @@ void LoadRoster::OnLoad() {
 }
 
 void LoadRoster::OnActivate() {
-  host().SuggestRow(*this, grid1, RowOf(suggested_));
-  if (!OpensOnly()) return;
-  NewButton.SetVisible(false);
-  DeleteButton.SetVisible(false);
+  int row = RowOf(suggested_);
+  if (use_ == RosterUse::kManage) row = std::max(row, std::min(grid1.rows(), 1));
+  if (!CanPick() && row > 0) grid1.SetActiveRow(row);
+  host().SuggestRow(*this, grid1, row);
+  ShowButtons(!NewRosterFrame.visible());
+}
+
+void LoadRoster::SetUse(RosterUse use) {
+  use_ = use;
+  if (!CanPick()) CancelButton.SetCaption("Close");
 }
 
 Button* LoadRoster::PanelLeaveButton() {
@@ -88,6 +96,7 @@ std::string LoadRoster::SelectedName() const {
 }
 
 void LoadRoster::Pick() {
+  if (!CanPick()) return;
   const std::string name = SelectedName();
   if (IsBlankText(name)) {
     const bool none = grid1.active_row() == 0;
@@ -138,14 +147,19 @@ void LoadRoster::AskForNew() {
 void LoadRoster::ShowNewRosterFrame(bool shown) {
   NewRosterFrame.SetVisible(shown);
   grid1.SetVisible(!shown);
-  LoadButton.SetVisible(!shown);
-  CancelButton.SetVisible(!shown);
-  NewButton.SetVisible(!shown && !OpensOnly());
-  DeleteButton.SetVisible(!shown && !OpensOnly());
-  LoadButton.SetDefault(!shown);
-  CancelButton.SetCancel(!shown);
+  ShowButtons(!shown);
   OK2Button.SetDefault(shown);
   Cancel2Button.SetCancel(shown);
+}
+
+// Shows or hides the buttons beside the list.
+void LoadRoster::ShowButtons(bool shown) {
+  LoadButton.SetVisible(shown && CanPick());
+  CancelButton.SetVisible(shown);
+  NewButton.SetVisible(shown && CanChange());
+  DeleteButton.SetVisible(shown && CanChange());
+  LoadButton.SetDefault(shown && CanPick());
+  CancelButton.SetCancel(shown);
 }
 
 void LoadRoster::MakeNew() {

@@ -6,6 +6,7 @@
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
+#include "screens/rosters/roster_use.h"
 
 namespace golf {
 
@@ -24,6 +25,9 @@ class LoadRoster : public Screen {
 
   // Suggests the row of this roster when the screen opens.
   void SuggestRoster(std::string name) { suggested_ = std::move(name); }
+  // Restricts what the operator can do until the screen is unloaded. It must be called before the
+  // screen is shown.
+  void SetUse(RosterUse use);
   // True after the operator has picked a roster.
   bool picked() const { return picked_; }
 
@@ -51,13 +55,16 @@ class LoadRoster : public Screen {
   void Pick();
   void AskForNew();
   void ShowNewRosterFrame(bool shown);
+  void ShowButtons(bool shown);
   void MakeNew();
   void AskToDelete();
   void Delete(const std::string& name);
-  bool OpensOnly() const { return tag() == "OPENONLY"; }
+  bool CanPick() const { return use_ == RosterUse::kPick; }
+  bool CanChange() const { return tag() != "OPENONLY" && use_ != RosterUse::kView; }
 
   std::string suggested_;
   bool picked_ = false;
+  RosterUse use_ = RosterUse::kPick;
 };
 
 // Returns a text for the operator after `error` has prevented the opening of a roster.

@@ -1,5 +1,6 @@
 #include "screens/rosters/load_rosters.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/number_text.h"
@@ -49,7 +50,8 @@ LoadRosters::LoadRosters(const ScreenContext& context) : Screen(kName, context) 
     host().Ask(Box{.title = "Rosters",
                    .text = "Pick the roster that the golfers are to join and press Load Roster.\r"
                            "\"(Show ALL Rosters)\" puts them on no roster.",
-                   .icon = BoxIcon::kInformation});
+                   .icon = BoxIcon::kInformation,
+                   .window_help = name()});
   };
   CancelButton.on_click = [this] { host().Hide(*this); };
   AddEditRosterOK.on_click = [this] { Store(); };
@@ -66,6 +68,17 @@ void LoadRosters::OnActivate() {
   DataPathLabel.SetCaption(state().StoreDataPath);
   LeavePanel();
   LoadList();
+}
+
+void LoadRosters::SetUse(RosterUse use) {
+  use_ = use;
+  const bool can_pick = use == RosterUse::kPick;
+  const bool can_change = use != RosterUse::kView;
+  for (Button* button : {&LoadButton, &Help}) button->SetVisible(can_pick);
+  LoadButton.SetDefault(can_pick);
+  NewButton.SetVisible(can_change);
+  DeleteButton.SetEnabled(can_change);
+  CancelButton.SetCaption(can_pick ? "Cancel" : "Close");
 }
 
 Button* LoadRosters::PanelLeaveButton() {
@@ -104,13 +117,15 @@ void LoadRosters::LoadList() {
 void LoadRosters::Suggest() {
   int row = grid1.rows();
   while (row > 1 && NumberInRow(row) != suggested_) --row;
+  if (use_ == RosterUse::kManage) row = std::max(row, std::min(grid1.rows(), 2));
+  if (use_ != RosterUse::kPick) grid1.SetActiveRow(row);
   host().SuggestRow(*this, grid1, row);
 }
 
 void LoadRosters::ShowRowButtons() {
   // Row 1 is the entry for all rosters, unless a roster's name sorts before it. The number of the
   // roster is checked for that case.
-  const bool is_roster = grid1.active_row() > 1 && ChosenRoster() > 0;
+  const bool is_roster = grid1.active_row() > 1 && ChosenRoster() > 0 && use_ != RosterUse::kView;
   EditButton.SetVisible(is_roster);
   DeleteButton.SetVisible(is_roster);
 }
@@ -122,6 +137,7 @@ std::int32_t LoadRosters::NumberInRow(int row) const {
 std::int32_t LoadRosters::ChosenRoster() const { return NumberInRow(grid1.active_row()); }
 
 void LoadRosters::Pick() {
+  if (use_ != RosterUse::kPick) return;
   state().Program().SetActiveRoster(ChosenRoster());
   picked_ = true;
   host().Hide(*this);
@@ -178,7 +194,7 @@ void LoadRosters::LeavePanel() {
   AddEditRosterFrame.SetVisible(false);
   AddEditRosterOK.SetDefault(false);
   for (Button* button : {&AddRosterCancel, &EditRosterCancel}) button->SetCancel(false);
-  LoadButton.SetDefault(true);
+  LoadButton.SetDefault(use_ == RosterUse::kPick);
   CancelButton.SetCancel(true);
   grid1.SetEnabled(true);
   ButtonFrame.SetVisible(true);

@@ -5,6 +5,7 @@
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
+#include "screens/rosters/roster_use.h"
 
 namespace golf {
 
@@ -23,6 +24,9 @@ class LoadRosters : public Screen {
 
   // Suggests the row of this roster when the screen opens.
   void SuggestRoster(std::int32_t roster) { suggested_ = roster; }
+  // Restricts what the operator can do until the screen is unloaded. It must be called before the
+  // screen is shown.
+  void SetUse(RosterUse use);
   // True after the operator has picked a roster.
   bool picked() const { return picked_; }
 
@@ -69,6 +73,7 @@ class LoadRosters : public Screen {
 
   std::int32_t suggested_ = 0;
   bool picked_ = false;
+  RosterUse use_ = RosterUse::kPick;
 };
 
 }  // namespace golf

@@ -1,4 +1,4 @@
-#include "screens/transfer_menu.h"
+#include "screens/menu/transfer_menu.h"
 
 #include <algorithm>
 #include <string_view>
@@ -77,7 +77,8 @@ void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_
   if (installed) ShowTransfer(host, screen_name, tag);
 }
 
-TransferMenu::TransferMenu(const ScreenContext& context) : Screen(kName, context) {
+TransferMenu::TransferMenu(const ScreenContext& context, MakeDemonstration make_demonstration)
+    : Screen(kName, context), folder(context, std::move(make_demonstration)), steps(context) {
   SetCaption("Transfer Menu");
   Add({&SSTab1, &Label1[0], &Label1[1], &Label1[2]});
   for (Label& label : Label1) SSTab1.Hold(label, 0);
@@ -88,9 +89,20 @@ TransferMenu::TransferMenu(const ScreenContext& context) : Screen(kName, context
     button.on_click = [this, &transfer] { OpenTransfer(state(), host(), transfer.screen); };
   }
   Add({&PriorTransfer, &ExitButton});
+  Add({&folder.NoticeFrame, &folder.NoticeLabel, &folder.ReasonLabel, &folder.ChooseFolderButton,
+       &folder.DemonstrationButton, &folder.FolderLabel, &folder.FolderText, &folder.ChangeButton,
+       &folder.RecentButton});
+  Add({&steps.StepsFrame, &steps.StepsLabel});
+  for (Label& step : steps.StepLabel) Add({&step});
+  Add({&steps.UndoLabel, &steps.CloseStepsButton});
   ExitButton.SetCancel(true);
   PriorTransfer.on_click = [this] { StartPriorTransfer(); };
   ExitButton.on_click = [this] { Exit(); };
+}
+
+void TransferMenu::OnActivate() {
+  folder.Refresh();
+  steps.ShowUntilClosed();
 }
 
 void TransferMenu::StartPriorTransfer() {

@@ -5,17 +5,22 @@
 
 #include "core/shared_state.h"
 #include "forms/screen_host.h"
+#include "screens/menu/first_steps.h"
+#include "screens/menu/folder_choice.h"
 
 namespace golf {
 
 // Is the main screen. It opens the six transfers and starts the transfer program of earlier
-// versions. Its button Close starts the sibling that started this program.
+// versions. Its button Close starts the sibling that started this program. It also shows the folder
+// of the install and the first steps.
 class TransferMenu : public Screen {
  public:
   static constexpr const char* kName = "TransferMenu";
 
-  explicit TransferMenu(const ScreenContext& context);
+  TransferMenu(const ScreenContext& context, MakeDemonstration make_demonstration);
 
+  void OnLoad() override { OnActivate(); }  // so that the window opens with its right size
+  void OnActivate() override;
   Button* LeaveButton() override { return &ExitButton; }
 
   Tab SSTab1{"SSTab1", {"&Transfer Utilitites"}};
@@ -30,6 +35,8 @@ class TransferMenu : public Screen {
   Button ZDtoKVButton{"ZDtoKVButton", "Transfer SCORES to KV"};
   Button PriorTransfer{"PriorTransfer", "Transfer between 'old' versions"};
   Button ExitButton{"ExitButton", "Close"};
+  FolderChoice folder;
+  FirstSteps steps;
 
  private:
   void StartPriorTransfer();
