@@ -55,6 +55,18 @@ bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std:
   return true;
 }
 
+bool ChangeFilesOrNone(SharedState& state, ScreenHost& host, std::string command, std::string about,
+                       const std::function<void()>& change) {
+  return ChangeFiles(state, host, std::move(command), std::move(about), [&] {
+    try {
+      change();
+    } catch (const NumberedError&) {
+      state.transactions->Drop();
+      throw;
+    }
+  });
+}
+
 void ThenCloseFiles(SharedState& state, const std::function<void()>& show) {
   try {
     show();

@@ -40,6 +40,10 @@ class ChangingClick {
 bool ChangeFiles(SharedState& state, ScreenHost& host, std::string command, std::string about,
                  const std::function<void()>& change);
 
+// Does the same, but drops all changes if `change` raises a numbered error.
+bool ChangeFilesOrNone(SharedState& state, ScreenHost& host, std::string command, std::string about,
+                       const std::function<void()>& change);
+
 // Calls `show`, and then makes the shared objects again, which closes all files. Passes on what
 // `show` raises, and raises the first error of closing.
 void ThenCloseFiles(SharedState& state, const std::function<void()>& show);

@@ -206,6 +206,60 @@ TEST_F(ToolsTest, RostersAreMadeAndDeleted) {
   EXPECT_EQ(Data(), made);
 }
 
+// A course whose indexes cannot be written is not restored, and neither is one that has changed
+// while the operator was asked.
+TEST_F(ToolsTest, ACourseIsRestoredWithItsIndexesOrNotAtAll) {
+  const Files before = Data();
+  install.Open(
+      "CourseTable",
+      [&](Screen& screen) {
+        host().QueueAnswer("DELETE COURSE?", "YES");
+        Press(screen, "DeleteCourseButton");
+        Press(screen, "CloseButton");
+      },
+      "QB");
+  const Files deleted = Data();
+  std::function<void()> during_restore = [] {};
+  const auto restore = [&] {
+    install.Open(
+        "DeletedCourses",
+        [&](Screen& screen) {
+          during_restore();
+          host().QueueAnswer("Restore course", "Yes");
+          Press(screen, "RestoreButton");
+        },
+        "QB");
+  };
+  install.platform->Fail({.only = Operation::kOpen, .name = "ALLCRSQB.INX", .stays = true});
+  EXPECT_NE(ClickErrorOf(restore), 0);
+  EXPECT_TRUE(install.platform->Failed());
+  install.platform->Heal();
+  EXPECT_EQ(Data(), deleted);
+
+  during_restore = [&] { install.folder.Write("qbdata/qbcrs.dat", before.at("qbdata/qbcrs.dat")); };
+  restore();
+  EXPECT_EQ(install.LastMessage(),
+            "message [Restore course] Another program has changed this course meanwhile. It was "
+            "not restored.");
+  EXPECT_EQ(Data().at("qbdata/qbcrs.dat"), before.at("qbdata/qbcrs.dat"));
+}
+
+TEST_F(ToolsTest, APermanentLayoutIsNotDeleted) {
+  for (const char part : {'1', '2'}) {
+    const std::string bytes = install.folder.Read(std::string("qbdata/Gross and net.TR") + part);
+    install.folder.Write(std::string("qbdata/(Club).TR") + part, bytes);
+  }
+  const Files before = Data();
+  host().QueueAnswer("Delete layout", "Yes");
+  OpenTool("Team results layouts...", [&](Screen& screen) {
+    dynamic_cast<TeamLayouts&>(screen).LayoutList.Select(0);
+    Press(screen, "DeleteButton");
+  });
+  EXPECT_EQ(install.LastMessage(),
+            "message [Notice] This is a permanent system report and cannot be deleted.");
+  EXPECT_EQ(Data(), before);
+}
+
 // A held file is reported in a box, and nothing changes.
 TEST_F(ToolsTest, HeldFilesAreReported) {
   const struct {
@@ -214,6 +268,7 @@ TEST_F(ToolsTest, HeldFilesAreReported) {
     const char* message;
   } kCases[] = {
       {"Rosters of Quenby...", "QBROSTER.Q9D", "message [Rosters] Quenby's rosters are in use:\r"},
+      {"Rosters of Quenby...", "QBGOLFER.Q9D", "message [Rosters] Quenby's rosters are in use:\r"},
       {"Deleted courses...", "KVCRS.DAT",
        "message [Course library] Kelvane's course library is in use:\r"},
   };

@@ -246,6 +246,8 @@ std::vector<std::string> ListReportLayouts(FileTable& files, const std::string& 
   return names;
 }
 
+bool IsPermanentLayout(std::string_view name) { return name.starts_with('('); }
+
 bool ReportLayoutExists(FileTable& files, const std::string& folder, const std::string& name) {
   return files.FileExists(PathOf(folder, name) + '1');
 }

@@ -100,6 +100,9 @@ void WriteReportLayout(FileTable& files, const std::string& path, const ReportLa
 // Returns true if the files can contain the text. They cannot contain a quote or a line end.
 bool FitsReportLayout(std::string_view text);
 
+// Returns true if the layout belongs to Quenby itself and must not be changed.
+bool IsPermanentLayout(std::string_view name);
+
 // These work on the two files of the layout `name`. They raise the errors of ChangeGate, and
 // CopyReportLayout error 53 if a file is missing.
 bool ReportLayoutExists(FileTable& files, const std::string& folder, const std::string& name);

@@ -104,12 +104,22 @@ void DeletedCourses::Restore() {
   const std::int32_t record = RoundToInt32(LeadingNumber(CourseList.text(kNumberColumn, row)));
   course.GetRecord(record);
   if (!IsWanted(*libraries_[static_cast<std::size_t>(LibraryList.index())])) return;
-  ChangeFiles(state(), host(), "restore-course", std::string(Trim(course.Name())), [&] {
+  const std::string name = course.Name();
+  bool is_same = true;
+  ChangeFilesOrNone(state(), host(), "restore-course", std::string(Trim(name)), [&] {
     course.GetRecord(record);
+    is_same = course.activeflag() == 0 && course.Name() == name;
+    if (!is_same) return;
     course.Setactiveflag(1);
     course.SaveRecord(record);
     course.RebuildCourseIndexes(course.ActiveCoursesByName());
   });
+  if (!is_same) {
+    host().Ask(Box{.title = "Restore course",
+                   .text = "Another program has changed this course meanwhile. It was not "
+                           "restored.",
+                   .icon = BoxIcon::kStop});
+  }
   FillList();
 }
 

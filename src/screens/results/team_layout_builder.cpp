@@ -215,7 +215,7 @@ bool XReportsCustomTeamResults::LoadLayout() {
     host().Ask(
         Box{.title = "Notice", .text = UnknownCodesText(replaced), .icon = BoxIcon::kWarning});
   }
-  if (file_name_.starts_with('(')) {
+  if (IsPermanentLayout(file_name_)) {
     host().Ask(Box{.title = "Notice",
                    .text = "This is a permanent system report and cannot be altered, a copy has "
                            "been created to edit."});
@@ -382,7 +382,7 @@ bool XReportsCustomTeamResults::IsRefused(const std::string& name) {
   if (!another || !state().files.FileExists(state().StoreDataPath + name + extension_ + "1")) {
     return false;
   }
-  if (name.starts_with('(')) return refuse("A permanent system report cannot be replaced.");
+  if (IsPermanentLayout(name)) return refuse("A permanent system report cannot be replaced.");
   const BoxButton answer = host().Ask(
       Box{.title = "Replace existing report layout with this layout?",
           .text = "A report layout with this name already exists.  Do you want to replace that "

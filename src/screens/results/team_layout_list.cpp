@@ -75,13 +75,18 @@ void TeamLayouts::Duplicate() {
   if (ReportLayoutExists(state().files, state().QBDataPath, copy)) {
     return refuse("A report layout with this name already exists.");
   }
-  ChangeFiles(state(), host(), "copy-layout", copy,
-              [&] { CopyReportLayout(state().files, state().QBDataPath, name, copy); });
+  ChangeFilesOrNone(state(), host(), "copy-layout", copy,
+                    [&] { CopyReportLayout(state().files, state().QBDataPath, name, copy); });
   LoadList(copy);
 }
 
 void TeamLayouts::Delete() {
   const std::string name = LayoutList.text();
+  if (IsPermanentLayout(name)) {
+    host().Ask(
+        Box{.title = "Notice", .text = "This is a permanent system report and cannot be deleted."});
+    return;
+  }
   const BoxButton answer = host().Ask(
       Box{.title = "Delete layout",
           .text = "Delete the layout \"" + name + "\"?\r\rThe menu History can undo this.",
@@ -89,8 +94,8 @@ void TeamLayouts::Delete() {
           .buttons = {BoxButton::kYes, BoxButton::kNo},
           .default_button = 1});
   if (answer != BoxButton::kYes) return;
-  ChangeFiles(state(), host(), "delete-layout", name,
-              [&] { DeleteReportLayout(state().files, state().QBDataPath, name); });
+  ChangeFilesOrNone(state(), host(), "delete-layout", name,
+                    [&] { DeleteReportLayout(state().files, state().QBDataPath, name); });
   LoadList("");
 }
 

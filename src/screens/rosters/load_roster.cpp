@@ -118,10 +118,13 @@ int LoadRoster::RowOf(std::string_view name) const {
   return row;
 }
 
-std::string HeldRosterText(const std::string& roster, const NumberedError& error) {
-  if (!error.Is(ErrorNumber::kPermissionDenied)) return error.description();
+std::string HeldRosterText(const std::string& roster) {
   return "Another program has the roster " + roster +
          " open. Close Kelvane, or choose another roster.";
+}
+
+std::string HeldRosterText(const std::string& roster, const NumberedError& error) {
+  return error.Is(ErrorNumber::kPermissionDenied) ? HeldRosterText(roster) : error.description();
 }
 
 std::string AskForKelvaneRoster(SharedState& state, ScreenHost& host, const std::string& before) {
@@ -229,6 +232,12 @@ void LoadRoster::Delete(const std::string& name) {
     if (sure != BoxButton::kYes) return;
   }
   CloseKVFiles(state());
+  const auto tell = [this](const std::string& text) {
+    if (use_ == RosterUse::kManage) {
+      host().Ask(Box{.title = "Rosters", .text = text, .icon = BoxIcon::kStop});
+    }
+  };
+  bool is_held = false;
   try {
     ChangeFiles(state(), host(), "delete-kv-roster", name, [&] {
       for (const char* extension : {".kvg", ".kvx", ".kvs", ".kv5"}) {
@@ -236,11 +245,14 @@ void LoadRoster::Delete(const std::string& name) {
         state().files.DeleteFile(path);
         // The file could not be deleted, since another program has it open. The other files are not
         // deleted then.
-        if (state().files.FileExists(path)) return state().transactions->Drop();
+        is_held = state().files.FileExists(path);
+        if (is_held) return state().transactions->Drop();
       }
     });
-  } catch (const CommitFailed&) {
-    // No message is needed: the list still shows the roster.
+    if (is_held) tell(HeldRosterText(name));
+  } catch (const CommitFailed& error) {
+    // A transfer needs no message here: the list still shows the roster.
+    tell(HeldRosterText(name, error));
   }
   FillList();
   if (current) CancelButton.Click();

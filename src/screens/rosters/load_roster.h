@@ -67,6 +67,8 @@ class LoadRoster : public Screen {
   RosterUse use_ = RosterUse::kPick;
 };
 
+// Returns a text for the operator about a roster that another program has open.
+std::string HeldRosterText(const std::string& roster);
 // Returns a text for the operator after `error` has prevented the opening of a roster.
 std::string HeldRosterText(const std::string& roster, const NumberedError& error);
 

@@ -247,14 +247,10 @@ void LoadRosters::AskToDelete() {
                                   "'.\r\rAll players in this roster will be deleted.",
                           .default_answer = "NO"});
   if (MeansYes(answer)) {
-    ChangeFiles(state(), host(), "delete-qb-roster", program.ClubName(), [&] {
-      try {
-        program.DeleteRosterRecord(roster);
-        TakeGolfersOut(roster);
-      } catch (const NumberedError&) {
-        state().transactions->Drop();  // the roster is not deleted without its golfers
-        throw;
-      }
+    // The roster is not deleted without its golfers.
+    ChangeFilesOrNone(state(), host(), "delete-qb-roster", program.ClubName(), [&] {
+      program.DeleteRosterRecord(roster);
+      TakeGolfersOut(roster);
     });
   }
   LoadList();

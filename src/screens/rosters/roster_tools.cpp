@@ -1,5 +1,6 @@
 #include "screens/rosters/roster_tools.h"
 
+#include "scoring/player/player_class.h"
 #include "screens/file_changes.h"
 #include "screens/rosters/load_roster.h"
 #include "screens/rosters/load_rosters.h"
@@ -30,6 +31,7 @@ void ShowQuenbyRosters(SharedState& state, ScreenHost& host, RosterUse use,
   ThenCloseFiles(state, [&] {
     state.StoreDataPath = state.QBDataPath;
     state.Program().OpenRosterListFile();
+    if (use == RosterUse::kManage) state.Player().OpenRosterFile();  // to delete rosters
     ShowRosters<LoadRosters>(host, use, suggested);
   });
 }
