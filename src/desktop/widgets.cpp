@@ -68,7 +68,8 @@ wxStaticText* MakePathLabel(Binding& binding, wxWindow* parent, Label& control, 
     text->SetLabelText(WxText(control.caption()));
     text->SetToolTip(WxText(control.caption()));
   });
-  return text;
+  // On Windows the shortened text would be the name.
+  return NameBy(binding, text, [&control] { return WxText(control.caption()); });
 }
 
 wxStaticText* MakeFieldLabel(Binding& binding, wxWindow* parent, Label& control) {
