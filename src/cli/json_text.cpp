@@ -1,5 +1,6 @@
 #include "cli/json_text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iostream>
 
@@ -80,11 +81,27 @@ std::string WithoutControls(const std::string& json) {
   return escaped;
 }
 
+// Returns true if the text stands in JSON as it is.
+bool IsPlain(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; });
+}
+
+}  // namespace
+
 std::string JsonLine(const Json& object) {
   return WithoutControls(object.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
-}  // namespace
+void AppendJsonText(std::string& to, std::string_view text) {
+  if (!IsPlain(text)) {
+    to += JsonLine(JsonText(text));
+    return;
+  }
+  to += '"';
+  to += text;
+  to += '"';
+}
 
 Json JsonSingle(float value) {
   return std::isfinite(value) ? Json(NumberOfSingle(value)) : Json(nullptr);

@@ -21,6 +21,11 @@ inline Json JsonText(std::string_view text) { return Utf8FromText(text); }
 // and the infinities.
 Json JsonSingle(float value);
 
+// Returns an object as text in one line.
+std::string JsonLine(const Json& object);
+// Appends a text that is in code page 1252.
+void AppendJsonText(std::string& to, std::string_view text);
+
 // Writes one object as a line of standard output and flushes it.
 void WriteJsonLine(const Json& object);
 // Writes an object whose last key is an array. `each_element` calls its argument with each element

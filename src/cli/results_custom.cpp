@@ -86,7 +86,7 @@ void ShowCustom(ResultsRun& run) {
     for (const CustomStanding& standing : worked_out) {
       Json& object = objects[standing.TeamNumber] =
           StandingAsJson(standing, run.state.Tournament().RoundOr({}));
-      places.AddTo(standing.TeamNumber, object);
+      object.update(places.KeysOf(standing.TeamNumber));
     }
     for (const auto& [team, object] : objects) WriteJsonLine(object);
     return;

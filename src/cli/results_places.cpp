@@ -48,11 +48,11 @@ Json ResultPlaces::PlacesOfSpan(std::size_t entry, Span span) const {
   return places;
 }
 
-void ResultPlaces::AddTo(int number, Json& object) const {
+Json ResultPlaces::KeysOf(int number) const {
   const auto found = index_.find(number);
-  if (found == index_.end()) return;
-  object["Places"] = PlacesOfSpan(found->second, Span::kRound);
-  object["TotalPlaces"] = PlacesOfSpan(found->second, Span::kAllRounds);
+  if (found == index_.end()) return Json::object();
+  return {{"Places", PlacesOfSpan(found->second, Span::kRound)},
+          {"TotalPlaces", PlacesOfSpan(found->second, Span::kAllRounds)}};
 }
 
 // Returns true if the table has a column for flights or sexes. A table for people has it only if

@@ -26,9 +26,9 @@ class ResultPlaces {
 
   const std::vector<ResultEntry>& entries() const { return entries_; }
 
-  // Adds the places of the entry with this number to its object. Adds nothing if there is no such
-  // entry.
-  void AddTo(int number, Json& object) const;
+  // Returns an object with the places of the entry with this number. The object is empty if there
+  // is no such entry.
+  Json KeysOf(int number) const;
   // Adds columns to the table: the flight, the sex, the scores that it does not have, the keys of
   // the tiebreak and the places. In the form kTable it adds no totals, and only the places of the
   // round among all entries.

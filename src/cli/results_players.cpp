@@ -40,15 +40,15 @@ void WriteJson(ResultsRun& run) {
                                          {}}),
                             kMeasuresOfPlayers, run);
   const auto describe = [&](std::int32_t record) {
-    Json object = {{"record", record},
-                   {"round", round},
-                   {"IDNum", JsonText(player.IDNum())},
-                   {"NameLF", JsonText(player.NameLF())}};
-    AddResults(player, decimals, round, object);
-    object["TourFlight"] = JsonText(player.TourFlight(round));
-    object["sex"] = JsonText(player.sex());
-    places.AddTo(record, object);
-    WriteJsonLine(object);
+    ResultsObject object({{"record", record},
+                          {"round", round},
+                          {"IDNum", JsonText(player.IDNum())},
+                          {"NameLF", JsonText(player.NameLF())}});
+    object.AddResults(player, decimals, round);
+    object.Add(
+        {{"TourFlight", JsonText(player.TourFlight(round))}, {"sex", JsonText(player.sex())}});
+    object.Add(places.KeysOf(record));
+    object.Write();
   };
   ForEachPlayer(
       run.state, describe,

@@ -19,10 +19,10 @@ const std::vector<PlacedMeasure> kMeasuresOfTeams = {{Measure::kGross, "gross", 
 
 void WriteJson(SharedState& state, int team, const ResultPlaces& places) {
   const int round = state.Tournament().RoundOr({});
-  Json object = {{"TeamNumber", team}, {"round", round}};
-  AddResults(state.Team1(), round, object);
-  places.AddTo(team, object);
-  WriteJsonLine(object);
+  ResultsObject object({{"TeamNumber", team}, {"round", round}});
+  object.AddResults(state.Team1(), round);
+  object.Add(places.KeysOf(team));
+  object.Write();
 }
 
 }  // namespace
