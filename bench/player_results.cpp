@@ -1,6 +1,7 @@
 // Measures the scoring of players in a tournament of five rounds on five courses. It measures
 // rounds per second through PlayerClass in this process, with the courses in memory. It also
-// measures `results players` as a whole process, as a table and as JSON.
+// measures `results players` as a whole process, as a table and as JSON, and `jq` that reads and
+// writes the same JSON.
 //
 // player_results [ROUNDS]   prints medians for 2,000 and for 8,000 players
 
@@ -56,12 +57,15 @@ std::vector<Measured> MeasureResults(const ScratchFolder& scratch, int players, 
   const fs::path pristine = scratch.path() / "pristine";
   fs::remove_all(pristine);
   MakeScoredInstall(pristine, players, [](int number) { return number % 200 + 1; });
-  const std::vector<std::string> command = {GOLF_CLI,  "--install",    "{}", "results",
-                                            "players", "--tournament", "1"};
-  std::vector<Contender> contenders = {{"table", command}, {"JSON", command}};
-  contenders[1].command.push_back("--json");
+  const std::string results = GOLF_CLI " --install {} results players --tournament 1";
+  const std::string stored = "{}/players.json";
+  RunOnce({"JSON", {"sh", "-c", results + " --json > " + stored}}, pristine);
+  const std::vector<Contender> contenders = {{"table", {"sh", "-c", results}},
+                                             {"JSON", {"sh", "-c", results + " --json"}},
+                                             {"jq over the JSON", {"jq", "-c", ".", stored}}};
   const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
-  Print(std::to_string(players) + " players over " + std::to_string(kRoundsPlayed) + " rounds",
+  Print("results of " + std::to_string(players) + " players over " + std::to_string(kRoundsPlayed) +
+            " rounds",
         contenders, medians, 0);
   return medians;
 }

@@ -8,7 +8,10 @@ SqliteRecords::SqliteRecords(const std::filesystem::path& file) {
   Check(sqlite3_open(file.c_str(), &database_));
 }
 
-SqliteRecords::~SqliteRecords() { sqlite3_close(database_); }
+SqliteRecords::~SqliteRecords() {
+  for (const auto& [text, statement] : statements_) sqlite3_finalize(statement);
+  sqlite3_close(database_);
+}
 
 void SqliteRecords::Execute(const std::string& statement) {
   Check(sqlite3_exec(database_, statement.c_str(), nullptr, nullptr, nullptr));
@@ -25,7 +28,7 @@ void SqliteRecords::Upsert(const std::string& table, int number, std::string_vie
   Check(
       sqlite3_bind_blob(statement, 2, bytes.data(), static_cast<int>(bytes.size()), SQLITE_STATIC));
   if (sqlite3_step(statement) != SQLITE_DONE) Check(SQLITE_ERROR);
-  sqlite3_finalize(statement);
+  sqlite3_reset(statement);
 }
 
 std::string SqliteRecords::Read(const std::string& table, int number) {
@@ -36,13 +39,15 @@ std::string SqliteRecords::Read(const std::string& table, int number) {
     bytes.assign(static_cast<const char*>(sqlite3_column_blob(statement, 0)),
                  static_cast<std::size_t>(sqlite3_column_bytes(statement, 0)));
   }
-  sqlite3_finalize(statement);
+  sqlite3_reset(statement);
   return bytes;
 }
 
 sqlite3_stmt* SqliteRecords::Prepared(const std::string& text) {
-  sqlite3_stmt* statement = nullptr;
-  Check(sqlite3_prepare_v2(database_, text.c_str(), -1, &statement, nullptr));
+  sqlite3_stmt*& statement = statements_[text];
+  if (statement == nullptr) {
+    Check(sqlite3_prepare_v2(database_, text.c_str(), -1, &statement, nullptr));
+  }
   return statement;
 }
 

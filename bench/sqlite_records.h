@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -25,10 +26,12 @@ class SqliteRecords {
   std::string Read(const std::string& table, int number);
 
  private:
+  // Returns the statement of this text, ready for new values. Each statement is prepared once.
   sqlite3_stmt* Prepared(const std::string& text);
   void Check(int result) const;
 
   sqlite3* database_ = nullptr;
+  std::map<std::string, sqlite3_stmt*> statements_;
 };
 
 }  // namespace golf::bench

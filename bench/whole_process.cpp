@@ -10,6 +10,8 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <nlohmann/json.hpp>
 #include <stdexcept>
 
 extern char** environ;
@@ -21,10 +23,16 @@ namespace fs = std::filesystem;
 
 std::vector<std::string> WithFolder(std::vector<std::string> words, const fs::path& folder) {
   for (std::string& word : words) {
-    const std::size_t at = word.find("{}");
-    if (at != std::string::npos) word.replace(at, 2, folder.string());
+    for (std::size_t at = 0; (at = word.find("{}", at)) != std::string::npos;) {
+      word.replace(at, 2, folder.string());
+      at += folder.string().size();
+    }
   }
   return words;
+}
+
+double Seconds(const timeval& time) {
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
 }
 
 Measured RunProcess(std::vector<std::string> words) {
@@ -43,7 +51,8 @@ Measured RunProcess(std::vector<std::string> words) {
   if (failed == 0) wait4(pid, &status, 0, &usage);
   const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
   if (failed != 0 || status != 0) throw std::runtime_error(words[0] + " failed");
-  return {taken.count(), static_cast<double>(usage.ru_maxrss) / 1024};
+  return {taken.count(), Seconds(usage.ru_utime), Seconds(usage.ru_stime),
+          static_cast<double>(usage.ru_maxrss) / 1024};
 }
 
 void Restore(const fs::path& pristine, const fs::path& work) {
@@ -78,10 +87,22 @@ std::vector<Measured> Race(const fs::path& pristine, const fs::path& work,
 void Print(const std::string& title, const std::vector<Contender>& contenders,
            const std::vector<Measured>& medians, std::size_t base) {
   std::printf("%s\n", title.c_str());
+  std::ofstream rows;
+  if (const char* path = std::getenv("BENCH_ROWS")) rows.open(path, std::ios::app);
   for (std::size_t i = 0; i < contenders.size(); ++i) {
-    std::printf("  %-24s %8.3f s  %6.1f MiB  %5.2f x\n", contenders[i].name.c_str(),
-                medians[i].seconds, medians[i].peak_mib,
-                medians[i].seconds / medians[base].seconds);
+    const Measured& of = medians[i];
+    const double ratio = of.seconds / medians[base].seconds;
+    std::printf("  %-24s %8.3f s  user %7.3f s  system %7.3f s  %6.1f MiB  %5.2f x\n",
+                contenders[i].name.c_str(), of.seconds, of.user_seconds, of.system_seconds,
+                of.peak_mib, ratio);
+    rows << nlohmann::ordered_json{{"task", title},
+                                   {"contender", contenders[i].name},
+                                   {"seconds", of.seconds},
+                                   {"userSeconds", of.user_seconds},
+                                   {"systemSeconds", of.system_seconds},
+                                   {"peakMiB", of.peak_mib},
+                                   {"ratio", ratio}}
+         << '\n';
   }
 }
 
@@ -97,20 +118,36 @@ std::vector<double> RaceBareLoop(int argc, char** argv, void (*bare_loop)(const 
     return seconds;
   }
   const int rounds = RoundsAsked(argc, argv);
-  const ScratchFolder scratch("bench");
-  const fs::path pristine = scratch.path() / "pristine";
   for (const BareLoopRace& race : races) {
-    fs::remove_all(pristine);
-    race.make_install(pristine);
-    Contender command{race.words.front(), {GOLF_CLI, "--quiet", "--install", "{}"}};
-    command.command.insert(command.command.end(), race.words.begin(), race.words.end());
-    std::vector<Contender> contenders = {command, {"bare loop", {argv[0], "--bare-loop", "{}"}}};
+    std::vector<Contender> contenders = {ProgramContender(race.words.front(), race.words),
+                                         {"bare loop", {argv[0], "--bare-loop", "{}"}}};
     contenders.insert(contenders.end(), race.others.begin(), race.others.end());
-    const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
-    Print(race.title, contenders, medians, 1);
+    const auto medians = RaceOnInstall(race.title, race.make_install, contenders, 1, rounds);
     seconds.push_back(medians[0].seconds);
   }
   return seconds;
+}
+
+std::vector<Measured> RaceOnInstall(const std::string& title,
+                                    const std::function<void(const fs::path&)>& make_install,
+                                    const std::vector<Contender>& contenders, std::size_t base,
+                                    int rounds) {
+  const ScratchFolder scratch("bench");
+  const fs::path pristine = scratch.path() / "pristine";
+  make_install(pristine);
+  const auto medians = Race(pristine, scratch.path() / "work", contenders, rounds);
+  Print(title, contenders, medians, base);
+  return medians;
+}
+
+Contender ProgramContender(const std::string& name, const std::vector<std::string>& words) {
+  Contender contender{name, {GOLF_CLI, "--quiet", "--install", "{}"}};
+  contender.command.insert(contender.command.end(), words.begin(), words.end());
+  return contender;
+}
+
+void RunOnce(const Contender& command, const fs::path& folder) {
+  RunProcess(WithFolder(command.command, folder));
 }
 
 ScratchFolder::ScratchFolder(const std::string& name)

@@ -7,10 +7,12 @@
 
 namespace golf::bench {
 
-// Contains the time and memory that a process used from its start to its end.
+// Contains the times and the memory that a process and its children used from its start to its end.
 struct Measured {
-  double seconds = 0;
-  double peak_mib = 0;  // the largest resident set, in MiB
+  double seconds = 0;         // of the clock
+  double user_seconds = 0;    // of the processor, in the program
+  double system_seconds = 0;  // of the processor, in the system
+  double peak_mib = 0;        // the largest resident set, in MiB
 };
 
 // Describes a command that does the work of a benchmark. "{}" in a word is replaced by the work
@@ -26,9 +28,22 @@ struct Contender {
 std::vector<Measured> Race(const std::filesystem::path& pristine, const std::filesystem::path& work,
                            const std::vector<Contender>& contenders, int rounds);
 
-// Prints a line for each contender with its ratio to the contender `base`.
+// Prints a line for each contender with its ratio to the contender `base`. If the environment
+// variable BENCH_ROWS contains the path of a file, also appends each line to it, as a JSON object.
 void Print(const std::string& title, const std::vector<Contender>& contenders,
            const std::vector<Measured>& medians, std::size_t base);
+
+// Makes an install, runs the contenders on copies of it, and prints a line for each with its ratio
+// to the contender `base`. Returns their medians.
+std::vector<Measured> RaceOnInstall(
+    const std::string& title, const std::function<void(const std::filesystem::path&)>& make_install,
+    const std::vector<Contender>& contenders, std::size_t base, int rounds);
+
+// Returns a contender: a command of the program on the install, without its output of the progress.
+Contender ProgramContender(const std::string& name, const std::vector<std::string>& words);
+
+// Runs a command once. "{}" in a word is replaced by the folder. Throws an exception if it fails.
+void RunOnce(const Contender& command, const std::filesystem::path& folder);
 
 // Returns the number of rounds given as an argument of the benchmark, but at least 5.
 int RoundsAsked(int argc, char** argv, int if_none = 7);

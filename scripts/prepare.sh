@@ -6,6 +6,7 @@ build_packages=(g++ cmake ninja-build pkg-config libwxgtk3.2-dev libgtk-3-dev li
 test_packages=(libgtest-dev librapidcheck-dev libgumbo-dev xvfb xauth)
 window_manager_packages=(openbox icewm x11-utils xdotool)
 fuzz_packages=(clang libclang-rt-14-dev)
+bench_packages=(jq sqlite3)
 formats_packages=(nodejs npm)
 pages_packages=(nodejs npm chromium default-jre-headless)
 
