@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -76,6 +77,9 @@ class PlatformFile {
   // Returns false if the file is open for reading only.
   virtual bool IsWritable() const = 0;
   virtual FileIdentity Identity() const = 0;
+  // Returns the stamp of the file. Returns none if the system cannot tell it, or if the next change
+  // could leave it equal.
+  virtual std::optional<FileStamp> Stamp() { return std::nullopt; }
   // Closes the file, even if it raises an error. An error means that bytes written before may not
   // be on the disk. The destructor closes an open file and raises no error.
   virtual void Close() = 0;

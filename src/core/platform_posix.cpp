@@ -103,6 +103,10 @@ int SyncWith(int (*sync)(int), const Descriptor& descriptor) {
   return result == 0 ? 0 : errno;
 }
 
+std::int64_t Nanoseconds(const struct timespec& time) {
+  return time.tv_sec * std::int64_t{1'000'000'000} + time.tv_nsec;
+}
+
 class PosixFile : public PlatformFile {
  public:
   PosixFile(Descriptor descriptor, std::string native, bool writable, FileIdentity identity)
@@ -151,6 +155,18 @@ class PosixFile : public PlatformFile {
   bool IsWritable() const override { return writable_; }
 
   FileIdentity Identity() const override { return identity_; }
+
+  // The system stamps a change with the time of its last tick, and some disks store only seconds.
+  // Two changes in the same tick or second leave equal stamps.
+  std::optional<FileStamp> Stamp() override {
+    struct stat status {};
+    struct timespec tick {};
+    if (fstat(descriptor_.get(), &status) != 0) return std::nullopt;
+    if (clock_gettime(CLOCK_REALTIME_COARSE, &tick) != 0) return std::nullopt;
+    const std::int64_t changed = Nanoseconds(status.st_ctim);
+    if (status.st_ctim.tv_nsec == 0 || changed >= Nanoseconds(tick)) return std::nullopt;
+    return FileStamp{status.st_size, changed};
+  }
 
   void Close() override { descriptor_.Close(native_); }
 
@@ -333,11 +349,10 @@ class PosixPlatform : public Platform {
   }
 
   FileStamp StampOf(const std::string& path) override {
-    constexpr std::int64_t kNanoseconds = 1'000'000'000;
     try {
       struct stat status {};
       if (stat(Resolve(path).c_str(), &status) != 0) return {};
-      return {status.st_size, status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
+      return {status.st_size, Nanoseconds(status.st_mtim)};
     } catch (const NumberedError&) {  // the folder does not exist
       return {};
     }

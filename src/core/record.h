@@ -105,6 +105,15 @@ class Record {
     }
   }
 
+  // Returns a stored text without a copy. It is valid until the record changes.
+  template <FieldName kName, class... Indexes>
+  std::string_view View(Indexes... indexes) const {
+    constexpr Field kField = FieldOf<Layout, kName>();
+    static_assert(kField.type == FieldType::kText && sizeof...(Indexes) == kField.rank);
+    return Bytes().substr(Offset<kField.rank>(kField, {static_cast<int>(indexes)...}),
+                          kField.width);
+  }
+
   // Sets a field that is not a table. Cuts a text at the field's width, or fills it with blanks.
   template <FieldName kName>
   void Set(Source<kName> value) {

@@ -9,6 +9,7 @@ namespace golf {
 namespace {
 
 constexpr std::size_t kFirstWindow = std::size_t{16} << 10;
+constexpr std::size_t kLongRecord = std::size_t{8} << 10;
 constexpr std::size_t kLargestWindow = std::size_t{256} << 10;
 
 }  // namespace
@@ -39,14 +40,31 @@ void RecordFile::Read(std::int64_t record, std::span<char> into) {
   const std::int64_t offset = (record - 1) * static_cast<std::int64_t>(record_length_);
   const bool inside =
       offset >= window_offset_ && offset + static_cast<std::int64_t>(into.size()) <=
-                                      window_offset_ + static_cast<std::int64_t>(window_.size());
+                                      window_offset_ + static_cast<std::int64_t>(window_size_);
+  const bool is_single = !inside && offset != next_offset_ && into.size() >= kLongRecord;
+  const std::size_t held = is_single ? ReadInto(into, offset) : ReadByWindow(into, offset, inside);
+  std::fill(into.begin() + static_cast<std::ptrdiff_t>(held), into.end(), '\0');
+  next_offset_ = offset + static_cast<std::int64_t>(record_length_);
+}
+
+// Reads a long record that does not follow the last one. The window would only copy it once more.
+std::size_t RecordFile::ReadInto(std::span<char> into, std::int64_t offset) {
+  ahead_ = window_size_ = window_held_ = 0;
+  try {
+    return file_->ReadAt(offset, into);
+  } catch (const NumberedError& error) {
+    ForgetWindow();
+    throw ReadError(error);
+  }
+}
+
+std::size_t RecordFile::ReadByWindow(std::span<char> into, std::int64_t offset, bool inside) {
   if (!inside) FillWindow(offset, into.size());
   const auto start = static_cast<std::size_t>(offset - window_offset_);
   const std::size_t held =
       std::min(into.size(), window_held_ > start ? window_held_ - start : std::size_t{0});
-  std::copy_n(window_.begin() + static_cast<std::ptrdiff_t>(start), held, into.begin());
-  std::fill(into.begin() + static_cast<std::ptrdiff_t>(held), into.end(), '\0');
-  next_offset_ = offset + static_cast<std::int64_t>(record_length_);
+  std::copy_n(buffer_.begin() + static_cast<std::ptrdiff_t>(start), held, into.begin());
+  return held;
 }
 
 // Reads at least `size` bytes into the window. Reads ahead if the record follows the last one read,
@@ -54,11 +72,12 @@ void RecordFile::Read(std::int64_t record, std::span<char> into) {
 void RecordFile::FillWindow(std::int64_t offset, std::size_t size) {
   const bool follows = offset == next_offset_;
   ahead_ = follows ? std::clamp(ahead_ * 2, kFirstWindow, kLargestWindow) : 0;
-  window_.resize(std::max(size, ahead_ / record_length_ * record_length_));
+  window_size_ = std::max(size, ahead_ / record_length_ * record_length_);
+  if (buffer_.size() < window_size_) buffer_.resize(window_size_);
   window_offset_ = offset;
   window_held_ = 0;
   try {
-    window_held_ = file_->ReadAt(offset, window_);
+    window_held_ = file_->ReadAt(offset, std::span(buffer_).first(window_size_));
   } catch (const NumberedError& error) {
     ForgetWindow();
     throw ReadError(error);
@@ -81,7 +100,7 @@ void RecordFile::Close() {
 }
 
 void RecordFile::ForgetWindow() {
-  window_.clear();
+  window_size_ = 0;
   window_held_ = 0;
   next_offset_ = -1;  // a loop that reads and writes each record does not read ahead
   ++generation_;

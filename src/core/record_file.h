@@ -44,6 +44,9 @@ class RecordFile {
 
  private:
   void Check(std::int64_t record, std::size_t size) const;
+  // Both return the number of bytes that they have read.
+  std::size_t ReadInto(std::span<char> into, std::int64_t offset);
+  std::size_t ReadByWindow(std::span<char> into, std::int64_t offset, bool inside);
   void FillWindow(std::int64_t offset, std::size_t size);
 
   ChangeGate& gate_;
@@ -51,8 +54,9 @@ class RecordFile {
   std::size_t record_length_;
   std::unique_ptr<PlatformFile> file_;
   FileIdentity identity_;
-  std::vector<char> window_;
+  std::vector<char> buffer_;  // contains the window, and is never made smaller
   std::int64_t window_offset_ = 0;
+  std::size_t window_size_ = 0;    // number of bytes requested for the window
   std::size_t window_held_ = 0;    // number of bytes of the window read from the file
   std::int64_t next_offset_ = -1;  // start of the record after the last one read; -1 if none
   std::size_t ahead_ = 0;  // bytes requested by the last sequential read; 0 after any other read

@@ -87,7 +87,9 @@ std::string WithoutPadding(std::string_view text) {
 }
 
 std::string FullName(std::string_view first, std::string_view last) {
-  const std::string name = std::string(Trim(first)) + ' ' + std::string(Trim(last));
+  std::string name(Trim(first));
+  name += ' ';
+  name += Trim(last);
   return std::string(Trim(name));
 }
 

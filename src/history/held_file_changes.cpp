@@ -20,7 +20,7 @@ bool StartsBefore(const HeldPlace& place, std::int64_t offset) { return place.of
 
 void FileWindow::Note(std::int64_t read_offset, std::span<const char> read) {
   if (read.size() > kLongestRecord) return;
-  bytes.assign(read.begin(), read.end());
+  bytes.assign(read.data(), read.size());
   offset = read_offset;
 }
 
@@ -50,7 +50,11 @@ std::size_t HeldFileChanges::ReadAt(std::int64_t offset, std::span<char> into) {
   // A place may start in an earlier portion and extend into this one.
   auto portion = portions_.lower_bound(PortionOf(std::max<std::int64_t>(offset - longest_, 0)));
   for (; portion != portions_.end() && portion->first * kPortion < end; ++portion) {
-    for (const HeldPlace& place : portion->second) {
+    // Places do not overlap each other, so their ends rise like their offsets.
+    auto next = std::partition_point(portion->second.begin(), portion->second.end(),
+                                     [&](const HeldPlace& place) { return place.End() <= offset; });
+    for (; next != portion->second.end() && next->offset < end; ++next) {
+      const HeldPlace& place = *next;
       const std::int64_t first = std::max(place.offset, offset);
       const std::int64_t last = std::min(place.offset + std::int64_t{place.new_size}, end);
       if (first >= last) continue;

@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -61,6 +62,10 @@ class HeldFileChanges {
   // Records bytes that were read before the first change. They count as old bytes, even if another
   // program has changed them since.
   void NoteRead(FileWindow read) { window_ = std::move(read); }
+  // Records the stamp that the real file had before its bytes were read.
+  void NoteStamp(const std::optional<FileStamp>& stamp) { stamp_ = stamp; }
+  // True if the stamps prove that the real file has not changed since.
+  bool IsProvenUntouched() const { return stamp_ && real_ != nullptr && real_->Stamp() == stamp_; }
   // Both functions hold a change. They raise HoldFailed if it cannot be held.
   void WriteAt(std::int64_t offset, std::string_view bytes, ChangeGroup group);
   void Truncate(std::int64_t length, ChangeGroup group);
@@ -106,6 +111,7 @@ class HeldFileChanges {
   std::string code_;
   HistoryPlace bytes_;
   FileWindow window_;  // bytes of the real file
+  std::optional<FileStamp> stamp_;
 };
 
 }  // namespace golf

@@ -113,7 +113,9 @@ class HeldPlatform::File : public PlatformFile {
         path_(std::move(path)),
         real_(std::move(real)),
         changes_(std::move(created)),
-        turn_(platform.turn_) {}
+        turn_(platform.turn_) {
+    NoteStamp();
+  }
 
   std::size_t ReadAt(std::int64_t offset, std::span<char> into) override {
     if (HeldFileChanges* changes = Changes()) return changes->ReadAt(offset, into);
@@ -172,6 +174,7 @@ class HeldPlatform::File : public PlatformFile {
       if (real_ == nullptr) OpenCommitted();
       changes_ = nullptr;
       read_ = {};  // these bytes were read in an earlier run
+      NoteStamp();
     }
     if (changes_ == nullptr && platform_.held_ != nullptr) {
       changes_ = platform_.held_->Of(real_->Identity());
@@ -183,9 +186,12 @@ class HeldPlatform::File : public PlatformFile {
     if (Changes() == nullptr) {
       changes_ = platform_.held_->Begin(path_, real_);
       changes_->NoteRead(read_);
+      changes_->NoteStamp(stamp_);
     }
     return *changes_;
   }
+
+  void NoteStamp() { stamp_ = real_ != nullptr ? real_->Stamp() : std::nullopt; }
 
   PlatformFile& Real() {
     Changes();
@@ -202,7 +208,8 @@ class HeldPlatform::File : public PlatformFile {
   std::shared_ptr<PlatformFile> real_;
   std::shared_ptr<HeldFileChanges> changes_;
   std::uint64_t turn_;
-  FileWindow read_;  // the last bytes that were read before the first held change
+  FileWindow read_;                 // the last bytes that were read before the first held change
+  std::optional<FileStamp> stamp_;  // of the real file, before any byte of this run was read
 };
 
 void HeldPlatform::Hold() {

@@ -8,25 +8,50 @@ namespace {
 
 // The fewest equal bytes that get a fill operation.
 constexpr std::size_t kShortestFill = 8;
+// The bytes that are compared at once: by the processor, and by a call of the library.
+constexpr std::size_t kWord = sizeof(std::uint64_t);
+constexpr std::size_t kBlock = 128;
 
 void AppendCode(std::string& to, PlaceCode code, std::size_t count) {
   to += static_cast<char>(code);
   AppendNumber(to, count);
 }
 
-// Returns the number of bytes from `at` on that equal the byte at `at`.
-std::size_t FillLength(std::string_view bytes, std::size_t at) {
-  const char first = bytes[at];
-  std::size_t end = at + 1;
-  if (end == bytes.size() || bytes[end] != first) return 1;
-  // All bytes of a range are equal if the range equals itself moved by one byte.
-  constexpr std::size_t kStretch = 64;
-  while (end + kStretch <= bytes.size() &&
-         std::memcmp(bytes.data() + end, bytes.data() + end - 1, kStretch) == 0) {
-    end += kStretch;
+std::uint64_t LoadWord(std::string_view bytes, std::size_t at) {
+  std::uint64_t word;
+  std::memcpy(&word, bytes.data() + at, kWord);
+  return word;
+}
+
+// Both functions return the end of the range from `at` on in which all bytes of `a` and `b` are
+// equal, or all are different. The range ends with the shorter text.
+std::size_t EndOfEqual(std::string_view a, std::string_view b, std::size_t at) {
+  const std::size_t both = std::min(a.size(), b.size());
+  while (at + kBlock <= both && std::memcmp(a.data() + at, b.data() + at, kBlock) == 0) {
+    at += kBlock;
   }
-  while (end < bytes.size() && bytes[end] == first) ++end;
-  return end - at;
+  while (at + kWord <= both && LoadWord(a, at) == LoadWord(b, at)) at += kWord;
+  while (at < both && a[at] == b[at]) ++at;
+  return at;
+}
+
+std::size_t EndOfDifferent(std::string_view a, std::string_view b, std::size_t at) {
+  constexpr std::uint64_t kOnes = 0x0101010101010101;
+  constexpr std::uint64_t kTops = 0x8080808080808080;
+  const std::size_t both = std::min(a.size(), b.size());
+  for (; at + kWord <= both; at += kWord) {
+    const std::uint64_t difference = LoadWord(a, at) ^ LoadWord(b, at);
+    const bool has_equal_byte = ((difference - kOnes) & ~difference & kTops) != 0;
+    if (has_equal_byte) break;
+  }
+  while (at < both && a[at] != b[at]) ++at;
+  return at;
+}
+
+// Returns the number of bytes from `at` on that equal the byte at `at`. All bytes of a range are
+// equal if the range equals itself moved by one byte.
+std::size_t FillLength(std::string_view bytes, std::size_t at) {
+  return EndOfEqual(bytes, bytes.substr(1), at) + 1 - at;
 }
 
 // Codes bytes that do not change, or that only the longer side has.
@@ -38,8 +63,7 @@ void AppendBytes(std::string& to, std::string_view bytes, PlaceCode plain, Place
     to += bytes.substr(literal, end - literal);
   };
   for (std::size_t at = 0; at < bytes.size();) {
-    // Bytes of which each differs from the next are no fill.
-    while (at + 1 < bytes.size() && bytes[at] != bytes[at + 1]) ++at;
+    at = EndOfDifferent(bytes, bytes.substr(1), at);
     const std::size_t fill = FillLength(bytes, at);
     if (fill >= kShortestFill) {
       flush(at);
@@ -75,22 +99,6 @@ void AppendPair(std::string& to, std::string_view old_bytes, std::string_view ne
   flush(old_bytes.size());
 }
 
-// Both functions return the end of the range from `at` on in which all bytes of `a` and `b` are
-// equal, or all are different.
-std::size_t EndOfEqual(std::string_view a, std::string_view b, std::size_t at) {
-  constexpr std::size_t kWord = sizeof(std::uint64_t);
-  while (at + kWord <= a.size() && std::memcmp(a.data() + at, b.data() + at, kWord) == 0) {
-    at += kWord;
-  }
-  while (at < a.size() && a[at] == b[at]) ++at;
-  return at;
-}
-
-std::size_t EndOfDifferent(std::string_view a, std::string_view b, std::size_t at) {
-  while (at < a.size() && a[at] != b[at]) ++at;
-  return at;
-}
-
 }  // namespace
 
 void AppendNumber(std::string& to, std::uint64_t number) {
@@ -122,6 +130,12 @@ bool AppendPlace(std::string& to, std::string_view old_bytes, std::string_view n
 }
 
 std::uint64_t CodeReader::Number() {
+  const bool is_short = !rest_.empty() && static_cast<unsigned char>(rest_.front()) < 0x80;
+  if (is_short) {
+    const auto byte = static_cast<unsigned char>(rest_.front());
+    rest_.remove_prefix(1);
+    return byte;
+  }
   std::uint64_t number = 0;
   for (int shift = 0; shift < 64; shift += 7) {
     if (rest_.empty()) break;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/platform.h"
 
@@ -25,9 +25,10 @@ class PlaceReader {
   void Fill(std::size_t size);
 
   PlatformFile& file_;
-  std::string window_;  // a buffer, of which the first `held_` bytes were read
-  std::int64_t at_ = 0;
-  std::size_t held_ = 0;
+  std::vector<char> buffer_;
+  std::int64_t at_ = 0;    // start of the bytes in the buffer
+  std::size_t asked_ = 0;  // bytes that were requested by the last call of the platform
+  std::size_t held_ = 0;   // bytes that this call has read
   std::int64_t last_end_ = 0;
   std::size_t ahead_ = 0;  // bytes to read with one call; 0 if the last place was not close
 };

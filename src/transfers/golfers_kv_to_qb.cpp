@@ -1,7 +1,7 @@
 #include "transfers/golfers_kv_to_qb.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "core/take_records.h"
@@ -19,11 +19,11 @@ class QuenbyGolfers {
  public:
   QuenbyGolfers(TournamentPlayers& player, std::int32_t length) : places(length) {
     unread_ = TakeRecords(kFirstGolferRecord, length, [&](std::int32_t record) {
-      player.GetRecord(record, false);
-      places.Note(record, player.StoredID());
-      const auto first = first_.emplace(std::max(player.StoredID(), 0), record).first;
-      first->second = std::min(first->second, record);
+      const std::int32_t id = player.StoredIDOf(record);
+      places.Note(record, id);
+      records_.push_back({std::max(id, 0), record});
     });
+    std::sort(records_.begin(), records_.end());
   }
 
   // Raises a ReadError if some record could not be read. That record may contain a golfer who was
@@ -36,14 +36,14 @@ class QuenbyGolfers {
   }
   // Returns the first record with this ID, or 0 if there is none.
   std::int32_t Find(std::int32_t id) const {
-    const auto found = first_.find(id);
-    return found == first_.end() ? 0 : found->second;
+    const auto found = std::lower_bound(records_.begin(), records_.end(), std::pair(id, 0));
+    return found == records_.end() || found->first != id ? 0 : found->second;
   }
 
   FreeGolferPlaces places;
 
  private:
-  std::unordered_map<std::int32_t, std::int32_t> first_;
+  std::vector<std::pair<std::int32_t, std::int32_t>> records_;  // IDs and records, sorted
   std::vector<std::int32_t> unread_;
 };
 

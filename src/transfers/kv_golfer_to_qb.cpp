@@ -19,16 +19,16 @@ bool HasNoIndex(const KelvaneBuffers& from) {
 // Returns true if Kelvane shows a blank or "*" as the handicap, which means that the golfer has too
 // few scores.
 bool HasNoHandicap(const KelvaneBuffers& from) {
-  return CompareIgnoringCase(Trim(from.golfer.Get<"HandicapText">()), "*") <= 0;
+  return CompareIgnoringCase(Trim(from.golfer.View<"HandicapText">()), "*") <= 0;
 }
 
 constexpr CopyStep kAlways[] = {
     [](Player& to, KelvaneBuffers& from) { to.SetIDNum(from.golfer.Get<"IDNum">()); },
-    [](Player& to, KelvaneBuffers& from) { to.SetNameFirst(from.golfer.Get<"NameFirst">()); },
-    [](Player& to, KelvaneBuffers& from) { to.SetNameLast(from.golfer.Get<"NameLast">()); },
-    [](Player& to, KelvaneBuffers& from) { to.SetEmail(from.golfer.Get<"Email">()); },
-    [](Player& to, KelvaneBuffers& from) { to.SetPhoneHome(from.golfer.Get<"PhoneHome">()); },
-    [](Player& to, KelvaneBuffers& from) { to.SetPhoneWork(from.golfer.Get<"PhoneWork">()); },
+    [](Player& to, KelvaneBuffers& from) { to.SetNameFirst(from.golfer.View<"NameFirst">()); },
+    [](Player& to, KelvaneBuffers& from) { to.SetNameLast(from.golfer.View<"NameLast">()); },
+    [](Player& to, KelvaneBuffers& from) { to.SetEmail(from.golfer.View<"Email">()); },
+    [](Player& to, KelvaneBuffers& from) { to.SetPhoneHome(from.golfer.View<"PhoneHome">()); },
+    [](Player& to, KelvaneBuffers& from) { to.SetPhoneWork(from.golfer.View<"PhoneWork">()); },
     [](Player& to, KelvaneBuffers& from) { to.Setsex(from.golfer.Get<"Sex">() == 1 ? "F" : "M"); },
     [](Player& to, KelvaneBuffers& from) { to.SetIndex(from.golfer.Get<"Index">()); },
     [](Player& to, KelvaneBuffers& from) { to.SetHandicap(from.golfer.Get<"Handicap">()); },
@@ -36,7 +36,7 @@ constexpr CopyStep kAlways[] = {
       if (HasNoIndex(from)) to.SetIndex(from.golfer.Get<"Handicap">());
     },
     [](Player&, KelvaneBuffers& from) {
-      from.golfer.Set<"HandicapText">(Trim(from.golfer.Get<"HandicapText">()));
+      from.golfer.Set<"HandicapText">(Trim(from.golfer.View<"HandicapText">()));
     },
     [](Player& to, KelvaneBuffers& from) {
       if (HasNoHandicap(from)) to.SetIndex(0);
@@ -48,24 +48,24 @@ constexpr CopyStep kAlways[] = {
 
 constexpr CopyStep kAddresses[] = {
     [](Player& to, KelvaneBuffers& from) {
-      to.SetAddressHomeLine(1, from.golfer.Get<"AddressHomeLine">(1));
+      to.SetAddressHomeLine(1, from.golfer.View<"AddressHomeLine">(1));
     },
     [](Player& to, KelvaneBuffers& from) {
-      to.SetAddressHomeLine(2, from.golfer.Get<"AddressHomeLine">(2));
+      to.SetAddressHomeLine(2, from.golfer.View<"AddressHomeLine">(2));
     },
     [](Player& to, KelvaneBuffers& from) {
-      to.SetAddressHomeLine(3, from.golfer.Get<"AddressHomeLine">(3));
+      to.SetAddressHomeLine(3, from.golfer.View<"AddressHomeLine">(3));
     },
     [](Player& to, KelvaneBuffers& from) {
-      to.SetAddressWorkLine(1, from.golfer.Get<"AddressWorkLine">(1));
+      to.SetAddressWorkLine(1, from.golfer.View<"AddressWorkLine">(1));
     },
     [](Player& to, KelvaneBuffers& from) {
-      to.SetAddressWorkLine(2, from.golfer.Get<"AddressWorkLine">(2));
+      to.SetAddressWorkLine(2, from.golfer.View<"AddressWorkLine">(2));
     },
     [](Player& to, KelvaneBuffers& from) {
-      to.SetAddressWorkLine(3, from.golfer.Get<"AddressWorkLine">(3));
+      to.SetAddressWorkLine(3, from.golfer.View<"AddressWorkLine">(3));
     },
-    [](Player& to, KelvaneBuffers& from) { to.SetPhoneFax(from.golfer.Get<"PhoneFax">()); },
+    [](Player& to, KelvaneBuffers& from) { to.SetPhoneFax(from.golfer.View<"PhoneFax">()); },
 };
 
 template <int kNumber>
@@ -75,7 +75,7 @@ void CopyMiscDate(Player& to, KelvaneBuffers& from) {
 
 template <int kNumber, FieldName kField>
 void CopyMiscText(Player& to, KelvaneBuffers& from) {
-  to.SetMiscText(kNumber, from.golfer.Get<kField>());
+  to.SetMiscText(kNumber, from.golfer.View<kField>());
 }
 
 template <int kNumber>
@@ -91,7 +91,7 @@ constexpr CopyStep kOptional[] = {
       double group = from.golfer.Get<"GroupNumber">();
       to.SetGroupTee(group);
     },
-    [](Player& to, KelvaneBuffers& from) { to.SetGroupText(from.golfer.Get<"GroupText">()); },
+    [](Player& to, KelvaneBuffers& from) { to.SetGroupText(from.golfer.View<"GroupText">()); },
     CopyMiscDate<1>,
     CopyMiscDate<2>,
     CopyMiscText<1, "MiscText1">,

@@ -237,6 +237,12 @@ class MemoryPlatform::File : public PlatformFile {
     return at < node_->bytes.size() ? node_->bytes.copy(into.data(), into.size(), at) : 0;
   }
 
+  // The hash of the bytes serves as the time of the last change.
+  std::optional<FileStamp> Stamp() override {
+    return FileStamp{static_cast<std::int64_t>(node_->bytes.size()),
+                     static_cast<std::int64_t>(std::hash<std::string>()(node_->bytes))};
+  }
+
   void WriteAt(ChangePass, std::int64_t offset, std::string_view bytes,
                std::size_t& written) override {
     written = 0;

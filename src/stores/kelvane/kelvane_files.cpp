@@ -106,11 +106,12 @@ void BuildBlankKVHeader(SharedState& state, std::uint8_t holes) {
 }
 
 std::string KVGolferName(const Record<KelvaneGolferLayout>& golfer) {
-  return GolferTitle(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">(), golfer.Get<"IDNum">());
+  return GolferTitle(golfer.View<"NameFirst">(), golfer.View<"NameLast">(), golfer.Get<"IDNum">());
 }
 
 std::string KVGolferNameLF(const Record<KelvaneGolferLayout>& golfer) {
-  return GolferTitleLF(golfer.Get<"NameFirst">(), golfer.Get<"NameLast">(), golfer.Get<"IDNum">());
+  return GolferTitleLF(golfer.View<"NameFirst">(), golfer.View<"NameLast">(),
+                       golfer.Get<"IDNum">());
 }
 
 std::string ReadKVGolferNameLF(SharedState& state, std::int64_t place) {

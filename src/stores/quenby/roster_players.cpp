@@ -76,8 +76,13 @@ void RosterPlayers::WritePlayer() {
 std::string RosterPlayers::RecordNumber() const { return FormatNumber(held_, "000"); }
 
 void RosterPlayers::BlankPlayerRecord() {
-  for (const Field& field : PlayerLayout::kFields) FillField(field, player_.MutableBytes(), 0);
-  player_.Set<"Flight">("A");
+  static const Record<PlayerLayout> kBlank = [] {
+    Record<PlayerLayout> blank;
+    for (const Field& field : PlayerLayout::kFields) FillField(field, blank.MutableBytes(), 0);
+    blank.Set<"Flight">("A");
+    return blank;
+  }();
+  player_ = kBlank;
   player_.Fill<"MiscDate">(state_.Now());
   player_.Fill<"DueDate">(state_.Now());
 }
@@ -98,6 +103,13 @@ void RosterPlayers::SetPrintPlayer(std::string_view value) {
 
 std::string RosterPlayers::IDNum() const {
   return FormatNumber(int{player_.Get<"IDNum">()}, "0;;");
+}
+
+std::int32_t RosterPlayers::StoredIDOf(std::int32_t record) const {
+  constexpr Field kId = FieldOf<PlayerLayout, "IDNum">();
+  std::array<char, kId.offset + sizeof(std::int32_t)> start;
+  state_.files.ReadBytes(file_, record, start);
+  return LoadLittleEndian<std::int32_t>(start.data() + kId.offset);
 }
 
 void RosterPlayers::SetIDNum(double value) { player_.Set<"IDNum">(RoundToInt32(value)); }

@@ -54,6 +54,8 @@ class RosterPlayers {
   std::string IDNum() const;
   void SetIDNum(double value);
   std::int32_t StoredID() const { return player_.Get<"IDNum">(); }
+  // Reads only the ID of a record. Does not change the player in the buffer.
+  std::int32_t StoredIDOf(std::int32_t record) const;
 
   // Return or set the roster numbers in slots 1 to 4. 0 means no roster. SetRosters clears the same
   // number in the other slots 1 to 3. Then it moves these three slots up, so that no empty slot
