@@ -2,17 +2,9 @@
 
 #include <ctime>
 
+#include "core/local_time.h"
+
 namespace golf {
-
-namespace {
-
-DateValue LocalMoment(std::time_t moment) {
-  const std::tm* local = std::localtime(&moment);
-  return DateFromCivil({local->tm_year + 1900, local->tm_mon + 1, local->tm_mday, local->tm_hour,
-                        local->tm_min, local->tm_sec});
-}
-
-}  // namespace
 
 std::function<DateValue()> ClockOf(const Options& options) {
   if (options.now) return [given = DateFromCivil(*options.now)] { return given; };

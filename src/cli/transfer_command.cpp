@@ -15,6 +15,7 @@
 #include "cli/progress_bar.h"
 #include "cli/transfer_log.h"
 #include "outlets/record_kinds.h"
+#include "screens/menu/second_copy.h"
 
 namespace golf {
 namespace {
@@ -189,6 +190,15 @@ ExitCode Transfer(const Options& options, const TransferCommand& command, Applic
   return code;
 }
 
+// Raises Refusal if Windows keeps copies of the data and no folder was named.
+void RequireOnePlace(const Options& options, SharedState& state) {
+  if (options.install) return;
+  const std::string text = SecondCopyText(state);
+  if (text.empty()) return;
+  throw Refusal("There are two copies of this data. Name the right folder with --install.\n" +
+                PlainText(text));
+}
+
 }  // namespace
 
 ExitCode RunTransferCommand(const Options& options, const TransferCommand& command) {
@@ -196,6 +206,7 @@ ExitCode RunTransferCommand(const Options& options, const TransferCommand& comma
   std::unique_ptr<Application> application;
   try {
     application = StartApplication(options);
+    RequireOnePlace(options, application->state());
     return Transfer(options, command, *application, log);
   } catch (const NumberedError& error) {
     log.Add(PlainText(error.description()));

@@ -54,7 +54,7 @@ struct FileIdentity {
 // that the file has not changed in between.
 struct FileStamp {
   std::int64_t length = -1;  // in bytes; -1: there is no such file
-  std::int64_t changed = 0;  // in units of the system
+  std::int64_t changed = 0;  // in nanoseconds since the beginning of 1970, UTC
   bool operator==(const FileStamp&) const = default;
 };
 
@@ -141,6 +141,10 @@ class Platform {
   virtual std::string ProgramFolder() const = 0;
   // Returns the same folder in UTF-8, with the characters that the code page lacks.
   virtual std::string Utf8ProgramFolder() const = 0;
+  // Returns the folder in which the system keeps this user's copies of files of the install, in
+  // UTF-8. It ends in a separator. Windows keeps such copies for old programs if the user must not
+  // write into the folder. Returns an empty text if there is no such folder.
+  virtual std::string RedirectedFolder() const { return {}; }
   virtual char Separator() const = 0;
   virtual RegionalForms Regional() const = 0;
 };

@@ -46,6 +46,7 @@ class PlatformOver : public Platform {
   }
   std::string ProgramFolder() const override { return real_.ProgramFolder(); }
   std::string Utf8ProgramFolder() const override { return real_.Utf8ProgramFolder(); }
+  std::string RedirectedFolder() const override { return real_.RedirectedFolder(); }
   char Separator() const override { return real_.Separator(); }
   RegionalForms Regional() const override { return real_.Regional(); }
 

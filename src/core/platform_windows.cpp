@@ -350,8 +350,11 @@ class WindowsPlatform : public Platform {
     const auto joined = [](DWORD high, DWORD low) {
       return static_cast<std::int64_t>(std::uint64_t{high} << 32 | low);
     };
+    // A FILETIME counts 100 nanoseconds since the beginning of 1601.
+    constexpr std::int64_t kBefore1970 = 116'444'736'000'000'000;
+    const FILETIME& time = data.ftLastWriteTime;
     return {joined(data.nFileSizeHigh, data.nFileSizeLow),
-            joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime)};
+            (joined(time.dwHighDateTime, time.dwLowDateTime) - kBefore1970) * 100};
   }
 
   void CreateFolder(ChangePass, const std::string& path) override {
@@ -466,6 +469,19 @@ class WindowsPlatform : public Platform {
 
   std::string ProgramFolder() const override { return root_; }
   std::string Utf8ProgramFolder() const override { return Utf8FromWide(native_root_); }
+
+  // Windows keeps the copies below the user's folder for local data, under the path of the install
+  // without its drive.
+  std::string RedirectedFolder() const override {
+    const bool is_on_drive = native_root_.size() > 3 && native_root_[1] == L':';
+    const wchar_t* const local = _wgetenv(L"LOCALAPPDATA");
+    if (!is_on_drive || local == nullptr) return {};
+    const std::wstring copies = local + std::wstring(L"\\VirtualStore") + native_root_.substr(2);
+    const DWORD attributes = GetFileAttributesW(copies.c_str());
+    const bool is_folder =
+        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return is_folder ? Utf8FromWide(copies) : std::string();
+  }
   char Separator() const override { return '\\'; }
 
   RegionalForms Regional() const override {

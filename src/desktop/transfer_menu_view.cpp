@@ -49,7 +49,14 @@ class MenuFiller {
   wxSizer* Content() {
     auto* content = new wxBoxSizer(wxVERTICAL);
     const auto below = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel_));
-    content->Add(Notice(), wxSizerFlags().Expand().Border(wxBOTTOM, GroupGap(panel_)));
+    FolderChoice& folder = screen_.folder;
+    SecondCopy& copy = screen_.copy;
+    for (wxPanel* notice : {Notice(folder.NoticeFrame, folder.NoticeLabel, folder.ReasonLabel,
+                                   folder.ChooseFolderButton, folder.DemonstrationButton),
+                            Notice(copy.PlacesFrame, copy.PlacesLabel, copy.PlacesText,
+                                   copy.UseFolderButton, copy.UseCopiesButton)}) {
+      content->Add(notice, wxSizerFlags().Expand().Border(wxBOTTOM, GroupGap(panel_)));
+    }
     auto* middle = new wxBoxSizer(wxHORIZONTAL);
     middle->Add(FilledTab(), wxSizerFlags(1).Expand());
     middle->Add(Steps(), wxSizerFlags().Expand().Border(wxLEFT, GroupGap(panel_)));
@@ -62,22 +69,20 @@ class MenuFiller {
   }
 
  private:
-  // Lays out the notice that there is no golf data.
-  wxPanel* Notice() {
-    FolderChoice& folder = screen_.folder;
-    wxPanel* notice = MakeFrame(panel_.binding(), &panel_, folder.NoticeFrame);
+  // Lays out a notice above the buttons of the transfers.
+  wxPanel* Notice(Frame& frame, Label& heading, Label& text, Button& first, Button& second) {
+    wxPanel* notice = MakeFrame(panel_.binding(), &panel_, frame);
     const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel_));
-    wxStaticText* heading = MakeLabel(panel_.binding(), notice, folder.NoticeLabel);
-    MakeBold(*heading);
+    wxStaticText* title = MakeLabel(panel_.binding(), notice, heading);
+    MakeBold(*title);
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-    buttons->Add(NewButton(notice, folder.ChooseFolderButton));
-    buttons->Add(NewButton(notice, folder.DemonstrationButton),
-                 wxSizerFlags().Border(wxLEFT, CloseGap(panel_)));
+    buttons->Add(NewButton(notice, first));
+    buttons->Add(NewButton(notice, second), wxSizerFlags().Border(wxLEFT, CloseGap(panel_)));
     auto* column = new wxBoxSizer(wxVERTICAL);
-    column->Add(heading);
-    column->Add(MakeWrappedLabel(panel_.binding(), notice, folder.ReasonLabel,
-                                 LineWidth(panel_, kNoticeCharacters)),
-                below);
+    column->Add(title);
+    column->Add(
+        MakeWrappedLabel(panel_.binding(), notice, text, LineWidth(panel_, kNoticeCharacters)),
+        below);
     column->Add(buttons, below);
     notice->SetSizer(column);
     return notice;

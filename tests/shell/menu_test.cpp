@@ -35,6 +35,39 @@ Events OnMenu(TestInstall& install, const Use& use) {
   return {events.begin() + 1, events.end() - 1};
 }
 
+TEST(SecondCopyTest, TransfersWaitForTheChoice) {
+  TempFolder copies;
+  TestInstall install(false);
+  TestProfile user(copies.Path());
+  install.host->user = &user;
+  install.folder.Write("kvdata/CLUB.kv5", "x");
+  install.folder.Write("qbdata/QBROSTER.Q9D", "x");
+  const std::string title = "message [Notice] There are two copies of this data. ";
+  const auto press = [&](const char* button) {
+    return OnMenu(install, [&](TransferMenu& menu) {
+      if (std::string(button) != "KVtoQBButton") {
+        ASSERT_TRUE(menu.copy.PlacesFrame.visible());
+        EXPECT_NE(menu.copy.PlacesText.caption().find("\r2 files, the newest of "),
+                  std::string::npos);
+        EXPECT_NE(menu.copy.PlacesText.caption().find("\r1 file of "), std::string::npos);
+      }
+      install.host->Press(menu, button);
+    });
+  };
+  const auto waits = [&] {
+    press("KVtoQBButton");
+    return ToldBeginning(install, title);
+  };
+  install.platform->redirected_folder = copies.Path();
+  EXPECT_FALSE(waits());  // the folder with the copies is empty
+  copies.Write("qbdata/QBROSTER.Q9D", "y");
+  EXPECT_TRUE(waits());
+  EXPECT_EQ(press("UseCopiesButton"), Events{"install " + copies.Path()});
+  EXPECT_TRUE(waits());
+  press("UseFolderButton");
+  EXPECT_FALSE(waits());
+}
+
 TEST(FolderChoiceTest, OpensFoldersWithGolfDataOnly) {
   TempFolder there;
   there.Write("club/kvdata/CLUB.kv5", "x");

@@ -64,6 +64,9 @@ class FailingPlatform : public PlatformOver {
 
   void Fail(Fault fault);
   void Heal() { fault_.reset(); }
+  // A folder with copies of the install's files, as Windows keeps them.
+  std::string redirected_folder;
+  std::string RedirectedFolder() const override { return redirected_folder; }
   // True if the fault asked for has come.
   bool Failed() const { return failed_; }
 

@@ -135,6 +135,10 @@ void FolderChoice::Refresh() {
   if (user != nullptr && content.kind == FolderContent::kGolfData) NoteRecentFolder(*user, folder);
 }
 
+bool FolderChoice::HasData() {
+  return ContentOf(context_.state.files.platform()).kind == FolderContent::kGolfData;
+}
+
 void FolderChoice::Open(const std::string& utf8_folder) {
   const std::string folder = InstallOf(utf8_folder);
   const std::string refusal = RefusalText(ContentOf(folder), TextFromUtf8(folder));

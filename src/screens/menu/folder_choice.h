@@ -20,6 +20,8 @@ class FolderChoice {
 
   // Shows the folder and the notice. Notes a folder with golf data as a recent folder.
   void Refresh();
+  // True if the folder contains golf data that can be read.
+  bool HasData();
 
   // Opens the install in another folder. Shows a message instead if the folder does not exist,
   // cannot be read or contains no golf data. A folder such as kvdata means the folder above it.

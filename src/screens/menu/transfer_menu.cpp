@@ -40,6 +40,11 @@ constexpr TransferEntry kTransfers[] = {
     {&TransferMenu::ZDtoKVButton, "ZDtoKV", &kZandel, &kKelvane},
 };
 
+bool IsTransfer(std::string_view screen_name) {
+  return std::any_of(std::begin(kTransfers), std::end(kTransfers),
+                     [&](const TransferEntry& transfer) { return transfer.screen == screen_name; });
+}
+
 bool CheckProgram(SharedState& state, ScreenHost& host, const Sibling& sibling) {
   if (state.files.platform().FolderExists(state.*sibling.folder)) return true;
   host.Ask(Box{.title = "Notice",
@@ -65,6 +70,12 @@ void ShowTransfer(ScreenHost& host, std::string_view screen_name, std::string_vi
 
 void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_name,
                   std::string_view tag) {
+  if (IsTransfer(screen_name) && IsPlaceToBeChosen(state, host)) {
+    host.Ask(Box{.title = "Notice",
+                 .text = "There are two copies of this data. Choose one of them in the menu first.",
+                 .icon = BoxIcon::kInformation});
+    return;
+  }
   RecoverInterruptedRun(state, host);
   bool installed = true;
   for (const TransferEntry& transfer : kTransfers) {
@@ -78,7 +89,10 @@ void OpenTransfer(SharedState& state, ScreenHost& host, std::string_view screen_
 }
 
 TransferMenu::TransferMenu(const ScreenContext& context, MakeDemonstration make_demonstration)
-    : Screen(kName, context), folder(context, std::move(make_demonstration)), steps(context) {
+    : Screen(kName, context),
+      folder(context, std::move(make_demonstration)),
+      steps(context),
+      copy(context) {
   SetCaption("Transfer Menu");
   Add({&SSTab1, &Label1[0], &Label1[1], &Label1[2]});
   for (Label& label : Label1) SSTab1.Hold(label, 0);
@@ -86,7 +100,10 @@ TransferMenu::TransferMenu(const ScreenContext& context, MakeDemonstration make_
     Button& button = this->*transfer.button;
     Add({&button});
     SSTab1.Hold(button, 0);
-    button.on_click = [this, &transfer] { OpenTransfer(state(), host(), transfer.screen); };
+    button.on_click = [this, &transfer] {
+      OpenTransfer(state(), host(), transfer.screen);
+      if (!folder.HasData()) folder.Refresh();  // the folder may have gone meanwhile
+    };
   }
   Add({&PriorTransfer, &ExitButton});
   Add({&folder.NoticeFrame, &folder.NoticeLabel, &folder.ReasonLabel, &folder.ChooseFolderButton,
@@ -95,6 +112,8 @@ TransferMenu::TransferMenu(const ScreenContext& context, MakeDemonstration make_
   Add({&steps.StepsFrame, &steps.StepsLabel});
   for (Label& step : steps.StepLabel) Add({&step});
   Add({&steps.UndoLabel, &steps.CloseStepsButton});
+  Add({&copy.PlacesFrame, &copy.PlacesLabel, &copy.PlacesText, &copy.UseFolderButton,
+       &copy.UseCopiesButton});
   ExitButton.SetCancel(true);
   PriorTransfer.on_click = [this] { StartPriorTransfer(); };
   ExitButton.on_click = [this] { Exit(); };
@@ -103,6 +122,7 @@ TransferMenu::TransferMenu(const ScreenContext& context, MakeDemonstration make_
 void TransferMenu::OnActivate() {
   folder.Refresh();
   steps.ShowUntilClosed();
+  copy.Refresh();
 }
 
 void TransferMenu::StartPriorTransfer() {

@@ -7,6 +7,7 @@
 #include "forms/screen_host.h"
 #include "screens/menu/first_steps.h"
 #include "screens/menu/folder_choice.h"
+#include "screens/menu/second_copy.h"
 
 namespace golf {
 
@@ -37,6 +38,7 @@ class TransferMenu : public Screen {
   Button ExitButton{"ExitButton", "Close"};
   FolderChoice folder;
   FirstSteps steps;
+  SecondCopy copy;
 
  private:
   void StartPriorTransfer();
