@@ -166,6 +166,7 @@ DesktopHost::DesktopHost(SharedState& state, const ScreenCatalogue& screens, Vie
 
 DesktopHost::~DesktopHost() {
   for (; !windows_.empty(); windows_.pop_back()) {
+    KeepSizeOf(windows_.back());
     windows_.back().panel->Detach();
     delete &windows_.back().panel->window();
   }
@@ -180,6 +181,12 @@ std::vector<DesktopHost::Window>::iterator DesktopHost::Find(const Screen& scree
                       [&](const Window& window) { return window.screen == &screen; });
 }
 
+void DesktopHost::KeepSizeOf(const Window& window) {
+  const std::string& name = window.screen->name();
+  if (!views_.find(name)->second.grows) return;
+  KeepSize(window.panel->window(), name, window.panel->noted_size());
+}
+
 void DesktopHost::Open(Screen& screen) {
   if (in_run()) ForgetTypedInput();
   const View& view = views_.find(screen.name())->second;
@@ -189,6 +196,7 @@ void DesktopHost::Open(Screen& screen) {
   view.fill(*panel, screen);
   if (view.grows) RestoreSize(*window, screen.name(), MostClientSize(*window));
   panel->NoteSize();
+  if (view.kind == WindowKind::kMain && menu_position) window->Move(*menu_position);
   if (view.kind == WindowKind::kDialog) window->CentreOnParent();
   if (view.kind == WindowKind::kDialogOverOpener && TopWindow() != nullptr) {
     MoveOntoDisplay(*window, TopWindow()->GetPosition());
@@ -213,9 +221,7 @@ void DesktopHost::RunModal(Screen& screen) {
 void DesktopHost::Close(Screen& screen) {
   const auto window = Find(screen);
   ScreenPanel& panel = *window->panel;
-  if (views_.find(screen.name())->second.grows) {
-    KeepSize(panel.window(), screen.name(), panel.noted_size());
-  }
+  KeepSizeOf(*window);
   windows_.erase(window);
   panel.Detach();
   auto* dialog = dynamic_cast<wxDialog*>(&panel.window());

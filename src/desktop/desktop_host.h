@@ -27,6 +27,11 @@ class DesktopHost : public HostBase {
   std::function<DateValue()> clock;
   // Opens the install in a folder, in UTF-8. May destroy this host.
   std::function<void(const std::string& utf8_folder)> on_open_install;
+  // The place where the menu opens, if it is set.
+  std::optional<wxPoint> menu_position;
+
+  // Returns the window in front, or null if there is none.
+  wxTopLevelWindow* TopWindow() const;
 
   void Beep() override;
   void SetPointer(Pointer pointer) override;
@@ -78,7 +83,7 @@ class DesktopHost : public HostBase {
 
   bool IsRepeated(const Box& box);
   BoxButton AskRepeated(const Box& box);
-  wxTopLevelWindow* TopWindow() const;
+  void KeepSizeOf(const Window& window);
   std::vector<Window>::iterator Find(const Screen& screen);
   bool PaintIsDue() const;
   void SetInRun(bool in_run);

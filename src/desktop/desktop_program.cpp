@@ -20,6 +20,7 @@ void DesktopProgram::Open(const std::string& utf8_folder, const std::string& wor
   auto application = std::make_unique<Application>(MakePlatform(utf8_folder));
   auto host = std::make_unique<DesktopHost>(application->state(), Application::Screens(), Views());
   host->user = &user_;
+  if (host_ != nullptr) host->menu_position = host_->TopWindow()->GetPosition();
   host->on_open_install = [this](const std::string& folder) {
     try {
       Open(folder, "");

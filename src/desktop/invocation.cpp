@@ -54,7 +54,14 @@ Invocation ParseInvocation(wxCmdLineParser& parser) {
   if (parser.Found("install") && folder.empty()) {
     invocation.complaint = "--install names no folder.\n" + usage;
   }
-  if (parser.GetParamCount() > 0) invocation.word = TextFromWx(parser.GetParam(0));
+  if (parser.GetParamCount() == 0) return invocation;
+  const wxString first = parser.GetParam(0);
+  const bool is_folder = first.find_first_of("/\\") != wxString::npos && wxDirExists(first);
+  if (is_folder && invocation.install.empty()) {
+    invocation.install = first.utf8_string();
+  } else {
+    invocation.word = TextFromWx(first);
+  }
   return invocation;
 }
 

@@ -11,11 +11,20 @@ namespace {
 constexpr int kRowsSeen = 10;
 constexpr int kListCharacters = 70;
 
+// The buttons that only a roster has keep their places, so that no other button moves under the
+// pointer.
 wxSizer* ListButtons(ScreenPanel& panel, LoadRosters& screen) {
   const auto button = [&](Button& control) { return MakeButton(panel.binding(), &panel, control); };
-  return Column({button(screen.LoadButton), button(screen.NewButton), button(screen.EditButton),
-                 button(screen.DeleteButton), button(screen.RepairButton), button(screen.Help),
-                 button(screen.CancelButton)});
+  wxButton* const edit = button(screen.EditButton);
+  wxButton* const remove = button(screen.DeleteButton);
+  wxSizer* column =
+      Column({button(screen.LoadButton), button(screen.NewButton), edit, remove,
+              button(screen.RepairButton), button(screen.Help), button(screen.CancelButton)});
+  for (wxButton* kept : {edit, remove}) {
+    wxSizerItem* const item = column->GetItem(kept);
+    if (screen.CanChange()) item->SetFlag(item->GetFlag() | wxRESERVE_SPACE_EVEN_IF_HIDDEN);
+  }
+  return column;
 }
 
 // Lays out the fields of a roster, each with its name before it.

@@ -65,9 +65,10 @@ void AddMainMenu(wxFrame& window, SharedState& state, HostBase& host) {
   bar->Append(history, "&History");
   bar->Append(new ListedMenu(HelpEntries, state, host), "H&elp");
   window.SetMenuBar(bar);
-  // Some toolkits calculate the width of a menu before they report that it opens.
-  window.Bind(wxEVT_ACTIVATE, [history](wxActivateEvent& event) {
-    if (event.GetActive()) history->Fill();
+  // Some toolkits calculate the width of a menu before they report that it opens. A window can
+  // become active while a run ends.
+  window.Bind(wxEVT_ACTIVATE, [history, &window](wxActivateEvent& event) {
+    if (event.GetActive()) window.CallAfter([history] { history->Fill(); });
     event.Skip();
   });
   window.Bind(wxEVT_MENU_OPEN, [](wxMenuEvent& event) {

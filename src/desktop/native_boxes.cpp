@@ -90,11 +90,17 @@ BoxButton ButtonOf(const Box& box, int answer) {
   return box.buttons.back();
 }
 
+// Escape means No in a box that has no Cancel. The toolkit would take it for the first button.
+void SetEscape(wxDialog& dialog, const Box& box) {
+  if (Has(box, BoxButton::kNo) && !Has(box, BoxButton::kCancel)) dialog.SetEscapeId(wxID_NO);
+}
+
 }  // namespace
 
 BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
   MessageDialog dialog(parent, WxText(box.text), WxText(box.title), StyleOf(box));
   if (Has(box, BoxButton::kRetry)) dialog.SetOKLabel("&Retry");
+  SetEscape(dialog, box);
   return ButtonOf(box, dialog.ShowModal());
 }
 
@@ -104,6 +110,7 @@ RepeatedAnswer ShowRepeatedDialog(wxWindow* parent, const Box& box) {
   wxRichMessageDialog dialog(parent, WxText(box.text), WxText(box.title),
                              (StyleOf(box) & ~wxICON_NONE) | wxHELP);
   dialog.SetHelpLabel("&Stop: nothing will have been changed");
+  SetEscape(dialog, box);
   dialog.ShowCheckBox("Same &answer for the rest of this run");
   const int answer = dialog.ShowModal();
   return {.button = ButtonOf(box, answer),

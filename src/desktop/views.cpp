@@ -39,7 +39,7 @@ void Fill(ScreenPanel& panel, Screen& screen) {
 
 ViewCatalogue Views() {
   return {
-      {"TransferMenu", {WindowKind::kMain, Fill<TransferMenu, FillTransferMenu>}},
+      {"TransferMenu", {WindowKind::kMain, Fill<TransferMenu, FillTransferMenu>, true}},
       {"About", {WindowKind::kDialog, Fill<About, FillAbout>, true}},
       {"TipBox", {WindowKind::kDialog, Fill<TipBox, FillTipBox>}},
       {"GridSort", {WindowKind::kDialog, Fill<GridSort, FillGridSort>}},

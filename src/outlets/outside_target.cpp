@@ -23,6 +23,7 @@ bool IsGolfFolder(const std::string& name) {
 
 std::string RefusalOfPlace(const NewTarget& target, bool is_file) {
   const std::string& path = target.path();
+  if (path.empty()) return "Choose where to write first.";
   if (target.name().empty()) return "\"" + path + "\" is no name of a new file or folder.";
   if (!target.HasFolder()) return "There is no folder " + target.folder() + ".";
   for (const std::string& folder : target.Folders()) {

@@ -468,6 +468,22 @@ TEST_F(DesktopTest, PreviewsATransferAndUndoesIt) {
   user.RunToExit();
 }
 
+TEST_F(DesktopTest, EscapeMeansNoAlsoIfTheDefaultIsYes) {
+  std::string answers;
+  for (const std::size_t chosen : {0u, 1u}) {
+    user.Do([&, chosen] {
+      const BoxButton answer = host.Ask(Box{.title = "Forget",
+                                            .text = "Sure?",
+                                            .buttons = {BoxButton::kYes, BoxButton::kNo},
+                                            .default_button = chosen});
+      answers += answer == BoxButton::kYes ? 'Y' : 'N';
+    });
+    user.Answer("Forget", "Sure?", WXK_ESCAPE);
+  }
+  user.RunToExit();
+  EXPECT_EQ(answers, "NN");
+}
+
 // A question that comes for the third time in a run offers the same answer for the rest of the run,
 // and a stop that drops the changes.
 TEST_F(DesktopTest, RepeatedQuestionsCanBeAnsweredAtOnceOrStopTheRun) {
@@ -517,7 +533,7 @@ TEST_F(DesktopTest, RepeatedQuestionsCanBeAnsweredAtOnceOrStopTheRun) {
         user.Await("the end of the run", [&] { return answers.ends_with("YY."); });
         user.Next([&] { EXPECT_TRUE(install.folder.Exists("kvdata/kvcrs.dat")); });
       } else {
-        user.Answer("Again?", "Golfer 3", 'N', wxMOD_ALT);
+        user.Answer("Again?", "Golfer 3", WXK_ESCAPE);
       }
     }
     user.Await("the end of the run", [&] { return answers.ends_with("YYNNN."); });
@@ -639,6 +655,8 @@ TEST(InvocationTest, TakesAFolderAndOneWord) {
       {L"", "", "", "", ""},
       {L"zd", "", "zd", "", ""},
       {L"/x", "", "/x", "", ""},
+      {L"..", "", "..", "", ""},
+      {L"../", "../", "", "", ""},
       {L"--install Gr\u00FCn/\u4E2D \u00E9", "Gr\xC3\xBCn/\xE4\xB8\xAD", "\xE9", "", ""},
       {L"QB \"--install=a b\"", "a b", "QB", "", ""},
       {L"--version", "", "", "Golf Transfer ", ""},

@@ -68,11 +68,15 @@ class RosterCheck {
   void Run() {
     golfers_.file = base_ + ".kvg";
     ReadHeader();
+    // A new roster has neither file. Opening it makes both.
+    FileTable& files = scan_.state().files;
+    const std::string path = scan_.state().KVDataPath + name_;
+    const bool was_opened = files.FileExists(path + ".kvg") || files.FileExists(path + ".kvs");
     const auto places = scan_.ForEach<KelvaneGolferLayout>(
-        golfers_.file, true,
+        golfers_.file, was_opened,
         [&](std::int64_t place, const auto& golfer) { AddGolfer(place, golfer); });
     const auto histories = scan_.ForEach<KelvaneHistoryLayout>(
-        base_ + ".kvs", true, [&](std::int64_t place, const auto& history) {
+        base_ + ".kvs", was_opened, [&](std::int64_t place, const auto& history) {
           if (places) CheckHistory(place, history);
         });
     const bool are_whole = !scan_.IsDamaged(golfers_.file) && !scan_.IsDamaged(base_ + ".kvs");

@@ -31,7 +31,7 @@ class ExportData : public Screen {
   TextBox TargetText{"TargetText"};
   Button ChooseButton{"ChooseButton", "C&hoose..."};
   CheckBox DeletedCheck{"DeletedCheck", "With &deleted records"};
-  CheckBox ReplaceCheck{"ReplaceCheck", "&Replace"};
+  CheckBox ReplaceCheck{"ReplaceCheck", "&Replace an existing file or folder"};
   Label MessageLabel{"MessageLabel"};
   Button ExportButton{"ExportButton", "&Export now"};
   Label SummaryLabel{"SummaryLabel"};

@@ -24,7 +24,8 @@ int HolesOf(SharedState& state, const std::string& file_name) {
   header = {};
   const ResumeNext anyway(nullptr);
   anyway([&] {
-    state.files.Open(kListedFile, state.KVDataPath + file_name, KelvaneHeaderLayout::kLength);
+    state.files.Open(kListedFile, state.KVDataPath + file_name, KelvaneHeaderLayout::kLength,
+                     FileAccess::kDefault);
     state.files.Read(kListedFile, 1, header);
   });
   state.files.Close(kListedFile);
@@ -70,6 +71,7 @@ void LoadRoster::OnActivate() {
 void LoadRoster::SetUse(RosterUse use) {
   use_ = use;
   if (!CanPick()) CancelButton.SetCaption("Close");
+  if (use == RosterUse::kManage) SetCaption("Rosters of Kelvane");
 }
 
 Button* LoadRoster::PanelLeaveButton() {

@@ -79,6 +79,7 @@ void LoadRosters::SetUse(RosterUse use) {
   NewButton.SetVisible(can_change);
   DeleteButton.SetEnabled(can_change);
   CancelButton.SetCaption(can_pick ? "Cancel" : "Close");
+  if (use == RosterUse::kManage) SetCaption("Rosters of Quenby");
 }
 
 Button* LoadRosters::PanelLeaveButton() {

@@ -27,6 +27,7 @@ class LoadRosters : public Screen {
   // Restricts what the operator can do until the screen is unloaded. It must be called before the
   // screen is shown.
   void SetUse(RosterUse use);
+  bool CanChange() const { return use_ != RosterUse::kView; }
   // True after the operator has picked a roster.
   bool picked() const { return picked_; }
 
