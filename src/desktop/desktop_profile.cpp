@@ -6,6 +6,8 @@
 #include <wx/stdpaths.h>
 #include <wx/utils.h>
 
+#include "desktop/shortcut.h"
+
 namespace golf {
 namespace {
 
@@ -63,6 +65,21 @@ std::string DesktopProfile::DataFolder() const {
   folder.AppendDir(kProgram);
   if (!folder.Mkdir(wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL)) return {};
   return folder.GetPathWithSep().utf8_string();
+}
+
+std::string DesktopProfile::ProgramFile() const {
+  return StandardPaths().GetExecutablePath().utf8_string();
+}
+
+std::string DesktopProfile::MakeShortcut(const std::string& folder) {
+  const wxLogNull quiet;
+  const wxString desktop = StandardPaths().GetUserDir(wxStandardPaths::Dir_Desktop);
+  wxFileName path(wxString::FromUTF8(folder), "");
+  const wxString install = path.GetDirCount() > 0 ? path.GetDirs().Last() : path.GetVolume();
+  const wxString name = "Golf Transfer (" + install + ")";
+  const Shortcut shortcut{name, StandardPaths().GetExecutablePath(), path.GetPath()};
+  if (!wxDirExists(desktop) || !WriteShortcut(desktop, shortcut)) return {};
+  return name.utf8_string();
 }
 
 }  // namespace golf

@@ -17,6 +17,8 @@ class DesktopProfile : public UserProfile {
   void KeepSetting(const std::string& name, const std::string& text) override;
   std::string SettingsFolder() const override;
   std::string DataFolder() const override;
+  std::string ProgramFile() const override;
+  std::string MakeShortcut(const std::string& folder) override;
 };
 
 }  // namespace golf

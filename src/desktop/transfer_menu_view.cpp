@@ -122,7 +122,7 @@ class MenuFiller {
     row->Add(MakeLabel(panel_.binding(), &panel_, folder.FolderLabel), middle);
     row->Add(MakePathLabel(panel_.binding(), &panel_, folder.FolderText, PathWidth(panel_)),
              wxSizerFlags(1).CentreVertical().Border(wxLEFT, CloseGap(panel_)));
-    for (Button* button : {&folder.ChangeButton, &folder.RecentButton}) {
+    for (Button* button : {&folder.ChangeButton, &folder.RecentButton, &folder.ShortcutButton}) {
       row->Add(NewButton(&panel_, *button), wxSizerFlags(middle).Border(wxLEFT, CloseGap(panel_)));
     }
     return row;

@@ -28,6 +28,15 @@ class UserProfile {
   // it if it does not exist. Returns an empty text if that is not possible.
   virtual std::string DataFolder() const { return {}; }
 
+  // Returns the path of the running program, or an empty text if no shortcut can be made.
+  virtual std::string ProgramFile() const { return {}; }
+  // Puts a shortcut on the user's desktop that starts the program with the install in a folder.
+  // Replaces a shortcut of the same name. Returns its name, or an empty text if it failed.
+  virtual std::string MakeShortcut(const std::string& folder) {
+    (void)folder;
+    return {};
+  }
+
  private:
   std::map<std::string, std::string> settings_;
 };

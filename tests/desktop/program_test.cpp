@@ -4,11 +4,19 @@
 #include <wx/dnd.h>
 #include <wx/filename.h>
 
+#ifdef _WIN32
+#include <shlobj.h>
+#include <wx/msw/wrapwin.h>
+#else
+#include <glib.h>
+#endif
+
 #include <string>
 
 #include "desktop/desktop_profile.h"
 #include "desktop/desktop_program.h"
 #include "desktop/operator.h"
+#include "desktop/shortcut.h"
 #include "desktop/wx_text.h"
 #include "support/error_of.h"
 #include "support/temp_folder.h"
@@ -16,6 +24,57 @@
 
 namespace golf {
 namespace {
+
+#ifdef _WIN32
+// Returns what the system reads from a shortcut: the program and its arguments.
+wxString ReadShortcut(const wxString& folder, const wxString& name) {
+  IShellLinkW* link = nullptr;
+  IPersistFile* file = nullptr;
+  EXPECT_EQ(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                             reinterpret_cast<void**>(&link)),
+            S_OK);
+  EXPECT_EQ(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file)), S_OK);
+  EXPECT_EQ(file->Load(wxFileName(folder, name, "lnk").GetFullPath().wc_str(), STGM_READ), S_OK);
+  wchar_t program[MAX_PATH] = {};
+  wchar_t arguments[MAX_PATH] = {};
+  link->GetPath(program, MAX_PATH, nullptr, 0);
+  link->GetArguments(arguments, MAX_PATH);
+  file->Release();
+  link->Release();
+  return wxString(program) + " " + arguments;
+}
+
+constexpr const char* kShortcutCases[][3] = {
+    {"C:\\club\\golf.exe", "C:\\Club \xC3\x84",
+     "C:\\club\\golf.exe --install \"C:\\Club \xC3\x84\""},
+    {"C:\\golf.exe", "D:\\", "C:\\golf.exe --install \"D:\\.\""}};
+#else
+wxString ReadShortcut(const wxString& folder, const wxString& name) {
+  const wxScopedCharBuffer path = wxFileName(folder, name, "desktop").GetFullPath().utf8_str();
+  GKeyFile* const file = g_key_file_new();
+  EXPECT_TRUE(g_key_file_load_from_file(file, path.data(), G_KEY_FILE_NONE, nullptr));
+  char* const command = g_key_file_get_string(file, "Desktop Entry", "Exec", nullptr);
+  const wxString read = wxString::FromUTF8(command);
+  g_free(command);
+  g_key_file_free(file);
+  return read;
+}
+
+constexpr const char* kShortcutCases[][3] = {
+    {"/opt/golf", "/home/Club \xC3\x84", "\"/opt/golf\" --install \"/home/Club \xC3\x84\""},
+    {"/o\\p", "/a\"$%", "\"/o\\\\p\" --install \"/a\\\"\\$%%\""}};
+#endif
+
+TEST(ShortcutTest, IsReadBackAsItWasMeant) {
+  const TempFolder desktop;
+  const wxString folder = wxString::FromUTF8(desktop.Path());
+  for (const auto& [program, install, read] : kShortcutCases) {
+    ASSERT_TRUE(WriteShortcut(
+        folder, {"Golf (x)", wxString::FromUTF8(program), wxString::FromUTF8(install)}));
+    EXPECT_EQ(ReadShortcut(folder, "Golf (x)"), wxString::FromUTF8(read));
+  }
+  EXPECT_FALSE(WriteShortcut(folder + "missing", {"Golf", "x", "y"}));
+}
 
 // The operator tries the demonstration, drops the folder of the club on the menu, opens the
 // demonstration again, and drops a file.

@@ -35,6 +35,41 @@ Events OnMenu(TestInstall& install, const Use& use) {
   return {events.begin() + 1, events.end() - 1};
 }
 
+TEST(FolderChoiceTest, OffersAShortcutToAFolderElsewhere) {
+  TestInstall install(false);
+  TestProfile user("");
+  install.host->user = &user;
+  install.folder.Write("kvdata/CLUB.kv5", "x");
+  const std::string here = install.state().ProgramPath;
+  const struct {
+    std::string program;
+    bool offered;
+    const char* name;
+    const char* told;
+  } kCases[] = {
+      {"", false, "", ""},
+      {here + "golf-transfer.exe", false, "", ""},
+      {"/other/golf-transfer", true, "Golf",
+       "message [Shortcut] The desktop has the shortcut \"Golf\" now."},
+      {"/other/golf-transfer", true, "", "message [Shortcut] The shortcut cannot be created."},
+      {"/Temp1_golf.zip/golf-transfer", true, "Golf",
+       "message [Shortcut] This program was started inside a zip file. "},
+  };
+  for (const auto& c : kCases) {
+    SCOPED_TRACE(c.program);
+    user.program = c.program;
+    user.shortcut_name = c.name;
+    const bool asks = c.offered && c.program.find(".zip") == std::string::npos;
+    if (asks) install.host->QueueAnswer("Shortcut", "Yes");
+    OnMenu(install, [&](TransferMenu& menu) {
+      EXPECT_EQ(menu.folder.ShortcutButton.visible(), c.offered);
+      if (c.offered) install.host->Press(menu, "ShortcutButton");
+    });
+    EXPECT_TRUE(!c.offered || ToldBeginning(install, c.told)) << install.LastMessage();
+  }
+  EXPECT_EQ(user.shortcuts, std::vector<std::string>(2, here));
+}
+
 TEST(SecondCopyTest, TransfersWaitForTheChoice) {
   TempFolder copies;
   TestInstall install(false);

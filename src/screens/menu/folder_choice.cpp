@@ -15,6 +15,9 @@ namespace {
 
 constexpr const char* kTitle = "Folder of the golf data";
 constexpr const char* kSeparators = "/\\";
+constexpr const char* kExtractFirst =
+    "This program was started inside a zip file. Extract the zip file first. Put the program into "
+    "the folder of Kelvane, Quenby and Zandel, and start it there.";
 
 std::string_view WithoutEnd(std::string_view folder) {
   while (folder.size() > 1 && folder.find_last_of(kSeparators) == folder.size() - 1) {
@@ -89,10 +92,7 @@ std::string RefusalText(const FolderContent& content, const std::string& folder)
 // Returns why the notice is shown. The texts are those of a newcomer's first start.
 std::string ReasonText(const FolderContent& content, const std::string& folder) {
   if (content.kind == FolderContent::kUnreadable) return RefusalText(content, folder);
-  if (IsInsideZip(folder)) {
-    return "This program was started inside a zip file. Extract the zip file first. Put the "
-           "program into the folder of Kelvane, Quenby and Zandel, and start it there.";
-  }
+  if (IsInsideZip(folder)) return kExtractFirst;
   return "Golf Transfer works in the folder that contains kvdata, qbdata and zddata, the data of "
          "Kelvane, Quenby and Zandel. Choose that folder, or try the program with made-up data.";
 }
@@ -120,6 +120,7 @@ FolderChoice::FolderChoice(const ScreenContext& context, MakeDemonstration make_
   ChangeButton.on_click = [this] { AskForFolder(); };
   RecentButton.on_click = [this] { ShowRecent(); };
   DemonstrationButton.on_click = [this] { OpenDemonstration(); };
+  ShortcutButton.on_click = [this] { AskForShortcut(); };
 }
 
 void FolderChoice::Refresh() {
@@ -133,6 +134,35 @@ void FolderChoice::Refresh() {
   const std::string folder = platform.Utf8ProgramFolder();
   RecentButton.SetEnabled(user != nullptr && !ListRecentFolders(*user, folder).empty());
   if (user != nullptr && content.kind == FolderContent::kGolfData) NoteRecentFolder(*user, folder);
+  ShortcutButton.SetVisible(content.kind == FolderContent::kGolfData && OffersShortcut(folder));
+}
+
+// A program that stands in the folder itself needs no shortcut.
+bool FolderChoice::OffersShortcut(const std::string& utf8_folder) {
+  UserProfile* const user = context_.host.User();
+  const std::string program = user != nullptr ? user->ProgramFile() : std::string();
+  const std::size_t name = program.find_last_of(kSeparators);
+  return name != std::string::npos &&
+         !EqualIgnoringCase(WithoutEnd(program.substr(0, name)), WithoutEnd(utf8_folder));
+}
+
+void FolderChoice::AskForShortcut() {
+  const auto tell = [this](std::string text, BoxIcon icon) {
+    context_.host.Ask(Box{.title = "Shortcut", .text = std::move(text), .icon = icon});
+  };
+  UserProfile& user = *context_.host.User();
+  if (IsInsideZip(user.ProgramFile())) return tell(kExtractFirst, BoxIcon::kStop);
+  Platform& platform = context_.state.files.platform();
+  const BoxButton answer = context_.host.Ask(
+      Box{.title = "Shortcut",
+          .text = "Put a shortcut on the desktop? It starts Golf Transfer with the data in\r" +
+                  platform.ProgramFolder(),
+          .icon = BoxIcon::kQuestion,
+          .buttons = {BoxButton::kYes, BoxButton::kNo}});
+  if (answer != BoxButton::kYes) return;
+  const std::string name = user.MakeShortcut(platform.Utf8ProgramFolder());
+  if (name.empty()) return tell("The shortcut cannot be created.", BoxIcon::kStop);
+  tell("The desktop has the shortcut \"" + TextFromUtf8(name) + "\" now.", BoxIcon::kInformation);
 }
 
 bool FolderChoice::HasData() {

@@ -36,11 +36,14 @@ class FolderChoice {
   Label FolderText{"FolderText"};
   Button ChangeButton{"ChangeButton", "Chan&ge..."};
   Button RecentButton{"RecentButton", "&Recent..."};
+  Button ShortcutButton{"ShortcutButton", "Short&cut..."};
 
  private:
   void AskForFolder();
   void ShowRecent();
   void OpenDemonstration();
+  bool OffersShortcut(const std::string& utf8_folder);
+  void AskForShortcut();
   void RefuseDemonstration(const std::string& why);
 
   ScreenContext context_;

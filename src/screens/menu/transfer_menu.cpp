@@ -113,7 +113,7 @@ TransferMenu::TransferMenu(const ScreenContext& context, MakeDemonstration make_
   for (Label& step : steps.StepLabel) Add({&step});
   Add({&steps.UndoLabel, &steps.CloseStepsButton});
   Add({&copy.PlacesFrame, &copy.PlacesLabel, &copy.PlacesText, &copy.UseFolderButton,
-       &copy.UseCopiesButton});
+       &copy.UseCopiesButton, &folder.ShortcutButton});
   ExitButton.SetCancel(true);
   PriorTransfer.on_click = [this] { StartPriorTransfer(); };
   ExitButton.on_click = [this] { Exit(); };
