@@ -218,6 +218,10 @@ void AddCheck(CLI::App& app, const Options& options, CheckRequest& request, Comm
                   "Write wrong course indexes anew first; undo puts them back");
 }
 
+CLI::Option* AddByteOrderMark(CLI::App& command, bool& bom) {
+  return command.add_flag("--bom", bom, "Begin CSV with the byte order mark that Excel needs");
+}
+
 void AddExport(CLI::App& app, const Options& options, ExportArguments& request, Command& chosen) {
   CLI::App* command =
       AddCommand(app, "export", "Write all golf data and results as tables for other programs",
@@ -238,8 +242,7 @@ void AddExport(CLI::App& app, const Options& options, ExportArguments& request, 
   command->add_flag("--replace", request.replace,
                     "Replace an existing file, or the folder of an earlier export");
   command->add_flag("--with-deleted", request.with_deleted, "Also deleted records");
-  command->add_flag("--bom", request.bom,
-                    "Begin CSV files with the byte order mark that Excel needs");
+  AddByteOrderMark(*command, request.bom);
 }
 
 void AddGolfersKvToZd(CLI::App& app, Options& options, GolfersKvToZdArguments& request,
@@ -394,7 +397,8 @@ void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chos
                    "A file of Kelvane, Quenby or Zandel, as named here or below the\ninstall")
       ->required();
   AddNumber(*dump, "--record", args.dump.record, "Only this record, from 1");
-  dump->add_flag("--csv", args.dump.csv, "A line a record, with a heading");
+  CLI::Option* dump_csv = dump->add_flag("--csv", args.dump.csv, "A line a record, with a heading");
+  AddByteOrderMark(*dump, args.dump.bom)->needs(dump_csv);
 
   CLI::App* results = AddCommand(app, "results", "Show what scoring works out",
                                  "--install golf-demo results players --tournament 1", chosen,
@@ -420,6 +424,7 @@ void AddCommands(CLI::App& app, Options& options, Arguments& args, Command& chos
       ->type_name("NAME");
   CLI::Option* csv =
       results->add_flag("--csv", args.results.csv, "A line an entry, with a heading");
+  AddByteOrderMark(*results, args.results.bom)->needs(csv);
   results
       ->add_option_function<std::string>(
           "--tiebreak",

@@ -35,6 +35,7 @@ struct DumpRequest {
   std::string file;
   std::optional<std::int64_t> record;  // from 1; all records if left out
   bool csv = false;
+  bool bom = false;  // begins the CSV with a byte order mark
 };
 ExitCode RunDump(const Options& options, const DumpRequest& request);
 
@@ -67,6 +68,7 @@ struct ResultsRequest {
   std::optional<int> round;  // the active round if left out
   std::string layout;        // the name of a custom report's layout, UTF-8
   bool csv = false;
+  bool bom = false;  // begins the CSV with a byte order mark
   Tiebreak tiebreak = Tiebreak::kNone;
   std::string html;    // the file of the page, UTF-8; empty for no page
   bool watch = false;  // writes the page again after each change

@@ -7,7 +7,8 @@ namespace golf {
 
 // These functions access the terminal and the arguments of the process.
 
-// Sets the standard streams to UTF-8 and to unchanged line ends.
+// Makes the standard streams pass UTF-8 and line ends unchanged to files and pipes. A console
+// receives whole characters, and shows them under every code page.
 void PrepareConsole();
 // True if standard error is a terminal that can erase a line.
 bool ErrorOutputIsTerminal();

@@ -125,6 +125,7 @@ ExitCode RunDump(const Options& options, const DumpRequest& request) {
   const auto write = request.csv    ? WriteCsvRecord
                      : options.json ? WriteJsonRecord
                                     : WritePlainRecord;
+  if (request.bom) std::cout << kByteOrderMark;
   if (request.csv) WriteCsvHeading(layout);
   std::string record(layout.length, '\0');
   for (std::int64_t number = first; number <= last; ++number) {

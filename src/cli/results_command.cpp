@@ -9,6 +9,7 @@
 #include "cli/history_command.h"
 #include "cli/plain_text.h"
 #include "cli/problems.h"
+#include "core/code_page.h"
 #include "core/text.h"
 #include "scoring/open_tournament.h"
 #include "scoring/tournament_class.h"
@@ -47,14 +48,15 @@ void OpenForResults(SharedState& state, const ResultsRequest& request) {
   if (request.round) MakeActive(state.Tournament(), *request.round);
 }
 
-void WriteStandings(ResultsForm form, const StandingsTable& table) {
+void WriteStandings(const ResultsRun& run, const StandingsTable& table) {
   std::vector<std::vector<std::string>> lines;
   for (const StandingsRow& row : table.rows) {
     auto& line = lines.emplace_back(row.cells);
     for (std::string& cell : line) cell = PlainCell(cell);
   }
-  if (form == ResultsForm::kTable) return WriteTable(table.headings, lines);
+  if (run.form == ResultsForm::kTable) return WriteTable(table.headings, lines);
   lines.insert(lines.begin(), table.headings);
+  if (run.request.bom) std::cout << kByteOrderMark;
   for (const auto& line : lines) std::cout << CsvLine(line) << '\n';
 }
 

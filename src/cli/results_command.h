@@ -24,9 +24,6 @@ void OpenForResults(SharedState& state, const ResultsRequest& request);
 // Writes the page of results. If the request has `watch`, writes it again after each change.
 ExitCode RunResultsPage(const Options& options, const ResultsRequest& request);
 
-// Writes the standings as a table or as CSV. Their texts are in code page 1252.
-void WriteStandings(ResultsForm form, const StandingsTable& table);
-
 // Holds the request of the command and the errors of results that could not be calculated. The
 // command reports each such error on standard error and continues with the next result.
 struct ResultsRun {
@@ -40,6 +37,9 @@ struct ResultsRun {
   // Reports an error on standard error and adds it to the faults.
   void AddFault(const std::string& who, const NumberedError& error);
 };
+
+// Writes the standings as a table or as CSV. Their texts are in code page 1252.
+void WriteStandings(const ResultsRun& run, const StandingsTable& table);
 
 // These functions write the results of the active round of the open tournament: for each player,
 // for each team, or under a custom layout.

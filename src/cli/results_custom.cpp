@@ -93,7 +93,7 @@ void ShowCustom(ResultsRun& run) {
   }
   StandingsTable table = CustomTable(worked_out, run.state.Tournament().RoundCount());
   places.AddTo(table);
-  WriteStandings(run.form, table);
+  WriteStandings(run, table);
 }
 
 }  // namespace golf

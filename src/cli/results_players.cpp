@@ -68,7 +68,7 @@ void ShowPlayers(ResultsRun& run) {
   for (const ResultEntry& entry : places.entries()) table.rows.push_back(RowOf(entry));
   AddPlaces(table.rows);
   places.AddTo(table);
-  WriteStandings(run.form, table);
+  WriteStandings(run, table);
 }
 
 }  // namespace golf

@@ -50,7 +50,7 @@ void ShowTeams(ResultsRun& run) {
   if (is_json) return;
   StandingsTable table = TeamTotalsTable(std::move(rows));
   places.AddTo(table);
-  WriteStandings(run.form, table);
+  WriteStandings(run, table);
 }
 
 }  // namespace golf

@@ -3,13 +3,12 @@
 #include <algorithm>
 
 #include "app/application.h"
+#include "core/code_page.h"
 #include "core/number_text.h"
 #include "core/text.h"
 
 namespace golf {
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 int WholeNumber(const std::string& word) {
   const auto number = ReadWholeNumber(word);

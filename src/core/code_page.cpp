@@ -18,19 +18,6 @@ char32_t CodePoint(char c) {
   return byte >= 0x80 && byte <= 0x9F ? kHighCodes[byte - 0x80u] : char32_t{byte};
 }
 
-void AppendUtf8(std::string& out, char32_t code) {
-  if (code < 0x80) {
-    out += static_cast<char>(code);
-  } else if (code < 0x800) {
-    out += static_cast<char>(0xC0 | (code >> 6));
-    out += static_cast<char>(0x80 | (code & 0x3F));
-  } else {
-    out += static_cast<char>(0xE0 | (code >> 12));
-    out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (code & 0x3F));
-  }
-}
-
 char ByteOf(char32_t code) {
   const auto high = std::find(kHighCodes.begin(), kHighCodes.end(), code);
   if (high != kHighCodes.end()) return static_cast<char>(0x80 + (high - kHighCodes.begin()));
@@ -38,16 +25,19 @@ char ByteOf(char32_t code) {
   return itself ? static_cast<char>(code) : '?';
 }
 
-struct Decoded {
-  char32_t code;
-  std::size_t length;  // in bytes; 0 if the text is not UTF-8
-};
+}  // namespace
 
-Decoded Decode(std::string_view text) {
+std::size_t Utf8Length(char lead) {
+  const auto byte = static_cast<unsigned char>(lead);
+  if (byte < 0xC2 || byte > 0xF4) return 1;
+  return byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
+}
+
+Utf8Character DecodeUtf8(std::string_view text) {
   const auto lead = static_cast<unsigned char>(text[0]);
   if (lead < 0x80) return {lead, 1};
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return {0, 0};
+  const std::size_t length = Utf8Length(text[0]);
+  if (length == 1 || text.size() < length) return {0, 0};
   char32_t code = lead & (0x7Fu >> length);
   for (std::size_t i = 1; i < length; ++i) {
     const auto next = static_cast<unsigned char>(text[i]);
@@ -59,7 +49,23 @@ Decoded Decode(std::string_view text) {
   return {code, length};
 }
 
-}  // namespace
+void AppendUtf8(std::string& out, char32_t code) {
+  if (code < 0x80) {
+    out += static_cast<char>(code);
+  } else if (code < 0x800) {
+    out += static_cast<char>(0xC0 | (code >> 6));
+    out += static_cast<char>(0x80 | (code & 0x3F));
+  } else {
+    if (code < 0x10000) {
+      out += static_cast<char>(0xE0 | (code >> 12));
+    } else {
+      out += static_cast<char>(0xF0 | (code >> 18));
+      out += static_cast<char>(0x80 | ((code >> 12) & 0x3F));
+    }
+    out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (code & 0x3F));
+  }
+}
 
 std::string Utf8FromText(std::string_view text) {
   std::string utf8;
@@ -72,7 +78,7 @@ std::string TextFromUtf8(std::string_view utf8) {
   std::string text;
   text.reserve(utf8.size());
   while (!utf8.empty()) {
-    const Decoded decoded = Decode(utf8);
+    const Utf8Character decoded = DecodeUtf8(utf8);
     text += decoded.length == 0 ? utf8[0] : ByteOf(decoded.code);
     utf8.remove_prefix(std::max<std::size_t>(decoded.length, 1));
   }

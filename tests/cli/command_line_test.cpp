@@ -39,6 +39,7 @@ TEST_F(CommandLineTest, ExitCodesAndWhereTextsGo) {
       {"demo i", 1, "not empty"},
       {"demo file", 1, "is a file"},
       {"dump i/kvdata/none.xyz", 1, "not the name"},
+      {"dump i/kvdata/kvcrs.dat --bom", 2, "--csv"},
       {"dump i/zddata/18CRSKV.INX", 1, "There is no file"},
       {"dump i/kvdata/kvcrs.dat --record 8", 1, "no record 8"},
       {in + "dump kvdata/kvcrs.dat --record 7", 0, "Ash Ridge Municipal"},
@@ -140,6 +141,7 @@ TEST_F(CommandLineTest, ResultsOfPlayers) {
   const std::string entries = folder.Read("i/qbdata/X0001.Q9G");
   const std::string results = "--install i results players --tournament 1";
   const std::string csv = Run(results + " --csv").out;
+  EXPECT_EQ(Run(results + " --csv --bom").out, "\xEF\xBB\xBF" + csv);
   EXPECT_TRUE(csv.starts_with("Name,Handicap,Out,In,Total,Net,Points,Place,Flight,Sex,"));
   EXPECT_NE(csv.find("\n\"Duarte, Ines\",26,47,47,94,68,54,1,C,F,5,"), std::string::npos);
   Put("qbdata/X0001.Q9G", 7 * 3052 + 443, std::string(72, '\0'));
@@ -211,6 +213,7 @@ TEST_F(CommandLineTest, ShowsCoursesAndDumpsTablesInTheOrderOfTheirIndexes) {
                       {"number":2,"name":"Red","abbreviation":"R"}]})"));
   const std::string csv = Run("dump i/kvdata/ALLCRSKV.INX --csv").out;
   EXPECT_EQ(csv, "record,Index\n1,6\n2,7\n3,5\n4,4\n5,1\n6,3\n7,2\n");
+  EXPECT_EQ(Run("dump i/kvdata/ALLCRSKV.INX --csv --bom").out, "\xEF\xBB\xBF" + csv);
 }
 
 TEST_F(CommandLineTest, HeldFilesAreExitCodeFour) {

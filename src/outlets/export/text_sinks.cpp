@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "core/code_page.h"
 #include "core/new_file.h"
 #include "core/text.h"
 #include "outlets/export/export_sink.h"
@@ -12,8 +13,6 @@
 
 namespace golf {
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 void AppendNumber(std::string& line, const ExportRow& row, std::size_t i) {
   char digits[32];
