@@ -53,6 +53,14 @@ wxSize NeededSize(ScreenPanel& panel, wxSize ScreenPanel::Flexible::*size) {
 
 int ScrollBarWidth() { return wxSystemSettings::GetMetric(wxSYS_VSCROLL_X); }
 
+// Returns the height of a widget that shows this number of lines. The border is no higher than a
+// line. The long lines of a log need a scroll bar.
+int HeightWithFrame(const wxWindow& widget, int lines) {
+  const bool scrolls = widget.HasFlag(wxHSCROLL);
+  return TextHeight(widget, lines + 1) +
+         (scrolls ? wxSystemSettings::GetMetric(wxSYS_HSCROLL_Y, &widget) : 0);
+}
+
 // Adds the width of the scroll bar if the size is higher than the limit.
 wxSize WithScrollBar(const wxSize& limit, const wxSize& size) {
   return {size.x + (size.y > limit.y ? ScrollBarWidth() : 0), size.y};
@@ -148,7 +156,7 @@ int LineWidth(const ScreenPanel& panel, int characters) {
 
 void SetRoom(ScreenPanel& panel, wxWindow& widget) {
   const wxSize preferred = widget.GetMinSize();
-  int height = TextHeight(widget, kLeastLines + 1);  // with the border
+  int height = HeightWithFrame(widget, kLeastLines);
   if (const auto* list = dynamic_cast<wxDataViewCtrl*>(&widget)) {
     height = ListHeight(*list, kLeastLines);
   } else if (const auto* grid = dynamic_cast<wxGrid*>(&widget)) {
