@@ -27,6 +27,9 @@ struct Box {
   // Is the id of a heading of the help, or empty. A window opens the help there instead of showing
   // the box.
   std::string window_help = {};
+  // Is the golfer whom the question concerns if the text does not name him, or empty. A window
+  // shows him in a line of its own.
+  std::string window_golfer = {};
 };
 
 }  // namespace golf

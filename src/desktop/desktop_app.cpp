@@ -43,7 +43,8 @@ bool DesktopApp::OnInit() {
     program_.Open(invocation_.install, invocation_.word);
   } catch (const NumberedError& error) {
     std::cerr << Utf8FromText(error.description()) << std::endl;
-    wxMessageBox(WxText(error.description()), GetAppDisplayName(), wxICON_STOP);
+    wxMessageBox(WxText(error.description(), invocation_.install), GetAppDisplayName(),
+                 wxICON_STOP);
   }
   return true;  // OnRun returns the exit code of a failure
 }

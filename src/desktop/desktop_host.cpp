@@ -251,6 +251,11 @@ auto DesktopHost::OverTopWindow(Function show) {
   return answer;
 }
 
+// Spells the folder of the install as the system does.
+wxString DesktopHost::ShownText(const Box& box) const {
+  return WxText(box.text, state().files.platform().Utf8ProgramFolder());
+}
+
 // Counts a box of the current run. Returns true if the run can be stopped and has shown two boxes
 // of the same kind before. A box that offers to retry is never repeated, since the same answer
 // would retry endlessly.
@@ -267,8 +272,8 @@ bool DesktopHost::IsRepeated(const Box& box) {
 BoxButton DesktopHost::AskRepeated(const Box& box) {
   Repeats& repeats = repeats_[{box.title, box.buttons}];
   if (repeats.answer) return *repeats.answer;
-  const RepeatedAnswer answer =
-      OverTopWindow([&box](wxWindow* parent) { return ShowRepeatedDialog(parent, box); });
+  const RepeatedAnswer answer = OverTopWindow(
+      [&](wxWindow* parent) { return ShowRepeatedDialog(parent, box, ShownText(box)); });
   if (answer.stops) throw StoppedByOperator();
   if (answer.for_rest) repeats.answer = answer.button;
   return answer.button;
@@ -284,7 +289,8 @@ void DesktopHost::ShowModal(Screen& screen) {
                 .text = tip->Tip()->text,
                 .icon = BoxIcon::kQuestion,
                 .buttons = {BoxButton::kYes, BoxButton::kNo},
-                .default_button = 1};
+                .default_button = 1,
+                .window_golfer = tip->golfer()};
   if (!IsRepeated(box)) return HostBase::ShowModal(screen);
   const bool yes = Ask(box) == BoxButton::kYes;
   (yes ? tip->YesButton : tip->NoButton).Click();
@@ -310,7 +316,8 @@ BoxButton DesktopHost::ShowBox(const Box& box) {
     return box.buttons[box.default_button];
   }
   if (IsRepeated(box)) return AskRepeated(box);
-  return OverTopWindow([&box](wxWindow* parent) { return ShowMessageDialog(parent, box); });
+  return OverTopWindow(
+      [&](wxWindow* parent) { return ShowMessageDialog(parent, box, ShownText(box)); });
 }
 
 std::string DesktopHost::ShowInputBox(const InputBox& box) {

@@ -81,6 +81,7 @@ class DesktopHost : public HostBase {
   };
   using BoxKind = std::pair<std::string, std::vector<BoxButton>>;  // the title and the buttons
 
+  wxString ShownText(const Box& box) const;
   bool IsRepeated(const Box& box);
   BoxButton AskRepeated(const Box& box);
   void KeepSizeOf(const Window& window);

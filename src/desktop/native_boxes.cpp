@@ -97,8 +97,13 @@ void SetEscape(wxDialog& dialog, const Box& box) {
 
 }  // namespace
 
-BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
-  MessageDialog dialog(parent, WxText(box.text), WxText(box.title), StyleOf(box));
+wxString GolferLine(const std::string& golfer) {
+  return golfer.empty() ? wxString() : "Golfer: " + WxText(golfer);
+}
+
+BoxButton ShowMessageDialog(wxWindow* parent, const Box& box, const wxString& text) {
+  MessageDialog dialog(parent, text, WxText(box.title), StyleOf(box));
+  dialog.SetExtendedMessage(GolferLine(box.window_golfer));
   if (Has(box, BoxButton::kRetry)) dialog.SetOKLabel("&Retry");
   SetEscape(dialog, box);
   return ButtonOf(box, dialog.ShowModal());
@@ -106,9 +111,10 @@ BoxButton ShowMessageDialog(wxWindow* parent, const Box& box) {
 
 // The toolkit's Help button gets the caption of Stop. The toolkit's dialog does not accept
 // wxICON_NONE.
-RepeatedAnswer ShowRepeatedDialog(wxWindow* parent, const Box& box) {
-  wxRichMessageDialog dialog(parent, WxText(box.text), WxText(box.title),
+RepeatedAnswer ShowRepeatedDialog(wxWindow* parent, const Box& box, const wxString& text) {
+  wxRichMessageDialog dialog(parent, text, WxText(box.title),
                              (StyleOf(box) & ~wxICON_NONE) | wxHELP);
+  dialog.SetExtendedMessage(GolferLine(box.window_golfer));
   dialog.SetHelpLabel("&Stop: nothing will have been changed");
   SetEscape(dialog, box);
   dialog.ShowCheckBox("Same &answer for the rest of this run");

@@ -5,6 +5,7 @@
 
 #include "desktop/accessible.h"
 #include "desktop/layout_helpers.h"
+#include "desktop/native_boxes.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/tip_box.h"
@@ -70,7 +71,10 @@ void FillTipBox(ScreenPanel& panel, TipBox& screen) {
                            : TextWidth(panel, kUsualCharacters);
   wxStaticText* title = MakeWrappedLabel(panel.binding(), &panel, screen.Title, width);
   MakeBold(*title);
-  wxSizer* texts = Column({title, NewMessage(panel, screen, width)});
+  wxStaticText* golfer = MakeText(&panel, GolferLine(screen.golfer()));
+  golfer->SetName("Golfer");
+  golfer->Show(!screen.golfer().empty());
+  wxSizer* texts = Column({title, golfer, NewMessage(panel, screen, width)});
 
   auto* top = new wxBoxSizer(wxHORIZONTAL);
   top->Add(picture, wxSizerFlags().Border(wxRIGHT, GroupGap(panel)));

@@ -13,6 +13,14 @@ wxString WxText(std::string_view text) {
   return shown;
 }
 
+wxString WxText(std::string_view text, const std::string& utf8_path) {
+  wxString shown = WxText(text);
+  const wxString path = wxString::FromUTF8(utf8_path);
+  const wxString in_text = WxText(TextFromUtf8(utf8_path));
+  if (in_text != path) shown.Replace(in_text, path);
+  return shown;
+}
+
 std::string TextFromWx(const wxString& text) {
   return TextFromUtf8(std::string(text.utf8_str().data()));
 }

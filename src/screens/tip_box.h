@@ -28,9 +28,16 @@ class TipBox : public Screen {
 
   explicit TipBox(const ScreenContext& context);
 
-  void SetMessageType(int type) { type_ = type; }
+  void SetMessageType(int type) {
+    type_ = type;
+    golfer_.clear();
+  }
   void SetMessageTitle(std::string title) { Title.SetCaption(std::move(title)); }
   void SetMessageText(std::string text);
+  // Sets the golfer whom the message concerns, after the type. The box shows him in a line of its
+  // own. Scripts do not see it.
+  void SetGolfer(std::string golfer) { golfer_ = std::move(golfer); }
+  const std::string& golfer() const { return golfer_; }
   const std::string& MessageText() const { return Message.text(); }
   // Returns the last answer to a message: "OK", "YES" or "NO".
   const std::string& ResultReturned() const { return answer_; }
@@ -66,6 +73,7 @@ class TipBox : public Screen {
   std::vector<Remembered> titles_;
   std::size_t title_index_ = 0;  // the entry of the current message, from 1; 0 if it has none yet
   std::string answer_;
+  std::string golfer_;
   bool always_on_top_ = false;
   TipView view_;
 };

@@ -484,6 +484,17 @@ TEST_F(DesktopTest, EscapeMeansNoAlsoIfTheDefaultIsYes) {
   EXPECT_EQ(answers, "NN");
 }
 
+// Returns the line that names a golfer in the question in front, or "none" if there is no question.
+std::string GolferShown() {
+  for (const wxWindow* window : wxTopLevelWindows) {
+    const auto* box = dynamic_cast<const wxMessageDialogBase*>(window);
+    if (box != nullptr) return box->GetExtendedMessage().utf8_string();
+  }
+  if (Operator::Find("Message") == nullptr) return "none";
+  const wxWindow* const line = Operator::Find("Golfer");
+  return line == nullptr ? "" : line->GetLabel().utf8_string();
+}
+
 // A question that comes for the third time in a run offers the same answer for the rest of the run,
 // and a stop that drops the changes.
 TEST_F(DesktopTest, RepeatedQuestionsCanBeAnsweredAtOnceOrStopTheRun) {
@@ -496,6 +507,7 @@ TEST_F(DesktopTest, RepeatedQuestionsCanBeAnsweredAtOnceOrStopTheRun) {
           state().files.gate().Delete(state().KVDataPath + "kvcrs.dat");
           for (int i = 1; i <= 5; ++i) {
             const std::string text = "Golfer " + std::to_string(i);
+            asking.Group(i % 2 == 0 ? text : "Ann");  // a text that names him needs no line
             const Box box{.title = "Again?",
                           .text = text,
                           .buttons = {BoxButton::kYes, BoxButton::kNo},
@@ -510,6 +522,11 @@ TEST_F(DesktopTest, RepeatedQuestionsCanBeAnsweredAtOnceOrStopTheRun) {
       answers += '.';
     });
   };
+  const auto await_golfer = [&](const std::string& text) {
+    user.Await("the golfer of " + text, [is_named = text == "Golfer 2"] {
+      return GolferShown() == (is_named ? "" : "Golfer: Ann");
+    });
+  };
   for (const bool tip : {false, true}) {
     for (const bool stops : {true, false}) {
       run(tip);
@@ -519,11 +536,14 @@ TEST_F(DesktopTest, RepeatedQuestionsCanBeAnsweredAtOnceOrStopTheRun) {
             const auto* message = dynamic_cast<wxTextCtrl*>(Operator::Find("Message"));
             return message != nullptr && message->GetValue() == text;
           });
+          await_golfer(text);
           user.Press("YesButton");
         } else {
+          await_golfer(text);
           user.Answer("Again?", text, 'Y', wxMOD_ALT);
         }
       }
+      await_golfer("Golfer 3");
       user.PressInBox("Again?", "Golfer 3",
                       stops ? "&Stop: nothing will have been changed"
                             : "Same &answer for the rest of this run");

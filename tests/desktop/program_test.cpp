@@ -130,6 +130,22 @@ TEST(ProgramTest, OpensOneInstallAfterAnother) {
   EXPECT_TRUE(program.IsOpen());
 }
 
+// The code page of the texts lacks these letters.
+TEST(ProgramTest, ABoxShowsTheFolderAsItIsWritten) {
+  const TempFolder club("\xC5\x81owicz");
+  club.Write("kvdata/x", "x");
+  TestProfile user(club.Path());
+  DesktopProgram program(user);
+  Operator operator_;
+  program.Open(club.Path(), "");
+  operator_.Press("KVCoursestoQBButton");
+  operator_.Answer("Notice",
+                   "Cannot transfer data because the Quenby program is not installed in the '" +
+                       program.application().state().files.platform().Utf8ProgramFolder() +
+                       "' folder");
+  operator_.RunToExit();
+}
+
 TEST(ProgramTest, AProfileKeepsSettingsForTheNextStart) {
   const std::string value = "C:\\Caf\xC3\xA9 \"x\" = 1;\\";
   {

@@ -141,12 +141,32 @@ void ScreenRun::NoteFault(const NumberedError& fault) {
   host_.NoteFault(fault);
 }
 
+void ScreenRun::Group(std::string_view title) {
+  group_ = title;
+  transactions_.BeginGroup(title);
+}
+
+std::string ScreenRun::GolferOf(std::string_view question) const {
+  return question.find(group_) == std::string_view::npos ? group_ : std::string();
+}
+
+BoxButton ScreenRun::Ask(const Box& box) {
+  const auto& buttons = box.buttons;
+  const bool is_question =
+      std::find(buttons.begin(), buttons.end(), BoxButton::kYes) != buttons.end();
+  if (!is_question) return host_.Ask(box);
+  Box question = box;
+  question.window_golfer = GolferOf(box.text);
+  return host_.Ask(question);
+}
+
 bool ScreenRun::AskAgain(const std::string& title, const std::string& text,
                          const std::string& log) {
   if (look_.shows_log) look_.message->SetText(log);
   TipBox& box = SharedTipBox(host_);
   box.SetMessageType(TipBox::kLastingQuestion);
   box.SetMessageTitle(title);
+  box.SetGolfer(GolferOf(text));
   box.SetMessageText(text);
   return box.ResultReturned() == "YES";
 }

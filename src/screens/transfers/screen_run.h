@@ -52,8 +52,8 @@ class ScreenRun : public RunHost {
   void Begin() override;
   void Report(const Progress& progress) override;
   void NoteFault(const NumberedError& fault) override;
-  void Group(std::string_view title) override { transactions_.BeginGroup(title); }
-  BoxButton Ask(const Box& box) override { return host_.Ask(box); }
+  void Group(std::string_view title) override;
+  BoxButton Ask(const Box& box) override;
   bool AskAgain(const std::string& title, const std::string& text, const std::string& log) override;
   void Beep() override { host_.Beep(); }
 
@@ -65,10 +65,15 @@ class ScreenRun : public RunHost {
               const CommitRetry& retry = nullptr);
 
  private:
+  // Returns the golfer of the current group if a question does not name him, or an empty text. The
+  // screen may still show the golfer before him.
+  std::string GolferOf(std::string_view question) const;
+
   SharedState& state_;
   Transactions& transactions_;
   ScreenHost& host_;
   RunLook look_;
+  std::string group_;
   bool begun_ = false;
   bool committed_ = false;
   bool button_before_ = false;  // true if the button was visible
