@@ -17,6 +17,15 @@ constexpr Meaning kMeanings[] = {
     {ErrorNumber::kDiskFull, "The disk quota is used up: %1 could not be written."},
     {ErrorNumber::kDiskFull, "%1 would become larger than this disk allows."},
     {ErrorNumber::kPathAccess, "Access to %1 is refused."},
+    {ErrorNumber::kPathAccess,
+     "Access to %1 is refused. The file is marked read-only: remove that mark in its properties, "
+     "then try again."},
+    {ErrorNumber::kPathAccess,
+     "Access to %1 is refused. Your user account has no right to it: ask the person who manages "
+     "this computer."},
+    {ErrorNumber::kPathAccess,
+     "Access to %1 is refused. Your user account may not change its folder: ask the person who "
+     "manages this computer."},
     {ErrorNumber::kPathAccess, "%1 lies on a disk that may only be read."},
     {ErrorNumber::kPathAccess, "%1 is a folder."},
     {ErrorNumber::kPathAccess, "%1 is no file but a pipe or a device, or leads out of its folder."},
@@ -34,6 +43,17 @@ NumberedError PlatformError(PlatformFault fault, const std::string& path) {
   const Meaning& meaning = kMeanings[static_cast<std::size_t>(fault)];
   std::string text(meaning.text);
   return {meaning.number, text.replace(text.find("%1"), 2, path)};
+}
+
+NumberedError HeldBy(const std::string& path, const std::vector<std::string>& programs) {
+  const NumberedError held = PlatformError(PlatformFault::kHeld, path);
+  if (programs.empty()) return held;
+  std::string names = programs.front();
+  for (std::size_t i = 1; i < programs.size(); ++i) {
+    names += (i + 1 < programs.size() ? ", " : " and ") + programs[i];
+  }
+  return {ErrorNumber::kPermissionDenied,
+          held.description() + (programs.size() == 1 ? " It is " : " They are ") + names + "."};
 }
 
 NumberedError DeviceFault(const std::string& path, const std::string& reason) {

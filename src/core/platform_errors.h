@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/numbered_error.h"
 
@@ -13,6 +14,9 @@ enum class PlatformFault {
   kQuotaUsedUp,
   kTooLarge,
   kRefused,
+  kReadOnlyFile,
+  kNoFileRights,
+  kNoFolderRights,
   kReadOnlyDisk,
   kIsFolder,
   kIsNoFile,
@@ -26,6 +30,9 @@ enum class PlatformFault {
 
 // Returns the error for a fault with a file. All paths here are in code page 1252.
 NumberedError PlatformError(PlatformFault fault, const std::string& path);
+// Returns error 70 for a file that another program has open. `programs` are the names of such
+// programs, as far as they are known.
+NumberedError HeldBy(const std::string& path, const std::vector<std::string>& programs);
 // Returns error 57, which reports any other fault. `reason` is the system's description of the
 // fault.
 NumberedError DeviceFault(const std::string& path, const std::string& reason);

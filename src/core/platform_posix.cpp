@@ -60,6 +60,35 @@ constexpr ErrnoMeaning kMeanings[] = {
   throw DeviceFault(path, std::strerror(code));
 }
 
+// Returns true if this process may use the file or the folder in this way, or if that is unknown.
+bool IsPermitted(const std::string& native, int use) {
+  return faccessat(AT_FDCWD, native.c_str(), use, AT_EACCESS) == 0 || errno != EACCES;
+}
+
+enum class Use { kRead, kWrite, kName };  // kName: create, delete or rename
+
+// Returns why the system refuses to use a file.
+PlatformFault ReasonOfRefusal(const std::string& native, Use use) {
+  constexpr mode_t kAnyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
+  struct stat status {};
+  const bool exists = stat(native.c_str(), &status) == 0;
+  if (use != Use::kName && !IsPermitted(native, R_OK)) return PlatformFault::kNoFileRights;
+  if (exists && use == Use::kWrite && (status.st_mode & kAnyWriter) == 0) {
+    return PlatformFault::kReadOnlyFile;
+  }
+  if (use == Use::kWrite && !IsPermitted(native, W_OK)) return PlatformFault::kNoFileRights;
+  const std::size_t name = native.rfind('/') + 1;
+  const std::string folder = name == 0 ? "." : native.substr(0, name);
+  if (use != Use::kRead && !IsPermitted(folder, W_OK | X_OK)) return PlatformFault::kNoFolderRights;
+  return PlatformFault::kRefused;
+}
+
+// Does the same as FailWith. If access is refused, the error contains the reason.
+[[noreturn]] void FailToReach(int code, const std::string& native, Use use) {
+  if (code != EACCES && code != EPERM) FailWith(code, native);
+  throw PlatformError(ReasonOfRefusal(native, use), TextFromUtf8(native));
+}
+
 // With these flags the opening of a pipe or a device does not block.
 constexpr int kOpenFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
@@ -343,7 +372,7 @@ class PosixPlatform : public Platform {
   void Create(ChangePass, const std::string& path) override {
     const std::string native = Resolve(path);
     Descriptor made(open(native.c_str(), O_WRONLY | O_CREAT | kOpenFlags, 0666));
-    if (made.get() < 0) FailWith(errno, native);
+    if (made.get() < 0) FailToReach(errno, native, Use::kWrite);
     CheckOpened(made, native);
     made.Close(native);
   }
@@ -360,12 +389,12 @@ class PosixPlatform : public Platform {
 
   void CreateFolder(ChangePass, const std::string& path) override {
     const std::string native = Resolve(path);
-    if (mkdir(native.c_str(), 0777) != 0) FailWith(errno, native);
+    if (mkdir(native.c_str(), 0777) != 0) FailToReach(errno, native, Use::kName);
   }
 
   void Delete(ChangePass, const std::string& path) override {
     const std::string native = Resolve(path);
-    if (unlink(native.c_str()) != 0) FailWith(errno, native);
+    if (unlink(native.c_str()) != 0) FailToReach(errno, native, Use::kName);
   }
 
   void Rename(ChangePass, const std::string& from, const std::string& to) override {
@@ -374,7 +403,7 @@ class PosixPlatform : public Platform {
     RefuseNoFile(old_native);
     RefuseNoFile(new_native);
     if (rename(old_native.c_str(), new_native.c_str()) != 0) {
-      FailWith(errno, errno == ENOENT ? old_native : new_native);
+      FailToReach(errno, errno == ENOENT ? old_native : new_native, Use::kName);
     }
   }
 
@@ -474,7 +503,7 @@ class PosixPlatform : public Platform {
       if (descriptor.get() >= 0) return {std::move(descriptor), false};
       code = errno;
     }
-    FailWith(code, native);
+    FailToReach(code, native, access == FileAccess::kReadOnly ? Use::kRead : Use::kWrite);
   }
 
   // Creates a file and deletes its name. This serves file systems without O_TMPFILE.
@@ -553,7 +582,7 @@ std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
 
 std::unique_ptr<PlatformFile> CreateOutside(const std::string& utf8_path) {
   Descriptor made(open(utf8_path.c_str(), O_RDWR | O_CREAT | O_EXCL | kOpenFlags, 0666));
-  if (made.get() < 0) FailWith(errno, utf8_path);
+  if (made.get() < 0) FailToReach(errno, utf8_path, Use::kWrite);
   const FileIdentity identity = CheckOpened(made, utf8_path);
   return std::make_unique<PosixFile>(std::move(made), utf8_path, true, identity);
 }

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/code_page.h"
+#include "core/file_holders.h"
 #include "core/platform.h"
 #include "core/platform_errors.h"
 
@@ -116,7 +117,9 @@ std::string Words(DWORD code) {
     throw PlatformError(PlatformFault::kIsFolder, path);
   }
   for (const CodeMeaning& meaning : kMeanings) {
-    if (meaning.code == code) throw PlatformError(meaning.fault, path);
+    if (meaning.code != code) continue;
+    if (meaning.fault == PlatformFault::kHeld) throw HeldBy(path, ProgramsHolding(Plain(native)));
+    throw PlatformError(meaning.fault, path);
   }
   throw DeviceFault(path, Words(code));
 }
@@ -158,6 +161,36 @@ void CheckOpened(const Handle& handle, const std::wstring& native) {
   if (GetFileType(handle.get()) != FILE_TYPE_DISK) {
     throw PlatformError(PlatformFault::kIsNoFile, TextFromWide(Plain(native)));
   }
+}
+
+// Returns true if the file or folder can be opened for this access, or cannot for another reason
+// than a lack of rights.
+bool IsPermitted(const std::wstring& native, DWORD access) {
+  const Handle handle = OpenHandle(native, access, kShared | FILE_SHARE_DELETE, OPEN_EXISTING,
+                                   FILE_FLAG_BACKUP_SEMANTICS);
+  return handle.IsOpen() || GetLastError() != ERROR_ACCESS_DENIED;
+}
+
+// Returns why the system refuses to open, create, delete or rename a file.
+PlatformFault ReasonOfRefusal(const std::wstring& native, bool changes) {
+  const DWORD attributes = GetFileAttributesW(native.c_str());
+  const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
+  if (exists && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return PlatformFault::kIsFolder;
+  if (exists && changes && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+    return PlatformFault::kReadOnlyFile;
+  }
+  if (exists && !IsPermitted(native, changes ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ)) {
+    return PlatformFault::kNoFileRights;
+  }
+  const std::wstring folder = native.substr(0, native.rfind(kSeparator) + 1);
+  if (changes && !IsPermitted(folder, FILE_ADD_FILE)) return PlatformFault::kNoFolderRights;
+  return PlatformFault::kRefused;
+}
+
+// Does the same as FailWith. If access is refused, the error contains the reason.
+[[noreturn]] void FailToReach(DWORD code, const std::wstring& native, bool changes = true) {
+  if (code != ERROR_ACCESS_DENIED) FailWith(code, native);
+  throw PlatformError(ReasonOfRefusal(native, changes), TextFromWide(Plain(native)));
 }
 
 class WindowsFile : public PlatformFile {
@@ -338,7 +371,7 @@ class WindowsPlatform : public Platform {
   void Create(ChangePass, const std::string& path) override {
     const std::wstring native = Resolve(path);
     Handle made = OpenHandle(native, GENERIC_WRITE, kShared, OPEN_ALWAYS);
-    if (!made.IsOpen()) FailWith(GetLastError(), native);
+    if (!made.IsOpen()) FailToReach(GetLastError(), native);
     CheckOpened(made, native);
     made.Close(native);
   }
@@ -359,12 +392,12 @@ class WindowsPlatform : public Platform {
 
   void CreateFolder(ChangePass, const std::string& path) override {
     const std::wstring native = Resolve(path);
-    if (!CreateDirectoryW(native.c_str(), nullptr)) FailWith(GetLastError(), native);
+    if (!CreateDirectoryW(native.c_str(), nullptr)) FailToReach(GetLastError(), native);
   }
 
   void Delete(ChangePass, const std::string& path) override {
     const std::wstring native = Resolve(path);
-    if (!DeleteFileW(native.c_str())) FailWith(GetLastError(), native);
+    if (!DeleteFileW(native.c_str())) FailToReach(GetLastError(), native);
   }
 
   // Renames a file. The system raises an error if the old or the new file is open.
@@ -375,7 +408,7 @@ class WindowsPlatform : public Platform {
     if (!MoveFileExW(old_native.c_str(), new_native.c_str(),
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
       const DWORD code = GetLastError();
-      FailWith(code, code == ERROR_FILE_NOT_FOUND ? old_native : new_native);
+      FailToReach(code, code == ERROR_FILE_NOT_FOUND ? old_native : new_native);
     }
   }
 
@@ -511,7 +544,7 @@ class WindowsPlatform : public Platform {
       Handle for_reading = OpenHandle(native, GENERIC_READ, kShared, OPEN_EXISTING);
       if (for_reading.IsOpen()) return {std::move(for_reading), false};
     }
-    FailWith(code, native);
+    FailToReach(code, native, writes);
   }
 
   std::wstring Resolve(const std::string& path) const {
@@ -583,7 +616,7 @@ std::unique_ptr<Platform> MakePlatform(const std::string& utf8_folder) {
 std::unique_ptr<PlatformFile> CreateOutside(const std::string& utf8_path) {
   const std::wstring native = Native(Plain(Absolute(WideFromUtf8(utf8_path))));
   Handle handle = OpenHandle(native, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, CREATE_NEW);
-  if (!handle.IsOpen()) FailWith(GetLastError(), native);
+  if (!handle.IsOpen()) FailToReach(GetLastError(), native);
   CheckOpened(handle, native);
   return std::make_unique<WindowsFile>(std::move(handle), native, true);
 }

@@ -3,6 +3,10 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
 
 #include "support/files_test.h"
 
@@ -62,19 +66,75 @@ TEST_F(PlatformPosixTest, AScratchFileHasNoName) {
   before == nullptr ? unsetenv("TMPDIR") : setenv("TMPDIR", kept.c_str(), 1);
 }
 
-TEST_F(PlatformPosixTest, AFileThatMayOnlyBeReadIsNotWritable) {
-  constexpr uid_t kNobody = 65534;
-  const uid_t before = geteuid();
-  if (before == 0 && seteuid(kNobody) != 0) GTEST_SKIP() << "The superuser may write every file.";
-  seteuid(before);
-  folder.Write("a.dat", "abc");
-  chmod(folder.Path("a.dat").c_str(), 0444);
-  if (before == 0) seteuid(kNobody);
-  EXPECT_FALSE(real->Open(At("a.dat"), FileAccess::kDefault)->IsWritable());
-  for (const FileAccess access : {FileAccess::kReadWriteShared, FileAccess::kAlone}) {
-    EXPECT_EQ(ErrorOf([&] { real->Open(At("a.dat"), access); }), 75);
+// Drops the rights of the superuser, who may write every file.
+class NormalUser {
+ public:
+  NormalUser() {
+    if (before_ == 0) dropped_ = seteuid(kNobody) == 0;
   }
-  seteuid(before);
+  NormalUser(const NormalUser&) = delete;
+  NormalUser& operator=(const NormalUser&) = delete;
+  ~NormalUser() { seteuid(before_); }
+  bool dropped() const { return dropped_; }
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  const uid_t before_ = geteuid();
+  bool dropped_ = true;
+};
+
+TEST_F(PlatformPosixTest, AccessThatIsRefusedHasAReason) {
+  if (!NormalUser().dropped()) GTEST_SKIP() << "The superuser may write every file.";
+  const std::pair<const char*, mode_t> kFiles[] = {
+      {"marked.dat", 0444}, {"others.dat", 0644}, {"closed.dat", 0200}, {"closed/a.dat", 0666}};
+  for (const auto& [name, mode] : kFiles) {
+    folder.Write(name, "abc");
+    chmod(folder.Path(name).c_str(), mode);
+  }
+  chmod(folder.Path("closed").c_str(), 0555);
+  const bool has_others = geteuid() == 0;
+  auto user = std::make_unique<NormalUser>();
+  EXPECT_FALSE(real->Open(At("marked.dat"), FileAccess::kDefault)->IsWritable());
+  const auto open = [&](const char* name, FileAccess access) {
+    return [this, name, access] { real->Open(At(name), access); };
+  };
+  struct Case {
+    std::function<void()> use;
+    const char* file;
+    const char* reason;
+  };
+  std::vector<Case> cases = {
+      {open("marked.dat", FileAccess::kReadWriteShared), "marked.dat",
+       "The file is marked read-only"},
+      {open("marked.dat", FileAccess::kAlone), "marked.dat", "The file is marked read-only"},
+      {open("closed.dat", FileAccess::kReadOnly), "closed.dat", "has no right to it"},
+      {open("closed.dat", FileAccess::kDefault), "closed.dat", "has no right to it"},
+      {[&] { real->Create(TestPass(), At("closed/new.dat")); }, "closed/new.dat",
+       "may not change its folder"},
+      {[&] { real->CreateFolder(TestPass(), At("closed/new")); }, "closed/new",
+       "may not change its folder"},
+      {[&] { real->Delete(TestPass(), At("closed/a.dat")); }, "closed/a.dat",
+       "may not change its folder"},
+      {[&] { real->Rename(TestPass(), At("closed/a.dat"), At("closed/b.dat")); }, "closed/b.dat",
+       "may not change its folder"},
+  };
+  if (has_others) {
+    cases.push_back(
+        {open("others.dat", FileAccess::kReadWriteShared), "others.dat", "has no right to it"});
+  }
+  for (const Case& c : cases) {
+    try {
+      c.use();
+      ADD_FAILURE() << c.file;
+    } catch (const NumberedError& error) {
+      EXPECT_EQ(error.number(), 75);
+      EXPECT_TRUE(error.description().starts_with("Access to " + At(c.file) + " is refused. "))
+          << error.description();
+      EXPECT_NE(error.description().find(c.reason), std::string::npos) << error.description();
+    }
+  }
+  user.reset();
+  chmod(folder.Path("closed").c_str(), 0755);  // so that it can be deleted
 }
 
 // A file of this kind cannot be synced. The call must end, and its error is raised.

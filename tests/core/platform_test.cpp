@@ -1,5 +1,6 @@
 // These tests check the behaviour that the platform has on every system.
 
+#include "core/platform_errors.h"
 #include "support/files_test.h"
 #include "support/processes.h"
 
@@ -22,6 +23,23 @@ TEST_F(PlatformTest, AFileThatAnotherProgramHoldsIsError70) {
   EXPECT_FALSE(HeldFile(folder.Path("a.dat")).held());  // the open file refuses an exclusive lock
   files.Close(1);
   EXPECT_TRUE(HeldFile(folder.Path("a.dat")).held());
+}
+
+TEST(PlatformErrors, TheProgramsThatHoldAFileAreNamed) {
+  const struct {
+    std::vector<std::string> programs;
+    const char* end;
+  } kCases[] = {{{}, ""},
+                {{"Kelvane"}, " It is Kelvane."},
+                {{"Kelvane", "Backup"}, " They are Kelvane and Backup."},
+                {{"A", "B", "C"}, " They are A, B and C."}};
+  for (const auto& c : kCases) {
+    const NumberedError error = HeldBy("C:\\golf\\a.dat", c.programs);
+    EXPECT_EQ(error.number(), 70);
+    EXPECT_EQ(error.description(),
+              "Another program holds C:\\golf\\a.dat. Close that program, then try again." +
+                  std::string(c.end));
+  }
 }
 
 TEST_F(PlatformTest, AFileThatIsOpenedAloneIsHeldByOneOnly) {

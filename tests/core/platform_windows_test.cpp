@@ -29,6 +29,22 @@ TEST_F(PlatformWindowsTest, AFileThatOthersMayOnlyReadIsReadByDefault) {
   EXPECT_EQ(ErrorOf([&] { files.WriteBytes(1, 1, "xyz"); }), 75);
 }
 
+TEST_F(PlatformWindowsTest, AReadOnlyFileIsNamedAsTheReason) {
+  folder.Write("a.dat", "abc");
+  SetFileAttributesW(Wide("a.dat").c_str(), FILE_ATTRIBUTE_READONLY);
+  try {
+    real->Delete(TestPass(), At("a.dat"));
+    ADD_FAILURE();
+  } catch (const NumberedError& error) {
+    EXPECT_EQ(error.number(), 75);
+    EXPECT_EQ(error.description(),
+              "Access to " + At("a.dat") +
+                  " is refused. The file is marked read-only: remove that mark in its properties, "
+                  "then try again.");
+  }
+  SetFileAttributesW(Wide("a.dat").c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
 TEST_F(PlatformWindowsTest, FoldersEndInOneBackslash) {
   EXPECT_EQ(MakePlatform("C:\\")->ProgramFolder(), "C:\\");
   EXPECT_EQ(MakePlatform("c:/windows")->ProgramFolder(), "c:\\windows\\");
