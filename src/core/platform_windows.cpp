@@ -320,9 +320,10 @@ class WindowsStopWatch : public StopWatch {
   }
   WindowsStopWatch(const WindowsStopWatch&) = delete;
   WindowsStopWatch& operator=(const WindowsStopWatch&) = delete;
+  // NoteStop must return first, since the system does not let a handler be removed while one runs.
   ~WindowsStopWatch() override {
-    SetConsoleCtrlHandler(NoteStop, FALSE);
     stops_watched = false;
+    SetConsoleCtrlHandler(NoteStop, FALSE);
   }
   int Signal() const override { return last_stop; }
 };

@@ -85,6 +85,25 @@ TEST_F(PlatformWindowsTest, TheLockGoesWithTheRun) {
   EXPECT_FALSE(folder.Exists("golf-transfer.lock"));
 }
 
+// The system ends the process when the handler of the event returns, so the handler waits for the
+// run. The end of the run must not wait for the handler.
+TEST_F(PlatformWindowsTest, AClosedConsoleIsNotedAndWaitsForTheRun) {
+  // The system runs this function in a new thread for each event of the console.
+  auto* const deliver = reinterpret_cast<LPTHREAD_START_ROUTINE>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernelbase"), "CtrlRoutine")));
+  ASSERT_NE(deliver, nullptr);
+  auto watch = real->WatchStops();
+  const HANDLE event = CreateThread(nullptr, 0, deliver,
+                                    reinterpret_cast<void*>(DWORD64{CTRL_CLOSE_EVENT}), 0, nullptr);
+  while (watch->Signal() == 0) SwitchToThread();
+  constexpr int kHangUp = 1;
+  EXPECT_EQ(watch->Signal(), kHangUp);
+  EXPECT_EQ(WaitForSingleObject(event, 0), DWORD{WAIT_TIMEOUT});
+  watch.reset();
+  EXPECT_EQ(WaitForSingleObject(event, INFINITE), DWORD{WAIT_OBJECT_0});
+  CloseHandle(event);
+}
+
 TEST_F(PlatformWindowsTest, StartsPrograms) {
   folder.Write("kvm.exe", "no program");
   EXPECT_EQ(ErrorOf([&] { real->StartProgram(At("none.exe"), ""); }), 53);
