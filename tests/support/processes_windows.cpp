@@ -1,4 +1,6 @@
 #define NOMINMAX
+#include "support/processes_windows.h"
+
 #include <windows.h>
 
 #include <filesystem>
@@ -32,8 +34,9 @@ HeldFile::~HeldFile() {
   if (held_) CloseHandle(system_);
 }
 
-Ended RunProgram(const TempFolder& folder, const std::string& program, const std::string& words,
-                 const std::string& input) {
+PROCESS_INFORMATION StartProgramIn(const TempFolder& folder, const std::string& program,
+                                   const std::string& words, const std::string& input,
+                                   DWORD flags) {
   folder.Write("in", input);
   STARTUPINFOW start{};
   start.cb = sizeof start;
@@ -43,7 +46,7 @@ Ended RunProgram(const TempFolder& folder, const std::string& program, const std
   start.hStdError = OpenStream(folder, "problems", GENERIC_WRITE);
   std::wstring line = L"\"" + fs::absolute(program).wstring() + L"\" " + Wide(words);
   PROCESS_INFORMATION process{};
-  const BOOL started = CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
+  const BOOL started = CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, flags, nullptr,
                                       Wide(folder.Path()).c_str(), &start, &process);
   const DWORD failure = GetLastError();
   for (const HANDLE stream : {start.hStdInput, start.hStdOutput, start.hStdError}) {
@@ -52,12 +55,21 @@ Ended RunProgram(const TempFolder& folder, const std::string& program, const std
   if (!started) {
     throw std::runtime_error("cannot start " + program + ": error " + std::to_string(failure));
   }
+  return process;
+}
+
+Ended EndOf(const TempFolder& folder, const PROCESS_INFORMATION& process) {
   DWORD code = 0;
   WaitForSingleObject(process.hProcess, INFINITE);
   GetExitCodeProcess(process.hProcess, &code);
   CloseHandle(process.hThread);
   CloseHandle(process.hProcess);
   return {static_cast<int>(code), folder.Read("out"), folder.Read("problems")};
+}
+
+Ended RunProgram(const TempFolder& folder, const std::string& program, const std::string& words,
+                 const std::string& input) {
+  return EndOf(folder, StartProgramIn(folder, program, words, input, 0));
 }
 
 }  // namespace golf
