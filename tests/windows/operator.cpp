@@ -1,3 +1,8 @@
+// golf_operator PROGRAM INSTALL end-session
+//
+// ends the session of the operator in the preview of a transfer, and again in the menu. It ends the
+// program each time, as the system does, and returns 0 if the program has agreed both times.
+//
 // golf_operator PROGRAM INSTALL [HELD] acts as an operator of the desktop program. It starts the
 // program in the same way as Quenby, opens the course transfer from the menu, and runs the
 // transfer. It prints the box of the transfer in the form of the command line, and closes the menu.
@@ -92,6 +97,9 @@ class Operator {
     Until("end of " + title, [&] { return Find(title) == nullptr; });
   }
 
+  // Ends the program at once.
+  void Kill() { TerminateProcess(program_.hProcess, 0); }
+
   DWORD AwaitEnd() {
     if (WaitForSingleObject(program_.hProcess, kPatience) != WAIT_OBJECT_0) {
       throw std::runtime_error("the program does not end");
@@ -155,11 +163,40 @@ DWORD Work(const std::string& program, const std::string& install, const char* h
   return user.AwaitEnd();
 }
 
+// Ends the session as the system does. The main window is that of the menu.
+void EndSession(Operator& user) {
+  const HWND menu = user.Await("Transfer Menu");
+  if (SendMessageA(menu, WM_QUERYENDSESSION, 0, 0) == 0) {
+    throw std::runtime_error("the program refuses the end of the session");
+  }
+  SendMessageA(menu, WM_ENDSESSION, TRUE, 0);
+  user.Kill();
+  user.AwaitEnd();
+}
+
+DWORD EndSessions(const std::string& command) {
+  {
+    Operator user(command);
+    user.Press("Transfer Menu", "Transfer COURSES to QB");
+    user.Press("Transfer COURSES from Kelvane to Quenby", "Preview...");
+    user.Await("What would change");
+    EndSession(user);
+  }
+  Operator user(command);
+  EndSession(user);
+  return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   if (argc < 3) return 2;
   try {
+    const bool ends_session = argc > 3 && std::string(argv[3]) == "end-session";
+    if (ends_session) {
+      return static_cast<int>(
+          EndSessions("\"" + std::string(argv[1]) + "\" --install \"" + argv[2] + "\" QB"));
+    }
     return static_cast<int>(Work(argv[1], argv[2], argc > 3 ? argv[3] : nullptr));
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
