@@ -16,6 +16,23 @@ as_root() {
   if [[ $(id -u) == 0 ]]; then "$@"; else sudo "$@"; fi
 }
 
+# apt_get ARGUMENTS... runs apt-get as root. While another program holds a lock of apt or dpkg, it
+# tries again for ten minutes. The option DPkg::Lock::Timeout of apt-get waits only for the lock of
+# dpkg, not for those of the lists and the downloads.
+apt_get() {
+  local problems waiting='' end=$((SECONDS + 600))
+  until problems=$(as_root env LC_ALL=C DEBIAN_FRONTEND=noninteractive \
+    apt-get -qq "$@" 2>&1 >/dev/null); do
+    if ((SECONDS >= end)) || ! grep -q '^E: Could not get lock' <<<"$problems"; then
+      printf '%s\n' "$problems" >&2
+      return 1
+    fi
+    [[ $waiting ]] || say "Another program installs packages here: waiting for it, ten minutes at most"
+    waiting=yes
+    sleep 3
+  done
+}
+
 # need_packages NAMES... installs the packages that are missing. It uses the network only if there
 # are any.
 need_packages() {
@@ -30,14 +47,13 @@ need_packages() {
   done
   ((${#missing[@]})) || return 0
   say "Installing ${missing[*]}"
-  as_root apt-get -qq update
-  as_root env DEBIAN_FRONTEND=noninteractive \
-    apt-get -qq install -y --no-install-recommends "${missing[@]}" >/dev/null
+  apt_get update
+  apt_get install -y --no-install-recommends "${missing[@]}"
 }
 
-# build_preset NAME configures and builds build/NAME.
+# build_preset NAME TARGETS... configures build/NAME and builds the targets, or everything.
 build_preset() {
-  say "Building the $1 preset in build/$1"
+  say "Building ${2:+$2 of }the $1 preset in build/$1"
   cmake --preset "$1" >/dev/null
-  cmake --build --preset "$1" --parallel "$(nproc)" -- --quiet
+  cmake --build --preset "$1" --parallel "$(nproc)" ${2:+--target "${@:2}"} -- --quiet
 }
