@@ -7,14 +7,15 @@ else()
   set(GOLF_HOST_CXX ${CMAKE_CXX_COMPILER})
 endif()
 
-# golf_host_tool(SOURCE TOOL) sets the variable TOOL to the program that is built from the source.
+# golf_host_tool(SOURCE TOOL LIBRARIES...) sets the variable TOOL to the program that is built from
+# the source.
 function(golf_host_tool source tool)
   cmake_path(GET source STEM name)
   set(program ${PROJECT_BINARY_DIR}/host_tools/${name})
   add_custom_command(
     OUTPUT ${program}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/host_tools
-    COMMAND ${GOLF_HOST_CXX} -std=c++20 -O2 -o ${program} ${source}
+    COMMAND ${GOLF_HOST_CXX} -std=c++20 -O2 -o ${program} ${source} ${ARGN}
     DEPENDS ${source})
   add_custom_target(golf_${name}_tool DEPENDS ${program})
   set(${tool} ${program} PARENT_SCOPE)

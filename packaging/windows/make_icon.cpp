@@ -1,7 +1,10 @@
 // make_icon FILE draws the icon of the programs, a flag and a ball on a green, and writes it in the
 // sizes that Windows shows.
 
+#include <zlib.h>
+
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <fstream>
@@ -10,8 +13,9 @@
 
 namespace {
 
-constexpr int kSizes[] = {16, 20, 24, 32, 40, 48, 64, 128};
-constexpr int kSamples = 8;  // for each pixel, in each direction
+constexpr int kSizes[] = {16, 20, 24, 32, 40, 48, 64, 128, 256};
+constexpr int kPngSize = 256;  // Windows reads this size as PNG, and smaller ones as bitmaps
+constexpr int kSamples = 8;    // for each pixel, in each direction
 
 struct Colour {
   double red = 0;
@@ -70,10 +74,22 @@ Colour Pixel(int column, int row, int size) {
           sum.cover / (kSamples * kSamples)};
 }
 
+// Returns the red, green, blue and opacity of a pixel, from 0 to 255.
+std::array<std::uint8_t, 4> Channels(int column, int row, int size) {
+  const Colour pixel = Pixel(column, row, size);
+  const auto channel = [](double part) {
+    return static_cast<std::uint8_t>(std::lround(std::min(part, 1.0) * 255));
+  };
+  return {channel(pixel.red), channel(pixel.green), channel(pixel.blue), channel(pixel.cover)};
+}
+
 class Bytes {
  public:
   void Add(std::size_t value, int width) {
     for (int i = 0; i < width; ++i) data_ += static_cast<char>(value >> (8 * i) & 0xFF);
+  }
+  void AddBackwards(std::size_t value, int width) {
+    for (int i = width - 1; i >= 0; --i) data_ += static_cast<char>(value >> (8 * i) & 0xFF);
   }
   void Add(const std::string& bytes) { data_ += bytes; }
   const std::string& data() const { return data_; }
@@ -82,9 +98,9 @@ class Bytes {
   std::string data_;
 };
 
-// Returns a picture in the format of an icon file: the rows from the lowest up, and then an empty
+// Returns a bitmap in the format of an icon file: the rows from the lowest up, and then an empty
 // mask.
-std::string Picture(int size) {
+std::string Bitmap(int size) {
   const auto wide = static_cast<std::size_t>(size);
   Bytes bytes;
   for (const std::size_t value : {std::size_t{40}, wide, 2 * wide}) bytes.Add(value, 4);
@@ -93,14 +109,58 @@ std::string Picture(int size) {
   for (int i = 0; i < 6; ++i) bytes.Add(0, 4);
   for (int row = size - 1; row >= 0; --row) {
     for (int column = 0; column < size; ++column) {
-      const Colour colour = Pixel(column, row, size);
-      for (const double part : {colour.blue, colour.green, colour.red, colour.cover}) {
-        bytes.Add(static_cast<std::size_t>(std::lround(std::min(part, 1.0) * 255)), 1);
-      }
+      const auto [red, green, blue, opacity] = Channels(column, row, size);
+      for (const std::uint8_t channel : {blue, green, red, opacity}) bytes.Add(channel, 1);
     }
   }
   bytes.Add(std::string((wide + 31) / 32 * 4 * wide, '\0'));
   return bytes.data();
+}
+
+const Bytef* BytesOf(const std::string& text) {
+  return reinterpret_cast<const Bytef*>(text.data());
+}
+
+std::string Compressed(const std::string& bytes) {
+  uLongf size = compressBound(bytes.size());
+  std::string compressed(size, '\0');
+  compress2(reinterpret_cast<Bytef*>(compressed.data()), &size, BytesOf(bytes), bytes.size(),
+            Z_BEST_COMPRESSION);
+  compressed.resize(size);
+  return compressed;
+}
+
+void AddChunk(Bytes& png, const std::string& kind, const std::string& data) {
+  png.AddBackwards(data.size(), 4);
+  png.Add(kind + data);
+  png.AddBackwards(crc32(crc32(0, BytesOf(kind), 4), BytesOf(data), static_cast<uInt>(data.size())),
+                   4);
+}
+
+std::string Png(int size) {
+  constexpr char kDifferenceFromRowAbove = 2;
+  std::string rows;
+  std::string above(4 * static_cast<std::size_t>(size), '\0');
+  for (int row = 0; row < size; ++row) {
+    rows += kDifferenceFromRowAbove;
+    for (int column = 0; column < size; ++column) {
+      char* channel_above = &above[4 * static_cast<std::size_t>(column)];
+      for (const std::uint8_t channel : Channels(column, row, size)) {
+        rows += static_cast<char>(channel - *channel_above);
+        *channel_above++ = static_cast<char>(channel);
+      }
+    }
+  }
+  Bytes header;
+  for (int side = 0; side < 2; ++side) header.AddBackwards(static_cast<std::size_t>(size), 4);
+  // 8 bits a channel, red, green, blue and opacity, and the usual methods
+  header.Add(std::string("\x08\x06\0\0\0", 5));
+  Bytes png;
+  png.Add("\x89PNG\r\n\x1A\n");
+  AddChunk(png, "IHDR", header.data());
+  AddChunk(png, "IDAT", Compressed(rows));
+  AddChunk(png, "IEND", "");
+  return png.data();
 }
 
 }  // namespace
@@ -108,13 +168,14 @@ std::string Picture(int size) {
 int main(int argc, char** argv) {
   if (argc != 2) return 2;
   std::vector<std::string> pictures;
-  for (const int size : kSizes) pictures.push_back(Picture(size));
+  for (const int size : kSizes) pictures.push_back(size < kPngSize ? Bitmap(size) : Png(size));
   Bytes icon;
   for (const std::size_t value : {std::size_t{0}, std::size_t{1}, pictures.size()}) {
     icon.Add(value, 2);
   }
   std::size_t place = 6 + 16 * pictures.size();
   for (std::size_t i = 0; i < pictures.size(); ++i) {
+    // A side of 256 is written as 0.
     for (int side = 0; side < 2; ++side) icon.Add(static_cast<std::size_t>(kSizes[i]), 1);
     icon.Add(0, 2);
     icon.Add(1, 2);

@@ -4,7 +4,7 @@ enable_language(RC)
 set(GOLF_PACKAGING ${CMAKE_CURRENT_LIST_DIR})
 
 # A program that runs on the build machine draws the icon.
-golf_host_tool(${GOLF_PACKAGING}/make_icon.cpp make_icon)
+golf_host_tool(${GOLF_PACKAGING}/make_icon.cpp make_icon -lz)
 set(GOLF_ICON ${PROJECT_BINARY_DIR}/golf-transfer.ico)
 add_custom_command(
   OUTPUT ${GOLF_ICON}

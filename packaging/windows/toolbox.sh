@@ -4,7 +4,8 @@
 # which they are built.
 
 windows_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build dpkg-dev tcl zip googletest
-                  libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev libz-mingw-w64-dev libsqlite3-dev)
+                  libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev libz-mingw-w64-dev libsqlite3-dev
+                  zlib1g-dev)
 toolchain=$PWD/cmake/windows.cmake
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/golf-transfer
 
