@@ -15,17 +15,18 @@ constexpr int kLibrariesLines = 12;
 
 void FillAbout(ScreenPanel& panel, About& screen) {
   Binding& binding = panel.binding();
-  const auto below = wxSizerFlags(1).Expand().Border(wxTOP, CloseGap(panel));
+  const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
   const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
   wxStaticText* version = MakeLabel(binding, &panel, screen.VersionLabel);
   MakeBold(*version);
   content->Add(version, wxSizerFlags().Expand());
+  content->Add(MakeLabel(binding, &panel, screen.CopyrightLabel), below);
   const auto add = [&](Label& label, TextBox& text, int lines) {
     content->Add(MakeFieldLabel(binding, &panel, label), group);
     wxTextCtrl* box = NameAfter(binding, label, MakeTextBox(binding, &panel, text, wxTE_MULTILINE));
     SetRoom(panel, *box, kCharacters, lines);
-    content->Add(box, below);
+    content->Add(box, wxSizerFlags(below).Proportion(1));
   };
   add(screen.PlacesLabel, screen.PlacesText, kPlacesLines);
   add(screen.LibrariesLabel, screen.LibrariesText, kLibrariesLines);

@@ -21,20 +21,21 @@ std::string FolderForPages() {
 
 About::About(const ScreenContext& context) : Screen(kName, context) {
   SetCaption("About Golf Transfer");
-  Add({&VersionLabel, &PlacesLabel, &PlacesText, &LibrariesLabel, &LibrariesText, &CopyButton,
-       &ExitButton});
+  Add({&VersionLabel, &CopyrightLabel, &PlacesLabel, &PlacesText, &LibrariesLabel, &LibrariesText,
+       &CopyButton, &ExitButton});
   PlacesText.SetReadOnly(true);
   LibrariesText.SetReadOnly(true);
   ExitButton.SetCancel(true);
   CopyButton.on_click = [this] {
-    host().CopyText(VersionLabel.caption() + "\r\n\r\n" + PlacesText.text() + "\r\n" +
-                    LibrariesText.text());
+    host().CopyText(VersionLabel.caption() + "\r\n" + CopyrightLabel.caption() + "\r\n\r\n" +
+                    PlacesText.text() + "\r\n" + LibrariesText.text());
   };
   ExitButton.on_click = [this] { host().Unload(*this); };
 }
 
 void About::OnLoad() {
   VersionLabel.SetCaption("Golf Transfer " + std::string(ProgramVersion()));
+  CopyrightLabel.SetCaption(std::string(ProgramCopyright()));
   PlacesText.SetText(Places());
   std::string libraries;
   for (const char c : TextFromUtf8(golf::LibrariesText())) {

@@ -4,8 +4,8 @@
 
 namespace golf {
 
-// Shows the version of the program, the folders in which it reads and writes, and the licences of
-// the libraries that are linked into it.
+// Shows the version and the copyright line of the program, the folders in which it reads and
+// writes, and the licences of the libraries that are linked into it.
 class About : public Screen {
  public:
   static constexpr const char* kName = "About";
@@ -16,6 +16,7 @@ class About : public Screen {
   Button* LeaveButton() override { return &ExitButton; }
 
   Label VersionLabel{"VersionLabel"};
+  Label CopyrightLabel{"CopyrightLabel"};
   Label PlacesLabel{"PlacesLabel", "&Where things are"};
   TextBox PlacesText{"PlacesText"};
   Label LibrariesLabel{"LibrariesLabel", "&Licences"};

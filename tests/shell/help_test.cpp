@@ -84,7 +84,8 @@ TEST(HelpTest, AboutShowsAndCopiesThePlacesAndTheLicences) {
     EXPECT_EQ(libraries.find('@'), std::string::npos) << "a version is missing";
     EXPECT_EQ(libraries.find("  "), std::string::npos) << "a version is empty";
     install.host->Press(about, "CopyButton");
-    EXPECT_EQ(install.host->copied(), about.VersionLabel.caption() + "\r\n\r\n" +
+    EXPECT_EQ(install.host->copied(), about.VersionLabel.caption() + "\r\n" +
+                                          about.CopyrightLabel.caption() + "\r\n\r\n" +
                                           about.PlacesText.text() + "\r\n" + libraries);
   });
   EXPECT_EQ(install.events(), (std::vector<std::string>{"open About", "close About"}));

@@ -24,6 +24,8 @@ bool HasHeading(std::string_view id) {
 
 std::string_view ProgramVersion() { return GOLF_VERSION; }
 
+std::string_view ProgramCopyright() { return GOLF_COPYRIGHT; }
+
 std::string LibrariesText() { return std::string(golf_libraries); }
 
 std::string HelpPage() { return std::string(golf_help_page); }

@@ -11,6 +11,9 @@ namespace golf {
 // Returns the number of this version, such as "1.0.0".
 std::string_view ProgramVersion();
 
+// Returns the copyright line of the programs.
+std::string_view ProgramCopyright();
+
 // Returns the names, versions, licences and copyright lines of the libraries that are linked into
 // the programs.
 std::string LibrariesText();
