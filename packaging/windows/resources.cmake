@@ -1,4 +1,4 @@
-# Adds resources to the Windows programs.
+# Adds resources to the Windows programs, and writes the read-me of their zip file.
 
 enable_language(RC)
 set(GOLF_PACKAGING ${CMAKE_CURRENT_LIST_DIR})
@@ -11,6 +11,9 @@ add_custom_command(
   COMMAND ${make_icon} ${GOLF_ICON}
   DEPENDS ${make_icon})
 add_custom_target(golf_icon DEPENDS ${GOLF_ICON})
+
+configure_file(${GOLF_PACKAGING}/read-me.txt ${PROJECT_BINARY_DIR}/read-me.txt @ONLY
+               NEWLINE_STYLE CRLF)
 
 # golf_resources(PROGRAM DESCRIPTION) adds the resources of an executable.
 function(golf_resources program description)
