@@ -26,6 +26,8 @@ if(WIN32)
   # With optimization, this compiler gives false warnings about the value of an empty optional (GCC
   # bug 80635).
   target_compile_options(golf_options INTERFACE -Wno-maybe-uninitialized)
+  # The programs do not depend on the folder of the checkout.
+  target_compile_options(golf_options INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
 endif()
 
 # golf_room(NAME SOURCES... USES targets... HEADERS headers...) creates the static library

@@ -3,7 +3,7 @@
 # in a cache outside the checkout. The name of the cache folder contains a hash of everything from
 # which they are built.
 
-windows_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build dpkg-dev tcl zip googletest
+windows_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build dpkg-dev tcl zip git googletest
                   libwxgtk3.2-dev libcli11-dev nlohmann-json3-dev libz-mingw-w64-dev libsqlite3-dev
                   zlib1g-dev)
 toolchain=$PWD/cmake/windows.cmake
@@ -74,6 +74,8 @@ make_libraries() {
   local work=$libraries.making-$$
   trap "rm -rf '$work'" EXIT
   mkdir "$work"
+  # Messages of wxWidgets name the source file, without the path of this folder.
+  local -x CFLAGS="-ffile-prefix-map=$work/=" CXXFLAGS="-ffile-prefix-map=$work/="
   fetch_sources "$work" "wxwidgets3.2=$(version_of libwxgtk3.2-dev)" \
     "sqlite3=$(version_of libsqlite3-dev)"
   build_for_windows "$work/wxwidgets3.2" "$work/build-wxwidgets" "$work/made" \
@@ -94,4 +96,25 @@ make_libraries() {
 # paths that CMake has stored, since a change of the recipe changes the folder.
 configure_windows() {
   cmake --preset windows --fresh -DCMAKE_PREFIX_PATH="$libraries" >/dev/null
+}
+
+# sources_date prints the date of the sources, in seconds since 1970: that of the last commit, unless
+# the environment names another one.
+sources_date() {
+  if [[ ${SOURCE_DATE_EPOCH:-} ]]; then
+    echo "$SOURCE_DATE_EPOCH"
+  elif ! git log -1 --format=%ct 2>/dev/null; then
+    say "There is no commit here: the files in the zip file get the earliest date of the format" >&2
+    date -u -d 1980-01-01 +%s
+  fi
+}
+
+# make_zip FOLDER ZIP adds a zip file of all files in the folder to the folder. The zip file depends
+# only on the names, the bytes and the date of the sources.
+make_zip() {
+  local date
+  date=$(sources_date)
+  chmod -R u=rwX,go=rX "$1"
+  find "$1" -exec touch -d "@$date" {} +
+  (cd "$1" && find . -type f -printf '%P\n' | LC_ALL=C sort | TZ=UTC zip -q -X "$2" -@)
 }
