@@ -122,16 +122,17 @@ void WalkScores(SharedState& state) {
   for (const int record : {1, 2, 3}) {
     Try([&] { player.GetRecord(record, true); });
     for (int round = 0; round <= 8; ++round) {
-      Json object;
-      Try([&] { AddResults(player, record == 2, round, object); });
-      Need(object.dump(-1, ' ', false, Json::error_handler_t::replace).size() > 0);
+      const Json keys = {{"record", record}};
+      ResultsObject object(keys);
+      Try([&] { object.AddResults(player, record == 2, round); });
     }
   }
   for (const int number : {1, 2}) {
     if (!state.Team1().GetRecord(number)) continue;
     for (int round = 0; round <= 8; ++round) {
-      Json object;
-      Try([&] { AddResults(state.Team1(), round, object); });
+      const Json keys = {{"TeamNumber", number}};
+      ResultsObject object(keys);
+      Try([&] { object.AddResults(state.Team1(), round); });
     }
     const ReportLayout layout;
     Try([&] {
