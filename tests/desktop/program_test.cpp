@@ -50,9 +50,9 @@ constexpr const char* kShortcutCases[][3] = {
     {"C:\\golf.exe", "D:\\", "C:\\golf.exe --install \"D:\\.\""}};
 #else
 wxString ReadShortcut(const wxString& folder, const wxString& name) {
-  const wxScopedCharBuffer path = wxFileName(folder, name, "desktop").GetFullPath().utf8_str();
+  const std::string path = wxFileName(folder, name, "desktop").GetFullPath().utf8_string();
   GKeyFile* const file = g_key_file_new();
-  EXPECT_TRUE(g_key_file_load_from_file(file, path.data(), G_KEY_FILE_NONE, nullptr));
+  EXPECT_TRUE(g_key_file_load_from_file(file, path.c_str(), G_KEY_FILE_NONE, nullptr));
   char* const command = g_key_file_get_string(file, "Desktop Entry", "Exec", nullptr);
   const wxString read = wxString::FromUTF8(command);
   g_free(command);
