@@ -1,5 +1,6 @@
 #include "desktop/invocation.h"
 
+#include <wx/filefn.h>
 #include <wx/msgout.h>
 
 #include <memory>

@@ -5,6 +5,7 @@
 #include <wx/settings.h>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "core/text.h"
@@ -100,6 +101,21 @@ void MakeColumn(wxBoxSizer& row) {
   }
 }
 
+// Folds rows until the window is no wider than its display. A folded row makes the window higher,
+// so that it may need a scroll bar, which makes it wider again.
+void FoldRows(ScreenPanel& panel, const std::function<wxSize()>& needed, const wxSize& most) {
+  constexpr int kMostTimes = 3;
+  for (int i = 0; i < kMostTimes; ++i) {
+    const int lacking = needed().x - most.x;
+    if (lacking <= 0) return;
+    int widest = 0;
+    for (wxBoxSizer* row : panel.folding_rows()) widest = std::max(widest, row->CalcMin().x);
+    for (wxBoxSizer* row : panel.folding_rows()) {
+      if (row->CalcMin().x > widest - lacking) MakeColumn(*row);
+    }
+  }
+}
+
 // Makes the content of the window smaller if the window does not fit on its display.
 void FitToDisplay(ScreenPanel& panel) {
   const wxSize most = MostClientSize(panel.window());
@@ -110,13 +126,7 @@ void FitToDisplay(ScreenPanel& panel) {
     panel.SetTight();
     HalveGaps(panel.window());
   }
-  const int lacking = needed().x - most.x;
-  if (lacking <= 0) return;
-  int widest = 0;
-  for (wxBoxSizer* row : panel.folding_rows()) widest = std::max(widest, row->CalcMin().x);
-  for (wxBoxSizer* row : panel.folding_rows()) {
-    if (row->CalcMin().x > widest - lacking) MakeColumn(*row);
-  }
+  FoldRows(panel, needed, most);
 }
 
 // Returns the needed size within the limit.

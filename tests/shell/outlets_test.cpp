@@ -210,7 +210,7 @@ TEST_F(ExportTest, RefusalsAndCancelledExportsWriteNothing) {
     bool replaces;
     std::string message;  // its end
   } kCases[] = {
-      {0, "", false, "is no name of a new file or folder."},
+      {0, "", false, "Choose where to write first."},
       {0, "old.sqlite", false, "old.sqlite exists. Tick \"Replace\" to replace it."},
       {1, "photos", true,
        "It is not a folder of an earlier export, so the export does not replace "
