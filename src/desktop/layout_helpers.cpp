@@ -5,7 +5,6 @@
 #include <wx/settings.h>
 
 #include <algorithm>
-#include <functional>
 #include <utility>
 
 #include "core/text.h"
@@ -54,14 +53,6 @@ wxSize NeededSize(ScreenPanel& panel, wxSize ScreenPanel::Flexible::*size) {
 
 int ScrollBarWidth() { return wxSystemSettings::GetMetric(wxSYS_VSCROLL_X); }
 
-// Returns the height of a widget that shows this number of lines. The border is no higher than a
-// line. The long lines of a log need a scroll bar.
-int HeightWithFrame(const wxWindow& widget, int lines) {
-  const bool scrolls = widget.HasFlag(wxHSCROLL);
-  return TextHeight(widget, lines + 1) +
-         (scrolls ? wxSystemSettings::GetMetric(wxSYS_HSCROLL_Y, &widget) : 0);
-}
-
 // Adds the width of the scroll bar if the size is higher than the limit.
 wxSize WithScrollBar(const wxSize& limit, const wxSize& size) {
   return {size.x + (size.y > limit.y ? ScrollBarWidth() : 0), size.y};
@@ -101,21 +92,6 @@ void MakeColumn(wxBoxSizer& row) {
   }
 }
 
-// Folds rows until the window is no wider than its display. A folded row makes the window higher,
-// so that it may need a scroll bar, which makes it wider again.
-void FoldRows(ScreenPanel& panel, const std::function<wxSize()>& needed, const wxSize& most) {
-  constexpr int kMostTimes = 3;
-  for (int i = 0; i < kMostTimes; ++i) {
-    const int lacking = needed().x - most.x;
-    if (lacking <= 0) return;
-    int widest = 0;
-    for (wxBoxSizer* row : panel.folding_rows()) widest = std::max(widest, row->CalcMin().x);
-    for (wxBoxSizer* row : panel.folding_rows()) {
-      if (row->CalcMin().x > widest - lacking) MakeColumn(*row);
-    }
-  }
-}
-
 // Makes the content of the window smaller if the window does not fit on its display.
 void FitToDisplay(ScreenPanel& panel) {
   const wxSize most = MostClientSize(panel.window());
@@ -126,7 +102,13 @@ void FitToDisplay(ScreenPanel& panel) {
     panel.SetTight();
     HalveGaps(panel.window());
   }
-  FoldRows(panel, needed, most);
+  const int lacking = needed().x - most.x;
+  if (lacking <= 0) return;
+  int widest = 0;
+  for (wxBoxSizer* row : panel.folding_rows()) widest = std::max(widest, row->CalcMin().x);
+  for (wxBoxSizer* row : panel.folding_rows()) {
+    if (row->CalcMin().x > widest - lacking) MakeColumn(*row);
+  }
 }
 
 // Returns the needed size within the limit.
@@ -166,7 +148,7 @@ int LineWidth(const ScreenPanel& panel, int characters) {
 
 void SetRoom(ScreenPanel& panel, wxWindow& widget) {
   const wxSize preferred = widget.GetMinSize();
-  int height = HeightWithFrame(widget, kLeastLines);
+  int height = TextHeight(widget, kLeastLines + 1);  // with the border
   if (const auto* list = dynamic_cast<wxDataViewCtrl*>(&widget)) {
     height = ListHeight(*list, kLeastLines);
   } else if (const auto* grid = dynamic_cast<wxGrid*>(&widget)) {
