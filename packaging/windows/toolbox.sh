@@ -38,12 +38,12 @@ fetch_sources() {
 }
 
 # build_for_windows SOURCE FOLDER PREFIX OPTIONS... builds the library in SOURCE with CMake in
-# FOLDER and installs it into PREFIX.
+# FOLDER and installs it into PREFIX. The configuration does not contain PREFIX, since wxWidgets would
+# store this path in the programs.
 build_for_windows() {
-  cmake -G Ninja -S "$1" -B "$2" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
-    -DCMAKE_INSTALL_PREFIX="$3" "${@:4}" >"$2.log"
+  cmake -G Ninja -S "$1" -B "$2" -DCMAKE_TOOLCHAIN_FILE="$toolchain" "${@:4}" >"$2.log"
   nice -n 10 cmake --build "$2" -- --quiet >>"$2.log"
-  cmake --install "$2" >>"$2.log"
+  cmake --install "$2" --prefix "$3" >>"$2.log"
 }
 
 # build_sqlite SOURCE PREFIX builds SQLite as a static library and installs it into PREFIX. The
