@@ -1,4 +1,4 @@
-// Makes one table of the rows that the benchmarks have written. Writes it as Markdown and as JSON.
+// Combines the rows of all benchmarks in one table. Writes the table as Markdown and as JSON.
 //
 // report TABLE STORAGE ROWS [STORAGE ROWS]...
 //

@@ -1,6 +1,6 @@
-#include "core/local_time.h"
-
 #include <ctime>
+
+#include "core/local_time.h"
 
 namespace golf {
 

@@ -48,8 +48,8 @@ std::size_t EndOfDifferent(std::string_view a, std::string_view b, std::size_t a
   return at;
 }
 
-// Returns the number of bytes from `at` on that equal the byte at `at`. All bytes of a range are
-// equal if the range equals itself moved by one byte.
+// Returns the number of bytes from `at` on that equal the byte at `at`. They are found by comparing
+// each byte with the next one.
 std::size_t FillLength(std::string_view bytes, std::size_t at) {
   return EndOfEqual(bytes, bytes.substr(1), at) + 1 - at;
 }

@@ -484,7 +484,8 @@ TEST_F(DesktopTest, EscapeMeansNoAlsoIfTheDefaultIsYes) {
   EXPECT_EQ(answers, "NN");
 }
 
-// Returns the line that names a golfer in the question in front, or "none" if there is no question.
+// Returns the line of the open question that names the golfer. Returns "none" if no question is
+// open.
 std::string GolferShown() {
   for (const wxWindow* window : wxTopLevelWindows) {
     const auto* box = dynamic_cast<const wxMessageDialogBase*>(window);

@@ -105,7 +105,8 @@ TEST_F(PickersTest, QuenbyRostersAreKept) {
       if (manager.ButtonFrame.visible()) Press(manager, "NewButton");
       EXPECT_FALSE(manager.LoadButton.IsShown() || manager.grid1.IsUsable());
       manager.Text1[0].SetText(name);
-      for (const std::size_t line : {3u, 4u}) manager.Text1[line].SetText(std::to_string(line) + name);
+      for (const std::size_t line : {3u, 4u})
+        manager.Text1[line].SetText(std::to_string(line) + name);
       Press(manager, "AddEditRosterOK");
     }
     EXPECT_EQ(Column(manager.grid1, 0), "-1;2;3;1;");

@@ -33,8 +33,8 @@ class FindingCounts {
   std::array<std::size_t, 3> counts_{};
 };
 
-// Returns where a finding is in its file, such as "Record 1, Bergstrom, Anna". Returns an empty
-// text if the finding concerns the whole file and has no title.
+// Returns the record and the title of a finding, such as "Record 1, Bergstrom, Anna". Returns an
+// empty text if the finding has neither.
 std::string PlaceInFile(const Finding& finding);
 
 }  // namespace golf

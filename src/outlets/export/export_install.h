@@ -32,9 +32,9 @@ struct ExportRequest {
   ReportProgress report;
   std::function<void(const std::string&)> note;
 };
-// Exports to a target that RefusalOfTarget allows. Replaces what exists there. If an exception ends
-// the export, nothing is left behind after the destructor of the target. Raises the errors of
-// ExportInstall and of NewTarget.
+// Exports to a target that RefusalOfTarget allows. Replaces an existing target. If the export
+// raises an exception, the destructor of the target deletes the files that were written. Raises the
+// errors of ExportInstall and of NewTarget.
 ExportSummary ExportTo(NewTarget& target, const ExportRequest& request);
 
 }  // namespace golf

@@ -252,7 +252,7 @@ bool ReportLayoutExists(FileTable& files, const std::string& folder, const std::
   return files.FileExists(PathOf(folder, name) + '1');
 }
 
-// Reads both files before it writes one, so that a missing file leaves no half of a copy.
+// Reads both files before it writes the first copy. If one of them is missing, nothing is written.
 void CopyReportLayout(FileTable& files, const std::string& folder, const std::string& name,
                       const std::string& copy) {
   const std::string first = BytesOf(files, PathOf(folder, name) + '1');

@@ -23,7 +23,7 @@ class CourseForm : public Screen {
   explicit CourseForm(const ScreenContext& context);
 
   // BeginAdd clears the controls for a new course. BeginEdit fills them from the current record.
-  // BeginView does the same, but the operator can change nothing until the screen is unloaded.
+  // BeginView fills them, too, and locks them until the screen is unloaded.
   void BeginAdd();
   void BeginEdit(std::int32_t number);
   void BeginView(std::int32_t number);

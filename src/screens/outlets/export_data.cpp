@@ -80,7 +80,7 @@ void ExportData::ChooseTarget() {
   if (!path.empty()) TargetText.SetText(path);
 }
 
-// Returns the path in UTF-8. A path without a root is below the proposed folder.
+// Returns the path of the target in UTF-8. A relative path is relative to the proposed folder.
 std::string ExportData::TargetPath() const {
   const std::string path = Utf8FromText(TargetText.text());
   return path.empty() || IsWholePath(path) ? path : Utf8FromText(folder_) + path;

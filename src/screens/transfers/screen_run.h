@@ -65,8 +65,8 @@ class ScreenRun : public RunHost {
               const CommitRetry& retry = nullptr);
 
  private:
-  // Returns the golfer of the current group if a question does not name him, or an empty text. The
-  // screen may still show the golfer before him.
+  // Returns the golfer of the current group. Returns an empty text if the question already names
+  // him. The label Working may still show the previous golfer.
   std::string GolferOf(std::string_view question) const;
 
   SharedState& state_;
