@@ -57,6 +57,13 @@ class FileTable {
   void Write(int number, std::int64_t record, const Record<Layout>& from) {
     WriteBytes(number, record, from.Bytes());
   }
+  // Reads the record up to the end of a field that is no table, and changes no other byte of `into`.
+  template <FieldName kLast, class Layout>
+  void ReadUntil(int number, std::int64_t record, Record<Layout>& into) {
+    constexpr Field kField = FieldOf<Layout, kLast>();
+    static_assert(kField.rank == 0);
+    ReadBytes(number, record, into.MutableBytes().first(kField.offset + kField.width));
+  }
   void ReadBytes(int number, std::int64_t record, std::span<char> into);
   void WriteBytes(int number, std::int64_t record, std::string_view from);
 

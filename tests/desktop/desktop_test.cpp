@@ -1,4 +1,3 @@
-#include <wx/frame.h>
 #include <wx/menu.h>
 #include <wx/stattext.h>
 
@@ -89,21 +88,6 @@ class DesktopTest : public testing::Test {
           EXPECT_EQ(dynamic_cast<wxTextCtrl&>(*Operator::Find("Message")).GetValue(), text);
         });
   }
-  // Opens a menu of the first window, calls `check`, and chooses an entry.
-  void ChooseInMenu(std::size_t number, std::size_t entry,
-                    const std::function<void(const wxMenu&, const wxMenuItem&)>& check) {
-    user.When(
-        "the menu", [] { return Operator::Find("ExitButton") != nullptr; },
-        [=] {
-          auto& frame = dynamic_cast<wxFrame&>(WindowOf("ExitButton"));
-          wxMenu& menu = *frame.GetMenuBar()->GetMenu(number);
-          wxMenuEvent opened(wxEVT_MENU_OPEN, 0, &menu);
-          frame.HandleWindowEvent(opened);
-          const wxMenuItem& item = *menu.FindItemByPosition(entry);
-          check(menu, item);
-          frame.CallAfter([&frame, id = item.GetId()] { frame.ProcessCommand(id); });
-        });
-  }
   void ExpectThreeCourses() {
     user.Answer("Course transfer complete.",
                 "Number of courses ADDED: 3\nNumber of courses UPDATED: 0\n");
@@ -148,7 +132,7 @@ TEST_F(DesktopTest, F1OpensTheHelpAtTheWindowInFront) {
   leave("ExitButton", "KVtoQB");
   user.Type("KVtoQBButton", WXK_F1);
   await_page();
-  ChooseInMenu(2, 0, [](const wxMenu& menu, const wxMenuItem& entry) {
+  user.ChooseInMenu(2, 0, [](const wxMenu& menu, const wxMenuItem& entry) {
     EXPECT_EQ(menu.GetTitle(), "H&elp");
     EXPECT_EQ(entry.GetItemLabel(), "&Contents\tF1");
   });
@@ -278,7 +262,7 @@ TEST_F(DesktopTest, NamesAMissingSiblingAndClosesByItsWindow) {
 }
 
 TEST_F(DesktopTest, AsksForALibraryAndFillsAScorecard) {
-  ChooseInMenu(0, 2, [](const wxMenu& tools, const wxMenuItem&) {
+  user.ChooseInMenu(0, 2, [](const wxMenu& tools, const wxMenuItem&) {
     EXPECT_EQ(tools.GetMenuItemCount(), 8u);  // only Kelvane has a course library
   });
   user.Answer(
@@ -420,7 +404,7 @@ TEST_F(DesktopTest, TransfersGolfers) {
 // Transfers the courses from the list of a preview, undoes the transfer, and looks at both runs.
 TEST_F(DesktopTest, PreviewsATransferAndUndoesIt) {
   const auto choose = [&](std::size_t entry, const std::string& caption) {
-    ChooseInMenu(1, entry, [caption](const wxMenu&, const wxMenuItem& item) {
+    user.ChooseInMenu(1, entry, [caption](const wxMenu&, const wxMenuItem& item) {
       EXPECT_EQ(item.GetItemLabel().utf8_string(), caption);
       EXPECT_EQ(item.IsEnabled(), !caption.ends_with("transfer..."));
     });

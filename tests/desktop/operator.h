@@ -5,6 +5,8 @@
 #include <wx/dataview.h>
 #include <wx/eventfilter.h>
 #include <wx/evtloop.h>
+#include <wx/frame.h>
+#include <wx/menu.h>
 #include <wx/modalhook.h>
 #include <wx/msgdlg.h>
 #include <wx/statbmp.h>
@@ -84,6 +86,22 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
           const wxRect cell = CellOf(*list(), 0, column);
           MoveTo(*list()->GetMainWindow(), {cell.x, 0, cell.width, cell.y});
           Click();
+        });
+  }
+  // Opens a menu of the main window, calls `check`, and chooses an entry. Menus and entries count
+  // from 0.
+  void ChooseInMenu(std::size_t number, std::size_t entry,
+                    const std::function<void(const wxMenu&, const wxMenuItem&)>& check) {
+    When(
+        "the menu", [] { return FrontFrame() != nullptr; },
+        [=] {
+          wxFrame& frame = *FrontFrame();
+          wxMenu& menu = *frame.GetMenuBar()->GetMenu(number);
+          wxMenuEvent opened(wxEVT_MENU_OPEN, 0, &menu);
+          frame.HandleWindowEvent(opened);
+          const wxMenuItem& item = *menu.FindItemByPosition(entry);
+          check(menu, item);
+          frame.CallAfter([&frame, id = item.GetId()] { frame.ProcessCommand(id); });
         });
   }
   // Presses the button of the menu that ends the program, and runs the program until then.
@@ -218,6 +236,11 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
   static wxRect CellOf(const wxDataViewCtrl& list, int row, int column) {
     return list.GetItemRect(ModelOf(list).GetItem(static_cast<unsigned>(row)),
                             list.GetColumn(static_cast<unsigned>(column)));
+  }
+  // Returns the main window if no other screen is before it, or else null.
+  static wxFrame* FrontFrame() {
+    auto* frame = dynamic_cast<wxFrame*>(wxGetTopLevelParent(Find("ExitButton")));
+    return frame == nullptr || frame->GetMenuBar() == nullptr ? nullptr : frame;
   }
   static bool CanBeUsed(const wxWindow* widget) { return widget != nullptr && widget->IsEnabled(); }
   // Returns the text control of an input box, or null for any other dialog.

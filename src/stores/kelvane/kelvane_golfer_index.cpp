@@ -9,9 +9,11 @@
 namespace golf {
 
 void KelvaneGolferIndex::Read() {
-  Record<KelvaneGolferLayout> golfer;
+  Record<KelvaneGolferLayout> golfer;  // only its beginning is needed
+  static_assert(FieldOf<KelvaneGolferLayout, "Status">().offset <
+                FieldOf<KelvaneGolferLayout, "IDNum">().offset);
   unread_ = TakeRecords(1, KVGolferPlaces(state_), [&](std::int32_t place) {
-    state_.files.Read(kKelvaneGolferFile, place, golfer);
+    state_.files.ReadUntil<"IDNum">(kKelvaneGolferFile, place, golfer);
     if (IsGolfer(golfer)) golfers_.push_back({golfer.Get<"IDNum">(), place});
   });
   std::sort(golfers_.begin(), golfers_.end());
