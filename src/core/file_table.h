@@ -57,7 +57,8 @@ class FileTable {
   void Write(int number, std::int64_t record, const Record<Layout>& from) {
     WriteBytes(number, record, from.Bytes());
   }
-  // Reads the record up to the end of a field that is no table, and changes no other byte of `into`.
+  // Reads the record up to the end of a field that is no table, and changes no other byte of
+  // `into`.
   template <FieldName kLast, class Layout>
   void ReadUntil(int number, std::int64_t record, Record<Layout>& into) {
     constexpr Field kField = FieldOf<Layout, kLast>();

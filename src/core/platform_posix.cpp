@@ -20,6 +20,7 @@
 #include "core/code_page.h"
 #include "core/platform.h"
 #include "core/platform_errors.h"
+#include "core/stop_watch.h"
 #include "core/text.h"
 
 extern char** environ;
@@ -212,35 +213,6 @@ class PosixRunLock : public RunLock {
 
  private:
   Descriptor folder_;  // closing it releases the lock
-};
-
-constexpr int kStopSignals[] = {SIGINT, SIGTERM, SIGHUP};
-volatile std::sig_atomic_t last_stop = 0;  // a signal handler may safely access only this type
-
-class PosixStopWatch : public StopWatch {
- public:
-  PosixStopWatch() {
-    last_stop = 0;
-    struct sigaction note {};
-    note.sa_handler = [](int signal) { last_stop = signal; };
-    sigemptyset(&note.sa_mask);
-    note.sa_flags = SA_RESTART;
-    for (std::size_t i = 0; i < before_.size(); ++i) {
-      sigaction(kStopSignals[i], nullptr, &before_[i]);
-      if (before_[i].sa_handler != SIG_IGN) sigaction(kStopSignals[i], &note, nullptr);
-    }
-  }
-  PosixStopWatch(const PosixStopWatch&) = delete;
-  PosixStopWatch& operator=(const PosixStopWatch&) = delete;
-  ~PosixStopWatch() override {
-    for (std::size_t i = 0; i < before_.size(); ++i) {
-      sigaction(kStopSignals[i], &before_[i], nullptr);
-    }
-  }
-  int Signal() const override { return last_stop; }
-
- private:
-  std::array<struct sigaction, std::size(kStopSignals)> before_{};
 };
 
 std::string NameOf(const fs::directory_entry& entry) {
@@ -453,7 +425,7 @@ class PosixPlatform : public Platform {
     throw AnotherRun(folder);
   }
 
-  std::unique_ptr<StopWatch> WatchStops() override { return std::make_unique<PosixStopWatch>(); }
+  std::unique_ptr<StopWatch> WatchStops() override { return MakeStopWatch(); }
 
   void StartProgram(const std::string& path, const std::string& arguments) override {
     std::string program = Resolve(path);

@@ -1,6 +1,6 @@
 #include "desktop/accessible.h"
+#include "desktop/labelled.h"
 #include "desktop/layout_helpers.h"
-#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/outlets/check_data.h"
@@ -8,10 +8,8 @@
 namespace golf {
 namespace {
 
-constexpr int kRowsSeen = 10;
-constexpr int kCharacters = 130;
-constexpr int kDetailCharacters = 80;
-constexpr int kDetailLines = 4;
+constexpr Room kFindings{.characters = 130, .lines = 10, .share = 3};
+constexpr Room kDetail{.characters = 80, .lines = 4, .share = 1};
 
 wxSizer* Kinds(ScreenPanel& panel, CheckData& screen) {
   Binding& binding = panel.binding();
@@ -40,21 +38,14 @@ void FillCheckData(ScreenPanel& panel, CheckData& screen) {
   const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
   AddCancellableRun(*content, panel, screen.CheckButton, screen.run);
-  wxStaticText* summary =
-      MakeWrappedLabel(binding, &panel, screen.SummaryLabel, LineWidth(panel, kCharacters));
+  wxStaticText* summary = MakeWrappedLabel(binding, &panel, screen.SummaryLabel,
+                                           LineWidth(panel, kFindings.characters));
   MakeBold(*summary);
   content->Add(summary, group);
   content->Add(Kinds(panel, screen), below);
-  content->Add(MakeFieldLabel(binding, &panel, screen.FindingLabel), group);
-  wxDataViewCtrl* list =
-      MakeList(binding, &panel, screen.FindingList, SelectedRows::kOne, kRowsSeen);
-  SetRoom(panel, *NameAfter(binding, screen.FindingLabel, list), kCharacters, kRowsSeen);
-  content->Add(list, wxSizerFlags(below).Proportion(3));
-  content->Add(MakeFieldLabel(binding, &panel, screen.DetailLabel), group);
-  wxTextCtrl* detail = NameAfter(binding, screen.DetailLabel,
-                                 MakeTextBox(binding, &panel, screen.DetailText, wxTE_MULTILINE));
-  SetRoom(panel, *detail, kDetailCharacters, kDetailLines);
-  content->Add(detail, wxSizerFlags(below).Proportion(1));
+  AddLabelledList(*content, panel, screen.FindingLabel, screen.FindingList, SelectedRows::kOne,
+                  kFindings);
+  AddLabelledText(*content, panel, screen.DetailLabel, screen.DetailText, kDetail);
   AddToFoot(panel, Buttons(panel, screen));
   FinishWindow(panel, content);
 }

@@ -1,6 +1,6 @@
 #include "desktop/accessible.h"
+#include "desktop/labelled.h"
 #include "desktop/layout_helpers.h"
-#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/courses/deleted_courses.h"
@@ -8,14 +8,12 @@
 namespace golf {
 namespace {
 
-constexpr int kRowsSeen = 10;
-constexpr int kCharacters = 70;
+constexpr Room kList{.characters = 70, .lines = 10, .share = 1};
 
 }  // namespace
 
 void FillDeletedCourses(ScreenPanel& panel, DeletedCourses& screen) {
   Binding& binding = panel.binding();
-  const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
   auto* library = new wxBoxSizer(wxHORIZONTAL);
   library->Add(MakeFieldLabel(binding, &panel, screen.LibraryLabel),
                wxSizerFlags().CentreVertical());
@@ -24,13 +22,9 @@ void FillDeletedCourses(ScreenPanel& panel, DeletedCourses& screen) {
       wxSizerFlags().CentreVertical().Border(wxLEFT, CloseGap(panel)));
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(library);
-  content->Add(MakeFieldLabel(binding, &panel, screen.ListLabel),
-               wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel)));
-  wxDataViewCtrl* list =
-      MakeList(binding, &panel, screen.CourseList, SelectedRows::kOne, kRowsSeen);
-  SetRoom(panel, *NameAfter(binding, screen.ListLabel, list), kCharacters, kRowsSeen);
-  content->Add(list, wxSizerFlags(below).Proportion(1));
-  content->Add(MakeLabel(binding, &panel, screen.NoteLabel), below);
+  AddLabelledList(*content, panel, screen.ListLabel, screen.CourseList, SelectedRows::kOne, kList);
+  content->Add(MakeLabel(binding, &panel, screen.NoteLabel),
+               wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel)));
   AddToFoot(panel, ButtonRow({.cancel = MakeButton(binding, panel.foot(), screen.ExitButton),
                               .aside = {MakeButton(binding, panel.foot(), screen.RestoreButton)}}));
   FinishWindow(panel, content);

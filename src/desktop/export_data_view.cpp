@@ -1,6 +1,6 @@
 #include "desktop/accessible.h"
+#include "desktop/labelled.h"
 #include "desktop/layout_helpers.h"
-#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/outlets/export_data.h"
@@ -8,10 +8,9 @@
 namespace golf {
 namespace {
 
-constexpr int kRowsSeen = 8;
-constexpr int kCharacters = 90;
+constexpr Room kTables{.characters = 90, .lines = 8, .share = 2};
+constexpr Room kNotes{.characters = 90, .lines = 4, .share = 1};
 constexpr int kTargetCharacters = 50;
-constexpr int kNotesLines = 4;
 
 // Lays out the format and the target, each with its name before it.
 wxSizer* Choices(ScreenPanel& panel, ExportData& screen) {
@@ -46,7 +45,7 @@ wxSizer* Ticks(ScreenPanel& panel, ExportData& screen) {
 
 void FillExportData(ScreenPanel& panel, ExportData& screen) {
   Binding& binding = panel.binding();
-  const int width = LineWidth(panel, kCharacters);
+  const int width = LineWidth(panel, kTables.characters);
   const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
   const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
@@ -59,16 +58,9 @@ void FillExportData(ScreenPanel& panel, ExportData& screen) {
   wxStaticText* summary = MakeWrappedLabel(binding, &panel, screen.SummaryLabel, width);
   MakeBold(*summary);
   content->Add(summary, group);
-  content->Add(MakeFieldLabel(binding, &panel, screen.TableLabel), group);
-  wxDataViewCtrl* tables =
-      MakeList(binding, &panel, screen.TableList, SelectedRows::kSeveral, kRowsSeen);
-  SetRoom(panel, *NameAfter(binding, screen.TableLabel, tables), kCharacters, kRowsSeen);
-  content->Add(tables, wxSizerFlags(below).Proportion(2));
-  content->Add(MakeFieldLabel(binding, &panel, screen.NotesLabel), group);
-  wxTextCtrl* notes = NameAfter(binding, screen.NotesLabel,
-                                MakeTextBox(binding, &panel, screen.NotesText, wxTE_MULTILINE));
-  SetRoom(panel, *notes, kCharacters, kNotesLines);
-  content->Add(notes, wxSizerFlags(below).Proportion(1));
+  AddLabelledList(*content, panel, screen.TableLabel, screen.TableList, SelectedRows::kSeveral,
+                  kTables);
+  AddLabelledText(*content, panel, screen.NotesLabel, screen.NotesText, kNotes);
   AddToFoot(panel, ButtonRow({.cancel = MakeButton(binding, panel.foot(), screen.ExitButton)}));
   FinishWindow(panel, content);
 }

@@ -51,6 +51,14 @@ wxSize NeededSize(ScreenPanel& panel, wxSize ScreenPanel::Flexible::*size) {
   return {std::max(content.x, foot.x), content.y + foot.y};
 }
 
+// Returns the height of a text that shows this number of lines. Its borders together are no higher
+// than half a line. The long lines of a log need a scroll bar.
+int HeightWithFrame(const wxWindow& text, int lines) {
+  const int bar =
+      text.HasFlag(wxHSCROLL) ? wxSystemSettings::GetMetric(wxSYS_HSCROLL_Y, &text) : 0;
+  return TextHeight(text, lines) + TextHeight(text, 1) / 2 + bar;
+}
+
 int ScrollBarWidth() { return wxSystemSettings::GetMetric(wxSYS_VSCROLL_X); }
 
 // Adds the width of the scroll bar if the size is higher than the limit.
@@ -148,7 +156,7 @@ int LineWidth(const ScreenPanel& panel, int characters) {
 
 void SetRoom(ScreenPanel& panel, wxWindow& widget) {
   const wxSize preferred = widget.GetMinSize();
-  int height = TextHeight(widget, kLeastLines + 1);  // with the border
+  int height = HeightWithFrame(widget, kLeastLines);
   if (const auto* list = dynamic_cast<wxDataViewCtrl*>(&widget)) {
     height = ListHeight(*list, kLeastLines);
   } else if (const auto* grid = dynamic_cast<wxGrid*>(&widget)) {

@@ -1,6 +1,6 @@
 #include "desktop/accessible.h"
+#include "desktop/labelled.h"
 #include "desktop/layout_helpers.h"
-#include "desktop/list_widget.h"
 #include "desktop/views.h"
 #include "desktop/widgets.h"
 #include "screens/history/transfer_history.h"
@@ -8,8 +8,7 @@
 namespace golf {
 namespace {
 
-constexpr int kRowsSeen = 7;
-constexpr int kCharacters = 110;
+constexpr Room kRuns{.characters = 110, .lines = 7, .share = 3};
 constexpr int kReportCharacters = 80;
 constexpr int kReportLines = 8;
 
@@ -30,10 +29,7 @@ void FillTransferHistory(ScreenPanel& panel, TransferHistory& screen) {
   const auto below = wxSizerFlags().Expand().Border(wxTOP, CloseGap(panel));
   const auto group = wxSizerFlags().Expand().Border(wxTOP, GroupGap(panel));
   auto* content = new wxBoxSizer(wxVERTICAL);
-  content->Add(MakeFieldLabel(binding, &panel, screen.ListLabel));
-  wxDataViewCtrl* list = MakeList(binding, &panel, screen.RunList, SelectedRows::kOne, kRowsSeen);
-  SetRoom(panel, *NameAfter(binding, screen.ListLabel, list), kCharacters, kRowsSeen);
-  content->Add(list, wxSizerFlags(below).Proportion(3));
+  AddLabelledList(*content, panel, screen.ListLabel, screen.RunList, SelectedRows::kOne, kRuns);
   content->Add(MakeFieldLabel(binding, &panel, screen.ReportLabel), group);
   content->Add(
       NameAfter(binding, screen.ReportLabel,

@@ -45,6 +45,13 @@ void Grid::SetRows(int rows) {
   Repaint();
 }
 
+void Grid::MakeList(std::initializer_list<std::string> headings) {
+  SetHidden(0, true);
+  int column = 0;
+  for (const std::string& heading : headings) SetHeading(++column, heading);
+  LockAllColumns();
+}
+
 void Grid::SetHeading(int column, std::string heading) {
   Column(column).heading = std::move(heading);
   Repaint();

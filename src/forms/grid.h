@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <map>
 #include <string>
 #include <vector>
@@ -65,6 +66,9 @@ class Grid : public Control {
   void LockAllColumns() {
     for (int column = 0; column <= columns_; ++column) LockColumn(column, true);
   }
+  // Makes the grid a read-only list. The headings are those of the columns from 1 on. Column 0 is
+  // hidden.
+  void MakeList(std::initializer_list<std::string> headings);
   void LockRow(int row, bool locked) { locked_rows_[row] = locked; }
 
   // Returns the active row, from 1, or 0 if no row is active. SetActiveRow calls on_row_change. It

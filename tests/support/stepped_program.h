@@ -7,12 +7,19 @@
 
 namespace golf {
 
-// Runs a program on Windows as RunProgram does, and as its debugger. Calls `kills_before` before
-// each call to the system that opens or changes a file: a write, a flush, a new name or length, or
-// a deletion. Kills the program there if the function returns true. The number of the call counts
-// from 1.
+// Tells what happens to a program before a call to the system.
+enum class AtCall {
+  kGoOn,
+  kKill,          // ends it at once
+  kLoseDrive,     // lets this call and all later ones for files of the folder "i" fail
+  kCloseConsole,  // reports to it that its console closes
+};
+
+// Runs a program on Windows as RunProgram does, and as its debugger. Calls `at_call` before each
+// call to the system that opens or changes a file: a write, a flush, a new name or length, or a
+// deletion. The number of the call counts from 1.
 Ended RunStepped(const TempFolder& folder, const std::string& program, const std::string& words,
-                 const std::function<bool(int call)>& kills_before);
+                 const std::function<AtCall(int call)>& at_call);
 
 // Is the exit code of a killed program.
 inline constexpr int kKilledCode = 99;

@@ -15,12 +15,7 @@ DeletedCourses::DeletedCourses(const ScreenContext& context)
   SetCaption("Deleted courses");
   Add({&LibraryLabel, &LibraryList, &ListLabel, &CourseList, &NoteLabel, &RestoreButton,
        &ExitButton});
-  CourseList.SetHidden(0, true);
-  CourseList.SetHeading(kNumberColumn, "Number");
-  CourseList.SetHeading(kNameColumn, "Course Name");
-  CourseList.SetHeading(kHolesColumn, "# of holes");
-  CourseList.SetHeading(kCityColumn, "City");
-  CourseList.LockAllColumns();
+  CourseList.MakeList({"Number", "Course Name", "# of holes", "City"});
   ExitButton.SetCancel(true);
   LibraryList.on_click = [this] { OpenLibrary(); };
   CourseList.on_double_click = [this] { Restore(); };

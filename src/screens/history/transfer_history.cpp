@@ -14,13 +14,7 @@ TransferHistory::TransferHistory(const ScreenContext& context)
   SetCaption("Transfers");
   Add({&ListLabel, &RunList, &ReportLabel, &ReportText, &ChangesButton, &UndoButton, &CopyButton,
        &SaveButton, &ForgetButton, &ExitButton});
-  RunList.SetHidden(0, true);
-  RunList.SetHeading(kWhenColumn, "When");
-  RunList.SetHeading(kTransferColumn, "Transfer");
-  RunList.SetHeading(kAboutColumn, "About");
-  RunList.SetHeading(kChangesColumn, "Changes");
-  RunList.SetHeading(kStateColumn, "State");
-  RunList.LockAllColumns();
+  RunList.MakeList({"When", "Transfer", "About", "Changes", "State"});
   ReportText.SetReadOnly(true);
   ExitButton.SetCancel(true);
   RunList.on_row_change = [this] { ShowRun(); };

@@ -17,14 +17,7 @@ CheckData::CheckData(const ScreenContext& context)
   Add({&CheckButton, &run.Working, &run.CancelButton, &SummaryLabel, &KindLabel, &KindList,
        &FindingLabel, &FindingList, &DetailLabel, &DetailText, &OpenButton, &CopyButton,
        &SaveButton, &ExitButton});
-  FindingList.SetHidden(0, true);
-  FindingList.SetHeading(kSeverityColumn, "Severity");
-  FindingList.SetHeading(kKindColumn, "Kind");
-  FindingList.SetHeading(kFileColumn, "File");
-  FindingList.SetHeading(kRecordColumn, "Record");
-  FindingList.SetHeading(kTitleColumn, "Name");
-  FindingList.SetHeading(kTextColumn, "Finding");
-  FindingList.LockAllColumns();
+  FindingList.MakeList({"Severity", "Kind", "File", "Record", "Name", "Finding"});
   DetailText.SetReadOnly(true);
   CheckButton.SetDefault(true);
   CheckButton.on_click = [this] { Check(); };

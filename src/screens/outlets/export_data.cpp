@@ -40,10 +40,7 @@ ExportData::ExportData(const ScreenContext& context)
        &TableLabel, &TableList, &NotesLabel, &NotesText, &ExitButton});
   for (const Format& format : kFormats) FormatList.AddItem(format.text);
   FormatList.Select(0);
-  TableList.SetHidden(0, true);
-  TableList.SetHeading(kTableColumn, "Table");
-  TableList.SetHeading(kRowsColumn, "Rows");
-  TableList.LockAllColumns();
+  TableList.MakeList({"Table", "Rows"});
   MessageLabel.SetVisible(false);
   NotesText.SetReadOnly(true);
   ExportButton.SetDefault(true);

@@ -39,10 +39,7 @@ LoadRoster::LoadRoster(const ScreenContext& context) : Screen(kName, context) {
   Add({&Label1, &DataPathLabel, &grid1, &LoadButton, &NewButton, &DeleteButton, &RepairButton,
        &CancelButton, &NewRosterFrame});
   AddInto(NewRosterFrame, {&InputTitle, &NameLabel, &NewRosterName, &OK2Button, &Cancel2Button});
-  grid1.SetHeading(kTypeColumn, "Type");
-  grid1.SetHeading(kNameColumn, "  Roster Name");
-  grid1.SetHidden(0, true);
-  grid1.LockAllColumns();
+  grid1.MakeList({"Type", "  Roster Name"});
   RepairButton.SetVisible(false);
   ShowNewRosterFrame(false);
   NewRosterName.key_filter = [](char key) { return FilterKey(key, kKeyAllowsBlank); };
