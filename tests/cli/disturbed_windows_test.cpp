@@ -52,18 +52,18 @@ TEST_F(DisturbedTest, AKilledRunIsRecoveredAsAWhole) {
 }
 
 TEST_F(DisturbedTest, ARunOnADriveThatGoesAwayIsRecoveredAsAWhole) {
-  DisturbEach(AtCall::kLoseDrive, [this](const Ended& run) {
-    if (run.code != 0) EXPECT_EQ(run.code, 3) << run.problems;
-    if (run.code == 0) EXPECT_TRUE(Data() == after_);
-  });
+  DisturbEach(AtCall::kLoseDrive, [](const Ended& run) { EXPECT_EQ(run.code, 3); });
   EXPECT_GT(recovered_, 2);
   EXPECT_GT(kept_, 2);
   EXPECT_GT(done_, 2);
 }
 
-// The run ends before the process does, so there is nothing to recover.
+// The run ends before the process does, so there is nothing to recover. The system may end the
+// process, with the code 0 under Wine, before the program returns its own code.
 TEST_F(DisturbedTest, AClosedConsoleEndsTheRunInOrder) {
-  DisturbEach(AtCall::kCloseConsole, [](const Ended&) {});
+  DisturbEach(AtCall::kCloseConsole, [](const Ended& run) {
+    EXPECT_TRUE(run.code == 0 || run.code == 129) << run.code << " " << run.problems;
+  });
   EXPECT_EQ(recovered_, 0);
   EXPECT_GT(kept_, 2);
   EXPECT_GT(done_, 2);

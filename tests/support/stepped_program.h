@@ -11,7 +11,7 @@ namespace golf {
 enum class AtCall {
   kGoOn,
   kKill,          // ends it at once
-  kLoseDrive,     // lets this call and all later ones for files of the folder "i" fail
+  kLoseDrive,     // lets this call and all later ones fail, as if the drive had gone
   kCloseConsole,  // reports to it that its console closes
 };
 
