@@ -156,9 +156,10 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
         [=, this] { return EntryOf(dialogs_.back())->GetValue().Contains(typed); },
         [=, this] {
           EXPECT_EQ(EntryOf(dialogs_.back())->GetValue().utf8_string(), typed);
+          answered_ = opened_;
           TypeNow(WXK_RETURN);
         });
-    Await("end of box " + title, [this] { return !SeesBox(); });
+    AwaitEndOfBox(title);
   }
   // Types a key when a widget of this name is visible and enabled.
   void Type(const std::string& name, int key) {

@@ -8,6 +8,7 @@
 
 #include "desktop/demo_desktop.h"
 #include "desktop/operator.h"
+#include "screens/courses/deleted_courses.h"
 
 namespace golf {
 namespace {
@@ -122,8 +123,10 @@ TEST_F(WindowToolsTest, RestoresADeletedCourse) {
   Leave("CloseButton", "CourseTable");
   OpenTool(5, "&Deleted courses...");
   AwaitRows("CourseList", 2);
-  user.Next([&] { deleted = Data(); });
-  user.PressCell("CourseList", 1, 0);
+  user.Next([&] {
+    deleted = Data();
+    Load<DeletedCourses>(demo.host).CourseList.SetActiveRow(2);
+  });
   user.Press("RestoreButton");
   user.Answer("Restore course",
               "Restore the course Ash Ridge Municipal in Kelvane's course library?\n\nClose Kelvane before "
