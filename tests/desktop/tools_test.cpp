@@ -9,6 +9,7 @@
 #include "desktop/demo_desktop.h"
 #include "desktop/operator.h"
 #include "screens/courses/deleted_courses.h"
+#include "screens/outlets/export_data.h"
 
 namespace golf {
 namespace {
@@ -128,10 +129,11 @@ TEST_F(WindowToolsTest, RestoresADeletedCourse) {
     Load<DeletedCourses>(demo.host).CourseList.SetActiveRow(2);
   });
   user.Press("RestoreButton");
-  user.Answer("Restore course",
-              "Restore the course Ash Ridge Municipal in Kelvane's course library?\n\nClose Kelvane before "
-              "you go on. The menu History can undo this.",
-              'Y', wxMOD_ALT);
+  user.Answer(
+      "Restore course",
+      "Restore the course Ash Ridge Municipal in Kelvane's course library?\n\nClose Kelvane before "
+      "you go on. The menu History can undo this.",
+      'Y', wxMOD_ALT);
   AwaitRows("CourseList", 1);
   Leave("ExitButton", "DeletedCourses");
   const auto before = Data();
@@ -147,12 +149,38 @@ TEST_F(WindowToolsTest, DuplicatesAndDeletesALayout) {
   user.Await("the copy", [&] { return demo.install.folder.Exists("qbdata/a copy.TR2"); });
   user.Next([&] { copy = demo.install.folder.Read("qbdata/a copy.TR1"); });
   user.Press("DeleteButton");
-  user.Answer("Delete layout",
-              "Delete the layout \"a copy\"?\n\nThe menu History can undo this.", 'Y', wxMOD_ALT);
+  user.Answer("Delete layout", "Delete the layout \"a copy\"?\n\nThe menu History can undo this.",
+              'Y', wxMOD_ALT);
   user.Await("the end", [&] { return !demo.install.folder.Exists("qbdata/a copy.TR1"); });
   Leave("ExitButton", "TeamLayouts");
   EXPECT_TRUE(StaysTheSame());
   EXPECT_EQ(copy == demo.install.folder.Read("qbdata/Gross and net.TR1"), true);
+}
+
+TEST_F(WindowToolsTest, ChecksTheDataAndOpensTheCourseOfAFinding) {
+  OpenTool(8, "&Check the data...");
+  user.Press("CheckButton");
+  AwaitRows("FindingList", 8);
+  user.Press("OpenButton");  // the finding of the active row
+  user.Await("the course", [this] { return demo.host.IsShown("CourseForm"); });
+  user.Type("CancelButton", WXK_ESCAPE);
+  user.Await("the findings", [this] { return !demo.host.IsShown("CourseForm"); });
+  Leave("ExitButton", "CheckData");
+  EXPECT_TRUE(StaysTheSame());
+}
+
+TEST_F(WindowToolsTest, ExportsTheData) {
+  const TempFolder& folder = demo.install.folder;
+  OpenTool(9, "&Export...");
+  user.When(
+      "the target", [] { return Operator::Find("TargetText") != nullptr; },
+      [&] { Load<ExportData>(demo.host).TargetText.SetText(folder.Path("made.sqlite")); });
+  user.Press("ExportButton");
+  user.Await("the database", [&] { return folder.Exists("made.sqlite"); });
+  user.Await("the tables", [] { return Operator::RowCount("TableList") > 10; });
+  Leave("ExitButton", "ExportData");
+  user.RunToExit();
+  EXPECT_TRUE(folder.Read("made.sqlite").starts_with("SQLite format 3"));
 }
 
 }  // namespace
