@@ -8,7 +8,7 @@
 namespace golf {
 namespace {
 
-// Describes an event that ends a process, and the signal number that a shell reports for it.
+// Pairs a console event that ends a process with the number of the corresponding signal.
 struct StopEvent {
   DWORD event;
   int signal;

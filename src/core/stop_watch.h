@@ -6,7 +6,7 @@
 
 namespace golf {
 
-// Returns the implementation of Platform::WatchStops for this system.
+// Creates the StopWatch of this system, which Platform::WatchStops returns.
 std::unique_ptr<StopWatch> MakeStopWatch();
 
 }  // namespace golf

@@ -13,8 +13,8 @@ struct Room {
   int share;
 };
 
-// These add a list or a text of several lines below its label, with a gap to what is above. Both
-// can become smaller on a small display.
+// These functions add a label, and a list or a multi-line text below it. A gap separates the label
+// from the control above. The list or text becomes smaller on a small display.
 void AddLabelledList(wxSizer& content, ScreenPanel& panel, Label& label, Grid& grid,
                      SelectedRows selected, const Room& room);
 void AddLabelledText(wxSizer& content, ScreenPanel& panel, Label& label, TextBox& text,

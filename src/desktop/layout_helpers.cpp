@@ -51,11 +51,10 @@ wxSize NeededSize(ScreenPanel& panel, wxSize ScreenPanel::Flexible::*size) {
   return {std::max(content.x, foot.x), content.y + foot.y};
 }
 
-// Returns the height of a text that shows this number of lines. Its borders together are no higher
-// than half a line. The long lines of a log need a scroll bar.
+// Returns the height of a text control that shows this number of lines. Adds half a line for the
+// borders and, for a log with long lines, the height of the horizontal scroll bar.
 int HeightWithFrame(const wxWindow& text, int lines) {
-  const int bar =
-      text.HasFlag(wxHSCROLL) ? wxSystemSettings::GetMetric(wxSYS_HSCROLL_Y, &text) : 0;
+  const int bar = text.HasFlag(wxHSCROLL) ? wxSystemSettings::GetMetric(wxSYS_HSCROLL_Y, &text) : 0;
   return TextHeight(text, lines) + TextHeight(text, 1) / 2 + bar;
 }
 

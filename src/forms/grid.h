@@ -66,8 +66,8 @@ class Grid : public Control {
   void LockAllColumns() {
     for (int column = 0; column <= columns_; ++column) LockColumn(column, true);
   }
-  // Makes the grid a read-only list. The headings are those of the columns from 1 on. Column 0 is
-  // hidden.
+  // Makes the grid a read-only list. Sets the headings of the columns, from column 1 on, and hides
+  // column 0.
   void MakeList(std::initializer_list<std::string> headings);
   void LockRow(int row, bool locked) { locked_rows_[row] = locked; }
 

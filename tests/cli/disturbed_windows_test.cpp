@@ -24,7 +24,8 @@ class DisturbedTest : public CommandLineTest {
         at_call);
   }
 
-  // Disturbs a run before each call, and starts the program again. Checks the end of each run.
+  // Makes one run for each call and disturbs it before that call. Calls `check` with the result of
+  // the run. Then starts the program again, and checks that the data are all old or all new.
   void DisturbEach(AtCall what, const std::function<void(const Ended&)>& check) {
     for (int disturbed = 1; disturbed < calls_; ++disturbed) {
       SCOPED_TRACE(disturbed);
@@ -58,8 +59,8 @@ TEST_F(DisturbedTest, ARunOnADriveThatGoesAwayIsRecoveredAsAWhole) {
   EXPECT_GT(done_, 2);
 }
 
-// The run ends before the process does, so there is nothing to recover. The system may end the
-// process, with the code 0 under Wine, before the program returns its own code.
+// The run ends before the process does, so there is nothing to recover. The exit code is that of
+// the program (129) or, if the system ends the process first, that of Wine (0).
 TEST_F(DisturbedTest, AClosedConsoleEndsTheRunInOrder) {
   DisturbEach(AtCall::kCloseConsole, [](const Ended& run) {
     EXPECT_TRUE(run.code == 0 || run.code == 129) << run.code << " " << run.problems;

@@ -2,7 +2,7 @@
 #include <windows.h>
 
 #include "support/files_test.h"
-#include "support/processes.h"
+#include "support/processes_windows.h"
 
 namespace golf {
 namespace {
@@ -88,9 +88,7 @@ TEST_F(PlatformWindowsTest, TheLockGoesWithTheRun) {
 // The system ends the process when the handler of the event returns, so the handler waits for the
 // run. The end of the run must not wait for the handler.
 TEST_F(PlatformWindowsTest, AClosedConsoleIsNotedAndWaitsForTheRun) {
-  // The system runs this function in a new thread for each event of the console.
-  auto* const deliver = reinterpret_cast<LPTHREAD_START_ROUTINE>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernelbase"), "CtrlRoutine")));
+  const LPTHREAD_START_ROUTINE deliver = ConsoleEventRoutine();
   ASSERT_NE(deliver, nullptr);
   auto watch = real->WatchStops();
   const HANDLE event = CreateThread(nullptr, 0, deliver,

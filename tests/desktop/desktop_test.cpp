@@ -468,7 +468,7 @@ TEST_F(DesktopTest, EscapeMeansNoAlsoIfTheDefaultIsYes) {
   EXPECT_EQ(answers, "NN");
 }
 
-// Returns the line of the open question that names the golfer. Returns "none" if no question is
+// Returns the line in the open question with the name of the golfer, or "none" if no question is
 // open.
 std::string GolferShown() {
   for (const wxWindow* window : wxTopLevelWindows) {

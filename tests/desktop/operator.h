@@ -238,7 +238,7 @@ class Operator : private wxTimer, private wxModalDialogHook, private wxEventFilt
     return list.GetItemRect(ModelOf(list).GetItem(static_cast<unsigned>(row)),
                             list.GetColumn(static_cast<unsigned>(column)));
   }
-  // Returns the main window if no other screen is before it, or else null.
+  // Returns the main window, or null if a dialog is open in front of it.
   static wxFrame* FrontFrame() {
     auto* frame = dynamic_cast<wxFrame*>(wxGetTopLevelParent(Find("ExitButton")));
     return frame == nullptr || frame->GetMenuBar() == nullptr ? nullptr : frame;

@@ -67,6 +67,11 @@ Ended EndOf(const TempFolder& folder, const PROCESS_INFORMATION& process) {
   return {static_cast<int>(code), folder.Read("out"), folder.Read("problems")};
 }
 
+LPTHREAD_START_ROUTINE ConsoleEventRoutine() {
+  return reinterpret_cast<LPTHREAD_START_ROUTINE>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernelbase"), "CtrlRoutine")));
+}
+
 Ended RunProgram(const TempFolder& folder, const std::string& program, const std::string& words,
                  const std::string& input) {
   return EndOf(folder, StartProgramIn(folder, program, words, input, 0));

@@ -13,4 +13,8 @@ PROCESS_INFORMATION StartProgramIn(const TempFolder& folder, const std::string& 
                                    const std::string& words, const std::string& input, DWORD flags);
 Ended EndOf(const TempFolder& folder, const PROCESS_INFORMATION& process);
 
+// Returns the routine that Windows runs in a new thread of a program to report a console event.
+// Returns null if the system has no such routine.
+LPTHREAD_START_ROUTINE ConsoleEventRoutine();
+
 }  // namespace golf

@@ -31,8 +31,8 @@ class Debugger {
   Debugger(const PROCESS_INFORMATION& process, const std::function<AtCall(int)>& at_call)
       : process_(process), at_call_(at_call) {}
 
-  // Handles the events of the process until it ends or is disturbed. It goes on without a debugger
-  // then, since Wine does not handle C++ exceptions properly under a debugger.
+  // Handles the events of the process until it ends or is disturbed. A disturbed process continues
+  // without a debugger, since Wine does not handle C++ exceptions properly under a debugger.
   void Run() {
     DebugSetProcessKillOnExit(FALSE);
     DEBUG_EVENT event{};
@@ -77,12 +77,9 @@ class Debugger {
     for (const char* name : kReads) Patch(name, kFailure);
   }
 
-  // The system runs this function in a new thread for each event of the console.
   void CloseConsole() {
     for (const char* name : kChanges) Patch(name, kFirst);
-    auto* const deliver = reinterpret_cast<LPTHREAD_START_ROUTINE>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernelbase"), "CtrlRoutine")));
-    CloseHandle(CreateRemoteThread(process_.hProcess, nullptr, 0, deliver,
+    CloseHandle(CreateRemoteThread(process_.hProcess, nullptr, 0, ConsoleEventRoutine(),
                                    reinterpret_cast<void*>(DWORD64{CTRL_CLOSE_EVENT}), 0, nullptr));
   }
 

@@ -17,7 +17,7 @@ enum class AtCall {
 
 // Runs a program on Windows as RunProgram does, and as its debugger. Calls `at_call` before each
 // call to the system that opens or changes a file: a write, a flush, a new name or length, or a
-// deletion. The number of the call counts from 1.
+// deletion. `call` is the number of this call, from 1.
 Ended RunStepped(const TempFolder& folder, const std::string& program, const std::string& words,
                  const std::function<AtCall(int call)>& at_call);
 

@@ -65,8 +65,8 @@ class ScreenRun : public RunHost {
               const CommitRetry& retry = nullptr);
 
  private:
-  // Returns the golfer of the current group. Returns an empty text if the question already names
-  // him. The label Working may still show the previous golfer.
+  // Returns the name of the golfer that the run works on, or an empty text if the question already
+  // names him. The label Working may still show the previous golfer.
   std::string GolferOf(std::string_view question) const;
 
   SharedState& state_;
