@@ -85,8 +85,8 @@ int main(int argc, char** argv) {
   std::ofstream source(argv[4], std::ios::binary);
   // Both compilers accept literals of this length. Clang warns that not every compiler does.
   source << "#include <string_view>\n\n#pragma GCC diagnostic ignored \"-Woverlength-strings\"\n\n"
-         << "namespace golf {\n\nextern const std::string_view "
-         << argv[3] << ";\nconst std::string_view " << argv[3] << "{\n"
+         << "namespace golf {\n\nextern const std::string_view " << argv[3]
+         << ";\nconst std::string_view " << argv[3] << "{\n"
          << Literals(text) << ",\n"
          << text.size() << "};\n\n}  // namespace golf\n";
   return source.flush() ? EXIT_SUCCESS : EXIT_FAILURE;
